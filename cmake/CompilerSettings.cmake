@@ -1,0 +1,37 @@
+# What every target is compiled with. Warnings become errors through
+# CMAKE_COMPILE_WARNING_AS_ERROR, which the development presets set.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+if(MSVC)
+  add_compile_options(/W4 /utf-8 /permissive-)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+                      -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual)
+  # Figures must not depend on the compiler's taste in contracting a * b + c.
+  add_compile_options(-ffp-contract=off)
+endif()
+
+if(FLEETWRIGHT_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# fleetwright_library(NAME SOURCES… LINKS…): one library a folder. Its headers are reached by
+# their bare names, and only by the targets that link it: an arrow that the architecture does
+# not draw does not compile.
+function(fleetwright_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${arg_LINKS})
+endfunction()
