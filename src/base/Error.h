@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace fleetwright {
+
+/// Base of every failure that this program raises itself: bad input, a file that cannot be used,
+/// a number out of range. `what()` is a text for the user, without file and line.
+class Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A result left the width of its field. Nothing was stored.
+class OverflowError : public Error {
+public:
+    OverflowError() : Error("number too large") {}
+};
+
+/// A text that should be a whole number is none.
+class NotANumberError : public Error {
+public:
+    explicit NotANumberError(const std::string& text) : Error('"' + text + "\" is no number") {}
+};
+
+/// A file could not be opened, read or written.
+class FileError : public Error {
+public:
+    FileError(std::filesystem::path file, const std::string& fault)
+        : Error(fault), m_file(std::move(file)) {}
+
+    const std::filesystem::path& file() const { return m_file; }
+
+private:
+    std::filesystem::path m_file;
+};
+
+}  // namespace fleetwright

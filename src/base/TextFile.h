@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace fleetwright {
+
+/// The native path of a path in UTF-8, which is how the program keeps paths as texts.
+std::filesystem::path nativePath(std::string_view utf8);
+
+/// The contents of a text file as UTF-8. A byte order mark is passed over, and a file that is
+/// not valid UTF-8 is taken as Windows-1252, so that old files keep their accents.
+/// Throws FileError.
+std::string readTextFile(const std::filesystem::path& file);
+
+/// Takes a text apart into its lines, which end at CR, LF or CR LF. An end of line at the very
+/// end of the text opens no further line.
+class LineReader {
+public:
+    explicit LineReader(std::string_view text) : m_text(text) {}
+
+    /// Puts the next line, without its end, into `line`; false when there is none.
+    bool next(std::string_view& line);
+
+    /// Number of the line that `next` has delivered last, from 1; 0 before the first.
+    int lineNumber() const { return m_lineNumber; }
+
+private:
+    std::string_view m_text;
+    std::size_t m_at = 0;
+    /// Place of the first LF at or behind `m_at`, or the text's size; unset while behind.
+    std::size_t m_lineFeed = 0;
+    int m_lineNumber = 0;
+};
+
+}  // namespace fleetwright

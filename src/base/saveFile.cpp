@@ -1,0 +1,150 @@
+#include "saveFile.h"
+
+#include "Error.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <random>
+#include <string>
+#include <system_error>
+
+#if __has_include(<unistd.h>)
+#include <unistd.h>
+#endif
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(const fs::path& target, const std::error_code& why) {
+    throw FileError(target, "cannot be saved: " + why.message());
+}
+
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+/// Makes sure that what was written survives a power cut, where the system can do that.
+bool flushToDisk([[maybe_unused]] std::FILE* file) {
+#if __has_include(<unistd.h>)
+    // A device or a pipe has nothing to sync and says so with EINVAL.
+    return fsync(fileno(file)) == 0 || errno == EINVAL;
+#else
+    return true;
+#endif
+}
+
+/// Writes everything and closes the file; the error, if there was one.
+std::error_code writeAndClose(std::FILE* file, std::string_view contents) {
+    std::error_code error;
+    const bool isWritten =
+        std::fwrite(contents.data(), 1, contents.size(), file) == contents.size() &&
+        std::fflush(file) == 0 && flushToDisk(file);
+    if (!isWritten) {
+        error = lastError();
+    }
+    if (std::fclose(file) != 0 && !error) {
+        error = lastError();
+    }
+    return error;
+}
+
+/// A name beside `target` that no other save uses.
+fs::path temporaryBeside(const fs::path& target) {
+    constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> pick(0, letters.size() - 1);
+    std::string name = ".fleetwright-";
+    for (int i = 0; i < 10; ++i) {
+        name += letters[pick(random)];
+    }
+    return target.parent_path() / (name + ".tmp");
+}
+
+/// Removes the temporary file unless the save has come to its end.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(fs::path path) : m_path(std::move(path)) {}
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        std::error_code ignored;
+        if (!m_path.empty()) {
+            fs::remove(m_path, ignored);
+        }
+    }
+
+    const fs::path& path() const { return m_path; }
+    void keep() { m_path.clear(); }
+
+private:
+    fs::path m_path;
+};
+
+/// The file that a chain of links ends at, also where that file does not exist yet.
+fs::path linkTarget(fs::path path) {
+    constexpr int mostLinks = 40;
+    std::error_code error;
+    for (int i = 0; i < mostLinks && fs::is_symlink(path, error); ++i) {
+        const fs::path next = fs::read_symlink(path, error);
+        if (error) {
+            break;
+        }
+        path = next.is_absolute() ? next : path.parent_path() / next;
+    }
+    return path;
+}
+
+}  // namespace
+
+void saveFile(const fs::path& target, std::string_view contents) {
+    const fs::path file = linkTarget(target);
+    std::error_code ignored;
+    const fs::file_status status = fs::status(file, ignored);
+    if (fs::is_directory(status)) {
+        fail(target, std::make_error_code(std::errc::is_a_directory));
+    }
+
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        std::FILE* device = std::fopen(file.string().c_str(), "wb");
+        if (device == nullptr) {
+            fail(target, lastError());
+        }
+        if (const std::error_code error = writeAndClose(device, contents)) {
+            fail(target, error);
+        }
+        return;
+    }
+
+    // The rename would replace a write-protected file without a question.
+    constexpr fs::perms anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if (fs::exists(status) && (status.permissions() & anyWrite) == fs::perms::none) {
+        fail(target, std::make_error_code(std::errc::permission_denied));
+    }
+
+    const fs::path beside = temporaryBeside(file);
+    std::FILE* stream = std::fopen(beside.string().c_str(), "wbx");
+    if (stream == nullptr) {
+        fail(target, lastError());
+    }
+    TemporaryFile temporary(beside);
+    if (const std::error_code error = writeAndClose(stream, contents)) {
+        fail(target, error);
+    }
+    std::error_code error;
+    if (fs::exists(status)) {
+        fs::permissions(temporary.path(), status.permissions(), error);
+    }
+    if (!error) {
+        fs::rename(temporary.path(), file, error);
+    }
+    if (error) {
+        fail(target, error);
+    }
+    temporary.keep();
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,131 @@
+#include "utf8.h"
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+namespace fleetwright {
+
+namespace {
+
+bool isContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// Length of the well-formed character at the start of `text`, 0 if there is none.
+std::size_t wellFormedLength(std::string_view text) {
+    const auto lead = static_cast<unsigned char>(text.front());
+    if (lead < 0x80) {
+        return 1;
+    }
+    std::size_t length = 0;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        length = 2;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        length = 3;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+    }
+    if (length == 0 || text.size() < length) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if (!isContinuation(text[i])) {
+            return 0;
+        }
+    }
+    // The second byte rules out overlong forms, surrogates and what lies above U+10FFFF.
+    const auto second = static_cast<unsigned char>(text[1]);
+    const bool outside = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
+                         (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
+    return outside ? 0 : length;
+}
+
+void appendCharacter(std::string& text, std::uint32_t character) {
+    if (character < 0x80) {
+        text += static_cast<char>(character);
+    } else if (character < 0x800) {
+        text += static_cast<char>(0xC0U | (character >> 6U));
+        text += static_cast<char>(0x80U | (character & 0x3FU));
+    } else {
+        text += static_cast<char>(0xE0U | (character >> 12U));
+        text += static_cast<char>(0x80U | ((character >> 6U) & 0x3FU));
+        text += static_cast<char>(0x80U | (character & 0x3FU));
+    }
+}
+
+/// The characters of the bytes 0x80 to 0x9F; all other bytes are their own code points.
+constexpr std::array<std::uint16_t, 32> windows1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+}  // namespace
+
+std::size_t characterLength(std::string_view text) {
+    const std::size_t length = wellFormedLength(text);
+    return length == 0 ? 1 : length;
+}
+
+bool isUtf8(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    while (!text.empty()) {
+        // Plain ASCII, the usual case, goes eight bytes at a time.
+        std::uint64_t word = 0;
+        while (text.size() >= sizeof word) {
+            std::memcpy(&word, text.data(), sizeof word);
+            if ((word & highBits) != 0) {
+                break;
+            }
+            text.remove_prefix(sizeof word);
+        }
+        if (text.empty()) {
+            break;
+        }
+        const std::size_t length = wellFormedLength(text);
+        if (length == 0) {
+            return false;
+        }
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+std::size_t characterCount(std::string_view text) {
+    std::size_t count = 0;
+    while (!text.empty()) {
+        text.remove_prefix(characterLength(text));
+        ++count;
+    }
+    return count;
+}
+
+std::string_view lastCharacter(std::string_view text) {
+    for (std::size_t length = 4; length > 1; --length) {
+        if (text.size() >= length &&
+            wellFormedLength(text.substr(text.size() - length)) == length) {
+            return text.substr(text.size() - length);
+        }
+    }
+    return text.empty() ? text : text.substr(text.size() - 1);
+}
+
+std::string_view withoutLastCharacters(std::string_view text, std::size_t count) {
+    for (; count > 0 && !text.empty(); --count) {
+        text.remove_suffix(lastCharacter(text).size());
+    }
+    return text;
+}
+
+std::string windows1252ToUtf8(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 8);
+    for (const char byte : bytes) {
+        const auto code = static_cast<unsigned char>(byte);
+        const bool isTabled = code >= 0x80 && code <= 0x9F;
+        appendCharacter(text, isTabled ? windows1252[code - 0x80U] : code);
+    }
+    return text;
+}
+
+}  // namespace fleetwright
