@@ -1,0 +1,164 @@
+#include "CatalogueCheck.h"
+
+#include "Catalogue.h"
+#include "TextFile.h"
+#include "capitals.h"
+#include "formulaFault.h"
+#include "wholeNumber.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+namespace fleetwright {
+
+namespace {
+
+std::string quote(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+/// Goes through a catalogue from top to bottom, as the readers do, and keeps what it has seen.
+class CatalogueChecker {
+public:
+    std::vector<Fault> check(std::string_view text);
+
+private:
+    /// A key of the tree: whose it is, and whether anything stands under it.
+    struct Node {
+        int line = 0;  // 0 for what the program itself brings along
+        bool isCategory = false;
+        bool hasChild = false;
+    };
+
+    void checkRecord(std::string_view line);
+    void checkName(std::string_view name);
+    void checkFormula(std::string_view which, std::string_view formula);
+    void checkArcs(std::string_view arcs);
+    void addNode(const std::string& key, const std::string& parent, bool isCategory);
+    void checkWhole();
+    void complain(std::string text) { m_faults.push_back({m_line, std::move(text)}); }
+
+    std::map<std::string, Node, std::less<>> m_nodes;
+    std::vector<Fault> m_faults;
+    int m_line = 0;
+};
+
+std::vector<Fault> CatalogueChecker::check(std::string_view text) {
+    for (const std::string_view root : catalogueRoots) {
+        m_nodes[std::string(root)] = {.isCategory = true};
+    }
+    // Not in the tree, but among its pictures, which have the same keys.
+    m_nodes["BLANK"] = {.hasChild = true};
+
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        m_line = lines.lineNumber();
+        if (!isCatalogueComment(line)) {
+            checkRecord(line);
+        }
+    }
+    checkWhole();
+    return std::move(m_faults);
+}
+
+void CatalogueChecker::checkRecord(std::string_view line) {
+    constexpr auto neededFields = 7;
+    const auto fields = std::count(line.begin(), line.end(), ',') + 1;
+    if (fields < neededFields) {
+        complain("too few fields: " + std::to_string(fields) + " of seven");
+        return;
+    }
+    const CatalogueLine record = cutCatalogueLine(line);
+    const std::string categoryKey = toCapitals(record.categoryKey);
+    if (record.isCategory()) {
+        addNode(categoryKey, toCapitals(record.parentKey), true);
+    } else {
+        checkName(record.name);
+        checkFormula("mass", record.massform);
+        checkFormula("cost", record.costform);
+        checkArcs(record.arclist);
+        addNode(std::string(record.name), categoryKey, false);
+    }
+    if (record.icon.empty()) {
+        complain("no picture");
+    }
+}
+
+void CatalogueChecker::checkName(std::string_view name) {
+    if (name.find(':') != std::string_view::npos) {
+        complain("name " + quote(name) + " holds a colon, at which ship files are cut");
+    }
+    if (trimmed(name) != name) {
+        complain("name " + quote(name) + " has blanks at its ends, which ship files lose");
+    }
+}
+
+void CatalogueChecker::checkFormula(std::string_view which, std::string_view formula) {
+    if (const auto fault = formulaFault(formula)) {
+        complain(std::string(which) + " formula, column " + std::to_string(fault->column) + ": " +
+                 fault->text);
+    }
+}
+
+void CatalogueChecker::checkArcs(std::string_view arcs) {
+    constexpr std::string_view letters = "FPSBA";
+    if (arcs.empty()) {
+        complain("no arc letters");
+    } else if (!arcs.starts_with('6') && !arcs.starts_with('O')) {
+        const std::size_t other = arcs.find_first_not_of(letters);
+        if (other != std::string_view::npos) {
+            complain("unknown arc letter " + quote(arcs.substr(other, 1)));
+        }
+    }
+}
+
+void CatalogueChecker::addNode(const std::string& key, const std::string& parent, bool isCategory) {
+    const std::string what = isCategory ? "category" : "system";
+    const auto above = m_nodes.find(parent);
+    if (above == m_nodes.end() || !above->second.isCategory) {
+        complain("unknown parent " + quote(parent) + ": no root word, and no category above");
+    } else {
+        above->second.hasChild = true;
+    }
+    if (key.empty()) {
+        complain(what + " without a " + (isCategory ? "key" : "name"));
+        return;
+    }
+    const auto [node, isNew] = m_nodes.try_emplace(key, Node{m_line, isCategory, !isCategory});
+    if (isNew) {
+        return;
+    }
+    if (node->second.line == 0) {
+        complain(what + " " + quote(key) + " has the name of a root word or of BLANK");
+    } else {
+        complain("double key " + quote(key) + ": also in line " +
+                 std::to_string(node->second.line));
+    }
+}
+
+void CatalogueChecker::checkWhole() {
+    for (const auto& [key, node] : m_nodes) {
+        if (!node.hasChild) {
+            m_faults.push_back({node.line, "nothing stands under " + quote(key)});
+        }
+    }
+    std::stable_sort(m_faults.begin(), m_faults.end(), [](const Fault& a, const Fault& b) {
+        return a.line != 0 && (b.line == 0 || a.line < b.line);
+    });
+    // The rules and the sheets know these two by their names.
+    for (const std::string_view name : {Catalogue::cloakName, Catalogue::partyName}) {
+        if (!m_nodes.contains(name)) {
+            m_faults.push_back({0, "no system " + quote(name)});
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<Fault> checkCatalogue(std::string_view text) {
+    return CatalogueChecker().check(text);
+}
+
+}  // namespace fleetwright

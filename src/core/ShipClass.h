@@ -1,0 +1,186 @@
+#pragma once
+
+// One ship design, with its own copy of the catalogue. Every change of a design goes through
+// this object, which works the ship's figures out anew and raises events; it shows nothing.
+//
+// An operation whose figures leave the width of a field throws OverflowError, and the ship is as
+// it was before. One thread at a time may use a ship; several ships may be used in parallel.
+
+#include "Catalogue.h"
+#include "Fault.h"
+#include "HullRules.h"
+#include "Signal.h"
+#include "formula_calculate.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fleetwright {
+
+class ReportPrinter;
+
+/// A line of a ship file whose system the ship did not take.
+struct RefusedLine {
+    std::string text;  ///< the line as it stands in the file
+    Fault fault;
+};
+
+/// What a ship needs of the world around it.
+struct ShipServices {
+    /// The catalogue file `weaps.dat`.
+    std::filesystem::path catalogueFile;
+    /// Evaluates mass and cost formulas.
+    FormulaFunction formula = nullptr;
+    /// Lets pending events of the user interface run; AutoMass calls it. May be empty.
+    std::function<void()> eventLoopTurn;
+};
+
+class ShipClass {
+public:
+    /// A new design: a warship of mass 2 with a normal drive and thrust 2, without systems.
+    /// Reads the catalogue; throws FileError when that fails.
+    explicit ShipClass(ShipServices services);
+    ShipClass(const ShipClass&) = delete;
+    ShipClass& operator=(const ShipClass&) = delete;
+    ~ShipClass() = default;
+
+    // Writing one of these does nothing else: no recalculation, no event.
+    std::string g_sShipName = "Generic";
+    std::string g_sDesignerName = "Nils's Iron Vector Creator";
+    bool g_bAutoMass = false;        ///< recalculations fit the hull mass to the systems
+    std::int32_t g_iDCP = 0;         ///< damage control parties
+    std::int32_t g_iFCS = 0;         ///< fire control systems
+    std::int32_t g_iDamRows = 0;     ///< damage rows
+    std::int32_t g_iDP = 0;          ///< damage points
+    std::int32_t g_lCost = 0;        ///< cost of the whole ship
+    std::int32_t g_iMassLeft = 0;    ///< mass left for systems; negative when overloaded
+    bool g_bSaved = true;            ///< nothing has changed since the last save or load
+    std::string g_sSaveName;         ///< path of the ship file; empty without one
+    std::string g_sTrimmedFileName;  ///< name of the ship file, without folder and extension
+    std::int32_t g_lWeapCount = 0;   ///< number of catalogue records
+
+    Signal<> Recalculated;      ///< the figures are new
+    Signal<> Recalculating;     ///< the figures are about to be worked out
+    Signal<> WeaponNotFound;    ///< a name is in no catalogue record
+    Signal<> CloakAndMerchant;  ///< the cloak rule has refused a system
+    Signal<> ShipSaved;
+    Signal<> ShipLoaded;
+    Signal<> AutoMassUnsettled;  ///< AutoMass found no fitting mass; the ship has its old one
+
+    // The design. Each write recalculates.
+    std::int32_t mass() const { return m_hull.mass; }
+    void mass(std::int32_t i_iArg);        ///< at least 2
+    std::int32_t Armor() const;            ///< level 0 to 2
+    void Armor(std::int32_t i_iArg);       ///< another level than 0 to 2 leaves it
+    std::int16_t Streamline() const;       ///< level 0 to 2
+    void Streamline(std::int16_t i_iArg);  ///< another level than 0 to 2 leaves it
+    std::int32_t Hull() const { return m_hull.hullType; }
+    void Hull(std::int32_t i_htArg);  ///< a HullType; unchecked
+    std::int32_t FTL() const { return m_hull.ftl; }
+    void FTL(std::int32_t i_ftArg);  ///< a FtlDrive; unchecked
+    /// Throws OverflowError if a ship file has brought a thrust that 16 bits do not hold.
+    std::int16_t THRUST() const;
+    void THRUST(std::int16_t i_iArg);  ///< held to 0 to 8
+
+    /// The value of a formula for one piece on this ship.
+    std::int32_t weapCalc(std::string& in_arg);
+    /// Recalculates.
+    void weapChange() { recalcShip(); }
+
+    // Systems. A name stands for the first record that has it, exactly.
+
+    /// Adds so many pieces, or takes them away if negative, and recalculates. False, and no
+    /// change, if the cloak rule refuses it or the name is in no record.
+    bool addWeap(std::string_view name, std::int32_t amount);
+    /// Delivers the record at `ndx`, which must be inside the catalogue, and steps to the next;
+    /// true if there is a next one.
+    bool listWeap(std::int32_t& ndx, WeapRec& record) const;
+    /// Index of the record, or -1.
+    std::int32_t weapNameToIndex(std::string_view in_sName) const;
+    /// Cost of so many pieces on this ship as it is; 0 for an unknown name.
+    std::int32_t previewWeapCost(std::string_view in_sWeapName, std::int32_t amount);
+    /// Mass of so many pieces on this ship as it is; 0 for an unknown name.
+    std::int32_t previewWeapMass(std::string_view in_sWeapName, std::int32_t amount);
+
+    // Names by mass.
+    std::string_view Class() const;
+    std::string_view relSize() const;
+
+    // The ship file. Both return false on a failure, and `fileFault` then says why.
+
+    /// Saves the design; the name gets the extension ".shp" if it lacks it.
+    bool saveShip(std::string& in_sFileName);
+    /// Loads a design into this ship, which should be new. After a failure the ship holds what
+    /// was read before the fault.
+    bool loadShip(const std::string& in_sFileName);
+    const std::optional<Fault>& fileFault() const { return m_fileFault; }
+    /// The lines that the last load has passed over: unknown systems, and those that the cloak
+    /// rule refuses.
+    const std::vector<RefusedLine>& refusedLines() const { return m_refusedLines; }
+
+    // The report, and texts for the ship's sheet.
+    void PrintShip(ReportPrinter& printer) const;
+    std::string StreamString() const;  ///< the streamlining line and a CR, or nothing
+    std::string ArmorString() const;   ///< the armor line and a CR, or nothing
+    /// Whether a system gets a place on an arc of the sheet.
+    bool PaintableWeap(std::string_view in_sWeapName) const;
+    /// The system's arc letters; nothing for an unknown name.
+    std::string_view GimmeWeapArc(std::string_view in_sWeapName) const;
+
+    /// The hull as it is designed, and what the last recalculation has made of it.
+    const HullDesign& hullDesign() const { return m_hull; }
+    const HullFigures& hullFigures() const { return m_hullFigures; }
+
+private:
+    /// What a pass works out, before any of it is shown.
+    struct Figures {
+        HullFigures hull;
+        std::int32_t cost = 0;
+        std::int32_t massLeft = 0;
+    };
+    class Rollback;
+    class Pass;
+
+    void recalcShip();
+    Figures workOutFigures(const HullDesign& hull);
+    void show(const Figures& figures);
+    void fitMass();
+    void nestedPass();
+    void restoreMass(std::int32_t mass);
+    std::int32_t evaluate(std::string_view& text, const HullDesign& hull, std::int32_t hullCost,
+                          std::int32_t amount);
+    std::int32_t preview(std::string_view name, std::int32_t amount,
+                         std::string_view WeapRec::*formula);
+    bool cloakRuleRefuses(std::string_view name) const;
+
+    void writeShipFile(const std::string& fileName) const;
+    void readShipFile(const std::string& fileName, int& lineNumber);
+    void readShipLine(std::string& line, int lineNumber);
+    void takeFileName(const std::string& fileName);
+
+    void printBanner(ReportPrinter& printer) const;
+    void printShipInfo(ReportPrinter& printer) const;
+    void printSystems(ReportPrinter& printer) const;
+
+    /// How far AutoMass has come in the recalculation that runs, nested passes included.
+    enum class AutoMassRun { Working, GivenUp, Restoring };
+
+    ShipServices m_services;
+    Catalogue m_catalogue;
+    HullDesign m_hull;
+    HullFigures m_hullFigures;
+    std::optional<Fault> m_fileFault;
+    std::vector<RefusedLine> m_refusedLines;
+    std::string m_formulaBuffer;
+
+    AutoMassRun m_autoMassRun = AutoMassRun::Working;
+    int m_passDepth = 0;
+    int m_passCount = 0;
+};
+
+}  // namespace fleetwright

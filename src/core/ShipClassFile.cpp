@@ -1,0 +1,165 @@
+#include "ShipClass.h"
+
+#include "Error.h"
+#include "ShipFileFaults.h"
+#include "ShipFileLine.h"
+#include "TextFile.h"
+#include "designWords.h"
+#include "saveFile.h"
+#include "strfcns.h"
+#include "utf8.h"
+#include "wholeNumber.h"
+
+#include <algorithm>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::string_view extension = ".shp";
+
+/// A hull as the window will bring it in order: no mass below the smallest, no moving base.
+HullDesign asShown(HullDesign hull) {
+    hull.mass = std::max(hull.mass, smallestMass);
+    if (isBase(hull.hullType)) {
+        hull.ftl = NoDrive;
+        hull.thrust = 0;
+        hull.streamline = 0.0;
+    }
+    return hull;
+}
+
+void appendLine(std::string& text, std::string_view line) {
+    if (!line.empty()) {
+        text += line;
+        text += "\r\n";
+    }
+}
+
+}  // namespace
+
+bool ShipClass::saveShip(std::string& in_sFileName) {
+    if (!in_sFileName.ends_with(extension)) {
+        in_sFileName += extension;
+    }
+    m_fileFault.reset();
+    try {
+        writeShipFile(in_sFileName);
+        takeFileName(in_sFileName);
+    } catch (const Error& error) {
+        m_fileFault = Fault{0, error.what()};
+        return false;
+    }
+    g_bSaved = true;
+    ShipSaved.raise();
+    return true;
+}
+
+bool ShipClass::loadShip(const std::string& in_sFileName) {
+    m_fileFault.reset();
+    m_refusedLines.clear();
+    int lineNumber = 0;
+    try {
+        g_bAutoMass = false;
+        readShipFile(in_sFileName, lineNumber);
+        lineNumber = 0;
+        takeFileName(in_sFileName);
+        // Without systems nothing has been recalculated yet. A ship whose figures will not fit
+        // their fields is refused here, and not when it is first shown.
+        workOutFigures(asShown(m_hull));
+        ShipLoaded.raise();
+    } catch (const Error& error) {
+        m_fileFault = Fault{lineNumber, error.what()};
+        return false;
+    }
+    g_bSaved = true;
+    return true;
+}
+
+void ShipClass::writeShipFile(const std::string& fileName) const {
+    std::string text;
+    appendLine(text, "Ship Name: " + g_sShipName);
+    appendLine(text, "Designer Name: " + g_sDesignerName);
+    appendLine(text, "Mass: " + std::to_string(m_hull.mass));
+    appendLine(text, "Thrust: " + std::to_string(m_hull.thrust));
+    appendLine(text, hullLine(m_hull.hullType));
+    appendLine(text, streamlineLine(Streamline()));
+    appendLine(text, armorLine(Armor()));
+    appendLine(text, ftlLine(m_hull.ftl));
+    for (const WeapRec& record : m_catalogue.records()) {
+        if (record.amount > 0) {
+            appendLine(text, "System: " + std::string(record.name) + ", " +
+                                 std::to_string(record.amount));
+        }
+    }
+    saveFile(nativePath(fileName), text);
+}
+
+void ShipClass::readShipFile(const std::string& fileName, int& lineNumber) {
+    const std::string text = readTextFile(nativePath(fileName));
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        lineNumber = lines.lineNumber();
+        std::string cuttable(line);
+        readShipLine(cuttable, lineNumber);
+    }
+}
+
+void ShipClass::readShipLine(std::string& line, int lineNumber) {
+    const ShipFileLine cut = cutShipFileLine(line);
+    switch (cut.key) {
+    case ShipKey::ShipName:
+        g_sShipName = cut.value;
+        break;
+    case ShipKey::DesignerName:
+        g_sDesignerName = cut.value;
+        break;
+    case ShipKey::Mass:
+        m_hull.mass = wholeNumber(cut.value);
+        break;
+    case ShipKey::Thrust:
+        m_hull.thrust = wholeNumber(cut.value);
+        break;
+    case ShipKey::Type:
+        m_hull.hullType = hullTypeOf(cut.value).value_or(m_hull.hullType);
+        break;
+    case ShipKey::Streamlining:
+        if (const auto level = streamlineOf(cut.value)) {
+            m_hull.streamline = *factorOf(*level);
+        }
+        break;
+    case ShipKey::Armor:
+        if (const std::int32_t level = wholeNumber(cut.value); level == 1 || level == 2) {
+            m_hull.armor = *factorOf(level);
+        }
+        break;
+    case ShipKey::Ftl:
+        m_hull.ftl = ftlOf(cut.value).value_or(m_hull.ftl);
+        break;
+    case ShipKey::System: {
+        const std::int32_t amount = wholeNumber(cut.amount);
+        if (!addWeap(cut.value, amount)) {
+            const bool isUnknown = weapNameToIndex(cut.value) == -1;
+            const std::string fault = isUnknown ? unknownSystem(cut.value) : std::string(cloakRule);
+            m_refusedLines.push_back({.text = line, .fault = {lineNumber, fault}});
+        }
+        break;
+    }
+    case ShipKey::Unknown:
+        break;
+    }
+}
+
+void ShipClass::takeFileName(const std::string& fileName) {
+    constexpr char separator = static_cast<char>(std::filesystem::path::preferred_separator);
+    std::string reversed = strReverse(fileName);
+    const std::string name = strReverse(strTok(reversed, std::string("\\") + separator, true));
+    if (characterCount(name) < extension.size()) {
+        throw Error("file name is too short");
+    }
+    g_sSaveName = fileName;
+    g_sTrimmedFileName = withoutLastCharacters(name, extension.size());
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,222 @@
+#include "ShipFileCheck.h"
+
+#include "Error.h"
+#include "ShipClass.h"
+#include "ShipFileFaults.h"
+#include "ShipFileLine.h"
+#include "TextFile.h"
+#include "designWords.h"
+#include "wholeNumber.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+std::string quote(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+class ShipFileChecker {
+public:
+    explicit ShipFileChecker(const ShipClass& ship) : m_ship(ship) {}
+
+    std::vector<Fault> check(std::string_view text);
+
+private:
+    void checkLine(std::string_view line);
+    void checkValue(const ShipFileLine& line);
+    void checkMass(const ShipFileLine& line);
+    void checkThrust(const ShipFileLine& line);
+    void checkArmor(const ShipFileLine& line);
+    void checkSystem(const ShipFileLine& line);
+    void noteMovement(ShipKey key, bool isMoving);
+    void checkHull();
+    void checkCloak();
+    void checkShip();
+    std::optional<std::int32_t> number(std::string_view text);
+    void complain(std::string text) { complainAt(m_line, std::move(text)); }
+    void complainAt(int line, std::string text) { m_faults.push_back({line, std::move(text)}); }
+
+    const ShipClass& m_ship;
+    std::vector<Fault> m_faults;
+    std::map<ShipKey, int> m_linesByKey;  // the last line of each key
+    std::set<ShipKey> m_movingKeys;       // those whose value no base can have
+    std::int32_t m_hullType = Warship;
+    int m_cloakLine = 0;
+    bool m_hasOtherSystems = false;
+    int m_line = 0;
+};
+
+std::vector<Fault> ShipFileChecker::check(std::string_view text) {
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        m_line = lines.lineNumber();
+        if (!line.empty()) {
+            checkLine(line);
+        }
+    }
+    checkHull();
+    checkCloak();
+    std::stable_sort(m_faults.begin(), m_faults.end(),
+                     [](const Fault& a, const Fault& b) { return a.line < b.line; });
+    checkShip();
+    return std::move(m_faults);
+}
+
+void ShipFileChecker::checkLine(std::string_view text) {
+    std::string cuttable(text);
+    const ShipFileLine line = cutShipFileLine(cuttable);
+    if (line.key == ShipKey::Unknown) {
+        complain("nobody reads the key " + quote(line.keyText));
+        return;
+    }
+    if (line.key != ShipKey::System) {
+        const auto [earlier, isFirst] = m_linesByKey.try_emplace(line.key, m_line);
+        if (!isFirst) {
+            complain("a second line " + quote(line.keyText) + ": also line " +
+                     std::to_string(earlier->second));
+            earlier->second = m_line;
+        }
+    }
+    if (line.key != ShipKey::Armor && std::count(text.begin(), text.end(), ':') > 1) {
+        complain("what stands behind the second colon is lost");
+    }
+    checkValue(line);
+}
+
+void ShipFileChecker::checkValue(const ShipFileLine& line) {
+    switch (line.key) {
+    case ShipKey::Mass:
+        return checkMass(line);
+    case ShipKey::Thrust:
+        return checkThrust(line);
+    case ShipKey::Armor:
+        return checkArmor(line);
+    case ShipKey::System:
+        return checkSystem(line);
+    case ShipKey::Type:
+        if (const auto hullType = hullTypeOf(line.value)) {
+            m_hullType = *hullType;
+        } else {
+            complain("unknown hull type " + quote(line.value));
+        }
+        return;
+    case ShipKey::Streamlining:
+        if (!streamlineOf(line.value)) {
+            complain("unknown streamlining " + quote(line.value));
+        }
+        return noteMovement(line.key, streamlineOf(line.value).has_value());
+    case ShipKey::Ftl:
+        if (!ftlOf(line.value)) {
+            complain("unknown FTL drive " + quote(line.value));
+        }
+        return noteMovement(line.key, ftlOf(line.value).value_or(NoDrive) != NoDrive);
+    default:
+        return;
+    }
+}
+
+void ShipFileChecker::checkMass(const ShipFileLine& line) {
+    if (const auto mass = number(line.value); mass && *mass < smallestMass) {
+        complain("mass " + std::to_string(*mass) + " is below the smallest, " +
+                 std::to_string(smallestMass));
+    }
+}
+
+void ShipFileChecker::checkThrust(const ShipFileLine& line) {
+    const auto thrust = number(line.value);
+    if (thrust && (*thrust < 0 || *thrust > mostThrust)) {
+        complain("thrust " + std::to_string(*thrust) + " is outside 0 to " +
+                 std::to_string(mostThrust));
+    }
+    noteMovement(line.key, thrust.value_or(0) != 0);
+}
+
+void ShipFileChecker::checkArmor(const ShipFileLine& line) {
+    if (const auto level = number(line.value); level && *level != 1 && *level != 2) {
+        complain("unknown armor level " + quote(line.value));
+    }
+}
+
+void ShipFileChecker::noteMovement(ShipKey key, bool isMoving) {
+    if (isMoving) {
+        m_movingKeys.insert(key);
+    } else {
+        m_movingKeys.erase(key);
+    }
+}
+
+void ShipFileChecker::checkSystem(const ShipFileLine& line) {
+    if (m_ship.weapNameToIndex(line.value) == -1 || line.value == "CATEGORY") {
+        complain(unknownSystem(line.value));
+    }
+    const auto amount = number(line.amount);
+    if (!amount) {
+        return;
+    }
+    if (*amount < 1) {
+        complain("amount " + std::to_string(*amount) + " is below 1");
+    } else if (line.value == Catalogue::cloakName) {
+        m_cloakLine = m_line;
+    } else {
+        m_hasOtherSystems = true;
+    }
+}
+
+std::optional<std::int32_t> ShipFileChecker::number(std::string_view text) {
+    try {
+        return wholeNumber(text);
+    } catch (const Error& error) {
+        complain(error.what());
+        return std::nullopt;
+    }
+}
+
+/// A base neither moves nor is streamlined, so the program takes all that away from it.
+void ShipFileChecker::checkHull() {
+    if (!isBase(m_hullType)) {
+        return;
+    }
+    const auto complainAbout = [this](ShipKey key, std::string text) {
+        if (m_movingKeys.contains(key)) {
+            complainAt(m_linesByKey[key], std::move(text));
+        }
+    };
+    complainAbout(ShipKey::Thrust, "a base has no thrust");
+    complainAbout(ShipKey::Streamlining, "a base has no streamlining");
+    complainAbout(ShipKey::Ftl, "a base has no FTL drive");
+}
+
+void ShipFileChecker::checkCloak() {
+    if (isMerchantType(m_hullType) && m_cloakLine != 0 && m_hasOtherSystems) {
+        complainAt(m_cloakLine, std::string(cloakRule));
+    }
+}
+
+void ShipFileChecker::checkShip() {
+    if (const auto& fault = m_ship.fileFault()) {
+        const auto isKnown = [&](const Fault& known) { return known.line == fault->line; };
+        if (std::none_of(m_faults.begin(), m_faults.end(), isKnown)) {
+            m_faults.push_back(*fault);
+        }
+    } else if (m_ship.g_iMassLeft < 0) {
+        complainAt(0, "overloaded: the systems are " + std::to_string(-m_ship.g_iMassLeft) +
+                          " mass units too heavy for the hull");
+    }
+}
+
+}  // namespace
+
+std::vector<Fault> checkShipFile(std::string_view text, const ShipClass& ship) {
+    return ShipFileChecker(ship).check(text);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,63 @@
+#include "ShipFileLine.h"
+
+#include "strfcns.h"
+#include "utf8.h"
+#include "wholeNumber.h"
+
+#include <array>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+ShipKey shipKeyOf(std::string_view text) {
+    static constexpr std::array<std::pair<std::string_view, ShipKey>, 9> keys = {{
+        {"Ship Name", ShipKey::ShipName},
+        {"Designer Name", ShipKey::DesignerName},
+        {"Mass", ShipKey::Mass},
+        {"Thrust", ShipKey::Thrust},
+        {"Type", ShipKey::Type},
+        {"Streamlining", ShipKey::Streamlining},
+        {"Armor", ShipKey::Armor},
+        {"FTL", ShipKey::Ftl},
+        {"System", ShipKey::System},
+    }};
+    for (const auto& [word, key] : keys) {
+        if (word == text) {
+            return key;
+        }
+    }
+    return ShipKey::Unknown;
+}
+
+std::string nextPiece(std::string_view delims) {
+    std::string goOn;
+    return std::string(trimmed(strTok(goOn, delims, true)));
+}
+
+}  // namespace
+
+ShipFileLine cutShipFileLine(std::string& line) {
+    ShipFileLine cut;
+    cut.keyText = strTok(line, ":", true);
+    cut.key = shipKeyOf(cut.keyText);
+    switch (cut.key) {
+    case ShipKey::Unknown:
+        break;
+    case ShipKey::Armor:
+        cut.value = lastCharacter(line);
+        break;
+    case ShipKey::System: {
+        std::string value = nextPiece(":");
+        cut.value = trimmed(strTok(value, ",", true));
+        cut.amount = nextPiece(",");
+        break;
+    }
+    default:
+        cut.value = nextPiece(":");
+    }
+    return cut;
+}
+
+}  // namespace fleetwright

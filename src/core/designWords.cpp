@@ -1,0 +1,94 @@
+#include "designWords.h"
+
+#include "HullRules.h"
+#include "capitals.h"
+
+#include <array>
+
+namespace fleetwright {
+
+namespace {
+
+struct CodeWord {
+    std::int32_t code;
+    std::string_view word;
+};
+
+constexpr std::array<CodeWord, 6> hullWords = {{{Warship, "Warship"},
+                                                {Merchant, "Merchant"},
+                                                {QShip, "Q-Ship"},
+                                                {Starbase, "Starbase"},
+                                                {SpaceStation, "Space Station"},
+                                                {QSpaceStation, "Q-Space Station"}}};
+constexpr std::array<CodeWord, 2> streamlineWords = {{{1, "Partial"}, {2, "Full"}}};
+constexpr std::array<CodeWord, 2> armorWords = {{{1, "Level 1"}, {2, "Level 2"}}};
+constexpr std::array<CodeWord, 3> ftlWords = {
+    {{NoDrive, "None"}, {NormalDrive, "Normal"}, {TugDrive, "Tug"}}};
+
+template <std::size_t Size>
+std::string lineOf(std::string_view key, const std::array<CodeWord, Size>& words,
+                   std::int32_t code) {
+    for (const CodeWord& entry : words) {
+        if (entry.code == code) {
+            return std::string(key) + ": " + std::string(entry.word);
+        }
+    }
+    return {};
+}
+
+template <std::size_t Size, typename Equal>
+std::optional<std::int32_t> codeOf(const std::array<CodeWord, Size>& words, Equal equal) {
+    for (const CodeWord& entry : words) {
+        if (equal(entry.word)) {
+            return entry.code;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::string hullLine(std::int32_t hullType) {
+    return lineOf("Type", hullWords, hullType);
+}
+
+std::string streamlineLine(std::int32_t level) {
+    return lineOf("Streamlining", streamlineWords, level);
+}
+
+std::string armorLine(std::int32_t level) {
+    return lineOf("Armor", armorWords, level);
+}
+
+std::string ftlLine(std::int32_t ftl) {
+    return lineOf("FTL", ftlWords, ftl);
+}
+
+std::optional<std::int32_t> hullTypeOf(std::string_view word) {
+    const std::string capitals = toCapitals(word);
+    return codeOf(hullWords, [&](std::string_view known) { return toCapitals(known) == capitals; });
+}
+
+std::optional<std::int32_t> ftlOf(std::string_view word) {
+    return codeOf(ftlWords, [&](std::string_view known) { return known == word; });
+}
+
+std::optional<std::int32_t> streamlineOf(std::string_view word) {
+    return codeOf(streamlineWords, [&](std::string_view known) { return known == word; });
+}
+
+std::optional<double> factorOf(std::int32_t level) {
+    if (level < 0 || level > 2) {
+        return std::nullopt;
+    }
+    return level * 0.5;
+}
+
+std::int32_t levelOf(double factor) {
+    if (factor == 0.5) {
+        return 1;
+    }
+    return factor == 1.0 ? 2 : 0;
+}
+
+}  // namespace fleetwright

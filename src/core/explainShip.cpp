@@ -1,0 +1,65 @@
+#include "explainShip.h"
+
+#include "ShipClass.h"
+#include "designWords.h"
+
+namespace fleetwright {
+
+namespace {
+
+/// The word behind "Key: " in a line of designWords.
+std::string wordOf(const std::string& line) {
+    const std::size_t colon = line.find(": ");
+    return colon == std::string::npos ? line : line.substr(colon + 2);
+}
+
+std::string describeHull(const ShipClass& ship) {
+    std::string text =
+        wordOf(hullLine(ship.Hull())) + " hull of mass " + std::to_string(ship.mass());
+    if (ship.Armor() != 0) {
+        text += ", armor level " + std::to_string(ship.Armor());
+    }
+    if (ship.Streamline() != 0) {
+        text += ship.Streamline() == 1 ? ", partial streamlining" : ", full streamlining";
+    }
+    return text;
+}
+
+/// One term for each system aboard; `preview` gives its mass or cost.
+template <typename Preview>
+void appendSystems(std::vector<Explanation::Term>& terms, const ShipClass& ship, Preview preview) {
+    WeapRec record;
+    std::int32_t index = 0;
+    while (index < ship.g_lWeapCount) {
+        ship.listWeap(index, record);
+        if (record.amount > 0) {
+            terms.push_back({preview(record),
+                             std::to_string(record.amount) + " x " + std::string(record.name)});
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<Explanation> explainShip(ShipClass& ship) {
+    const HullFigures& hull = ship.hullFigures();
+    Explanation cost{.figure = "Cost", .terms = {}, .sum = ship.g_lCost};
+    cost.terms.push_back({hull.hullCost, describeHull(ship)});
+    cost.terms.push_back({hull.ftlCost, "FTL drive: " + wordOf(ftlLine(ship.FTL()))});
+    cost.terms.push_back({hull.thrustCost, "Thrust " + std::to_string(ship.hullDesign().thrust)});
+    appendSystems(cost.terms, ship, [&](const WeapRec& record) {
+        return std::int64_t{ship.previewWeapCost(record.name, record.amount)};
+    });
+
+    Explanation damagePoints{.figure = "Damage points", .terms = {}, .sum = ship.g_iDP};
+    damagePoints.terms.push_back({hull.damagePoints, describeHull(ship)});
+
+    Explanation massLeft{.figure = "Mass left", .terms = {}, .sum = ship.g_iMassLeft};
+    massLeft.terms.push_back({hull.freeMass, "Free mass of the " + describeHull(ship)});
+    appendSystems(massLeft.terms, ship, [&](const WeapRec& record) {
+        return -std::int64_t{ship.previewWeapMass(record.name, record.amount)};
+    });
+    return {std::move(cost), std::move(damagePoints), std::move(massLeft)};
+}
+
+}  // namespace fleetwright
