@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Options.h"
+#include "ShipClass.h"
+
+#include <functional>
+#include <string>
+
+namespace fleetwright {
+
+class ShipOnScreen;
+
+/// Exit statuses of the tool.
+enum ExitStatus : int { Done = 0, SomeRefused = 1, WrongUsage = 2 };
+
+// The commands. Each prints its results to standard output, what it refuses to standard error,
+// and returns an ExitStatus. A catalogue that cannot be read is thrown as FileError.
+int runReport(const Options& options);
+int runFigures(const Options& options);
+int runExplain(const Options& options);
+int runSave(const Options& options);
+int runEval(const Options& options);
+int runCheck(const Options& options);
+
+/// What the ships of the tool stand on: the application folder's catalogue, and the evaluator.
+ShipServices shipServices(const Options& options);
+
+/// Where the lines of a ship file go that the ship did not take.
+enum class RefusedLines { InOutput, AsComplaints };
+
+/// Loads each ship of the command line and prints what `work` makes of it, in their order and
+/// several at a time.
+int forEachShip(const Options& options, RefusedLines refusedLines,
+                const std::function<std::string(const std::string& file, ShipOnScreen&)>& work);
+
+/// "FILE:LINE: what is wrong", or without the line where none is at fault.
+std::string complaint(const std::string& file, const Fault& fault);
+
+/// One ship's JSON object, without a line end.
+std::string figuresOf(const std::string& file, ShipClass& ship);
+
+}  // namespace fleetwright

@@ -1,0 +1,69 @@
+#include "commands.h"
+
+#include "ShipOnScreen.h"
+
+#include <nlohmann/json.hpp>
+
+namespace fleetwright {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json systemsOf(ShipClass& ship) {
+    Json systems = Json::array();
+    WeapRec record;
+    std::int32_t index = 0;
+    while (index < ship.g_lWeapCount) {
+        ship.listWeap(index, record);
+        if (record.amount > 0) {
+            systems.push_back({{"name", record.name},
+                               {"amount", record.amount},
+                               {"mass", ship.previewWeapMass(record.name, record.amount)},
+                               {"cost", ship.previewWeapCost(record.name, record.amount)}});
+        }
+    }
+    return systems;
+}
+
+}  // namespace
+
+std::string figuresOf(const std::string& file, ShipClass& ship) {
+    Json refused = Json::array();
+    for (const RefusedLine& line : ship.refusedLines()) {
+        refused.push_back(line.text);
+    }
+    const Json figures = {{"file", file},
+                          {"shipName", ship.g_sShipName},
+                          {"designer", ship.g_sDesignerName},
+                          {"hull", ship.Hull()},
+                          {"mass", ship.mass()},
+                          {"thrust", ship.THRUST()},
+                          {"ftl", ship.FTL()},
+                          {"armor", ship.Armor()},
+                          {"streamline", ship.Streamline()},
+                          {"cost", ship.g_lCost},
+                          {"dp", ship.g_iDP},
+                          {"damRows", ship.g_iDamRows},
+                          {"dcp", ship.g_iDCP},
+                          {"fcs", ship.g_iFCS},
+                          {"massLeft", ship.g_iMassLeft},
+                          {"class", ship.Class()},
+                          {"relSize", ship.relSize()},
+                          {"systems", systemsOf(ship)},
+                          {"refused", std::move(refused)}};
+    // A file name can hold bytes that are no text; the object must stay readable all the same.
+    return figures.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+int runFigures(const Options& options) {
+    return forEachShip(options, RefusedLines::InOutput,
+                       [&options](const std::string& file, ShipOnScreen& screen) {
+                           if (options.autoMass) {
+                               screen.switchAutoMassOn();
+                           }
+                           return figuresOf(file, screen.ship()) + '\n';
+                       });
+}
+
+}  // namespace fleetwright

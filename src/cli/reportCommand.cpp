@@ -1,0 +1,36 @@
+#include "commands.h"
+
+#include "ReportPrinter.h"
+#include "ShipOnScreen.h"
+
+namespace fleetwright {
+
+namespace {
+
+class TextPrinter : public ReportPrinter {
+public:
+    void printLine(std::string_view line) override {
+        m_text += line;
+        m_text += '\n';
+    }
+    void printEmptyLine() override { m_text += '\n'; }
+    void endDocument() override {}
+
+    const std::string& text() const { return m_text; }
+
+private:
+    std::string m_text;
+};
+
+}  // namespace
+
+int runReport(const Options& options) {
+    return forEachShip(options, RefusedLines::AsComplaints,
+                       [](const std::string&, ShipOnScreen& screen) {
+                           TextPrinter printer;
+                           screen.ship().PrintShip(printer);
+                           return printer.text();
+                       });
+}
+
+}  // namespace fleetwright

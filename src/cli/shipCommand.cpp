@@ -1,0 +1,101 @@
+#include "commands.h"
+
+#include "ShipOnScreen.h"
+#include "inOrder.h"
+
+#include <cstdio>
+#include <thread>
+
+#if __has_include(<unistd.h>)
+#include <unistd.h>
+#endif
+
+namespace fleetwright {
+
+namespace {
+
+/// Shows how far the work has come, where somebody is looking and the results do not show it.
+class Progress {
+public:
+    explicit Progress(std::size_t count) : m_count(count) {}
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress() { clear(); }
+
+    void show(std::size_t done) {
+        constexpr std::size_t step = 100;
+        if (m_isWanted && done % step == 0) {
+            std::fprintf(stderr, "\r%zu of %zu", done, m_count);
+            m_isShown = true;
+        }
+    }
+
+    void clear() {
+        if (m_isShown) {
+            std::fputs("\r\033[K", stderr);
+            m_isShown = false;
+        }
+    }
+
+private:
+    static bool isWanted() {
+#if __has_include(<unistd.h>)
+        return isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
+#else
+        return false;
+#endif
+    }
+
+    std::size_t m_count;
+    bool m_isWanted = isWanted();
+    bool m_isShown = false;
+};
+
+}  // namespace
+
+ShipServices shipServices(const Options& options) {
+    return {.catalogueFile = options.appFolder / "weaps.dat",
+            .formula = formula_calculate,
+            .eventLoopTurn = {}};
+}
+
+std::string complaint(const std::string& file, const Fault& fault) {
+    const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
+    return file + ":" + line + " " + fault.text;
+}
+
+int forEachShip(const Options& options, RefusedLines refusedLines,
+                const std::function<std::string(const std::string&, ShipOnScreen&)>& work) {
+    const ShipServices services = shipServices(options);
+    int status = Done;
+    Progress progress(options.files.size());
+    const auto load = [&](std::size_t index) {
+        const std::string& file = options.files[index];
+        ShipOnScreen screen(services);
+        Result result;
+        if (const auto fault = screen.load(file)) {
+            result.complaints.push_back(complaint(file, *fault));
+            return result;
+        }
+        result.output = work(file, screen);
+        if (refusedLines == RefusedLines::AsComplaints) {
+            for (const RefusedLine& line : screen.ship().refusedLines()) {
+                result.complaints.push_back(complaint(file, line.fault));
+            }
+        }
+        return result;
+    };
+    const auto print = [&](std::size_t index, const Result& result) {
+        std::fwrite(result.output.data(), 1, result.output.size(), stdout);
+        for (const std::string& line : result.complaints) {
+            progress.clear();
+            std::fprintf(stderr, "%s\n", line.c_str());
+            status = SomeRefused;
+        }
+        progress.show(index + 1);
+    };
+    inOrder(options.files.size(), std::thread::hardware_concurrency(), load, print);
+    return status;
+}
+
+}  // namespace fleetwright
