@@ -61,7 +61,10 @@ std::string readTextFile(const std::filesystem::path& file) {
     if (text.starts_with(byteOrderMark)) {
         text.erase(0, byteOrderMark.size());
     }
-    return isUtf8(text) ? text : windows1252ToUtf8(text);
+    if (!isUtf8(text)) {
+        text = windows1252ToUtf8(text);
+    }
+    return text;
 }
 
 bool LineReader::next(std::string_view& line) {

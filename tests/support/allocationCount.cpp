@@ -14,9 +14,13 @@ int fleetwright::allocationCount() {
     return g_allocations;
 }
 
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     ++g_allocations;
-    if (void* const memory = std::malloc(size)) {
+    return std::malloc(size);
+}
+
+void* operator new(std::size_t size) {
+    if (void* const memory = operator new(size, std::nothrow)) {
         return memory;
     }
     throw std::bad_alloc();
