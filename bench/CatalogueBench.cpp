@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -13,17 +14,18 @@ namespace {
 
 /// A catalogue of so many records, which are those of the delivered one over and over.
 std::filesystem::path catalogueOf(int records) {
-    const std::filesystem::path file = std::filesystem::temp_directory_path() /
-                                       ("fleetwright-bench-" + std::to_string(records) + ".dat");
+    std::filesystem::path file = std::filesystem::temp_directory_path() /
+                                 ("fleetwright-bench-" + std::to_string(records) + ".dat");
     std::ofstream out(file, std::ios::binary);
-    for (int written = 0; written < records;) {
-        std::ifstream in(SOURCE_FOLDER "/data/weaps.dat", std::ios::binary);
-        for (std::string line; written < records && std::getline(in, line);) {
-            if (line.size() > 1 && line.front() != '#') {
-                out << line << '\n';
-                ++written;
-            }
+    std::vector<std::string> delivered;
+    std::ifstream in(SOURCE_FOLDER "/data/weaps.dat", std::ios::binary);
+    for (std::string line; std::getline(in, line);) {
+        if (line.size() > 1 && line.front() != '#') {
+            delivered.push_back(line);
         }
+    }
+    for (std::size_t i = 0; i < static_cast<std::size_t>(records); ++i) {
+        out << delivered[i % delivered.size()] << '\n';
     }
     return file;
 }
@@ -31,7 +33,7 @@ std::filesystem::path catalogueOf(int records) {
 void newShip(benchmark::State& state, int records) {
     const ShipServices services = {
         .catalogueFile = catalogueOf(records), .formula = formula_calculate, .eventLoopTurn = {}};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const ShipClass ship(services);
         benchmark::DoNotOptimize(ship.g_lWeapCount);
     }
@@ -39,7 +41,7 @@ void newShip(benchmark::State& state, int records) {
 
 void plainRead(benchmark::State& state, int records) {
     const std::filesystem::path file = catalogueOf(records);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         std::ifstream in(file, std::ios::binary);
         std::size_t bytes = 0;
         for (std::string line; std::getline(in, line);) {

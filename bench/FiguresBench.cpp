@@ -11,9 +11,9 @@
 
 namespace fleetwright {
 
-namespace {
-
 namespace fs = std::filesystem;
+
+namespace {
 
 /// Copies of the sample ships.
 const std::vector<std::string>& shipFiles() {
@@ -42,7 +42,7 @@ void figures(benchmark::State& state, unsigned threads) {
     options.appFolder = SOURCE_FOLDER "/data";
     const ShipServices services = shipServices(options);
     std::size_t bytes = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         inOrder(
             files.size(), threads,
             [&](std::size_t index) {

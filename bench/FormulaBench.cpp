@@ -21,7 +21,7 @@ const std::string formulas[] = {
 
 void evaluate(benchmark::State& state, std::size_t index) {
     std::string text = formulas[index];
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(formula_calculate(text.data(), 60, 1, 1, 4, 120, 3));
     }
 }
@@ -42,7 +42,7 @@ void evaluateWithMuParser(benchmark::State& state, std::size_t index) {
     parser.DefineVar("hullcost", &hullCost);
     parser.DefineVar("amount", &amount);
     parser.DefineFun("roundup", roundUp);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         parser.SetExpr(text);
         benchmark::DoNotOptimize(parser.Eval());
     }

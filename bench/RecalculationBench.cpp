@@ -34,7 +34,7 @@ ShipClass& ship() {
 
 void recalculate(benchmark::State& state) {
     ShipClass& subject = ship();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         subject.weapChange();
         benchmark::DoNotOptimize(subject.g_lCost);
     }
@@ -54,7 +54,7 @@ void evaluateAlone(benchmark::State& state) {
         state.SkipWithError("not 20 systems");
     }
     const HullDesign& hull = ship().hullDesign();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (std::string& formula : formulas) {
             benchmark::DoNotOptimize(formula_calculate(formula.data(), hull.mass, hull.hullType,
                                                        hull.ftl, hull.thrust, 400, 2));
