@@ -6,6 +6,7 @@
 #include "inOrder.h"
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -36,26 +37,52 @@ const std::vector<std::string>& shipFiles() {
     return files;
 }
 
-void figures(benchmark::State& state, unsigned threads) {
+void workOutFigures(std::size_t ships, unsigned threads) {
     const std::vector<std::string>& files = shipFiles();
     Options options;
     options.appFolder = SOURCE_FOLDER "/data";
     const ShipServices services = shipServices(options);
     std::size_t bytes = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        inOrder(
-            files.size(), threads,
-            [&](std::size_t index) {
-                ShipOnScreen screen(services);
-                screen.load(files[index]);
-                return Result{.output = figuresOf(files[index], screen.ship()), .complaints = {}};
-            },
-            [&](std::size_t, const Result& result) { bytes += result.output.size(); });
-    }
+    inOrder(
+        ships, threads,
+        [&](std::size_t index) {
+            ShipOnScreen screen(services);
+            screen.load(files[index]);
+            return Result{.output = figuresOf(files[index], screen.ship()), .complaints = {}};
+        },
+        [&](std::size_t, const Result& result) { bytes += result.output.size(); });
     benchmark::DoNotOptimize(bytes);
 }
 
+void figures(benchmark::State& state, unsigned threads) {
+    for ([[maybe_unused]] auto _ : state) {
+        workOutFigures(shipFiles().size(), threads);
+    }
+}
+
+/// The memory that this process holds, in pages.
+double residentMemory() {
+    std::ifstream statistics("/proc/self/statm");
+    double size = 0;
+    double resident = 0;
+    statistics >> size >> resident;
+    return resident;
+}
+
+void figuresMemory(benchmark::State& state, std::size_t ships) {
+    for ([[maybe_unused]] auto _ : state) {
+        workOutFigures(ships, 2);
+        state.counters[memoryCounter] = residentMemory();
+    }
+}
+
 const bool registered = [] {
+    for (const std::size_t ships : {1'000U, 10'000U}) {
+        const std::string name = "memory after " + std::to_string(ships) + " ships";
+        benchmark::RegisterBenchmark(name.c_str(), figuresMemory, ships)->Iterations(1);
+    }
+    RegisterGoal({"Figures: times the memory after 10000 ships as after 1000",
+                  "memory after 10000 ships", "memory after 1000 ships", 1.1, false});
     for (const unsigned threads : {1U, 2U}) {
         const std::string name = "figures of 10000 ships, threads: " + std::to_string(threads);
         benchmark::RegisterBenchmark(name.c_str(), figures, threads)

@@ -23,10 +23,14 @@ void GoalTable::ReportRuns(const std::vector<Run>& runs) {
         if (run.run_type != Run::RT_Iteration) {
             continue;
         }
-        const double time = run.real_accumulated_time / static_cast<double>(run.iterations);
-        const auto [known, isNew] = m_fastest.try_emplace(run.run_name.function_name, time);
-        if (!isNew && time < known->second) {
-            known->second = time;
+        const auto memory = run.counters.find(memoryCounter);
+        const double measured =
+            memory != run.counters.end()
+                ? memory->second.value
+                : run.real_accumulated_time / static_cast<double>(run.iterations);
+        const auto [known, isNew] = m_smallest.try_emplace(run.run_name.function_name, measured);
+        if (!isNew && measured < known->second) {
+            known->second = measured;
         }
     }
 }
@@ -35,9 +39,9 @@ void GoalTable::Finalize() {
     ConsoleReporter::Finalize();
     std::printf("\n%-64s %10s %10s  %s\n", "Goal", "wanted", "measured", "");
     for (const Goal& goal : goals()) {
-        const auto above = m_fastest.find(goal.above);
-        const auto below = m_fastest.find(goal.below);
-        if (above == m_fastest.end() || below == m_fastest.end()) {
+        const auto above = m_smallest.find(goal.above);
+        const auto below = m_smallest.find(goal.below);
+        if (above == m_smallest.end() || below == m_smallest.end()) {
             continue;  // left out on the command line
         }
         const double measured = above->second / below->second;

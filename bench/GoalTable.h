@@ -8,8 +8,11 @@
 
 namespace fleetwright {
 
+inline constexpr const char* memoryCounter = "memory";
+
 /// A ratio of two benchmarks of the same run that is to be kept. Machines differ and are noisy,
-/// so that no goal is a number of seconds.
+/// so that no goal is a number of seconds. A benchmark that measures memory says so in a counter
+/// with the name `memoryCounter`, which then counts in place of its time.
 struct Goal {
     std::string what;
     std::string above;  ///< benchmark that stands above the line
@@ -31,7 +34,7 @@ public:
     void Finalize() override;
 
 private:
-    std::map<std::string, double> m_fastest;
+    std::map<std::string, double> m_smallest;
 };
 
 }  // namespace fleetwright

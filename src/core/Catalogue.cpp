@@ -23,7 +23,7 @@ CatalogueLine cutCatalogueLine(std::string_view line) {
     return fields;
 }
 
-void Catalogue::load(const std::filesystem::path& file) {
+void Catalogue::loadWeaps(const std::filesystem::path& file) {
     m_text = readTextFile(file);
     // Room for short lines: what is not used of it is never touched, but growing would move all.
     constexpr std::size_t shortLineLength = 40;

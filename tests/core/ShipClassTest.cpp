@@ -72,6 +72,23 @@ TEST(ShipClass, EachWriteRecalculatesOnceAndMarksTheShip) {
     EXPECT_TRUE(ship->g_bSaved);
 }
 
+TEST(ShipClass, ListenersSeeTheMarkThatBelongsToTheEvent) {
+    const ShipYard yard;
+    const auto ship = yard.newShip();
+    std::string seen;
+    const auto note = [&] { seen += ship->g_bSaved ? "saved " : "changed "; };
+    const Connection recalculated = ship->Recalculated.connect(note);
+    const Connection saved = ship->ShipSaved.connect(note);
+    ship->weapChange();
+    std::string name = (yard.folder().path() / "ship.shp").string();
+    ship->saveShip(name);
+    EXPECT_EQ(seen, "changed saved ");
+    // What listeners change while a ship is loaded leaves no mark.
+    const Connection loaded = ship->ShipLoaded.connect([&] { ship->weapChange(); });
+    ship->loadShip(name);
+    EXPECT_TRUE(ship->g_bSaved);
+}
+
 TEST(ShipClass, HoldsValuesToTheirBounds) {
     const ShipYard yard;
     const auto ship = yard.newShip();
