@@ -13,6 +13,8 @@ namespace fleetwright {
 
 namespace {
 
+constexpr std::size_t largestTextFile = std::size_t{256} * 1024 * 1024;
+
 struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
@@ -31,6 +33,9 @@ std::string readBytes(const std::filesystem::path& path) {
     constexpr std::size_t firstTry = 16'384;
     std::error_code noSize;
     const std::uintmax_t size = std::filesystem::file_size(path, noSize);
+    if (!noSize && size > largestTextFile) {
+        fail(EFBIG);
+    }
     std::string bytes(noSize ? firstTry : static_cast<std::size_t>(size) + 1, '\0');
     std::size_t filled = 0;
     while (true) {
@@ -42,6 +47,9 @@ std::string readBytes(const std::filesystem::path& path) {
         }
         if (filled < bytes.size()) {
             break;
+        }
+        if (filled > largestTextFile) {
+            fail(EFBIG);
         }
         bytes.resize(bytes.size() * 2);
     }

@@ -12,7 +12,7 @@ std::filesystem::path nativePath(std::string_view utf8);
 
 /// The contents of a text file as UTF-8. A byte order mark is passed over, and a file that is
 /// not valid UTF-8 is taken as Windows-1252, so that old files keep their accents.
-/// Throws FileError.
+/// Throws FileError, also for a file so large that it is no text of ours.
 std::string readTextFile(const std::filesystem::path& file);
 
 /// Takes a text apart into its lines, which end at CR, LF or CR LF. An end of line at the very

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #if __has_include(<unistd.h>)
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -33,6 +34,29 @@ bool flushToDisk([[maybe_unused]] std::FILE* file) {
     return fsync(fileno(file)) == 0 || errno == EINVAL;
 #else
     return true;
+#endif
+}
+
+bool isWritable([[maybe_unused]] const fs::path& file, const fs::file_status& status) {
+    constexpr fs::perms anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((status.permissions() & anyWrite) == fs::perms::none) {
+        return false;  // protected, even from those who may do anything
+    }
+#if __has_include(<unistd.h>)
+    return access(file.c_str(), W_OK) == 0;
+#else
+    return true;
+#endif
+}
+
+/// Gives `file` the owner of `other`, as far as that is allowed.
+void takeOwner([[maybe_unused]] const fs::path& file, [[maybe_unused]] const fs::path& other) {
+#if __has_include(<unistd.h>)
+    struct stat owner {};
+    if (stat(other.c_str(), &owner) == 0) {
+        [[maybe_unused]] const int notAllowed = chown(file.c_str(), owner.st_uid, owner.st_gid);
+    }
 #endif
 }
 
@@ -83,7 +107,8 @@ private:
     fs::path m_path;
 };
 
-/// The file that a chain of links ends at, also where that file does not exist yet.
+/// The file that a chain of links ends at, also where that file does not exist yet. A chain
+/// without an end still gives a link.
 fs::path linkTarget(fs::path path) {
     constexpr int mostLinks = 40;
     std::error_code error;
@@ -102,6 +127,9 @@ fs::path linkTarget(fs::path path) {
 void saveFile(const fs::path& target, std::string_view contents) {
     const fs::path file = linkTarget(target);
     std::error_code ignored;
+    if (fs::is_symlink(file, ignored)) {
+        fail(target, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+    }
     const fs::file_status status = fs::status(file, ignored);
     if (fs::is_directory(status)) {
         fail(target, std::make_error_code(std::errc::is_a_directory));
@@ -119,9 +147,7 @@ void saveFile(const fs::path& target, std::string_view contents) {
     }
 
     // The rename would replace a write-protected file without a question.
-    constexpr fs::perms anyWrite =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    if (fs::exists(status) && (status.permissions() & anyWrite) == fs::perms::none) {
+    if (fs::exists(status) && !isWritable(file, status)) {
         fail(target, std::make_error_code(std::errc::permission_denied));
     }
 
@@ -131,13 +157,14 @@ void saveFile(const fs::path& target, std::string_view contents) {
         fail(target, lastError());
     }
     TemporaryFile temporary(beside);
-    if (const std::error_code error = writeAndClose(stream, contents)) {
-        fail(target, error);
-    }
+    // Before there is anything in it that others should not read.
     std::error_code error;
     if (fs::exists(status)) {
+        takeOwner(temporary.path(), file);
         fs::permissions(temporary.path(), status.permissions(), error);
     }
+    const std::error_code writeError = writeAndClose(stream, contents);
+    error = error ? error : writeError;
     if (!error) {
         fs::rename(temporary.path(), file, error);
     }

@@ -3,154 +3,209 @@
 #include "TextFile.h"
 #include "executableFolder.h"
 
-#include <CLI/CLI.hpp>
-
-#include <algorithm>
+#include <array>
 #include <charconv>
 #include <limits>
+#include <string_view>
 
 namespace fleetwright {
 
 namespace {
 
-constexpr const char* description = "Works on FleetWright starship designs without a window.";
 constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
 
-/// Strict: no blanks, no fraction, no other base, which the library would let pass.
-void addNumber(CLI::App& command, const std::string& name, std::int32_t& number,
-               const std::string& help) {
-    const std::string standard = std::to_string(number);
-    const auto read = [name, &number](const std::string& text) {
-        const char* const end = text.data() + text.size();
-        const auto result = std::from_chars(text.data(), end, number);
-        if (result.ec != std::errc() || result.ptr != end) {
-            throw UsageError(name + ": \"" + text + "\" is no whole number of 32 bits");
-        }
-    };
-    command.add_option_function<std::string>(name, read, help + ", " + standard + " if not given")
-        ->type_name("N");
+/// A command and the words that it takes besides its options.
+struct CommandRow {
+    std::string_view name;
+    Command command;
+    std::string_view words;
+    std::size_t least;
+    std::size_t most;
+    std::string_view help;
+};
+
+constexpr std::array<CommandRow, 6> commandTable = {{
+    {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
+    {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
+     "Print the figures of ships, one JSON object a line"},
+    {"explain", Command::Explain, "SHIP...", 1, any,
+     "Say what cost, damage points and mass left are made of"},
+    {"save", Command::Save, "SHIP OUT", 2, 2, "Load a ship and save it as OUT"},
+    {"eval", Command::Eval, "FORMULA [NUMBERS]", 1, 1,
+     "Work out a mass or cost formula of the catalogue"},
+    {"check", Command::Check, "[FILE...]", 0, any,
+     "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the folder"},
+}};
+
+/// A number that a formula can name, and the option that sets it.
+struct NumberRow {
+    std::string_view option;
+    std::int32_t EvalArguments::*number;
+    std::string_view help;
+};
+
+constexpr std::array<NumberRow, 6> numberTable = {{
+    {"--mass", &EvalArguments::mass, "hull mass"},
+    {"--hull", &EvalArguments::hull, "hull type code"},
+    {"--ftl", &EvalArguments::ftl, "FTL code"},
+    {"--thrust", &EvalArguments::thrust, "thrust"},
+    {"--hull-cost", &EvalArguments::hullCost, "cost of the hull"},
+    {"--amount", &EvalArguments::amount, "pieces"},
+}};
+
+std::string padded(std::string text, std::size_t width) {
+    text.resize(std::max(text.size() + 2, width), ' ');
+    return text;
 }
 
-/// The whole command line. The library reads it up to a "--"; what follows there is files.
+std::string helpText() {
+    std::string text = "Works on FleetWright starship designs without a window.\n"
+                       "Usage: fleetwright-cli [--app DIR] COMMAND ...\n\nCommands:\n";
+    for (const CommandRow& row : commandTable) {
+        text += padded("  " + std::string(row.name) + ' ' + std::string(row.words), 32) +
+                std::string(row.help) + '\n';
+    }
+    text += "\nOptions, before or behind the files; \"--\" ends them:\n" +
+            padded("  --app DIR", 32) + "The application folder, by default the tool's own\n" +
+            padded("  --auto-mass", 32) + "Fit the hull mass to the systems\n" +
+            padded("  --help, --version", 32) + "Show this help, or the version\n" +
+            "\nNumbers of eval, with what they are if not given:\n";
+    for (const NumberRow& row : numberTable) {
+        text += padded("  " + std::string(row.option) + " N", 32) + std::string(row.help) + ", " +
+                std::to_string(EvalArguments().*row.number) + '\n';
+    }
+    return text;
+}
+
+std::int32_t numberOf(std::string_view option, std::string_view text) {
+    std::int32_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) {
+        throw UsageError(std::string(option) + ": \"" + std::string(text) +
+                         "\" is no whole number of 32 bits");
+    }
+    return number;
+}
+
+/// Goes through the command line from left to right.
 class Parser {
 public:
-    Parser() {
-        m_app.require_subcommand(1, 1);
-        m_app.set_help_flag("-h,--help", "Show this help");
-        m_app.set_version_flag("--version", "FleetWright " FLEETWRIGHT_VERSION);
-        m_app.add_option("--app", m_appFolder, "The application folder, by default the tool's own")
-            ->type_name("DIR");
-        m_app.allow_extras();
-        addCommands();
-    }
+    Parser(int argc, const char* const* argv) : m_words(argv + 1, argv + argc) {}
 
-    Options parse(int argc, const char* const* argv) {
-        const char* const* const end = argv + argc;
-        const char* const* const mark =
-            std::find_if(argv, end, [](std::string_view word) { return word == "--"; });
-        try {
-            m_app.parse(static_cast<int>(mark - argv), argv);
-        } catch (const CLI::CallForHelp&) {
-            m_options.answer = m_app.help();
-            return m_options;
-        } catch (const CLI::CallForVersion& version) {
-            m_options.answer = std::string(version.what()) + '\n';
-            return m_options;
-        } catch (const CLI::ParseError& error) {
-            throw UsageError(error.what());
+    Options parse(const char* argv0) {
+        while (m_next < m_words.size() && m_options.answer.empty()) {
+            const std::string_view word = m_words[m_next++];
+            if (m_isBehindMark || !isOption(word)) {
+                takeWord(word);
+            } else if (word == "--") {
+                m_isBehindMark = true;
+            } else {
+                takeOption(word);
+            }
         }
-        checkExtras();
-        if (mark != end) {
-            m_words.insert(m_words.end(), mark + 1, end);
+        if (!m_options.answer.empty()) {
+            m_options.command = Command::None;
+            return m_options;
         }
-        takeWords();
-        m_options.appFolder =
-            m_appFolder.empty() ? executableFolder(argv[0]) : nativePath(m_appFolder);
+        finish();
+        if (m_options.appFolder.empty()) {
+            m_options.appFolder = executableFolder(argv0);
+        }
         return m_options;
     }
 
 private:
-    /// Adds a command that takes from `least` to `most` words, which the help calls `words`.
-    CLI::App& add(Command command, const std::string& name, const std::string& words,
-                  std::size_t least, std::size_t most, const std::string& help) {
-        CLI::App& subcommand = *m_app.add_subcommand(name, help);
-        subcommand.fallthrough();
-        subcommand.set_help_flag("-h,--help", "Show this help");
-        subcommand.add_option(words, m_words)->type_name("");
-        subcommand.callback([=, this] {
-            m_options.command = command;
-            m_wordNames = words;
-            m_least = least;
-            m_most = most;
-        });
-        return subcommand;
-    }
-
-    void addCommands() {
-        add(Command::Report, "report", "SHIP", 1, any, "Print the report of ships");
-        add(Command::Figures, "figures", "SHIP", 1, any,
-            "Print the figures of ships, one JSON object a line")
-            .add_flag("--auto-mass", m_options.autoMass, "Fit the hull mass to the systems");
-        add(Command::Explain, "explain", "SHIP", 1, any,
-            "Say what cost, damage points and mass left are made of");
-        add(Command::Save, "save", "SHIP OUT", 2, 2, "Load a ship and save it as OUT");
-        CLI::App& eval = add(Command::Eval, "eval", "FORMULA", 1, 1,
-                             "Work out a mass or cost formula of the catalogue");
-        EvalArguments& arguments = m_options.evalArguments;
-        addNumber(eval, "--mass", arguments.mass, "Hull mass");
-        addNumber(eval, "--hull", arguments.hull, "Hull type code");
-        addNumber(eval, "--ftl", arguments.ftl, "FTL code");
-        addNumber(eval, "--thrust", arguments.thrust, "Thrust");
-        addNumber(eval, "--hull-cost", arguments.hullCost, "Hull cost");
-        addNumber(eval, "--amount", arguments.amount, "Pieces");
-        add(Command::Check, "check", "FILE", 0, any,
-            "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the "
-            "application folder");
-    }
-
-    /// What the library has not understood. A formula may begin with a sign, which looks like an
-    /// option to it.
-    void checkExtras() {
-        for (const std::string& extra : m_app.remaining(true)) {
-            const bool isFormula = m_options.command == Command::Eval && extra.rfind("--", 0) != 0;
-            if (!isFormula) {
-                throw UsageError("not understood: " + extra);
-            }
-            m_words.push_back(extra);
-        }
-    }
-
-    void takeWords() {
-        if (m_words.size() < m_least) {
-            throw UsageError(m_wordNames + " is missing");
-        }
-        if (m_words.size() > m_most) {
-            throw UsageError("one too many: " + m_words[m_most]);
-        }
+    /// A formula may begin with a sign, so that only two of them make an option of eval.
+    bool isOption(std::string_view word) const {
         if (m_options.command == Command::Eval) {
-            m_options.formula = m_words.front();
+            return word.starts_with("--");
+        }
+        return word.size() > 1 && word.starts_with('-');
+    }
+
+    void takeWord(std::string_view word) {
+        if (m_row != nullptr) {
+            m_options.files.emplace_back(word);
             return;
         }
-        m_options.files = m_words;
-        if (m_options.command == Command::Save) {
-            m_options.saveName = m_words.back();
+        for (const CommandRow& row : commandTable) {
+            if (row.name == word) {
+                m_row = &row;
+                m_options.command = row.command;
+                return;
+            }
+        }
+        throw UsageError("no command \"" + std::string(word) + '"');
+    }
+
+    void takeOption(std::string_view word) {
+        const std::size_t equals = word.find('=');
+        const std::string_view name = word.substr(0, equals);
+        const auto value = [&]() -> std::string_view {
+            if (equals != std::string_view::npos) {
+                return word.substr(equals + 1);
+            }
+            if (m_next == m_words.size()) {
+                throw UsageError(std::string(name) + " needs a value");
+            }
+            return m_words[m_next++];
+        };
+        if (name == "--app") {
+            m_options.appFolder = nativePath(value());
+            if (m_options.appFolder.empty()) {
+                throw UsageError("--app needs a folder");
+            }
+            return;
+        }
+        for (const NumberRow& row : numberTable) {
+            if (m_options.command == Command::Eval && row.option == name) {
+                m_options.evalArguments.*row.number = numberOf(name, value());
+                return;
+            }
+        }
+        if (word == "--auto-mass" && m_options.command == Command::Figures) {
+            m_options.autoMass = true;
+        } else if (word == "--help" || word == "-h") {
+            m_options.answer = helpText();
+        } else if (word == "--version") {
+            m_options.answer = "FleetWright " FLEETWRIGHT_VERSION "\n";
+        } else {
+            throw UsageError("unknown option " + std::string(word));
+        }
+    }
+
+    void finish() {
+        if (m_row == nullptr) {
+            throw UsageError("no command");
+        }
+        if (m_options.files.size() < m_row->least) {
+            throw UsageError("too few words for " + std::string(m_row->name) + ' ' +
+                             std::string(m_row->words));
+        }
+        if (m_options.files.size() > m_row->most) {
+            throw UsageError("one too many: " + m_options.files[m_row->most]);
+        }
+        if (m_options.command == Command::Eval) {
+            m_options.formula = m_options.files.front();
+            m_options.files.clear();
+        } else if (m_options.command == Command::Save) {
+            m_options.saveName = m_options.files.back();
             m_options.files.pop_back();
         }
     }
 
-    CLI::App m_app{description, "fleetwright-cli"};
-    std::string m_appFolder;
-    std::vector<std::string> m_words;
-    std::string m_wordNames;
-    std::size_t m_least = 0;
-    std::size_t m_most = 0;
+    std::vector<std::string_view> m_words;
+    std::size_t m_next = 0;
+    bool m_isBehindMark = false;
+    const CommandRow* m_row = nullptr;
     Options m_options;
 };
 
 }  // namespace
 
 Options readOptions(int argc, const char* const* argv) {
-    return Parser().parse(argc, argv);
+    return Parser(argc, argv).parse(argv[0]);
 }
 
 }  // namespace fleetwright

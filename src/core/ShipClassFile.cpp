@@ -11,6 +11,7 @@
 #include "wholeNumber.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace fleetwright {
 
@@ -46,7 +47,7 @@ bool ShipClass::saveShip(std::string& in_sFileName) {
     try {
         writeShipFile(in_sFileName);
         takeFileName(in_sFileName);
-    } catch (const Error& error) {
+    } catch (const std::exception& error) {
         m_fileFault = Fault{0, error.what()};
         return false;
     }
@@ -68,7 +69,7 @@ bool ShipClass::loadShip(const std::string& in_sFileName) {
         workOutFigures(asShown(m_hull));
         takeFileName(in_sFileName);
         ShipLoaded.raise();
-    } catch (const Error& error) {
+    } catch (const std::exception& error) {
         m_fileFault = Fault{lineNumber, error.what()};
         return false;
     }

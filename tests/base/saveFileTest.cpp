@@ -4,6 +4,8 @@
 #include "TemporaryFolder.h"
 
 #include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,6 +33,27 @@ int asNobody(const std::function<bool()>& act) {
     waitpid(child, &status, 0);
     return WEXITSTATUS(status);
 }
+
+/// A disk of 64 KiB, for those who may mount one.
+class SmallDisk {
+public:
+    SmallDisk() : m_isMounted(mount("none", path().c_str(), "tmpfs", 0, "size=64k") == 0) {}
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+    ~SmallDisk() {
+        if (m_isMounted) {
+            umount(path().c_str());
+        }
+    }
+
+    bool isMounted() const { return m_isMounted; }
+    const TemporaryFolder& folder() const { return m_folder; }
+    const fs::path& path() const { return m_folder.path(); }
+
+private:
+    TemporaryFolder m_folder;
+    bool m_isMounted;
+};
 
 std::string faultOf(const fs::path& target, std::string_view contents) {
     try {
@@ -93,6 +116,39 @@ TEST(SaveFile, RefusesWhatCannotBeSavedAndLeavesItAsItWas) {
               }),
               0);
     EXPECT_EQ(folder.read("closed/ship.shp"), "old");
+
+    // Another's file in a folder of one's own is still another's file.
+    folder.write("another.shp", "old");
+    if (getuid() == 0) {
+        EXPECT_EQ(asNobody([&] {
+                      return faultOf(folder.path() / "another.shp", "new") ==
+                             "cannot be saved: Permission denied";
+                  }),
+                  0);
+    }
+    fs::permissions(closed, fs::perms::owner_all);
+}
+
+TEST(SaveFile, RefusesAChainOfLinksWithoutAnEnd) {
+    const TemporaryFolder folder;
+    fs::create_symlink("b", folder.path() / "a");
+    fs::create_symlink("a", folder.path() / "b");
+    EXPECT_EQ(faultOf(folder.path() / "a", "x"),
+              "cannot be saved: Too many levels of symbolic links");
+    EXPECT_TRUE(fs::is_symlink(folder.path() / "a"));
+}
+
+TEST(SaveFile, KeepsTheOwner) {
+    if (getuid() != 0) {
+        GTEST_SKIP() << "only root can give a file away";
+    }
+    const TemporaryFolder folder;
+    const std::string file = folder.write("ship.shp", "old");
+    ASSERT_EQ(chown(file.c_str(), 65534, 65534), 0);
+    saveFile(file, "new");
+    struct stat owner {};
+    stat(file.c_str(), &owner);
+    EXPECT_EQ(owner.st_uid, 65534U);
 }
 
 TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
@@ -102,16 +158,29 @@ TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
     EXPECT_EQ(faultOf(folder.path() / "full.shp", "x"), "cannot be saved: No space left on device");
     EXPECT_TRUE(fs::is_symlink(folder.path() / "full.shp"));
 
-    const TemporaryFolder small;
-    if (mount("none", small.path().c_str(), "tmpfs", 0, "size=64k") != 0) {
+    // The same for any user: a limit on the size of files, which ends a write as a full disk does.
+    fs::permissions(folder.write("ship.shp", "old"), fs::perms::all);
+    fs::permissions(folder.path(), fs::perms::all);
+    EXPECT_EQ(asNobody([&] {
+                  const rlimit limit = {1000, 1000};
+                  signal(SIGXFSZ, SIG_IGN);
+                  return setrlimit(RLIMIT_FSIZE, &limit) == 0 &&
+                         faultOf(folder.path() / "ship.shp", std::string(5000, 'x')) ==
+                             "cannot be saved: File too large";
+              }),
+              0);
+    EXPECT_EQ(folder.read("ship.shp"), "old");
+    EXPECT_EQ(folder.entries(), 2);
+
+    const SmallDisk small;
+    if (!small.isMounted()) {
         GTEST_SKIP() << "no right to mount a small disk";
     }
     saveFile(small.path() / "ship.shp", "old");
     EXPECT_EQ(faultOf(small.path() / "ship.shp", std::string(200'000, 'x')),
               "cannot be saved: No space left on device");
-    EXPECT_EQ(small.read("ship.shp"), "old");
-    EXPECT_EQ(small.entries(), 1);
-    umount(small.path().c_str());
+    EXPECT_EQ(small.folder().read("ship.shp"), "old");
+    EXPECT_EQ(small.folder().entries(), 1);
 }
 
 TEST(SaveFile, KillInTheMiddleLeavesOneOfTheTwoContents) {

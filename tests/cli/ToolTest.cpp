@@ -67,6 +67,8 @@ TEST_F(Tool, FiguresAreOneObjectALineInTheOrderOfTheFiles) {
 
 TEST_F(Tool, FiguresStayReadableForAnyFileName) {
     m_folder.write("\xFF\n.shp", "Ship Name: a\tb\\\n");
+    m_folder.write("[a,b].shp", "");
+    EXPECT_EQ(run({"--app", ".", "figures", "[a,b].shp"}).status, 0);
     const ToolRun odd = run({"--app", ".", "figures", "\xFF\n.shp"});
     EXPECT_EQ(odd.output.substr(0, 44),
               "{\"file\":\"\uFFFD\\n.shp\",\"shipName\":\"a\\tb\\\\\",\"des");
@@ -138,7 +140,11 @@ TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
     EXPECT_EQ(all(run({"eval", "hull*ftl*thrust*hullcost", "--hull", "3", "--ftl", "3", "--thrust",
                        "5", "--hull-cost", "7"})),
               "0|315\n|");
-    EXPECT_EQ(all(run({"eval", "-mass"})), "0|-2\n|");
+    for (const char* name : {"mass", "hull", "ftl", "thrust", "hullcost", "amount", "abs(1)"}) {
+        const std::string plus = run({"eval", std::string("0 + ") + name}).output;
+        EXPECT_EQ(all(run({"eval", std::string("-") + name})), "0|-" + plus + "|");
+    }
+    EXPECT_EQ(run({"eval", "[1]"}).status, 1);
     EXPECT_EQ(all(run({"eval", "--", "--mass"})), "0|2\n|");
     EXPECT_EQ(all(run({"eval", "1/0"})), "0|0\n|");
     EXPECT_EQ(all(run({"eval", "2 +"})),
@@ -184,6 +190,8 @@ TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
         {"eval", "1", "--mass", "0x10"},
         {"eval", "1", "--mass", "2147483648"},
         {"--app"},
+        {"--app=", "figures", "good.shp"},
+        {"figures", "good.shp", "--mass", "3"},
     };
     for (const auto& arguments : wrong) {
         const ToolRun refused = run(arguments);
@@ -192,5 +200,6 @@ TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
         EXPECT_EQ(refused.errors.substr(0, 17), "fleetwright-cli: ");
     }
     EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_EQ(run({"figures", "-h"}).output, run({"--help"}).output);
     EXPECT_EQ(all(run({"--version"})), "0|FleetWright 2.0.5\n|");
 }
