@@ -65,6 +65,11 @@ void ShipClass::THRUST(std::int16_t i_iArg) {
     recalcShip();
 }
 
+void ShipClass::weapChange() {
+    const Rollback rollback(*this);
+    recalcShip();
+}
+
 std::string_view ShipClass::Class() const {
     return classOf(m_hull.mass);
 }

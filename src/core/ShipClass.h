@@ -4,7 +4,10 @@
 // this object, which works the ship's figures out anew and raises events; it shows nothing.
 //
 // An operation whose figures leave the width of a field throws OverflowError, and the ship is as
-// it was before. One thread at a time may use a ship; several ships may be used in parallel.
+// it was before; so it is when a listener throws, but for what listeners have added to it. Texts
+// that a ship hands out as views live as long as the ship. While it is at work (`isBusy`), as a
+// listener or a turn of the event loop can find it, it must not be destroyed. One thread at a time
+// may use a ship; several ships may be used in parallel.
 
 #include "Catalogue.h"
 #include "Fault.h"
@@ -90,7 +93,9 @@ public:
     /// The value of a formula for one piece on this ship.
     std::int32_t weapCalc(std::string& in_arg);
     /// Recalculates.
-    void weapChange() { recalcShip(); }
+    void weapChange();
+    /// Whether an operation of this ship is under way, further out.
+    bool isBusy() const { return m_passDepth > 0; }
 
     // Systems. A name stands for the first record that has it, exactly.
 

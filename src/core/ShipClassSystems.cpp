@@ -15,7 +15,7 @@ bool ShipClass::addWeap(std::string_view name, std::int32_t amount) {
     const std::int32_t index = weapNameToIndex(name);
     if (index == -1) {
         WeaponNotFound.raise();
-        recalcShip();
+        weapChange();
         return false;
     }
     std::int32_t& carried = m_catalogue.records()[static_cast<std::size_t>(index)].amount;

@@ -40,6 +40,7 @@ private:
     void checkHull();
     void checkCloak();
     void checkShip();
+    void addUnlessKnown(const Fault& fault);
     std::optional<std::int32_t> number(std::string_view text);
     void complain(std::string text) { complainAt(m_line, std::move(text)); }
     void complainAt(int line, std::string text) { m_faults.push_back({line, std::move(text)}); }
@@ -59,21 +60,26 @@ std::vector<Fault> ShipFileChecker::check(std::string_view text) {
     std::string_view line;
     while (lines.next(line)) {
         m_line = lines.lineNumber();
-        if (!line.empty()) {
-            checkLine(line);
-        }
+        checkLine(line);
     }
     checkHull();
     checkCloak();
-    std::stable_sort(m_faults.begin(), m_faults.end(),
-                     [](const Fault& a, const Fault& b) { return a.line < b.line; });
     checkShip();
+    std::stable_sort(m_faults.begin(), m_faults.end(), [](const Fault& a, const Fault& b) {
+        return a.line != 0 && (b.line == 0 || a.line < b.line);
+    });
     return std::move(m_faults);
 }
 
 void ShipFileChecker::checkLine(std::string_view text) {
     std::string cuttable(text);
     const ShipFileLine line = cutShipFileLine(cuttable);
+    if (text.empty()) {
+        if (line.key != ShipKey::Unknown) {
+            complain("an empty line goes on with what was left before, " + quote(cuttable));
+        }
+        return;
+    }
     if (line.key == ShipKey::Unknown) {
         complain("nobody reads the key " + quote(line.keyText));
         return;
@@ -88,6 +94,9 @@ void ShipFileChecker::checkLine(std::string_view text) {
     }
     if (line.key != ShipKey::Armor && std::count(text.begin(), text.end(), ':') > 1) {
         complain("what stands behind the second colon is lost");
+    }
+    if (line.key == ShipKey::System && std::count(text.begin(), text.end(), ',') > 1) {
+        complain("what stands behind the second comma is lost");
     }
     checkValue(line);
 }
@@ -173,7 +182,11 @@ void ShipFileChecker::checkSystem(const ShipFileLine& line) {
 
 std::optional<std::int32_t> ShipFileChecker::number(std::string_view text) {
     try {
-        return wholeNumber(text);
+        const std::int32_t number = wholeNumber(text);
+        if (text.find('.') != std::string_view::npos) {
+            complain(quote(text) + " is read as " + std::to_string(number));
+        }
+        return number;
     } catch (const Error& error) {
         complain(error.what());
         return std::nullopt;
@@ -195,18 +208,29 @@ void ShipFileChecker::checkHull() {
     complainAbout(ShipKey::Ftl, "a base has no FTL drive");
 }
 
+/// A type that stands behind the systems comes too late for the loader to refuse them.
 void ShipFileChecker::checkCloak() {
-    if (isMerchantType(m_hullType) && m_cloakLine != 0 && m_hasOtherSystems) {
+    const bool isRefused =
+        std::any_of(m_ship.refusedLines().begin(), m_ship.refusedLines().end(),
+                    [](const RefusedLine& line) { return line.fault.text == cloakRule; });
+    if (!isRefused && isMerchantType(m_hullType) && m_cloakLine != 0 && m_hasOtherSystems) {
         complainAt(m_cloakLine, std::string(cloakRule));
     }
 }
 
+/// Adds what the load itself has found, unless the line's own check has said it already.
+void ShipFileChecker::addUnlessKnown(const Fault& fault) {
+    if (std::find(m_faults.begin(), m_faults.end(), fault) == m_faults.end()) {
+        m_faults.push_back(fault);
+    }
+}
+
 void ShipFileChecker::checkShip() {
+    for (const RefusedLine& line : m_ship.refusedLines()) {
+        addUnlessKnown(line.fault);
+    }
     if (const auto& fault = m_ship.fileFault()) {
-        const auto isKnown = [&](const Fault& known) { return known.line == fault->line; };
-        if (std::none_of(m_faults.begin(), m_faults.end(), isKnown)) {
-            m_faults.push_back(*fault);
-        }
+        addUnlessKnown(*fault);
     } else if (m_ship.g_iMassLeft < 0) {
         complainAt(0, "overloaded: the systems are " + std::to_string(-m_ship.g_iMassLeft) +
                           " mass units too heavy for the hull");

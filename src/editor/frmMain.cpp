@@ -97,19 +97,29 @@ void frmMain::Form_Unload(bool& cancel) {
     if (cancel) {
         return;
     }
-    m_shipEvents.clear();
-    g_Ship.reset();
+    dropShip();
     m_services.freeFormulaLibrary();
     m_services.desktop.unloadAllForms();
     minimize();
 }
 
-void frmMain::replaceShip() {
+/// Parts with the ship, which goes at once or, if it is at work further out, when it has ended.
+void frmMain::dropShip() {
     m_shipEvents.clear();
-    g_Ship = std::make_unique<ShipClass>(
+    std::erase_if(m_formerShips, [](const auto& ship) { return !ship->isBusy(); });
+    if (g_Ship && g_Ship->isBusy()) {
+        m_formerShips.push_back(std::move(g_Ship));
+    }
+    g_Ship.reset();
+}
+
+void frmMain::replaceShip() {
+    auto ship = std::make_unique<ShipClass>(
         ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
                      .formula = m_services.globals.formula,
                      .eventLoopTurn = m_services.eventLoopTurn});
+    dropShip();
+    g_Ship = std::move(ship);
     const auto listen = [this](Signal<>& event, void (frmMain::*handler)()) {
         m_shipEvents.push_back(event.connect([this, handler] { (this->*handler)(); }));
     };
@@ -163,10 +173,14 @@ void frmMain::act(const std::function<void()>& act) {
         return;
     }
     const ActScope scope(*this);
-    const ShipClass::State before = g_Ship->state();
+    const ShipClass* const ship = g_Ship.get();
+    const ShipClass::State before = ship->state();
     try {
         act();
     } catch (const OverflowError&) {
+        if (g_Ship.get() != ship) {
+            return;  // the act's ship is gone, and the fault with it
+        }
         g_Ship->restore(before);
         RefreshScreen();
         g_Ship->g_bSaved = before.isSaved;

@@ -304,6 +304,7 @@ private:
 
     // The ship and its events.
     void replaceShip();
+    void dropShip();
     void g_Ship_Recalculated() { RefreshScreen(); }
     void g_Ship_CloakAndMerchant();
     void g_Ship_ShipLoaded();
@@ -384,6 +385,8 @@ private:
 
     MainWindowServices m_services;
     std::vector<Connection> m_shipEvents;
+    /// Ships that were replaced in the middle of their own work, by a turn of the event loop.
+    std::vector<std::unique_ptr<ShipClass>> m_formerShips;
     Connection m_countChanged;
     std::string sLastStatus;  ///< the status line at the last tick
     bool m_isActing = false;  ///< inside an act, whose outermost call undoes an overflow

@@ -157,7 +157,7 @@ TEST_F(Tool, CheckNamesEveryFault) {
     EXPECT_EQ(all(run({"--app", ".", "check", "bad.shp", "part.shp", "none.shp", "x.gif"})),
               "1|bad.shp:2: \"fast\" is no number\n"
               "part.shp:2: unknown system \"Laser\"\n"
-              "part.shp:3: a merchant hull cannot have a cloak and other systems\n"
+              "part.shp:4: a merchant hull cannot have a cloak and other systems\n"
               "none.shp: cannot be read: No such file or directory\n"
               "x.gif: neither a catalogue (.dat) nor a ship file (.shp)\n|");
     const ToolRun catalogue = run({"check", "ok/weaps.dat"});

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+#include <utility>
+
 using namespace fleetwright;
 
 namespace {
@@ -99,6 +102,78 @@ TEST(AutoMass, GivesUpWhereNothingFitsAndKeepsTheMass) {
     });
     EXPECT_EQ(overflowing.mass, 2);
     EXPECT_TRUE(overflowing.events.ends_with(") unsettled"));
+}
+
+TEST(AutoMass, HasAThousandPassesAndNoMore) {
+    const ShipYard yard;
+    const auto with = [&](std::int32_t mass, const char* system) {
+        return fit(yard, [=](ShipClass& ship) {
+            ship.mass(mass);
+            ship.addWeap(system, 1);
+        });
+    };
+    // Two units too heavy, two units too light, and so on for ever.
+    const Fitted wobbling = with(50, "Wobble");
+    EXPECT_EQ(wobbling.passes, 1000);
+    EXPECT_EQ(wobbling.mass, 50);
+    EXPECT_TRUE(wobbling.events.ends_with("( ) unsettled"));
+    // Many small steps are no circle.
+    const Fitted slow = with(3000, "Slow");
+    EXPECT_GT(slow.passes, 800);
+    EXPECT_EQ(slow.massLeft, 1);
+    EXPECT_TRUE(slow.events.ends_with(") )"));
+}
+
+TEST(AutoMass, ListenersMayChangeTheShipWhileItGivesUp) {
+    const ShipYard yard;
+    const auto ship = yard.newShip();
+    ship->mass(50);
+    ship->addWeap("Wobble", 1);
+    int writes = 0;
+    int unsettled = 0;
+    const Connection unsettledEvent = ship->AutoMassUnsettled.connect([&] { ++unsettled; });
+    // A window that writes back whatever mass it is shown.
+    const Connection window = ship->Recalculated.connect([&] {
+        if (++writes < 5) {
+            ship->mass(ship->mass());
+        }
+    });
+    ship->g_bAutoMass = true;
+    ship->weapChange();
+    EXPECT_EQ(ship->mass(), 50);
+    EXPECT_EQ(unsettled, 1);
+    EXPECT_LE(writes, 6);
+}
+
+TEST(AutoMass, ATurnOfTheEventLoopMayChangeTheShip) {
+    const ShipYard yard;
+    ShipServices services = yard.services();
+    std::function<void()> inTurn;
+    services.eventLoopTurn = [&] {
+        if (inTurn) {
+            std::exchange(inTurn, {})();
+        }
+    };
+    ShipClass ship(services);
+    ship.mass(50);
+    ship.addWeap("Ballast", 15);
+    // The user takes all that was to be fitted off the ship.
+    inTurn = [&] { ship.addWeap("Ballast", -15); };
+    ship.g_bAutoMass = true;
+    ship.weapChange();
+    EXPECT_EQ(ship.mass(), 0);
+    EXPECT_EQ(ship.g_iMassLeft, 0);
+    // What a turn throws ends the act, and the ship is as it was.
+    ship.g_bAutoMass = false;
+    ship.mass(50);
+    ship.g_bAutoMass = true;
+    const std::string before = figures(ship);
+    inTurn = [] { throw std::runtime_error("turn"); };
+    EXPECT_THROW(ship.weapChange(), std::runtime_error);
+    EXPECT_EQ(figures(ship), before);
+    EXPECT_FALSE(ship.isBusy());
+    ship.weapChange();
+    EXPECT_EQ(ship.mass(), 0);
 }
 
 TEST(AutoMass, WritesOfListenersSettleTogetherWithIt) {

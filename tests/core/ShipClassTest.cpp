@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace fleetwright;
 
 TEST(ShipClass, StartsAsASmallSavedWarship) {
@@ -87,6 +89,31 @@ TEST(ShipClass, ListenersSeeTheMarkThatBelongsToTheEvent) {
     const Connection loaded = ship->ShipLoaded.connect([&] { ship->weapChange(); });
     ship->loadShip(name);
     EXPECT_TRUE(ship->g_bSaved);
+}
+
+TEST(ShipClass, AListenerThatThrowsLeavesTheShipAsItWas) {
+    const ShipYard yard;
+    const auto ship = yard.newShip();
+    ship->mass(30);
+    ship->g_bSaved = true;
+    const std::string before = figures(*ship);
+    Connection fault = ship->Recalculated.connect([] { throw std::runtime_error("fault"); });
+    const std::vector<std::function<void()>> writes = {
+        [&] { ship->mass(150); },         [&] { ship->Hull(Merchant); },
+        [&] { ship->FTL(TugDrive); },     [&] { ship->THRUST(8); },
+        [&] { ship->Armor(2); },          [&] { ship->Streamline(2); },
+        [&] { ship->addWeap("Gun", 3); },
+    };
+    for (const auto& write : writes) {
+        EXPECT_THROW(write(), std::runtime_error);
+        EXPECT_EQ(figures(*ship), before);
+        EXPECT_EQ(ship->hullFigures().hullCost, 60);
+        EXPECT_TRUE(ship->g_bSaved);
+        EXPECT_FALSE(ship->isBusy());
+    }
+    fault = Connection();
+    ship->weapChange();
+    EXPECT_EQ(figures(*ship), before);
 }
 
 TEST(ShipClass, HoldsValuesToTheirBounds) {

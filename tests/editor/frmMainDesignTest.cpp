@@ -141,6 +141,27 @@ TEST(FrmMainDesign, AfterALoadTheMarkStaysAndTheShipsFlagIsOff) {
     EXPECT_TRUE(test.ship().g_bAutoMass);
 }
 
+TEST(FrmMainDesign, TheShipMayBeReplacedWhileAutoMassWorks) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    window.updwnMass_5.pressUp();
+    const std::string file = test.folder().write("a.shp", "Ship Name: Other\nMass: 30\n");
+    test.inTurn = [&] { window.loadFile(file); };
+    window.mnuAutoMass.choose();
+    EXPECT_EQ(test.ship().g_sShipName, "Other");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.txtMass.text() + ' ' + design(test.ship()), "30 1 30 2 1 0 0");
+
+    TestWindow closing;
+    closing.globals.g_bConfirmExit = false;
+    closing.window().show();
+    closing.window().updwnMass_5.pressUp();
+    closing.inTurn = [&] { closing.window().unload(); };
+    closing.window().mnuAutoMass.choose();
+    EXPECT_EQ(closing.window().g_Ship, nullptr);
+}
+
 TEST(FrmMainDesign, AnActThatOverflowsIsUndoneAsAWhole) {
     TestWindow test;
     frmMain& window = test.window();

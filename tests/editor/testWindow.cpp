@@ -2,6 +2,8 @@
 
 #include "Error.h"
 
+#include <utility>
+
 namespace fleetwright {
 
 const std::string_view windowCatalogue =
@@ -75,7 +77,12 @@ TestWindow::TestWindow(std::string_view catalogue)
     m_folder.write("weaps.dat", catalogue);
     m_window = std::make_unique<frmMain>(
         MainWindowServices{.appFolder = m_folder.path(),
-                           .eventLoopTurn = {},
+                           .eventLoopTurn =
+                               [this] {
+                                   if (inTurn) {
+                                       std::exchange(inTurn, {})();
+                                   }
+                               },
                            .freeFormulaLibrary = [this] { m_log += "free library; "; },
                            .desktop = *m_desk,
                            .pictures = *m_pictures,

@@ -37,6 +37,8 @@ public:
 
     Globals globals;
     Answer answer = Answer::No;
+    /// What happens in the next turn of the event loop.
+    std::function<void()> inTurn;
     /// What the user does in the next dialog.
     std::function<void(Form&)> inDialog;
 

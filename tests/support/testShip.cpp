@@ -15,6 +15,8 @@ const std::string_view testCatalogue =
     "party.gif\r\n"
     "Ballast,amount,0,SYSTEMS,SYSTEMS,OFP,ballast.gif\r\n"
     "Sponge,roundup(mass * 0.6),1,SYSTEMS,SYSTEMS,o,sponge.gif\r\n"
+    "Wobble,mass % 4 = 2 ? mass / 2 + 1 : mass / 2 - 2,1,SYSTEMS,SYSTEMS,O,wobble.gif\r\n"
+    "Slow,mass / 2 - 10 + (3000 - mass) * 0.005,1,SYSTEMS,SYSTEMS,O,slow.gif\r\n"
     "Giant,2000000000,2000000000,SYSTEMS,SYSTEMS,,giant.gif\r\n";
 
 ShipYard::ShipYard(std::string_view catalogue) {
