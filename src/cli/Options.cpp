@@ -44,6 +44,7 @@ public:
         addSave();
         addEval();
         addCheck();
+        add(Command::Unpack, "unpack", "Unpack the pictures into the application folder");
     }
 
     Options parse(int argc, const char* const* argv) {

@@ -21,6 +21,7 @@ int runExplain(const Options& options);
 int runSave(const Options& options);
 int runEval(const Options& options);
 int runCheck(const Options& options);
+int runUnpack(const Options& options);
 
 /// What the ships of the tool stand on: the application folder's catalogue, and the evaluator.
 ShipServices shipServices(const Options& options);

@@ -18,7 +18,8 @@ bool isWanted(const QXmlStreamAttributes& attributes, const Variant& variant) {
         if (!attribute.qualifiedName().startsWith(prefix)) {
             continue;
         }
-        const auto found = variant.find(attribute.qualifiedName().mid(prefix.size()).toUtf8().data());
+        const auto found =
+            variant.find(attribute.qualifiedName().mid(prefix.size()).toUtf8().data());
         const QString value =
             found == variant.end() ? QString() : QString::fromStdString(found->second);
         if (!attribute.value().toString().split(' ').contains(value)) {

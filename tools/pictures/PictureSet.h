@@ -30,7 +30,7 @@ PictureSet windowPictures(const Artwork& artwork);
 
 /// What a picture's file name says about its making.
 struct PictureName {
-    std::string source;  ///< name of the source
+    std::string source;       ///< name of the source
     std::string weaponClass;  ///< "1" to "4", or empty
     std::string arc;          ///< "f", "p", … "all", or empty
 };

@@ -45,11 +45,11 @@ std::string gifFile(const QImage& image) {
     int error = 0;
     GifFileType* const gif = EGifOpen(&bytes, appendTo, &error);
     const auto map = colourMap(image);
-    bool isDone = gif != nullptr && map != nullptr &&
-                  EGifPutScreenDesc(gif, image.width(), image.height(), map->BitsPerPixel, 0,
-                                    map.get()) != GIF_ERROR &&
-                  EGifPutImageDesc(gif, 0, 0, image.width(), image.height(), false, nullptr) !=
-                      GIF_ERROR;
+    bool isDone =
+        gif != nullptr && map != nullptr &&
+        EGifPutScreenDesc(gif, image.width(), image.height(), map->BitsPerPixel, 0, map.get()) !=
+            GIF_ERROR &&
+        EGifPutImageDesc(gif, 0, 0, image.width(), image.height(), false, nullptr) != GIF_ERROR;
     for (int y = 0; isDone && y < image.height(); ++y) {
         const uchar* const row = image.constScanLine(y);
         std::vector<GifPixelType> pixels(row, row + image.width());

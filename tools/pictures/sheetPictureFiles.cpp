@@ -44,8 +44,7 @@ QImage drawTrack(TrackSize size, int points) {
     const int longest = (points + rows - 1) / rows;
     const int rowHeight = room.height() / rows;
     constexpr int gap = 2;
-    const int step =
-        std::min((room.width() - 1) / std::max(longest, 1), rowHeight - gap - 1);
+    const int step = std::min((room.width() - 1) / std::max(longest, 1), rowHeight - gap - 1);
     for (int row = 0; row < rows; ++row) {
         const int boxes = points / rows + (row < points % rows ? 1 : 0);
         for (int box = 0; box < boxes; ++box) {
@@ -67,8 +66,7 @@ PictureSet sheetPictureFiles(const Artwork& artwork) {
     pictures[std::string(fireControlPicture)] = drawSheetSource(artwork, "fire-control");
     pictures[std::string(unusedFireControlPicture)] = gifFile(blankInk(systemSize));
     pictures[drivePicture(NoDrive)] = gifFile(blankInk(systemSize));
-    pictures[drivePicture(NormalDrive)] =
-        drawSheetSource(artwork, "drive", {{"drive", "normal"}});
+    pictures[drivePicture(NormalDrive)] = drawSheetSource(artwork, "drive", {{"drive", "normal"}});
     pictures[drivePicture(TugDrive)] = drawSheetSource(artwork, "drive", {{"drive", "tug"}});
     for (int thrust = 0; thrust <= mostThrust; ++thrust) {
         pictures[thrustPicture(thrust)] =

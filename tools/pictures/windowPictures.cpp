@@ -60,8 +60,8 @@ void addIcons(PictureSet& pictures, const Artwork& artwork) {
 }
 
 QImage drawSplash(const Artwork& artwork, const std::string& name, QSize size) {
-    return inFewColours(drawColours(artwork.svg("window/" + name), size)
-                            .convertToFormat(QImage::Format_RGB32));
+    return inFewColours(
+        drawColours(artwork.svg("window/" + name), size).convertToFormat(QImage::Format_RGB32));
 }
 
 }  // namespace
