@@ -115,6 +115,8 @@ QImage inFewColours(const QImage& image) {
         table.append(qRgb(colour[0], colour[1], colour[2]));
     }
     result.setColorTable(table);
+    // The bytes that pad the rows go into BMP files too.
+    std::fill_n(result.bits(), result.sizeInBytes(), uchar{0});
 
     // Error diffusion after Floyd and Steinberg, in sixteenths; else the skies show their steps.
     const auto width = static_cast<std::size_t>(image.width());
