@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 
 namespace fleetwright {
 namespace {
@@ -66,6 +67,23 @@ TEST(CataloguePictures, NoTwoAreNearlyTheSame) {
                 << first->first << " and " << second->first;
         }
     }
+}
+
+TEST(CataloguePictures, NoSourceIsLeftOver) {
+    std::set<std::string> used;
+    for (const WeapRec& record : deliveredCatalogue().records()) {
+        const std::string file(record.icon);
+        used.insert(file.starts_with("cat-") ? file.substr(4, file.size() - 8)
+                                             : readPictureName(file).source);
+    }
+    std::set<std::string> there;
+    for (const char* folder : {"systems", "categories"}) {
+        for (const auto& entry :
+             std::filesystem::directory_iterator(projectArtwork().file(folder))) {
+            there.insert(entry.path().stem().string());
+        }
+    }
+    EXPECT_EQ(there, used);
 }
 
 TEST(CataloguePictures, SymbolsLeaveTheCornerOfTheMountingMarkFree) {

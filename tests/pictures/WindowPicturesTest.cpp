@@ -1,7 +1,7 @@
-#include "Sound.h"
 #include "renderedSets.h"
 #include "runCommand.h"
 
+#include <QFile>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -67,6 +67,14 @@ TEST(WindowPictures, TheSplashPicturesShowTheVersion) {
     const PictureSet changed = windowPictures(other);
     for (const auto& [name, bytes] : renderedWindow()) {
         EXPECT_EQ(changed.at(name) != bytes, name.starts_with("splash-")) << name;
+    }
+}
+
+TEST(WindowPictures, AreResourcesOfAProgramThatLinksThem) {
+    for (const auto& [name, bytes] : renderedWindow()) {
+        QFile file(QString::fromStdString(":/pictures/" + name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+        EXPECT_EQ(file.readAll().toStdString(), bytes) << name;
     }
 }
 
