@@ -20,7 +20,8 @@ enum class TrackSize { Escort, Cruiser, Capital };
 inline constexpr TrackSize trackSizes[] = {TrackSize::Escort, TrackSize::Cruiser,
                                            TrackSize::Capital};
 
-/// The size of track that a map of this SIZE takes: up to mass 18, 36, and all above.
+/// The size of track that a map of this SIZE takes: up to mass 18, 36 and 100. Larger maps have
+/// none.
 TrackSize trackSize(std::int32_t mapMass);
 
 /// File name of the damage track for a number of damage points, as the ship's window says it.

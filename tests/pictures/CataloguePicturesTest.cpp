@@ -135,19 +135,24 @@ TEST(CataloguePictures, AFaultySourceIsNamedWithItsLine) {
     fs::create_directories(folder);
     fs::copy_file(projectArtwork().file("lettering.txt"), folder / "lettering.txt",
                   fs::copy_options::overwrite_existing);
-    std::ofstream(folder / "broken.svg") << "<svg>\n<path>\n</svg>\n";
+    const std::map<std::string, std::pair<std::string, std::string>> sources = {
+        {"broken", {"<svg>\n<path>\n</svg>\n", "line 3: "}},
+        {"page", {"<html/>", "line 1: no SVG picture"}},
+        {"letter", {"<svg>\n<text>a~b</text></svg>", "line 2: the lettering has no \"~\""}}};
     const Artwork artwork(folder, "1");
-    for (const char* name : {"broken", "absent"}) {
+    for (const auto& [name, source] : sources) {
+        std::ofstream(folder / (name + ".svg")) << source.first;
         try {
             artwork.svg(name);
-            FAIL() << name;
+            ADD_FAILURE() << name;
         } catch (const FileError& error) {
-            EXPECT_EQ(error.file(), folder / (std::string(name) + ".svg"));
-            if (std::string(name) == "broken") {
-                EXPECT_NE(std::string(error.what()).find("line 3"), std::string::npos);
-            }
+            EXPECT_EQ(error.file(), folder / (name + ".svg"));
+            EXPECT_EQ(std::string(error.what()).find(source.second), 0U) << error.what();
         }
     }
+    EXPECT_THROW(artwork.svg("absent"), FileError);
+    std::ofstream(folder / "lettering.txt") << "A 10 M 0 0 L x 3\n";
+    EXPECT_THROW(Artwork(folder, "1"), FileError);
     fs::remove_all(folder);
 }
 

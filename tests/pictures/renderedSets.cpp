@@ -39,7 +39,7 @@ QImage decode(const std::string& bytes, const char* format) {
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
     EXPECT_EQ(reader.format().toStdString(), format);
-    const QImage image = reader.read();
+    QImage image = reader.read();
     EXPECT_FALSE(image.isNull()) << reader.errorString().toStdString();
     return image;
 }

@@ -71,32 +71,38 @@ QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
     reader.setNamespaceProcessing(false);
     QByteArray svg;
     QXmlStreamWriter writer(&svg);
+    const auto fail = [&](const std::string& fault) {
+        throw FileError(source, "line " + std::to_string(reader.lineNumber()) + ": " + fault);
+    };
     while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement: {
-            const QXmlStreamAttributes attributes = reader.attributes();
-            if (!isWanted(attributes, variant)) {
-                reader.skipCurrentElement();
-            } else if (reader.name() == QLatin1String("text")) {
-                const QString text = reader.readElementText().replace(
-                    "{version}", QString::fromStdString(m_version));
-                writeText(writer, attributes, text.toStdString(), m_lettering);
-            } else {
-                writer.writeStartElement(reader.qualifiedName().toString());
-                writer.writeAttributes(attributes);
-            }
-            break;
-        }
-        case QXmlStreamReader::EndElement:
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::EndElement) {
             writer.writeEndElement();
-            break;
-        default:
-            break;
+        }
+        if (token != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        const QXmlStreamAttributes attributes = reader.attributes();
+        if (svg.isEmpty() && reader.qualifiedName() != QLatin1String("svg")) {
+            fail("no SVG picture");
+        }
+        if (!isWanted(attributes, variant)) {
+            reader.skipCurrentElement();
+        } else if (reader.qualifiedName() == QLatin1String("text")) {
+            const QString text =
+                reader.readElementText().replace("{version}", QString::fromStdString(m_version));
+            try {
+                writeText(writer, attributes, text.toStdString(), m_lettering);
+            } catch (const Error& error) {
+                fail(error.what());
+            }
+        } else {
+            writer.writeStartElement(reader.qualifiedName().toString());
+            writer.writeAttributes(attributes);
         }
     }
     if (reader.hasError()) {
-        throw FileError(source, "line " + std::to_string(reader.lineNumber()) + ": " +
-                                    reader.errorString().toStdString());
+        fail(reader.errorString().toStdString());
     }
     return svg;
 }

@@ -3,8 +3,10 @@
 #include "Error.h"
 #include "TextFile.h"
 
-#include <iomanip>
+#include <cctype>
+#include <cstring>
 #include <sstream>
+#include <stdexcept>
 
 namespace fleetwright {
 
@@ -21,6 +23,9 @@ std::string moved(const std::string& path, double by) {
     while (words >> word) {
         if (std::isalpha(static_cast<unsigned char>(word.front())) != 0) {
             command = word.front();
+            if (word.size() > 1 || !std::strchr("MLHVCQ", command)) {
+                throw std::invalid_argument(word);
+            }
             isX = command != 'V';
             result << command << ' ';
             continue;
@@ -49,6 +54,12 @@ Lettering::Lettering(const std::filesystem::path& file) {
                                       ": no letter with a width");
         }
         std::getline(words, letter.path);
+        try {
+            moved(letter.path, 0);
+        } catch (const std::logic_error&) {
+            throw FileError(file, "line " + std::to_string(lines.lineNumber()) +
+                                      ": a path that is not understood");
+        }
         m_letters[which] = letter;
     }
     constexpr double blankWidth = 9;
