@@ -28,7 +28,7 @@ std::string readBytes(const std::filesystem::path& path) {
     // Its own buffer would only be one more copy: the file is read in one go.
     std::setvbuf(file.get(), nullptr, _IONBF, 0);
 
-    constexpr std::size_t firstTry = 16 * 1024;
+    constexpr std::size_t firstTry = 16'384;
     std::error_code noSize;
     const std::uintmax_t size = std::filesystem::file_size(path, noSize);
     std::string bytes(noSize ? firstTry : static_cast<std::size_t>(size) + 1, '\0');
@@ -61,7 +61,10 @@ std::string readTextFile(const std::filesystem::path& file) {
     if (text.starts_with(byteOrderMark)) {
         text.erase(0, byteOrderMark.size());
     }
-    return isUtf8(text) ? text : windows1252ToUtf8(text);
+    if (!isUtf8(text)) {
+        text = windows1252ToUtf8(text);
+    }
+    return text;
 }
 
 bool LineReader::next(std::string_view& line) {

@@ -5,13 +5,16 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
+#include <limits>
 
 namespace fleetwright {
 
 namespace {
 
 constexpr const char* description = "Works on FleetWright starship designs without a window.";
+constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
 
 /// Strict: no blanks, no fraction, no other base, which the library would let pass.
 void addNumber(CLI::App& command, const std::string& name, std::int32_t& number,
@@ -28,7 +31,7 @@ void addNumber(CLI::App& command, const std::string& name, std::int32_t& number,
         ->type_name("N");
 }
 
-/// The whole command line. One function a command, so that the table of commands stays a table.
+/// The whole command line. The library reads it up to a "--"; what follows there is files.
 class Parser {
 public:
     Parser() {
@@ -38,18 +41,15 @@ public:
         m_app.add_option("--app", m_appFolder, "The application folder, by default the tool's own")
             ->type_name("DIR");
         m_app.allow_extras();
-        addReport();
-        addFigures();
-        addExplain();
-        addSave();
-        addEval();
-        addCheck();
-        add(Command::Unpack, "unpack", "Unpack the pictures into the application folder");
+        addCommands();
     }
 
     Options parse(int argc, const char* const* argv) {
+        const char* const* const end = argv + argc;
+        const char* const* const mark =
+            std::find_if(argv, end, [](std::string_view word) { return word == "--"; });
         try {
-            m_app.parse(argc, argv);
+            m_app.parse(static_cast<int>(mark - argv), argv);
         } catch (const CLI::CallForHelp&) {
             m_options.answer = m_app.help();
             return m_options;
@@ -59,93 +59,94 @@ public:
         } catch (const CLI::ParseError& error) {
             throw UsageError(error.what());
         }
-        takeRest();
+        checkExtras();
+        if (mark != end) {
+            m_words.insert(m_words.end(), mark + 1, end);
+        }
+        takeWords();
         m_options.appFolder =
             m_appFolder.empty() ? executableFolder(argv[0]) : nativePath(m_appFolder);
         return m_options;
     }
 
 private:
-    CLI::App* add(Command command, const std::string& name, const std::string& help) {
-        CLI::App* const subcommand = m_app.add_subcommand(name, help);
-        subcommand->fallthrough();
-        subcommand->set_help_flag("-h,--help", "Show this help");
-        subcommand->callback([this, command] { m_options.command = command; });
+    /// Adds a command that takes from `least` to `most` words, which the help calls `words`.
+    CLI::App& add(Command command, const std::string& name, const std::string& words,
+                  std::size_t least, std::size_t most, const std::string& help) {
+        CLI::App& subcommand = *m_app.add_subcommand(name, help);
+        subcommand.fallthrough();
+        subcommand.set_help_flag("-h,--help", "Show this help");
+        if (most > 0) {
+            subcommand.add_option(words, m_words)->type_name("");
+        }
+        subcommand.callback([=, this] {
+            m_options.command = command;
+            m_wordNames = words;
+            m_least = least;
+            m_most = most;
+        });
         return subcommand;
     }
 
-    void addShips(CLI::App* command) {
-        command->add_option("SHIP", m_options.files, "Ship files")->required()->type_name("");
-    }
-
-    void addReport() { addShips(add(Command::Report, "report", "Print the report of ships")); }
-
-    void addFigures() {
-        CLI::App* const command =
-            add(Command::Figures, "figures", "Print the figures of ships, one JSON object a line");
-        addShips(command);
-        command->add_flag("--auto-mass", m_options.autoMass, "Fit the hull mass to the systems");
-    }
-
-    void addExplain() {
-        addShips(add(Command::Explain, "explain",
-                     "Say what cost, damage points and mass left are made of"));
-    }
-
-    void addSave() {
-        CLI::App* const command = add(Command::Save, "save", "Load a ship and save it as OUT");
-        command->add_option("SHIP", m_ship, "Ship file")->required()->type_name("");
-        command->add_option("OUT", m_options.saveName, "File to write")->required()->type_name("");
-    }
-
-    void addEval() {
-        CLI::App* const command =
-            add(Command::Eval, "eval", "Work out a mass or cost formula of the catalogue");
-        m_formula = command->add_option("FORMULA", m_options.formula, "The formula, one argument")
-                        ->type_name("");
+    void addCommands() {
+        add(Command::Report, "report", "SHIP", 1, any, "Print the report of ships");
+        add(Command::Figures, "figures", "SHIP", 1, any,
+            "Print the figures of ships, one JSON object a line")
+            .add_flag("--auto-mass", m_options.autoMass, "Fit the hull mass to the systems");
+        add(Command::Explain, "explain", "SHIP", 1, any,
+            "Say what cost, damage points and mass left are made of");
+        add(Command::Save, "save", "SHIP OUT", 2, 2, "Load a ship and save it as OUT");
+        CLI::App& eval = add(Command::Eval, "eval", "FORMULA", 1, 1,
+                             "Work out a mass or cost formula of the catalogue");
         EvalArguments& arguments = m_options.evalArguments;
-        addNumber(*command, "--mass", arguments.mass, "Hull mass");
-        addNumber(*command, "--hull", arguments.hull, "Hull type code");
-        addNumber(*command, "--ftl", arguments.ftl, "FTL code");
-        addNumber(*command, "--thrust", arguments.thrust, "Thrust");
-        addNumber(*command, "--hull-cost", arguments.hullCost, "Hull cost");
-        addNumber(*command, "--amount", arguments.amount, "Pieces");
+        addNumber(eval, "--mass", arguments.mass, "Hull mass");
+        addNumber(eval, "--hull", arguments.hull, "Hull type code");
+        addNumber(eval, "--ftl", arguments.ftl, "FTL code");
+        addNumber(eval, "--thrust", arguments.thrust, "Thrust");
+        addNumber(eval, "--hull-cost", arguments.hullCost, "Hull cost");
+        addNumber(eval, "--amount", arguments.amount, "Pieces");
+        add(Command::Check, "check", "FILE", 0, any,
+            "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the "
+            "application folder");
+        add(Command::Unpack, "unpack", "", 0, 0, "Unpack the pictures into the application folder");
     }
 
-    void addCheck() {
-        CLI::App* const command =
-            add(Command::Check, "check",
-                "Say what is wrong with files, or with all of the application folder");
-        command->add_option("FILE", m_options.files, "Catalogue (.dat) and ship files")
-            ->type_name("");
+    /// What the library has not understood. A formula may begin with a sign, which looks like an
+    /// option to it.
+    void checkExtras() {
+        for (const std::string& extra : m_app.remaining(true)) {
+            const bool isFormula = m_options.command == Command::Eval && extra.rfind("--", 0) != 0;
+            if (!isFormula) {
+                throw UsageError("not understood: " + extra);
+            }
+            m_words.push_back(extra);
+        }
     }
 
-    /// What no option and no command has taken. A formula may begin with a sign, which looks like
-    /// an option.
-    void takeRest() {
-        std::vector<std::string> rest = m_app.remaining(true);
-        std::erase(rest, "--");
-        if (m_options.command == Command::Eval && m_formula->count() == 0) {
-            if (rest.empty()) {
-                throw UsageError("FORMULA is required");
-            }
-            if (rest.front().rfind("--", 0) != 0) {
-                m_options.formula = rest.front();
-                rest.erase(rest.begin());
-            }
+    void takeWords() {
+        if (m_words.size() < m_least) {
+            throw UsageError(m_wordNames + " is missing");
         }
-        if (!rest.empty()) {
-            throw UsageError("not understood: " + rest.front());
+        if (m_words.size() > m_most) {
+            throw UsageError("one too many: " + m_words[m_most]);
         }
+        if (m_options.command == Command::Eval) {
+            m_options.formula = m_words.front();
+            return;
+        }
+        m_options.files = m_words;
         if (m_options.command == Command::Save) {
-            m_options.files = {m_ship};
+            m_options.saveName = m_words.back();
+            m_options.files.pop_back();
         }
     }
 
     CLI::App m_app{description, "fleetwright-cli"};
     std::string m_appFolder;
-    std::string m_ship;
-    CLI::Option* m_formula = nullptr;
+    std::vector<std::string> m_words;
+    std::string m_wordNames;
+    std::size_t m_least = 0;
+    std::size_t m_most = 0;
     Options m_options;
 };
 

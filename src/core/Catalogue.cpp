@@ -23,10 +23,11 @@ CatalogueLine cutCatalogueLine(std::string_view line) {
     return fields;
 }
 
-void Catalogue::load(const std::filesystem::path& file) {
+void Catalogue::loadWeaps(const std::filesystem::path& file) {
     m_text = readTextFile(file);
-    constexpr std::size_t usualLineLength = 80;
-    m_records.reserve(m_text.size() / usualLineLength);
+    // Room for short lines: what is not used of it is never touched, but growing would move all.
+    constexpr std::size_t shortLineLength = 40;
+    m_records.reserve(m_text.size() / shortLineLength);
 
     LineReader lines(m_text);
     std::string_view line;

@@ -60,7 +60,7 @@ public:
     ~Catalogue() = default;
 
     /// Reads the file. Throws FileError.
-    void load(const std::filesystem::path& file);
+    void loadWeaps(const std::filesystem::path& file);
 
     /// The records in the order of the file.
     std::vector<WeapRec>& records() { return m_records; }

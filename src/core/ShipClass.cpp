@@ -11,7 +11,7 @@
 namespace fleetwright {
 
 ShipClass::ShipClass(ShipServices services) : m_services(std::move(services)) {
-    m_catalogue.load(m_services.catalogueFile);
+    m_catalogue.loadWeaps(m_services.catalogueFile);
     g_lWeapCount = narrow<std::int32_t>(std::ssize(m_catalogue.records()));
     recalcShip();
     g_bSaved = true;

@@ -176,7 +176,7 @@ private:
     HullFigures m_hullFigures;
     std::optional<Fault> m_fileFault;
     std::vector<RefusedLine> m_refusedLines;
-    std::string m_formulaBuffer;
+    std::vector<char> m_formulaBuffer;
 
     AutoMassRun m_autoMassRun = AutoMassRun::Working;
     int m_passDepth = 0;

@@ -63,10 +63,10 @@ bool ShipClass::loadShip(const std::string& in_sFileName) {
         g_bAutoMass = false;
         readShipFile(in_sFileName, lineNumber);
         lineNumber = 0;
-        takeFileName(in_sFileName);
         // Without systems nothing has been recalculated yet. A ship whose figures will not fit
         // their fields is refused here, and not when it is first shown.
         workOutFigures(asShown(m_hull));
+        takeFileName(in_sFileName);
         ShipLoaded.raise();
     } catch (const Error& error) {
         m_fileFault = Fault{lineNumber, error.what()};

@@ -2,6 +2,7 @@
 
 #include "checkedArithmetic.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace fleetwright {
@@ -126,11 +127,14 @@ void ShipClass::restoreMass(std::int32_t mass) {
 /// stays in `text`.
 std::int32_t ShipClass::evaluate(std::string_view& text, const HullDesign& hull,
                                  std::int32_t hullCost, std::int32_t amount) {
-    m_formulaBuffer = text;
+    // One buffer serves all calls; it only ever grows to the longest formula.
+    m_formulaBuffer.resize(std::max(m_formulaBuffer.size(), text.size() + 1));
+    std::memcpy(m_formulaBuffer.data(), text.data(), text.size());
+    m_formulaBuffer[text.size()] = '\0';
     const std::int32_t value = m_services.formula(m_formulaBuffer.data(), hull.mass, hull.hullType,
                                                   hull.ftl, hull.thrust, hullCost, amount);
     if (std::memcmp(m_formulaBuffer.data(), text.data(), text.size()) != 0) {
-        text = m_catalogue.keep(m_formulaBuffer.c_str());
+        text = m_catalogue.keep(m_formulaBuffer.data());
     }
     return value;
 }

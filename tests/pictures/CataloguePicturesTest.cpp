@@ -1,11 +1,11 @@
 #include "Error.h"
+#include "TemporaryFolder.h"
 #include "drawing.h"
 #include "renderedSets.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <set>
 
@@ -130,18 +130,16 @@ TEST(CataloguePictures, NamesSayWhatAPictureIsMadeOf) {
 }
 
 TEST(CataloguePictures, AFaultySourceIsNamedWithItsLine) {
-    namespace fs = std::filesystem;
-    const fs::path folder = fs::path(testing::TempDir()) / "faulty-artwork";
-    fs::create_directories(folder);
-    fs::copy_file(projectArtwork().file("lettering.txt"), folder / "lettering.txt",
-                  fs::copy_options::overwrite_existing);
+    const TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.path();
+    std::filesystem::copy_file(projectArtwork().file("lettering.txt"), folder / "lettering.txt");
     const std::map<std::string, std::pair<std::string, std::string>> sources = {
         {"broken", {"<svg>\n<path>\n</svg>\n", "line 3: "}},
         {"page", {"<html/>", "line 1: no SVG picture"}},
         {"letter", {"<svg>\n<text>a~b</text></svg>", "line 2: the lettering has no \"~\""}}};
     const Artwork artwork(folder, "1");
     for (const auto& [name, source] : sources) {
-        std::ofstream(folder / (name + ".svg")) << source.first;
+        temporary.write(name + ".svg", source.first);
         try {
             artwork.svg(name);
             ADD_FAILURE() << name;
@@ -151,9 +149,8 @@ TEST(CataloguePictures, AFaultySourceIsNamedWithItsLine) {
         }
     }
     EXPECT_THROW(artwork.svg("absent"), FileError);
-    std::ofstream(folder / "lettering.txt") << "A 10 M 0 0 L x 3\n";
+    temporary.write("lettering.txt", "A 10 M 0 0 L x 3\n");
     EXPECT_THROW(Artwork(folder, "1"), FileError);
-    fs::remove_all(folder);
 }
 
 }  // namespace

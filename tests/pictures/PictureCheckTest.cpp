@@ -1,5 +1,6 @@
 #include "PictureCheck.h"
 
+#include "TemporaryFolder.h"
 #include "renderedSets.h"
 #include "runCommand.h"
 
@@ -29,19 +30,15 @@ std::string lineOf(const std::string& picture) {
 
 class PictureCheckTest : public testing::Test {
 protected:
-    void write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(m_folder.path() / name, std::ios::binary) << bytes;
-    }
-
     void writeAllSystems() const {
         for (const char* name : {"cat-pulse-cannons.gif", "maw-f.gif", "armor-plate.gif"}) {
-            write(name, renderedCatalogue().at(name));
+            m_folder.write(name, renderedCatalogue().at(name));
         }
     }
 
     void writeAllOfSheets() const {
         for (const auto& [name, bytes] : renderedSheet()) {
-            write(name, bytes);
+            m_folder.write(name, bytes);
         }
     }
 
@@ -56,7 +53,7 @@ protected:
         return faults;
     }
 
-    ScratchFolder m_folder;
+    TemporaryFolder m_folder;
 };
 
 TEST_F(PictureCheckTest, FindsNothingWrongWithAGoodFolder) {
@@ -69,9 +66,9 @@ TEST_F(PictureCheckTest, FindsNothingWrongWithAGoodFolder) {
 TEST_F(PictureCheckTest, NamesTheLineOfAPictureThatIsMissingOrFaulty) {
     writeAllSystems();
     const std::string& whole = renderedCatalogue().at("maw-f.gif");
-    write("maw-f.gif", whole.substr(0, whole.size() / 2));
+    m_folder.write("maw-f.gif", whole.substr(0, whole.size() / 2));
     std::filesystem::remove(m_folder.path() / "cat-pulse-cannons.gif");
-    write("armor-plate.gif", renderedSheet().at("cap3.gif"));
+    m_folder.write("armor-plate.gif", renderedSheet().at("cap3.gif"));
     const std::vector<Fault> expected = {
         {2, "picture \"cat-pulse-cannons.gif\" is missing"},
         {3, "picture \"Maw-F.gif\" cannot be read"},
@@ -83,9 +80,9 @@ TEST_F(PictureCheckTest, NamesWhatSheetsMissAndWhatNothingUses) {
     writeAllSystems();
     writeAllOfSheets();
     std::filesystem::remove(m_folder.path() / "escort4.gif");
-    write("thrust3.gif", "no picture");
-    write("holiday.jpg", "whatever");
-    write("notes.txt", "no picture and none of our business");
+    m_folder.write("thrust3.gif", "no picture");
+    m_folder.write("holiday.jpg", "whatever");
+    m_folder.write("notes.txt", "no picture and none of our business");
     const std::vector<std::string> expected = {"escort4.gif: is missing; sheets need it",
                                                "thrust3.gif: cannot be read",
                                                "holiday.jpg: nothing uses this picture"};
@@ -107,7 +104,7 @@ TEST_F(PictureCheckTest, TheCommandSaysItAllWithFileAndLine) {
     EXPECT_EQ(runCommand(check).output, "");
 
     std::filesystem::remove(m_folder.path() / "images" / "cat-pulse-cannons.gif");
-    std::ofstream(m_folder.path() / "images" / "stray.gif") << "x";
+    m_folder.write("images/stray.gif", "x");
     const CommandResult result = runCommand(check);
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.output.find("weaps.dat:" + lineOf("cat-pulse-cannons.gif") +

@@ -1,13 +1,12 @@
 #include "Sound.h"
 
 #include "Error.h"
+#include "TemporaryFolder.h"
 #include "renderedSets.h"
-#include "runCommand.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
 
 namespace fleetwright {
 namespace {
@@ -57,9 +56,8 @@ TEST(Sound, IsHeardWithoutClippingAndFadesAway) {
 }
 
 TEST(Sound, AFaultyDescriptionIsNamedWithItsLine) {
-    const ScratchFolder folder;
-    const auto file = folder.path() / "sound.txt";
-    std::ofstream(file) << "# a comment\nvoice start 0 length loud\n";
+    const TemporaryFolder folder;
+    const std::string file = folder.write("sound.txt", "# a comment\nvoice start 0 length loud\n");
     try {
         waveFile(file);
         FAIL();

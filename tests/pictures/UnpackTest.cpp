@@ -1,25 +1,19 @@
 #include "unpackFiles.h"
 
 #include "Error.h"
+#include "TemporaryFolder.h"
 #include "renderedSets.h"
 #include "runCommand.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <fstream>
-#include <iterator>
 #include <sys/resource.h>
 
 namespace fleetwright {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 /// Bounds the size of files that this process can write, which fails like a full disk.
 class FileSizeLimit {
@@ -43,20 +37,20 @@ private:
 };
 
 TEST(UnpackFiles, WritesAllAndReplacesOldOnes) {
-    const ScratchFolder folder;
-    std::ofstream(folder.path() / "b.gif") << "old and longer";
-    std::ofstream(folder.path() / "mine.gif") << "mine";
+    const TemporaryFolder folder;
+    folder.write("b.gif", "old and longer");
+    folder.write("mine.gif", "mine");
     const std::string bytes("\0\377\r\n", 4);
     const ArchivedFile files[] = {{"a.gif", bytes}, {"b.gif", "new"}};
     unpackFiles(files, folder.path());
-    EXPECT_EQ(contents(folder.path() / "a.gif"), bytes);
-    EXPECT_EQ(contents(folder.path() / "b.gif"), "new");
-    EXPECT_EQ(contents(folder.path() / "mine.gif"), "mine");
-    EXPECT_EQ(folder.count(), 3);
+    EXPECT_EQ(folder.read("a.gif"), bytes);
+    EXPECT_EQ(folder.read("b.gif"), "new");
+    EXPECT_EQ(folder.read("mine.gif"), "mine");
+    EXPECT_EQ(folder.entries(), 3);
 }
 
 TEST(UnpackFiles, ADiskThatFillsUpLeavesNothing) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     const std::string large(20000, 'x');
     const ArchivedFile files[] = {{"a.gif", "small"}, {"b.gif", large}, {"c.gif", "small"}};
     const FileSizeLimit limit(8000);
@@ -67,36 +61,36 @@ TEST(UnpackFiles, ADiskThatFillsUpLeavesNothing) {
         EXPECT_EQ(error.file(), folder.path() / "b.gif");
         EXPECT_EQ(std::string(error.what()).find("cannot be written: "), 0U);
     }
-    EXPECT_EQ(folder.count(), 0);
+    EXPECT_EQ(folder.entries(), 0);
 }
 
 TEST(UnpackFiles, ANameThatCannotBeTakenLeavesTheFolderAsItWas) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     fs::create_directories(folder.path() / "b.gif" / "inside");
     const ArchivedFile files[] = {{"a.gif", "a"}, {"b.gif", "b"}};
     EXPECT_THROW(unpackFiles(files, folder.path()), FileError);
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.entries(), 1);
     EXPECT_TRUE(fs::exists(folder.path() / "b.gif" / "inside"));
 }
 
 TEST(PictureArchive, UnpacksEveryPictureOfCatalogueAndSheet) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     const CommandResult result = runCommand("cd " + folder.path().string() + " && " ARCHIVE " -o");
     ASSERT_EQ(result.status, 0) << result.output;
     PictureSet expected = renderedCatalogue();
     expected.insert(renderedSheet().begin(), renderedSheet().end());
     for (const auto& [name, bytes] : expected) {
-        EXPECT_EQ(contents(folder.path() / name), bytes) << name;
+        EXPECT_EQ(folder.read(name), bytes) << name;
     }
-    EXPECT_EQ(folder.count(), static_cast<int>(expected.size()));
+    EXPECT_EQ(folder.entries(), static_cast<int>(expected.size()));
 }
 
 TEST(PictureArchive, WithoutItsOptionItSaysWhatItIsAndWritesNothing) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     const CommandResult result = runCommand("cd " + folder.path().string() + " && " ARCHIVE);
     EXPECT_EQ(result.status, 2);
     EXPECT_NE(result.output.find("-o"), std::string::npos);
-    EXPECT_EQ(folder.count(), 0);
+    EXPECT_EQ(folder.entries(), 0);
 }
 
 TEST(PictureArchive, AFolderThatCannotBeWrittenToIsNamed) {
@@ -107,7 +101,7 @@ TEST(PictureArchive, AFolderThatCannotBeWrittenToIsNamed) {
 }
 
 TEST(PictureArchive, AFullDiskLeavesNothing) {
-    const ScratchFolder folder;
+    const TemporaryFolder folder;
     const std::string name = folder.path().string();
     const std::string mount = "mount -t tmpfs -o size=100k tmpfs " + name;
     const std::string inPrivate = "unshare --map-root-user --mount sh -c ";
@@ -130,7 +124,7 @@ protected:
         return runCommand(CLI " unpack --app " + m_app.path().string());
     }
 
-    ScratchFolder m_app;
+    TemporaryFolder m_app;
 };
 
 TEST_F(UnpackCommand, MakesTheFolderAndCanBeRepeated) {
@@ -138,21 +132,21 @@ TEST_F(UnpackCommand, MakesTheFolderAndCanBeRepeated) {
     ASSERT_EQ(first.status, 0) << first.output;
     const fs::path picture = m_app.path() / "images" / "blank.gif";
     ASSERT_TRUE(fs::exists(picture));
-    EXPECT_EQ(m_app.count(), 2);
+    EXPECT_EQ(m_app.entries(), 2);
 
     fs::remove(picture);
-    std::ofstream(m_app.path() / "images" / "ftl.gif") << "spoilt";
+    m_app.write("images/ftl.gif", "spoilt");
     EXPECT_EQ(unpack().status, 0);
-    EXPECT_EQ(contents(picture), renderedSheet().at("blank.gif"));
-    EXPECT_EQ(contents(m_app.path() / "images" / "ftl.gif"), renderedSheet().at("ftl.gif"));
+    EXPECT_EQ(m_app.read("images/blank.gif"), renderedSheet().at("blank.gif"));
+    EXPECT_EQ(m_app.read("images/ftl.gif"), renderedSheet().at("ftl.gif"));
 }
 
 TEST_F(UnpackCommand, AnArchiveThatFailsLeavesNoFolder) {
-    std::ofstream(m_app.path() / "images.exe") << "#!/bin/sh\ntouch half.gif\nexit 1\n";
+    m_app.write("images.exe", "#!/bin/sh\ntouch half.gif\nexit 1\n");
     const CommandResult result = unpack();
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.output.find("images: the pictures could not be unpacked"), std::string::npos);
-    EXPECT_EQ(m_app.count(), 1);
+    EXPECT_EQ(m_app.entries(), 1);
 }
 
 TEST_F(UnpackCommand, AMissingArchiveIsNamed) {
@@ -160,7 +154,7 @@ TEST_F(UnpackCommand, AMissingArchiveIsNamed) {
     const CommandResult result = unpack();
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.output.find("images.exe: is missing"), std::string::npos);
-    EXPECT_EQ(m_app.count(), 0);
+    EXPECT_EQ(m_app.entries(), 0);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "TemporaryFolder.h"
 #include "renderedSets.h"
 #include "runCommand.h"
 
@@ -84,8 +85,8 @@ std::string contents(const fs::path& file) {
 }
 
 TEST(Renderer, TheSameSourcesGiveTheSameBytes) {
-    const fs::path again = fs::path(testing::TempDir()) / "rendered-again";
-    fs::remove_all(again);
+    const TemporaryFolder folder;
+    const fs::path& again = folder.path();
     const CommandResult result = runCommand(
         std::string(RENDERER " " ARTWORK_FOLDER " " CATALOGUE_FILE " " PROGRAM_VERSION " ") +
         again.string());
@@ -99,7 +100,6 @@ TEST(Renderer, TheSameSourcesGiveTheSameBytes) {
         }
     }
     EXPECT_GT(compared, 400);
-    fs::remove_all(again);
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ const Artwork& projectArtwork() {
 const Catalogue& deliveredCatalogue() {
     static Catalogue catalogue;
     if (catalogue.records().empty()) {
-        catalogue.load(CATALOGUE_FILE);
+        catalogue.loadWeaps(CATALOGUE_FILE);
     }
     return catalogue;
 }

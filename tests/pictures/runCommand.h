@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 namespace fleetwright {
@@ -13,22 +12,5 @@ struct CommandResult {
 
 /// Runs a command in the shell and waits for its end.
 CommandResult runCommand(const std::string& command);
-
-/// A folder that is there for the length of a test.
-class ScratchFolder {
-public:
-    ScratchFolder();
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder();
-
-    const std::filesystem::path& path() const { return m_path; }
-
-    /// How many entries it has.
-    int count() const;
-
-private:
-    std::filesystem::path m_path;
-};
 
 }  // namespace fleetwright

@@ -56,7 +56,7 @@ void writeContactSheets(const fs::path& folder, const Artwork& artwork,
 void run(char** arguments) {
     const Artwork artwork(arguments[1], arguments[3]);
     Catalogue catalogue;
-    catalogue.load(arguments[2]);
+    catalogue.loadWeaps(arguments[2]);
     const fs::path out = arguments[4];
     PictureSet systems = cataloguePictures(artwork, catalogue);
     const PictureSet sheet = sheetPictureFiles(artwork);

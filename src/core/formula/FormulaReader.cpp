@@ -55,20 +55,20 @@ namespace {
 constexpr int orLevel = 0, andLevel = 1, comparisonLevel = 2, sumLevel = 3, productLevel = 4;
 
 /// How tight each operator binds, in the order of `Operator`.
-constexpr std::array<std::int8_t, 14> bindingLevels = {-1,
-                                                       orLevel,
-                                                       andLevel,
-                                                       comparisonLevel,
-                                                       comparisonLevel,
-                                                       comparisonLevel,
-                                                       comparisonLevel,
-                                                       comparisonLevel,
-                                                       comparisonLevel,
-                                                       sumLevel,
-                                                       sumLevel,
-                                                       productLevel,
-                                                       productLevel,
-                                                       productLevel};
+constexpr std::array<int, 14> bindingLevels = {-1,
+                                               orLevel,
+                                               andLevel,
+                                               comparisonLevel,
+                                               comparisonLevel,
+                                               comparisonLevel,
+                                               comparisonLevel,
+                                               comparisonLevel,
+                                               comparisonLevel,
+                                               sumLevel,
+                                               sumLevel,
+                                               productLevel,
+                                               productLevel,
+                                               productLevel};
 
 constexpr std::uint64_t key(const char* word) {
     std::uint64_t packed = 0;

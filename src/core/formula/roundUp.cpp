@@ -1,10 +1,18 @@
 #include "roundUp.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace fleetwright {
 
 namespace {
+
+constexpr std::array<double, 15> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
+/// Half a unit of the 15th significant digit, by the number of digits in front of the point.
+constexpr std::array<double, 15> halfUnits = {5e-16, 5e-15, 5e-14, 5e-13, 5e-12, 5e-11, 5e-10, 5e-9,
+                                              5e-8,  5e-7,  5e-6,  5e-5,  5e-4,  5e-3,  5e-2};
 
 /// Whether `x`, written with 15 significant digits, shows a fraction; `nearest` is the whole number
 /// next to it. The text itself is not needed: with n digits in front of the point, the digits
@@ -18,11 +26,11 @@ bool showsFraction(double x, double nearest) {
     if (nearest == 0.0) {
         return true;
     }
-    double halfUnit = 0.5e-15;
-    for (double limit = 1.0; magnitude >= limit; limit *= 10.0) {
-        halfUnit *= 10.0;
+    std::size_t digits = 0;
+    while (magnitude >= powersOfTen[digits]) {
+        ++digits;
     }
-    return std::fabs(x - nearest) > halfUnit;
+    return std::fabs(x - nearest) > halfUnits[digits];
 }
 
 }  // namespace

@@ -1,0 +1,102 @@
+// The figures of 10,000 ship files on two threads, against one.
+
+#include "GoalTable.h"
+#include "ShipOnScreen.h"
+#include "commands.h"
+#include "inOrder.h"
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Copies of the sample ships.
+const std::vector<std::string>& shipFiles() {
+    static const std::vector<std::string> files = [] {
+        const fs::path folder = fs::temp_directory_path() / "fleetwright-bench-ships";
+        fs::create_directories(folder);
+        std::vector<std::string> made;
+        constexpr std::size_t wanted = 10'000;
+        while (made.size() < wanted) {
+            for (const fs::directory_entry& ship :
+                 fs::directory_iterator(SOURCE_FOLDER "/data/ships")) {
+                const fs::path file = folder / (std::to_string(made.size()) + ".shp");
+                fs::copy_file(ship.path(), file, fs::copy_options::overwrite_existing);
+                made.push_back(file.string());
+            }
+        }
+        made.resize(wanted);
+        return made;
+    }();
+    return files;
+}
+
+void workOutFigures(std::size_t ships, unsigned threads) {
+    const std::vector<std::string>& files = shipFiles();
+    Options options;
+    options.appFolder = SOURCE_FOLDER "/data";
+    const ShipServices services = shipServices(options);
+    std::size_t bytes = 0;
+    inOrder(
+        ships, threads,
+        [&](std::size_t index) {
+            ShipOnScreen screen(services);
+            screen.load(files[index]);
+            return Result{.output = figuresOf(files[index], screen.ship()), .complaints = {}};
+        },
+        [&](std::size_t, const Result& result) { bytes += result.output.size(); });
+    benchmark::DoNotOptimize(bytes);
+}
+
+void figures(benchmark::State& state, unsigned threads) {
+    for ([[maybe_unused]] auto _ : state) {
+        workOutFigures(shipFiles().size(), threads);
+    }
+}
+
+/// The memory that this process holds, in pages.
+double residentMemory() {
+    std::ifstream statistics("/proc/self/statm");
+    double size = 0;
+    double resident = 0;
+    statistics >> size >> resident;
+    return resident;
+}
+
+void figuresMemory(benchmark::State& state, std::size_t ships) {
+    for ([[maybe_unused]] auto _ : state) {
+        workOutFigures(ships, 2);
+        state.counters[memoryCounter] = residentMemory();
+    }
+}
+
+const bool registered = [] {
+    for (const std::size_t ships : {1'000U, 10'000U}) {
+        const std::string name = "memory after " + std::to_string(ships) + " ships";
+        benchmark::RegisterBenchmark(name.c_str(), figuresMemory, ships)->Iterations(1);
+    }
+    RegisterGoal({"Figures: times the memory after 10000 ships as after 1000",
+                  "memory after 10000 ships", "memory after 1000 ships", 1.1, false});
+    for (const unsigned threads : {1U, 2U}) {
+        const std::string name = "figures of 10000 ships, threads: " + std::to_string(threads);
+        benchmark::RegisterBenchmark(name.c_str(), figures, threads)
+            ->Repetitions(5)
+            ->Iterations(1)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    }
+    RegisterGoal({"Figures of 10000 ships: times as fast on two cores as on one",
+                  "figures of 10000 ships, threads: 1", "figures of 10000 ships, threads: 2", 1.7,
+                  true});
+    return true;
+}();
+
+}  // namespace
+
+}  // namespace fleetwright

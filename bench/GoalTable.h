@@ -1,0 +1,40 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+inline constexpr const char* memoryCounter = "memory";
+
+/// A ratio of two benchmarks of the same run that is to be kept. Machines differ and are noisy,
+/// so that no goal is a number of seconds. A benchmark that measures memory says so in a counter
+/// with the name `memoryCounter`, which then counts in place of its time.
+struct Goal {
+    std::string what;
+    std::string above;  ///< benchmark that stands above the line
+    std::string below;  ///< benchmark that stands below it
+    double ratio;
+    bool isAtLeast;  ///< the ratio is to be reached, and not to be kept below
+};
+
+/// Makes a goal known; before main.
+struct RegisterGoal {
+    explicit RegisterGoal(Goal goal);
+};
+
+/// Prints the benchmarks as they come, and at the end all goals in one table. Of a benchmark's
+/// repetitions the fastest counts: what disturbs a run makes it slower, never faster.
+class GoalTable : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override;
+    void Finalize() override;
+
+private:
+    std::map<std::string, double> m_smallest;
+};
+
+}  // namespace fleetwright

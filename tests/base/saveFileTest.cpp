@@ -1,0 +1,135 @@
+#include "saveFile.h"
+
+#include "Error.h"
+#include "TemporaryFolder.h"
+
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <functional>
+#include <thread>
+
+using namespace fleetwright;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Runs `act` as a user without rights of his own, since nothing is forbidden to root.
+int asNobody(const std::function<bool()>& act) {
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t nobody = 65534;
+        const bool hasChanged = getuid() != 0 || setuid(nobody) == 0;
+        _exit(hasChanged && act() ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WEXITSTATUS(status);
+}
+
+std::string faultOf(const fs::path& target, std::string_view contents) {
+    try {
+        saveFile(target, contents);
+    } catch (const FileError& error) {
+        return error.what();
+    }
+    return {};
+}
+
+}  // namespace
+
+TEST(SaveFile, WritesNewFilesAndReplacesOldOnes) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "ship.shp";
+    saveFile(file, "first");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    saveFile(file, std::string("sec\0nd", 6));
+    EXPECT_EQ(folder.read("ship.shp"), std::string("sec\0nd", 6));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(folder.entries(), 1);
+
+    const fs::path longName = folder.path() / std::string(255, 'n');
+    saveFile(longName, "x");
+    EXPECT_TRUE(fs::exists(longName));
+}
+
+TEST(SaveFile, FollowsLinksAndKeepsThem) {
+    const TemporaryFolder folder;
+    folder.write("ships/real.shp", "old");
+    fs::create_symlink("ships/real.shp", folder.path() / "link.shp");
+    fs::create_symlink("ships/new.shp", folder.path() / "dangling.shp");
+    saveFile(folder.path() / "link.shp", "new");
+    saveFile(folder.path() / "dangling.shp", "made");
+    EXPECT_TRUE(fs::is_symlink(folder.path() / "link.shp"));
+    EXPECT_EQ(folder.read("ships/real.shp"), "new");
+    EXPECT_EQ(folder.read("ships/new.shp"), "made");
+}
+
+TEST(SaveFile, RefusesWhatCannotBeSavedAndLeavesItAsItWas) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(faultOf(folder.path() / "missing" / "x", "x"),
+              "cannot be saved: No such file or directory");
+    EXPECT_EQ(faultOf(folder.path(), "x"), "cannot be saved: Is a directory");
+
+    const std::string protectedFile = folder.write("protected", "old");
+    fs::permissions(protectedFile, fs::perms::owner_read);
+    EXPECT_EQ(faultOf(protectedFile, "new"), "cannot be saved: Permission denied");
+    EXPECT_EQ(folder.read("protected"), "old");
+
+    folder.write("closed/ship.shp", "old");
+    const fs::path closed = folder.path() / "closed";
+    fs::permissions(folder.path(), fs::perms::all);
+    fs::permissions(closed, fs::perms::all & ~fs::perms::owner_write & ~fs::perms::group_write &
+                                ~fs::perms::others_write);
+    EXPECT_EQ(asNobody([&] {
+                  return faultOf(closed / "ship.shp", "new") ==
+                             "cannot be saved: Permission denied" &&
+                         !faultOf(closed / "other.shp", "new").empty();
+              }),
+              0);
+    EXPECT_EQ(folder.read("closed/ship.shp"), "old");
+}
+
+TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
+    // A device is written to directly, so that this link stands for a disk that is full.
+    const TemporaryFolder folder;
+    fs::create_symlink("/dev/full", folder.path() / "full.shp");
+    EXPECT_EQ(faultOf(folder.path() / "full.shp", "x"), "cannot be saved: No space left on device");
+    EXPECT_TRUE(fs::is_symlink(folder.path() / "full.shp"));
+
+    const TemporaryFolder small;
+    if (mount("none", small.path().c_str(), "tmpfs", 0, "size=64k") != 0) {
+        GTEST_SKIP() << "no right to mount a small disk";
+    }
+    saveFile(small.path() / "ship.shp", "old");
+    EXPECT_EQ(faultOf(small.path() / "ship.shp", std::string(200'000, 'x')),
+              "cannot be saved: No space left on device");
+    EXPECT_EQ(small.read("ship.shp"), "old");
+    EXPECT_EQ(small.entries(), 1);
+    umount(small.path().c_str());
+}
+
+TEST(SaveFile, KillInTheMiddleLeavesOneOfTheTwoContents) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "ship.shp";
+    const std::string contents[] = {std::string(300'000, 'a'), std::string(300'000, 'b')};
+    saveFile(file, contents[0]);
+    for (int round = 0; round < 30; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (int i = 0;; ++i) {
+                saveFile(file, contents[i % 2]);
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(500 + round * 400));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        const std::string found = folder.read("ship.shp");
+        ASSERT_TRUE(found == contents[0] || found == contents[1]) << found.size() << " bytes";
+    }
+}

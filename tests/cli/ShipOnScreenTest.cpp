@@ -1,0 +1,75 @@
+#include "ShipOnScreen.h"
+
+#include "testShip.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+
+namespace {
+
+/// The design of a file as the program shows it: "hull mass thrust ftl armor streamline", and
+/// the figures.
+std::string shown(std::string_view text, bool withAutoMass = false) {
+    static const ShipYard yard;
+    ShipOnScreen screen(yard.services());
+    if (const auto fault = screen.load(yard.folder().write("shown.shp", text))) {
+        return std::to_string(fault->line) + ": " + fault->text;
+    }
+    if (withAutoMass) {
+        screen.switchAutoMassOn();
+    }
+    const ShipClass& ship = screen.ship();
+    return std::to_string(ship.Hull()) + ' ' + std::to_string(ship.mass()) + ' ' +
+           std::to_string(ship.THRUST()) + ' ' + std::to_string(ship.FTL()) + ' ' +
+           std::to_string(ship.Armor()) + ' ' + std::to_string(ship.Streamline()) + ", " +
+           figures(ship);
+}
+
+}  // namespace
+
+TEST(ShipOnScreen, ShowsAShipAsDesigned) {
+    EXPECT_EQ(shown(""), "1 2 2 1 0 0, 7 1 2 0 1 1");
+    EXPECT_EQ(shown("Mass: 50\nThrust: 4\nArmor: 2\nStreamlining: Partial"),
+              "1 50 4 1 2 1, 425 25 4 3 3 25");
+    EXPECT_EQ(shown("Type: Merchant\nMass: 30\nThrust: 1\nSystem: Gun, 1"),
+              "2 30 1 1 0 0, 111 8 3 1 1 1");
+}
+
+TEST(ShipOnScreen, BringsTheMassToTwo) {
+    for (const char* mass : {"1", "0", "-50", "-2000000000"}) {
+        EXPECT_EQ(shown(std::string("Mass: ") + mass), "1 2 2 1 0 0, 7 1 2 0 1 1") << mass;
+    }
+}
+
+TEST(ShipOnScreen, TakesDriveThrustAndStreamliningFromABase) {
+    for (const char* type : {"Starbase", "Space Station", "Q-Space Station"}) {
+        const std::string file = std::string("Mass: 40\nThrust: 6\nFTL: Tug\nArmor: 1\n"
+                                             "Streamlining: Full\nType: ") +
+                                 type + "\n";
+        EXPECT_EQ(shown(file).substr(1, 12), " 40 0 0 1 0,") << type;
+        EXPECT_EQ(shown(file + "System: Gun, 1").substr(1, 12), " 40 0 0 1 0,") << type;
+    }
+    // A base that is a base already, in the middle of the load, is not brought in order again.
+    EXPECT_EQ(shown("Mass: 40\nType: Starbase\nSystem: Gun, 1\nThrust: 4\nFTL: Normal"),
+              "4 40 4 1 0 0, 126 20 4 3 3 18");
+}
+
+TEST(ShipOnScreen, KeepsCodesThatHaveNoButton) {
+    EXPECT_EQ(shown("Mass: 10\nThrust: 9"), "1 10 9 1 0 0, 53 5 2 1 1 5");
+    // Nothing on the window changes, so that nothing is worked out anew.
+    EXPECT_EQ(shown("Thrust: 12"), "1 2 12 1 0 0, 7 1 2 0 1 1");
+}
+
+TEST(ShipOnScreen, RefusesWhatDoesNotFit) {
+    EXPECT_EQ(shown("Mass: 2000000000"), "0: number too large");
+    EXPECT_EQ(shown("Thrust: 40000"), "0: number too large");
+    EXPECT_EQ(shown("Mass: 9\nThrust: x"), "2: \"x\" is no number");
+}
+
+TEST(ShipOnScreen, FitsTheMassAndShowsWhatItWrites) {
+    EXPECT_EQ(shown("Mass: 80\nSystem: Ballast, 20", true), "1 40 2 1 0 0, 200 20 4 3 3 0");
+    EXPECT_EQ(shown("Mass: 60", true), "1 2 2 1 0 0, 7 1 2 0 1 1");
+    EXPECT_EQ(shown("Mass: 60\nFTL: None", true), "1 0 2 0 0 0, 0 0 2 0 1 0");
+    EXPECT_EQ(shown("Mass: 60\nSystem: Sponge, 1", true), "1 60 2 1 0 0, 301 30 4 3 3 -6");
+}

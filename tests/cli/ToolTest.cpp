@@ -1,0 +1,196 @@
+#include "TemporaryFolder.h"
+#include "runTool.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A folder with a small catalogue and three ships: one sound, one that passes systems over, and
+/// one that does not load.
+class Tool : public testing::Test {
+protected:
+    Tool() {
+        m_folder.write("weaps.dat", "Gun,2 * amount,6 * amount,BEAM,BEAM,FPS,gun.gif\r\n"
+                                    "Cloaking Field,1,mass,SPECIAL,SPECIAL,O,cloak.gif\r\n");
+        m_folder.write("good.shp", "Ship Name: \"Né\"\nMass: 50\nThrust: 4\nSystem: Gun, 3\n");
+        m_folder.write("part.shp", "Type: Merchant\nSystem: Laser, 1\nSystem: Cloaking Field, 1\n"
+                                   "System: Gun, 2\n");
+        m_folder.write("bad.shp", "Mass: 10\nThrust: fast\n");
+    }
+
+    ToolRun run(std::vector<std::string> arguments) const {
+        return runTool(m_folder.path().string(), std::move(arguments));
+    }
+
+    TemporaryFolder m_folder;
+};
+
+/// "status|output|errors"
+std::string all(const ToolRun& run) {
+    return std::to_string(run.status) + '|' + run.output + '|' + run.errors;
+}
+
+const std::string goodFigures =
+    R"({"file":"good.shp","shipName":"\"Né\"","designer":"Nils's Iron Vector Creator","hull":1,)"
+    R"("mass":50,"thrust":4,"ftl":1,"armor":0,"streamline":0,"cost":368,"dp":25,"damRows":4,)"
+    R"("dcp":3,"fcs":3,"massLeft":19,"class":"Capital","relSize":"BattleDreadnought",)"
+    R"("systems":[{"name":"Gun","amount":3,"mass":6,"cost":18}],"refused":[]})"
+    "\n";
+const std::string partFigures =
+    R"({"file":"part.shp","shipName":"Generic","designer":"Nils's Iron Vector Creator","hull":2,)"
+    R"("mass":2,"thrust":2,"ftl":1,"armor":0,"streamline":0,"cost":11,"dp":1,"damRows":2,)"
+    R"("dcp":0,"fcs":1,"massLeft":0,"class":"Escort","relSize":"Courier",)"
+    R"("systems":[{"name":"Cloaking Field","amount":1,"mass":1,"cost":2}],)"
+    R"("refused":["System: Laser, 1","System: Gun, 2"]})"
+    "\n";
+const std::string badComplaint = "bad.shp:2: \"fast\" is no number\n";
+
+}  // namespace
+
+TEST_F(Tool, FiguresAreOneObjectALineInTheOrderOfTheFiles) {
+    EXPECT_EQ(all(run({"--app", ".", "figures", "good.shp", "bad.shp", "none.shp", "part.shp"})),
+              "1|" + goodFigures + partFigures + "|" + badComplaint +
+                  "none.shp: cannot be read: No such file or directory\n");
+    EXPECT_EQ(all(run({"figures", "part.shp", "--app=.", "--", "good.shp"})),
+              "0|" + partFigures + goodFigures + "|");
+    EXPECT_EQ(all(run({"figures", "part.shp", "--app", ".", "good.shp"})),
+              "0|" + partFigures + goodFigures + "|");
+    EXPECT_EQ(all(run({"--app", ".", "figures", "--", "--auto-mass"})),
+              "1||--auto-mass: cannot be read: No such file or directory\n");
+    const ToolRun fitted = run({"figures", "--auto-mass", "good.shp", "--app", "."});
+    EXPECT_NE(fitted.output.find(R"("mass":12,)"), std::string::npos) << fitted.output;
+    EXPECT_NE(fitted.output.find(R"("massLeft":0,)"), std::string::npos) << fitted.output;
+}
+
+TEST_F(Tool, FiguresStayReadableForAnyFileName) {
+    m_folder.write("\xFF\n.shp", "Ship Name: a\tb\\\n");
+    const ToolRun odd = run({"--app", ".", "figures", "\xFF\n.shp"});
+    EXPECT_EQ(odd.output.substr(0, 44),
+              "{\"file\":\"\uFFFD\\n.shp\",\"shipName\":\"a\\tb\\\\\",\"des");
+}
+
+TEST_F(Tool, ReportsFollowEachOther) {
+    const ToolRun reports = run({"--app", ".", "report", "good.shp", "part.shp", "bad.shp"});
+    EXPECT_EQ(reports.status, 1);
+    EXPECT_EQ(reports.errors,
+              "part.shp:2: unknown system \"Laser\"\n"
+              "part.shp:4: a merchant hull cannot have a cloak and other systems\n" +
+                  badComplaint);
+    EXPECT_EQ(reports.output, "=====================================\n"
+                              "+      Iron Vector Ship Creator     +\n"
+                              "=====================================\n"
+                              "Ship Name: \"Né\"\n"
+                              "Designer Name: Nils's Iron Vector Creator\n"
+                              "Mass: 50\nCost: 368\nThrust: 4\nType: Warship\nFTL: Normal\n"
+                              "Damage Points: 25\nDamage Rows: 4\nMass Left: 19\n\nSystems\n"
+                              "    3 Fire Control System\n    3 Damage Control Party\n    3\tGun\n"
+                              "=====================================\n"
+                              "+      Iron Vector Ship Creator     +\n"
+                              "=====================================\n"
+                              "Ship Name: Generic\n"
+                              "Designer Name: Nils's Iron Vector Creator\n"
+                              "Mass: 2\nCost: 11\nThrust: 2\nType: Merchant\nFTL: Normal\n"
+                              "Damage Points: 1\nDamage Rows: 2\nMass Left: 0\n\nSystems\n"
+                              "    1 Fire Control System\n    0 Damage Control Party\n"
+                              "    1\tCloaking Field\n");
+}
+
+TEST_F(Tool, SaveWritesOneFileAndNamesWhatWasLost) {
+    EXPECT_EQ(all(run({"--app", ".", "save", "good.shp", "out"})), "0||");
+    EXPECT_EQ(m_folder.read("out.shp"), "Ship Name: \"Né\"\r\n"
+                                        "Designer Name: Nils's Iron Vector Creator\r\n"
+                                        "Mass: 50\r\nThrust: 4\r\nType: Warship\r\n"
+                                        "FTL: Normal\r\nSystem: Gun, 3\r\n");
+    EXPECT_EQ(run({"--app", ".", "save", "part.shp", "part2.shp"}).status, 1);
+    EXPECT_EQ(all(run({"--app", ".", "save", "bad.shp", "never"})), "1||" + badComplaint);
+    EXPECT_EQ(all(run({"--app", ".", "save", "good.shp", "none/out"})),
+              "1||none/out.shp: cannot be saved: No such file or directory\n");
+    fs::create_symlink("/dev/full", m_folder.path() / "full.shp");
+    EXPECT_EQ(all(run({"--app", ".", "save", "good.shp", "full.shp"})),
+              "1||full.shp: cannot be saved: No space left on device\n");
+    EXPECT_EQ(m_folder.entries(), 7);
+}
+
+TEST_F(Tool, ExplainSaysWhereTheFiguresComeFrom) {
+    EXPECT_EQ(all(run({"explain", "--app", ".", "good.shp"})),
+              "0|\"Né\"\n"
+              "     100  Warship hull of mass 50\n"
+              "      50  FTL drive: Normal\n"
+              "     200  Thrust 4\n"
+              "      18  3 x Gun\n"
+              "     368  = Cost\n"
+              "      25  Warship hull of mass 50\n"
+              "      25  = Damage points\n"
+              "      25  Free mass of the Warship hull of mass 50\n"
+              "      -6  3 x Gun\n"
+              "      19  = Mass left\n"
+              "|");
+}
+
+TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
+    EXPECT_EQ(all(run({"eval", "mass + 10*hull + 100*ftl + 1000*thrust + 10000*hullcost + "
+                               "100000*amount"})),
+              "0|142112\n|");
+    EXPECT_EQ(all(run({"eval", "--mass", "-7", "mass - amount", "--amount=3"})), "0|-10\n|");
+    EXPECT_EQ(all(run({"eval", "hull*ftl*thrust*hullcost", "--hull", "3", "--ftl", "3", "--thrust",
+                       "5", "--hull-cost", "7"})),
+              "0|315\n|");
+    EXPECT_EQ(all(run({"eval", "-mass"})), "0|-2\n|");
+    EXPECT_EQ(all(run({"eval", "--", "--mass"})), "0|2\n|");
+    EXPECT_EQ(all(run({"eval", "1/0"})), "0|0\n|");
+    EXPECT_EQ(all(run({"eval", "2 +"})),
+              "1|0\n|column 4: a number, a name or ( is expected here, not the end\n");
+    EXPECT_EQ(run({"eval", ""}).status, 1);
+}
+
+TEST_F(Tool, CheckNamesEveryFault) {
+    m_folder.write("ok/weaps.dat", "Gun,1,1,BEAM,BEAM,F,x.gif,\nShell,1 +,1,BEAM,ODD,F,x.gif\n");
+    EXPECT_EQ(all(run({"--app", ".", "check", "bad.shp", "part.shp", "none.shp", "x.gif"})),
+              "1|bad.shp:2: \"fast\" is no number\n"
+              "part.shp:2: unknown system \"Laser\"\n"
+              "part.shp:3: a merchant hull cannot have a cloak and other systems\n"
+              "none.shp: cannot be read: No such file or directory\n"
+              "x.gif: neither a catalogue (.dat) nor a ship file (.shp)\n|");
+    const ToolRun catalogue = run({"check", "ok/weaps.dat"});
+    EXPECT_EQ(catalogue.status, 1);
+    EXPECT_EQ(catalogue.output.substr(0, 61),
+              "ok/weaps.dat:2: mass formula, column 4: a number, a name or (");
+    EXPECT_EQ(all(run({"check"})), "0||");
+    EXPECT_EQ(all(run({"--app", "nowhere", "check"})),
+              "1|nowhere/weaps.dat: cannot be read: No such file or directory\n|");
+}
+
+TEST_F(Tool, WithoutACatalogueNothingCanBeSaid) {
+    EXPECT_EQ(all(run({"--app", "nowhere", "figures", "good.shp"})),
+              "1||nowhere/weaps.dat: cannot be read: No such file or directory\n");
+}
+
+TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
+    const std::vector<std::vector<std::string>> wrong = {
+        {},
+        {"nonsense"},
+        {"figures"},
+        {"report", "good.shp", "--auto-mass"},
+        {"figures", "-x", "good.shp"},
+        {"save", "good.shp"},
+        {"save", "good.shp", "a", "b"},
+        {"eval"},
+        {"eval", "1", "2"},
+        {"eval", "1", "--mass"},
+        {"eval", "1", "--mass", "2.5"},
+        {"eval", "1", "--mass", "0x10"},
+        {"eval", "1", "--mass", "2147483648"},
+        {"--app"},
+    };
+    for (const auto& arguments : wrong) {
+        const ToolRun refused = run(arguments);
+        EXPECT_EQ(refused.status, 2) << testing::PrintToString(arguments);
+        EXPECT_EQ(refused.output, "") << testing::PrintToString(arguments);
+        EXPECT_EQ(refused.errors.substr(0, 17), "fleetwright-cli: ");
+    }
+    EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_EQ(all(run({"--version"})), "0|FleetWright 2.0.5\n|");
+}

@@ -1,0 +1,42 @@
+#include "TemporaryFolder.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (fs::temp_directory_path() / "fleetwright-test-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder");
+    }
+    m_path = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    fs::permissions(m_path, fs::perms::owner_all, ignored);
+    fs::remove_all(m_path, ignored);
+}
+
+std::string TemporaryFolder::write(const std::string& name, std::string_view contents) const {
+    const fs::path file = m_path / name;
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << contents;
+    return file.string();
+}
+
+std::string TemporaryFolder::read(const std::string& name) const {
+    std::ifstream file(m_path / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+int TemporaryFolder::entries() const {
+    return static_cast<int>(std::distance(fs::directory_iterator(m_path), {}));
+}
+
+}  // namespace fleetwright

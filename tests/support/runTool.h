@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+struct ToolRun {
+    int status = -1;
+    std::string output;  ///< what it wrote to standard output
+    std::string errors;  ///< what it wrote to standard error
+};
+
+/// Runs the delivered command line tool in `folder`, with nothing in its environment but an odd
+/// locale, which must not matter.
+ToolRun runTool(const std::string& folder, std::vector<std::string> arguments);
+
+}  // namespace fleetwright
