@@ -39,14 +39,11 @@ const std::vector<std::string>& shipFiles() {
 
 void workOutFigures(std::size_t ships, unsigned threads) {
     const std::vector<std::string>& files = shipFiles();
-    Options options;
-    options.appFolder = SOURCE_FOLDER "/data";
-    const ShipServices services = shipServices(options);
     std::size_t bytes = 0;
     inOrder(
         ships, threads,
         [&](std::size_t index) {
-            ShipOnScreen screen(services);
+            ShipOnScreen screen(SOURCE_FOLDER "/data");
             screen.load(files[index]);
             return Result{.output = figuresOf(files[index], screen.ship()), .complaints = {}};
         },

@@ -1,92 +1,88 @@
 #include "ShipOnScreen.h"
 
-#include "Error.h"
-#include "wholeNumber.h"
+#include "Desktop.h"
+#include "Globals.h"
+#include "PictureFiles.h"
+#include "StartUpProgress.h"
+#include "frmMain.h"
 
 namespace fleetwright {
 
+namespace {
+
+class NoDesktop : public Desktop {
+public:
+    Answer showMessage(const std::string&, const std::string&, Buttons, Icon) override {
+        return Answer::Ok;
+    }
+    void popUp(MenuEntry&) override {}
+    void showModal(Form&, Form&) override {}
+    void unloadAllForms() override {}
+};
+
+class NoPictures : public PictureFiles {
+public:
+    Raster load(const std::filesystem::path&) override { return {}; }
+};
+
+class NoProgress : public StartUpProgress {
+public:
+    void setText(const std::string&) override {}
+    void repaint() override {}
+};
+
+}  // namespace
+
+class ShipOnScreen::Program {
+public:
+    explicit Program(const std::filesystem::path& appFolder)
+        : window({.appFolder = appFolder,
+                  .eventLoopTurn = {},
+                  .freeFormulaLibrary = [] {},
+                  .desktop = m_desktop,
+                  .pictures = m_pictures,
+                  .progress = m_progress,
+                  .globals = m_globals,
+                  .hasScreen = false}) {
+        m_globals.formula = formula_calculate;
+    }
+
+private:
+    NoDesktop m_desktop;
+    NoPictures m_pictures;
+    NoProgress m_progress;
+    Globals m_globals;
+
+public:
+    frmMain window;
+};
+
+ShipOnScreen::ShipOnScreen(const std::filesystem::path& appFolder) : m_appFolder(appFolder) {}
+
+ShipOnScreen::~ShipOnScreen() = default;
+
 std::optional<Fault> ShipOnScreen::load(const std::string& file) {
-    m_connections.clear();
-    m_ship = std::make_unique<ShipClass>(m_services);
-    m_connections.push_back(m_ship->Recalculated.connect([this] { refresh(); }));
-    m_connections.push_back(m_ship->ShipLoaded.connect([this] { setButtons(); }));
-    if (!m_ship->loadShip(file)) {
-        return m_ship->fileFault();
-    }
+    m_program = std::make_unique<Program>(m_appFolder);
+    frmMain& window = m_program->window;
     try {
-        refresh();
-    } catch (const OverflowError& error) {
-        return Fault{0, error.what()};
+        window.show();
+    } catch (const EndOfProgram&) {
+        Catalogue().loadWeaps(m_appFolder / "weaps.dat");  // throws what the window has not said
+        throw;
     }
+    if (!window.loadFile(file)) {
+        return window.g_Ship->fileFault();
+    }
+    window.tmrRefreshScreen.tick();
     return std::nullopt;
 }
 
 void ShipOnScreen::switchAutoMassOn() {
-    m_ship->g_bAutoMass = true;
-    m_ship->weapChange();
+    m_program->window.mnuAutoMass.choose();
 }
 
-void ShipOnScreen::refresh() {
-    setMassText(std::to_string(m_ship->mass()));
-    setButtons();
-}
-
-void ShipOnScreen::setButtons() {
-    setHullButton(m_ship->Hull());
-    setStreamlineButton(m_ship->Streamline());
-    setArmorButton(m_ship->Armor());
-    setThrustButton(m_ship->THRUST());
-    setFtlButton(m_ship->FTL());
-}
-
-void ShipOnScreen::setMassText(const std::string& text) {
-    if (text != m_massText) {
-        m_massText = text;
-        m_ship->mass(wholeNumber(text));
-    }
-}
-
-void ShipOnScreen::setHullButton(std::int32_t code) {
-    if (code == m_hullButton || code < Warship || code > QSpaceStation) {
-        return;
-    }
-    m_hullButton = code;
-    if (isBase(code)) {
-        setFtlButton(NoDrive);
-        setThrustButton(0);
-        setStreamlineButton(0);
-    }
-    m_ship->Hull(code);
-}
-
-void ShipOnScreen::setFtlButton(std::int32_t code) {
-    const bool hasButton = code == NoDrive || code == NormalDrive || code == TugDrive;
-    if (hasButton && code != m_ftlButton) {
-        m_ftlButton = code;
-        m_ship->FTL(code);
-    }
-}
-
-void ShipOnScreen::setStreamlineButton(std::int32_t level) {
-    if (level != m_streamlineButton) {
-        m_streamlineButton = level;
-        m_ship->Streamline(static_cast<std::int16_t>(level));
-    }
-}
-
-void ShipOnScreen::setArmorButton(std::int32_t level) {
-    if (level != m_armorButton) {
-        m_armorButton = level;
-        m_ship->Armor(level);
-    }
-}
-
-void ShipOnScreen::setThrustButton(std::int32_t thrust) {
-    const bool hasButton = thrust >= 0 && thrust <= mostThrust;
-    if (hasButton && thrust != m_thrustButton) {
-        m_thrustButton = thrust;
-        m_ship->THRUST(static_cast<std::int16_t>(thrust));
-    }
+ShipClass& ShipOnScreen::ship() {
+    return *m_program->window.g_Ship;
 }
 
 }  // namespace fleetwright

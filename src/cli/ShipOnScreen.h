@@ -1,58 +1,39 @@
 #pragma once
 
 #include "ShipClass.h"
-#include "Signal.h"
 
-#include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace fleetwright {
 
-/// A ship as the freshly started program shows it.
-///
-/// The window copies a ship to its controls at each refresh, and a control that changes writes
-/// back: the mass is brought to 2 at least, a base hull loses drive, thrust and streamlining, and
-/// so on, also in the middle of a load. This is the part of those rules that changes a ship,
-/// without a window.
+/// A ship as the freshly started program shows it. This is the program without its screen: it
+/// drives the main window itself, so that no figure can differ from the one in the window.
 class ShipOnScreen {
 public:
-    explicit ShipOnScreen(ShipServices services) : m_services(std::move(services)) {}
+    explicit ShipOnScreen(const std::filesystem::path& appFolder);
+    ShipOnScreen(const ShipOnScreen&) = delete;
+    ShipOnScreen& operator=(const ShipOnScreen&) = delete;
+    ~ShipOnScreen();
 
-    /// Loads a ship file as the Load command does, then lets one tick of the refresh timer pass.
-    /// Returns why the file does not load, or nothing. Throws FileError when the catalogue cannot
-    /// be read.
+    /// Starts the program, loads a ship file as the Load command does, and lets one tick of the
+    /// refresh timer pass. Returns why the file does not load, or nothing. Throws FileError when
+    /// the catalogue cannot be read.
     std::optional<Fault> load(const std::string& file);
 
-    /// Switches AutoMass on.
+    /// Chooses AutoMass from the menu.
     void switchAutoMassOn();
 
     /// The ship that was loaded last.
-    ShipClass& ship() { return *m_ship; }
+    ShipClass& ship();
 
 private:
-    void refresh();
-    void setButtons();
-    void setMassText(const std::string& text);
-    void setHullButton(std::int32_t code);
-    void setFtlButton(std::int32_t code);
-    void setStreamlineButton(std::int32_t level);
-    void setArmorButton(std::int32_t level);
-    void setThrustButton(std::int32_t thrust);
+    class Program;
 
-    ShipServices m_services;
-    std::unique_ptr<ShipClass> m_ship;
-    std::vector<Connection> m_connections;
-
-    // What the controls show; at first what the program's first ship, a new one, has put there.
-    std::string m_massText = "2";
-    std::int32_t m_hullButton = Warship;
-    std::int32_t m_ftlButton = NormalDrive;
-    std::int32_t m_streamlineButton = 0;
-    std::int32_t m_armorButton = 0;
-    std::int32_t m_thrustButton = 2;
+    std::filesystem::path m_appFolder;
+    std::unique_ptr<Program> m_program;
 };
 
 }  // namespace fleetwright

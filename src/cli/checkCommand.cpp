@@ -44,9 +44,9 @@ std::vector<std::string> deliveredFiles(const fs::path& appFolder) {
     return files;
 }
 
-std::vector<Fault> checkShip(const ShipServices& services, const std::string& file) {
+std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file) {
     const std::string text = readTextFile(nativePath(file));
-    ShipOnScreen screen(services);
+    ShipOnScreen screen(appFolder);
     screen.load(file);
     return checkShipFile(text, screen.ship());
 }
@@ -80,11 +80,11 @@ std::vector<PictureFault> checkDeliveredPictures(const fs::path& appFolder) {
     return check.checkRest();
 }
 
-std::vector<Fault> checkFile(const ShipServices& services, const std::string& file) {
+std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
         if (extension == ".SHP") {
-            return checkShip(services, file);
+            return checkShip(appFolder, file);
         }
         if (extension == ".DAT") {
             return checkCatalogueFile(nativePath(file));
@@ -99,12 +99,11 @@ std::vector<Fault> checkFile(const ShipServices& services, const std::string& fi
 }  // namespace
 
 int runCheck(const Options& options) {
-    const ShipServices services = shipServices(options);
     const std::vector<std::string> files =
         options.files.empty() ? deliveredFiles(options.appFolder) : options.files;
     int status = Done;
     for (const std::string& file : files) {
-        for (const Fault& fault : checkFile(services, file)) {
+        for (const Fault& fault : checkFile(options.appFolder, file)) {
             std::printf("%s\n", complaint(file, fault).c_str());
             status = SomeRefused;
         }

@@ -23,9 +23,6 @@ int runEval(const Options& options);
 int runCheck(const Options& options);
 int runUnpack(const Options& options);
 
-/// What the ships of the tool stand on: the application folder's catalogue, and the evaluator.
-ShipServices shipServices(const Options& options);
-
 /// Where the lines of a ship file go that the ship did not take.
 enum class RefusedLines { InOutput, AsComplaints };
 

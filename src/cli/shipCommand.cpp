@@ -53,12 +53,6 @@ private:
 
 }  // namespace
 
-ShipServices shipServices(const Options& options) {
-    return {.catalogueFile = options.appFolder / "weaps.dat",
-            .formula = formula_calculate,
-            .eventLoopTurn = {}};
-}
-
 std::string complaint(const std::string& file, const Fault& fault) {
     const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
     return file + ":" + line + " " + fault.text;
@@ -66,12 +60,11 @@ std::string complaint(const std::string& file, const Fault& fault) {
 
 int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(const std::string&, ShipOnScreen&)>& work) {
-    const ShipServices services = shipServices(options);
     int status = Done;
     Progress progress(options.files.size());
     const auto load = [&](std::size_t index) {
         const std::string& file = options.files[index];
-        ShipOnScreen screen(services);
+        ShipOnScreen screen(options.appFolder);
         Result result;
         if (const auto fault = screen.load(file)) {
             result.complaints.push_back(complaint(file, *fault));

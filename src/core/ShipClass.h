@@ -132,6 +132,16 @@ public:
     /// The system's arc letters; nothing for an unknown name.
     std::string_view GimmeWeapArc(std::string_view in_sWeapName) const;
 
+    /// All that a design holds but its names and files, to go back to.
+    struct State {
+        HullDesign hull;
+        std::vector<std::int32_t> amounts;  ///< of each record
+        bool isSaved = true;
+    };
+    State state() const;
+    /// Makes the ship what it was. Works the figures out, but raises no event.
+    void restore(const State& state);
+
     /// The hull as it is designed, and what the last recalculation has made of it.
     const HullDesign& hullDesign() const { return m_hull; }
     const HullFigures& hullFigures() const { return m_hullFigures; }

@@ -139,6 +139,23 @@ std::int32_t ShipClass::evaluate(std::string_view& text, const HullDesign& hull,
     return value;
 }
 
+ShipClass::State ShipClass::state() const {
+    State state{.hull = m_hull, .amounts = {}, .isSaved = g_bSaved};
+    for (const WeapRec& record : m_catalogue.records()) {
+        state.amounts.push_back(record.amount);
+    }
+    return state;
+}
+
+void ShipClass::restore(const State& state) {
+    m_hull = state.hull;
+    for (std::size_t i = 0; i < state.amounts.size(); ++i) {
+        m_catalogue.records()[i].amount = state.amounts[i];
+    }
+    show(workOutFigures(m_hull));
+    g_bSaved = state.isSaved;
+}
+
 std::int32_t ShipClass::weapCalc(std::string& in_arg) {
     std::string_view text = in_arg;
     const std::int32_t value = evaluate(text, m_hull, m_hullFigures.hullCost, 1);

@@ -12,7 +12,7 @@ namespace {
 /// the figures.
 std::string shown(std::string_view text, bool withAutoMass = false) {
     static const ShipYard yard;
-    ShipOnScreen screen(yard.services());
+    ShipOnScreen screen(yard.folder().path());
     if (const auto fault = screen.load(yard.folder().write("shown.shp", text))) {
         return std::to_string(fault->line) + ": " + fault->text;
     }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace fleetwright {
+
+/// Where the load of the main window says how far it has come: the start-up window's line.
+class StartUpProgress {
+public:
+    virtual ~StartUpProgress() = default;
+
+    virtual void setText(const std::string& text) = 0;
+    /// Paints the start-up window at once.
+    virtual void repaint() = 0;
+};
+
+}  // namespace fleetwright

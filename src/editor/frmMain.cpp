@@ -1,0 +1,216 @@
+#include "frmMain.h"
+
+#include "Desktop.h"
+#include "Error.h"
+#include "Globals.h"
+#include "StartUpProgress.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace fleetwright {
+
+/// Marks that an act is under way.
+class frmMain::ActScope {
+public:
+    explicit ActScope(frmMain& window) : m_window(window), m_wasActing(window.m_isActing) {
+        m_window.m_isActing = true;
+    }
+    ActScope(const ActScope&) = delete;
+    ActScope& operator=(const ActScope&) = delete;
+    ~ActScope() { m_window.m_isActing = m_wasActing; }
+
+private:
+    frmMain& m_window;
+    bool m_wasActing;
+};
+
+frmMain::frmMain(MainWindowServices services)
+    : Form({.name = "frmMain", .caption = "Fleet Wright", .width = 10830, .height = 8115}),
+      m_services(std::move(services)) {
+    txtMass.onLostFocus = [this] { raiseMassToSmallest(); };
+    tvWeapons.onClick = [this] { tvWeapons_Click(); };
+    tvWeapons.onDblClick = [this] { tvWeapons_DblClick(); };
+    tvWeapons.onMouseDown = [this](const MousePress& press) { tvWeapons_MouseDown(press); };
+    lvCurrentWeapons.onClick = [this] { lvCurrentWeapons_Click(); };
+    lvCurrentWeapons.onDblClick = [this] { lvCurrentWeapons_DblClick(); };
+    lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
+        lvCurrentWeapons_MouseDown(press);
+    };
+}
+
+Label frmMain::figureLabel(const std::string& name, const std::string& caption, int top) {
+    // Two of the labels were never quite in line with the others.
+    const int left = name == "lblDCP" ? 120 : 105;
+    const int width = name == "lblRelSize" ? 1155 : 1260;
+    return Label(fraInfo, {.name = name, .place = {left, top, width, 288}, .caption = caption});
+}
+
+TextBox frmMain::figureBox(const std::string& name, const std::string& spoken, int top,
+                           bool isLocked) {
+    return TextBox(fraInfo, {.name = name,
+                             .place = {1365, top, 1455, 288},
+                             .accessibleName = spoken,
+                             .isLocked = isLocked});
+}
+
+/// Runs one of the steps of the load that have a message of their own. After it the program ends.
+static void loadStep(Desktop& desktop, const std::string& message,
+                     const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const std::exception&) {
+        desktop.showMessage(message);
+        throw EndOfProgram();
+    }
+}
+
+void frmMain::Form_Load() {
+    loadStep(m_services.desktop, "Error Creating Ship Object", [this] { replaceShip(); });
+    loadStep(m_services.desktop, "Error Getting Designer Name", [this] {
+        if (g_Ship->g_sDesignerName != m_services.globals.g_sDefaultDesigner) {
+            g_Ship->g_sDesignerName = m_services.globals.g_sDefaultDesigner;
+        }
+    });
+    m_services.progress.setText("Preparing to load weapons");
+    g_bLoaded = false;
+    for (const std::string_view root : catalogueRoots) {
+        tvWeapons.add("", std::string(root));
+    }
+    const int listWidth = lvCurrentWeapons.place().width;
+    lvCurrentWeapons.addColumn("Weapon Name", listWidth / 2);
+    lvCurrentWeapons.addColumn("Count", listWidth / 3);
+    if (m_services.hasScreen) {
+        LoadWeaponTree();
+    }
+    m_services.progress.setText("Weapons Loaded");
+    RefreshScreen();
+    g_bLoaded = true;
+}
+
+void frmMain::Form_Unload(bool& cancel) {
+    if (m_services.globals.g_bConfirmExit && !g_Ship->g_bSaved) {
+        cancel =
+            m_services.desktop.showMessage("Ship not saved, continue with exit?", "Ship not saved!",
+                                           Buttons::YesNo, Icon::Information) == Answer::No;
+    }
+    if (cancel) {
+        return;
+    }
+    m_shipEvents.clear();
+    g_Ship.reset();
+    m_services.freeFormulaLibrary();
+    m_services.desktop.unloadAllForms();
+    minimize();
+}
+
+void frmMain::replaceShip() {
+    m_shipEvents.clear();
+    g_Ship = std::make_unique<ShipClass>(
+        ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
+                     .formula = m_services.globals.formula,
+                     .eventLoopTurn = m_services.eventLoopTurn});
+    const auto listen = [this](Signal<>& event, void (frmMain::*handler)()) {
+        m_shipEvents.push_back(event.connect([this, handler] { (this->*handler)(); }));
+    };
+    listen(g_Ship->Recalculated, &frmMain::g_Ship_Recalculated);
+    listen(g_Ship->CloakAndMerchant, &frmMain::g_Ship_CloakAndMerchant);
+    listen(g_Ship->ShipLoaded, &frmMain::g_Ship_ShipLoaded);
+    listen(g_Ship->ShipSaved, &frmMain::g_Ship_ShipSaved);
+    listen(g_Ship->WeaponNotFound, &frmMain::g_Ship_WeaponNotFound);
+    listen(g_Ship->AutoMassUnsettled, &frmMain::g_Ship_AutoMassUnsettled);
+}
+
+bool frmMain::loadFile(const std::string& fileName) {
+    replaceShip();
+    lvCurrentWeapons.clear();
+    // An overflow in the middle of a load ends the load; there is nothing to go back to.
+    const ActScope scope(*this);
+    return g_Ship->loadShip(fileName);
+}
+
+void frmMain::g_Ship_CloakAndMerchant() {
+    sbStatus.setText("Cannot have cloak and other weapons on a merchant hull...");
+}
+
+void frmMain::g_Ship_WeaponNotFound() {
+    m_services.desktop.showMessage("Couldn 't find the weapon");
+}
+
+void frmMain::g_Ship_AutoMassUnsettled() {
+    sbStatus.setText("AutoMass found no fitting mass");
+}
+
+void frmMain::g_Ship_ShipSaved() {
+    RefreshScreen();
+    sbStatus.setText("Saved...");
+}
+
+void frmMain::g_Ship_ShipLoaded() {
+    showButtons();
+    WeapRec record;
+    for (std::int32_t index = 0; index < g_Ship->g_lWeapCount;) {
+        g_Ship->listWeap(index, record);
+        if (record.amount > 0) {
+            AddWeaponRow(std::string(record.name), record.amount);
+        }
+    }
+}
+
+void frmMain::act(const std::function<void()>& act) {
+    if (m_isActing) {
+        act();
+        return;
+    }
+    const ActScope scope(*this);
+    const ShipClass::State before = g_Ship->state();
+    try {
+        act();
+    } catch (const OverflowError&) {
+        g_Ship->restore(before);
+        RefreshScreen();
+        g_Ship->g_bSaved = before.isSaved;
+        sbStatus.setText("Number too large");
+    }
+}
+
+void frmMain::RefreshScreen() {
+    const std::optional<std::size_t> row = lvCurrentWeapons.selected();
+    showFigures();
+    showButtons();
+    // What cannot be previewed stays as it was, without a word.
+    if (tvWeapons.selected() == nullptr) {
+        return;
+    }
+    previewNode();
+    if (lvCurrentWeapons.rows().empty()) {
+        lblWeapMass[1].setCaption("");
+        lblWeapCost[1].setCaption("");
+    } else if (row) {
+        previewRow(*row);
+    }
+}
+
+void frmMain::showFigures() {
+    txtCost.setText(std::to_string(g_Ship->g_lCost));
+    txtDP.setText(std::to_string(g_Ship->g_iDP));
+    txtDamRows.setText(std::to_string(g_Ship->g_iDamRows));
+    lblMassLeft.setCaption(std::to_string(g_Ship->g_iMassLeft));
+    txtMass.setText(std::to_string(g_Ship->mass()));
+    txtDCP.setText(std::to_string(g_Ship->g_iDCP));
+    txtFireCon.setText(std::to_string(g_Ship->g_iFCS));
+    txtRelSize.setText(std::string(g_Ship->relSize()));
+    txtClass.setText(std::string(g_Ship->Class()));
+    txtShipName.setText(g_Ship->g_sShipName);
+    txtDesigner.setText(g_Ship->g_sDesignerName);
+}
+
+void frmMain::tmrRefreshScreen_Timer() {
+    if (sbStatus.text() == sLastStatus) {
+        sbStatus.setText("");
+    }
+    sLastStatus = sbStatus.text();
+    RefreshScreen();
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,109 @@
+// The tree of systems in the main window, which is built once from the catalogue file.
+
+#include "frmMain.h"
+
+#include "Desktop.h"
+#include "PictureFiles.h"
+#include "StartUpProgress.h"
+#include "TextFile.h"
+#include "capitals.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace fleetwright {
+
+Button frmMain::treeButton(const std::string& name, const std::string& root,
+                           const std::string& spoken, Place place) {
+    std::string picture = "button-" + root;
+    std::transform(picture.begin(), picture.end(), picture.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return Button(*this,
+                  {.name = name,
+                   .place = place,
+                   .picture = picture,
+                   .toolTip = spoken,
+                   .accessibleName = spoken},
+                  [this, root] { toggleCategory(root); });
+}
+
+MenuEntry frmMain::addEntry(MenuEntry& menu, const std::string& name, int amount) {
+    const std::string number = std::to_string(amount);
+    return MenuEntry(menu, {.name = name + number, .caption = "X" + number},
+                     [this, amount] { AddSelectedWeapon(amount); });
+}
+
+void frmMain::LoadWeaponTree() {
+    const std::string text = readTextFile(m_services.appFolder / "weaps.dat");
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        if (isCatalogueComment(line)) {
+            continue;
+        }
+        const CatalogueLine fields = cutCatalogueLine(line);
+        if (!fields.isCategory()) {
+            m_services.progress.setText("Loading: " + std::string(fields.name));
+            m_services.progress.repaint();
+        }
+        Raster picture =
+            m_services.pictures.load(m_services.appFolder / "images" / nativePath(fields.icon));
+        const std::string categoryKey = toCapitals(fields.categoryKey);
+        const std::string key = fields.isCategory() ? categoryKey : std::string(fields.name);
+        ilWeapons.add(key, std::move(picture));
+        tvWeapons.add(fields.isCategory() ? toCapitals(fields.parentKey) : categoryKey, key);
+    }
+}
+
+/// Opens or closes one category and closes everything else.
+void frmMain::toggleCategory(const std::string& root) {
+    for (TreeView::Node& node : tvWeapons.nodes()) {
+        tvWeapons.setExpanded(node, node.key == root && !node.isExpanded);
+    }
+}
+
+void frmMain::cmdExpandAll_Click() {
+    for (TreeView::Node& node : tvWeapons.nodes()) {
+        tvWeapons.setExpanded(node, true);
+    }
+}
+
+void frmMain::cmdCollapseAll_Click() {
+    for (TreeView::Node& node : tvWeapons.nodes()) {
+        tvWeapons.setExpanded(node, false);
+    }
+    lblWeapCost[0].setCaption("");
+    lblWeapMass[0].setCaption("");
+}
+
+void frmMain::tvWeapons_Click() {
+    const TreeView::Node* const node = tvWeapons.selected();
+    if (node != nullptr && node->children.empty()) {
+        previewNode();
+    }
+}
+
+/// Shows what one piece of the selected system weighs and costs on this ship.
+void frmMain::previewNode() {
+    const TreeView::Node& node = *tvWeapons.selected();
+    if (!node.children.empty()) {
+        lblWeapMass[0].setCaption("");
+        lblWeapCost[0].setCaption("");
+        return;
+    }
+    lblWeapMass[0].setCaption(std::to_string(g_Ship->previewWeapMass(node.key, 1)));
+    lblWeapCost[0].setCaption(std::to_string(g_Ship->previewWeapCost(node.key, 1)));
+}
+
+void frmMain::tvWeapons_DblClick() {
+    AddSelectedWeapon(1);
+}
+
+void frmMain::tvWeapons_MouseDown(const MousePress& press) {
+    const TreeView::Node* const node = tvWeapons.selected();
+    if (press.button == RightButton && node != nullptr && node->children.empty()) {
+        m_services.desktop.popUp(mnuAddWeaps);
+    }
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Control.h"
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace fleetwright {
+
+/// Rows under column headers, each with a key, a text and a second column.
+class ListView : public Control {
+public:
+    struct Row {
+        std::string key;
+        std::string text;
+        std::string subItem = {};  ///< what stands in the second column
+    };
+    struct Column {
+        std::string title;
+        int width;  ///< twips
+    };
+
+    /// All rows, and which of them is selected.
+    struct Content {
+        std::vector<Row> rows;
+        std::optional<std::size_t> selected;
+    };
+
+    ListView(Container& container, ControlDesign design) : Control(&container, std::move(design)) {}
+
+    void addColumn(const std::string& title, int width);
+    const std::vector<Column>& columns() const { return m_columns; }
+
+    const std::vector<Row>& rows() const { return m_content.rows; }
+    /// Place of the row with this key.
+    std::optional<std::size_t> find(std::string_view key) const;
+    /// Adds a row at the end.
+    void add(const std::string& key, const std::string& text, const std::string& subItem);
+    void setSubItem(std::size_t row, const std::string& subItem);
+    /// Removes a row. If it was the selected one, none is selected afterwards.
+    void remove(std::size_t row);
+    void clear() { setContent({}); }
+    const Content& content() const { return m_content; }
+    void setContent(Content content);
+
+    /// Place of the selected row, if there is one.
+    std::optional<std::size_t> selected() const { return m_content.selected; }
+
+    /// The user has selected this row.
+    void select(std::size_t row);
+    void click();
+    void doubleClick();
+    void pressMouse(const MousePress& press);
+
+    Handler onClick;
+    Handler onDblClick;
+    std::function<void(const MousePress&)> onMouseDown;
+
+private:
+    std::vector<Column> m_columns;
+    Content m_content;
+};
+
+}  // namespace fleetwright

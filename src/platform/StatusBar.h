@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Control.h"
+
+namespace fleetwright {
+
+/// A line at the lower edge of a window: one panel of text.
+class StatusBar : public Control {
+public:
+    StatusBar(Container& container, ControlDesign design)
+        : Control(&container, std::move(design)) {}
+
+    const std::string& text() const { return design().text; }
+
+    void setText(const std::string& text) {
+        if (text != design().text) {
+            changeableDesign().text = text;
+            Changed.raise();
+        }
+    }
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Control.h"
+
+#include <deque>
+#include <map>
+#include <string_view>
+
+namespace fleetwright {
+
+/// Nodes under nodes, each with a key that is also its text and the key of its picture.
+class TreeView : public Control {
+public:
+    struct Node {
+        std::string key;
+        Node* parent = nullptr;
+        std::vector<Node*> children = {};
+        bool isExpanded = false;
+    };
+
+    TreeView(Container& container, ControlDesign design) : Control(&container, std::move(design)) {}
+
+    /// Adds a node below the one with the key `parent`, or at the top if that is empty. A parent
+    /// that is not there, or a key that is already, is a std::logic_error.
+    Node& add(std::string_view parent, const std::string& key);
+
+    /// All nodes in the order in which they were added.
+    const std::deque<Node>& nodes() const { return m_nodes; }
+    std::deque<Node>& nodes() { return m_nodes; }
+    Node* find(std::string_view key);
+
+    void setExpanded(Node& node, bool isExpanded);
+
+    /// The selected node, if there is one.
+    const Node* selected() const { return m_selected; }
+
+    /// The user has selected this node.
+    void select(const Node& node);
+    void click();
+    void doubleClick();
+    void pressMouse(const MousePress& press);
+
+    Handler onClick;
+    Handler onDblClick;
+    std::function<void(const MousePress&)> onMouseDown;
+
+private:
+    std::deque<Node> m_nodes;  // whose places stay as it grows
+    std::map<std::string, Node*, std::less<>> m_byKey;
+    const Node* m_selected = nullptr;
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,161 @@
+#include "testWindow.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+
+namespace {
+
+/// "hull mass thrust ftl armor streamline" of the ship.
+std::string design(const ShipClass& ship) {
+    return std::to_string(ship.Hull()) + ' ' + std::to_string(ship.mass()) + ' ' +
+           std::to_string(ship.THRUST()) + ' ' + std::to_string(ship.FTL()) + ' ' +
+           std::to_string(ship.Armor()) + ' ' + std::to_string(ship.Streamline());
+}
+
+/// Which of the three groups that a base does not have are open.
+std::string openGroups(const frmMain& window) {
+    return std::string(window.fraStreamling.isEnabled() ? "S" : "-") +
+           (window.fraFTL.isEnabled() ? "F" : "-") + (window.fraThrust.isEnabled() ? "T" : "-") +
+           (window.optThrust[8].isEnabled() && window.optTug.isEnabled() &&
+                    window.optFullStreamling.isEnabled()
+                ? "+"
+                : "-") +
+           (window.fraArmor.isEnabled() ? "A" : "-");
+}
+
+}  // namespace
+
+TEST(FrmMainDesign, EachButtonWritesItsValueOnce) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    int recalculations = 0;
+    const Connection count = test.ship().Recalculating.connect([&] { ++recalculations; });
+    const std::vector<std::pair<OptionButton*, const char*>> buttons = {
+        {&window.optMerchant, "2 2 2 1 0 0"},       {&window.optQship, "3 2 2 1 0 0"},
+        {&window.optWarship, "1 2 2 1 0 0"},        {&window.optPartStreamline, "1 2 2 1 0 1"},
+        {&window.optFullStreamling, "1 2 2 1 0 2"}, {&window.optNoStreamline, "1 2 2 1 0 0"},
+        {&window.optNoArmor[2], "1 2 2 1 2 0"},     {&window.optNoArmor[1], "1 2 2 1 1 0"},
+        {&window.optNone, "1 2 2 0 1 0"},           {&window.optTug, "1 2 2 3 1 0"},
+        {&window.optNormal, "1 2 2 1 1 0"},         {&window.optThrust[0], "1 2 0 1 1 0"},
+        {&window.optThrust[8], "1 2 8 1 1 0"},
+    };
+    for (const auto& [button, expected] : buttons) {
+        recalculations = 0;
+        button->choose();
+        EXPECT_EQ(design(test.ship()), expected);
+        EXPECT_EQ(recalculations, 1) << expected;
+        test.ship().g_bSaved = true;
+        button->choose();
+        EXPECT_TRUE(test.ship().g_bSaved);
+    }
+    EXPECT_EQ(window.txtCost.text(), std::to_string(test.ship().g_lCost));
+}
+
+TEST(FrmMainDesign, BasesLoseWhatMovesAndShipsStayWithoutIt) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    window.optTug.choose();
+    window.optThrust[4].choose();
+    window.optFullStreamling.choose();
+    window.optNoArmor[2].choose();
+    const std::vector<std::pair<OptionButton*, const char*>> bases = {
+        {&window.optStarBase, "4 2 0 0 2 0"},
+        {&window.optQstation, "6 2 0 0 2 0"},
+        {&window.optSpaceStation, "5 2 0 0 2 0"},
+    };
+    for (const auto& [button, expected] : bases) {
+        button->choose();
+        EXPECT_EQ(design(test.ship()), expected);
+        EXPECT_TRUE(button->isOn());
+        EXPECT_EQ(openGroups(window), "----A");
+        window.optThrust[3].choose();
+        EXPECT_EQ(design(test.ship()), expected);
+    }
+    window.optWarship.choose();
+    EXPECT_EQ(design(test.ship()), "1 2 0 0 2 0");
+    EXPECT_EQ(openGroups(window), "SFT+A");
+}
+
+TEST(FrmMainDesign, SpinnersStepTheTextAndStopAtTwo) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    window.updwnMass_5.pressDown();
+    EXPECT_EQ(test.ship().mass(), 2);
+    window.updwnMass_1.pressUp();
+    window.updwnMass_10.pressUp();
+    window.updwnMass_5.pressUp();
+    EXPECT_EQ(window.txtMass.text(), "64");
+    window.updwnMass_5.pressDown();
+    window.updwnMass_10.pressDown();
+    EXPECT_EQ(test.ship().mass(), 4);
+    window.updwnMass_10.pressDown();
+    EXPECT_EQ(window.txtMass.text() + design(test.ship()), "21 2 2 1 0 0");
+    // The box is locked: a mass is never typed.
+    window.txtMass.type("50");
+    EXPECT_EQ(test.ship().mass(), 2);
+}
+
+TEST(FrmMainDesign, AutoMassHidesTheSpinnersAndSettles) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    window.updwnMass_5.pressUp();
+    window.optNone.choose();
+    window.mnuAutoMass.choose();
+    EXPECT_TRUE(window.mnuAutoMass.isChecked() && test.ship().g_bAutoMass);
+    EXPECT_FALSE(window.fraMassSpinner.isVisible());
+    EXPECT_EQ(window.txtMass.text() + ' ' + design(test.ship()), "0 1 0 2 0 0 0");
+    window.optNormal.choose();
+    EXPECT_EQ(window.txtMass.text() + ' ' + design(test.ship()), "0 1 0 2 1 0 0");
+    window.mnuAutoMass.choose();
+    EXPECT_FALSE(test.ship().g_bAutoMass);
+    EXPECT_TRUE(window.fraMassSpinner.isVisible());
+
+    window.updwnMass_5.pressUp();
+    test.selectNode("Sponge");
+    window.tvWeapons.doubleClick();
+    window.mnuAutoMass.choose();
+    EXPECT_EQ(window.sbStatus.text(), "AutoMass found no fitting mass");
+    EXPECT_EQ(window.txtMass.text() + ' ' + design(test.ship()), "52 1 52 2 1 0 0");
+    EXPECT_EQ(test.list(), "Sponge 1");
+    EXPECT_TRUE(test.ship().g_bAutoMass);
+}
+
+TEST(FrmMainDesign, AfterALoadTheMarkStaysAndTheShipsFlagIsOff) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    window.mnuAutoMass.choose();
+    EXPECT_TRUE(window.loadFile(test.folder().write("a.shp", "Mass: 40\nType: Starbase\n")));
+    EXPECT_TRUE(window.mnuAutoMass.isChecked());
+    EXPECT_FALSE(test.ship().g_bAutoMass);
+    EXPECT_TRUE(test.ship().g_bSaved);
+    EXPECT_EQ(openGroups(window), "----A");
+    window.mnuAutoMass.choose();
+    EXPECT_FALSE(window.mnuAutoMass.isChecked() || test.ship().g_bAutoMass);
+    window.mnuAutoMass.choose();
+    EXPECT_TRUE(test.ship().g_bAutoMass);
+}
+
+TEST(FrmMainDesign, AnActThatOverflowsIsUndoneAsAWhole) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    EXPECT_TRUE(window.loadFile(test.folder().write(
+        "big.shp", "Type: Merchant\nMass: 1100000000\nThrust: 0\nFTL: None\n")));
+    window.tmrRefreshScreen.tick();
+    window.optPartStreamline.choose();
+    const std::string before = "2 1100000000 0 0 0 0";
+    EXPECT_EQ(design(test.ship()), before);
+    EXPECT_EQ(window.sbStatus.text(), "Number too large");
+    EXPECT_TRUE(window.optNoStreamline.isOn());
+    window.optStarBase.choose();
+    EXPECT_EQ(design(test.ship()), before);
+    EXPECT_TRUE(window.optMerchant.isOn());
+    EXPECT_EQ(openGroups(window), "SFT+A");
+    EXPECT_EQ(window.txtMass.text(), "1100000000");
+}

@@ -1,0 +1,150 @@
+#include "testWindow.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+
+TEST(FrmMain, LoadsInOrderAndShowsASavedShip) {
+    TestWindow test("CATEGORY,0,0,BEAM,Guns,O,guns.gif\n# comment\n\nGun,1,1,x,guns,F,gun,1.gif\n");
+    EXPECT_FALSE(test.window().g_bLoaded);
+    test.window().load();
+    EXPECT_EQ(test.takeLog(), "Preparing to load weapons; picture: images/guns.gif; "
+                              "Loading: Gun; paint; picture: images/gun,1.gif; Weapons Loaded; ");
+    EXPECT_TRUE(test.window().g_bLoaded);
+    EXPECT_FALSE(test.window().isVisible());
+    EXPECT_EQ(test.ship().g_sDesignerName, "Somebody");
+    EXPECT_TRUE(test.ship().g_bSaved);
+    EXPECT_EQ(test.window().txtMass.text() + test.window().txtCost.text() +
+                  test.window().lblMassLeft.caption() + test.window().txtClass.text() +
+                  test.window().txtDesigner.text(),
+              "271EscortSomebody");
+    std::string nodes;
+    for (const TreeView::Node& node : test.window().tvWeapons.nodes()) {
+        nodes += node.key + (node.parent == nullptr ? "" : '<' + node.parent->key) + ' ';
+    }
+    EXPECT_EQ(nodes, "BEAM DEFENSE HEAVY SYSTEMS HANGAR SPECIAL ALIEN GUNS<BEAM Gun<GUNS ");
+    EXPECT_EQ(test.window().lvCurrentWeapons.columns()[0].width, 2055);
+    EXPECT_EQ(test.window().lvCurrentWeapons.columns()[1].width, 1370);
+}
+
+TEST(FrmMain, WithoutACatalogueSaysSoAndEnds) {
+    TestWindow test;
+    std::filesystem::remove(test.folder().path() / "weaps.dat");
+    EXPECT_THROW(test.window().load(), EndOfProgram);
+    EXPECT_EQ(test.takeLog(), "box: Error Creating Ship Object; ");
+    EXPECT_FALSE(test.window().g_bLoaded);
+}
+
+TEST(FrmMain, StatusOutlivesOneTickAndNotTwo) {
+    TestWindow test;
+    test.window().show();
+    frmMain& window = test.window();
+    window.sbStatus.setText("message");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.sbStatus.text(), "message");
+    window.sbStatus.setText("message");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.sbStatus.text(), "");
+    window.sbStatus.setText("other");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.sbStatus.text(), "other");
+}
+
+TEST(FrmMain, TickShowsWhatWasWrittenWithoutARecalculation) {
+    TestWindow test;
+    test.window().show();
+    test.ship().g_sShipName = "Renamed";
+    test.window().tmrRefreshScreen.tick();
+    EXPECT_EQ(test.window().txtShipName.text(), "Renamed");
+    test.window().txtCost.type("9999");
+    test.window().tmrRefreshScreen.tick();
+    EXPECT_EQ(test.window().txtCost.text(), "7");
+    EXPECT_TRUE(test.ship().g_bSaved);
+}
+
+TEST(FrmMain, PreviewsEndSilentlyWhereNothingIsSelected) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    window.optThrust[4].choose();
+    EXPECT_EQ(test.previews(), "  |  ");
+    test.selectNode("Screen");
+    window.tvWeapons.click();
+    EXPECT_EQ(test.previews(), "1 6 |  ");
+    window.tvWeapons.doubleClick();
+    EXPECT_EQ(test.previews(), "1 6 |  ");
+    window.lvCurrentWeapons.select(0);
+    window.lvCurrentWeapons.click();
+    EXPECT_EQ(test.previews(), "1 6 | 1 6");
+    window.tvWeapons.doubleClick();
+    window.updwnMass_5.pressUp();
+    EXPECT_EQ(test.previews(), "6 156 | 12 312");
+    test.selectNode("DEFENSE");
+    window.tvWeapons.click();
+    EXPECT_EQ(test.previews(), "6 156 | 12 312");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(test.previews(), "  | 12 312");
+    window.cmdCollapseAll.press();
+    // A category without systems counts as one, and no ship knows it.
+    test.takeLog();
+    test.selectNode("ALIEN");
+    window.tvWeapons.click();
+    EXPECT_EQ(test.takeLog(), "box: Couldn 't find the weapon; box: Couldn 't find the weapon; ");
+    EXPECT_EQ(test.previews(), "0 0 | 12 312");
+}
+
+TEST(FrmMain, CategoryButtonsOpenOneAndCloseTheRest) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    const auto open = [&] {
+        std::string text;
+        for (const TreeView::Node& node : window.tvWeapons.nodes()) {
+            text += node.isExpanded ? node.key + ' ' : "";
+        }
+        return text;
+    };
+    window.cmdBeams.press();
+    EXPECT_EQ(open(), "BEAM ");
+    window.cmdSystems.press();
+    EXPECT_EQ(open(), "SYSTEMS ");
+    window.cmdSystems.press();
+    EXPECT_EQ(open(), "");
+    window.cmdExpandAll.press();
+    window.cmdBeams.press();
+    EXPECT_EQ(open(), "");
+    const std::pair<Button*, const char*> buttons[] = {
+        {&window.cmdDefense, "DEFENSE "}, {&window.cmdHeavy, "HEAVY "},
+        {&window.cmdHangars, "HANGAR "},  {&window.cmdSpecial, "SPECIAL "},
+        {&window.cmdAlien, "ALIEN "},
+    };
+    for (const auto& [button, expected] : buttons) {
+        button->press();
+        EXPECT_EQ(open(), expected);
+    }
+}
+
+TEST(FrmMain, ClosingAsksOnlyForAnUnsavedShipAndWhenItShould) {
+    for (const bool confirms : {false, true}) {
+        for (const bool isSaved : {false, true}) {
+            for (const Answer answer : {Answer::Yes, Answer::No}) {
+                TestWindow test;
+                test.window().show();
+                test.globals.g_bConfirmExit = confirms;
+                test.ship().g_bSaved = isSaved;
+                test.answer = answer;
+                test.takeLog();
+                const bool asks = confirms && !isSaved;
+                const bool closes = !asks || answer == Answer::Yes;
+                EXPECT_EQ(test.window().unload(), closes);
+                EXPECT_EQ(test.takeLog(),
+                          std::string(asks ? "box: Ship not saved, continue with exit? / Ship not "
+                                             "saved! yes-no info; "
+                                           : "") +
+                              (closes ? "free library; unload all; " : ""));
+                EXPECT_EQ(test.window().g_Ship == nullptr, closes);
+                EXPECT_EQ(test.window().isMinimized(), closes);
+            }
+        }
+    }
+}
