@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -12,5 +14,12 @@ struct Fault {
 
     friend bool operator==(const Fault&, const Fault&) = default;
 };
+
+/// Puts faults in the order of their lines; those of no single line come last.
+inline void sortByLine(std::vector<Fault>& faults) {
+    std::stable_sort(faults.begin(), faults.end(), [](const Fault& a, const Fault& b) {
+        return a.line != 0 && (b.line == 0 || a.line < b.line);
+    });
+}
 
 }  // namespace fleetwright

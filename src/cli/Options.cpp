@@ -24,7 +24,7 @@ struct CommandRow {
     std::string_view help;
 };
 
-constexpr std::array<CommandRow, 6> commandTable = {{
+constexpr std::array<CommandRow, 7> commandTable = {{
     {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
     {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
      "Print the figures of ships, one JSON object a line"},
@@ -35,6 +35,7 @@ constexpr std::array<CommandRow, 6> commandTable = {{
      "Work out a mass or cost formula of the catalogue"},
     {"check", Command::Check, "[FILE...]", 0, any,
      "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the folder"},
+    {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
 }};
 
 /// A number that a formula can name, and the option that sets it.

@@ -2,6 +2,7 @@
 
 #include "CatalogueCheck.h"
 #include "Error.h"
+#include "PictureCheck.h"
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
 #include "TextFile.h"
@@ -50,6 +51,35 @@ std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file)
     return checkShipFile(text, screen.ship());
 }
 
+/// The faults of a catalogue, those of its pictures included where the folder beside it is there.
+std::vector<Fault> checkCatalogueFile(const fs::path& file) {
+    const std::string text = readTextFile(file);
+    std::vector<Fault> faults = checkCatalogue(text);
+    const fs::path images = file.parent_path() / "images";
+    if (fs::is_directory(images)) {
+        for (Fault& fault : PictureCheck(images).checkCatalogue(text)) {
+            faults.push_back(std::move(fault));
+        }
+        sortByLine(faults);
+    }
+    return faults;
+}
+
+/// What is wrong in the delivered folder of pictures beyond what the catalogue's lines say.
+std::vector<PictureFault> checkDeliveredPictures(const fs::path& appFolder) {
+    const fs::path images = appFolder / "images";
+    if (!fs::is_directory(images)) {
+        return {};
+    }
+    PictureCheck check(images);
+    try {
+        check.checkCatalogue(readTextFile(appFolder / "weaps.dat"));
+    } catch (const FileError&) {
+        return {};  // said already, and without it every picture would seem unused
+    }
+    return check.checkRest();
+}
+
 std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
@@ -57,7 +87,7 @@ std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file)
             return checkShip(appFolder, file);
         }
         if (extension == ".DAT") {
-            return checkCatalogue(readTextFile(nativePath(file)));
+            return checkCatalogueFile(nativePath(file));
         }
         return {{0, "neither a catalogue (.dat) nor a ship file (.shp)"}};
     } catch (const FileError& error) {
@@ -75,6 +105,12 @@ int runCheck(const Options& options) {
     for (const std::string& file : files) {
         for (const Fault& fault : checkFile(options.appFolder, file)) {
             std::printf("%s\n", complaint(file, fault).c_str());
+            status = SomeRefused;
+        }
+    }
+    if (options.files.empty()) {
+        for (const PictureFault& fault : checkDeliveredPictures(options.appFolder)) {
+            std::printf("%s\n", complaint(fault.file.string(), fault.fault).c_str());
             status = SomeRefused;
         }
     }

@@ -21,6 +21,7 @@ int runExplain(const Options& options);
 int runSave(const Options& options);
 int runEval(const Options& options);
 int runCheck(const Options& options);
+int runUnpack(const Options& options);
 
 /// Where the lines of a ship file go that the ship did not take.
 enum class RefusedLines { InOutput, AsComplaints };

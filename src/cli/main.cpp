@@ -23,6 +23,8 @@ int run(const Options& options) {
         return runEval(options);
     case Command::Check:
         return runCheck(options);
+    case Command::Unpack:
+        return runUnpack(options);
     case Command::None:
         break;
     }

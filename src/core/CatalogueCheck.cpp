@@ -144,9 +144,7 @@ void CatalogueChecker::checkWhole() {
             m_faults.push_back({node.line, "nothing stands under " + quote(key)});
         }
     }
-    std::stable_sort(m_faults.begin(), m_faults.end(), [](const Fault& a, const Fault& b) {
-        return a.line != 0 && (b.line == 0 || a.line < b.line);
-    });
+    sortByLine(m_faults);
     // The rules and the sheets know these two by their names.
     for (const std::string_view name : {Catalogue::cloakName, Catalogue::partyName}) {
         if (!m_nodes.contains(name)) {

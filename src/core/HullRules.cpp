@@ -7,10 +7,6 @@ namespace fleetwright {
 
 namespace {
 
-/// The largest masses of the first two ship classes and of the third; above that, every 50 mass
-/// units from 100 on count.
-constexpr std::int32_t escortMass = 18, cruiserMass = 36, capitalMass = 100;
-
 std::int32_t stepsAboveCapital(std::int32_t mass) {
     return (mass - capitalMass) / 50;
 }

@@ -23,6 +23,10 @@ enum FtlDrive : std::int32_t { NoDrive = 0, NormalDrive = 1, TugDrive = 3 };
 /// Bounds that the program holds a design to; AutoMass and ship files can go beyond them.
 inline constexpr std::int32_t smallestMass = 2, mostThrust = 8;
 
+/// The largest masses of the first two ship classes and of the third; above that, every 50 mass
+/// units from 100 on count.
+inline constexpr std::int32_t escortMass = 18, cruiserMass = 36, capitalMass = 100;
+
 /// What the hull of a design is made of.
 struct HullDesign {
     std::int32_t mass = smallestMass;  ///< mass units

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Fault.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fleetwright {
+
+/// What is wrong with a file of the folder of pictures.
+struct PictureFault {
+    std::filesystem::path file;
+    Fault fault;
+};
+
+/// Looks at the folder of pictures as the program will: names count without regard to case.
+class PictureCheck {
+public:
+    explicit PictureCheck(const std::filesystem::path& folder);
+
+    /// The pictures that the records of a catalogue name, each with the line of its record: those
+    /// that are missing, that cannot be read or that have another size than systems have.
+    std::vector<Fault> checkCatalogue(std::string_view text);
+
+    /// The pictures that sheets need besides those, and the pictures that neither they nor the
+    /// catalogues checked before make use of.
+    std::vector<PictureFault> checkRest();
+
+private:
+    /// A file and whether anything needs it.
+    struct Entry {
+        std::filesystem::path file;
+        bool isUsed = false;
+    };
+
+    Entry* find(std::string_view name);
+
+    std::filesystem::path m_folder;
+    std::map<std::string, Entry> m_entries;  // by name in capitals
+};
+
+}  // namespace fleetwright

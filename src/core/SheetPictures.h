@@ -1,0 +1,46 @@
+#pragma once
+
+// The picture files that a drawn sheet is pasted together from, apart from those that the
+// catalogue names. Whoever draws, makes or checks pictures takes their names from here.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fleetwright {
+
+/// The fixed ones.
+inline constexpr std::string_view fireControlPicture = "ssdfc.gif";
+inline constexpr std::string_view unusedFireControlPicture = "fcblank.gif";
+inline constexpr std::string_view noDrivePicture = "blank.gif";
+
+/// The sizes of damage track, by the largest mass that a map serves.
+enum class TrackSize { Escort, Cruiser, Capital };
+inline constexpr TrackSize trackSizes[] = {TrackSize::Escort, TrackSize::Cruiser,
+                                           TrackSize::Capital};
+
+/// The size of track that a map of this SIZE takes: up to mass 18, 36 and 100. Larger maps have
+/// none.
+TrackSize trackSize(std::int32_t mapMass);
+
+/// File name of the damage track for a number of damage points, as the ship's window says it.
+std::string damageTrackPicture(TrackSize size, std::string_view damagePoints);
+
+/// File name of the picture of a thrust rating.
+std::string thrustPicture(std::int32_t thrust);
+
+/// File name of the picture of a drive between the stars, by its code.
+std::string drivePicture(std::int32_t ftl);
+
+/// The most damage points of a ship for which there is any map: up to mass 100.
+std::int32_t mostDamagePoints();
+
+/// How many rows a track has: as many damage rows as the ships have that the map is made for, or
+/// more where only a heavier ship comes to so many damage points.
+std::int32_t trackRows(TrackSize size, std::int32_t damagePoints);
+
+/// All of these files: every track from 0 to `mostDamagePoints`, every thrust and drive.
+std::vector<std::string> sheetPictures();
+
+}  // namespace fleetwright

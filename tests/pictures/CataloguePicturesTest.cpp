@@ -1,0 +1,157 @@
+#include "Error.h"
+#include "TemporaryFolder.h"
+#include "drawing.h"
+#include "renderedSets.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <set>
+
+namespace fleetwright {
+namespace {
+
+constexpr int side = systemPictureSize;
+
+/// Where the mark of a mounting stands.
+constexpr int markLeft = 18, markTop = 15;
+
+int differingPixels(const QImage& a, const QImage& b) {
+    int count = 0;
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+/// Everything of the size of a system that a player has to tell apart.
+std::map<std::string, QImage> picturesToTellApart() {
+    std::map<std::string, QImage> pictures;
+    for (const PictureSet* set : {&renderedCatalogue(), &renderedSheet(), &renderedWindow()}) {
+        for (const auto& [name, bytes] : *set) {
+            if (!name.ends_with(".gif")) {
+                continue;
+            }
+            const QImage image = decode(bytes, "gif");
+            if (image.size() == QSize(side, side) && inkCount(image) > 0) {
+                pictures[name] = image;
+            }
+        }
+    }
+    return pictures;
+}
+
+TEST(CataloguePictures, EveryRecordHasAPictureOfSystemSizeInBlackOnWhite) {
+    for (const WeapRec& record : deliveredCatalogue().records()) {
+        const std::string file(record.icon);
+        SCOPED_TRACE(file);
+        ASSERT_TRUE(renderedCatalogue().contains(file));
+        const QImage image = decode(renderedCatalogue().at(file), "gif");
+        ASSERT_EQ(image.size(), QSize(side, side));
+        // Neither lost nor a blot: something to see, and more white than black.
+        EXPECT_GE(inkCount(image), 90);
+        EXPECT_LE(inkCount(image), side * side / 2);
+    }
+}
+
+TEST(CataloguePictures, NoTwoAreNearlyTheSame) {
+    constexpr int leastDifference = 24;
+    const std::map<std::string, QImage> pictures = picturesToTellApart();
+    EXPECT_GE(pictures.size(), 207U + 12U + 7U);
+    for (auto first = pictures.begin(); first != pictures.end(); ++first) {
+        for (auto second = std::next(first); second != pictures.end(); ++second) {
+            EXPECT_GE(differingPixels(first->second, second->second), leastDifference)
+                << first->first << " and " << second->first;
+        }
+    }
+}
+
+TEST(CataloguePictures, NoSourceIsLeftOver) {
+    std::set<std::string> used;
+    for (const WeapRec& record : deliveredCatalogue().records()) {
+        const std::string file(record.icon);
+        used.insert(file.starts_with("cat-") ? file.substr(4, file.size() - 8)
+                                             : readPictureName(file).source);
+    }
+    std::set<std::string> there;
+    for (const char* folder : {"systems", "categories"}) {
+        for (const auto& entry :
+             std::filesystem::directory_iterator(projectArtwork().file(folder))) {
+            there.insert(entry.path().stem().string());
+        }
+    }
+    EXPECT_EQ(there, used);
+}
+
+TEST(CataloguePictures, SymbolsLeaveTheCornerOfTheMountingMarkFree) {
+    for (const WeapRec& record : deliveredCatalogue().records()) {
+        const PictureName name = readPictureName(std::string(record.icon));
+        if (name.arc.empty()) {
+            continue;
+        }
+        const Variant variant = {{"class", name.weaponClass}, {"arc", ""}};
+        const QImage symbol =
+            drawInk({projectArtwork().svg("systems/" + name.source, variant)}, {side, side});
+        for (int y = markTop; y < side; ++y) {
+            for (int x = markLeft; x < side; ++x) {
+                ASSERT_FALSE(isInk(symbol, x, y)) << record.icon << " at " << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST(CataloguePictures, PortAndStarboardMountingsMirrorEachOthersMark) {
+    for (const auto& [port, starboard] : {std::pair{"pulse-cannon-2-p.gif", "pulse-cannon-2-s.gif"},
+                                          {"pulse-cannon-4-fp.gif", "pulse-cannon-4-fs.gif"}}) {
+        const QImage left = decode(renderedCatalogue().at(port), "gif");
+        const QImage right = decode(renderedCatalogue().at(starboard), "gif");
+        for (int y = markTop; y < side; ++y) {
+            for (int x = markLeft; x < side - 1; ++x) {
+                EXPECT_EQ(isInk(left, x, y), isInk(right, markLeft + side - 2 - x, y))
+                    << port << " at " << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST(CataloguePictures, NamesSayWhatAPictureIsMadeOf) {
+    const auto parts = [](const std::string& file) {
+        const PictureName name = readPictureName(file);
+        return name.source + "|" + name.weaponClass + "|" + name.arc;
+    };
+    EXPECT_EQ(parts("pulse-cannon-3-fps.gif"), "pulse-cannon|3|fps");
+    EXPECT_EQ(parts("ward-field-2.gif"), "ward-field|2|");
+    EXPECT_EQ(parts("maw-f.gif"), "maw||f");
+    EXPECT_EQ(parts("armor-plate.gif"), "armor-plate||");
+    EXPECT_EQ(parts("outpost-9.gif"), "outpost-9||");
+}
+
+TEST(CataloguePictures, AFaultySourceIsNamedWithItsLine) {
+    const TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.path();
+    std::filesystem::copy_file(projectArtwork().file("lettering.txt"), folder / "lettering.txt");
+    const std::map<std::string, std::pair<std::string, std::string>> sources = {
+        {"broken", {"<svg>\n<path>\n</svg>\n", "line 3: "}},
+        {"page", {"<html/>", "line 1: no SVG picture"}},
+        {"letter", {"<svg>\n<text>a~b</text></svg>", "line 2: the lettering has no \"~\""}}};
+    const Artwork artwork(folder, "1");
+    for (const auto& [name, source] : sources) {
+        temporary.write(name + ".svg", source.first);
+        try {
+            artwork.svg(name);
+            ADD_FAILURE() << name;
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.file(), folder / (name + ".svg"));
+            EXPECT_EQ(std::string(error.what()).find(source.second), 0U) << error.what();
+        }
+    }
+    EXPECT_THROW(artwork.svg("absent"), FileError);
+    temporary.write("lettering.txt", "A 10 M 0 0 L x 3\n");
+    EXPECT_THROW(Artwork(folder, "1"), FileError);
+}
+
+}  // namespace
+}  // namespace fleetwright

@@ -1,0 +1,161 @@
+#include "unpackFiles.h"
+
+#include "Error.h"
+#include "TemporaryFolder.h"
+#include "renderedSets.h"
+#include "runCommand.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace fleetwright {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Bounds the size of files that this process can write, which fails like a full disk.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t size) {
+        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_old);
+        const rlimit limit = {size, m_old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+
+private:
+    rlimit m_old{};
+    void (*m_oldHandler)(int) = SIG_DFL;
+};
+
+TEST(UnpackFiles, WritesAllAndReplacesOldOnes) {
+    const TemporaryFolder folder;
+    folder.write("b.gif", "old and longer");
+    folder.write("mine.gif", "mine");
+    const std::string bytes("\0\377\r\n", 4);
+    const ArchivedFile files[] = {{"a.gif", bytes}, {"b.gif", "new"}};
+    unpackFiles(files, folder.path());
+    EXPECT_EQ(folder.read("a.gif"), bytes);
+    EXPECT_EQ(folder.read("b.gif"), "new");
+    EXPECT_EQ(folder.read("mine.gif"), "mine");
+    EXPECT_EQ(folder.entries(), 3);
+}
+
+TEST(UnpackFiles, ADiskThatFillsUpLeavesNothing) {
+    const TemporaryFolder folder;
+    const std::string large(20000, 'x');
+    const ArchivedFile files[] = {{"a.gif", "small"}, {"b.gif", large}, {"c.gif", "small"}};
+    const FileSizeLimit limit(8000);
+    try {
+        unpackFiles(files, folder.path());
+        FAIL();
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.file(), folder.path() / "b.gif");
+        EXPECT_EQ(std::string(error.what()).find("cannot be written: "), 0U);
+    }
+    EXPECT_EQ(folder.entries(), 0);
+}
+
+TEST(UnpackFiles, ANameThatCannotBeTakenLeavesTheFolderAsItWas) {
+    const TemporaryFolder folder;
+    fs::create_directories(folder.path() / "b.gif" / "inside");
+    const ArchivedFile files[] = {{"a.gif", "a"}, {"b.gif", "b"}};
+    EXPECT_THROW(unpackFiles(files, folder.path()), FileError);
+    EXPECT_EQ(folder.entries(), 1);
+    EXPECT_TRUE(fs::exists(folder.path() / "b.gif" / "inside"));
+}
+
+TEST(PictureArchive, UnpacksEveryPictureOfCatalogueAndSheet) {
+    const TemporaryFolder folder;
+    const CommandResult result = runCommand("cd " + folder.path().string() + " && " ARCHIVE " -o");
+    ASSERT_EQ(result.status, 0) << result.output;
+    PictureSet expected = renderedCatalogue();
+    expected.insert(renderedSheet().begin(), renderedSheet().end());
+    for (const auto& [name, bytes] : expected) {
+        EXPECT_EQ(folder.read(name), bytes) << name;
+    }
+    EXPECT_EQ(folder.entries(), static_cast<int>(expected.size()));
+}
+
+TEST(PictureArchive, WithoutItsOptionItSaysWhatItIsAndWritesNothing) {
+    const TemporaryFolder folder;
+    const CommandResult result = runCommand("cd " + folder.path().string() + " && " ARCHIVE);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_NE(result.output.find("-o"), std::string::npos);
+    EXPECT_EQ(folder.entries(), 0);
+}
+
+TEST(PictureArchive, AFolderThatCannotBeWrittenToIsNamed) {
+    // Not even the superuser makes files here.
+    const CommandResult result = runCommand("cd /proc && " ARCHIVE " -o");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output.find("/proc: cannot be written: "), 0U) << result.output;
+}
+
+TEST(PictureArchive, AFullDiskLeavesNothing) {
+    const TemporaryFolder folder;
+    const std::string name = folder.path().string();
+    const std::string mount = "mount -t tmpfs -o size=100k tmpfs " + name;
+    const std::string inPrivate = "unshare --map-root-user --mount sh -c ";
+    if (runCommand(inPrivate + "'" + mount + "'").status != 0) {
+        GTEST_SKIP() << "no small disk can be made here";
+    }
+    const CommandResult result =
+        runCommand(inPrivate + "'" + mount + " && cd " + name +
+                   " && { " ARCHIVE " -o; echo status $? left $(ls -A | wc -l); }'");
+    EXPECT_NE(result.output.find("cannot be written: No space left"), std::string::npos);
+    EXPECT_NE(result.output.find("status 1 left 0"), std::string::npos) << result.output;
+}
+
+/// An application folder with nothing but what the command needs.
+class UnpackCommand : public testing::Test {
+protected:
+    UnpackCommand() { fs::copy_file(ARCHIVE, m_app.path() / "images.exe"); }
+
+    CommandResult unpack() const {
+        return runCommand(CLI " unpack --app " + m_app.path().string());
+    }
+
+    TemporaryFolder m_app;
+};
+
+TEST_F(UnpackCommand, MakesTheFolderAndCanBeRepeated) {
+    const CommandResult first = unpack();
+    ASSERT_EQ(first.status, 0) << first.output;
+    const fs::path picture = m_app.path() / "images" / "blank.gif";
+    ASSERT_TRUE(fs::exists(picture));
+    EXPECT_EQ(m_app.entries(), 2);
+
+    fs::remove(picture);
+    m_app.write("images/ftl.gif", "spoilt");
+    EXPECT_EQ(unpack().status, 0);
+    EXPECT_EQ(m_app.read("images/blank.gif"), renderedSheet().at("blank.gif"));
+    EXPECT_EQ(m_app.read("images/ftl.gif"), renderedSheet().at("ftl.gif"));
+}
+
+TEST_F(UnpackCommand, AnArchiveThatFailsLeavesNoFolder) {
+    m_app.write("images.exe", "#!/bin/sh\ntouch half.gif\nexit 1\n");
+    const CommandResult result = unpack();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.output.find("images: the pictures could not be unpacked"), std::string::npos);
+    EXPECT_EQ(m_app.entries(), 1);
+}
+
+TEST_F(UnpackCommand, AMissingArchiveIsNamed) {
+    fs::remove(m_app.path() / "images.exe");
+    const CommandResult result = unpack();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.output.find("images.exe: is missing"), std::string::npos);
+    EXPECT_EQ(m_app.entries(), 0);
+}
+
+}  // namespace
+}  // namespace fleetwright

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "PictureArchive.h"
+
+#include <filesystem>
+#include <span>
+
+namespace fleetwright {
+
+/// Writes the files into a folder, over those of the same name.
+///
+/// All of them are first written to a folder of their own within it and put in place only when
+/// every one is complete. So a disk that is full, or a folder that cannot be written to, leaves no
+/// half picture and no part of the set. Throws FileError.
+void unpackFiles(std::span<const ArchivedFile> files, const std::filesystem::path& folder);
+
+}  // namespace fleetwright

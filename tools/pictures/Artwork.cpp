@@ -1,0 +1,110 @@
+#include "Artwork.h"
+
+#include "Error.h"
+#include "TextFile.h"
+
+#include <QStringList>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+namespace fleetwright {
+
+namespace {
+
+/// Whether an element belongs to the variant.
+bool isWanted(const QXmlStreamAttributes& attributes, const Variant& variant) {
+    const QString prefix = QStringLiteral("data-");
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        if (!attribute.qualifiedName().startsWith(prefix)) {
+            continue;
+        }
+        const auto found =
+            variant.find(attribute.qualifiedName().mid(prefix.size()).toUtf8().data());
+        const QString value =
+            found == variant.end() ? QString() : QString::fromStdString(found->second);
+        if (!attribute.value().toString().split(' ').contains(value)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Puts the place, size, weight and colour of a `text` element on its outlines.
+void writeText(QXmlStreamWriter& writer, const QXmlStreamAttributes& attributes,
+               const std::string& text, const Lettering& lettering) {
+    double x = attributes.value("x").toDouble();
+    const double y = attributes.value("y").toDouble();
+    const double scale = attributes.value("font-size").toDouble() / Lettering::capitalHeight;
+    const double spacing = attributes.value("letter-spacing").toDouble() / scale;
+    if (attributes.value("text-anchor") == QLatin1String("middle")) {
+        x -= lettering.width(text, spacing) * scale / 2;
+    }
+    writer.writeStartElement("path");
+    writer.writeAttribute("transform", QStringLiteral("translate(%1 %2) scale(%3)")
+                                           .arg(x, 0, 'f', 3)
+                                           .arg(y, 0, 'f', 3)
+                                           .arg(scale, 0, 'f', 4));
+    writer.writeAttribute("d", QString::fromStdString(lettering.outline(text, spacing)));
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        const auto name = attribute.qualifiedName();
+        if (name.startsWith(QLatin1String("stroke")) || name == QLatin1String("opacity")) {
+            writer.writeAttribute(attribute);
+        }
+    }
+    writer.writeAttribute("fill", "none");
+    writer.writeEndElement();
+}
+
+}  // namespace
+
+Artwork::Artwork(std::filesystem::path folder, std::string version)
+    : m_folder(std::move(folder)), m_version(std::move(version)),
+      m_lettering(m_folder / "lettering.txt") {}
+
+bool Artwork::has(const std::string& name) const {
+    return std::filesystem::exists(file(name + ".svg"));
+}
+
+QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
+    const std::filesystem::path source = file(name + ".svg");
+    QXmlStreamReader reader(QString::fromStdString(readTextFile(source)));
+    reader.setNamespaceProcessing(false);
+    QByteArray svg;
+    QXmlStreamWriter writer(&svg);
+    const auto fail = [&](const std::string& fault) {
+        throw FileError(source, "line " + std::to_string(reader.lineNumber()) + ": " + fault);
+    };
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::EndElement) {
+            writer.writeEndElement();
+        }
+        if (token != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        const QXmlStreamAttributes attributes = reader.attributes();
+        if (svg.isEmpty() && reader.qualifiedName() != QLatin1String("svg")) {
+            fail("no SVG picture");
+        }
+        if (!isWanted(attributes, variant)) {
+            reader.skipCurrentElement();
+        } else if (reader.qualifiedName() == QLatin1String("text")) {
+            const QString text =
+                reader.readElementText().replace("{version}", QString::fromStdString(m_version));
+            try {
+                writeText(writer, attributes, text.toStdString(), m_lettering);
+            } catch (const Error& error) {
+                fail(error.what());
+            }
+        } else {
+            writer.writeStartElement(reader.qualifiedName().toString());
+            writer.writeAttributes(attributes);
+        }
+    }
+    if (reader.hasError()) {
+        fail(reader.errorString().toStdString());
+    }
+    return svg;
+}
+
+}  // namespace fleetwright

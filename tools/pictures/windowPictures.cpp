@@ -1,0 +1,83 @@
+#include "Artwork.h"
+#include "HullRules.h"
+#include "PictureSet.h"
+#include "drawing.h"
+#include "pictureFiles.h"
+
+#include <QPainter>
+
+#include <array>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr QSize buttonSize(systemPictureSize, systemPictureSize);
+constexpr std::array<const char*, 7> rootNames = {"beam",   "defense", "heavy", "systems",
+                                                  "hangar", "special", "alien"};
+
+/// A button's picture on the common tile, so that it shows on dark windows too, and the same for
+/// screens of twice the resolution.
+void addButton(PictureSet& pictures, const Artwork& artwork, const std::string& name,
+               const QByteArray& svg) {
+    for (const int scale : {1, 2}) {
+        QImage image = drawColours(artwork.svg("window/tile"), buttonSize * scale);
+        QPainter painter(&image);
+        painter.drawImage(0, 0, drawColours(svg, buttonSize * scale));
+        painter.end();
+        pictures[name + (scale == 1 ? ".png" : "@2x.png")] = imageFile(image, "PNG");
+    }
+}
+
+void addButtons(PictureSet& pictures, const Artwork& artwork) {
+    for (const std::string name : rootNames) {
+        addButton(pictures, artwork, "button-" + name, artwork.svg("roots/" + name));
+    }
+    for (const std::string name : {"button-expand-all", "button-collapse-all"}) {
+        addButton(pictures, artwork, name, artwork.svg("window/" + name));
+    }
+    for (int thrust = 0; thrust <= mostThrust; ++thrust) {
+        const std::string number = std::to_string(thrust);
+        addButton(pictures, artwork, "thrust" + number,
+                  artwork.svg("sheet/thrust", {{"thrust", number}}));
+    }
+    addButton(pictures, artwork, "ftl", artwork.svg("sheet/drive", {{"drive", "normal"}}));
+    addButton(pictures, artwork, "ftltug", artwork.svg("sheet/drive", {{"drive", "tug"}}));
+}
+
+void addIcons(PictureSet& pictures, const Artwork& artwork) {
+    // What fills a large icon is mud in a small one, so there are two drawings.
+    constexpr int largestSmall = 32;
+    const QByteArray small = artwork.svg("window/icon-small");
+    const QByteArray large = artwork.svg("window/icon");
+    for (const int side : {16, 24, 32, 48, 64, 256}) {
+        const QImage image = drawColours(side <= largestSmall ? small : large, {side, side});
+        pictures["icon-" + std::to_string(side) + ".png"] = imageFile(image, "PNG");
+    }
+    pictures["icon.svg"] = large.toStdString();
+    pictures["tray.png"] = imageFile(drawColours(small, {16, 16}), "PNG");
+    pictures["tray@2x.png"] = imageFile(drawColours(small, {32, 32}), "PNG");
+}
+
+QImage drawSplash(const Artwork& artwork, const std::string& name, QSize size) {
+    return inFewColours(
+        drawColours(artwork.svg("window/" + name), size).convertToFormat(QImage::Format_RGB32));
+}
+
+}  // namespace
+
+PictureSet windowPictures(const Artwork& artwork) {
+    PictureSet pictures;
+    for (const std::string name : rootNames) {
+        pictures["root-" + name + ".gif"] =
+            gifFile(drawInk({artwork.svg("roots/" + name)}, buttonSize));
+    }
+    pictures["root-blank.gif"] = gifFile(blankInk(buttonSize));
+    addButtons(pictures, artwork);
+    addIcons(pictures, artwork);
+    pictures["splash-1.gif"] = gifFile(drawSplash(artwork, "splash-1", {348, 288}));
+    pictures["splash-2.bmp"] = imageFile(drawSplash(artwork, "splash-2", {351, 291}), "BMP");
+    return pictures;
+}
+
+}  // namespace fleetwright
