@@ -23,6 +23,7 @@ public:
 class NoPictures : public PictureFiles {
 public:
     Raster load(const std::filesystem::path&) override { return {}; }
+    Raster builtIn(const std::string&) override { return {}; }
 };
 
 class NoProgress : public StartUpProgress {

@@ -28,7 +28,7 @@ public:
                      .toolTip = "How many are to remain",
                      .accessibleName = "Amount"},
                     [this] { sliCount_Change(); }};
-    Label lblAmount{*this, {.name = "lblAmount", .place = {210, 630, 1065, 225}}};
+    Label lblAmount{*this, {.name = "lblAmount", .place = {210, 630, 1065, 225}, .isFramed = true}};
     Button cmdOK{
         *this,
         {.name = "cmdOK", .place = {1995, 630, 750, 225}, .caption = "OK", .isDefault = true},

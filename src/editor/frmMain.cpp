@@ -51,6 +51,7 @@ TextBox frmMain::figureBox(const std::string& name, const std::string& spoken, i
     return TextBox(fraInfo, {.name = name,
                              .place = {1365, top, 1455, 288},
                              .accessibleName = spoken,
+                             .isFlat = true,
                              .isLocked = isLocked});
 }
 
@@ -81,6 +82,7 @@ void frmMain::Form_Load() {
     lvCurrentWeapons.addColumn("Weapon Name", listWidth / 2);
     lvCurrentWeapons.addColumn("Count", listWidth / 3);
     if (m_services.hasScreen) {
+        addOwnPictures();
         LoadWeaponTree();
     }
     m_services.progress.setText("Weapons Loaded");

@@ -150,29 +150,33 @@ public:
                             {.name = "optNoArmor" + std::to_string(index),
                              .place = {96 + 576 * index, 210, 492, 375},
                              .caption = index == 0 ? "None" : "Lvl " + std::to_string(index),
-                             .isOn = index == 0},
+                             .isOn = index == 0,
+                             .isGraphical = true},
                             [this, index] { optNoArmor_Click(index); });
     });
 
     // The drives.
     Frame fraFTL{*this, {.name = "fraFTL", .place = {105, 3885, 2310, 945}, .caption = "FTL"}};
-    OptionButton optNone{fraFTL,
-                         {.name = "optNone", .place = {105, 210, 645, 645}, .caption = "None"},
-                         [this] { optNone_Click(); }};
+    OptionButton optNone{
+        fraFTL,
+        {.name = "optNone", .place = {105, 210, 645, 645}, .caption = "None", .isGraphical = true},
+        [this] { optNone_Click(); }};
     OptionButton optNormal{fraFTL,
                            {.name = "optNormal",
                             .place = {840, 210, 645, 645},
                             .picture = "ftl",
                             .toolTip = "Normal drive",
                             .accessibleName = "Normal FTL drive",
-                            .isOn = true},
+                            .isOn = true,
+                            .isGraphical = true},
                            [this] { optNormal_Click(); }};
     OptionButton optTug{fraFTL,
                         {.name = "optTug",
                          .place = {1575, 210, 645, 645},
                          .picture = "ftltug",
                          .toolTip = "Tug drive",
-                         .accessibleName = "Tug FTL drive"},
+                         .accessibleName = "Tug FTL drive",
+                         .isGraphical = true},
                         [this] { optTug_Click(); }};
 
     Frame fraThrust{*this,
@@ -185,7 +189,8 @@ public:
                              .picture = "thrust" + number,
                              .toolTip = "Thrust " + number,
                              .accessibleName = "Thrust " + number,
-                             .isOn = index == 2},
+                             .isOn = index == 2,
+                             .isGraphical = true},
                             [this, index] { optThrust_Click(index); });
     });
 
@@ -246,11 +251,13 @@ public:
                          .toolTip = "Expand All",
                          .accessibleName = "Expand all"},
                         [this] { cmdExpandAll_Click(); }};
+    ImageList ilWeapons{this, {.name = "ilWeapons"}};
     TreeView tvWeapons{*this,
                        {.name = "tvWeapons",
                         .place = {6825, 1365, 3900, 6000},
-                        .accessibleName = "Catalogue of systems"}};
-    ImageList ilWeapons{this, {.name = "ilWeapons"}};
+                        .toolTip = "Double-click, or press Enter, to fit a system",
+                        .accessibleName = "Catalogue of systems"},
+                       &ilWeapons};
 
     // What the selected node (index 0) and the selected row (index 1) weigh and cost.
     std::array<Label, 4> lblWeapNfo = controlArray<Label, 4>([this](int index) {
@@ -323,6 +330,7 @@ private:
     void act(const std::function<void()>& act);
 
     // The tree.
+    void addOwnPictures();
     void LoadWeaponTree();
     void toggleCategory(const std::string& root);
     void cmdExpandAll_Click();

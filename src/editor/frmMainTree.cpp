@@ -13,15 +13,24 @@
 
 namespace fleetwright {
 
+namespace {
+
+/// A root's key as it stands in the names of its pictures.
+std::string smallLetters(std::string_view key) {
+    std::string small(key);
+    std::transform(small.begin(), small.end(), small.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return small;
+}
+
+}  // namespace
+
 Button frmMain::treeButton(const std::string& name, const std::string& root,
                            const std::string& spoken, Place place) {
-    std::string picture = "button-" + root;
-    std::transform(picture.begin(), picture.end(), picture.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return Button(*this,
                   {.name = name,
                    .place = place,
-                   .picture = picture,
+                   .picture = "button-" + smallLetters(root),
                    .toolTip = spoken,
                    .accessibleName = spoken},
                   [this, root] { toggleCategory(root); });
@@ -31,6 +40,14 @@ MenuEntry frmMain::addEntry(MenuEntry& menu, const std::string& name, int amount
     const std::string number = std::to_string(amount);
     return MenuEntry(menu, {.name = name + number, .caption = "X" + number},
                      [this, amount] { AddSelectedWeapon(amount); });
+}
+
+/// The pictures of the roots, and the white one that sheets are covered with.
+void frmMain::addOwnPictures() {
+    for (const std::string_view key : catalogueRoots) {
+        ilWeapons.add(std::string(key), m_services.pictures.builtIn("root-" + smallLetters(key)));
+    }
+    ilWeapons.add("BLANK", m_services.pictures.builtIn("root-blank"));
 }
 
 void frmMain::LoadWeaponTree() {

@@ -30,6 +30,9 @@ struct ControlDesign {
     std::string shortcut = {};        ///< of a menu entry: "Ctrl+N"
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
     bool isOn = false;                ///< of an option button
+    bool isGraphical = false;         ///< of an option button: a button that stays down
+    bool isFramed = false;            ///< of a label: with a border, its text in the middle
+    bool isFlat = false;              ///< of a text box: on the colour of its window, as a label
     bool isLocked = false;            ///< of a text box: shows, but takes no typing
     bool isDefault = false;           ///< of a button: answers the Enter key
     bool isCancel = false;            ///< of a button: answers the Escape key

@@ -3,6 +3,7 @@
 #include "Raster.h"
 
 #include <filesystem>
+#include <string>
 
 namespace fleetwright {
 
@@ -13,6 +14,8 @@ public:
 
     /// The picture in a GIF, BMP, JPEG or PNG file. Throws FileError.
     virtual Raster load(const std::filesystem::path& file) = 0;
+    /// One of the pictures that the program carries in itself, by its name without an extension.
+    virtual Raster builtIn(const std::string& name) = 0;
 };
 
 }  // namespace fleetwright

@@ -8,6 +8,8 @@
 
 namespace fleetwright {
 
+class ImageList;
+
 /// Nodes under nodes, each with a key that is also its text and the key of its picture.
 class TreeView : public Control {
 public:
@@ -18,7 +20,11 @@ public:
         bool isExpanded = false;
     };
 
-    TreeView(Container& container, ControlDesign design) : Control(&container, std::move(design)) {}
+    /// `images` holds a picture for each node under the node's key.
+    TreeView(Container& container, ControlDesign design, const ImageList* images = nullptr)
+        : Control(&container, std::move(design)), m_images(images) {}
+
+    const ImageList* images() const { return m_images; }
 
     /// Adds a node below the one with the key `parent`, or at the top if that is empty. A parent
     /// that is not there, or a key that is already, is a std::logic_error.
@@ -48,6 +54,7 @@ private:
     std::deque<Node> m_nodes;  // whose places stay as it grows
     std::map<std::string, Node*, std::less<>> m_byKey;
     const Node* m_selected = nullptr;
+    const ImageList* m_images;
 };
 
 }  // namespace fleetwright

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Desktop.h"
+
+#include <map>
+#include <memory>
+
+namespace fleetwright {
+
+class FormWindow;
+
+/// The desktop of the running Qt application.
+class QtDesktop : public Desktop {
+public:
+    QtDesktop();
+    ~QtDesktop() override;
+
+    /// Gives a form its window, which shows and hides with it.
+    void present(Form& form);
+
+    Answer showMessage(const std::string& text, const std::string& title, Buttons buttons,
+                       Icon icon) override;
+    void popUp(MenuEntry& menu) override;
+    void showModal(Form& form, Form& owner) override;
+    void unloadAllForms() override;
+
+private:
+    std::map<Form*, std::unique_ptr<FormWindow>> m_windows;
+};
+
+}  // namespace fleetwright

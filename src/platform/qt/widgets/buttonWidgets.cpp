@@ -1,0 +1,125 @@
+// Buttons of all kinds, the arrows, and the frames that buttons stand in.
+
+#include "Button.h"
+#include "Frame.h"
+#include "OptionButton.h"
+#include "UpDown.h"
+#include "controlWidgets.h"
+#include "widgetTools.h"
+
+#include <QGroupBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+
+namespace fleetwright {
+
+namespace {
+
+/// A frame whose caption stands in its upper edge, so that what is in it may begin right below.
+class CaptionFrame : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QFontMetrics metrics(font());
+        const QRect frame = rect().adjusted(0, metrics.height() / 2, -1, -1);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRoundedRect(frame, corner, corner);
+        const QRect caption(inset, 0, metrics.horizontalAdvance(title()) + 2 * corner,
+                            metrics.height());
+        painter.fillRect(caption, palette().color(QPalette::Window));
+        painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
+                                       QPalette::WindowText));
+        painter.drawText(caption, Qt::AlignCenter, title());
+    }
+
+private:
+    static constexpr int corner = 3, inset = 8;  // pixels
+};
+
+/// Caption and picture of a button that shows either.
+void setFace(QAbstractButton* widget, const ControlDesign& design) {
+    widget->setText(toQt(design.caption));
+    if (!design.picture.empty()) {
+        constexpr int pictureSize = 32;
+        widget->setIcon(faceOf(design.picture));
+        widget->setIconSize({pictureSize, pictureSize});
+    }
+}
+
+}  // namespace
+
+QWidget* makeWidget(Frame& frame, QWidget* parent, const Scale& scale) {
+    if (frame.design().caption.empty()) {
+        auto* const widget = new QFrame(parent);
+        prepare(widget, frame, scale);
+        return widget;
+    }
+    auto* const widget = new CaptionFrame(toQt(frame.design().caption), parent);
+    prepare(widget, frame, scale);
+    return widget;
+}
+
+QWidget* makeWidget(Button& button, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QPushButton(parent);
+    prepare(widget, button, scale);
+    setFace(widget, button.design());
+    widget->setAutoDefault(false);
+    QObject::connect(widget, &QPushButton::clicked, [&button] { button.press(); });
+    return widget;
+}
+
+QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
+    QAbstractButton* widget = nullptr;
+    if (button.design().isGraphical) {
+        auto* const graphical = new QToolButton(parent);
+        graphical->setCheckable(true);
+        graphical->setAutoExclusive(true);
+        graphical->setFocusPolicy(Qt::StrongFocus);
+        widget = graphical;
+    } else {
+        widget = new QRadioButton(parent);
+    }
+    prepare(widget, button, scale);
+    setFace(widget, button.design());
+    const auto showState = [widget, &button] {
+        // A group can stand without any choice, which Qt's own exclusion does not allow.
+        widget->setAutoExclusive(false);
+        widget->setChecked(button.isOn());
+        widget->setAutoExclusive(true);
+    };
+    keepInStep(widget, button, showState);
+    fitText(widget, button, scale);
+    QObject::connect(widget, &QAbstractButton::clicked, [&button, showState] {
+        button.choose();
+        showState();
+    });
+    return widget;
+}
+
+QWidget* makeWidget(UpDown& arrows, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QWidget(parent);
+    prepare(widget, arrows, scale);
+    const auto addArrow = [&](Qt::ArrowType type, const QString& direction, int top) {
+        auto* const arrow = new QToolButton(widget);
+        arrow->setArrowType(type);
+        arrow->setAutoRepeat(true);
+        arrow->setFocusPolicy(Qt::StrongFocus);
+        arrow->setGeometry(0, top, widget->width(), widget->height() / 2);
+        arrow->setObjectName(widget->objectName() + direction);
+        arrow->setToolTip(widget->toolTip());
+        arrow->setAccessibleName(widget->accessibleName() + ", " + direction.toLower());
+        return arrow;
+    };
+    auto* const up = addArrow(Qt::UpArrow, "Up", 0);
+    auto* const down = addArrow(Qt::DownArrow, "Down", widget->height() / 2);
+    QObject::connect(up, &QToolButton::clicked, [&arrows] { arrows.pressUp(); });
+    QObject::connect(down, &QToolButton::clicked, [&arrows] { arrows.pressDown(); });
+    return widget;
+}
+
+}  // namespace fleetwright

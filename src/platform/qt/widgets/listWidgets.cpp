@@ -1,0 +1,114 @@
+// The list view, and the slider of its dialog.
+
+#include "ListView.h"
+#include "Slider.h"
+#include "controlWidgets.h"
+#include "widgetTools.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QTreeWidget>
+
+namespace fleetwright {
+
+namespace {
+
+/// A list of rows with columns.
+class RowList : public QTreeWidget {
+public:
+    RowList(ListView& list, QWidget* parent, const Scale& scale)
+        : QTreeWidget(parent), m_list(list), m_scale(scale) {
+        setRootIsDecorated(false);
+        setUniformRowHeights(true);
+        connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
+            if (item != nullptr) {
+                m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
+                m_list.click();
+            }
+        });
+        connect(this, &QTreeWidget::itemDoubleClicked, [this] { m_list.doubleClick(); });
+    }
+
+    /// Brings the items to what the rows are.
+    void update() {
+        const QSignalBlocker blocker(this);
+        QStringList titles;
+        for (const ListView::Column& column : m_list.columns()) {
+            titles << toQt(column.title);
+        }
+        setHeaderLabels(titles);
+        for (std::size_t i = 0; i < m_list.columns().size(); ++i) {
+            setColumnWidth(static_cast<int>(i), m_scale.pixels(m_list.columns()[i].width));
+        }
+        const auto& rows = m_list.rows();
+        while (topLevelItemCount() > std::ssize(rows)) {
+            delete takeTopLevelItem(topLevelItemCount() - 1);
+        }
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (static_cast<int>(i) == topLevelItemCount()) {
+                addTopLevelItem(new QTreeWidgetItem);
+            }
+            QTreeWidgetItem* const item = topLevelItem(static_cast<int>(i));
+            item->setText(0, toQt(rows[i].text));
+            item->setText(1, toQt(rows[i].subItem));
+        }
+        if (const auto selected = m_list.selected()) {
+            setCurrentItem(topLevelItem(static_cast<int>(*selected)));
+        } else {
+            setCurrentItem(nullptr);
+        }
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        QTreeWidget::mousePressEvent(event);
+        m_list.pressMouse(toPress(*event, m_scale));
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        if (event->reason() == QContextMenuEvent::Keyboard) {
+            m_list.pressMouse({.button = RightButton});
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Delete) {
+            m_list.doubleClick();
+            return;
+        }
+        QTreeWidget::keyPressEvent(event);
+    }
+
+private:
+    ListView& m_list;
+    Scale m_scale;
+};
+
+}  // namespace
+
+QWidget* makeWidget(ListView& list, QWidget* parent, const Scale& scale) {
+    auto* const widget = new RowList(list, parent, scale);
+    prepare(widget, list, scale);
+    keepInStep(widget, list, [widget] { widget->update(); });
+    return widget;
+}
+
+QWidget* makeWidget(Slider& slider, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QSlider(Qt::Horizontal, parent);
+    prepare(widget, slider, scale);
+    widget->setTickPosition(QSlider::TicksBelow);
+    keepInStep(widget, slider, [widget, &slider] {
+        const QSignalBlocker blocker(widget);
+        widget->setRange(slider.min(), slider.max());
+        widget->setTickInterval(slider.tickFrequency());
+        widget->setPageStep(slider.largeChange());
+        widget->setValue(slider.value());
+    });
+    QObject::connect(widget, &QSlider::valueChanged, [&slider](int value) { slider.slide(value); });
+    return widget;
+}
+
+}  // namespace fleetwright

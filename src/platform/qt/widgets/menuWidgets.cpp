@@ -1,0 +1,63 @@
+#include "Menu.h"
+#include "controlWidgets.h"
+#include "widgetTools.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace fleetwright {
+
+namespace {
+
+void fillMenu(QMenu* menu, MenuEntry& entry);
+
+void addEntry(QMenu* menu, MenuEntry& entry) {
+    if (entry.isSeparator()) {
+        menu->addSeparator();
+        return;
+    }
+    if (!entry.controls().empty()) {
+        fillMenu(menu->addMenu(toQt(entry.caption())), entry);
+        return;
+    }
+    QAction* const action = menu->addAction(toQt(entry.caption()));
+    action->setObjectName(toQt(entry.name()));
+    if (!entry.design().shortcut.empty()) {
+        action->setShortcut(QKeySequence(toQt(entry.design().shortcut)));
+    }
+    keepInStep(menu, entry, [action, &entry] {
+        action->setText(toQt(entry.caption()));
+        action->setEnabled(entry.isEnabled());
+        action->setVisible(entry.isVisible());
+        // A mark makes room for itself only in entries that have ever had one.
+        action->setCheckable(action->isCheckable() || entry.isChecked());
+        action->setChecked(entry.isChecked());
+    });
+    QObject::connect(action, &QAction::triggered, [action, &entry] {
+        entry.choose();
+        action->setChecked(entry.isChecked());
+    });
+}
+
+void fillMenu(QMenu* menu, MenuEntry& entry) {
+    menu->setObjectName(toQt(entry.name()));
+    for (Control* const control : entry.controls()) {
+        addEntry(menu, *dynamic_cast<MenuEntry*>(control));
+    }
+}
+
+}  // namespace
+
+void addMenu(MenuEntry& menu, QMenuBar* bar) {
+    if (menu.isVisible()) {
+        fillMenu(bar->addMenu(toQt(menu.caption())), menu);
+    }
+}
+
+void popUpMenu(MenuEntry& menu, const QPoint& place) {
+    QMenu widget;
+    fillMenu(&widget, menu);
+    widget.exec(place);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,86 @@
+// Labels, text boxes and the status bar.
+
+#include "Label.h"
+#include "StatusBar.h"
+#include "TextBox.h"
+#include "controlWidgets.h"
+#include "widgetTools.h"
+
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace fleetwright {
+
+QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QLabel(parent);
+    prepare(widget, label, scale);
+    keepInStep(widget, label, [widget, &label] { widget->setText(toQt(label.caption())); });
+    fitText(widget, label, scale);
+    if (label.design().isFramed) {
+        widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        widget->setAlignment(Qt::AlignCenter);
+    }
+    return widget;
+}
+
+QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QLabel(parent);
+    prepare(widget, bar, scale);
+    widget->setAccessibleName("Status");
+    widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    widget->setMargin(2);
+    constexpr int height = 315;  // twips; bars along the edge have no place of their own
+    const int pixels = scale.pixels(height);
+    widget->setGeometry(0, parent->height() - pixels, parent->width(), pixels);
+    keepInStep(widget, bar, [widget, &bar] { widget->setText(toQt(bar.text())); });
+    return widget;
+}
+
+QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QLineEdit(parent);
+    prepare(widget, box, scale);
+    keepInStep(widget, box, [widget, &box] {
+        const QSignalBlocker blocker(widget);
+        if (widget->text() != toQt(box.text())) {
+            widget->setText(toQt(box.text()));
+            widget->setCursorPosition(0);
+        }
+        widget->setReadOnly(box.isLocked());
+        QPalette palette = widget->parentWidget()->palette();
+        if (box.isLocked() || box.design().isFlat) {
+            palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+        }
+        widget->setPalette(palette);
+    });
+    QObject::connect(widget, &QLineEdit::textEdited,
+                     [&box](const QString& text) { box.type(text.toStdString()); });
+    new EventHook(widget, [&box, scale](QEvent* event) {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            if (box.onMouseDown) {
+                box.pressMouse(toPress(*static_cast<QMouseEvent*>(event), scale));
+                return true;
+            }
+            return false;
+        case QEvent::ContextMenu:
+            if (box.onMouseDown) {
+                box.pressMouse({.button = RightButton});
+                return true;
+            }
+            return false;
+        case QEvent::MouseButtonDblClick:
+            box.doubleClick();
+            return false;
+        case QEvent::FocusOut:
+            box.loseFocus();
+            return false;
+        default:
+            return false;
+        }
+    });
+    return widget;
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,113 @@
+#include "ImageList.h"
+#include "TreeView.h"
+#include "controlWidgets.h"
+#include "widgetTools.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QTreeWidget>
+
+#include <map>
+
+namespace fleetwright {
+
+namespace {
+
+/// A tree widget and the nodes that its items stand for.
+class NodeTree : public QTreeWidget {
+public:
+    NodeTree(TreeView& tree, QWidget* parent, const Scale& scale)
+        : QTreeWidget(parent), m_tree(tree), m_scale(scale) {
+        setColumnCount(1);
+        header()->hide();
+        constexpr int pictureSize = 32;
+        setIconSize({pictureSize, pictureSize});
+        setUniformRowHeights(true);
+        connect(this, &QTreeWidget::itemExpanded,
+                [this](QTreeWidgetItem* item) { m_tree.setExpanded(nodeOf(item), true); });
+        connect(this, &QTreeWidget::itemCollapsed,
+                [this](QTreeWidgetItem* item) { m_tree.setExpanded(nodeOf(item), false); });
+        connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
+            if (item != nullptr) {
+                m_tree.select(nodeOf(item));
+                m_tree.click();
+            }
+        });
+        connect(this, &QTreeWidget::itemDoubleClicked, [this] { m_tree.doubleClick(); });
+    }
+
+    /// Brings the items to what the nodes are.
+    void update() {
+        const QSignalBlocker blocker(this);
+        for (std::size_t i = m_items.size(); i < m_tree.nodes().size(); ++i) {
+            addItem(m_tree.nodes()[i]);
+        }
+        for (std::size_t i = 0; i < m_items.size(); ++i) {
+            m_items[i]->setExpanded(m_tree.nodes()[i].isExpanded);
+        }
+        if (m_tree.selected() != nullptr) {
+            setCurrentItem(m_byNode.at(m_tree.selected()));
+        }
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        // The right button acts on what is selected and selects nothing itself.
+        if (event->button() != Qt::RightButton) {
+            QTreeWidget::mousePressEvent(event);
+        }
+        m_tree.pressMouse(toPress(*event, m_scale));
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        if (event->reason() == QContextMenuEvent::Keyboard) {
+            m_tree.pressMouse({.button = RightButton});
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            m_tree.doubleClick();
+            return;
+        }
+        QTreeWidget::keyPressEvent(event);
+    }
+
+private:
+    void addItem(TreeView::Node& node) {
+        auto* const item = new QTreeWidgetItem;
+        item->setText(0, toQt(node.key));
+        if (m_tree.images() != nullptr && m_tree.images()->contains(node.key)) {
+            item->setIcon(0, QPixmap::fromImage(toImage(m_tree.images()->picture(node.key))));
+        }
+        if (node.parent == nullptr) {
+            addTopLevelItem(item);
+        } else {
+            m_byNode.at(node.parent)->addChild(item);
+        }
+        m_byNode[&node] = item;
+        m_byItem[item] = &node;
+        m_items.push_back(item);
+    }
+
+    TreeView::Node& nodeOf(QTreeWidgetItem* item) { return *m_byItem.at(item); }
+
+    TreeView& m_tree;
+    Scale m_scale;
+    std::vector<QTreeWidgetItem*> m_items;
+    std::map<const TreeView::Node*, QTreeWidgetItem*> m_byNode;
+    std::map<QTreeWidgetItem*, TreeView::Node*> m_byItem;
+};
+
+}  // namespace
+
+QWidget* makeWidget(TreeView& tree, QWidget* parent, const Scale& scale) {
+    auto* const widget = new NodeTree(tree, parent, scale);
+    prepare(widget, tree, scale);
+    keepInStep(widget, tree, [widget] { widget->update(); });
+    return widget;
+}
+
+}  // namespace fleetwright

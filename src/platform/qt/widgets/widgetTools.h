@@ -1,0 +1,95 @@
+#pragma once
+
+// What the widgets of all kinds of controls share.
+
+#include "Control.h"
+#include "Raster.h"
+#include "Scale.h"
+
+#include <QIcon>
+#include <QImage>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace fleetwright {
+
+inline QString toQt(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// A face that the program carries in itself, with its picture for twice the resolution.
+inline QIcon faceOf(const std::string& picture) {
+    return QIcon(":/pictures/" + toQt(picture) + ".png");
+}
+
+inline QImage toImage(const Raster& raster) {
+    QImage image(raster.width(), raster.height(), QImage::Format_RGB32);
+    for (int y = 0; y < raster.height(); ++y) {
+        for (int x = 0; x < raster.width(); ++x) {
+            image.setPixel(x, y, 0xFF000000U | raster.pixel(x, y));
+        }
+    }
+    return image;
+}
+
+/// Calls `update` now and whenever the control changes, for as long as the widget lives.
+inline void keepInStep(QWidget* widget, Control& control, std::function<void()> update) {
+    update();
+    auto connection = std::make_shared<Connection>(
+        control.Changed.connect([update = std::move(update)] { update(); }));
+    QObject::connect(widget, &QObject::destroyed, [connection] {});
+}
+
+/// Gives a new widget what every control has.
+inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
+    const ControlDesign& design = control.design();
+    widget->setObjectName(toQt(design.name));
+    widget->setGeometry(scale.rect(design.place));
+    widget->setToolTip(toQt(design.toolTip));
+    if (!design.accessibleName.empty()) {
+        widget->setAccessibleName(toQt(design.accessibleName));
+    }
+    keepInStep(widget, control, [widget, &control] {
+        widget->setVisible(control.isVisible());
+        widget->setEnabled(control.isEnabled());
+    });
+}
+
+/// Makes room for a text that is too long for its control's place: first to the right, as far as
+/// nothing stands there, then by narrower letters.
+void fitText(QWidget* widget, const Control& control, const Scale& scale);
+
+/// Hands chosen events of a widget to a function, which says whether it has dealt with them.
+class EventHook : public QObject {
+public:
+    EventHook(QWidget* watched, std::function<bool(QEvent*)> hook)
+        : QObject(watched), m_hook(std::move(hook)) {
+        watched->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return m_hook(event) || QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<bool(QEvent*)> m_hook;
+};
+
+/// A press of the mouse as the models know it.
+inline MousePress toPress(const QMouseEvent& event, const Scale& scale) {
+    return {.button = event.button() == Qt::RightButton  ? int(RightButton)
+                      : event.button() == Qt::LeftButton ? int(LeftButton)
+                                                         : 4,
+            .shift = (event.modifiers().testFlag(Qt::ShiftModifier) ? 1 : 0) |
+                     (event.modifiers().testFlag(Qt::ControlModifier) ? 2 : 0) |
+                     (event.modifiers().testFlag(Qt::AltModifier) ? 4 : 0),
+            .x = scale.twips(event.position().x()),
+            .y = scale.twips(event.position().y())};
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,239 @@
+#include "FormWindow.h"
+
+#include "Button.h"
+#include "Form.h"
+#include "Frame.h"
+#include "ImageList.h"
+#include "Label.h"
+#include "ListView.h"
+#include "Menu.h"
+#include "OptionButton.h"
+#include "Slider.h"
+#include "StatusBar.h"
+#include "TextBox.h"
+#include "Timer.h"
+#include "TreeView.h"
+#include "UpDown.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QSlider>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace fleetwright;
+
+namespace {
+
+/// A form with one control of each kind.
+class AllKinds : public Form {
+public:
+    AllKinds() : Form({.name = "frmAll", .caption = "All kinds", .width = 9000, .height = 6000}) {
+        tree.onDblClick = [this] {
+            log += "fit " + (tree.selected() == nullptr ? "none" : tree.selected()->key) + ' ';
+        };
+        tree.onMouseDown = [this](const MousePress& press) {
+            log += "tree" + std::to_string(press.button) + ' ';
+        };
+        list.onDblClick = [this] { log += "row" + std::to_string(*list.selected()) + ' '; };
+        mass.onMouseDown = [this](const MousePress&) { log += "mass "; };
+        list.addColumn("Name", 1500);
+        list.addColumn("Count", 900);
+        tree.add("", "ROOT");
+        tree.add("ROOT", "leaf");
+    }
+
+    std::string log;
+    bool keeps = false;
+
+    Frame frame{*this, {.name = "frame", .place = {150, 150, 3000, 1500}, .caption = "Frame"}};
+    Label label{frame, {.name = "label", .place = {150, 300, 900, 300}, .caption = "Label"}};
+    OptionButton first{
+        frame,
+        {.name = "first", .place = {150, 600, 900, 300}, .caption = "1", .isOn = true},
+        [this] { log += "first "; }};
+    OptionButton second{frame,
+                        {.name = "second", .place = {150, 900, 900, 300}, .caption = "2"},
+                        [this] { log += "second "; }};
+    TextBox text{*this, {.name = "text", .place = {3300, 150, 900, 300}}, [this] {
+                     log += "text=" + text.text() + ' ';
+                 }};
+    TextBox mass{*this, {.name = "mass", .place = {3300, 600, 900, 300}, .isLocked = true}};
+    Button button{*this,
+                  {.name = "button",
+                   .place = {3300, 1050, 900, 300},
+                   .caption = "OK",
+                   .toolTip = "Tip",
+                   .accessibleName = "Spoken",
+                   .isDefault = true},
+                  [this] { log += "button "; }};
+    UpDown arrows{*this,
+                  {.name = "arrows", .place = {4500, 150, 300, 600}},
+                  {.upClick = [this] { log += "up "; },
+                   .downClick = [this] { log += "down "; },
+                   .change = {}}};
+    Slider slider{*this, {.name = "slider", .place = {4500, 900, 1500, 300}}, [this] {
+                      log += "slider=" + std::to_string(slider.value()) + ' ';
+                  }};
+    ImageList images{this, {.name = "images"}};
+    TreeView tree{*this, {.name = "tree", .place = {150, 1800, 3000, 3000}}, &images};
+    ListView list{*this, {.name = "list", .place = {3300, 1800, 3000, 3000}}};
+    MenuEntry menu{*this, {.name = "menu", .caption = "Menu"}};
+    MenuEntry entry{menu, {.name = "entry", .caption = "Entry"}, [this] {
+                        entry.setChecked(!entry.isChecked());
+                        log += "entry ";
+                    }};
+    MenuEntry hiddenMenu{*this, {.name = "hidden", .caption = "Hidden", .isVisible = false}};
+    Timer timer{*this, "timer", 10, true, [this] { ++ticks; }};
+    StatusBar status{*this, {.name = "status"}};
+    int ticks = 0;
+
+protected:
+    void Form_Unload(bool& cancel) override { cancel = keeps; }
+};
+
+class FormWindowTest : public testing::Test {
+protected:
+    FormWindowTest() {
+        form.show();
+        window.show();
+    }
+
+    template <typename Widget>
+    Widget* find(const char* name) {
+        return window.findChild<Widget*>(name);
+    }
+
+    std::string takeLog() { return std::exchange(form.log, {}); }
+
+    AllKinds form;
+    FormWindow window{form};
+};
+
+}  // namespace
+
+TEST_F(FormWindowTest, WidgetsStandWhereTheFormPutsThem) {
+    const auto* const frame = find<QGroupBox>("frame");
+    ASSERT_NE(frame, nullptr);
+    EXPECT_EQ(frame->title(), "Frame");
+    EXPECT_EQ(find<QLabel>("label")->parent(), frame);
+    const double scale = frame->width() / (3000 / 15.0);
+    EXPECT_GE(scale, 1.0);
+    EXPECT_NEAR(find<QTreeWidget>("list")->x(), 3300 / 15.0 * scale, 1.0);
+    EXPECT_EQ(window.windowTitle(), "All kinds");
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    const auto* const button = find<QAbstractButton>("button");
+    EXPECT_EQ(button->toolTip(), "Tip");
+    EXPECT_EQ(button->accessibleName(), "Spoken");
+    EXPECT_EQ(find<QLabel>("status")->geometry().bottom() + 1,
+              find<QLabel>("status")->parentWidget()->height());
+}
+
+TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
+    form.label.setCaption("New");
+    form.second.setOn();
+    form.text.setText("abc");
+    form.text.setLocked(true);
+    form.button.setEnabled(false);
+    form.arrows.setVisible(false);
+    form.slider.setRange(0, 7);
+    form.slider.setValue(5);
+    form.status.setText("Saved...");
+    form.list.add("a", "a", "3");
+    form.list.add("b", "b", "4");
+    form.list.select(1);
+    form.tree.add("ROOT", "late");
+    form.tree.setExpanded(*form.tree.find("ROOT"), true);
+    form.tree.select(*form.tree.find("late"));
+    EXPECT_EQ(find<QLabel>("label")->text(), "New");
+    EXPECT_FALSE(find<QAbstractButton>("first")->isChecked());
+    EXPECT_TRUE(find<QAbstractButton>("second")->isChecked());
+    EXPECT_EQ(find<QLineEdit>("text")->text(), "abc");
+    EXPECT_TRUE(find<QLineEdit>("text")->isReadOnly());
+    EXPECT_FALSE(find<QAbstractButton>("button")->isEnabled());
+    EXPECT_FALSE(find<QWidget>("arrows")->isVisible());
+    EXPECT_EQ(find<QSlider>("slider")->value(), 5);
+    EXPECT_EQ(find<QLabel>("status")->text(), "Saved...");
+    const auto* const list = find<QTreeWidget>("list");
+    EXPECT_EQ(list->topLevelItem(1)->text(1), "4");
+    EXPECT_EQ(list->indexOfTopLevelItem(list->currentItem()), 1);
+    form.list.remove(1);
+    EXPECT_EQ(list->topLevelItemCount(), 1);
+    EXPECT_EQ(list->currentItem(), nullptr);
+    const auto* const tree = find<QTreeWidget>("tree");
+    EXPECT_TRUE(tree->topLevelItem(0)->isExpanded());
+    EXPECT_EQ(tree->currentItem()->text(0), "late");
+    // Showing what the rules have done is no act of the user.
+    EXPECT_EQ(takeLog(), "second text=abc slider=5 ");
+}
+
+TEST_F(FormWindowTest, MouseAndKeysReachTheModels) {
+    QTest::mouseClick(find<QAbstractButton>("second"), Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseClick(find<QAbstractButton>("second"), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(takeLog(), "second ");
+    QTest::keyClicks(find<QLineEdit>("text"), "7x");
+    EXPECT_EQ(takeLog(), "text=7 text=7x ");
+    QTest::mouseClick(find<QLineEdit>("mass"), Qt::LeftButton);
+    QTest::keyClicks(find<QLineEdit>("mass"), "9");
+    EXPECT_EQ(takeLog(), "mass ");
+    QTest::mouseClick(find<QAbstractButton>("button"), Qt::LeftButton);
+    QTest::mouseClick(find<QAbstractButton>("arrowsUp"), Qt::LeftButton);
+    QTest::mouseClick(find<QAbstractButton>("arrowsDown"), Qt::LeftButton);
+    EXPECT_EQ(takeLog(), "button up down ");
+    form.slider.setRange(0, 7);
+    QTest::keyClick(find<QSlider>("slider"), Qt::Key_Right);
+    EXPECT_EQ(takeLog(), "slider=1 ");
+    EXPECT_TRUE(form.second.isOn());
+}
+
+TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
+    auto* const tree = find<QTreeWidget>("tree");
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "fit none ");
+    tree->setCurrentItem(tree->topLevelItem(0));
+    QTest::keyClick(tree, Qt::Key_Right);
+    EXPECT_TRUE(form.tree.find("ROOT")->isExpanded);
+    QTest::keyClick(tree, Qt::Key_Down);
+    EXPECT_EQ(form.tree.selected()->key, "leaf");
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "fit leaf ");
+    // The right button selects nothing and opens what belongs to the selected node.
+    const QRect root = tree->visualItemRect(tree->topLevelItem(0));
+    QTest::mouseClick(tree->viewport(), Qt::RightButton, {}, root.center());
+    EXPECT_EQ(takeLog(), "tree2 ");
+    EXPECT_EQ(form.tree.selected()->key, "leaf");
+
+    form.list.add("a", "a", "1");
+    auto* const list = find<QTreeWidget>("list");
+    list->setCurrentItem(list->topLevelItem(0));
+    EXPECT_EQ(form.list.selected(), 0U);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(takeLog(), "row0 ");
+}
+
+TEST_F(FormWindowTest, MenusTimersAndClosing) {
+    EXPECT_EQ(window.menuBar()->actions().size(), 1);
+    auto* const entry = find<QAction>("entry");
+    entry->trigger();
+    EXPECT_TRUE(entry->isChecked());
+    entry->trigger();
+    EXPECT_FALSE(entry->isChecked());
+    EXPECT_EQ(takeLog(), "entry entry ");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.ticks > 1; }));
+    form.keeps = true;
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    form.keeps = false;
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(form.isVisible());
+    form.show();
+    EXPECT_TRUE(window.isVisible());
+    form.hide();
+    EXPECT_FALSE(window.isVisible());
+}
