@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <random>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -23,11 +22,11 @@ namespace {
 class Unpacking {
 public:
     explicit Unpacking(const fs::path& folder)
-        : m_folder(folder),
-          m_staging(folder / (".unpacking-" + std::to_string(std::random_device()()))) {
+        : m_folder(folder), m_staging(folder / ".unpacking") {
         std::error_code error;
+        fs::remove_all(m_staging, error);  // what a run that was killed has left
         if (!fs::create_directory(m_staging, error)) {
-            fail(folder, error);
+            fail(folder, error ? error : std::make_error_code(std::errc::file_exists));
         }
     }
     Unpacking(const Unpacking&) = delete;

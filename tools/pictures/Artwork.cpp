@@ -61,10 +61,6 @@ Artwork::Artwork(std::filesystem::path folder, std::string version)
     : m_folder(std::move(folder)), m_version(std::move(version)),
       m_lettering(m_folder / "lettering.txt") {}
 
-bool Artwork::has(const std::string& name) const {
-    return std::filesystem::exists(file(name + ".svg"));
-}
-
 QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
     const std::filesystem::path source = file(name + ".svg");
     QXmlStreamReader reader(QString::fromStdString(readTextFile(source)));

@@ -25,8 +25,6 @@ public:
     /// Throws FileError when the lettering cannot be read.
     Artwork(std::filesystem::path folder, std::string version);
 
-    bool has(const std::string& name) const;
-
     /// The SVG of one variant of a source, by its path in the folder without ".svg".
     /// Throws FileError for what cannot be read or is no SVG.
     QByteArray svg(const std::string& name, const Variant& variant = {}) const;
