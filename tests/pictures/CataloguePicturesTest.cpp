@@ -92,7 +92,7 @@ TEST(CataloguePictures, SymbolsLeaveTheCornerOfTheMountingMarkFree) {
         if (name.arc.empty()) {
             continue;
         }
-        const Variant variant = {{"class", name.weaponClass}, {"arc", ""}};
+        const Variant variant = {{"class", name.weaponClass}, {"arc", name.arc}};
         const QImage symbol =
             drawInk({projectArtwork().svg("systems/" + name.source, variant)}, {side, side});
         for (int y = markTop; y < side; ++y) {
