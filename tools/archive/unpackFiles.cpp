@@ -26,7 +26,10 @@ public:
         std::error_code error;
         fs::remove_all(m_staging, error);  // what a run that was killed has left
         if (!fs::create_directory(m_staging, error)) {
-            fail(folder, error ? error : std::make_error_code(std::errc::file_exists));
+            if (error) {
+                fail(folder, error);
+            }
+            throw FileError(folder, "cannot be written: another run is at work in it");
         }
     }
     Unpacking(const Unpacking&) = delete;
