@@ -1,5 +1,6 @@
 // A new ship, which reads its catalogue, against a plain read of the same file line by line.
 
+#include "BenchFolder.h"
 #include "GoalTable.h"
 #include "ShipClass.h"
 
@@ -14,8 +15,7 @@ namespace {
 
 /// A catalogue of so many records, which are those of the delivered one over and over.
 std::filesystem::path catalogueOf(int records) {
-    std::filesystem::path file = std::filesystem::temp_directory_path() /
-                                 ("fleetwright-bench-" + std::to_string(records) + ".dat");
+    std::filesystem::path file = benchFolder() / (std::to_string(records) + ".dat");
     std::ofstream out(file, std::ios::binary);
     std::vector<std::string> delivered;
     std::ifstream in(SOURCE_FOLDER "/data/weaps.dat", std::ios::binary);

@@ -46,6 +46,7 @@ void GoalTable::Finalize() {
         }
         const double measured = above->second / below->second;
         const bool isMet = goal.isAtLeast ? measured >= goal.ratio : measured <= goal.ratio;
+        m_areAllMet = m_areAllMet && isMet;
         std::printf("%-64s %2s %7.2f %10.2f  %s\n", goal.what.c_str(),
                     goal.isAtLeast ? ">=" : "<=", goal.ratio, measured, isMet ? "met" : "NOT MET");
     }

@@ -33,8 +33,12 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
 
+    /// Whether every goal that was measured is met; after Finalize.
+    bool areAllMet() const { return m_areAllMet; }
+
 private:
     std::map<std::string, double> m_smallest;
+    bool m_areAllMet = true;
 };
 
 }  // namespace fleetwright

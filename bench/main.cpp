@@ -8,4 +8,5 @@ int main(int argc, char** argv) {
     fleetwright::GoalTable table;
     benchmark::RunSpecifiedBenchmarks(&table);
     benchmark::Shutdown();
+    return table.areAllMet() ? 0 : 1;
 }

@@ -4,17 +4,23 @@
 set(FLEETWRIGHT_APP_DIR ${CMAKE_BINARY_DIR}/FleetWright)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
-file(GLOB_RECURSE delivered_data CONFIGURE_DEPENDS
-     ${CMAKE_SOURCE_DIR}/data/weaps.dat ${CMAKE_SOURCE_DIR}/data/ships/*)
+set(data_folder ${CMAKE_SOURCE_DIR}/data)
+file(GLOB_RECURSE delivered_data CONFIGURE_DEPENDS RELATIVE ${data_folder}
+     ${data_folder}/weaps.dat ${data_folder}/ships/*)
+list(JOIN delivered_data "\n" delivered_lines)
+# Written when it changes, so that a file that goes is a reason to copy, too.
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/application-data.txt CONTENT "${delivered_lines}\n")
+list(TRANSFORM delivered_data PREPEND ${data_folder}/)
 
 add_custom_command(
   OUTPUT ${CMAKE_BINARY_DIR}/application-data.stamp
-  COMMAND ${CMAKE_COMMAND} -E make_directory ships maps shipimages ssds
-  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${CMAKE_SOURCE_DIR}/data/weaps.dat weaps.dat
-  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/data/ships ships
-  COMMAND ${CMAKE_COMMAND} -E touch ${CMAKE_BINARY_DIR}/application-data.stamp
-  WORKING_DIRECTORY ${FLEETWRIGHT_APP_DIR}
-  DEPENDS ${delivered_data}
+  COMMAND ${CMAKE_COMMAND}
+          -DSOURCE=${data_folder} -DTARGET=${FLEETWRIGHT_APP_DIR}
+          -DWANTED=${CMAKE_BINARY_DIR}/application-data.txt
+          -DCOPIED=${CMAKE_BINARY_DIR}/application-data.stamp
+          -P ${CMAKE_SOURCE_DIR}/cmake/FillApplicationFolder.cmake
+  DEPENDS ${delivered_data} ${CMAKE_BINARY_DIR}/application-data.txt
+          ${CMAKE_SOURCE_DIR}/cmake/FillApplicationFolder.cmake
   COMMENT "Filling the application folder"
   VERBATIM)
 file(MAKE_DIRECTORY ${FLEETWRIGHT_APP_DIR})

@@ -65,7 +65,7 @@ private:
         int raising = 0;
     };
 
-    /// Keeps the listeners in their places, and alive, for the length of one raise.
+    /// Keeps the list of listeners as it is for the length of one raise.
     struct Raising {
         explicit Raising(std::shared_ptr<State> held) : state(std::move(held)) { ++state->raising; }
         Raising(const Raising&) = delete;

@@ -79,21 +79,20 @@ bool LineReader::next(std::string_view& line) {
     if (m_at == m_text.size()) {
         return false;
     }
-    // One fast search finds the LF, and a CR in front of it is looked for in the line alone. The
-    // LF is remembered, so that a text whose lines end in CR alone is not searched again and again.
-    if (m_lineNumber == 0 || m_lineFeed < m_at) {
-        m_lineFeed = std::min(m_text.find('\n', m_at), m_text.size());
-    }
+    // Each kind of end is looked for once and remembered until the reading has passed it, so that
+    // a text without one of them is not searched for it at every line.
+    const auto find = [this](char end, std::size_t& place) {
+        if (m_lineNumber == 0 || place < m_at) {
+            place = std::min(m_text.find(end, m_at), m_text.size());
+        }
+    };
+    find('\n', m_lineFeed);
+    find('\r', m_carriageReturn);
     ++m_lineNumber;
-    line = m_text.substr(m_at, m_lineFeed - m_at);
-    const std::size_t carriageReturn = line.find('\r');
-    if (carriageReturn == std::string_view::npos) {
-        m_at = std::min(m_lineFeed + 1, m_text.size());
-        return true;
-    }
-    line = line.substr(0, carriageReturn);
-    const std::size_t behind = m_at + carriageReturn + 1;
-    m_at = behind == m_lineFeed && m_lineFeed < m_text.size() ? behind + 1 : behind;
+    const std::size_t end = std::min(m_lineFeed, m_carriageReturn);
+    line = m_text.substr(m_at, end - m_at);
+    const bool isCrLf = m_lineFeed == end + 1 && m_carriageReturn == end;
+    m_at = std::min(end + (isCrLf ? 2 : 1), m_text.size());
     return true;
 }
 

@@ -30,8 +30,9 @@ public:
 private:
     std::string_view m_text;
     std::size_t m_at = 0;
-    /// Place of the first LF at or behind `m_at`, or the text's size; unset while behind.
+    // Places of the next LF and CR, or the text's size; out of date once `m_at` has passed them.
     std::size_t m_lineFeed = 0;
+    std::size_t m_carriageReturn = 0;
     int m_lineNumber = 0;
 };
 

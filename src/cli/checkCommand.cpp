@@ -18,29 +18,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The files of a folder with this extension, by name without regard to case.
+/// The files of a folder with this extension, by name without regard to case. A folder that is not
+/// there has none. Throws FileError if it cannot be read.
 std::vector<fs::path> listFolder(const fs::path& folder, std::string_view extension) {
     std::vector<fs::path> files;
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-        if (toCapitals(entry.path().extension().string()) == extension) {
-            files.push_back(entry.path());
+    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+         entry.increment(error)) {
+        if (toCapitals(entry->path().extension().string()) == extension) {
+            files.push_back(entry->path());
         }
+    }
+    if (error && error != std::errc::no_such_file_or_directory) {
+        throw FileError(folder, "cannot be read: " + error.message());
     }
     std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
         const std::string left = toCapitals(a.filename().string());
         const std::string right = toCapitals(b.filename().string());
         return left != right ? left < right : a < b;
     });
-    return files;
-}
-
-/// All files of the application folder that the program reads.
-std::vector<std::string> deliveredFiles(const fs::path& appFolder) {
-    std::vector<std::string> files = {(appFolder / "weaps.dat").string()};
-    for (const fs::path& ship : listFolder(appFolder / "ships", ".SHP")) {
-        files.push_back(ship.string());
-    }
     return files;
 }
 
@@ -103,19 +99,28 @@ std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file)
 }  // namespace
 
 int runCheck(const Options& options) {
-    const std::vector<std::string> files =
-        options.files.empty() ? deliveredFiles(options.appFolder) : options.files;
     int status = Done;
-    for (const std::string& file : files) {
-        for (const Fault& fault : checkFile(options.appFolder, file)) {
-            std::printf("%s\n", complaint(file, fault).c_str());
-            status = SomeRefused;
+    const auto complain = [&status](const std::string& file, const Fault& fault) {
+        std::printf("%s\n", complaint(file, fault).c_str());
+        status = SomeRefused;
+    };
+    std::vector<std::string> files = options.files;
+    if (files.empty()) {
+        files.push_back((options.appFolder / "weaps.dat").string());
+        try {
+            for (const fs::path& ship : listFolder(options.appFolder / "ships", ".SHP")) {
+                files.push_back(ship.string());
+            }
+        } catch (const FileError& error) {
+            complain(error.file().string(), {0, error.what()});
+        }
+        for (const PictureFault& fault : checkDeliveredPictures(options.appFolder)) {
+            complain(fault.file.string(), fault.fault);
         }
     }
-    if (options.files.empty()) {
-        for (const PictureFault& fault : checkDeliveredPictures(options.appFolder)) {
-            std::printf("%s\n", complaint(fault.file.string(), fault.fault).c_str());
-            status = SomeRefused;
+    for (const std::string& file : files) {
+        for (const Fault& fault : checkFile(options.appFolder, file)) {
+            complain(file, fault);
         }
     }
     return status;

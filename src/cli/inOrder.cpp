@@ -5,6 +5,7 @@
 #include <exception>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 
 namespace fleetwright {
@@ -54,10 +55,10 @@ private:
         const std::lock_guard lock(m_mutex);
         slot(input) = std::move(result);
         const std::size_t takenBefore = m_taken;
-        while (m_taken < m_count && slot(m_taken)) {
-            m_take(m_taken, *slot(m_taken));
+        while (!m_failure && m_taken < m_count && slot(m_taken)) {
+            const Result due = std::move(*slot(m_taken));
             slot(m_taken).reset();
-            ++m_taken;
+            m_take(m_taken++, due);
         }
         if (m_taken != takenBefore) {
             m_roomMade.notify_all();
@@ -86,8 +87,12 @@ void inOrder(std::size_t count, unsigned threads, const std::function<Result(std
         static_cast<unsigned>(std::clamp<std::size_t>(count, 1, std::max(threads, 1U)));
     OrderedWork ordered(count, useful, work, take);
     std::vector<std::jthread> others;
-    for (unsigned i = 1; i < useful; ++i) {
-        others.emplace_back([&ordered] { ordered.run(); });
+    try {
+        for (unsigned i = 1; i < useful; ++i) {
+            others.emplace_back([&ordered] { ordered.run(); });
+        }
+    } catch (const std::system_error&) {
+        // There are threads enough to go on with: this one.
     }
     ordered.run();
     others.clear();

@@ -13,7 +13,8 @@
 
 namespace fleetwright {
 
-/// One catalogue record, which is also the weapon line of a ship.
+/// One catalogue record, which is also the weapon line of a ship. Its texts live as long as the
+/// catalogue, and so as long as the ship.
 struct WeapRec {
     std::string_view name;
     std::string_view massform;  ///< mass formula

@@ -34,7 +34,7 @@ struct HullDesign {
     double armor = 0.0;       ///< factor: 0.0, 0.5 or 1.0
     double streamline = 0.0;  ///< factor: 0.0, 0.5 or 1.0
     std::int32_t ftl = NormalDrive;
-    std::int32_t thrust = 2;  ///< 0 to 8
+    std::int32_t thrust = 2;  ///< 0 to 8; ship files can bring others
 };
 
 /// What follows from a hull alone. Costs in points, masses in mass units.
@@ -50,7 +50,7 @@ struct HullFigures {
     std::int32_t fireControls = 0;
 };
 
-/// Works the figures of a hull out. An unknown hull type has no cost, no damage points and no
+/// Works the figures of a hull out. An unknown hull type has no hull cost, damage points or
 /// free mass. Throws OverflowError when a figure leaves 32 bits.
 HullFigures hullFigures(const HullDesign& design);
 

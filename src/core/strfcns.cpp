@@ -73,14 +73,4 @@ void leaveForStrTok(std::string_view rest) {
     m_sTokRest = rest;
 }
 
-std::string_view LineCutter::next(char delimiter) {
-    const std::size_t place = m_rest.find(delimiter);
-    if (place == std::string_view::npos) {
-        return m_rest;
-    }
-    const std::string_view piece = m_rest.substr(0, place);
-    m_rest.remove_prefix(place + 1);
-    return piece;
-}
-
 }  // namespace fleetwright

@@ -7,6 +7,7 @@
 // with too few pieces repeats its last one for ever, and an empty line goes on with what the line
 // before has left; the file formats rest on both.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -34,7 +35,15 @@ public:
     explicit LineCutter(std::string_view line) : m_rest(line) {}
 
     /// The piece in front of the next delimiter, or all that is left.
-    std::string_view next(char delimiter);
+    std::string_view next(char delimiter) {
+        const std::size_t place = m_rest.find(delimiter);
+        if (place == std::string_view::npos) {
+            return m_rest;
+        }
+        const std::string_view piece = m_rest.substr(0, place);
+        m_rest.remove_prefix(place + 1);
+        return piece;
+    }
 
     /// All that is left, delimiters included.
     std::string_view rest() const { return m_rest; }

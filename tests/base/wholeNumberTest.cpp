@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
-
 using namespace fleetwright;
 
 TEST(WholeNumber, ReadsWhatIsANumber) {

@@ -55,6 +55,36 @@ TEST(InOrder, OneSlowInputHoldsBackOnlyAFixedNumberOfResults) {
     EXPECT_LE(startedBeforeFirst, 2 * 64 + 2);
 }
 
+TEST(InOrder, AFaultWhileOthersWaitForRoomFreesThem) {
+    std::atomic<int> started = 0;
+    const auto work = [&](std::size_t input) {
+        ++started;
+        if (input == 0) {
+            // Until the other thread waits for this one's result.
+            for (int seen = -1; seen != started;) {
+                seen = started;
+                std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            }
+            throw std::runtime_error("fault");
+        }
+        return Result{};
+    };
+    EXPECT_THROW(inOrder(10'000, 2, work, [](std::size_t, const Result&) {}), std::runtime_error);
+}
+
+TEST(InOrder, AFaultOfTheTakerEndsTheWorkAndNothingIsTakenTwice) {
+    std::vector<std::size_t> taken;
+    const auto work = [](std::size_t) { return Result{}; };
+    const auto take = [&](std::size_t input, const Result&) {
+        taken.push_back(input);
+        if (input == 20) {
+            throw std::runtime_error("fault");
+        }
+    };
+    EXPECT_THROW(inOrder(10'000, 2, work, take), std::runtime_error);
+    EXPECT_EQ(taken.size(), 21U);
+}
+
 TEST(InOrder, AnExceptionEndsTheWork) {
     std::atomic<int> started = 0;
     const auto work = [&](std::size_t input) {

@@ -23,8 +23,7 @@ ToolRun runTool(const std::string& folder, std::vector<std::string> arguments) {
 
     const pid_t child = fork();
     if (child == 0) {
-        char locale[] = "LC_ALL=de_DE.UTF-8";
-        char* environment[] = {locale, nullptr};
+        char* environment[] = {nullptr};
         const bool isReady = chdir(folder.c_str()) == 0 &&
                              std::freopen("/dev/null", "r", stdin) != nullptr &&
                              std::freopen(output.c_str(), "w", stdout) != nullptr &&

@@ -11,8 +11,7 @@ struct ToolRun {
     std::string errors;  ///< what it wrote to standard error
 };
 
-/// Runs the delivered command line tool in `folder`, with nothing in its environment but an odd
-/// locale, which must not matter.
+/// Runs the delivered command line tool in `folder`, with nothing in its environment.
 ToolRun runTool(const std::string& folder, std::vector<std::string> arguments);
 
 }  // namespace fleetwright

@@ -1,0 +1,23 @@
+# Copies the delivered data into the application folder, and takes away what an earlier run has
+# copied and is no longer wanted. Files of the user's own stay.
+#
+#   cmake -DSOURCE=… -DTARGET=… -DWANTED=list -DCOPIED=list -P FillApplicationFolder.cmake
+
+cmake_minimum_required(VERSION 3.23)
+
+file(STRINGS ${WANTED} wanted)
+if(EXISTS ${COPIED})
+  file(STRINGS ${COPIED} copied)
+  foreach(name IN LISTS copied)
+    if(NOT name IN_LIST wanted)
+      file(REMOVE ${TARGET}/${name})
+    endif()
+  endforeach()
+endif()
+
+file(MAKE_DIRECTORY ${TARGET}/ships ${TARGET}/maps ${TARGET}/shipimages ${TARGET}/ssds)
+foreach(name IN LISTS wanted)
+  file(COPY_FILE ${SOURCE}/${name} ${TARGET}/${name} ONLY_IF_DIFFERENT)
+endforeach()
+file(COPY_FILE ${WANTED} ${COPIED})
+file(TOUCH ${COPIED})
