@@ -64,15 +64,19 @@ std::vector<Fault> checkCatalogueFile(const fs::path& file) {
 /// What is wrong in the delivered folder of pictures beyond what the catalogue's lines say.
 std::vector<PictureFault> checkDeliveredPictures(const fs::path& appFolder) {
     const fs::path images = appFolder / "images";
-    if (!fs::is_directory(images)) {
-        return {};
-    }
-    PictureCheck check(images);
+    std::string catalogue;
     try {
-        check.checkCatalogue(readTextFile(appFolder / "weaps.dat"));
+        catalogue = readTextFile(appFolder / "weaps.dat");
     } catch (const FileError&) {
         return {};  // said already, and without it every picture would seem unused
     }
+    if (!fs::is_directory(images)) {
+        std::fprintf(stderr, "%s: not unpacked yet, so no picture was looked at\n",
+                     images.string().c_str());
+        return {};
+    }
+    PictureCheck check(images);
+    check.checkCatalogue(catalogue);
     return check.checkRest();
 }
 

@@ -73,6 +73,16 @@ TEST(UnpackFiles, ANameThatCannotBeTakenLeavesTheFolderAsItWas) {
     EXPECT_TRUE(fs::exists(folder.path() / "b.gif" / "inside"));
 }
 
+TEST(UnpackFiles, WhatAKilledRunHasLeftIsCleanedUp) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder.path() / ".unpacking");
+    folder.write(".unpacking/half.gif", "hal");
+    const ArchivedFile files[] = {{"a.gif", "a"}};
+    unpackFiles(files, folder.path());
+    EXPECT_EQ(folder.entries(), 1);
+    EXPECT_EQ(folder.read("a.gif"), "a");
+}
+
 TEST(PictureArchive, UnpacksEveryPictureOfCatalogueAndSheet) {
     const TemporaryFolder folder;
     const CommandResult result = runCommand("cd " + folder.path().string() + " && " ARCHIVE " -o");
@@ -147,6 +157,37 @@ TEST_F(UnpackCommand, AnArchiveThatFailsLeavesNoFolder) {
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.output.find("images: the pictures could not be unpacked"), std::string::npos);
     EXPECT_EQ(m_app.entries(), 1);
+}
+
+TEST_F(UnpackCommand, ADamagedArchiveLeavesNoFolderEvenIfItSeemsToSucceed) {
+    for (const char* bytes : {"", "#!/bin/sh\ntouch blank.gif\n"}) {
+        m_app.write("images.exe", bytes);
+        const CommandResult result = unpack();
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.output.find("images: the pictures could not be unpacked"),
+                  std::string::npos)
+            << result.output;
+        EXPECT_EQ(m_app.entries(), 1);
+    }
+}
+
+TEST_F(UnpackCommand, AFileInThePlaceOfTheFolderIsNamedAndStays) {
+    m_app.write("images", "not a folder");
+    const CommandResult result = unpack();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.output.find("images: cannot be made: "), std::string::npos) << result.output;
+    EXPECT_EQ(m_app.read("images"), "not a folder");
+    EXPECT_EQ(m_app.entries(), 2);
+}
+
+TEST_F(UnpackCommand, WorksInAFolderWhosePathAShellWouldMisread) {
+    const fs::path app = m_app.path() / "it's $HOME \xC3\xBC & more";
+    fs::create_directory(app);
+    fs::copy_file(ARCHIVE, app / "images.exe");
+    const CommandResult result =
+        runCommand("cd '" + m_app.path().string() + "' && " CLI " unpack --app ./it\\'s*more");
+    EXPECT_EQ(result.status, 0) << result.output;
+    EXPECT_TRUE(fs::exists(app / "images" / "blank.gif"));
 }
 
 TEST_F(UnpackCommand, AMissingArchiveIsNamed) {

@@ -6,6 +6,8 @@
 #include <fstream>
 #include <iomanip>
 #include <iterator>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -15,6 +17,9 @@ namespace {
 void writeEntry(std::ostream& out, const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     const std::vector<char> bytes{std::istreambuf_iterator<char>(in), {}};
+    if (!in || bytes.empty()) {
+        throw std::runtime_error(file.string() + ": cannot be read");
+    }
     out << "    {\"" << file.filename().string() << "\", std::string_view(\"";
     for (const char byte : bytes) {
         out << '\\' << std::setw(3) << static_cast<int>(static_cast<unsigned char>(byte));
@@ -22,20 +27,14 @@ void writeEntry(std::ostream& out, const fs::path& file) {
     out << "\", 0" << bytes.size() << ")},\n";
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fprintf(stderr, "Usage: pack-pictures FOLDER SOURCE\n");
-        return 2;
-    }
+void packFolder(const char* folder, const char* source) {
     std::vector<fs::path> files;
-    for (const fs::directory_entry& entry : fs::directory_iterator(argv[1])) {
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
         files.push_back(entry.path());
     }
     std::sort(files.begin(), files.end());
 
-    std::ofstream out(argv[2], std::ios::binary);
+    std::ofstream out(source, std::ios::binary);
     // Octal, since an octal escape ends after three digits whatever follows.
     out << "#include \"PictureArchive.h\"\n\nnamespace fleetwright {\n\n"
            "static const ArchivedFile pictures[] = {\n"
@@ -47,7 +46,21 @@ int main(int argc, char** argv) {
            "}  // namespace fleetwright\n";
     out.close();
     if (!out) {
-        std::fprintf(stderr, "%s: cannot be written\n", argv[2]);
+        throw std::runtime_error(std::string(source) + ": cannot be written");
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fprintf(stderr, "Usage: pack-pictures FOLDER SOURCE\n");
+        return 2;
+    }
+    try {
+        packFolder(argv[1], argv[2]);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }
     return 0;

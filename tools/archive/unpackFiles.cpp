@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <random>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -23,11 +22,14 @@ namespace {
 class Unpacking {
 public:
     explicit Unpacking(const fs::path& folder)
-        : m_folder(folder),
-          m_staging(folder / (".unpacking-" + std::to_string(std::random_device()()))) {
+        : m_folder(folder), m_staging(folder / ".unpacking") {
         std::error_code error;
+        fs::remove_all(m_staging, error);  // what a run that was killed has left
         if (!fs::create_directory(m_staging, error)) {
-            fail(folder, error);
+            if (error) {
+                fail(folder, error);
+            }
+            throw FileError(folder, "cannot be written: another run is at work in it");
         }
     }
     Unpacking(const Unpacking&) = delete;

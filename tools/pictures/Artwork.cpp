@@ -4,6 +4,7 @@
 #include "TextFile.h"
 
 #include <QStringList>
+#include <QSvgRenderer>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -55,15 +56,30 @@ void writeText(QXmlStreamWriter& writer, const QXmlStreamAttributes& attributes,
     writer.writeEndElement();
 }
 
+/// A text with the values put in for their names in braces.
+std::string filledIn(QString text, const Variant& values) {
+    for (const auto& [name, value] : values) {
+        text.replace(QString::fromStdString('{' + name + '}'), QString::fromStdString(value));
+    }
+    return text.toStdString();
+}
+
+/// What Qt has to say against a picture; it would draw as much as it understands and go on.
+std::string drawingFault(const QByteArray& svg) {
+    static QString complaint;
+    complaint.clear();
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { complaint = text; });
+    const bool isValid = QSvgRenderer(svg).isValid();
+    qInstallMessageHandler(before);
+    return isValid || !complaint.isEmpty() ? complaint.toStdString() : "no SVG picture";
+}
+
 }  // namespace
 
 Artwork::Artwork(std::filesystem::path folder, std::string version)
     : m_folder(std::move(folder)), m_version(std::move(version)),
       m_lettering(m_folder / "lettering.txt") {}
-
-bool Artwork::has(const std::string& name) const {
-    return std::filesystem::exists(file(name + ".svg"));
-}
 
 QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
     const std::filesystem::path source = file(name + ".svg");
@@ -71,6 +87,8 @@ QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
     reader.setNamespaceProcessing(false);
     QByteArray svg;
     QXmlStreamWriter writer(&svg);
+    Variant values = variant;
+    values["version"] = m_version;
     const auto fail = [&](const std::string& fault) {
         throw FileError(source, "line " + std::to_string(reader.lineNumber()) + ": " + fault);
     };
@@ -78,6 +96,9 @@ QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::EndElement) {
             writer.writeEndElement();
+        }
+        if (token == QXmlStreamReader::Characters && !reader.isWhitespace()) {
+            writer.writeCharacters(reader.text().toString());
         }
         if (token != QXmlStreamReader::StartElement) {
             continue;
@@ -89,10 +110,9 @@ QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
         if (!isWanted(attributes, variant)) {
             reader.skipCurrentElement();
         } else if (reader.qualifiedName() == QLatin1String("text")) {
-            const QString text =
-                reader.readElementText().replace("{version}", QString::fromStdString(m_version));
             try {
-                writeText(writer, attributes, text.toStdString(), m_lettering);
+                writeText(writer, attributes, filledIn(reader.readElementText(), values),
+                          m_lettering);
             } catch (const Error& error) {
                 fail(error.what());
             }
@@ -103,6 +123,10 @@ QByteArray Artwork::svg(const std::string& name, const Variant& variant) const {
     }
     if (reader.hasError()) {
         fail(reader.errorString().toStdString());
+    }
+    const std::string fault = drawingFault(svg);
+    if (!fault.empty()) {
+        throw FileError(source, fault);
     }
     return svg;
 }

@@ -19,13 +19,12 @@ using Variant = std::map<std::string, std::string>;
 /// attribute such as data-class="2 3" is only there in the variants whose "class" is one of the
 /// values, so that one source serves all classes and mountings of a weapon. And `text` elements
 /// become outlines of the program's own lettering, so that a picture does not depend on the fonts
-/// of the machine that it is made on; "{version}" in them becomes the program's version.
+/// of the machine that it is made on; "{version}" in them becomes the program's version, and the
+/// name of anything else that tells variants apart becomes its value.
 class Artwork {
 public:
     /// Throws FileError when the lettering cannot be read.
     Artwork(std::filesystem::path folder, std::string version);
-
-    bool has(const std::string& name) const;
 
     /// The SVG of one variant of a source, by its path in the folder without ".svg".
     /// Throws FileError for what cannot be read or is no SVG.
