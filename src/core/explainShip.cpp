@@ -3,6 +3,8 @@
 #include "ShipClass.h"
 #include "designWords.h"
 
+#include <algorithm>
+
 namespace fleetwright {
 
 namespace {
@@ -39,7 +41,37 @@ void appendSystems(std::vector<Explanation::Term>& terms, const ShipClass& ship,
     }
 }
 
+std::string textLine(std::int64_t value, const std::string& text) {
+    constexpr std::size_t width = 8;
+    const std::string number = std::to_string(value);
+    return std::string(width - std::min(width, number.size()), ' ') + number + "  " + text + '\n';
+}
+
 }  // namespace
+
+std::string textOf(const Explanation& explanation) {
+    std::string text;
+    for (const Explanation::Term& term : explanation.terms) {
+        text += textLine(term.value, term.text);
+    }
+    return text + textLine(explanation.sum, "= " + explanation.figure);
+}
+
+std::string describeSystem(ShipClass& ship, std::string_view name, std::int32_t amount) {
+    std::int32_t index = ship.weapNameToIndex(name);
+    if (index == -1) {
+        return {};
+    }
+    WeapRec record;
+    ship.listWeap(index, record);
+    const std::string pieces = std::to_string(amount) + " x " + std::string(name);
+    return pieces + '\n' + "Mass: " + std::to_string(ship.previewWeapMass(name, amount)) + " = " +
+           std::string(record.massform) + '\n' +
+           "Cost: " + std::to_string(ship.previewWeapCost(name, amount)) + " = " +
+           std::string(record.costform) + '\n' +
+           (ship.PaintableWeap(name) ? "Arcs: " + std::string(record.arclist)
+                                     : std::string("No place on the sheet's drawing"));
+}
 
 std::vector<Explanation> explainShip(ShipClass& ship) {
     const HullFigures& hull = ship.hullFigures();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -19,6 +20,13 @@ struct Explanation {
     std::vector<Term> terms;
     std::int32_t sum;  ///< the figure itself, which the terms add up to
 };
+
+/// An explanation as lines of text: each term with its value in front, and the figure last.
+std::string textOf(const Explanation& explanation);
+
+/// What a system weighs and costs on this ship: its formulas, what they come to for so many
+/// pieces, and its arcs. Nothing for a name that the ship's catalogue does not have.
+std::string describeSystem(ShipClass& ship, std::string_view name, std::int32_t amount);
 
 /// Explains cost, damage points and mass left, in this order.
 std::vector<Explanation> explainShip(ShipClass& ship);

@@ -4,6 +4,8 @@
 #include "Error.h"
 #include "Globals.h"
 #include "StartUpProgress.h"
+#include "explainShip.h"
+#include "wholeNumber.h"
 
 #include <stdexcept>
 #include <utility>
@@ -36,6 +38,15 @@ frmMain::frmMain(MainWindowServices services)
     lvCurrentWeapons.onDblClick = [this] { lvCurrentWeapons_DblClick(); };
     lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
         lvCurrentWeapons_MouseDown(press);
+    };
+    tvWeapons.nodeToolTip = [this](const TreeView::Node& node) {
+        const std::string system =
+            node.children.empty() ? describeSystem(*g_Ship, node.key, 1) : std::string();
+        return system.empty() ? system : system + "\n\nDouble-click, or press Enter, to fit one";
+    };
+    lvCurrentWeapons.rowToolTip = [this](const ListView::Row& row) {
+        return describeSystem(*g_Ship, row.key, wholeNumber(row.subItem)) +
+               "\n\nDouble-click, or press Delete, to take one away; right-click for more";
     };
 }
 
@@ -219,6 +230,18 @@ void frmMain::showFigures() {
     txtClass.setText(std::string(g_Ship->Class()));
     txtShipName.setText(g_Ship->g_sShipName);
     txtDesigner.setText(g_Ship->g_sDesignerName);
+    if (m_services.hasScreen) {
+        explainFigures();
+    }
+}
+
+/// Lets the player see what a figure is made of by pointing at it.
+void frmMain::explainFigures() {
+    const std::vector<Explanation> explanations = explainShip(*g_Ship);
+    const std::array<Control*, 3> figures = {&txtCost, &txtDP, &lblMassLeft};
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        figures[i]->setToolTip(textOf(explanations[i]));
+    }
 }
 
 void frmMain::tmrRefreshScreen_Timer() {

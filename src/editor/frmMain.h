@@ -255,7 +255,6 @@ public:
     TreeView tvWeapons{*this,
                        {.name = "tvWeapons",
                         .place = {6825, 1365, 3900, 6000},
-                        .toolTip = "Double-click, or press Enter, to fit a system",
                         .accessibleName = "Catalogue of systems"},
                        &ilWeapons};
 
@@ -322,6 +321,7 @@ private:
     // Showing the ship.
     void RefreshScreen();
     void showFigures();
+    void explainFigures();
     void showButtons();
     void previewNode();
     void previewRow(std::size_t row);

@@ -70,6 +70,8 @@ public:
     void setVisible(bool isVisible);
     bool isEnabled() const { return m_design.isEnabled; }
     void setEnabled(bool isEnabled);
+    const std::string& toolTip() const { return m_design.toolTip; }
+    void setToolTip(const std::string& toolTip);
 
     /// Whether a user can act on it: it and all that it stands in are visible and enabled.
     bool takesActs() const;

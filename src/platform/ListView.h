@@ -56,6 +56,8 @@ public:
     Handler onClick;
     Handler onDblClick;
     std::function<void(const MousePress&)> onMouseDown;
+    /// What is to be said of a row that the pointer rests on. May be empty.
+    std::function<std::string(const Row&)> rowToolTip;
 
 private:
     std::vector<Column> m_columns;

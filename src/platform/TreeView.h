@@ -49,6 +49,8 @@ public:
     Handler onClick;
     Handler onDblClick;
     std::function<void(const MousePress&)> onMouseDown;
+    /// What is to be said of a node that the pointer rests on. May be empty.
+    std::function<std::string(const Node&)> nodeToolTip;
 
 private:
     std::deque<Node> m_nodes;  // whose places stay as it grows

@@ -12,6 +12,13 @@
 
 using namespace fleetwright;
 
+#if defined(__SANITIZE_ADDRESS__)
+// The C library keeps the list of folders that it has looked for locales in.
+extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
+    return "leak:__argz_add_sep\n";
+}
+#endif
+
 namespace {
 
 /// A process in which numbers are written with a decimal comma and thousands with a point, as a

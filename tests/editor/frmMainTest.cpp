@@ -93,6 +93,34 @@ TEST(FrmMain, PreviewsEndSilentlyWhereNothingIsSelected) {
     EXPECT_EQ(test.previews(), "0 0 | 12 312");
 }
 
+TEST(FrmMain, PointingAtAFigureOrASystemExplainsIt) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    EXPECT_EQ(window.txtCost.toolTip(), "       4  Warship hull of mass 2\n"
+                                        "       2  FTL drive: Normal\n"
+                                        "       1  Thrust 2\n"
+                                        "       7  = Cost\n");
+    test.selectNode("Gun");
+    window.mnuAddWeap[1].choose();
+    EXPECT_EQ(window.lblMassLeft.toolTip(), "       1  Free mass of the Warship hull of mass 2\n"
+                                            "      -4  2 x Gun\n"
+                                            "      -3  = Mass left\n");
+    EXPECT_EQ(window.txtDP.toolTip(), "       1  Warship hull of mass 2\n"
+                                      "       1  = Damage points\n");
+    const std::string gun = window.tvWeapons.nodeToolTip(*window.tvWeapons.find("Gun"));
+    EXPECT_EQ(gun.substr(0, gun.find("\n\n")),
+              "1 x Gun\nMass: 2 = 2 * amount\nCost: 6 = 6 * amount\nArcs: FPS");
+    const std::string row = window.lvCurrentWeapons.rowToolTip(window.lvCurrentWeapons.rows()[0]);
+    EXPECT_EQ(row.substr(0, row.find("\n\n")),
+              "2 x Gun\nMass: 4 = 2 * amount\nCost: 12 = 6 * amount\nArcs: FPS");
+    EXPECT_EQ(window.tvWeapons.nodeToolTip(*window.tvWeapons.find("BEAM")), "");
+    // Pointing at a category without systems is no act, and says nothing of unknown weapons.
+    test.takeLog();
+    EXPECT_EQ(window.tvWeapons.nodeToolTip(*window.tvWeapons.find("ALIEN")), "");
+    EXPECT_EQ(test.takeLog(), "");
+}
+
 TEST(FrmMain, CategoryButtonsOpenOneAndCloseTheRest) {
     TestWindow test;
     frmMain& window = test.window();

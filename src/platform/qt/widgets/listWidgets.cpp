@@ -7,9 +7,11 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QToolTip>
 #include <QTreeWidget>
 
 namespace fleetwright {
@@ -80,6 +82,19 @@ protected:
             return;
         }
         QTreeWidget::keyPressEvent(event);
+    }
+
+    bool viewportEvent(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && m_list.rowToolTip) {
+            const auto* const help = static_cast<QHelpEvent*>(event);
+            const int row = indexOfTopLevelItem(itemAt(help->pos()));
+            QToolTip::showText(
+                help->globalPos(),
+                row < 0 ? QString()
+                        : toQt(m_list.rowToolTip(m_list.rows()[static_cast<std::size_t>(row)])));
+            return true;
+        }
+        return QTreeWidget::viewportEvent(event);
     }
 
 private:

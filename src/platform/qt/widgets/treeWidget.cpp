@@ -5,8 +5,10 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include <map>
@@ -73,6 +75,18 @@ protected:
             return;
         }
         QTreeWidget::keyPressEvent(event);
+    }
+
+    bool viewportEvent(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && m_tree.nodeToolTip) {
+            const auto* const help = static_cast<QHelpEvent*>(event);
+            QTreeWidgetItem* const item = itemAt(help->pos());
+            QToolTip::showText(help->globalPos(), item == nullptr
+                                                      ? QString()
+                                                      : toQt(m_tree.nodeToolTip(nodeOf(item))));
+            return true;
+        }
+        return QTreeWidget::viewportEvent(event);
     }
 
 private:

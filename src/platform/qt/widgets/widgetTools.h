@@ -50,11 +50,11 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     const ControlDesign& design = control.design();
     widget->setObjectName(toQt(design.name));
     widget->setGeometry(scale.rect(design.place));
-    widget->setToolTip(toQt(design.toolTip));
     if (!design.accessibleName.empty()) {
         widget->setAccessibleName(toQt(design.accessibleName));
     }
     keepInStep(widget, control, [widget, &control] {
+        widget->setToolTip(toQt(control.toolTip()));
         widget->setVisible(control.isVisible());
         widget->setEnabled(control.isEnabled());
     });
