@@ -14,7 +14,7 @@ class ImageList : public Control {
 public:
     using Control::Control;
 
-    void add(const std::string& key, Raster picture) {
+    void add(const std::string& key, Raster&& picture) {
         if (!m_pictures.try_emplace(key, std::move(picture)).second) {
             throw std::logic_error("double picture key \"" + key + '"');
         }

@@ -13,6 +13,8 @@ class FormWindow;
 class QtDesktop : public Desktop {
 public:
     QtDesktop();
+    QtDesktop(const QtDesktop&) = delete;
+    QtDesktop& operator=(const QtDesktop&) = delete;
     ~QtDesktop() override;
 
     /// Gives a form its window, which shows and hides with it.

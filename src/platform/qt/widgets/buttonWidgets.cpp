@@ -91,6 +91,13 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         widget->setAutoExclusive(false);
         widget->setChecked(button.isOn());
         widget->setAutoExclusive(true);
+        // Which button is down must be seen at once, in dark themes too.
+        QPalette palette = widget->parentWidget()->palette();
+        if (button.design().isGraphical && button.isOn()) {
+            palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
+            palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+        }
+        widget->setPalette(palette);
     };
     keepInStep(widget, button, showState);
     fitText(widget, button, scale);

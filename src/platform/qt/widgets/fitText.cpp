@@ -32,11 +32,13 @@ void fitText(QWidget* widget, const Control& control, const Scale& scale) {
         const int room = scale.pixels(freeRight(control) - control.place().left);
         widget->resize(std::min(needed, room), widget->height());
     }
-    // What still does not fit is set a little narrower.
-    constexpr int narrowest = 70;
-    if (needed > widget->width()) {
-        QFont font = widget->font();
-        font.setStretch(std::max(narrowest, 100 * widget->width() / needed));
+    // What still does not fit is set in narrower letters, a little at a time: how wide a text
+    // becomes is not quite in proportion.
+    constexpr int narrowest = 70, step = 2;
+    QFont font = widget->font();
+    for (int stretch = 100; stretch > narrowest && widget->sizeHint().width() > widget->width();) {
+        stretch -= step;
+        font.setStretch(stretch);
         widget->setFont(font);
     }
 }

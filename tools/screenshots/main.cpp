@@ -1,0 +1,138 @@
+// Takes pictures of the program's windows in their states, without a screen: looks at what a user
+// sees, and makes the pictures of the guides.
+
+#include "Error.h"
+#include "FormWindow.h"
+#include "Globals.h"
+#include "QtDesktop.h"
+#include "QtPictureFiles.h"
+#include "StartUpProgress.h"
+#include "frmMain.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+using namespace fleetwright;
+namespace fs = std::filesystem;
+
+class NoProgress : public StartUpProgress {
+public:
+    void setText(const std::string&) override {}
+    void repaint() override {}
+};
+
+/// A desktop that takes a picture of each dialog and cancels it.
+class PictureDesktop : public QtDesktop {
+public:
+    explicit PictureDesktop(fs::path folder) : m_folder(std::move(folder)) {}
+
+    void showModal(Form& form, Form&) override {
+        form.load();
+        FormWindow window(form);
+        form.show();
+        take(window, form.name());
+        form.unload();
+    }
+
+    void take(QWidget& window, const std::string& name) const {
+        QApplication::processEvents();
+        const fs::path file = m_folder / (name + ".png");
+        if (!window.grab().save(QString::fromStdString(file.string()))) {
+            throw FileError(file, "cannot be saved");
+        }
+    }
+
+private:
+    fs::path m_folder;
+};
+
+QPalette darkPalette() {
+    QPalette palette(QColor(45, 45, 48));
+    palette.setColor(QPalette::Base, QColor(30, 30, 32));
+    palette.setColor(QPalette::Highlight, QColor(60, 110, 170));
+    return palette;
+}
+
+/// Shows a ship with a system of it selected in the tree.
+void showShip(frmMain& window, const fs::path& ship, const std::string& system) {
+    if (!window.loadFile(ship.string())) {
+        throw FileError(ship, "does not load");
+    }
+    TreeView::Node* const node = window.tvWeapons.find(system);
+    for (TreeView::Node* above = node->parent; above != nullptr; above = above->parent) {
+        window.tvWeapons.setExpanded(*above, true);
+    }
+    window.tvWeapons.select(*node);
+    window.lvCurrentWeapons.select(1);
+    window.tmrRefreshScreen.tick();
+}
+
+void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& output) {
+    fs::create_directories(output);
+    const QTemporaryDir temporary;
+    const fs::path appFolder = temporary.path().toStdString();
+    fs::copy_file(data / "weaps.dat", appFolder / "weaps.dat");
+    fs::create_directory_symlink(fs::absolute(pictures) / "images", appFolder / "images");
+
+    PictureDesktop desktop(output);
+    QtPictureFiles files;
+    NoProgress progress;
+    Globals globals;
+    globals.formula = formula_calculate;
+    frmMain form({.appFolder = appFolder,
+                  .eventLoopTurn = {},
+                  .freeFormulaLibrary = [] {},
+                  .desktop = desktop,
+                  .pictures = files,
+                  .progress = progress,
+                  .globals = globals});
+    form.load();
+    const auto take = [&](const std::string& name) {
+        FormWindow window(form);
+        window.show();
+        desktop.take(window, name);
+    };
+    form.setVisible(true);
+    take("main-new");
+    showShip(form, data / "ships" / "Provost.shp", "Pulse Cannon III (FPS)");
+    take("main");
+    form.lvCurrentWeapons.pressMouse({.button = RightButton});
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(darkPalette());
+    take("main-dark");
+    QApplication::setPalette(light);
+    QFont large = QApplication::font();
+    large.setPointSizeF(large.pointSizeF() * 1.2);
+    QApplication::setFont(large);
+    take("main-large-font");
+    form.optStarBase.choose();
+    form.mnuAutoMass.choose();
+    take("main-base");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4) {
+        std::fputs("Usage: window-screenshots DATA PICTURES OUTPUT\n", stderr);
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QApplication::setStyle("fusion");
+    try {
+        takeAll(argv[1], argv[2], argv[3]);
+    } catch (const FileError& error) {
+        std::fprintf(stderr, "%s: %s\n", error.file().string().c_str(), error.what());
+        return 1;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "window-screenshots: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}
