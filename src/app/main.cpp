@@ -25,10 +25,16 @@ public:
     void repaint() override {}
 };
 
-/// The faults of the catalogue in one text, up to ten of them.
+/// The faults of the catalogue in one text, up to ten of them. A catalogue that cannot be read at
+/// all has none: the main window has a message of its own for that.
 std::string catalogueFaults(const std::filesystem::path& file) {
     constexpr std::size_t most = 10;
-    const std::vector<Fault> faults = checkCatalogue(readTextFile(file));
+    std::vector<Fault> faults;
+    try {
+        faults = checkCatalogue(readTextFile(file));
+    } catch (const FileError&) {
+        return {};
+    }
     std::string text;
     for (std::size_t i = 0; i < faults.size() && i < most; ++i) {
         text += complaint(file.string(), faults[i]) + '\n';
@@ -68,7 +74,9 @@ int run(QtDesktop& desktop) {
     window.load();
     desktop.present(window);
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    desktop.dismiss(window);
+    return status;
 }
 
 }  // namespace

@@ -70,7 +70,11 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
     if (auto* const timer = dynamic_cast<Timer*>(&control)) {
         auto* const ticking = new QTimer(this);
         ticking->setInterval(timer->interval());
-        QObject::connect(ticking, &QTimer::timeout, [timer] { timer->tick(); });
+        QObject::connect(ticking, &QTimer::timeout, [this, timer] {
+            if (m_form.isLoaded()) {
+                timer->tick();
+            }
+        });
         ticking->start();
         return nullptr;
     }

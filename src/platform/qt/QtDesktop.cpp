@@ -21,6 +21,10 @@ void QtDesktop::present(Form& form) {
     m_windows[&form] = std::make_unique<FormWindow>(form);
 }
 
+void QtDesktop::dismiss(Form& form) {
+    m_windows.erase(&form);
+}
+
 Answer QtDesktop::showMessage(const std::string& text, const std::string& title, Buttons buttons,
                               Icon icon) {
     QMessageBox box(QApplication::activeWindow());

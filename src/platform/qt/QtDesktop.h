@@ -19,6 +19,8 @@ public:
 
     /// Gives a form its window, which shows and hides with it.
     void present(Form& form);
+    /// Takes a form's window away; before the form itself goes.
+    void dismiss(Form& form);
 
     Answer showMessage(const std::string& text, const std::string& title, Buttons buttons,
                        Icon icon) override;
