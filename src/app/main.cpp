@@ -19,12 +19,6 @@ namespace {
 
 using namespace fleetwright;
 
-class NoProgress : public StartUpProgress {
-public:
-    void setText(const std::string&) override {}
-    void repaint() override {}
-};
-
 /// The faults of the catalogue in one text, up to ten of them. A catalogue that cannot be read at
 /// all has none: the main window has a message of its own for that.
 std::string catalogueFaults(const std::filesystem::path& file) {

@@ -26,12 +26,6 @@ public:
     Raster builtIn(const std::string&) override { return {}; }
 };
 
-class NoProgress : public StartUpProgress {
-public:
-    void setText(const std::string&) override {}
-    void repaint() override {}
-};
-
 }  // namespace
 
 class ShipOnScreen::Program {

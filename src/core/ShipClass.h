@@ -137,14 +137,21 @@ public:
     /// The system's arc letters; nothing for an unknown name.
     std::string_view GimmeWeapArc(std::string_view in_sWeapName) const;
 
+    /// What a pass works out, before any of it is shown.
+    struct Figures {
+        HullFigures hull;
+        std::int32_t cost = 0;
+        std::int32_t massLeft = 0;
+    };
     /// All that a design holds but its names and files, to go back to.
     struct State {
         HullDesign hull;
+        Figures figures;
         std::vector<std::int32_t> amounts;  ///< of each record
         bool isSaved = true;
     };
     State state() const;
-    /// Makes the ship what it was. Works the figures out, but raises no event.
+    /// Makes the ship what it was, without an event.
     void restore(const State& state);
 
     /// The hull as it is designed, and what the last recalculation has made of it.
@@ -152,12 +159,6 @@ public:
     const HullFigures& hullFigures() const { return m_hullFigures; }
 
 private:
-    /// What a pass works out, before any of it is shown.
-    struct Figures {
-        HullFigures hull;
-        std::int32_t cost = 0;
-        std::int32_t massLeft = 0;
-    };
     class Rollback;
     class Pass;
 

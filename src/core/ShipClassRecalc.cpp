@@ -140,7 +140,10 @@ std::int32_t ShipClass::evaluate(std::string_view& text, const HullDesign& hull,
 }
 
 ShipClass::State ShipClass::state() const {
-    State state{.hull = m_hull, .amounts = {}, .isSaved = g_bSaved};
+    State state{.hull = m_hull,
+                .figures = {m_hullFigures, g_lCost, g_iMassLeft},
+                .amounts = {},
+                .isSaved = g_bSaved};
     for (const WeapRec& record : m_catalogue.records()) {
         state.amounts.push_back(record.amount);
     }
@@ -152,7 +155,7 @@ void ShipClass::restore(const State& state) {
     for (std::size_t i = 0; i < state.amounts.size(); ++i) {
         m_catalogue.records()[i].amount = state.amounts[i];
     }
-    show(workOutFigures(m_hull));
+    show(state.figures);
     g_bSaved = state.isSaved;
 }
 

@@ -14,4 +14,11 @@ public:
     virtual void repaint() = 0;
 };
 
+/// Where nobody watches the start.
+class NoProgress : public StartUpProgress {
+public:
+    void setText(const std::string&) override {}
+    void repaint() override {}
+};
+
 }  // namespace fleetwright

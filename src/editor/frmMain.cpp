@@ -15,16 +15,20 @@ namespace fleetwright {
 /// Marks that an act is under way.
 class frmMain::ActScope {
 public:
-    explicit ActScope(frmMain& window) : m_window(window), m_wasActing(window.m_isActing) {
-        m_window.m_isActing = true;
+    explicit ActScope(frmMain& window)
+        : m_window(window), m_wasInTurn(std::exchange(window.m_isInTurn, false)) {
+        ++m_window.m_actDepth;
     }
     ActScope(const ActScope&) = delete;
     ActScope& operator=(const ActScope&) = delete;
-    ~ActScope() { m_window.m_isActing = m_wasActing; }
+    ~ActScope() {
+        --m_window.m_actDepth;
+        m_window.m_isInTurn = m_wasInTurn;
+    }
 
 private:
     frmMain& m_window;
-    bool m_wasActing;
+    bool m_wasInTurn;
 };
 
 frmMain::frmMain(MainWindowServices services)
@@ -50,10 +54,8 @@ frmMain::frmMain(MainWindowServices services)
     };
 }
 
-Label frmMain::figureLabel(const std::string& name, const std::string& caption, int top) {
-    // Two of the labels were never quite in line with the others.
-    const int left = name == "lblDCP" ? 120 : 105;
-    const int width = name == "lblRelSize" ? 1155 : 1260;
+Label frmMain::figureLabel(const std::string& name, const std::string& caption, int top, int left,
+                           int width) {
     return Label(fraInfo, {.name = name, .place = {left, top, width, 288}, .caption = caption});
 }
 
@@ -102,6 +104,12 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::Form_Unload(bool& cancel) {
+    if (m_actDepth > 0) {
+        // The ship is at work; it cannot go before that has ended.
+        cancel = true;
+        whenIdle([this] { unload(); });
+        return;
+    }
     if (m_services.globals.g_bConfirmExit && !g_Ship->g_bSaved) {
         cancel =
             m_services.desktop.showMessage("Ship not saved, continue with exit?", "Ship not saved!",
@@ -110,29 +118,19 @@ void frmMain::Form_Unload(bool& cancel) {
     if (cancel) {
         return;
     }
-    dropShip();
+    m_shipEvents.clear();
+    g_Ship.reset();
     m_services.freeFormulaLibrary();
     m_services.desktop.unloadAllForms();
     minimize();
 }
 
-/// Parts with the ship, which goes at once or, if it is at work further out, when it has ended.
-void frmMain::dropShip() {
-    m_shipEvents.clear();
-    std::erase_if(m_formerShips, [](const auto& ship) { return !ship->isBusy(); });
-    if (g_Ship && g_Ship->isBusy()) {
-        m_formerShips.push_back(std::move(g_Ship));
-    }
-    g_Ship.reset();
-}
-
 void frmMain::replaceShip() {
-    auto ship = std::make_unique<ShipClass>(
+    m_shipEvents.clear();
+    g_Ship = std::make_unique<ShipClass>(
         ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
                      .formula = m_services.globals.formula,
-                     .eventLoopTurn = m_services.eventLoopTurn});
-    dropShip();
-    g_Ship = std::move(ship);
+                     .eventLoopTurn = [this] { giveTurn(); }});
     const auto listen = [this](Signal<>& event, void (frmMain::*handler)()) {
         m_shipEvents.push_back(event.connect([this, handler] { (this->*handler)(); }));
     };
@@ -180,24 +178,53 @@ void frmMain::g_Ship_ShipLoaded() {
     }
 }
 
-void frmMain::act(const std::function<void()>& act) {
-    if (m_isActing) {
-        act();
+void frmMain::act(const std::function<void()>& change) {
+    if (!g_Ship) {
+        return;  // the window is closing
+    }
+    if (m_actDepth > 0 && !m_isInTurn) {
+        change();
         return;
     }
+    runUndoable(change);
+    while (m_actDepth == 0 && !m_whenIdle.empty()) {
+        const std::function<void()> task = std::move(m_whenIdle.front());
+        m_whenIdle.erase(m_whenIdle.begin());
+        task();
+    }
+}
+
+void frmMain::runUndoable(const std::function<void()>& change) {
     const ActScope scope(*this);
-    const ShipClass* const ship = g_Ship.get();
-    const ShipClass::State before = ship->state();
+    const ShipClass::State before = g_Ship->state();
     try {
-        act();
+        change();
     } catch (const OverflowError&) {
-        if (g_Ship.get() != ship) {
-            return;  // the act's ship is gone, and the fault with it
-        }
         g_Ship->restore(before);
-        RefreshScreen();
+        try {
+            RefreshScreen();
+        } catch (const OverflowError&) {
+            // A ship that a file has brought out of range is shown as far as it goes.
+        }
         g_Ship->g_bSaved = before.isSaved;
         sbStatus.setText("Number too large");
+    }
+}
+
+void frmMain::whenIdle(std::function<void()> task) {
+    if (m_actDepth > 0) {
+        m_whenIdle.push_back(std::move(task));
+    } else {
+        task();
+    }
+}
+
+/// AutoMass lets the user act in the middle of its own work; such an act is one of its own.
+void frmMain::giveTurn() {
+    if (m_services.eventLoopTurn) {
+        const bool wasInTurn = std::exchange(m_isInTurn, true);
+        m_services.eventLoopTurn();
+        m_isInTurn = wasInTurn;
     }
 }
 

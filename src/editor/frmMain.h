@@ -53,8 +53,11 @@ public:
     std::unique_ptr<ShipClass> g_Ship;        ///< the current ship; a load replaces the object
     std::unique_ptr<frmAmountSlider> frmSld;  ///< the amount dialog that was opened last
 
-    /// Replaces the ship by the one in a file. False if it does not load; the ship is a new one
-    /// all the same, and its `fileFault` says why.
+    /// Runs a task now or, if an act is under way that AutoMass has interrupted, when it has ended:
+    /// the ship cannot be replaced while it is at work.
+    void whenIdle(std::function<void()> task);
+    /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
+    /// is a new one all the same, and its `fileFault` says why.
     bool loadFile(const std::string& fileName);
 
     // The mass.
@@ -66,7 +69,6 @@ public:
                     {.name = "txtMass",
                      .place = {1260, 390, 750, 285},
                      .text = "2",
-                     .toolTip = "Click for the standard hulls",
                      .accessibleName = "Mass",
                      .isLocked = true},
                     [this] { txtMass_Change(); }};
@@ -202,13 +204,13 @@ public:
     TextBox txtDP = figureBox("txtDP", "Damage points", 576, false);
     Label lblDamRows = figureLabel("lblDamRows", "Damage Rows", 960);
     TextBox txtDamRows = figureBox("txtDamRows", "Damage rows", 960, true);
-    Label lblDCP = figureLabel("lblDCP", "Damage Control", 1365);
+    Label lblDCP = figureLabel("lblDCP", "Damage Control", 1365, 120);
     TextBox txtDCP = figureBox("txtDCP", "Damage control parties", 1365, true);
     Label Label5 = figureLabel("Label5", "Fire Controls", 1785);
     TextBox txtFireCon = figureBox("txtFireCon", "Fire controls", 1785, true);
     Label lblClass = figureLabel("lblClass", "Class", 2205);
     TextBox txtClass = figureBox("txtClass", "Class", 2205, true);
-    Label lblRelSize = figureLabel("lblRelSize", "Designation", 2625);
+    Label lblRelSize = figureLabel("lblRelSize", "Designation", 2625, 105, 1155);
     TextBox txtRelSize = figureBox("txtRelSize", "Designation", 2625, true);
     TextBox txtShipName{fraInfo,
                         {.name = "txtShipName",
@@ -301,7 +303,8 @@ protected:
 private:
     class ActScope;
 
-    Label figureLabel(const std::string& name, const std::string& caption, int top);
+    Label figureLabel(const std::string& name, const std::string& caption, int top, int left = 105,
+                      int width = 1260);
     TextBox figureBox(const std::string& name, const std::string& spoken, int top, bool isLocked);
     Button treeButton(const std::string& name, const std::string& root, const std::string& spoken,
                       Place place);
@@ -310,7 +313,6 @@ private:
 
     // The ship and its events.
     void replaceShip();
-    void dropShip();
     void g_Ship_Recalculated() { RefreshScreen(); }
     void g_Ship_CloakAndMerchant();
     void g_Ship_ShipLoaded();
@@ -327,7 +329,9 @@ private:
     void previewRow(std::size_t row);
     void tmrRefreshScreen_Timer();
     /// Runs an act of the user. One that leaves the width of a number is undone and said so.
-    void act(const std::function<void()>& act);
+    void act(const std::function<void()>& change);
+    void runUndoable(const std::function<void()>& change);
+    void giveTurn();
 
     // The tree.
     void addOwnPictures();
@@ -393,11 +397,11 @@ private:
 
     MainWindowServices m_services;
     std::vector<Connection> m_shipEvents;
-    /// Ships that were replaced in the middle of their own work, by a turn of the event loop.
-    std::vector<std::unique_ptr<ShipClass>> m_formerShips;
     Connection m_countChanged;
     std::string sLastStatus;  ///< the status line at the last tick
-    bool m_isActing = false;  ///< inside an act, whose outermost call undoes an overflow
+    int m_actDepth = 0;       ///< acts that are under way, one inside the other
+    bool m_isInTurn = false;  ///< the innermost of them has given the event loop its turn
+    std::vector<std::function<void()>> m_whenIdle;
 };
 
 }  // namespace fleetwright

@@ -24,7 +24,7 @@ void frmMain::stepMass(std::int32_t step) {
 }
 
 void frmMain::raiseMassToSmallest() {
-    if (wholeNumber(txtMass.text()) < smallestMass) {
+    if (g_Ship && wholeNumber(txtMass.text()) < smallestMass) {
         txtMass.setText(std::to_string(smallestMass));
     }
 }

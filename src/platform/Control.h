@@ -41,7 +41,7 @@ struct ControlDesign {
 };
 
 /// Mouse buttons as events number them.
-enum MouseButton : int { LeftButton = 1, RightButton = 2 };
+enum MouseButton : int { LeftButton = 1, RightButton = 2, MiddleButton = 4 };
 
 /// A press of a mouse button on a control.
 struct MousePress {

@@ -21,8 +21,13 @@ void Form::show() {
 }
 
 bool Form::unload() {
+    if (!m_isLoaded || m_isUnloading) {
+        return true;
+    }
     bool cancel = false;
+    m_isUnloading = true;
     Form_Unload(cancel);
+    m_isUnloading = false;
     if (cancel) {
         return false;
     }

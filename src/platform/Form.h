@@ -30,7 +30,8 @@ public:
     /// Loads the form and shows it.
     void show();
     void hide() { setVisible(false); }
-    /// Runs Form_Unload and closes the window; false if the form refuses.
+    /// Runs Form_Unload and closes the window; false if the form refuses. A form that is not
+    /// loaded, or that is going already, stays as it is.
     bool unload();
     void minimize();
     void moveTo(int left, int top);
@@ -45,6 +46,7 @@ protected:
 
 private:
     bool m_isLoaded = false;
+    bool m_isUnloading = false;
     bool m_isMinimized = false;
     int m_left = 0;
     int m_top = 0;

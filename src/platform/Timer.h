@@ -14,10 +14,13 @@ public:
 
     int interval() const { return m_interval; }
 
-    /// The interval has passed.
+    /// The interval has passed. A tick that comes while the last one is still being dealt with,
+    /// because that has opened a message box, is left out.
     void tick() {
-        if (isEnabled()) {
+        if (isEnabled() && !m_isTicking) {
+            m_isTicking = true;
             raise(onTick);
+            m_isTicking = false;
         }
     }
 
@@ -25,6 +28,7 @@ public:
 
 private:
     int m_interval;
+    bool m_isTicking = false;
 };
 
 }  // namespace fleetwright

@@ -141,14 +141,15 @@ TEST(FrmMainDesign, AfterALoadTheMarkStaysAndTheShipsFlagIsOff) {
     EXPECT_TRUE(test.ship().g_bAutoMass);
 }
 
-TEST(FrmMainDesign, TheShipMayBeReplacedWhileAutoMassWorks) {
+TEST(FrmMainDesign, ReplacingAndClosingWaitForAutoMass) {
     TestWindow test;
     frmMain& window = test.window();
     window.show();
     window.updwnMass_5.pressUp();
-    const std::string file = test.folder().write("a.shp", "Ship Name: Other\nMass: 30\n");
-    test.inTurn = [&] { window.loadFile(file); };
     window.mnuAutoMass.choose();
+    const std::string file = test.folder().write("a.shp", "Ship Name: Other\nMass: 30\n");
+    test.inTurn = [&] { window.whenIdle([&] { window.loadFile(file); }); };
+    window.optStarBase.choose();
     EXPECT_EQ(test.ship().g_sShipName, "Other");
     window.tmrRefreshScreen.tick();
     EXPECT_EQ(window.txtMass.text() + ' ' + design(test.ship()), "30 1 30 2 1 0 0");
@@ -156,10 +157,33 @@ TEST(FrmMainDesign, TheShipMayBeReplacedWhileAutoMassWorks) {
     TestWindow closing;
     closing.globals.g_bConfirmExit = false;
     closing.window().show();
-    closing.window().updwnMass_5.pressUp();
-    closing.inTurn = [&] { closing.window().unload(); };
     closing.window().mnuAutoMass.choose();
+    closing.inTurn = [&] { EXPECT_FALSE(closing.window().unload()); };
+    closing.window().optStarBase.choose();
     EXPECT_EQ(closing.window().g_Ship, nullptr);
+    EXPECT_TRUE(closing.takeLog().ends_with("free library; unload all; "));
+    // What still comes in from the closing window does nothing.
+    closing.window().txtMass.loseFocus();
+    EXPECT_TRUE(closing.window().unload());
+}
+
+TEST(FrmMainDesign, AnActInATurnOfAutoMassIsUndoneByItself) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    ASSERT_TRUE(
+        window.loadFile(test.folder().write("big.shp", "Mass: 100000000\nThrust: 0\nFTL: None\n")));
+    window.tmrRefreshScreen.tick();
+    test.selectNode("Giant");
+    std::string status;
+    test.inTurn = [&] {
+        window.tvWeapons.doubleClick();
+        status = window.sbStatus.text();
+    };
+    window.mnuAutoMass.choose();
+    EXPECT_EQ(status, "Number too large");
+    EXPECT_EQ(test.list(), "");
+    EXPECT_EQ(design(test.ship()), "1 0 0 0 0 0");
 }
 
 TEST(FrmMainDesign, AnActThatOverflowsIsUndoneAsAWhole) {

@@ -20,12 +20,6 @@ namespace {
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
-class NoProgress : public StartUpProgress {
-public:
-    void setText(const std::string&) override {}
-    void repaint() override {}
-};
-
 /// A desktop that takes a picture of each dialog and cancels it.
 class PictureDesktop : public QtDesktop {
 public:

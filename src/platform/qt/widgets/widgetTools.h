@@ -84,7 +84,7 @@ private:
 inline MousePress toPress(const QMouseEvent& event, const Scale& scale) {
     return {.button = event.button() == Qt::RightButton  ? int(RightButton)
                       : event.button() == Qt::LeftButton ? int(LeftButton)
-                                                         : 4,
+                                                         : int(MiddleButton),
             .shift = (event.modifiers().testFlag(Qt::ShiftModifier) ? 1 : 0) |
                      (event.modifiers().testFlag(Qt::ControlModifier) ? 2 : 0) |
                      (event.modifiers().testFlag(Qt::AltModifier) ? 4 : 0),
