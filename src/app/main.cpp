@@ -4,6 +4,7 @@
 #include "CatalogueCheck.h"
 #include "Error.h"
 #include "Globals.h"
+#include "PictureCheck.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
 #include "StartUpProgress.h"
@@ -15,6 +16,8 @@
 #include <QIcon>
 #include <QLibrary>
 
+#include <exception>
+
 namespace {
 
 using namespace fleetwright;
@@ -25,7 +28,13 @@ std::string catalogueFaults(const std::filesystem::path& file) {
     constexpr std::size_t most = 10;
     std::vector<Fault> faults;
     try {
-        faults = checkCatalogue(readTextFile(file));
+        const std::string catalogue = readTextFile(file);
+        faults = checkCatalogue(catalogue, CatalogueCheck::Start);
+        PictureCheck pictures(file.parent_path() / "images");
+        for (Fault& fault : pictures.checkCatalogue(catalogue)) {
+            faults.push_back(std::move(fault));
+        }
+        sortByLine(faults);
     } catch (const FileError&) {
         return {};
     }
@@ -88,6 +97,9 @@ int main(int argc, char** argv) {
     } catch (const FileError& error) {
         desktop.showMessage(error.file().string() + ": " + error.what(), "", Buttons::Ok,
                             Icon::Critical);
+        return 1;
+    } catch (const std::exception& error) {
+        desktop.showMessage(error.what(), "", Buttons::Ok, Icon::Critical);
         return 1;
     }
 }

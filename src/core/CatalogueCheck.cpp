@@ -21,6 +21,8 @@ std::string quote(std::string_view text) {
 /// Goes through a catalogue from top to bottom, as the readers do, and keeps what it has seen.
 class CatalogueChecker {
 public:
+    explicit CatalogueChecker(CatalogueCheck purpose) : m_purpose(purpose) {}
+
     std::vector<Fault> check(std::string_view text);
 
 private:
@@ -38,8 +40,15 @@ private:
     void addNode(const std::string& key, const std::string& parent, bool isCategory);
     void checkWhole();
     void complain(std::string text) { m_faults.push_back({m_line, std::move(text)}); }
+    /// Of what the program can live with.
+    void remark(std::string text) {
+        if (m_purpose == CatalogueCheck::All) {
+            complain(std::move(text));
+        }
+    }
 
     std::map<std::string, Node, std::less<>> m_nodes;
+    CatalogueCheck m_purpose;
     std::vector<Fault> m_faults;
     int m_line = 0;
 };
@@ -67,8 +76,10 @@ void CatalogueChecker::checkRecord(std::string_view line) {
     constexpr auto neededFields = 7;
     const auto fields = std::count(line.begin(), line.end(), ',') + 1;
     if (fields < neededFields) {
-        complain("too few fields: " + std::to_string(fields) + " of seven");
-        return;
+        remark("too few fields: " + std::to_string(fields) + " of seven");
+        if (m_purpose == CatalogueCheck::All) {
+            return;  // the rest would only follow from this
+        }
     }
     const CatalogueLine record = cutCatalogueLine(line);
     const std::string categoryKey = toCapitals(record.categoryKey);
@@ -82,16 +93,16 @@ void CatalogueChecker::checkRecord(std::string_view line) {
         addNode(std::string(record.name), categoryKey, false);
     }
     if (record.icon.empty()) {
-        complain("no picture");
+        remark("no picture");
     }
 }
 
 void CatalogueChecker::checkName(std::string_view name) {
     if (name.find(':') != std::string_view::npos) {
-        complain("name " + quote(name) + " holds a colon, at which ship files are cut");
+        remark("name " + quote(name) + " holds a colon, at which ship files are cut");
     }
     if (trimmed(name) != name) {
-        complain("name " + quote(name) + " has blanks at its ends, which ship files lose");
+        remark("name " + quote(name) + " has blanks at its ends, which ship files lose");
     }
 }
 
@@ -105,11 +116,11 @@ void CatalogueChecker::checkFormula(std::string_view which, std::string_view for
 void CatalogueChecker::checkArcs(std::string_view arcs) {
     constexpr std::string_view letters = "FPSBA";
     if (arcs.empty()) {
-        complain("no arc letters");
+        remark("no arc letters");
     } else if (!arcs.starts_with('6') && !arcs.starts_with('O')) {
         const std::size_t other = arcs.find_first_not_of(letters);
         if (other != std::string_view::npos) {
-            complain("unknown arc letter " + quote(arcs.substr(other, 1)));
+            remark("unknown arc letter " + quote(arcs.substr(other, 1)));
         }
     }
 }
@@ -139,6 +150,9 @@ void CatalogueChecker::addNode(const std::string& key, const std::string& parent
 }
 
 void CatalogueChecker::checkWhole() {
+    if (m_purpose == CatalogueCheck::Start) {
+        return;
+    }
     for (const auto& [key, node] : m_nodes) {
         if (!node.hasChild) {
             m_faults.push_back({node.line, "nothing stands under " + quote(key)});
@@ -155,8 +169,8 @@ void CatalogueChecker::checkWhole() {
 
 }  // namespace
 
-std::vector<Fault> checkCatalogue(std::string_view text) {
-    return CatalogueChecker().check(text);
+std::vector<Fault> checkCatalogue(std::string_view text, CatalogueCheck purpose) {
+    return CatalogueChecker(purpose).check(text);
 }
 
 }  // namespace fleetwright

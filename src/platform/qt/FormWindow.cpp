@@ -19,6 +19,7 @@
 #include <QCloseEvent>
 #include <QLayout>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QShortcut>
 #include <QTimer>
 
@@ -80,7 +81,16 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
     }
     if (auto* const button = dynamic_cast<Button*>(&control)) {
         if (button->design().isDefault) {
-            new QShortcut(Qt::Key_Return, this, [button] { button->press(); });
+            const auto press = [this, button] {
+                // Enter belongs to the button that has the keyboard, if one has.
+                if (auto* const focused = qobject_cast<QPushButton*>(focusWidget())) {
+                    focused->click();
+                } else {
+                    button->press();
+                }
+            };
+            new QShortcut(Qt::Key_Return, this, press);
+            new QShortcut(Qt::Key_Enter, this, press);
         }
         if (button->design().isCancel) {
             new QShortcut(Qt::Key_Escape, this, [button] { button->press(); });
@@ -115,23 +125,31 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
 }
 
 void FormWindow::update() {
+    if (const QPoint place(m_form.left(), m_form.top()); place != m_formPlace) {
+        m_formPlace = place;
+        const Scale screenScale;
+        move(screenScale.pixels(place.x()), screenScale.pixels(place.y()));
+    }
     if (m_form.isVisible() && !isVisible()) {
         show();
-        m_form.activate();
     } else if (!m_form.isVisible() && isVisible()) {
         hide();
     }
-    if (const QPoint place(m_form.left(), m_form.top()); place != m_formPlace) {
-        m_formPlace = place;
-        move(m_scale.pixels(place.x()), m_scale.pixels(place.y()));
+}
+
+bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && m_form.isVisible()) {
+        m_form.activate();
     }
+    return QMainWindow::event(event);
 }
 
 void FormWindow::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     // The user has moved the window; the form learns it without moving anything itself.
-    m_formPlace = {static_cast<int>(m_scale.twips(pos().x())),
-                   static_cast<int>(m_scale.twips(pos().y()))};
+    const Scale screenScale;
+    m_formPlace = {static_cast<int>(screenScale.twips(pos().x())),
+                   static_cast<int>(screenScale.twips(pos().y()))};
     m_form.moveTo(m_formPlace.x(), m_formPlace.y());
 }
 

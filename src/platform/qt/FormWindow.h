@@ -18,6 +18,7 @@ public:
     explicit FormWindow(Form& form, QWidget* owner = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
 

@@ -68,13 +68,19 @@ void QtDesktop::showModal(Form& form, Form& owner) {
             loop.quit();
         }
     });
+    m_dialogs.push_back(&form);
     form.show();
     loop.exec();
+    std::erase(m_dialogs, &form);
 }
 
 void QtDesktop::unloadAllForms() {
+    std::vector<Form*> forms = m_dialogs;
     for (const auto& [form, window] : m_windows) {
-        window->hide();
+        forms.push_back(form);
+    }
+    for (Form* const form : forms) {
+        form->unload();  // the one that is going already is left alone
     }
     QApplication::quit();
 }

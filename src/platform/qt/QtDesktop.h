@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace fleetwright {
 
@@ -30,6 +31,7 @@ public:
 
 private:
     std::map<Form*, std::unique_ptr<FormWindow>> m_windows;
+    std::vector<Form*> m_dialogs;  ///< the modal ones that are open
 };
 
 }  // namespace fleetwright

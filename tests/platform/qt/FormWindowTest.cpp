@@ -19,6 +19,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -73,6 +74,10 @@ public:
                    .accessibleName = "Spoken",
                    .isDefault = true},
                   [this] { log += "button "; }};
+    Button refuse{
+        *this,
+        {.name = "cancel", .place = {3300, 1400, 900, 300}, .caption = "Cancel", .isCancel = true},
+        [this] { log += "cancel "; }};
     UpDown arrows{*this,
                   {.name = "arrows", .place = {4500, 150, 300, 600}},
                   {.upClick = [this] { log += "up "; },
@@ -190,6 +195,63 @@ TEST_F(FormWindowTest, MouseAndKeysReachTheModels) {
     QTest::keyClick(find<QSlider>("slider"), Qt::Key_Right);
     EXPECT_EQ(takeLog(), "slider=1 ");
     EXPECT_TRUE(form.second.isOn());
+}
+
+TEST_F(FormWindowTest, GroupsOfOptionsAreOneStopWithArrowsInside) {
+    auto* const first = find<QAbstractButton>("first");
+    auto* const second = find<QAbstractButton>("second");
+    EXPECT_EQ(first->focusPolicy(), Qt::StrongFocus);
+    EXPECT_EQ(second->focusPolicy(), Qt::ClickFocus);
+    QTest::keyClick(first, Qt::Key_Down);
+    EXPECT_EQ(takeLog(), "second ");
+    QTest::keyClick(second, Qt::Key_Right);
+    QTest::keyClick(first, Qt::Key_Left);
+    EXPECT_EQ(takeLog(), "first second ");
+    EXPECT_EQ(second->focusPolicy(), Qt::StrongFocus);
+    form.first.setEnabled(false);
+    QTest::keyClick(second, Qt::Key_Down);
+    EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(FormWindowTest, EnterAndEscapeAnswerDialogs) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    find<QTreeWidget>("list")->setFocus();
+    QTest::keyClick(find<QSlider>("slider"), Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "button ");
+    find<QAbstractButton>("cancel")->setFocus();
+    QTest::keyClick(find<QAbstractButton>("cancel"), Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "cancel ");
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_EQ(takeLog(), "cancel ");
+}
+
+TEST_F(FormWindowTest, OnlyMovingTheFocusInsideTheWindowLosesIt) {
+    int lost = 0;
+    form.text.onLostFocus = [&] { ++lost; };
+    auto* const text = find<QLineEdit>("text");
+    QFocusEvent toAnotherProgram(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QFocusEvent toAMenu(QEvent::FocusOut, Qt::MenuBarFocusReason);
+    QFocusEvent byTab(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(text, &toAnotherProgram);
+    QApplication::sendEvent(text, &toAMenu);
+    EXPECT_EQ(lost, 0);
+    QApplication::sendEvent(text, &byTab);
+    EXPECT_EQ(lost, 1);
+}
+
+TEST_F(FormWindowTest, ClickingWhatIsSelectedIsAClickAndWidthsAreTheUsers) {
+    int clicks = 0;
+    form.tree.onClick = [&] { ++clicks; };
+    auto* const tree = find<QTreeWidget>("tree");
+    const QPoint root = tree->visualItemRect(tree->topLevelItem(0)).center();
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, root);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, root);
+    EXPECT_EQ(clicks, 2);
+    auto* const list = find<QTreeWidget>("list");
+    list->setColumnWidth(0, 123);
+    form.list.add("a", "a", "1");
+    EXPECT_EQ(list->columnWidth(0), 123);
 }
 
 TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {

@@ -7,7 +7,9 @@
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
+#include <QButtonGroup>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -51,6 +53,43 @@ void setFace(QAbstractButton* widget, const ControlDesign& design) {
     }
 }
 
+/// The group of the option buttons that stand in one frame.
+QButtonGroup* groupIn(QWidget* parent) {
+    auto* const group = parent->findChild<QButtonGroup*>(QString(), Qt::FindDirectChildrenOnly);
+    return group != nullptr ? group : new QButtonGroup(parent);
+}
+
+/// Chooses the next button of a group that can be chosen, or the one before it.
+void chooseBeside(QAbstractButton* button, int step) {
+    const QList<QAbstractButton*> buttons = button->group()->buttons();
+    const auto count = static_cast<int>(buttons.size());
+    for (int i = 1; i < count; ++i) {
+        const auto place = static_cast<int>(buttons.indexOf(button)) + step * i;
+        QAbstractButton* const next = buttons[((place % count) + count) % count];
+        if (next->isEnabled()) {
+            next->setFocus(Qt::TabFocusReason);
+            next->click();
+            return;
+        }
+    }
+}
+
+/// Handles the arrow keys inside a group.
+bool stepByKey(QAbstractButton* button, const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        chooseBeside(button, -1);
+        return true;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        chooseBeside(button, +1);
+        return true;
+    default:
+        return false;
+    }
+}
+
 }  // namespace
 
 QWidget* makeWidget(Frame& frame, QWidget* parent, const Scale& scale) {
@@ -78,19 +117,24 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
     if (button.design().isGraphical) {
         auto* const graphical = new QToolButton(parent);
         graphical->setCheckable(true);
-        graphical->setAutoExclusive(true);
-        graphical->setFocusPolicy(Qt::StrongFocus);
         widget = graphical;
     } else {
         widget = new QRadioButton(parent);
     }
     prepare(widget, button, scale);
     setFace(widget, button.design());
-    const auto showState = [widget, &button] {
+    QButtonGroup* const group = groupIn(parent);
+    group->addButton(widget);
+    const auto showState = [widget, group, &button] {
         // A group can stand without any choice, which Qt's own exclusion does not allow.
-        widget->setAutoExclusive(false);
+        group->setExclusive(false);
         widget->setChecked(button.isOn());
-        widget->setAutoExclusive(true);
+        group->setExclusive(true);
+        // The keyboard comes to a group at its choice.
+        for (QAbstractButton* const each : group->buttons()) {
+            const bool isStop = group->checkedButton() == nullptr || each->isChecked();
+            each->setFocusPolicy(isStop ? Qt::StrongFocus : Qt::ClickFocus);
+        }
         // Which button is down must be seen at once, in dark themes too.
         QPalette palette = widget->parentWidget()->palette();
         if (button.design().isGraphical && button.isOn()) {
@@ -104,6 +148,13 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
     QObject::connect(widget, &QAbstractButton::clicked, [&button, showState] {
         button.choose();
         showState();
+    });
+    new EventHook(widget, [widget, showState](QEvent* event) {
+        if (event->type() == QEvent::ApplicationPaletteChange) {
+            showState();
+        }
+        return event->type() == QEvent::KeyPress &&
+               stepByKey(widget, *static_cast<QKeyEvent*>(event));
     });
     return widget;
 }

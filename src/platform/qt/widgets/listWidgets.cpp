@@ -5,6 +5,7 @@
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -28,22 +29,20 @@ public:
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
-                m_list.click();
+                if (QApplication::mouseButtons() == Qt::NoButton) {
+                    m_list.click();
+                }
             }
         });
+        connect(this, &QTreeWidget::itemClicked, [this] { m_list.click(); });
         connect(this, &QTreeWidget::itemDoubleClicked, [this] { m_list.doubleClick(); });
     }
 
     /// Brings the items to what the rows are.
     void update() {
         const QSignalBlocker blocker(this);
-        QStringList titles;
-        for (const ListView::Column& column : m_list.columns()) {
-            titles << toQt(column.title);
-        }
-        setHeaderLabels(titles);
-        for (std::size_t i = 0; i < m_list.columns().size(); ++i) {
-            setColumnWidth(static_cast<int>(i), m_scale.pixels(m_list.columns()[i].width));
+        if (m_shownColumns != m_list.columns().size()) {
+            showColumns();
         }
         const auto& rows = m_list.rows();
         while (topLevelItemCount() > std::ssize(rows)) {
@@ -98,8 +97,22 @@ protected:
     }
 
 private:
+    /// Sets the headers up; from then on the widths are the user's.
+    void showColumns() {
+        m_shownColumns = m_list.columns().size();
+        QStringList titles;
+        for (const ListView::Column& column : m_list.columns()) {
+            titles << toQt(column.title);
+        }
+        setHeaderLabels(titles);
+        for (std::size_t i = 0; i < m_shownColumns; ++i) {
+            setColumnWidth(static_cast<int>(i), m_scale.pixels(m_list.columns()[i].width));
+        }
+    }
+
     ListView& m_list;
     Scale m_scale;
+    std::size_t m_shownColumns = 0;
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "widgetTools.h"
 
 #include <QContextMenuEvent>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -16,8 +17,13 @@ namespace fleetwright {
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
     auto* const widget = new QLabel(parent);
     prepare(widget, label, scale);
-    keepInStep(widget, label, [widget, &label] { widget->setText(toQt(label.caption())); });
-    fitText(widget, label, scale);
+    const QFont font = widget->font();
+    keepInStep(widget, label, [widget, &label, font, scale] {
+        widget->setFont(font);
+        widget->setGeometry(scale.rect(label.place()));
+        widget->setText(toQt(label.caption()));
+        fitText(widget, label, scale);
+    });
     if (label.design().isFramed) {
         widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         widget->setAlignment(Qt::AlignCenter);
@@ -41,7 +47,7 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
 QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     auto* const widget = new QLineEdit(parent);
     prepare(widget, box, scale);
-    keepInStep(widget, box, [widget, &box] {
+    const auto show = [widget, &box] {
         const QSignalBlocker blocker(widget);
         if (widget->text() != toQt(box.text())) {
             widget->setText(toQt(box.text()));
@@ -53,10 +59,11 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
             palette.setColor(QPalette::Base, palette.color(QPalette::Window));
         }
         widget->setPalette(palette);
-    });
+    };
+    keepInStep(widget, box, show);
     QObject::connect(widget, &QLineEdit::textEdited,
                      [&box](const QString& text) { box.type(text.toStdString()); });
-    new EventHook(widget, [&box, scale](QEvent* event) {
+    new EventHook(widget, [&box, scale, show](QEvent* event) {
         switch (event->type()) {
         case QEvent::MouseButtonPress:
             if (box.onMouseDown) {
@@ -65,16 +72,26 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
             }
             return false;
         case QEvent::ContextMenu:
-            if (box.onMouseDown) {
+            if (box.onMouseDown &&
+                static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
                 box.pressMouse({.button = RightButton});
-                return true;
             }
+            return static_cast<bool>(box.onMouseDown);
+        case QEvent::ApplicationPaletteChange:
+            show();
             return false;
         case QEvent::MouseButtonDblClick:
             box.doubleClick();
             return false;
         case QEvent::FocusOut:
-            box.loseFocus();
+            switch (static_cast<QFocusEvent*>(event)->reason()) {
+            case Qt::ActiveWindowFocusReason:
+            case Qt::PopupFocusReason:
+            case Qt::MenuBarFocusReason:
+                break;  // it comes back by itself
+            default:
+                box.loseFocus();
+            }
             return false;
         default:
             return false;

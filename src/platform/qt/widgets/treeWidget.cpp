@@ -3,6 +3,7 @@
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -34,9 +35,12 @@ public:
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_tree.select(nodeOf(item));
-                m_tree.click();
+                if (QApplication::mouseButtons() == Qt::NoButton) {
+                    m_tree.click();
+                }
             }
         });
+        connect(this, &QTreeWidget::itemClicked, [this] { m_tree.click(); });
         connect(this, &QTreeWidget::itemDoubleClicked, [this] { m_tree.doubleClick(); });
     }
 
