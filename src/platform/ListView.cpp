@@ -53,22 +53,4 @@ void ListView::select(std::size_t row) {
     }
 }
 
-void ListView::click() {
-    if (takesActs()) {
-        raise(onClick);
-    }
-}
-
-void ListView::doubleClick() {
-    if (takesActs()) {
-        raise(onDblClick);
-    }
-}
-
-void ListView::pressMouse(const MousePress& press) {
-    if (takesActs() && onMouseDown) {
-        onMouseDown(press);
-    }
-}
-
 }  // namespace fleetwright

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control.h"
+#include "PointedControl.h"
 
 #include <cstddef>
 #include <optional>
@@ -9,7 +9,7 @@
 namespace fleetwright {
 
 /// Rows under column headers, each with a key, a text and a second column.
-class ListView : public Control {
+class ListView : public PointedControl {
 public:
     struct Row {
         std::string key;
@@ -27,7 +27,8 @@ public:
         std::optional<std::size_t> selected;
     };
 
-    ListView(Container& container, ControlDesign design) : Control(&container, std::move(design)) {}
+    ListView(Container& container, ControlDesign design)
+        : PointedControl(&container, std::move(design)) {}
 
     void addColumn(const std::string& title, int width);
     const std::vector<Column>& columns() const { return m_columns; }
@@ -49,13 +50,7 @@ public:
 
     /// The user has selected this row.
     void select(std::size_t row);
-    void click();
-    void doubleClick();
-    void pressMouse(const MousePress& press);
 
-    Handler onClick;
-    Handler onDblClick;
-    std::function<void(const MousePress&)> onMouseDown;
     /// What is to be said of a row that the pointer rests on. May be empty.
     std::function<std::string(const Row&)> rowToolTip;
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Control.h"
+#include "PointedControl.h"
 
 namespace fleetwright {
 
 /// A text of one line. Its change event is raised whenever the text changes, whoever changed it.
-class TextBox : public Control {
+class TextBox : public PointedControl {
 public:
     TextBox(Container& container, ControlDesign design, Handler change = {})
-        : Control(&container, std::move(design)), onChange(std::move(change)) {}
+        : PointedControl(&container, std::move(design)), onChange(std::move(change)) {}
 
     const std::string& text() const { return design().text; }
 
@@ -36,25 +36,11 @@ public:
         }
     }
 
-    void pressMouse(const MousePress& press) {
-        if (takesActs() && onMouseDown) {
-            onMouseDown(press);
-        }
-    }
-
-    void doubleClick() {
-        if (takesActs()) {
-            raise(onDblClick);
-        }
-    }
-
     /// The keyboard's focus has gone elsewhere.
     void loseFocus() { raise(onLostFocus); }
 
     Handler onChange;
-    Handler onDblClick;
     Handler onLostFocus;
-    std::function<void(const MousePress&)> onMouseDown;
 };
 
 }  // namespace fleetwright

@@ -43,22 +43,4 @@ void TreeView::select(const Node& node) {
     }
 }
 
-void TreeView::click() {
-    if (takesActs()) {
-        raise(onClick);
-    }
-}
-
-void TreeView::doubleClick() {
-    if (takesActs()) {
-        raise(onDblClick);
-    }
-}
-
-void TreeView::pressMouse(const MousePress& press) {
-    if (takesActs() && onMouseDown) {
-        onMouseDown(press);
-    }
-}
-
 }  // namespace fleetwright

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control.h"
+#include "PointedControl.h"
 
 #include <deque>
 #include <map>
@@ -11,7 +11,7 @@ namespace fleetwright {
 class ImageList;
 
 /// Nodes under nodes, each with a key that is also its text and the key of its picture.
-class TreeView : public Control {
+class TreeView : public PointedControl {
 public:
     struct Node {
         std::string key;
@@ -22,7 +22,7 @@ public:
 
     /// `images` holds a picture for each node under the node's key.
     TreeView(Container& container, ControlDesign design, const ImageList* images = nullptr)
-        : Control(&container, std::move(design)), m_images(images) {}
+        : PointedControl(&container, std::move(design)), m_images(images) {}
 
     const ImageList* images() const { return m_images; }
 
@@ -42,13 +42,7 @@ public:
 
     /// The user has selected this node.
     void select(const Node& node);
-    void click();
-    void doubleClick();
-    void pressMouse(const MousePress& press);
 
-    Handler onClick;
-    Handler onDblClick;
-    std::function<void(const MousePress&)> onMouseDown;
     /// What is to be said of a node that the pointer rests on. May be empty.
     std::function<std::string(const Node&)> nodeToolTip;
 

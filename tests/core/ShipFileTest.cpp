@@ -11,13 +11,6 @@ std::string fault(const ShipClass& ship) {
                             : "none";
 }
 
-std::int32_t amountOf(const ShipClass& ship, std::string_view name) {
-    WeapRec record;
-    std::int32_t index = ship.weapNameToIndex(name);
-    ship.listWeap(index, record);
-    return record.amount;
-}
-
 }  // namespace
 
 TEST(ShipFile, IsWrittenLineByLine) {

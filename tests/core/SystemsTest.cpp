@@ -8,13 +8,6 @@ using namespace fleetwright;
 
 namespace {
 
-std::int32_t amountOf(const ShipClass& ship, std::string_view name) {
-    WeapRec record;
-    std::int32_t index = ship.weapNameToIndex(name);
-    ship.listWeap(index, record);
-    return record.amount;
-}
-
 std::string g_evaluated;
 
 /// Says what it was asked, and answers 1.

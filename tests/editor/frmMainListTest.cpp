@@ -4,17 +4,6 @@
 
 using namespace fleetwright;
 
-namespace {
-
-std::int32_t aboard(const ShipClass& ship, std::string_view name) {
-    WeapRec record;
-    std::int32_t index = ship.weapNameToIndex(name);
-    ship.listWeap(index, record);
-    return record.amount;
-}
-
-}  // namespace
-
 TEST(FrmMainList, GrowsThroughTheTree) {
     TestWindow test;
     frmMain& window = test.window();
@@ -35,7 +24,7 @@ TEST(FrmMainList, GrowsThroughTheTree) {
     window.mnuAddWeap[9].choose();
     window.mnuAddWeapEx[2].choose();
     EXPECT_EQ(test.list(), "Gun 112");
-    EXPECT_EQ(aboard(test.ship(), "Gun"), 112);
+    EXPECT_EQ(amountOf(test.ship(), "Gun"), 112);
     EXPECT_EQ(window.mnuAddWeap[0].caption() + window.mnuAddWeapEx[0].caption(), "X1X20");
 }
 
@@ -54,7 +43,7 @@ TEST(FrmMainList, ShrinksByDoubleClick) {
     EXPECT_EQ(test.list(), "Gun 1*, Ballast 1");
     window.lvCurrentWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Ballast 1");
-    EXPECT_EQ(aboard(test.ship(), "Gun"), 0);
+    EXPECT_EQ(amountOf(test.ship(), "Gun"), 0);
     window.lvCurrentWeapons.select(0);
     window.lvCurrentWeapons.doubleClick();
     EXPECT_EQ(test.list(), "");
@@ -100,11 +89,11 @@ TEST(FrmMainList, AmountDialogTakesAnyNumberAway) {
     EXPECT_TRUE(test.ship().g_bSaved);
     open(3, true);
     EXPECT_EQ(test.list(), "Gun 3*");
-    EXPECT_EQ(aboard(test.ship(), "Gun"), 3);
+    EXPECT_EQ(amountOf(test.ship(), "Gun"), 3);
     EXPECT_FALSE(test.ship().g_bSaved);
     open(0, true);
     EXPECT_EQ(test.list(), "");
-    EXPECT_EQ(aboard(test.ship(), "Gun"), 0);
+    EXPECT_EQ(amountOf(test.ship(), "Gun"), 0);
     EXPECT_EQ(window.frmSld->sliCount.tickFrequency(), 1);
 }
 
@@ -121,7 +110,7 @@ TEST(FrmMainList, RefusalsLeaveListAndShipInStep) {
         EXPECT_EQ(window.sbStatus.text(),
                   "Cannot have cloak and other weapons on a merchant hull...");
         EXPECT_EQ(test.list().substr(0, 16), "Cloaking Field 1");
-        EXPECT_EQ(aboard(test.ship(), "Cloaking Field"), 1);
+        EXPECT_EQ(amountOf(test.ship(), "Cloaking Field"), 1);
     };
     refuses([&] { window.tvWeapons.doubleClick(); });
     test.selectNode("Gun");

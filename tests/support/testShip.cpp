@@ -58,6 +58,13 @@ std::string EventLog::take() {
     return text;
 }
 
+std::int32_t amountOf(const ShipClass& ship, std::string_view name) {
+    WeapRec record;
+    std::int32_t index = ship.weapNameToIndex(name);
+    ship.listWeap(index, record);
+    return record.amount;
+}
+
 std::string figures(const ShipClass& ship) {
     return std::to_string(ship.g_lCost) + ' ' + std::to_string(ship.g_iDP) + ' ' +
            std::to_string(ship.g_iDamRows) + ' ' + std::to_string(ship.g_iDCP) + ' ' +

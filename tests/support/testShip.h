@@ -43,6 +43,9 @@ private:
     std::vector<Connection> m_connections;
 };
 
+/// How many pieces of a system that the catalogue has are aboard.
+std::int32_t amountOf(const ShipClass& ship, std::string_view name);
+
 /// "cost dp rows dcp fcs massLeft", to compare all figures at once.
 std::string figures(const ShipClass& ship);
 
