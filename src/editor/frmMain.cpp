@@ -7,6 +7,7 @@
 #include "explainShip.h"
 #include "wholeNumber.h"
 
+#include <cassert>
 #include <stdexcept>
 #include <utility>
 
@@ -126,6 +127,7 @@ void frmMain::Form_Unload(bool& cancel) {
 }
 
 void frmMain::replaceShip() {
+    assert(!g_Ship || !g_Ship->isBusy());  // whoever comes in between waits with whenIdle
     m_shipEvents.clear();
     g_Ship = std::make_unique<ShipClass>(
         ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
