@@ -15,9 +15,12 @@ public:
     Answer showMessage(const std::string&, const std::string&, Buttons, Icon) override {
         return Answer::Ok;
     }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
+    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
     void popUp(MenuEntry&) override {}
     void showModal(Form&, Form&) override {}
     void unloadAllForms() override {}
+    ScreenSize screenSize() override { return {}; }
 };
 
 class NoPictures : public PictureFiles {

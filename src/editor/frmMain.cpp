@@ -33,7 +33,11 @@ private:
 };
 
 frmMain::frmMain(MainWindowServices services)
-    : Form({.name = "frmMain", .caption = "Fleet Wright", .width = 10830, .height = 8115}),
+    : Form({.name = "frmMain",
+            .caption = "Fleet Wright",
+            .width = 10830,
+            .height = 8115,
+            .border = Border::FixedMin}),
       m_services(std::move(services)) {
     txtMass.onLostFocus = [this] { raiseMassToSmallest(); };
     tvWeapons.onClick = [this] { tvWeapons_Click(); };
@@ -123,7 +127,7 @@ void frmMain::Form_Unload(bool& cancel) {
     g_Ship.reset();
     m_services.freeFormulaLibrary();
     m_services.desktop.unloadAllForms();
-    minimize();
+    setState(WindowState::Minimized);
 }
 
 void frmMain::replaceShip() {

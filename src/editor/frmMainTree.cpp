@@ -45,9 +45,10 @@ MenuEntry frmMain::addEntry(MenuEntry& menu, const std::string& name, int amount
 /// The pictures of the roots, and the white one that sheets are covered with.
 void frmMain::addOwnPictures() {
     for (const std::string_view key : catalogueRoots) {
-        ilWeapons.add(std::string(key), m_services.pictures.builtIn("root-" + smallLetters(key)));
+        ilWeapons.add(std::string(key),
+                      m_services.pictures.builtIn("root-" + smallLetters(key) + ".gif"));
     }
-    ilWeapons.add("BLANK", m_services.pictures.builtIn("root-blank"));
+    ilWeapons.add("BLANK", m_services.pictures.builtIn("root-blank.gif"));
 }
 
 void frmMain::LoadWeaponTree() {

@@ -17,6 +17,13 @@ Control::~Control() {
     }
 }
 
+void Control::setPlace(const Place& place) {
+    if (m_design.place != place) {
+        m_design.place = place;
+        Changed.raise();
+    }
+}
+
 void Control::setVisible(bool isVisible) {
     if (m_design.isVisible != isVisible) {
         m_design.isVisible = isVisible;

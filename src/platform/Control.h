@@ -16,6 +16,8 @@ struct Place {
     int top = 0;
     int width = 0;
     int height = 0;
+
+    bool operator==(const Place&) const = default;
 };
 
 /// What a control is at the start: one row of a form's table. Which fields count is up to the kind
@@ -29,13 +31,14 @@ struct ControlDesign {
     std::string toolTip = {};
     std::string shortcut = {};        ///< of a menu entry: "Ctrl+N"
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
-    bool isOn = false;                ///< of an option button
-    bool isGraphical = false;         ///< of an option button: a button that stays down
-    bool isFramed = false;            ///< of a label: with a border, its text in the middle
-    bool isFlat = false;              ///< of a text box: on the colour of its window, as a label
-    bool isLocked = false;            ///< of a text box: shows, but takes no typing
-    bool isDefault = false;           ///< of a button: answers the Enter key
-    bool isCancel = false;            ///< of a button: answers the Escape key
+    bool isOn = false;                ///< of an option button or check box
+    bool isGraphical = false;  ///< of an option button or check box: a button that stays down
+    bool isFramed = false;     ///< of a label or picture box: with a border
+    bool isFlat = false;       ///< of a text box: on the colour of its window, as a label
+    bool isLocked = false;     ///< of a text box: shows, but takes no typing
+    bool isMultiline = false;  ///< of a text box: with as many lines as it holds
+    bool isDefault = false;    ///< of a button: answers the Enter key
+    bool isCancel = false;     ///< of a button: answers the Escape key
     bool isVisible = true;
     bool isEnabled = true;
 };
@@ -64,6 +67,7 @@ public:
     const ControlDesign& design() const { return m_design; }
     const std::string& name() const { return m_design.name; }
     const Place& place() const { return m_design.place; }
+    void setPlace(const Place& place);
     Container* container() const { return m_container; }
 
     bool isVisible() const { return m_design.isVisible; }
@@ -78,6 +82,10 @@ public:
 
     /// What the control shows has changed. For whoever draws it; rules do not listen to this.
     Signal<> Changed;
+
+    /// Asks for the keyboard's focus. For whoever draws it.
+    Signal<> FocusWanted;
+    void setFocus() { FocusWanted.raise(); }
 
 protected:
     ControlDesign& changeableDesign() { return m_design; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 
 namespace fleetwright {
@@ -11,6 +13,17 @@ enum class Buttons { Ok, YesNo };
 enum class Icon { None, Information, Critical };
 enum class Answer { Ok, Yes, No };
 
+/// A dialog in which the user chooses a file.
+struct FileDialog {
+    /// Labels and patterns in turn, parted by "|": "All Files (*.*)|*.*|Ship Files(*.shp)|*.shp". A
+    /// label without a pattern takes all files.
+    std::string filter;
+    int filterIndex = 1;  ///< the pair that is chosen at first, counted from 1
+    std::filesystem::path initialFolder;
+    /// What the rules add to a name that lacks it. The desktop asks before that file is replaced.
+    std::string extension = {};
+};
+
 /// What the rules ask of the desktop around their windows.
 class Desktop {
 public:
@@ -19,12 +32,22 @@ public:
     /// Shows a message box and waits for the answer. An empty title is the program's own.
     virtual Answer showMessage(const std::string& text, const std::string& title = {},
                                Buttons buttons = Buttons::Ok, Icon icon = Icon::None) = 0;
+    /// The file chosen, or nothing when the dialog was cancelled.
+    virtual std::optional<std::string> chooseFileToOpen(const FileDialog& dialog) = 0;
+    virtual std::optional<std::string> chooseFileToSave(const FileDialog& dialog) = 0;
     /// Shows a menu at the pointer and waits until an entry was chosen or none.
     virtual void popUp(MenuEntry& menu) = 0;
     /// Shows a form above its owner and waits until it is unloaded.
     virtual void showModal(Form& form, Form& owner) = 0;
     /// Unloads every form of the program that is loaded.
     virtual void unloadAllForms() = 0;
+
+    struct ScreenSize {
+        int width;
+        int height;
+    };
+    /// What the screen has room for, in device-independent pixels.
+    virtual ScreenSize screenSize() = 0;
 };
 
 /// Thrown by a step of the start that has failed and has said so: the program ends.

@@ -1,12 +1,22 @@
 #include "Form.h"
 
+#include <utility>
+
 namespace fleetwright {
 
 Form::Form(const FormDesign& design)
     : Container(nullptr, {.name = design.name,
                           .place = {0, 0, design.width, design.height},
                           .caption = design.caption,
-                          .isVisible = false}) {}
+                          .isVisible = false}),
+      m_border(design.border) {}
+
+void Form::setCaption(const std::string& caption) {
+    if (caption != design().caption) {
+        changeableDesign().caption = caption;
+        Changed.raise();
+    }
+}
 
 void Form::load() {
     if (!m_isLoaded) {
@@ -18,6 +28,7 @@ void Form::load() {
 void Form::show() {
     load();
     setVisible(true);
+    Raised.raise();
 }
 
 bool Form::unload() {
@@ -26,7 +37,12 @@ bool Form::unload() {
     }
     bool cancel = false;
     m_isUnloading = true;
-    Form_Unload(cancel);
+    try {
+        Form_Unload(cancel);
+    } catch (...) {
+        m_isUnloading = false;
+        throw;
+    }
     m_isUnloading = false;
     if (cancel) {
         return false;
@@ -36,10 +52,20 @@ bool Form::unload() {
     return true;
 }
 
-void Form::minimize() {
-    if (!m_isMinimized) {
-        m_isMinimized = true;
+void Form::setState(WindowState state) {
+    if (state != m_state) {
+        m_state = state;
         Changed.raise();
+        Form_Resize();
+    }
+}
+
+void Form::resize(int width, int height) {
+    const Place inside{place().left, place().top, width - outside().width,
+                       height - outside().height};
+    if (inside != place()) {
+        setPlace(inside);
+        Form_Resize();
     }
 }
 
@@ -49,6 +75,18 @@ void Form::moveTo(int left, int top) {
         m_top = top;
         Changed.raise();
     }
+}
+
+void Form::setTopmost(bool isTopmost) {
+    if (isTopmost != m_isTopmost) {
+        m_isTopmost = isTopmost;
+        Changed.raise();
+    }
+}
+
+void Form::setPicture(Raster picture) {
+    m_picture = std::move(picture);
+    Changed.raise();
 }
 
 }  // namespace fleetwright

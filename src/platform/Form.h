@@ -1,8 +1,19 @@
 #pragma once
 
 #include "Control.h"
+#include "Raster.h"
 
 namespace fleetwright {
+
+/// What stands around a window.
+enum class Border {
+    Fixed,     ///< a title, a close button
+    FixedMin,  ///< and a button that minimizes
+    Sizable,   ///< and buttons that minimize and maximize; the user can draw the edges
+    None,      ///< nothing: the window is its inside
+};
+
+enum class WindowState { Normal, Minimized, Maximized };
 
 /// What a window is at the start.
 struct FormDesign {
@@ -10,6 +21,7 @@ struct FormDesign {
     std::string caption = {};
     int width = 0;   ///< of the inside, in twips
     int height = 0;  ///< of the inside, in twips
+    Border border = Border::Fixed;
 };
 
 /// A window: its controls as members, its handlers as functions. It is loaded by its first show, or
@@ -18,36 +30,77 @@ class Form : public Container {
 public:
     explicit Form(const FormDesign& design);
 
+    /// What border and title take of a window's measures, in twips.
+    static constexpr int frameWidth = 120;
+    static constexpr int frameHeight = 405;
+
     const std::string& caption() const { return design().caption; }
+    void setCaption(const std::string& caption);
+    Border border() const { return m_border; }
     bool isLoaded() const { return m_isLoaded; }
-    bool isMinimized() const { return m_isMinimized; }
+    WindowState state() const { return m_state; }
+    bool isTopmost() const { return m_isTopmost; }
+    /// The picture behind the controls; empty at first.
+    const Raster& picture() const { return m_picture; }
     /// Place of the window's left and upper edge on the screen, in twips.
     int left() const { return m_left; }
     int top() const { return m_top; }
+    /// Measures of the window with its border, in twips; the place's are those of the inside.
+    int width() const { return place().width + outside().width; }
+    int height() const { return place().height + outside().height; }
 
     /// Runs Form_Load, unless the form is loaded.
     void load();
-    /// Loads the form and shows it.
+    /// Loads the form and shows it. A form that is shown already comes to the front.
     void show();
     void hide() { setVisible(false); }
     /// Runs Form_Unload and closes the window; false if the form refuses. A form that is not
     /// loaded, or that is going already, stays as it is.
     bool unload();
-    void minimize();
+    /// Minimizes the window, or takes it back; the user's doing ends here too.
+    void setState(WindowState state);
+    /// Gives the window, with its border, these measures in twips; the user's doing ends here too.
+    void resize(int width, int height);
     void moveTo(int left, int top);
+    void setTopmost(bool isTopmost);
+    void setPicture(Raster picture);
+    /// Paints the window at once, without a turn of the event loop for anything else.
+    void repaint() { RepaintWanted.raise(); }
     /// The window has become the active one.
     void activate() { Form_Activate(); }
+    /// The window has come to the screen.
+    void paint() { Form_Paint(); }
+    /// A key was pressed that no control has taken.
+    void pressKey() { Form_KeyPress(); }
+
+    /// For whoever draws it.
+    Signal<> RepaintWanted;
+    Signal<> Raised;
 
 protected:
     virtual void Form_Load() {}
     /// Setting `cancel` keeps the window.
     virtual void Form_Unload(bool& cancel) { static_cast<void>(cancel); }
     virtual void Form_Activate() {}
+    virtual void Form_Resize() {}
+    virtual void Form_Paint() {}
+    virtual void Form_KeyPress() {}
 
 private:
+    struct Outside {
+        int width;
+        int height;
+    };
+    Outside outside() const {
+        return m_border == Border::None ? Outside{0, 0} : Outside{frameWidth, frameHeight};
+    }
+
+    Border m_border;
     bool m_isLoaded = false;
     bool m_isUnloading = false;
-    bool m_isMinimized = false;
+    bool m_isTopmost = false;
+    WindowState m_state = WindowState::Normal;
+    Raster m_picture;
     int m_left = 0;
     int m_top = 0;
 };

@@ -14,7 +14,7 @@ public:
 
     /// The picture in a GIF, BMP, JPEG or PNG file. Throws FileError.
     virtual Raster load(const std::filesystem::path& file) = 0;
-    /// One of the pictures that the program carries in itself, by its name without an extension.
+    /// One of the pictures that the program carries in itself, by its file name. Throws FileError.
     virtual Raster builtIn(const std::string& name) = 0;
 };
 

@@ -171,7 +171,7 @@ TEST(FrmMain, ClosingAsksOnlyForAnUnsavedShipAndWhenItShould) {
                                            : "") +
                               (closes ? "free library; unload all; " : ""));
                 EXPECT_EQ(test.window().g_Ship == nullptr, closes);
-                EXPECT_EQ(test.window().isMinimized(), closes);
+                EXPECT_EQ(test.window().state() == WindowState::Minimized, closes);
             }
         }
     }

@@ -35,7 +35,10 @@ public:
             m_test.inDialog(form);
         }
     }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
+    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
     void unloadAllForms() override { m_test.m_log += "unload all; "; }
+    ScreenSize screenSize() override { return {1024, 768}; }
 
 private:
     TestWindow& m_test;

@@ -1,12 +1,15 @@
 #include "FormWindow.h"
 
 #include "Button.h"
+#include "CheckBox.h"
 #include "Form.h"
 #include "Frame.h"
 #include "Label.h"
+#include "Line.h"
 #include "ListView.h"
 #include "Menu.h"
 #include "OptionButton.h"
+#include "PictureBox.h"
 #include "Slider.h"
 #include "StatusBar.h"
 #include "TextBox.h"
@@ -16,30 +19,100 @@
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QLayout>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
+#include <QScopedValueRollback>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 
 namespace fleetwright {
 
+namespace {
+
+/// What stands inside a window's border, with the form's picture behind the controls.
+class Inside : public QWidget {
+public:
+    Inside(const Form& form, QWidget* parent) : QWidget(parent), m_form(form) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        const Raster& picture = m_form.picture();
+        if (!picture.isEmpty()) {
+            // Picture and window have grown by the same factor.
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            const double factor = double(width()) / picture.width();
+            painter.drawImage(QRectF(0, 0, width(), picture.height() * factor), toImage(picture));
+        }
+    }
+
+private:
+    const Form& m_form;
+};
+
+/// Makes the widget of a control that is of the given kind.
+template <typename Kind>
+QWidget* makeIf(Control& control, QWidget* parent, const Scale& scale) {
+    auto* const model = dynamic_cast<Kind*>(&control);
+    return model == nullptr ? nullptr : makeWidget(*model, parent, scale);
+}
+
+template <typename... Kinds>
+QWidget* makeFirst(Control& control, QWidget* parent, const Scale& scale) {
+    QWidget* widget = nullptr;
+    static_cast<void>(((widget = makeIf<Kinds>(control, parent, scale), widget != nullptr) || ...));
+    return widget;
+}
+
+}  // namespace
+
 FormWindow::FormWindow(Form& form, QWidget* owner)
-    : QMainWindow(owner), m_form(form), m_scale(form.place().width, form.place().height) {
+    : QMainWindow(owner), m_form(form), m_scale(form.place().width, form.place().height),
+      m_inside(new Inside(form, this)) {
     setObjectName(toQt(form.name()));
-    setWindowTitle(toQt(form.caption()));
+    setFrame(owner);
+    m_inside->setMinimumSize(m_scale.rect(form.place()).size());
+    m_inside->resize(m_inside->minimumSize());
+    addControls(form, m_inside);
+    setCentralWidget(m_inside);
+    if (form.border() == Border::Sizable) {
+        m_inside->setMinimumSize(0, 0);
+    } else {
+        // A fixed border: the window is as large as its inside.
+        m_inside->setFixedSize(m_inside->size());
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
+    update();
+    m_connections.push_back(form.Changed.connect([this] { update(); }));
+    m_connections.push_back(form.Raised.connect([this] { raiseAndActivate(); }));
+    m_connections.push_back(form.RepaintWanted.connect([this] { repaintNow(); }));
+}
+
+void FormWindow::setFrame(QWidget* owner) {
     if (owner != nullptr) {
         setWindowModality(Qt::WindowModal);
         setWindowFlag(Qt::Dialog);
     }
-    auto* const inside = new QWidget(this);
-    inside->setFixedSize(m_scale.rect(form.place()).size());
-    addControls(form, inside);
-    setCentralWidget(inside);
-    // A fixed border: the window is as large as its inside.
-    layout()->setSizeConstraint(QLayout::SetFixedSize);
-    m_changed = form.Changed.connect([this] { update(); });
+    switch (m_form.border()) {
+    case Border::Fixed:
+        setWindowFlag(Qt::WindowMinMaxButtonsHint, false);
+        break;
+    case Border::FixedMin:
+        setWindowFlag(Qt::WindowMaximizeButtonHint, false);
+        break;
+    case Border::Sizable:
+        break;
+    case Border::None:
+        setWindowFlag(Qt::SplashScreen);
+        break;
+    }
 }
 
 void FormWindow::addControls(Container& container, QWidget* parent) {
@@ -58,12 +131,6 @@ void FormWindow::addControls(Container& container, QWidget* parent) {
 
 /// The widget of a control, or nothing for those that have none of their own.
 QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
-    const auto make = [&](auto* model) { return makeWidget(*model, parent, m_scale); };
-    if (auto* const frame = dynamic_cast<Frame*>(&control)) {
-        QWidget* const widget = make(frame);
-        addControls(*frame, widget);
-        return widget;
-    }
     if (auto* const menu = dynamic_cast<MenuEntry*>(&control)) {
         addMenu(*menu, menuBar());
         return nullptr;
@@ -79,62 +146,118 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
         ticking->start();
         return nullptr;
     }
-    if (auto* const button = dynamic_cast<Button*>(&control)) {
-        if (button->design().isDefault) {
-            const auto press = [this, button] {
-                // Enter belongs to the button that has the keyboard, if one has.
-                if (auto* const focused = qobject_cast<QPushButton*>(focusWidget())) {
-                    focused->click();
-                } else {
-                    button->press();
-                }
-            };
-            new QShortcut(Qt::Key_Return, this, press);
-            new QShortcut(Qt::Key_Enter, this, press);
-        }
-        if (button->design().isCancel) {
-            new QShortcut(Qt::Key_Escape, this, [button] { button->press(); });
-        }
-        return make(button);
+    addKeys(control);
+    QWidget* const widget =
+        makeFirst<Frame, Label, TextBox, Button, OptionButton, CheckBox, UpDown, TreeView, ListView,
+                  Slider, StatusBar, PictureBox, Line>(control, parent, m_scale);
+    if (auto* const frame = dynamic_cast<Frame*>(&control)) {
+        addControls(*frame, widget);
     }
-    if (auto* const label = dynamic_cast<Label*>(&control)) {
-        return make(label);
+    return widget;
+}
+
+/// The keys that press a form's default button and its cancel button.
+void FormWindow::addKeys(Control& control) {
+    auto* const button = dynamic_cast<Button*>(&control);
+    if (button == nullptr) {
+        return;
     }
-    if (auto* const box = dynamic_cast<TextBox*>(&control)) {
-        return make(box);
+    if (button->design().isDefault) {
+        const auto press = [this, button] {
+            // Enter belongs to the button that has the keyboard, if one has.
+            if (auto* const focused = qobject_cast<QPushButton*>(focusWidget())) {
+                focused->click();
+            } else {
+                button->press();
+            }
+        };
+        new QShortcut(Qt::Key_Return, this, press);
+        new QShortcut(Qt::Key_Enter, this, press);
     }
-    if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
-        return make(option);
+    if (button->design().isCancel) {
+        new QShortcut(Qt::Key_Escape, this, [button] { button->press(); });
     }
-    if (auto* const arrows = dynamic_cast<UpDown*>(&control)) {
-        return make(arrows);
-    }
-    if (auto* const tree = dynamic_cast<TreeView*>(&control)) {
-        return make(tree);
-    }
-    if (auto* const list = dynamic_cast<ListView*>(&control)) {
-        return make(list);
-    }
-    if (auto* const slider = dynamic_cast<Slider*>(&control)) {
-        return make(slider);
-    }
-    if (auto* const bar = dynamic_cast<StatusBar*>(&control)) {
-        return make(bar);
-    }
-    return nullptr;
 }
 
 void FormWindow::update() {
-    if (const QPoint place(m_form.left(), m_form.top()); place != m_formPlace) {
-        m_formPlace = place;
-        const Scale screenScale;
-        move(screenScale.pixels(place.x()), screenScale.pixels(place.y()));
-    }
+    const QScopedValueRollback<bool> updating(m_isUpdating, true);
+    setWindowTitle(toQt(m_form.caption()));
+    updateSize();
+    updatePlace();
+    updateTopmost();
+    updateState();
+    m_inside->update();
     if (m_form.isVisible() && !isVisible()) {
         show();
     } else if (!m_form.isVisible() && isVisible()) {
         hide();
     }
+}
+
+void FormWindow::updateSize() {
+    const QSize size = m_scale.rect(m_form.place()).size();
+    if (size == m_inside->size()) {
+        return;
+    }
+    if (m_form.border() == Border::Sizable) {
+        resize(size);
+    } else {
+        m_inside->setFixedSize(size);
+        layout()->activate();
+    }
+}
+
+void FormWindow::updatePlace() {
+    if (const QPoint place(m_form.left(), m_form.top()); place != m_formPlace) {
+        m_formPlace = place;
+        const Scale screenScale;
+        move(screenScale.pixels(place.x()), screenScale.pixels(place.y()));
+    }
+    if (m_form.border() == Border::None && !isVisible()) {
+        QRect centred(QPoint(), m_inside->size());
+        centred.moveCenter(screen()->availableGeometry().center());
+        move(centred.topLeft());
+    }
+}
+
+void FormWindow::updateTopmost() {
+    if (m_form.isTopmost() != m_isTopmost) {
+        m_isTopmost = m_form.isTopmost();
+        setWindowFlag(Qt::WindowStaysOnTopHint, m_isTopmost);  // this hides the window
+    }
+}
+
+void FormWindow::updateState() {
+    Qt::WindowStates states = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    if (m_form.state() == WindowState::Minimized) {
+        states |= Qt::WindowMinimized;
+    } else if (m_form.state() == WindowState::Maximized) {
+        states |= Qt::WindowMaximized;
+    }
+    if (states != windowState()) {
+        setWindowState(states);
+    }
+}
+
+void FormWindow::raiseAndActivate() {
+    if (isVisible() && m_form.state() != WindowState::Minimized) {
+        raise();
+        activateWindow();
+    }
+}
+
+void FormWindow::repaintNow() {
+    // A window that has just come waits for the desktop to give it its place.
+    constexpr int longestWait = 200, step = 10;  // milliseconds
+    QElapsedTimer waiting;
+    waiting.start();
+    while (isVisible() && windowHandle() != nullptr && !windowHandle()->isExposed() &&
+           waiting.elapsed() < longestWait) {
+        QApplication::processEvents(
+            QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, step);
+    }
+    repaint();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 bool FormWindow::event(QEvent* event) {
@@ -144,6 +267,20 @@ bool FormWindow::event(QEvent* event) {
     return QMainWindow::event(event);
 }
 
+void FormWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !m_isUpdating) {
+        m_form.setState(isMinimized()   ? WindowState::Minimized
+                        : isMaximized() ? WindowState::Maximized
+                                        : WindowState::Normal);
+    }
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    m_form.pressKey();
+    QMainWindow::keyPressEvent(event);
+}
+
 void FormWindow::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     // The user has moved the window; the form learns it without moving anything itself.
@@ -151,6 +288,25 @@ void FormWindow::moveEvent(QMoveEvent* event) {
     m_formPlace = {static_cast<int>(screenScale.twips(pos().x())),
                    static_cast<int>(screenScale.twips(pos().y()))};
     m_form.moveTo(m_formPlace.x(), m_formPlace.y());
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (m_form.border() != Border::Sizable || m_isUpdating ||
+        m_form.state() != WindowState::Normal) {
+        return;
+    }
+    // A size that only comes back rounded is the form's own.
+    const QSize size = m_inside->size();
+    if (size != m_scale.rect(m_form.place()).size()) {
+        m_form.resize(static_cast<int>(m_scale.twips(size.width())) + Form::frameWidth,
+                      static_cast<int>(m_scale.twips(size.height())) + Form::frameHeight);
+    }
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    m_form.paint();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

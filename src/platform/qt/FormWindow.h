@@ -5,6 +5,8 @@
 
 #include <QMainWindow>
 
+#include <vector>
+
 namespace fleetwright {
 
 class Container;
@@ -19,19 +21,37 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
+    void setFrame(QWidget* owner);
     void addControls(Container& container, QWidget* parent);
     QWidget* addControl(Control& control, QWidget* parent);
+    void addKeys(Control& control);
+
+    // Bringing the window in step with its form.
     void update();
+    void updateSize();
+    void updatePlace();
+    void updateState();
+    void updateTopmost();
+    void raiseAndActivate();
+    void repaintNow();
 
     Form& m_form;
     Scale m_scale;
-    Connection m_changed;
+    QWidget* m_inside;
+    std::vector<Connection> m_connections;
     /// Where the form was last known to be, in twips of the screen.
     QPoint m_formPlace;
+    bool m_isTopmost = false;
+    /// The window is being brought in step: what it reports is not the user's doing.
+    bool m_isUpdating = false;
 };
 
 }  // namespace fleetwright

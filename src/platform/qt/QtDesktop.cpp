@@ -9,9 +9,48 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEventLoop>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
 
 namespace fleetwright {
+
+namespace {
+
+/// "Ship Files(*.shp)|*.shp" and the like as Qt writes it: "Ship Files (*.shp)".
+QStringList nameFilters(const std::string& filter) {
+    const QStringList parts = toQt(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i < parts.size(); i += 2) {
+        const QString label = parts[i].section('(', 0, 0).trimmed();
+        const QString pattern = parts.value(i + 1);
+        const bool isAll = pattern.isEmpty() || pattern == "*.*";
+        filters += label + " (" + (isAll ? QString("*") : pattern) + ')';
+    }
+    return filters;
+}
+
+void prepareDialog(QFileDialog& dialog, const FileDialog& wanted) {
+    dialog.setObjectName("fileDialog");
+    dialog.setNameFilters(nameFilters(wanted.filter));
+    dialog.selectNameFilter(dialog.nameFilters().value(wanted.filterIndex - 1));
+    dialog.setDirectory(toQt(wanted.initialFolder.string()));
+}
+
+/// Whether a file may be written that the dialog itself has not asked about, because the rules add
+/// their extension to its name.
+bool mayReplace(const QString& chosen, const QString& extension) {
+    const QString file = chosen + extension;
+    if (extension.isEmpty() || chosen.endsWith(extension) || !QFileInfo::exists(file)) {
+        return true;
+    }
+    return QMessageBox::warning(QApplication::activeWindow(), QApplication::applicationName(),
+                                file + " already exists.\nDo you want to replace it?",
+                                QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
+}
+
+}  // namespace
 
 QtDesktop::QtDesktop() = default;
 
@@ -28,6 +67,7 @@ void QtDesktop::dismiss(Form& form) {
 Answer QtDesktop::showMessage(const std::string& text, const std::string& title, Buttons buttons,
                               Icon icon) {
     QMessageBox box(QApplication::activeWindow());
+    box.setObjectName("messageBox");
     box.setWindowTitle(title.empty() ? QApplication::applicationName() : toQt(title));
     box.setText(toQt(text));
     switch (icon) {
@@ -50,6 +90,31 @@ Answer QtDesktop::showMessage(const std::string& text, const std::string& title,
     return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
+std::optional<std::string> QtDesktop::chooseFileToOpen(const FileDialog& wanted) {
+    QFileDialog dialog(QApplication::activeWindow(), "Open");
+    prepareDialog(dialog, wanted);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return dialog.selectedFiles().value(0).toStdString();
+}
+
+std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted) {
+    QFileDialog dialog(QApplication::activeWindow(), "Save As");
+    prepareDialog(dialog, wanted);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    const QString extension = toQt(wanted.extension);
+    dialog.setDefaultSuffix(extension.mid(1));
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString chosen = dialog.selectedFiles().value(0);
+        if (mayReplace(chosen, extension)) {
+            return chosen.toStdString();
+        }
+    }
+    return std::nullopt;
+}
+
 void QtDesktop::popUp(MenuEntry& menu) {
     // A menu that was asked for by a key opens at what has the keyboard.
     const QWidget* const focus = QApplication::focusWidget();
@@ -70,7 +135,9 @@ void QtDesktop::showModal(Form& form, Form& owner) {
     });
     m_dialogs.push_back(&form);
     form.show();
-    loop.exec();
+    if (form.isVisible()) {
+        loop.exec();
+    }
     std::erase(m_dialogs, &form);
 }
 
@@ -83,6 +150,11 @@ void QtDesktop::unloadAllForms() {
         form->unload();  // the one that is going already is left alone
     }
     QApplication::quit();
+}
+
+Desktop::ScreenSize QtDesktop::screenSize() {
+    const QSize size = QApplication::primaryScreen()->availableSize();
+    return {size.width(), size.height()};
 }
 
 }  // namespace fleetwright

@@ -25,9 +25,12 @@ public:
 
     Answer showMessage(const std::string& text, const std::string& title, Buttons buttons,
                        Icon icon) override;
+    std::optional<std::string> chooseFileToOpen(const FileDialog& dialog) override;
+    std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override;
     void popUp(MenuEntry& menu) override;
     void showModal(Form& form, Form& owner) override;
     void unloadAllForms() override;
+    ScreenSize screenSize() override;
 
 private:
     std::map<Form*, std::unique_ptr<FormWindow>> m_windows;

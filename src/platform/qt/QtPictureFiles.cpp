@@ -35,7 +35,7 @@ Raster QtPictureFiles::load(const std::filesystem::path& file) {
 }
 
 Raster QtPictureFiles::builtIn(const std::string& name) {
-    const std::string resource = ":/pictures/" + name + ".gif";
+    const std::string resource = ":/pictures/" + name;
     return read(QString::fromStdString(resource), resource);
 }
 

@@ -1,6 +1,7 @@
 // Buttons of all kinds, the arrows, and the frames that buttons stand in.
 
 #include "Button.h"
+#include "CheckBox.h"
 #include "Frame.h"
 #include "OptionButton.h"
 #include "UpDown.h"
@@ -8,6 +9,7 @@
 #include "widgetTools.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QPainter>
@@ -109,6 +111,27 @@ QWidget* makeWidget(Button& button, QWidget* parent, const Scale& scale) {
     setFace(widget, button.design());
     widget->setAutoDefault(false);
     QObject::connect(widget, &QPushButton::clicked, [&button] { button.press(); });
+    return widget;
+}
+
+QWidget* makeWidget(CheckBox& box, QWidget* parent, const Scale& scale) {
+    QAbstractButton* widget = nullptr;
+    if (box.design().isGraphical) {
+        auto* const button = new QPushButton(parent);
+        button->setCheckable(true);
+        button->setAutoDefault(false);
+        widget = button;
+    } else {
+        widget = new QCheckBox(parent);
+    }
+    prepare(widget, box, scale);
+    setFace(widget, box.design());
+    keepInStep(widget, box, [widget, &box] { widget->setChecked(box.isTicked()); });
+    fitText(widget, box, scale);
+    QObject::connect(widget, &QAbstractButton::clicked, [widget, &box] {
+        box.press();
+        widget->setChecked(box.isTicked());
+    });
     return widget;
 }
 

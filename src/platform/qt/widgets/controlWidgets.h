@@ -12,11 +12,14 @@ class QMenuBar;
 namespace fleetwright {
 
 class Button;
+class CheckBox;
 class Frame;
 class Label;
+class Line;
 class ListView;
 class MenuEntry;
 class OptionButton;
+class PictureBox;
 class Slider;
 class StatusBar;
 class TextBox;
@@ -24,10 +27,13 @@ class TreeView;
 class UpDown;
 
 QWidget* makeWidget(Button& button, QWidget* parent, const Scale& scale);
+QWidget* makeWidget(CheckBox& box, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(Frame& frame, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale);
+QWidget* makeWidget(Line& line, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(ListView& list, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale);
+QWidget* makeWidget(PictureBox& box, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(Slider& slider, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale);

@@ -13,7 +13,8 @@ void fillMenu(QMenu* menu, MenuEntry& entry);
 
 void addEntry(QMenu* menu, MenuEntry& entry) {
     if (entry.isSeparator()) {
-        menu->addSeparator();
+        QAction* const line = menu->addSeparator();
+        keepInStep(menu, entry, [line, &entry] { line->setVisible(entry.isVisible()); });
         return;
     }
     if (!entry.controls().empty()) {

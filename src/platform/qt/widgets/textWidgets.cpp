@@ -37,9 +37,17 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     widget->setAccessibleName("Status");
     widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     widget->setMargin(2);
-    constexpr int height = 315;  // twips; bars along the edge have no place of their own
-    const int pixels = scale.pixels(height);
-    widget->setGeometry(0, parent->height() - pixels, parent->width(), pixels);
+    const int height = scale.pixels(StatusBar::height);
+    const auto dock = [widget, parent, height] {
+        widget->setGeometry(0, parent->height() - height, parent->width(), height);
+    };
+    dock();
+    new EventHook(parent, [dock](QEvent* event) {
+        if (event->type() == QEvent::Resize) {
+            dock();
+        }
+        return false;
+    });
     keepInStep(widget, bar, [widget, &bar] { widget->setText(toQt(bar.text())); });
     return widget;
 }

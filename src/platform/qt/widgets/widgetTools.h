@@ -28,10 +28,12 @@ inline QIcon faceOf(const std::string& picture) {
 }
 
 inline QImage toImage(const Raster& raster) {
+    constexpr QRgb opaque = 0xFF000000U;
     QImage image(raster.width(), raster.height(), QImage::Format_RGB32);
     for (int y = 0; y < raster.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < raster.width(); ++x) {
-            image.setPixel(x, y, 0xFF000000U | raster.pixel(x, y));
+            line[x] = opaque | raster.pixel(x, y);
         }
     }
     return image;
@@ -50,14 +52,22 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     const ControlDesign& design = control.design();
     widget->setObjectName(toQt(design.name));
     widget->setGeometry(scale.rect(design.place));
+    auto place = std::make_shared<Place>(design.place);
     if (!design.accessibleName.empty()) {
         widget->setAccessibleName(toQt(design.accessibleName));
     }
-    keepInStep(widget, control, [widget, &control] {
+    keepInStep(widget, control, [widget, &control, scale, place] {
+        if (*place != control.place()) {
+            *place = control.place();
+            widget->setGeometry(scale.rect(*place));
+        }
         widget->setToolTip(toQt(control.toolTip()));
         widget->setVisible(control.isVisible());
         widget->setEnabled(control.isEnabled());
     });
+    auto focus = std::make_shared<Connection>(
+        control.FocusWanted.connect([widget] { widget->setFocus(Qt::OtherFocusReason); }));
+    QObject::connect(widget, &QObject::destroyed, [focus] {});
 }
 
 /// Makes room for a text that is too long for its control's place: first to the right, as far as

@@ -1,0 +1,115 @@
+#include "Program.h"
+
+#include "Error.h"
+#include "Globals.h"
+#include "QtClock.h"
+#include "QtDesktop.h"
+#include "QtPictureFiles.h"
+#include "QtPrograms.h"
+#include "QtSettingsStore.h"
+#include "QtSounds.h"
+#include "TextFile.h"
+#include "catalogueFaults.h"
+#include "frmMain.h"
+#include "frmSplash.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <exception>
+
+namespace fleetwright {
+
+namespace {
+
+/// The services and the windows of the running program, joined.
+class Program {
+public:
+    Program(QtDesktop& desktop, Run run)
+        : m_appFolder(nativePath(QApplication::applicationDirPath().toStdString())),
+          m_desktop(desktop), m_sounds(m_appFolder),
+          m_splash({.appFolder = m_appFolder,
+                    .desktop = desktop,
+                    .settings = m_settings,
+                    .clock = m_clock,
+                    .sounds = m_sounds,
+                    .pictures = m_pictures,
+                    .programs = m_programs,
+                    .globals = m_globals,
+                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder); },
+                    .mainWindow = [this]() -> Form& { return m_main; },
+                    .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
+          m_main({.appFolder = m_appFolder,
+                  .eventLoopTurn = [] { QApplication::processEvents(); },
+                  .freeFormulaLibrary = [this] { freeFormulaLibrary(); },
+                  .desktop = desktop,
+                  .pictures = m_pictures,
+                  .progress = m_splash,
+                  .globals = m_globals}) {
+        if (run == Run::Whole) {
+            desktop.present(m_splash);
+        }
+        desktop.present(m_main);
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    ~Program() {
+        m_desktop.dismiss(m_main);
+        m_desktop.dismiss(m_splash);
+    }
+
+    int run() {
+        m_splash.load();
+        return QApplication::exec();
+    }
+
+    int runUntilPainted() {
+        m_splash.load();
+        m_main.show();
+        m_main.repaint();
+        return 0;
+    }
+
+private:
+    void freeFormulaLibrary() {
+        m_globals.formula = nullptr;
+        m_programs.freeLibrary(std::exchange(m_globals.g_hFormulaLib, nullptr));
+    }
+
+    std::filesystem::path m_appFolder;
+    QtDesktop& m_desktop;
+    QtSettingsStore m_settings;
+    QtClock m_clock;
+    QtSounds m_sounds;
+    QtPictureFiles m_pictures;
+    QtPrograms m_programs;
+    Globals m_globals;
+    frmSplash m_splash;
+    frmMain m_main;
+};
+
+}  // namespace
+
+int runProgram(int argc, char** argv, Run run) {
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(applicationTitle);
+    QApplication::setWindowIcon(QIcon(":/pictures/icon.svg"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QtDesktop desktop;
+    try {
+        Program program(desktop, run);
+        return run == Run::Whole ? program.run() : program.runUntilPainted();
+    } catch (const EndOfProgram&) {
+        return 1;
+    } catch (const FileError& error) {
+        desktop.showMessage(error.file().string() + ": " + error.what(), "", Buttons::Ok,
+                            Icon::Critical);
+        return 1;
+    } catch (const std::exception& error) {
+        desktop.showMessage(error.what(), "", Buttons::Ok, Icon::Critical);
+        return 1;
+    }
+}
+
+}  // namespace fleetwright

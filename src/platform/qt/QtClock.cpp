@@ -1,0 +1,19 @@
+#include "QtClock.h"
+
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+namespace fleetwright {
+
+std::int32_t QtClock::tickCount() {
+    return static_cast<std::int32_t>(QDeadlineTimer::current(Qt::PreciseTimer).deadline());
+}
+
+void QtClock::sleep(int milliseconds) {
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,49 @@
+#include "QtPrograms.h"
+
+#include <QElapsedTimer>
+#include <QLibrary>
+#include <QProcess>
+
+#include <memory>
+
+namespace fleetwright {
+
+bool QtPrograms::run(const std::filesystem::path& program, const std::string& argument,
+                     const std::filesystem::path& folder, int milliseconds,
+                     const std::function<void()>& onWait) {
+    constexpr int step = 50;  // milliseconds between two looks
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setWorkingDirectory(QString::fromStdString(folder.string()));
+    QElapsedTimer waiting;
+    waiting.start();
+    process.start(QString::fromStdString(program.string()), {QString::fromStdString(argument)});
+    while (process.state() != QProcess::NotRunning && !process.waitForFinished(step)) {
+        if (waiting.elapsed() >= milliseconds) {
+            process.kill();
+            process.waitForFinished();
+            return false;
+        }
+        onWait();
+    }
+    return process.error() != QProcess::FailedToStart &&
+           process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+void* QtPrograms::loadLibrary(const std::filesystem::path& file) {
+    auto library = std::make_unique<QLibrary>(QString::fromStdString(file.string()));
+    return library->load() ? library.release() : nullptr;
+}
+
+void* QtPrograms::function(void* library, const std::string& name) {
+    return reinterpret_cast<void*>(static_cast<QLibrary*>(library)->resolve(name.c_str()));
+}
+
+void QtPrograms::freeLibrary(void* library) {
+    const std::unique_ptr<QLibrary> loaded(static_cast<QLibrary*>(library));
+    if (loaded != nullptr) {
+        loaded->unload();
+    }
+}
+
+}  // namespace fleetwright

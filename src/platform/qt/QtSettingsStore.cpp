@@ -1,0 +1,35 @@
+#include "QtSettingsStore.h"
+
+#include <QApplication>
+#include <QSettings>
+
+namespace fleetwright {
+
+namespace {
+
+/// Opened anew each time: another program that runs may have written meanwhile.
+QSettings store() {
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, QApplication::applicationName(),
+                     QApplication::applicationName());
+}
+
+QString pathOf(const std::string& section, const std::string& key) {
+    return QString::fromStdString(section + '/' + key);
+}
+
+}  // namespace
+
+std::string QtSettingsStore::read(const std::string& section, const std::string& key,
+                                  const std::string& otherwise) const {
+    // What a hand has put there may read as a list, which is no text of ours but looks like one.
+    const QVariant value = store().value(pathOf(section, key), QString::fromStdString(otherwise));
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(", ").toStdString()
+                                                    : value.toString().toStdString();
+}
+
+void QtSettingsStore::write(const std::string& section, const std::string& key,
+                            const std::string& value) {
+    store().setValue(pathOf(section, key), QString::fromStdString(value));
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Sounds.h"
+
+namespace fleetwright {
+
+/// The machine's sound devices, through a module in the application folder that is loaded when it
+/// is first asked. Without the module there is no device.
+class QtSounds : public Sounds {
+public:
+    explicit QtSounds(std::filesystem::path appFolder) : m_appFolder(std::move(appFolder)) {}
+
+    bool hasDevice() override;
+    void play(const std::filesystem::path& file) override;
+
+private:
+    Sounds* module();
+
+    std::filesystem::path m_appFolder;
+    Sounds* m_module = nullptr;
+    bool m_isAsked = false;
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,117 @@
+#include "frmSplash.h"
+
+#include "Clock.h"
+#include "Desktop.h"
+#include "Error.h"
+#include "Globals.h"
+#include "PictureFiles.h"
+#include "Programs.h"
+#include "playSound.h"
+#include "unpackImages.h"
+
+#include <algorithm>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+frmSplash::frmSplash(StartUpServices services)
+    : Form({.name = "frmSplash", .border = Border::None}), m_services(std::move(services)) {}
+
+void frmSplash::Form_Load() {
+    choosePicture();
+    show();
+    repaint();
+    m_services.globals.readSettings(m_services.settings);
+    checkScreen();
+    unpackOnFirstRun();
+    loadFormulaLibrary();
+    checkCatalogue();
+    Timer1.setEnabled(true);
+    m_services.mainWindow().load();
+}
+
+void frmSplash::choosePicture() {
+    Picture1.setPicture(m_services.pictures.builtIn("splash-1.gif"));
+    Picture2.setPicture(m_services.pictures.builtIn("splash-2.bmp"));
+    const PictureBox& chosen = m_services.clock.tickCount() % 2 == 0 ? Picture2 : Picture1;
+    Picture1.setVisible(false);
+    Picture2.setVisible(false);
+    setPicture(chosen.picture());
+    resize(chosen.place().width, chosen.place().height + sbInfo.place().height);
+}
+
+void frmSplash::checkScreen() {
+    constexpr int smallestWidth = 800, smallestHeight = 600;
+    const Desktop::ScreenSize screen = m_services.desktop.screenSize();
+    if (screen.width < smallestWidth || screen.height < smallestHeight) {
+        fail("Need to have 800x600 resolution to run.", "Screen Size Error");
+    }
+}
+
+void frmSplash::unpackOnFirstRun() {
+    const fs::path& appFolder = m_services.appFolder;
+    if (fs::is_directory(appFolder / "images")) {
+        return;
+    }
+    constexpr int longestWait = 10000;  // milliseconds
+    const auto runArchive = [this](const fs::path& archive, const fs::path& folder) {
+        const auto showProgress = [this, &folder] {
+            const auto files = std::distance(fs::directory_iterator(folder), {});
+            setText("Unpacking the pictures... " + std::to_string(files));
+            repaint();
+        };
+        showProgress();
+        return m_services.programs.run(archive, "-o", folder, longestWait, showProgress);
+    };
+    try {
+        unpackImages(appFolder, runArchive);
+    } catch (const FileError& error) {
+        fail(error.file().string() + ": " + error.what(), "");
+    }
+}
+
+void frmSplash::loadFormulaLibrary() {
+    Globals& globals = m_services.globals;
+    globals.g_hFormulaLib = m_services.programs.loadLibrary(m_services.appFolder / "w_dll.dll");
+    if (globals.g_hFormulaLib != nullptr) {
+        globals.formula = reinterpret_cast<FormulaFunction>(
+            m_services.programs.function(globals.g_hFormulaLib, "formula_calculate"));
+    }
+    if (globals.formula == nullptr) {
+        m_services.desktop.showMessage("Can't Open DLL " + m_services.appFolder.string(),
+                                       "File Open Error", Buttons::Ok, Icon::Critical);
+        unload();
+        throw EndOfProgram();
+    }
+}
+
+void frmSplash::checkCatalogue() {
+    if (const std::string faults = m_services.catalogueFaults(); !faults.empty()) {
+        fail(faults, "");
+    }
+}
+
+void frmSplash::fail(const std::string& text, const std::string& title) {
+    m_services.desktop.showMessage(text, title, Buttons::Ok, Icon::Critical);
+    throw EndOfProgram();
+}
+
+void frmSplash::dismissSplash() {
+    if (m_services.isMainWindowLoaded()) {
+        m_services.mainWindow().show();
+        unload();
+    }
+}
+
+void frmSplash::Form_Unload(bool&) {
+    // The main window is there by now: one more tick must not bring it to the front again.
+    Timer1.setEnabled(false);
+    const fs::path sound = m_services.appFolder / "blaster.wav";
+    constexpr int pause = 500;  // milliseconds
+    playSound(sound, m_services.sounds, m_services.globals);
+    m_services.clock.sleep(pause);
+    playSound(sound, m_services.sounds, m_services.globals);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,80 @@
+#include "unpackImages.h"
+
+#include "Error.h"
+#include "SheetPictures.h"
+
+#include <system_error>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path archiveOf(const fs::path& appFolder) {
+    fs::path archive = appFolder / "images.exe";
+    if (!fs::is_regular_file(archive)) {
+        throw FileError(archive, "is missing; it carries the pictures");
+    }
+    return archive;
+}
+
+/// Whether the pictures of sheets are in a folder, which are the same for every catalogue. An
+/// archive that is garbled may well be run as something else and end in success.
+bool hasPictures(const fs::path& folder) {
+    for (const std::string& name : sheetPictures()) {
+        if (!fs::exists(folder / name)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Runs a copy of the archive inside a folder, and takes the copy away.
+bool unpackInto(const fs::path& folder, const fs::path& archive, const RunArchive& runArchive) {
+    std::error_code ignored;
+    const fs::path copy = folder / archive.filename();
+    fs::copy_file(archive, copy, fs::copy_options::overwrite_existing);
+    const bool isDone = runArchive(copy, folder);
+    fs::remove(copy, ignored);
+    return isDone && hasPictures(folder);
+}
+
+constexpr const char* couldNot = "the pictures could not be unpacked";
+
+}  // namespace
+
+void unpackImages(const fs::path& appFolder, const RunArchive& runArchive) {
+    const fs::path archive = archiveOf(appFolder);
+    const fs::path images = appFolder / "images";
+    const fs::path folder = appFolder / "images.unpacking";
+    std::error_code ignored;
+    fs::remove_all(folder, ignored);
+    try {
+        fs::create_directory(folder);
+        if (!unpackInto(folder, archive, runArchive)) {
+            throw FileError(images, couldNot);
+        }
+        fs::rename(folder, images);
+    } catch (const fs::filesystem_error& error) {
+        fs::remove_all(folder, ignored);
+        throw FileError(images, "cannot be made: " + error.code().message());
+    } catch (const FileError&) {
+        fs::remove_all(folder, ignored);
+        throw;
+    }
+}
+
+void renewImages(const fs::path& appFolder, const RunArchive& runArchive) {
+    const fs::path archive = archiveOf(appFolder);
+    const fs::path images = appFolder / "images";
+    try {
+        if (!unpackInto(images, archive, runArchive)) {
+            throw FileError(images, couldNot);
+        }
+    } catch (const fs::filesystem_error& error) {
+        throw FileError(images, error.code().message());
+    }
+}
+
+}  // namespace fleetwright

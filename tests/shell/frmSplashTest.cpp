@@ -1,0 +1,232 @@
+#include "frmSplash.h"
+
+#include "Clock.h"
+#include "Desktop.h"
+#include "Error.h"
+#include "Globals.h"
+#include "PictureFiles.h"
+#include "Programs.h"
+#include "SettingsStore.h"
+#include "SheetPictures.h"
+#include "Sounds.h"
+#include "TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+using namespace fleetwright;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A machine that writes down what the start asks of it.
+class Machine : public Desktop,
+                public SettingsStore,
+                public Clock,
+                public Sounds,
+                public PictureFiles,
+                public Programs {
+public:
+    std::string log;
+    std::map<std::string, std::string> settings;
+    std::int32_t ticks = 0;
+    ScreenSize screen = {800, 600};
+    bool hasSound = true;
+    bool archiveWorks = true;
+    bool hasLibrary = true;
+
+    Answer showMessage(const std::string& text, const std::string& title, Buttons,
+                       Icon icon) override {
+        log += "box " + text + '/' + title + (icon == Icon::Critical ? " critical; " : "; ");
+        return Answer::Ok;
+    }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
+    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
+    void popUp(MenuEntry&) override {}
+    void showModal(Form&, Form&) override {}
+    void unloadAllForms() override {}
+    ScreenSize screenSize() override { return screen; }
+
+    std::string read(const std::string& section, const std::string& key,
+                     const std::string& otherwise) const override {
+        const auto found = settings.find(section + '/' + key);
+        return found == settings.end() ? otherwise : found->second;
+    }
+    void write(const std::string&, const std::string&, const std::string&) override {
+        log += "write; ";
+    }
+
+    std::int32_t tickCount() override { return ticks; }
+    void sleep(int milliseconds) override { log += "sleep " + std::to_string(milliseconds) + "; "; }
+
+    bool hasDevice() override { return hasSound; }
+    void play(const fs::path& file) override {
+        log += "play " + file.filename().string() + "; ";
+        throw FileError(file, "is no sound");
+    }
+
+    Raster load(const fs::path&) override { return {}; }
+    Raster builtIn(const std::string& name) override {
+        return name == "splash-1.gif" ? Raster(348, 288) : Raster(351, 291);
+    }
+
+    bool run(const fs::path& program, const std::string& argument, const fs::path& folder,
+             int milliseconds, const std::function<void()>& onWait) override {
+        log += "run " + program.lexically_relative(folder).string() + ' ' + argument + " for " +
+               std::to_string(milliseconds) + "; ";
+        EXPECT_TRUE(fs::exists(program));
+        for (const std::string& name : sheetPictures()) {
+            fs::copy_file(program, folder / name);
+        }
+        onWait();
+        return archiveWorks;
+    }
+    void* loadLibrary(const fs::path& file) override {
+        log += "library " + file.filename().string() + "; ";
+        return hasLibrary ? this : nullptr;
+    }
+    void* function(void*, const std::string& name) override {
+        return name == "formula_calculate" ? reinterpret_cast<void*>(&formula_calculate) : nullptr;
+    }
+    void freeLibrary(void*) override {}
+};
+
+/// A main window that only writes down what happens to it.
+class PlainForm : public Form {
+public:
+    explicit PlainForm(std::string& log) : Form({.name = "frmMain"}), m_log(log) {}
+
+    bool isReady = true;
+
+protected:
+    void Form_Load() override { m_log += "load main; "; }
+
+private:
+    std::string& m_log;
+};
+
+class Start : public testing::Test {
+protected:
+    Start() {
+        folder.write("images.exe", "archive");
+        // Only texts: the bar also changes its place.
+        said = splash.sbInfo.Changed.connect([this] {
+            if (!splash.sbInfo.text().empty()) {
+                machine.log += splash.sbInfo.text() + "; ";
+            }
+        });
+    }
+
+    /// All that was logged while the start-up ran to its end.
+    std::string run() {
+        try {
+            splash.load();
+        } catch (const EndOfProgram&) {
+            machine.log += "end";
+        }
+        return machine.log;
+    }
+
+    TemporaryFolder folder;
+    Machine machine;
+    Globals globals;
+    std::string faults;
+    PlainForm mainWindow{machine.log};
+    frmSplash splash{{.appFolder = folder.path(),
+                      .desktop = machine,
+                      .settings = machine,
+                      .clock = machine,
+                      .sounds = machine,
+                      .pictures = machine,
+                      .programs = machine,
+                      .globals = globals,
+                      .catalogueFaults = [this] { return faults; },
+                      .mainWindow = [this]() -> Form& { return mainWindow; },
+                      .isMainWindowLoaded = [this] { return mainWindow.isReady; }}};
+    Connection said;
+};
+
+TEST_F(Start, TakesItsStepsInOrderAndGoesWithASoundWhenTheMainWindowIsReady) {
+    mainWindow.isReady = false;
+    EXPECT_EQ(run(), "Unpacking the pictures... 1; run images.exe -o for 10000; Unpacking the "
+                     "pictures... " +
+                         std::to_string(sheetPictures().size() + 1) +
+                         "; library w_dll.dll; load main; ");
+    EXPECT_TRUE(fs::is_directory(folder.path() / "images"));
+    EXPECT_FALSE(fs::exists(folder.path() / "images" / "images.exe"));
+    EXPECT_TRUE(fs::exists(folder.path() / "images.exe"));
+    machine.log.clear();
+
+    splash.pressKey();
+    EXPECT_EQ(machine.log, "") << "a key while the main window is still loading";
+    EXPECT_TRUE(splash.isVisible());
+    mainWindow.isReady = true;
+    splash.Timer1.tick();
+    EXPECT_EQ(machine.log, "play blaster.wav; sleep 500; play blaster.wav; ");
+    EXPECT_TRUE(mainWindow.isVisible());
+    EXPECT_FALSE(splash.isLoaded());
+}
+
+TEST_F(Start, PicksItsPictureByTheClock) {
+    machine.ticks = -3;
+    run();
+    EXPECT_EQ(splash.width(), 348 * 15);
+    EXPECT_EQ(splash.height(), 288 * 15 + splash.sbInfo.place().height);
+    EXPECT_FALSE(splash.Picture1.isVisible() || splash.Picture2.isVisible());
+    splash.unload();
+    machine.ticks = 4;
+    run();
+    EXPECT_EQ(splash.picture().width(), 351);
+}
+
+TEST_F(Start, TakesOnlyTheWordTrueForOn) {
+    machine.settings = {
+        {"Settings/Hide", "true"}, {"Settings/Sounds", ""}, {"Names/Designer", "Somebody"}};
+    run();
+    EXPECT_TRUE(globals.g_bConfirmExit) << "nothing is stored";
+    EXPECT_FALSE(globals.g_bHide || globals.g_bSounds);
+    EXPECT_EQ(globals.g_sDefaultDesigner, "Somebody");
+    machine.log.clear();
+    splash.unload();
+    EXPECT_EQ(machine.log, "sleep 500; ");
+}
+
+TEST_F(Start, LeavesAFolderOfPicturesAloneEvenAnEmptyOne) {
+    fs::create_directory(folder.path() / "images");
+    fs::remove(folder.path() / "images.exe");
+    EXPECT_EQ(run(), "library w_dll.dll; load main; ");
+}
+
+TEST_F(Start, TakesAHalfMadeFolderOfPicturesAwayAgain) {
+    machine.archiveWorks = false;
+    const std::string images = (folder.path() / "images").string();
+    EXPECT_TRUE(
+        run().ends_with("box " + images + ": the pictures could not be unpacked/ critical; end"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST_F(Start, EndsWithAMessageWhereItCannotGoOn) {
+    fs::create_directory(folder.path() / "images");
+    machine.screen = {1024, 599};
+    EXPECT_EQ(run(), "box Need to have 800x600 resolution to run./Screen Size Error critical; end");
+    EXPECT_TRUE(splash.isLoaded()) << "the end comes at once, without the closing";
+}
+
+TEST_F(Start, PlaysItsSoundWhenTheFormulaLibraryIsMissing) {
+    fs::create_directory(folder.path() / "images");
+    machine.hasLibrary = false;
+    EXPECT_EQ(run(), "library w_dll.dll; box Can't Open DLL " + folder.path().string() +
+                         "/File Open Error critical; play blaster.wav; sleep 500; "
+                         "play blaster.wav; end");
+}
+
+TEST_F(Start, ShowsTheFaultsOfTheCatalogueInOneMessage) {
+    fs::create_directory(folder.path() / "images");
+    faults = "weaps.dat:3: no parent\nweaps.dat:9: no picture\n";
+    EXPECT_EQ(run(), "library w_dll.dll; box " + faults + "/ critical; end");
+    EXPECT_FALSE(mainWindow.isLoaded());
+}
+
+}  // namespace
