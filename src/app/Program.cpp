@@ -5,15 +5,23 @@
 #include "QtClock.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
+#include "QtPrinter.h"
 #include "QtPrograms.h"
+#include "QtRegistry.h"
 #include "QtSettingsStore.h"
 #include "QtSounds.h"
+#include "RecoveryFolder.h"
+#include "RunMarks.h"
 #include "TextFile.h"
 #include "catalogueFaults.h"
+#include "frmAbout.h"
+#include "frmExtras.h"
 #include "frmMain.h"
 #include "frmSplash.h"
+#include "userDataFolder.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QIcon>
 
 #include <exception>
@@ -22,12 +30,26 @@ namespace fleetwright {
 
 namespace {
 
+std::filesystem::path recoveryFolder() {
+    return userDataFolder() / "recovered";
+}
+
+/// The time as it stands in the name of a design put aside.
+std::string currentTime() {
+    return QDateTime::currentDateTime().toString("yyyy-MM-dd HH.mm.ss").toStdString();
+}
+
 /// The services and the windows of the running program, joined.
 class Program {
 public:
     Program(QtDesktop& desktop, Run run)
         : m_appFolder(nativePath(QApplication::applicationDirPath().toStdString())),
-          m_desktop(desktop), m_sounds(m_appFolder),
+          m_desktop(desktop), m_sounds(m_appFolder), m_runs(recoveryFolder()),
+          m_recovery(
+              recoveryFolder(),
+              {.ownMark = m_runs.own(),
+               .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
+              currentTime),
           m_splash({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .settings = m_settings,
@@ -45,16 +67,37 @@ public:
                   .desktop = desktop,
                   .pictures = m_pictures,
                   .progress = m_splash,
-                  .globals = m_globals}) {
+                  .globals = m_globals,
+                  .settings = m_settings,
+                  .printer = m_printer,
+                  .extras = [this]() -> frmExtras& { return m_extras; },
+                  .showAbout = [this] { m_about.show(); },
+                  .showMapper = [] {},
+                  .showViewer = [] {},
+                  .showMapCreator = [] {},
+                  .recovery = &m_recovery}),
+          m_extras(
+              {.globals = m_globals,
+               .settings = m_settings,
+               .nameShip = [this](const std::string& designer,
+                                  const std::string& ship) { m_main.nameShip(designer, ship); },
+               .clearRecentFiles =
+                   [this] {
+                       m_main.CMRUList->clearList();
+                       m_main.fillMRU();
+                   }}),
+          m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}) {
         if (run == Run::Whole) {
             desktop.present(m_splash);
         }
         desktop.present(m_main);
+        desktop.present(m_about);
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     ~Program() {
+        m_desktop.dismiss(m_about);
         m_desktop.dismiss(m_main);
         m_desktop.dismiss(m_splash);
     }
@@ -84,9 +127,15 @@ private:
     QtSounds m_sounds;
     QtPictureFiles m_pictures;
     QtPrograms m_programs;
+    QtPrinter m_printer;
+    QtRegistry m_registry;
+    RunMarks m_runs;
+    RecoveryFolder m_recovery;
     Globals m_globals;
     frmSplash m_splash;
     frmMain m_main;
+    frmExtras m_extras;
+    frmAbout m_about;
 };
 
 }  // namespace

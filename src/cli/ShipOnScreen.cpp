@@ -3,6 +3,8 @@
 #include "Desktop.h"
 #include "Globals.h"
 #include "PictureFiles.h"
+#include "Printer.h"
+#include "SettingsStore.h"
 #include "StartUpProgress.h"
 #include "frmMain.h"
 
@@ -29,6 +31,26 @@ public:
     Raster builtIn(const std::string&) override { return {}; }
 };
 
+class NoSettings : public SettingsStore {
+public:
+    std::string read(const std::string&, const std::string&,
+                     const std::string& otherwise) const override {
+        return otherwise;
+    }
+    void write(const std::string&, const std::string&, const std::string&) override {}
+};
+
+class NoPrinter : public Printer {
+public:
+    std::optional<int> choose() override { return {}; }
+    std::string fontName() const override { return {}; }
+    void setFontName(const std::string&) override {}
+    int fontSize() const override { return 0; }
+    void setFontSize(int) override {}
+    void printLine(std::string_view) override {}
+    void endDocument() override {}
+};
+
 }  // namespace
 
 class ShipOnScreen::Program {
@@ -41,6 +63,13 @@ public:
                   .pictures = m_pictures,
                   .progress = m_progress,
                   .globals = m_globals,
+                  .settings = m_settings,
+                  .printer = m_printer,
+                  .extras = {},
+                  .showAbout = {},
+                  .showMapper = {},
+                  .showViewer = {},
+                  .showMapCreator = {},
                   .hasScreen = false}) {
         m_globals.formula = formula_calculate;
     }
@@ -49,6 +78,8 @@ private:
     NoDesktop m_desktop;
     NoPictures m_pictures;
     NoProgress m_progress;
+    NoSettings m_settings;
+    NoPrinter m_printer;
     Globals m_globals;
 
 public:

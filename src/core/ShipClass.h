@@ -123,6 +123,8 @@ public:
     /// Loads a design into this ship, which should be new. After a failure the ship holds what
     /// was read before the fault.
     bool loadShip(const std::string& in_sFileName);
+    /// The design as a ship file.
+    std::string shipFile() const;
     const std::optional<Fault>& fileFault() const { return m_fileFault; }
     /// The lines that the last load has passed over: unknown systems, and those that the cloak
     /// rule refuses.
@@ -174,7 +176,6 @@ private:
                          std::string_view WeapRec::*formula);
     bool cloakRuleRefuses(std::string_view name) const;
 
-    void writeShipFile(const std::string& fileName) const;
     void readShipFile(const std::string& fileName, int& lineNumber);
     void readShipLine(std::string& line, int lineNumber);
     void takeFileName(const std::string& fileName);

@@ -45,7 +45,7 @@ bool ShipClass::saveShip(std::string& in_sFileName) {
     }
     m_fileFault.reset();
     try {
-        writeShipFile(in_sFileName);
+        saveFile(nativePath(in_sFileName), shipFile());
         takeFileName(in_sFileName);
     } catch (const std::exception& error) {
         m_fileFault = Fault{0, error.what()};
@@ -77,7 +77,7 @@ bool ShipClass::loadShip(const std::string& in_sFileName) {
     return true;
 }
 
-void ShipClass::writeShipFile(const std::string& fileName) const {
+std::string ShipClass::shipFile() const {
     std::string text;
     appendLine(text, "Ship Name: " + g_sShipName);
     appendLine(text, "Designer Name: " + g_sDesignerName);
@@ -93,7 +93,7 @@ void ShipClass::writeShipFile(const std::string& fileName) const {
                                  std::to_string(record.amount));
         }
     }
-    saveFile(nativePath(fileName), text);
+    return text;
 }
 
 void ShipClass::readShipFile(const std::string& fileName, int& lineNumber) {

@@ -1,5 +1,6 @@
 #include "frmMain.h"
 
+#include "ActScope.h"
 #include "Desktop.h"
 #include "Error.h"
 #include "Globals.h"
@@ -7,42 +8,30 @@
 #include "explainShip.h"
 #include "wholeNumber.h"
 
-#include <cassert>
 #include <stdexcept>
 #include <utility>
 
 namespace fleetwright {
 
-/// Marks that an act is under way.
-class frmMain::ActScope {
-public:
-    explicit ActScope(frmMain& window)
-        : m_window(window), m_wasInTurn(std::exchange(window.m_isInTurn, false)) {
-        ++m_window.m_actDepth;
-    }
-    ActScope(const ActScope&) = delete;
-    ActScope& operator=(const ActScope&) = delete;
-    ~ActScope() {
-        --m_window.m_actDepth;
-        m_window.m_isInTurn = m_wasInTurn;
-    }
-
-private:
-    frmMain& m_window;
-    bool m_wasInTurn;
-};
-
 frmMain::frmMain(MainWindowServices services)
-    : Form({.name = "frmMain",
-            .caption = "Fleet Wright",
-            .width = 10830,
-            .height = 8115,
-            .border = Border::FixedMin}),
+    : frmMainMenus({.name = "frmMain",
+                    .caption = "Fleet Wright",
+                    .width = 10830,
+                    .height = 8115,
+                    .border = Border::FixedMin}),
       m_services(std::move(services)) {
     txtMass.onLostFocus = [this] { raiseMassToSmallest(); };
+    txtMass.onMouseDown = [this](const MousePress&) { txtMass_MouseDown(); };
+    txtShipName.onDblClick = [this] { txtShipName_DblClick(); };
+    txtShipName.onKeyPress = [this](int key) { return txtShipName_KeyPress(key); };
+    txtDesigner.onDblClick = [this] { txtDesigner_DblClick(); };
+    txtDesigner.onKeyPress = [this](int key) { return txtDesigner_KeyPress(key); };
     tvWeapons.onClick = [this] { tvWeapons_Click(); };
     tvWeapons.onDblClick = [this] { tvWeapons_DblClick(); };
     tvWeapons.onMouseDown = [this](const MousePress& press) { tvWeapons_MouseDown(press); };
+    tvWeapons.onMouseMove = [this](const MousePress& press) { tvWeapons_MouseMove(press); };
+    tvWeapons.onMouseUp = [this](const MousePress& press) { tvWeapons_MouseUp(press); };
+    lvCurrentWeapons.onDragDrop = [this](Control& source) { lvCurrentWeapons_DragDrop(source); };
     lvCurrentWeapons.onClick = [this] { lvCurrentWeapons_Click(); };
     lvCurrentWeapons.onDblClick = [this] { lvCurrentWeapons_DblClick(); };
     lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
@@ -51,7 +40,9 @@ frmMain::frmMain(MainWindowServices services)
     tvWeapons.nodeToolTip = [this](const TreeView::Node& node) {
         const std::string system =
             node.children.empty() ? describeSystem(*g_Ship, node.key, 1) : std::string();
-        return system.empty() ? system : system + "\n\nDouble-click, or press Enter, to fit one";
+        return system.empty()
+                   ? system
+                   : system + "\n\nDouble-click, press Enter or drag it to the list to fit one";
     };
     lvCurrentWeapons.rowToolTip = [this](const ListView::Row& row) {
         return describeSystem(*g_Ship, row.key, wholeNumber(row.subItem)) +
@@ -91,6 +82,7 @@ void frmMain::Form_Load() {
             g_Ship->g_sDesignerName = m_services.globals.g_sDefaultDesigner;
         }
     });
+    noteSafe();
     m_services.progress.setText("Preparing to load weapons");
     g_bLoaded = false;
     for (const std::string_view root : catalogueRoots) {
@@ -103,8 +95,14 @@ void frmMain::Form_Load() {
         addOwnPictures();
         LoadWeaponTree();
     }
+    loadStep(m_services.desktop, "Error Creating MRU File Object",
+             [this] { CMRUList = std::make_unique<clsMRUFiles>(m_services.settings); });
+    loadStep(m_services.desktop, "Error Setting App.Title in MRU File Object",
+             [this] { CMRUList->BaseName(applicationTitle); });
+    loadStep(m_services.desktop, "Error filling MRU File Object", [this] { fillMRU(); });
     m_services.progress.setText("Weapons Loaded");
     RefreshScreen();
+    showRecovered();
     g_bLoaded = true;
 }
 
@@ -123,37 +121,12 @@ void frmMain::Form_Unload(bool& cancel) {
     if (cancel) {
         return;
     }
+    giveUpDesign();
     m_shipEvents.clear();
     g_Ship.reset();
     m_services.freeFormulaLibrary();
     m_services.desktop.unloadAllForms();
     setState(WindowState::Minimized);
-}
-
-void frmMain::replaceShip() {
-    assert(!g_Ship || !g_Ship->isBusy());  // whoever comes in between waits with whenIdle
-    m_shipEvents.clear();
-    g_Ship = std::make_unique<ShipClass>(
-        ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
-                     .formula = m_services.globals.formula,
-                     .eventLoopTurn = [this] { giveTurn(); }});
-    const auto listen = [this](Signal<>& event, void (frmMain::*handler)()) {
-        m_shipEvents.push_back(event.connect([this, handler] { (this->*handler)(); }));
-    };
-    listen(g_Ship->Recalculated, &frmMain::g_Ship_Recalculated);
-    listen(g_Ship->CloakAndMerchant, &frmMain::g_Ship_CloakAndMerchant);
-    listen(g_Ship->ShipLoaded, &frmMain::g_Ship_ShipLoaded);
-    listen(g_Ship->ShipSaved, &frmMain::g_Ship_ShipSaved);
-    listen(g_Ship->WeaponNotFound, &frmMain::g_Ship_WeaponNotFound);
-    listen(g_Ship->AutoMassUnsettled, &frmMain::g_Ship_AutoMassUnsettled);
-}
-
-bool frmMain::loadFile(const std::string& fileName) {
-    replaceShip();
-    lvCurrentWeapons.clear();
-    // An overflow in the middle of a load ends the load; there is nothing to go back to.
-    const ActScope scope(*this);
-    return g_Ship->loadShip(fileName);
 }
 
 void frmMain::g_Ship_CloakAndMerchant() {
@@ -236,6 +209,11 @@ void frmMain::giveTurn() {
 
 void frmMain::RefreshScreen() {
     const std::optional<std::size_t> row = lvCurrentWeapons.selected();
+    mnuSave.setEnabled(!g_Ship->g_sSaveName.empty());
+    mnuSSD.setEnabled(g_Ship->mass() <= m_services.globals.g_iLargestSSD);
+    if (m_services.recovery != nullptr && !tmrRecovery.isEnabled()) {
+        tmrRecovery.restart();
+    }
     showFigures();
     showButtons();
     // What cannot be previewed stays as it was, without a word.

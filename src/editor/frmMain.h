@@ -6,21 +6,23 @@
 // enter itself until both agree.
 
 #include "Button.h"
-#include "Form.h"
+#include "DragImage.h"
 #include "Frame.h"
 #include "ImageList.h"
 #include "Label.h"
 #include "ListView.h"
-#include "Menu.h"
 #include "OptionButton.h"
 #include "ShipClass.h"
 #include "StatusBar.h"
 #include "TextBox.h"
 #include "Timer.h"
+#include "TrayIcon.h"
 #include "TreeView.h"
 #include "UpDown.h"
+#include "clsMRUFiles.h"
 #include "controlArray.h"
 #include "frmAmountSlider.h"
+#include "frmMainMenus.h"
 
 #include <memory>
 #include <optional>
@@ -29,7 +31,11 @@ namespace fleetwright {
 
 class Desktop;
 class PictureFiles;
+class Printer;
+class RecoveryFolder;
+class SettingsStore;
 class StartUpProgress;
+class frmExtras;
 struct Globals;
 
 /// What the main window needs of the world around it. All of it outlives the window.
@@ -41,15 +47,26 @@ struct MainWindowServices {
     PictureFiles& pictures;
     StartUpProgress& progress;
     Globals& globals;
+    SettingsStore& settings;
+    Printer& printer;
+    /// The windows that the menus open; the first one is shown above this window.
+    std::function<frmExtras&()> extras;
+    std::function<void()> showAbout;
+    std::function<void()> showMapper;
+    std::function<void()> showViewer;
+    std::function<void()> showMapCreator;
+    /// Where designs are put aside; null if they are not.
+    RecoveryFolder* recovery = nullptr;
     /// Without a screen nobody sees the tree, and it is not built.
     bool hasScreen = true;
 };
 
-class frmMain : public Form {
+class frmMain : public frmMainMenus {
 public:
     explicit frmMain(MainWindowServices services);
 
     bool g_bLoaded = false;                   ///< the load has finished
+    std::unique_ptr<clsMRUFiles> CMRUList;    ///< the ship files used last
     std::unique_ptr<ShipClass> g_Ship;        ///< the current ship; a load replaces the object
     std::unique_ptr<frmAmountSlider> frmSld;  ///< the amount dialog that was opened last
 
@@ -59,6 +76,10 @@ public:
     /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
     /// is a new one all the same, and its `fileFault` says why.
     bool loadFile(const std::string& fileName);
+    /// Shows the list of recent files in the menu.
+    void fillMRU();
+    /// Gives the ship its names, without a recalculation.
+    void nameShip(const std::string& designer, const std::string& shipName);
 
     // The mass.
     Frame fraMassNfo{*this,
@@ -279,29 +300,75 @@ public:
 
     StatusBar sbStatus{*this, {.name = "sbStatus"}};
 
-    // Menus. The second one is shown as a pop-up on the tree.
-    MenuEntry mnuExtras{*this, {.name = "mnuExtras", .caption = "Extras"}};
-    MenuEntry mnuAutoMass{
-        mnuExtras, {.name = "mnuAutoMass", .caption = "AutoMass"}, [this] { mnuAutoMass_Click(); }};
-    MenuEntry mnuAddWeaps{*this,
-                          {.name = "mnuAddWeaps", .caption = "AddWeaps", .isVisible = false}};
-    std::array<MenuEntry, 10> mnuAddWeap = controlArray<MenuEntry, 10>(
-        [this](int index) { return addEntry(mnuAddWeaps, "mnuAddWeap", index + 1); });
-    MenuEntry mnuMore{mnuAddWeaps, {.name = "mnuMore", .caption = "More"}};
-    std::array<MenuEntry, 3> mnuAddWeapEx = controlArray<MenuEntry, 3>([this](int index) {
-        constexpr std::array<int, 3> amounts = {20, 50, 100};
-        return addEntry(mnuMore, "mnuAddWeapEx", amounts[static_cast<std::size_t>(index)]);
-    });
-
+    DragImage imgDrag{*this, {.name = "imgDrag", .place = {0, 0, 480, 480}, .isVisible = false}};
+    TrayIcon tray1{
+        *this,
+        {.name = "tray1", .picture = "tray", .toolTip = "Nils's Fleetwright"},
+        {.leftClick = [this] { restore(); }, .rightClick = [this] { tray1_RightClick(); }}};
     Timer tmrRefreshScreen{*this, "tmrRefreshScreen", 15000, true,
                            [this] { tmrRefreshScreen_Timer(); }};
+    /// Two seconds after a change it puts the design aside.
+    Timer tmrRecovery{*this, "tmrRecovery", 2000, false, [this] { tmrRecovery_Timer(); }};
 
 protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
+    void Form_Resize() override;
 
 private:
     class ActScope;
+
+    // The menus.
+    void mnuNew_Click() override;
+    void mnuLoad_Click() override;
+    void mnuSaveAs_Click() override;
+    void mnuSave_Click() override;
+    void mnuPrint_Click() override;
+    void mnuExit_Click() override { unload(); }
+    void mnuMRUFile_Click(int Index) override;
+    void mnuStdHull_Click(bool isMerchant, std::int32_t mass) override;
+    void mnuExtrasPage_Click() override;
+    void mnuSSD_Click() override { m_services.showMapper(); }
+    void mnuViewSSD_Click() override { m_services.showViewer(); }
+    void mnucreateSSDMap_Click() override { m_services.showMapCreator(); }
+    void mnuAutoMass_Click() override;
+    void mnuHelp_Click() override;
+    void mnuAbout_Click() override { m_services.showAbout(); }
+    void mnuAddWeap_Click(std::int32_t amount) override { AddSelectedWeapon(amount); }
+    void mnuRestore_Click() override { restore(); }
+    void mnuExitTask_Click() override { unload(); }
+
+    // Files.
+    void replaceShipAndRows();
+    void whenReplaceable(std::function<void()> replace);
+    bool saveAs(std::string fileName);
+    void addRecentFile();
+    void printCopies(int copies);
+
+    // Designs put aside.
+    void tmrRecovery_Timer();
+    void noteSafe();
+    bool isSafe() const;
+    void putAside();
+    void giveUpDesign();
+    void showRecovered();
+
+    // The two names.
+    void txtShipName_DblClick();
+    void txtDesigner_DblClick();
+    bool txtShipName_KeyPress(int KeyAscii);
+    bool txtDesigner_KeyPress(int KeyAscii);
+    void openName(TextBox& box, bool& isEditing);
+    void commitName(TextBox& box, bool& isEditing, std::string& name);
+
+    // The tray.
+    void tray1_RightClick();
+    void restore();
+
+    // Dragging a system to the list.
+    void tvWeapons_MouseMove(const MousePress& press);
+    void tvWeapons_MouseUp(const MousePress& press);
+    void lvCurrentWeapons_DragDrop(const Control& Source);
 
     Label figureLabel(const std::string& name, const std::string& caption, int top, int left = 105,
                       int width = 1260);
@@ -309,7 +376,6 @@ private:
     Button treeButton(const std::string& name, const std::string& root, const std::string& spoken,
                       Place place);
     UpDown::Handlers massHandlers(std::int32_t step);
-    MenuEntry addEntry(MenuEntry& menu, const std::string& name, int amount);
 
     // The ship and its events.
     void replaceShip();
@@ -384,7 +450,7 @@ private:
     void stepMass(std::int32_t step);
     void raiseMassToSmallest();
     void txtMass_Change();
-    void mnuAutoMass_Click();
+    void txtMass_MouseDown();
 
     // The systems aboard.
     void AddSelectedWeapon(std::int32_t amount);
@@ -398,9 +464,12 @@ private:
     MainWindowServices m_services;
     std::vector<Connection> m_shipEvents;
     Connection m_countChanged;
-    std::string sLastStatus;  ///< the status line at the last tick
-    int m_actDepth = 0;       ///< acts that are under way, one inside the other
-    bool m_isInTurn = false;  ///< the innermost of them has given the event loop its turn
+    bool bShipNameEditing = false;  ///< the name's box is open
+    bool bDesignerEditing = false;  ///< the designer's box is open
+    std::string sLastStatus;        ///< the status line at the last tick
+    std::string m_safeFile;         ///< the design as it was when nothing of it could be lost
+    int m_actDepth = 0;             ///< acts that are under way, one inside the other
+    bool m_isInTurn = false;        ///< the innermost of them has given the event loop its turn
     std::vector<std::function<void()>> m_whenIdle;
 };
 

@@ -3,6 +3,7 @@
 
 #include "frmMain.h"
 
+#include "Desktop.h"
 #include "Error.h"
 #include "checkedArithmetic.h"
 #include "wholeNumber.h"
@@ -33,6 +34,20 @@ void frmMain::txtMass_Change() {
     if (!txtMass.text().empty()) {
         act([&] { g_Ship->mass(wholeNumber(txtMass.text())); });
     }
+}
+
+void frmMain::txtMass_MouseDown() {
+    // A box that was out for a moment has dropped whatever it was doing with the press.
+    txtMass.setEnabled(false);
+    txtMass.setEnabled(true);
+    m_services.desktop.popUp(mnuStdHulls);
+}
+
+void frmMain::mnuStdHull_Click(bool isMerchant, std::int32_t mass) {
+    act([&] {
+        (isMerchant ? optMerchant : optWarship).setOn();
+        txtMass.setText(std::to_string(mass));
+    });
 }
 
 void frmMain::mnuAutoMass_Click() {

@@ -36,12 +36,6 @@ Button frmMain::treeButton(const std::string& name, const std::string& root,
                   [this, root] { toggleCategory(root); });
 }
 
-MenuEntry frmMain::addEntry(MenuEntry& menu, const std::string& name, int amount) {
-    const std::string number = std::to_string(amount);
-    return MenuEntry(menu, {.name = name + number, .caption = "X" + number},
-                     [this, amount] { AddSelectedWeapon(amount); });
-}
-
 /// The pictures of the roots, and the white one that sheets are covered with.
 void frmMain::addOwnPictures() {
     for (const std::string_view key : catalogueRoots) {

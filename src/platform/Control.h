@@ -30,10 +30,12 @@ struct ControlDesign {
     std::string picture = {};  ///< name of the picture that is the control's face
     std::string toolTip = {};
     std::string shortcut = {};        ///< of a menu entry: "Ctrl+N"
+    bool isVerbatim = false;          ///< of a menu entry: an "&" is one, and marks no access key
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
     bool isOn = false;                ///< of an option button or check box
     bool isGraphical = false;  ///< of an option button or check box: a button that stays down
     bool isFramed = false;     ///< of a label or picture box: with a border
+    bool isHeading = false;    ///< of a label: in large letters
     bool isFlat = false;       ///< of a text box: on the colour of its window, as a label
     bool isLocked = false;     ///< of a text box: shows, but takes no typing
     bool isMultiline = false;  ///< of a text box: with as many lines as it holds

@@ -4,7 +4,8 @@
 
 namespace fleetwright {
 
-/// A control that listens to the pointer: clicks, double-clicks and presses of its buttons.
+/// A control that listens to the pointer: clicks, double-clicks, presses of its buttons, moves, and
+/// what is dropped on it.
 class PointedControl : public Control {
 public:
     using Control::Control;
@@ -28,9 +29,32 @@ public:
         }
     }
 
+    /// The pointer has moved over it; `press.button` holds the bits of the buttons that are down.
+    void moveMouse(const MousePress& press) {
+        if (takesActs() && onMouseMove) {
+            onMouseMove(press);
+        }
+    }
+
+    void releaseMouse(const MousePress& press) {
+        if (takesActs() && onMouseUp) {
+            onMouseUp(press);
+        }
+    }
+
+    /// The user has dropped a control of the same form on it.
+    void drop(Control& source) {
+        if (takesActs() && onDragDrop) {
+            onDragDrop(source);
+        }
+    }
+
     Handler onClick;
     Handler onDblClick;
     std::function<void(const MousePress&)> onMouseDown;
+    std::function<void(const MousePress&)> onMouseMove;
+    std::function<void(const MousePress&)> onMouseUp;
+    std::function<void(Control&)> onDragDrop;
 };
 
 }  // namespace fleetwright

@@ -17,6 +17,9 @@ public:
                      const std::filesystem::path& folder, int milliseconds,
                      const std::function<void()>& onWait) = 0;
 
+    /// Starts a program in a window of its own and goes on; whether it could be started.
+    virtual bool start(const std::filesystem::path& program) = 0;
+
     /// Loads a module; null if it cannot be loaded.
     virtual void* loadLibrary(const std::filesystem::path& file) = 0;
     /// A function that a loaded module exports; null if it has none of that name.

@@ -4,7 +4,11 @@
 
 namespace fleetwright {
 
-/// A text of one line. Its change event is raised whenever the text changes, whoever changed it.
+/// The code of the Enter key in key events.
+inline constexpr int EnterKey = 13;
+
+/// A text of one line, or of many. Its change event is raised whenever the text changes, whoever
+/// changed it.
 class TextBox : public PointedControl {
 public:
     TextBox(Container& container, ControlDesign design, Handler change = {})
@@ -36,11 +40,15 @@ public:
         }
     }
 
+    /// The user has pressed a key; whether the form has dealt with it, so that the box does not.
+    bool pressKey(int KeyAscii) { return takesActs() && onKeyPress && onKeyPress(KeyAscii); }
+
     /// The keyboard's focus has gone elsewhere.
     void loseFocus() { raise(onLostFocus); }
 
     Handler onChange;
     Handler onLostFocus;
+    std::function<bool(int KeyAscii)> onKeyPress;
 };
 
 }  // namespace fleetwright

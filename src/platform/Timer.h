@@ -14,6 +14,12 @@ public:
 
     int interval() const { return m_interval; }
 
+    /// Starts it, or makes the interval begin anew.
+    void restart() {
+        setEnabled(true);
+        Restarted.raise();
+    }
+
     /// The interval has passed. A tick that comes while the last one is still being dealt with,
     /// because that has opened a message box, is left out.
     void tick() {
@@ -25,6 +31,9 @@ public:
     }
 
     Handler onTick;
+
+    /// For whoever runs it.
+    Signal<> Restarted;
 
 private:
     int m_interval;

@@ -2,6 +2,7 @@
 
 #include "formula_calculate.h"
 
+#include <cstdint>
 #include <string>
 
 namespace fleetwright {
@@ -10,6 +11,16 @@ class SettingsStore;
 
 /// The application's title, which is also its name in the settings store.
 inline constexpr const char* applicationTitle = "FleetWright";
+
+/// The product that the application is.
+inline constexpr const char* productName = "Iron Vector Ship Creator";
+
+struct Version {
+    int major;
+    int minor;
+    int revision;
+};
+inline constexpr Version version = {2, 0, 5};
 
 /// What lives as long as the program: the formula library and the settings read at its start.
 /// `app` owns the one there is.
@@ -22,6 +33,8 @@ struct Globals {
     bool g_bConfirmExit = true;  ///< closing asks when the ship is not saved
     /// The designer of the first ship of a run.
     std::string g_sDefaultDesigner = "Nils's Iron Vector Ship Creator";
+
+    std::int16_t g_iLargestSSD = 0;  ///< mass of the largest ship that a map serves; at most 100
 
     /// Reads the settings. A switch is on only where the text is "True" to the letter.
     void readSettings(const SettingsStore& store);

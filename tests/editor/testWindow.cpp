@@ -35,8 +35,8 @@ public:
             m_test.inDialog(form);
         }
     }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return m_test.file; }
+    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return m_test.file; }
     void unloadAllForms() override { m_test.m_log += "unload all; "; }
     ScreenSize screenSize() override { return {1024, 768}; }
 
@@ -73,9 +73,70 @@ private:
     TestWindow& m_test;
 };
 
+class TestWindow::Settings : public SettingsStore {
+public:
+    explicit Settings(TestWindow& test) : m_test(test) {}
+
+    std::string read(const std::string& section, const std::string& key,
+                     const std::string& otherwise) const override {
+        const auto found = m_test.settings.find(section + '/' + key);
+        return found == m_test.settings.end() ? otherwise : found->second;
+    }
+    void write(const std::string& section, const std::string& key,
+               const std::string& value) override {
+        m_test.settings[section + '/' + key] = value;
+    }
+
+private:
+    TestWindow& m_test;
+};
+
+class TestWindow::Paper : public Printer {
+public:
+    explicit Paper(TestWindow& test) : m_test(test) {}
+
+    std::optional<int> choose() override { return m_test.copies; }
+    std::string fontName() const override { return m_font; }
+    void setFontName(const std::string& name) override {
+        m_font = name;
+        m_test.m_log += "font " + name + "; ";
+    }
+    int fontSize() const override { return m_size; }
+    void setFontSize(int points) override {
+        m_size = points;
+        m_test.m_log += "size " + std::to_string(points) + "; ";
+    }
+    void printLine(std::string_view) override { ++m_lines; }
+    void endDocument() override {
+        if (m_test.printerFails) {
+            throw Error("no paper");
+        }
+        m_test.m_log += std::to_string(std::exchange(m_lines, 0)) + " lines; ";
+    }
+
+private:
+    TestWindow& m_test;
+    std::string m_font = "Sans";
+    int m_size = 12;
+    int m_lines = 0;
+};
+
 TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
-      m_progress(std::make_unique<Progress>(*this)) {
+      m_progress(std::make_unique<Progress>(*this)), m_settings(std::make_unique<Settings>(*this)),
+      m_paper(std::make_unique<Paper>(*this)),
+      m_extras({.globals = globals,
+                .settings = *m_settings,
+                .nameShip = [this](const std::string& designer,
+                                   const std::string& ship) { window().nameShip(designer, ship); },
+                .clearRecentFiles =
+                    [this] {
+                        window().CMRUList->clearList();
+                        window().fillMRU();
+                    }}),
+      m_recovery(m_folder.path() / "recovered",
+                 {.ownMark = "1", .isRunning = [](const std::string&) { return false; }},
+                 [this] { return "time " + std::to_string(++m_time); }) {
     globals.formula = formula_calculate;
     globals.g_sDefaultDesigner = "Somebody";
     m_folder.write("weaps.dat", catalogue);
@@ -91,7 +152,15 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .desktop = *m_desk,
                            .pictures = *m_pictures,
                            .progress = *m_progress,
-                           .globals = globals});
+                           .globals = globals,
+                           .settings = *m_settings,
+                           .printer = *m_paper,
+                           .extras = [this]() -> frmExtras& { return m_extras; },
+                           .showAbout = [this] { m_log += "about; "; },
+                           .showMapper = [this] { m_log += "mapper; "; },
+                           .showViewer = [this] { m_log += "viewer; "; },
+                           .showMapCreator = [this] { m_log += "map creator; "; },
+                           .recovery = &m_recovery});
 }
 
 TestWindow::~TestWindow() = default;

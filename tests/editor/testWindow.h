@@ -3,11 +3,17 @@
 #include "Desktop.h"
 #include "Globals.h"
 #include "PictureFiles.h"
+#include "Printer.h"
+#include "RecoveryFolder.h"
+#include "SettingsStore.h"
 #include "StartUpProgress.h"
+#include "frmExtras.h"
 #include "frmMain.h"
 #include "testShip.h"
 
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace fleetwright {
@@ -41,17 +47,30 @@ public:
     std::function<void()> inTurn;
     /// What the user does in the next dialog.
     std::function<void(Form&)> inDialog;
+    /// What the user chooses in file dialogs, and how many copies in the print dialog; nothing is
+    /// Cancel.
+    std::optional<std::string> file;
+    std::optional<int> copies;
+    bool printerFails = false;
+    std::map<std::string, std::string> settings;  ///< "section/key"
 
 private:
     class Desk;
+    class Paper;
     class Pictures;
     class Progress;
+    class Settings;
 
     TemporaryFolder m_folder;
     std::string m_log;
     std::unique_ptr<Desk> m_desk;
     std::unique_ptr<Pictures> m_pictures;
     std::unique_ptr<Progress> m_progress;
+    std::unique_ptr<Settings> m_settings;
+    std::unique_ptr<Paper> m_paper;
+    frmExtras m_extras;
+    int m_time = 0;
+    RecoveryFolder m_recovery;
     std::unique_ptr<frmMain> m_window;
 };
 

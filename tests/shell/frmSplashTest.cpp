@@ -83,6 +83,7 @@ public:
         onWait();
         return archiveWorks;
     }
+    bool start(const fs::path&) override { return false; }
     void* loadLibrary(const fs::path& file) override {
         log += "library " + file.filename().string() + "; ";
         return hasLibrary ? this : nullptr;

@@ -6,7 +6,13 @@
 #include "Globals.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
+#include "QtPrinter.h"
+#include "QtPrograms.h"
+#include "QtRegistry.h"
+#include "QtSettingsStore.h"
 #include "StartUpProgress.h"
+#include "frmAbout.h"
+#include "frmExtras.h"
 #include "frmMain.h"
 
 #include <QApplication>
@@ -76,15 +82,28 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     PictureDesktop desktop(output);
     QtPictureFiles files;
     NoProgress progress;
+    QtSettingsStore settings;
+    QtPrinter printer;
+    QtPrograms programs;
+    QtRegistry registry;
     Globals globals;
     globals.formula = formula_calculate;
+    frmExtras extras(
+        {.globals = globals, .settings = settings, .nameShip = {}, .clearRecentFiles = {}});
     frmMain form({.appFolder = appFolder,
                   .eventLoopTurn = {},
                   .freeFormulaLibrary = [] {},
                   .desktop = desktop,
                   .pictures = files,
                   .progress = progress,
-                  .globals = globals});
+                  .globals = globals,
+                  .settings = settings,
+                  .printer = printer,
+                  .extras = [&extras]() -> frmExtras& { return extras; },
+                  .showAbout = {},
+                  .showMapper = {},
+                  .showViewer = {},
+                  .showMapCreator = {}});
     form.load();
     const auto take = [&](const std::string& name) {
         FormWindow window(form);
@@ -96,6 +115,9 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     showShip(form, data / "ships" / "Provost.shp", "Pulse Cannon III (FPS)");
     take("main");
     form.lvCurrentWeapons.pressMouse({.button = RightButton});
+    form.mnuExtrasPage.choose();
+    frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
+    desktop.showModal(about, form);
     const QPalette light = QApplication::palette();
     QApplication::setPalette(darkPalette());
     take("main-dark");
@@ -117,6 +139,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     const QApplication application(argc, argv);
     QApplication::setStyle("fusion");
     try {

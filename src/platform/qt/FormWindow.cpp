@@ -2,6 +2,7 @@
 
 #include "Button.h"
 #include "CheckBox.h"
+#include "DragImage.h"
 #include "Form.h"
 #include "Frame.h"
 #include "Label.h"
@@ -14,6 +15,7 @@
 #include "StatusBar.h"
 #include "TextBox.h"
 #include "Timer.h"
+#include "TrayIcon.h"
 #include "TreeView.h"
 #include "UpDown.h"
 #include "controlWidgets.h"
@@ -135,6 +137,15 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
         addMenu(*menu, menuBar());
         return nullptr;
     }
+    if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
+        addTrayIcon(*tray, this);
+        return nullptr;
+    }
+    if (auto* const image = dynamic_cast<DragImage*>(&control)) {
+        m_connections.push_back(
+            image->DragWanted.connect([this, image] { dragImage(*image, this); }));
+        return nullptr;
+    }
     if (auto* const timer = dynamic_cast<Timer*>(&control)) {
         auto* const ticking = new QTimer(this);
         ticking->setInterval(timer->interval());
@@ -143,6 +154,7 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
                 timer->tick();
             }
         });
+        m_connections.push_back(timer->Restarted.connect([ticking] { ticking->start(); }));
         ticking->start();
         return nullptr;
     }

@@ -30,6 +30,10 @@ bool QtPrograms::run(const std::filesystem::path& program, const std::string& ar
            process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
+bool QtPrograms::start(const std::filesystem::path& program) {
+    return QProcess::startDetached(QString::fromStdString(program.string()), {});
+}
+
 void* QtPrograms::loadLibrary(const std::filesystem::path& file) {
     auto library = std::make_unique<QLibrary>(QString::fromStdString(file.string()));
     return library->load() ? library.release() : nullptr;

@@ -10,6 +10,7 @@ public:
     bool run(const std::filesystem::path& program, const std::string& argument,
              const std::filesystem::path& folder, int milliseconds,
              const std::function<void()>& onWait) override;
+    bool start(const std::filesystem::path& program) override;
     void* loadLibrary(const std::filesystem::path& file) override;
     void* function(void* library, const std::string& name) override;
     void freeLibrary(void* library) override;

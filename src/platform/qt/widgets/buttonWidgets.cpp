@@ -111,6 +111,15 @@ QWidget* makeWidget(Button& button, QWidget* parent, const Scale& scale) {
     setFace(widget, button.design());
     widget->setAutoDefault(false);
     QObject::connect(widget, &QPushButton::clicked, [&button] { button.press(); });
+    new EventHook(widget, [widget](QEvent* event) {
+        const bool isEnter = event->type() == QEvent::KeyPress &&
+                             (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
+                              static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter);
+        if (isEnter) {
+            widget->click();
+        }
+        return isEnter;
+    });
     return widget;
 }
 

@@ -13,6 +13,7 @@ namespace fleetwright {
 
 class Button;
 class CheckBox;
+class DragImage;
 class Frame;
 class Label;
 class Line;
@@ -23,6 +24,7 @@ class PictureBox;
 class Slider;
 class StatusBar;
 class TextBox;
+class TrayIcon;
 class TreeView;
 class UpDown;
 
@@ -42,6 +44,12 @@ QWidget* makeWidget(UpDown& arrows, QWidget* parent, const Scale& scale);
 
 /// Adds a top-level menu to the bar. A hidden one is left out: it is a pop-up.
 void addMenu(MenuEntry& menu, QMenuBar* bar);
+/// Puts an icon into the tray whenever its model is on, for as long as the window lives.
+void addTrayIcon(TrayIcon& tray, QWidget* window);
+/// Drags a picture until the user lets go; it belongs to the window it came from.
+void dragImage(DragImage& image, QWidget* window);
+/// The picture that is being dragged inside this window, or null.
+DragImage* draggedImage(const QWidget* window);
 /// Shows a menu at a place of the screen and waits until it is gone.
 void popUpMenu(MenuEntry& menu, const QPoint& place);
 

@@ -1,5 +1,6 @@
 // The list view, and the slider of its dialog.
 
+#include "DragImage.h"
 #include "ListView.h"
 #include "Slider.h"
 #include "controlWidgets.h"
@@ -7,6 +8,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -26,6 +28,7 @@ public:
         : QTreeWidget(parent), m_list(list), m_scale(scale) {
         setRootIsDecorated(false);
         setUniformRowHeights(true);
+        viewport()->setAcceptDrops(true);
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
@@ -69,6 +72,15 @@ protected:
         m_list.pressMouse(toPress(*event, m_scale));
     }
 
+    void dragEnterEvent(QDragEnterEvent* event) override { takeDrag(*event); }
+    void dragMoveEvent(QDragMoveEvent* event) override { takeDrag(*event); }
+    void dropEvent(QDropEvent* event) override {
+        if (DragImage* const image = draggedImage(window())) {
+            event->acceptProposedAction();
+            m_list.drop(*image);
+        }
+    }
+
     void contextMenuEvent(QContextMenuEvent* event) override {
         if (event->reason() == QContextMenuEvent::Keyboard) {
             m_list.pressMouse({.button = RightButton});
@@ -97,6 +109,12 @@ protected:
     }
 
 private:
+    void takeDrag(QDragMoveEvent& event) {
+        if (m_list.onDragDrop && draggedImage(window()) != nullptr) {
+            event.acceptProposedAction();
+        }
+    }
+
     /// Sets the headers up; from then on the widths are the user's.
     void showColumns() {
         m_shownColumns = m_list.columns().size();

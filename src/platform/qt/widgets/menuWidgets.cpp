@@ -27,7 +27,8 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
         action->setShortcut(QKeySequence(toQt(entry.design().shortcut)));
     }
     keepInStep(menu, entry, [action, &entry] {
-        action->setText(toQt(entry.caption()));
+        QString caption = toQt(entry.caption());
+        action->setText(entry.design().isVerbatim ? caption.replace('&', "&&") : caption);
         action->setEnabled(entry.isEnabled());
         action->setVisible(entry.isVisible());
         // A mark makes room for itself only in entries that have ever had one.

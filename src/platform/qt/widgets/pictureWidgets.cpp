@@ -20,6 +20,11 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override {
         QFrame::paintEvent(event);
+        if (!m_box.design().picture.empty()) {
+            QPainter painter(this);
+            faceOf(m_box.design().picture).paint(&painter, contentsRect());
+            return;
+        }
         const Raster& picture = m_box.picture();
         if (!picture.isEmpty()) {
             QRect place(0, 0, picture.width(), picture.height());

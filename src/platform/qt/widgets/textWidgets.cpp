@@ -8,6 +8,7 @@
 
 #include <QContextMenuEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -17,7 +18,12 @@ namespace fleetwright {
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
     auto* const widget = new QLabel(parent);
     prepare(widget, label, scale);
-    const QFont font = widget->font();
+    QFont font = widget->font();
+    if (label.design().isHeading) {
+        constexpr double enlargement = 1.6;
+        font.setPointSizeF(font.pointSizeF() * enlargement);
+        font.setBold(true);
+    }
     keepInStep(widget, label, [widget, &label, font, scale] {
         widget->setFont(font);
         widget->setGeometry(scale.rect(label.place()));
@@ -85,6 +91,15 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
                 box.pressMouse({.button = RightButton});
             }
             return static_cast<bool>(box.onMouseDown);
+        case QEvent::KeyPress: {
+            const auto* const key = static_cast<QKeyEvent*>(event);
+            if (key->key() == Qt::Key_F2 && box.onDblClick) {
+                box.doubleClick();  // what the mouse opens and shuts
+                return true;
+            }
+            const QString typed = key->text();
+            return !typed.isEmpty() && box.pressKey(typed.front().unicode());
+        }
         case QEvent::ApplicationPaletteChange:
             show();
             return false;

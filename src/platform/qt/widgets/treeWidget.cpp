@@ -60,11 +60,35 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override {
+        m_pressedAt = event->pos();
         // The right button acts on what is selected and selects nothing itself.
         if (event->button() != Qt::RightButton) {
             QTreeWidget::mousePressEvent(event);
         }
         m_tree.pressMouse(toPress(*event, m_scale));
+    }
+
+    void mouseMoveEvent(QMouseEvent* event) override {
+        if (event->buttons() == Qt::NoButton) {
+            QTreeWidget::mouseMoveEvent(event);
+            return;
+        }
+        // A hand that trembles in a click is no move, and a move selects nothing.
+        const bool isMove =
+            (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
+        if (isMove && m_tree.onMouseMove) {
+            m_tree.moveMouse(toMove(*event, m_scale));
+            if (QApplication::mouseButtons() == Qt::NoButton) {
+                // The button was let go in the middle of a drag, of which the tree hears nothing.
+                setState(NoState);
+                m_tree.releaseMouse({.button = LeftButton});
+            }
+        }
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        QTreeWidget::mouseReleaseEvent(event);
+        m_tree.releaseMouse(toPress(*event, m_scale));
     }
 
     void contextMenuEvent(QContextMenuEvent* event) override {
@@ -114,6 +138,7 @@ private:
 
     TreeView& m_tree;
     Scale m_scale;
+    QPoint m_pressedAt;
     std::vector<QTreeWidgetItem*> m_items;
     std::map<const TreeView::Node*, QTreeWidgetItem*> m_byNode;
     std::map<QTreeWidgetItem*, TreeView::Node*> m_byItem;

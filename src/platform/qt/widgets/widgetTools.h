@@ -90,7 +90,7 @@ private:
     std::function<bool(QEvent*)> m_hook;
 };
 
-/// A press of the mouse as the models know it.
+/// What the mouse has done as the models know it; with the button that has done it.
 inline MousePress toPress(const QMouseEvent& event, const Scale& scale) {
     return {.button = event.button() == Qt::RightButton  ? int(RightButton)
                       : event.button() == Qt::LeftButton ? int(LeftButton)
@@ -100,6 +100,15 @@ inline MousePress toPress(const QMouseEvent& event, const Scale& scale) {
                      (event.modifiers().testFlag(Qt::AltModifier) ? 4 : 0),
             .x = scale.twips(event.position().x()),
             .y = scale.twips(event.position().y())};
+}
+
+/// A move of the mouse; with the buttons that are down.
+inline MousePress toMove(const QMouseEvent& event, const Scale& scale) {
+    MousePress move = toPress(event, scale);
+    move.button = (event.buttons().testFlag(Qt::LeftButton) ? LeftButton : 0) |
+                  (event.buttons().testFlag(Qt::RightButton) ? RightButton : 0) |
+                  (event.buttons().testFlag(Qt::MiddleButton) ? MiddleButton : 0);
+    return move;
 }
 
 }  // namespace fleetwright

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Printer.h"
+
+#include <QFont>
+
+#include <memory>
+
+class QPainter;
+class QPrinter;
+
+namespace fleetwright {
+
+/// Prints through the system's print service, or into a PDF file.
+class QtPrinter : public Printer {
+public:
+    QtPrinter();
+    QtPrinter(const QtPrinter&) = delete;
+    QtPrinter& operator=(const QtPrinter&) = delete;
+    ~QtPrinter() override;
+
+    std::optional<int> choose() override;
+    /// Prints into this file from now on, without a dialog.
+    void chooseFile(const std::string& pdf);
+
+    std::string fontName() const override;
+    void setFontName(const std::string& name) override;
+    int fontSize() const override;
+    void setFontSize(int points) override;
+    void printLine(std::string_view line) override;
+    void endDocument() override;
+
+private:
+    QPrinter& printer();
+    void beginDocument();
+    void printPart(const QString& part);
+
+    std::unique_ptr<QPrinter> m_printer;
+    std::unique_ptr<QPainter> m_painter;  ///< of the document that is being printed
+    QFont m_font;
+    int m_y = 0;  ///< upper edge of the next line, in the printer's pixels
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,27 @@
+#include "RunMarks.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace fleetwright {
+
+RunMarks::RunMarks(std::filesystem::path folder)
+    : m_folder(std::move(folder)), m_own(std::to_string(QCoreApplication::applicationPid())),
+      m_lock(lockOf(m_own)) {
+    QDir().mkpath(QString::fromStdString(m_folder.string()));
+    m_lock.setStaleLockTime(0);  // a lock grows stale with its program, and not with time
+    m_lock.tryLock();
+}
+
+bool RunMarks::isRunning(const std::string& mark) const {
+    QLockFile lock(lockOf(mark));
+    lock.setStaleLockTime(0);
+    // Whoever gets the lock has found that its program is gone; it is given back at once.
+    return !lock.tryLock() && lock.error() == QLockFile::LockFailedError;
+}
+
+QString RunMarks::lockOf(const std::string& mark) const {
+    return QString::fromStdString((m_folder / (mark + ".lock")).string());
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,140 @@
+#include "RecoveryFolder.h"
+
+#include "saveFile.h"
+#include "utf8.h"
+
+#include <algorithm>
+#include <string_view>
+#include <system_error>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view extension = ".shp";
+constexpr char beforeMark = '~';
+
+/// A ship's name as the name of a file: without what some file system does not take, and short.
+std::string fileNameOf(const std::string& shipName) {
+    constexpr std::size_t longest = 60;
+    constexpr std::string_view forbidden = "/\\:*?\"<>|~";
+    std::string name;
+    for (const char c : shipName) {
+        const bool isControl = static_cast<unsigned char>(c) < ' ';
+        name += isControl || forbidden.find(c) != std::string_view::npos ? '_' : c;
+    }
+    if (const std::size_t length = characterCount(name); length > longest) {
+        name = withoutLastCharacters(name, length - longest);
+    }
+    const std::size_t first = name.find_first_not_of(" .");
+    return first == std::string::npos ? "Unnamed" : name.substr(first);
+}
+
+/// The mark of the run that a file belongs to; empty for one that is kept.
+std::string markOf(const fs::path& file) {
+    const std::string mark = file.extension().string();
+    return mark.size() > extension.size() + 1 && mark.starts_with(extension) &&
+                   mark[extension.size()] == beforeMark
+               ? mark.substr(extension.size() + 1)
+               : std::string();
+}
+
+bool isDesign(const fs::path& file) {
+    return file.extension() == extension || !markOf(file).empty();
+}
+
+fs::file_time_type timeOf(const fs::path& file) {
+    std::error_code gone;
+    return fs::last_write_time(file, gone);
+}
+
+}  // namespace
+
+RecoveryFolder::RecoveryFolder(fs::path folder, Runs runs, std::function<std::string()> now)
+    : m_folder(std::move(folder)), m_runs(std::move(runs)), m_now(std::move(now)) {}
+
+std::optional<fs::path> RecoveryFolder::keepLeftBehind() {
+    std::optional<fs::path> newest;
+    for (const Design& design : list(m_folder)) {
+        const std::string mark = markOf(design.file);
+        if (!mark.empty() && mark != m_runs.ownMark && !m_runs.isRunning(mark)) {
+            const fs::path kept = keepFile(design.file);
+            newest = newest ? newest : kept;
+        }
+    }
+    takeOldestAway();
+    return newest;
+}
+
+void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {
+    fs::create_directories(m_folder);
+    const fs::path before = m_ownFile;
+    const std::string name = fileNameOf(shipName);
+    if (m_ownFile.empty() || !m_ownFile.filename().string().starts_with(name + ' ')) {
+        m_ownFile = m_folder /
+                    (name + ' ' + m_now() + std::string(extension) + beforeMark + m_runs.ownMark);
+    }
+    saveFile(m_ownFile, shipFile);
+    if (!before.empty() && before != m_ownFile) {
+        std::error_code gone;
+        fs::remove(before, gone);
+    }
+}
+
+void RecoveryFolder::keep() {
+    if (!m_ownFile.empty()) {
+        keepFile(m_ownFile);
+        m_ownFile.clear();
+        takeOldestAway();
+    }
+}
+
+void RecoveryFolder::forget() {
+    if (!m_ownFile.empty()) {
+        std::error_code gone;
+        fs::remove(m_ownFile, gone);
+        m_ownFile.clear();
+    }
+}
+
+/// Takes the mark of its run off a file. Never over another one.
+fs::path RecoveryFolder::keepFile(const fs::path& file) {
+    const fs::path plain = m_folder / file.stem();
+    fs::path kept = plain.string() + std::string(extension);
+    for (int i = 2; fs::exists(kept); ++i) {
+        kept = plain.string() + " (" + std::to_string(i) + ')' + std::string(extension);
+    }
+    std::error_code error;
+    fs::rename(file, kept, error);
+    return error ? file : kept;
+}
+
+void RecoveryFolder::takeOldestAway() {
+    std::size_t kept = 0;
+    for (const Design& design : list(m_folder)) {
+        if (markOf(design.file).empty() && ++kept > mostKept) {
+            std::error_code gone;
+            fs::remove(design.file, gone);
+        }
+    }
+}
+
+std::vector<RecoveryFolder::Design> RecoveryFolder::list(const fs::path& folder) {
+    std::vector<Design> designs;
+    std::error_code missing;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, missing)) {
+        if (isDesign(entry.path())) {
+            designs.push_back({entry.path().stem().string(), entry.path()});
+        }
+    }
+    std::sort(designs.begin(), designs.end(), [](const Design& a, const Design& b) {
+        const auto timeOfA = timeOf(a.file);
+        const auto timeOfB = timeOf(b.file);
+        return timeOfA != timeOfB ? timeOfA > timeOfB : a.name > b.name;
+    });
+    return designs;
+}
+
+}  // namespace fleetwright

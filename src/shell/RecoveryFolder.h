@@ -1,0 +1,55 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+/// Where designs are put aside, so that none is lost: the one at work again and again, as the file
+/// of this run, and every other that was given up without being saved. A file is named by ship and
+/// time, "Provost 2026-05-01 17.03.59.shp". That of a run has the run's mark behind it.
+class RecoveryFolder {
+public:
+    /// What tells runs of the program apart.
+    struct Runs {
+        std::string ownMark;  ///< letters and digits
+        std::function<bool(const std::string& mark)> isRunning;
+    };
+
+    static constexpr std::size_t mostKept = 10;
+
+    RecoveryFolder(std::filesystem::path folder, Runs runs, std::function<std::string()> now);
+    RecoveryFolder(const RecoveryFolder&) = delete;
+    RecoveryFolder& operator=(const RecoveryFolder&) = delete;
+
+    /// Keeps what runs that have crashed have left. The newest of these designs, if there is one.
+    std::optional<std::filesystem::path> keepLeftBehind();
+    /// Writes the design at work as the file of this run. Throws FileError.
+    void put(const std::string& shipName, const std::string& shipFile);
+    /// Keeps the file of this run, if there is one, for good; of those kept the last ten stay.
+    void keep();
+    /// Takes the file of this run away, if there is one.
+    void forget();
+
+    /// One design that was put aside.
+    struct Design {
+        std::string name;  ///< of ship and time
+        std::filesystem::path file;
+    };
+    /// All designs in a folder, the newest first.
+    static std::vector<Design> list(const std::filesystem::path& folder);
+
+private:
+    std::filesystem::path keepFile(const std::filesystem::path& file);
+    void takeOldestAway();
+
+    std::filesystem::path m_folder;
+    Runs m_runs;
+    std::function<std::string()> m_now;
+    std::filesystem::path m_ownFile;
+};
+
+}  // namespace fleetwright
