@@ -9,6 +9,7 @@
 #include "QtSettingsStore.h"
 #include "QtSounds.h"
 #include "TextFile.h"
+#include "applicationFolder.h"
 #include "catalogueFaults.h"
 #include "frmMain.h"
 #include "frmSplash.h"
@@ -26,7 +27,8 @@ namespace {
 class Program {
 public:
     Program(QtDesktop& desktop, Run run)
-        : m_appFolder(nativePath(QApplication::applicationDirPath().toStdString())),
+        : m_appFolder(
+              applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
           m_desktop(desktop), m_sounds(m_appFolder),
           m_splash({.appFolder = m_appFolder,
                     .desktop = desktop,
