@@ -96,6 +96,8 @@ private:
 int runProgram(int argc, char** argv, Run run) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(applicationTitle);
+    // By this name desktops find the entry that a package has installed, and with it the icon.
+    QApplication::setDesktopFileName("org.fleetwright.fleetwright");
     QApplication::setWindowIcon(QIcon(":/pictures/icon.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
     QtDesktop desktop;
