@@ -2,6 +2,7 @@
 # be copied anywhere. Programs and modules are linked straight into it, data are copied there.
 
 set(FLEETWRIGHT_APP_DIR ${CMAKE_BINARY_DIR}/FleetWright)
+set(FLEETWRIGHT_PICTURES_DIR ${CMAKE_BINARY_DIR}/pictures)  # drawn by tools/pictures
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 set(data_folder ${CMAKE_SOURCE_DIR}/data)

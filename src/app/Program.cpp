@@ -13,6 +13,7 @@
 #include "RecoveryFolder.h"
 #include "RunMarks.h"
 #include "TextFile.h"
+#include "applicationFolder.h"
 #include "catalogueFaults.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
@@ -43,6 +44,7 @@ std::string currentTime() {
 class Program {
 public:
     Program(QtDesktop& desktop, Run run)
+<<<<<<< HEAD
         : m_appFolder(nativePath(QApplication::applicationDirPath().toStdString())),
           m_desktop(desktop), m_sounds(m_appFolder), m_runs(recoveryFolder()),
           m_recovery(
@@ -50,6 +52,11 @@ public:
               {.ownMark = m_runs.own(),
                .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
               currentTime),
+=======
+        : m_appFolder(
+              applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
+          m_desktop(desktop), m_sounds(m_appFolder),
+>>>>>>> package
           m_splash({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .settings = m_settings,
@@ -143,6 +150,8 @@ private:
 int runProgram(int argc, char** argv, Run run) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(applicationTitle);
+    // By this name desktops find the entry that a package has installed, and with it the icon.
+    QApplication::setDesktopFileName("org.fleetwright.fleetwright");
     QApplication::setWindowIcon(QIcon(":/pictures/icon.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
     QtDesktop desktop;

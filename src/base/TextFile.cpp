@@ -13,11 +13,17 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::size_t largestTextFile = std::size_t{256} * 1024 * 1024;
+constexpr std::size_t largestFile = std::size_t{256} * 1024 * 1024;
 
 struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
+
+}  // namespace
+
+std::filesystem::path nativePath(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
 
 std::string readBytes(const std::filesystem::path& path) {
     const auto fail = [&path](int code) {
@@ -33,7 +39,7 @@ std::string readBytes(const std::filesystem::path& path) {
     constexpr std::size_t firstTry = 16'384;
     std::error_code noSize;
     const std::uintmax_t size = std::filesystem::file_size(path, noSize);
-    if (!noSize && size > largestTextFile) {
+    if (!noSize && size > largestFile) {
         fail(EFBIG);
     }
     std::string bytes(noSize ? firstTry : static_cast<std::size_t>(size) + 1, '\0');
@@ -48,19 +54,13 @@ std::string readBytes(const std::filesystem::path& path) {
         if (filled < bytes.size()) {
             break;
         }
-        if (filled > largestTextFile) {
+        if (filled > largestFile) {
             fail(EFBIG);
         }
         bytes.resize(bytes.size() * 2);
     }
     bytes.resize(filled);
     return bytes;
-}
-
-}  // namespace
-
-std::filesystem::path nativePath(std::string_view utf8) {
-    return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 std::string readTextFile(const std::filesystem::path& file) {

@@ -10,9 +10,13 @@ namespace fleetwright {
 /// The native path of a path in UTF-8, which is how the program keeps paths as texts.
 std::filesystem::path nativePath(std::string_view utf8);
 
+/// The contents of a file, byte for byte. Throws FileError, also for a file so large that it is
+/// none of ours.
+std::string readBytes(const std::filesystem::path& file);
+
 /// The contents of a text file as UTF-8. A byte order mark is passed over, and a file that is
 /// not valid UTF-8 is taken as Windows-1252, so that old files keep their accents.
-/// Throws FileError, also for a file so large that it is no text of ours.
+/// Throws FileError as `readBytes` does.
 std::string readTextFile(const std::filesystem::path& file);
 
 /// Takes a text apart into its lines, which end at CR, LF or CR LF. An end of line at the very

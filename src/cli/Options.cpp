@@ -1,6 +1,7 @@
 #include "Options.h"
 
 #include "TextFile.h"
+#include "applicationFolder.h"
 #include "executableFolder.h"
 
 #include <array>
@@ -111,7 +112,7 @@ public:
         }
         finish();
         if (m_options.appFolder.empty()) {
-            m_options.appFolder = executableFolder(argv0);
+            m_options.appFolder = applicationFolder(executableFolder(argv0));
         }
         return m_options;
     }
