@@ -44,19 +44,14 @@ std::string currentTime() {
 class Program {
 public:
     Program(QtDesktop& desktop, Run run)
-<<<<<<< HEAD
-        : m_appFolder(nativePath(QApplication::applicationDirPath().toStdString())),
+        : m_appFolder(
+              applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
           m_desktop(desktop), m_sounds(m_appFolder), m_runs(recoveryFolder()),
           m_recovery(
               recoveryFolder(),
               {.ownMark = m_runs.own(),
                .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
               currentTime),
-=======
-        : m_appFolder(
-              applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
-          m_desktop(desktop), m_sounds(m_appFolder),
->>>>>>> package
           m_splash({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .settings = m_settings,
