@@ -25,7 +25,7 @@ struct CommandRow {
     std::string_view help;
 };
 
-constexpr std::array<CommandRow, 7> commandTable = {{
+constexpr std::array<CommandRow, 8> commandTable = {{
     {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
     {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
      "Print the figures of ships, one JSON object a line"},
@@ -37,6 +37,8 @@ constexpr std::array<CommandRow, 7> commandTable = {{
     {"check", Command::Check, "[FILE...]", 0, any,
      "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the folder"},
     {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
+    {"recovered", Command::Recovered, "[NAME OUT]", 0, 2,
+     "List designs that were put aside, or write one as OUT"},
 }};
 
 /// A number that a formula can name, and the option that sets it.
@@ -191,7 +193,10 @@ private:
         if (m_options.command == Command::Eval) {
             m_options.formula = m_options.files.front();
             m_options.files.clear();
-        } else if (m_options.command == Command::Save) {
+        } else if (m_options.command == Command::Recovered && m_options.files.size() == 1) {
+            throw UsageError("recovered needs a NAME and an OUT");
+        } else if (m_options.files.size() == 2 && (m_options.command == Command::Save ||
+                                                   m_options.command == Command::Recovered)) {
             m_options.saveName = m_options.files.back();
             m_options.files.pop_back();
         }

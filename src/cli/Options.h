@@ -8,7 +8,7 @@
 
 namespace fleetwright {
 
-enum class Command { None, Report, Figures, Save, Eval, Explain, Check, Unpack };
+enum class Command { None, Report, Figures, Save, Eval, Explain, Check, Unpack, Recovered };
 
 /// The numbers that a formula on the command line is worked out with.
 struct EvalArguments {
@@ -24,8 +24,8 @@ struct EvalArguments {
 struct Options {
     Command command = Command::None;
     std::filesystem::path appFolder;
-    std::vector<std::string> files;  ///< as given; of `save` only the ship
-    std::string saveName;            ///< of `save`: the file to write
+    std::vector<std::string> files;  ///< as given; of `save` and `recovered` only the first
+    std::string saveName;            ///< of `save` and `recovered`: the file to write
     bool autoMass = false;
     std::string formula;
     EvalArguments evalArguments;

@@ -22,6 +22,7 @@ int runSave(const Options& options);
 int runEval(const Options& options);
 int runCheck(const Options& options);
 int runUnpack(const Options& options);
+int runRecovered(const Options& options);
 
 /// Where the lines of a ship file go that the ship did not take.
 enum class RefusedLines { InOutput, AsComplaints };

@@ -25,6 +25,8 @@ int run(const Options& options) {
         return runCheck(options);
     case Command::Unpack:
         return runUnpack(options);
+    case Command::Recovered:
+        return runRecovered(options);
     case Command::None:
         break;
     }

@@ -261,6 +261,7 @@ void frmMain::tmrRefreshScreen_Timer() {
     }
     sLastStatus = sbStatus.text();
     RefreshScreen();
+    keepFindable();
 }
 
 }  // namespace fleetwright

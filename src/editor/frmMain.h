@@ -364,6 +364,7 @@ private:
     // The tray.
     void tray1_RightClick();
     void restore();
+    void keepFindable();
 
     // Dragging a system to the list.
     void tvWeapons_MouseMove(const MousePress& press);

@@ -9,6 +9,7 @@
 #include "Globals.h"
 #include "Printer.h"
 #include "ReportPrinter.h"
+#include "TextFile.h"
 #include "frmExtras.h"
 
 #include <cassert>
@@ -117,7 +118,7 @@ void frmMain::mnuLoad_Click() {
 void frmMain::mnuMRUFile_Click(int Index) {
     const std::string name = mnuMRUFile[static_cast<std::size_t>(Index - 1)].caption();
     whenReplaceable([this, name] {
-        loadFile(m_services.appFolder.string() + "\\ships\\" + name + shipExtension);
+        loadFile((m_services.appFolder / "ships" / nativePath(name + shipExtension)).string());
     });
 }
 

@@ -25,6 +25,13 @@ void frmMain::Form_Resize() {
     }
 }
 
+/// Brings a hidden window back into the task bar when the tray has gone in which its icon was.
+void frmMain::keepFindable() {
+    if (state() == WindowState::Minimized && !isVisible() && !tray1.isAvailable()) {
+        show();
+    }
+}
+
 void frmMain::tray1_RightClick() {
     m_services.desktop.popUp(mnuTaskBarFunctions);
 }

@@ -60,7 +60,7 @@ bool frmAbout::startTool() {
     if (!GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", path)) {
         return false;
     }
-    const std::filesystem::path tool = nativePath(path + "\\MSINFO32.EXE");
+    const std::filesystem::path tool = nativePath(path) / "MSINFO32.EXE";
     return std::filesystem::exists(tool) && m_services.programs.start(tool);
 }
 

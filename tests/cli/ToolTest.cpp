@@ -205,3 +205,11 @@ TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
     EXPECT_EQ(run({"figures", "-h"}).output, run({"--help"}).output);
     EXPECT_EQ(all(run({"--version"})), "0|FleetWright 2.0.5\n|");
 }
+
+TEST_F(Tool, RecoveredListsDesignsAndWritesOneOut) {
+    // The tool sees no environment, so the designs are those of whoever runs the tests.
+    EXPECT_EQ(run({"recovered"}).status, 0);
+    EXPECT_EQ(all(run({"recovered", "No such design", "out.shp"})),
+              "1||No such design: no design of this name was put aside\n");
+    EXPECT_EQ(run({"recovered", "Half"}).status, 2);
+}

@@ -57,11 +57,18 @@ QtDesktop::QtDesktop() = default;
 QtDesktop::~QtDesktop() = default;
 
 void QtDesktop::present(Form& form) {
-    m_windows[&form] = std::make_unique<FormWindow>(form);
+    Presented& presented = m_presented[&form];
+    const auto makeWhenShown = [&presented, &form] {
+        if (form.isVisible() && presented.window == nullptr) {
+            presented.window = std::make_unique<FormWindow>(form);
+        }
+    };
+    makeWhenShown();
+    presented.changed = form.Changed.connect(makeWhenShown);
 }
 
 void QtDesktop::dismiss(Form& form) {
-    m_windows.erase(&form);
+    m_presented.erase(&form);
 }
 
 Answer QtDesktop::showMessage(const std::string& text, const std::string& title, Buttons buttons,
@@ -125,8 +132,9 @@ void QtDesktop::popUp(MenuEntry& menu) {
 }
 
 void QtDesktop::showModal(Form& form, Form& owner) {
-    const auto ownerWindow = m_windows.find(&owner);
-    FormWindow window(form, ownerWindow == m_windows.end() ? nullptr : ownerWindow->second.get());
+    const auto presented = m_presented.find(&owner);
+    FormWindow window(form,
+                      presented == m_presented.end() ? nullptr : presented->second.window.get());
     QEventLoop loop;
     const Connection ended = form.Changed.connect([&] {
         if (!form.isVisible()) {
@@ -143,7 +151,7 @@ void QtDesktop::showModal(Form& form, Form& owner) {
 
 void QtDesktop::unloadAllForms() {
     std::vector<Form*> forms = m_dialogs;
-    for (const auto& [form, window] : m_windows) {
+    for (const auto& [form, presented] : m_presented) {
         forms.push_back(form);
     }
     for (Form* const form : forms) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Desktop.h"
+#include "Signal.h"
 
 #include <map>
 #include <memory>
@@ -18,7 +19,8 @@ public:
     QtDesktop& operator=(const QtDesktop&) = delete;
     ~QtDesktop() override;
 
-    /// Gives a form its window, which shows and hides with it.
+    /// Gives a form a window, which shows and hides with it. It is made when it is first shown: a
+    /// form that is still loading changes too often for being drawn.
     void present(Form& form);
     /// Takes a form's window away; before the form itself goes.
     void dismiss(Form& form);
@@ -33,7 +35,11 @@ public:
     ScreenSize screenSize() override;
 
 private:
-    std::map<Form*, std::unique_ptr<FormWindow>> m_windows;
+    struct Presented {
+        Connection changed;
+        std::unique_ptr<FormWindow> window;
+    };
+    std::map<Form*, Presented> m_presented;
     std::vector<Form*> m_dialogs;  ///< the modal ones that are open
 };
 

@@ -11,6 +11,11 @@ RunMarks::RunMarks(std::filesystem::path folder)
     QDir().mkpath(QString::fromStdString(m_folder.string()));
     m_lock.setStaleLockTime(0);  // a lock grows stale with its program, and not with time
     m_lock.tryLock();
+    for (const QString& lock :
+         QDir(QString::fromStdString(m_folder.string())).entryList({"*.lock"})) {
+        static_cast<void>(
+            isRunning(QFileInfo(lock).baseName().toStdString()));  // takes stale ones away
+    }
 }
 
 bool RunMarks::isRunning(const std::string& mark) const {

@@ -77,7 +77,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     keepInStep(widget, box, show);
     QObject::connect(widget, &QLineEdit::textEdited,
                      [&box](const QString& text) { box.type(text.toStdString()); });
-    new EventHook(widget, [&box, scale, show](QEvent* event) {
+    new EventHook(widget, [widget, &box, scale, show](QEvent* event) {
         switch (event->type()) {
         case QEvent::MouseButtonPress:
             if (box.onMouseDown) {
@@ -91,6 +91,9 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
                 box.pressMouse({.button = RightButton});
             }
             return static_cast<bool>(box.onMouseDown);
+        case QEvent::ShortcutOverride:
+            // Keys that edit a text are the menu's where there is nothing to edit.
+            return widget->isReadOnly();
         case QEvent::KeyPress: {
             const auto* const key = static_cast<QKeyEvent*>(event);
             if (key->key() == Qt::Key_F2 && box.onDblClick) {

@@ -1,0 +1,294 @@
+#include "testWindow.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A window with a ship file in its folder of ships.
+class Files : public testing::Test {
+protected:
+    Files() {
+        fs::create_directory(test.folder().path() / "ships");
+        ship = test.folder().write("ships/Wasp.shp",
+                                   "Ship Name: Wasp\nMass: 20\nType: Merchant\nSystem: Gun, 2\n");
+        window.show();
+        test.takeLog();
+    }
+
+    /// "caption caption" of the entries of recent files that show; "|" for the separator.
+    std::string recent() {
+        std::string text = window.mnuMRUSep.isVisible() ? "|" : "";
+        for (const MenuEntry& entry : window.mnuMRUFile) {
+            text += entry.isVisible() ? ' ' + entry.caption() : "";
+        }
+        return text;
+    }
+
+    /// Names of the designs put aside.
+    std::string aside() {
+        std::string text;
+        for (const auto& design : RecoveryFolder::list(test.folder().path() / "recovered")) {
+            text += design.file.filename().string() + ' ';
+        }
+        return text;
+    }
+
+    void change() {
+        window.optThrust[test.ship().THRUST() == 4 ? 5 : 4].choose();
+        ASSERT_FALSE(test.ship().g_bSaved);
+    }
+
+    TestWindow test;
+    frmMain& window = test.window();
+    std::string ship;
+};
+
+TEST_F(Files, NewAsksForAnUnsavedShipAndLeavesASavedOne) {
+    change();
+    window.mnuAutoMass.choose();
+    test.takeLog();
+    window.mnuNew.choose();
+    EXPECT_EQ(test.takeLog(), "box: Ship not saved, delete? / Ship not saved! yes-no info; ");
+    EXPECT_EQ(test.ship().THRUST(), 4) << "answered with No";
+    EXPECT_TRUE(window.mnuAutoMass.isChecked());
+
+    test.answer = Answer::Yes;
+    window.mnuNew.choose();
+    EXPECT_EQ(test.ship().THRUST(), 2);
+    EXPECT_TRUE(test.ship().g_bSaved) << "whatever the buttons have clicked";
+    EXPECT_EQ(test.ship().g_sDesignerName, "Nils's Iron Vector Creator");
+    EXPECT_FALSE(window.mnuAutoMass.isChecked());
+    EXPECT_TRUE(window.fraMassSpinner.isVisible());
+    EXPECT_FALSE(window.mnuSave.isEnabled());
+    test.takeLog();
+    window.mnuNew.choose();
+    EXPECT_EQ(test.takeLog(), "") << "a saved ship goes without a question";
+}
+
+TEST_F(Files, LoadAsksNothingAndFillsTheList) {
+    change();
+    window.mnuAutoMass.choose();
+    window.mnuLoad.choose();
+    EXPECT_EQ(test.ship().THRUST(), 4) << "cancelled";
+
+    test.file = ship;
+    test.takeLog();
+    window.mnuLoad.choose();
+    EXPECT_EQ(test.takeLog(), "");
+    EXPECT_EQ(test.list(), "Gun 2");
+    EXPECT_TRUE(window.optMerchant.isOn());
+    EXPECT_TRUE(test.ship().g_bSaved);
+    EXPECT_EQ(recent(), "| Wasp");
+    EXPECT_TRUE(window.mnuAutoMass.isChecked()) << "the entry stays, the new ship has none";
+    EXPECT_FALSE(test.ship().g_bAutoMass);
+    EXPECT_FALSE(window.fraMassSpinner.isVisible());
+    window.tmrRefreshScreen.tick();
+    EXPECT_TRUE(window.mnuSave.isEnabled());
+
+    test.file = "missing.shp";
+    window.mnuLoad.choose();
+    EXPECT_EQ(test.takeLog(), "");
+    EXPECT_EQ(test.list(), "");
+    EXPECT_EQ(test.ship().g_sSaveName, "");
+    EXPECT_EQ(recent(), "| Wasp");
+}
+
+TEST_F(Files, AnUnreadableCatalogueLeavesTheShipAtHand) {
+    change();
+    fs::remove(test.folder().path() / "weaps.dat");
+    test.file = ship;
+    test.answer = Answer::Yes;
+    for (MenuEntry* const entry : {&window.mnuLoad, &window.mnuNew}) {
+        test.takeLog();
+        entry->choose();
+        EXPECT_TRUE(test.takeLog().find("weaps.dat: cannot be read") != std::string::npos);
+        EXPECT_EQ(test.ship().THRUST(), 4);
+    }
+}
+
+TEST_F(Files, SavingNamesTheShipAndTheRecentFile) {
+    change();
+    window.mnuSaveAs.choose();
+    EXPECT_EQ(window.sbStatus.text(), "") << "cancelled";
+    test.file = (test.folder().path() / "Hornet").string();
+    window.mnuSaveAs.choose();
+    EXPECT_TRUE(fs::exists(*test.file + ".shp"));
+    EXPECT_EQ(window.sbStatus.text(), "Saved...");
+    EXPECT_TRUE(test.ship().g_bSaved);
+    EXPECT_TRUE(window.mnuSave.isEnabled());
+    EXPECT_EQ(recent(), "| Hornet");
+
+    change();
+    test.file.reset();
+    window.mnuSave.choose();
+    EXPECT_TRUE(test.ship().g_bSaved);
+
+    change();
+    test.file = (test.folder().path() / "none" / "Hornet").string();
+    window.mnuSaveAs.choose();
+    EXPECT_EQ(window.sbStatus.text(), "Saving...");
+    EXPECT_FALSE(test.ship().g_bSaved);
+    EXPECT_EQ(recent(), "| Hornet");
+}
+
+TEST_F(Files, ARecentFileIsLookedForAmongTheShips) {
+    test.file = ship;
+    window.mnuLoad.choose();
+    test.file = (test.folder().path() / "Elsewhere").string();
+    window.mnuSaveAs.choose();
+    EXPECT_EQ(recent(), "| Elsewhere Wasp");
+    window.mnuMRUFile[1].choose();
+    EXPECT_EQ(recent(), "| Wasp Elsewhere");
+    EXPECT_EQ(test.ship().g_sShipName, "Wasp");
+    window.mnuMRUFile[1].choose();
+    EXPECT_EQ(test.ship().g_sSaveName, "") << "it was saved outside that folder";
+    EXPECT_EQ(recent(), "| Wasp Elsewhere");
+}
+
+TEST_F(Files, PrintsEachCopyInItsFont) {
+    window.mnuPrint.choose();
+    EXPECT_EQ(test.takeLog(), "") << "cancelled";
+    test.copies = 2;
+    window.mnuPrint.choose();
+    const std::string copy = "font Courier New; size 10; 17 lines; ";
+    EXPECT_EQ(test.takeLog(), copy + copy + "size 12; font Sans; ");
+    test.printerFails = true;
+    window.mnuPrint.choose();
+    EXPECT_EQ(test.takeLog(), "font Courier New; size 10; ");
+}
+
+TEST_F(Files, ANameIsOpenedAndCommitted) {
+    EXPECT_TRUE(window.txtShipName.isLocked());
+    window.txtShipName.type("Ignored");
+    window.txtShipName.doubleClick();
+    window.txtShipName.type("Mayfly");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.txtShipName.text(), "Generic") << "not committed: the ship's own name is back";
+    window.txtShipName.type("Mayfly");
+    window.txtShipName.pressKey('x');
+    EXPECT_FALSE(window.txtShipName.isLocked());
+    window.txtShipName.pressKey(EnterKey);
+    EXPECT_TRUE(window.txtShipName.isLocked());
+    EXPECT_EQ(test.ship().g_sShipName, "Mayfly");
+    EXPECT_TRUE(test.ship().g_bSaved);
+
+    window.txtDesigner.doubleClick();
+    window.txtDesigner.type("Me");
+    window.txtDesigner.doubleClick();
+    EXPECT_EQ(test.ship().g_sDesignerName, "Me");
+    EXPECT_TRUE(window.txtDesigner.isLocked());
+}
+
+TEST_F(Files, TheExtrasPageShowsTheShipsNamesAndGivesThemBack) {
+    test.file = ship;
+    window.mnuLoad.choose();
+    window.tmrRefreshScreen.tick();
+    test.inDialog = [&](Form& form) {
+        auto& page = dynamic_cast<frmExtras&>(form);
+        EXPECT_EQ(page.txtShipName.text(), "Wasp");
+        page.txtShipName.type("Bee");
+        page.cmdClearMRU.press();
+        page.cmdOK.press();
+    };
+    window.mnuExtrasPage.choose();
+    EXPECT_EQ(window.txtShipName.text(), "Bee");
+    EXPECT_TRUE(test.ship().g_bSaved);
+    EXPECT_EQ(recent(), "");
+}
+
+TEST_F(Files, ADesignThatGoesUnsavedIsKept) {
+    window.tmrRecovery.tick();
+    EXPECT_EQ(aside(), "") << "nothing has changed";
+    change();
+    window.tmrRecovery.tick();
+    EXPECT_EQ(aside(), "Generic time 1.shp~1 ");
+    test.file = (test.folder().path() / "Hornet").string();
+    window.mnuSaveAs.choose();
+    EXPECT_EQ(aside(), "") << "saved";
+
+    window.optThrust[5].choose();
+    test.file = ship;
+    window.mnuLoad.choose();
+    EXPECT_EQ(aside(), "Generic time 2.shp ") << "replaced within two seconds";
+    window.txtShipName.doubleClick();
+    window.txtShipName.type("Bee");
+    window.txtShipName.doubleClick();
+    window.tmrRecovery.tick();
+    EXPECT_TRUE(aside().find("Bee time 3.shp~1 ") != std::string::npos) << "a name is work, too";
+    window.unload();
+    EXPECT_TRUE(aside().find("Bee time 3.shp ") != std::string::npos);
+}
+
+TEST_F(Files, StandardHullsSetHullAndMass) {
+    window.optStarBase.choose();
+    window.mnuFrigate.choose();
+    EXPECT_EQ(window.txtMass.text() + ' ' + window.txtRelSize.text(), "10 Frigate");
+    EXPECT_TRUE(window.optWarship.isOn() && window.optThrust[3].takesActs());
+    EXPECT_EQ(test.ship().THRUST(), 0);
+    window.mnuTAnker.choose();
+    EXPECT_TRUE(window.optMerchant.isOn());
+    EXPECT_EQ(test.ship().mass(), 100);
+    test.ship().g_bSaved = true;
+    window.mnuTAnker.choose();
+    EXPECT_TRUE(test.ship().g_bSaved);
+    test.takeLog();
+    window.txtMass.pressMouse({.button = MiddleButton});
+    EXPECT_EQ(test.takeLog(), "menu: mnuStdHulls; ");
+}
+
+TEST_F(Files, ASystemIsDraggedToTheList) {
+    int drags = 0;
+    const Connection dragged = window.imgDrag.DragWanted.connect([&] { ++drags; });
+    test.selectNode("BEAM");
+    window.tvWeapons.moveMouse({.button = LeftButton});
+    test.selectNode("Gun");
+    window.tvWeapons.moveMouse({.button = LeftButton | RightButton});
+    window.tvWeapons.moveMouse({.button = RightButton});
+    EXPECT_EQ(drags, 0);
+    window.tvWeapons.moveMouse({.button = LeftButton, .x = 30, .y = 45});
+    EXPECT_EQ(drags, 1);
+    EXPECT_TRUE(window.imgDrag.isVisible());
+    EXPECT_EQ(window.imgDrag.place().left, 6825 + 30);
+    window.lvCurrentWeapons.drop(window.txtCost);
+    EXPECT_EQ(test.list(), "");
+    window.lvCurrentWeapons.drop(window.imgDrag);
+    window.lvCurrentWeapons.drop(window.imgDrag);
+    EXPECT_EQ(test.list(), "Gun 2");
+    window.tvWeapons.releaseMouse({.button = LeftButton});
+    EXPECT_FALSE(window.imgDrag.isVisible());
+}
+
+TEST_F(Files, AMinimizedWindowHidesOnlyWhereATrayKeepsIt) {
+    bool hasTray = false;
+    window.tray1.askAvailable = [&] { return hasTray; };
+    window.setState(WindowState::Minimized);
+    EXPECT_TRUE(window.isVisible() && window.tray1.isOn()) << "no tray";
+    window.setState(WindowState::Normal);
+    EXPECT_FALSE(window.tray1.isOn());
+
+    hasTray = true;
+    test.globals.g_bHide = false;
+    window.setState(WindowState::Minimized);
+    EXPECT_TRUE(window.isVisible()) << "not to be hidden";
+    window.mnuRestore.choose();
+    test.globals.g_bHide = true;
+    window.setState(WindowState::Minimized);
+    EXPECT_FALSE(window.isVisible());
+    raise(window.tray1.onLeftClick);
+    EXPECT_TRUE(window.isVisible() && !window.tray1.isOn());
+
+    window.setState(WindowState::Minimized);
+    hasTray = false;
+    window.tmrRefreshScreen.tick();
+    EXPECT_TRUE(window.isVisible()) << "the tray has gone";
+    hasTray = true;
+    change();
+    window.mnuExitTask.choose();
+    EXPECT_TRUE(window.isLoaded()) << "the question was answered with No";
+}
+
+}  // namespace

@@ -1,0 +1,79 @@
+#include "clsMRUFiles.h"
+
+#include "SettingsStore.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+
+using namespace fleetwright;
+
+namespace {
+
+class Store : public SettingsStore {
+public:
+    std::string read(const std::string& section, const std::string& key,
+                     const std::string& otherwise) const override {
+        const auto found = values.find(section + '/' + key);
+        return found == values.end() ? otherwise : found->second;
+    }
+    void write(const std::string& section, const std::string& key,
+               const std::string& value) override {
+        values[section + '/' + key] = value;
+    }
+
+    std::map<std::string, std::string> values;
+};
+
+std::string all(const clsMRUFiles& list) {
+    std::string text;
+    for (std::int16_t i = 0; i <= list.MaxFiles() + 1; ++i) {
+        text += list.getFile(i) + '.';
+    }
+    return text;
+}
+
+TEST(ClsMRUFiles, KeepsTheLastFiveAndMovesAKnownOneToTheTop) {
+    Store store;
+    store.values = {{"Files/File1", "a"}, {"Files/File2", "b"}};
+    auto list = std::make_unique<clsMRUFiles>(store);
+    EXPECT_EQ(all(*list), ".......");
+    list->BaseName("FleetWright");
+    list->BaseName("Other");
+    EXPECT_EQ(list->BaseName(), "FleetWright");
+    EXPECT_EQ(all(*list), ".a.b.....");
+    list->addFile("a");
+    list->addFile("A");
+    EXPECT_EQ(all(*list), ".A.a.b....");
+    list->addFile("b");
+    EXPECT_EQ(all(*list), ".b.A.a....");
+    for (const char* const file : {"c", "d", "e"}) {
+        list->addFile(file);
+    }
+    EXPECT_EQ(all(*list), ".e.d.c.b.A..");
+    list->addFile("c");
+    EXPECT_EQ(all(*list), ".c.e.d.b.A..");
+    EXPECT_EQ(store.values.at("Files/File1"), "a") << "written at the end only";
+    list.reset();
+    EXPECT_EQ(store.values.at("Files/File1") + store.values.at("Files/File5"), "cA");
+}
+
+TEST(ClsMRUFiles, IsClearedInTheStoreToo) {
+    Store store;
+    {
+        clsMRUFiles nameless(store);
+        nameless.addFile("x");
+        nameless.clearList();
+        EXPECT_EQ(nameless.getFile(1), "x");
+    }
+    EXPECT_TRUE(store.values.empty());
+    clsMRUFiles list(store);
+    list.BaseName("FleetWright");
+    list.addFile("x");
+    list.clearList();
+    EXPECT_EQ(store.values.size(), 5U);
+    EXPECT_EQ(all(list), ".......");
+}
+
+}  // namespace
