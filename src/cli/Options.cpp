@@ -24,7 +24,7 @@ struct CommandRow {
     std::string_view help;
 };
 
-constexpr std::array<CommandRow, 7> commandTable = {{
+constexpr std::array<CommandRow, 8> commandTable = {{
     {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
     {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
      "Print the figures of ships, one JSON object a line"},
@@ -33,8 +33,10 @@ constexpr std::array<CommandRow, 7> commandTable = {{
     {"save", Command::Save, "SHIP OUT", 2, 2, "Load a ship and save it as OUT"},
     {"eval", Command::Eval, "FORMULA [NUMBERS]", 1, 1,
      "Work out a mass or cost formula of the catalogue"},
+    {"maps", Command::Maps, "[SHIP]", 0, 1,
+     "List all maps for sheets, or those that a ship fits on"},
     {"check", Command::Check, "[FILE...]", 0, any,
-     "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the folder"},
+     "Say what is wrong with .dat, .shp and .map files, or with all of the folder"},
     {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
 }};
 
