@@ -7,12 +7,21 @@
 #include "utf8.h"
 #include "wholeNumber.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace fleetwright {
 
 namespace {
+
+/// Whether a text is this word of capitals, without regard to case. Maps are many at the start, so
+/// that no line is copied for it.
+bool isInCapitals(std::string_view text, std::string_view word) {
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char a, char b) {
+        return a == b || (a >= 'a' && a <= 'z' && a - 'a' + 'A' == b);
+    });
+}
 
 MapKey mapKeyOf(std::string_view text) {
     static constexpr std::array<std::pair<std::string_view, MapKey>, 8> keys = {{
@@ -25,13 +34,8 @@ MapKey mapKeyOf(std::string_view text) {
         {"FTL", MapKey::Ftl},
         {"THRUST", MapKey::Thrust},
     }};
-    constexpr std::size_t longestKey = 7;
-    if (text.size() > longestKey) {
-        return MapKey::Unknown;
-    }
-    const std::string capitals = toCapitals(text);
     for (const auto& [word, key] : keys) {
-        if (word == capitals) {
+        if (isInCapitals(text, word)) {
             return key;
         }
     }
