@@ -15,7 +15,7 @@ namespace {
 
 /// The entry `name` of a folder, or one whose name differs only in case; empty if there is none.
 fs::path findEntry(const fs::path& folder, const fs::path& name) {
-    const fs::path exact = folder / name;
+    fs::path exact = folder / name;
     std::error_code error;
     if (fs::exists(exact, error)) {
         return exact;

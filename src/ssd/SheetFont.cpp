@@ -49,11 +49,12 @@ Glyph glyphOf(char32_t character) {
         run = runOf(character);
     }
     constexpr int wordBits = 64;
-    const auto wordsEach = static_cast<std::uint32_t>(Glyph::height * run->width / wordBits);
+    const auto wordsEach = static_cast<std::size_t>(Glyph::height * run->width / wordBits);
+    const std::size_t place = character - run->first;
     return {.width = run->width,
             .left = run->left,
             .advance = run->isCombining ? 0 : run->width,
-            .words = glyphWords + run->firstWord + (character - run->first) * wordsEach};
+            .words = glyphWords + run->firstWord + place * wordsEach};
 }
 
 }  // namespace fleetwright

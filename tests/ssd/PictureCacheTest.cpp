@@ -43,9 +43,9 @@ TEST(PictureCache, DecodesAFileOnceHoweverManyThreadsAskForIt) {
     CountingDecoder decoder;
     PictureCache cache(decoder);
     std::atomic<int> wrong = 0;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i) {
-        threads.emplace_back([&] {
+    std::vector<std::thread> threads(8);
+    for (std::thread& thread : threads) {
+        thread = std::thread([&] {
             for (int round = 0; round < 20; ++round) {
                 for (std::size_t file = 0; file < files.size(); ++file) {
                     const auto width = static_cast<std::size_t>(cache.load(files[file]).width());

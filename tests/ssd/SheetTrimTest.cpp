@@ -29,8 +29,7 @@ private:
 
 /// The sheet of a new ship whose text ends with the name of this system.
 RasterSheet sheetOf(const ShipClass& ship, const std::string& lastLine) {
-    const MapFolder folder;
-    const SSDMap map = folder.map("SIZE: 10");
+    static const SSDMap map = MapFolder().map("SIZE: 10");
     WhiteImages images;
     RasterSheet sheet;
     sheet.setPicture(Raster(sheetWidth, 20));
@@ -61,7 +60,7 @@ int inkOf(const std::string& text) {
 }
 
 const std::string head = "\rName: Éa\rDesigner: b\rPoints: 9\r\r";
-const std::string rule = "=================================\r";
+const std::string listHead = head + "=================================\r";
 
 }  // namespace
 
@@ -80,7 +79,7 @@ TEST(SheetTrim, CutsNoLine) {
         // The ship's own catalogue knows the name as none that goes on an arc.
         const std::string name(record.name);
         const RasterSheet sheet = sheetOf(*ship, name);
-        EXPECT_EQ(inkCount(sheet.raster()), inkOf(head + rule + name)) << name;
+        EXPECT_EQ(inkCount(sheet.raster()), inkOf(listHead + name)) << name;
         EXPECT_GT(inkOf(name), 0) << name;
     }
 }
@@ -89,7 +88,7 @@ TEST(SheetTrim, WouldCutALineWithoutInkInItsColumn) {
     const ShipYard yard;
     const auto ship = yard.newShip();
     const RasterSheet sheet = sheetOf(*ship, "!!");
-    EXPECT_LT(inkCount(sheet.raster()), inkOf(head + rule + "!!"));
+    EXPECT_LT(inkCount(sheet.raster()), inkOf(listHead + "!!"));
     // The lower ink of the rule, which is the sixth line below the outline, is in its row 11.
     EXPECT_EQ(sheet.scaleHeight(), 20 + 5 * 16 + 11 + 15);
 }
