@@ -67,6 +67,20 @@ std::size_t characterLength(std::string_view text) {
     return length == 0 ? 1 : length;
 }
 
+char32_t codePoint(std::string_view text) {
+    const std::size_t length = wellFormedLength(text);
+    if (length == 0) {
+        return U'\uFFFD';
+    }
+    const auto lead = static_cast<unsigned char>(text.front());
+    // The lead byte gives away its upper bits to say how many bytes follow.
+    char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
+    for (const char byte : text.substr(1, length - 1)) {
+        code = (code << 6U) | (static_cast<unsigned char>(byte) & 0x3FU);
+    }
+    return code;
+}
+
 bool isUtf8(std::string_view text) {
     constexpr std::uint64_t highBits = 0x8080808080808080U;
     while (!text.empty()) {

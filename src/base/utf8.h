@@ -10,6 +10,10 @@ namespace fleetwright {
 /// begins no well-formed UTF-8 character counts as a character of its own.
 std::size_t characterLength(std::string_view text);
 
+/// The code point of the character at the start of `text`, which is not empty; U+FFFD for a byte
+/// that begins no well-formed character.
+char32_t codePoint(std::string_view text);
+
 /// Whether `text` is well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
 bool isUtf8(std::string_view text);
 

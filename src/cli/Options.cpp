@@ -25,7 +25,7 @@ struct CommandRow {
     std::string_view help;
 };
 
-constexpr std::array<CommandRow, 8> commandTable = {{
+constexpr auto commandTable = std::to_array<CommandRow>({
     {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
     {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
      "Print the figures of ships, one JSON object a line"},
@@ -34,12 +34,14 @@ constexpr std::array<CommandRow, 8> commandTable = {{
     {"save", Command::Save, "SHIP OUT", 2, 2, "Load a ship and save it as OUT"},
     {"eval", Command::Eval, "FORMULA [NUMBERS]", 1, 1,
      "Work out a mass or cost formula of the catalogue"},
+    {"maps", Command::Maps, "[SHIP]", 0, 1,
+     "List all maps for sheets, or those that a ship fits on"},
     {"check", Command::Check, "[FILE...]", 0, any,
-     "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the folder"},
+     "Say what is wrong with .dat, .shp and .map files, or with all of the folder"},
     {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
     {"recovered", Command::Recovered, "[NAME OUT]", 0, 2,
      "List designs that were put aside, or write one as OUT"},
-}};
+});
 
 /// A number that a formula can name, and the option that sets it.
 struct NumberRow {

@@ -8,7 +8,7 @@
 
 namespace fleetwright {
 
-enum class Command { None, Report, Figures, Save, Eval, Explain, Check, Unpack, Recovered };
+enum class Command { None, Report, Figures, Save, Eval, Explain, Maps, Check, Unpack, Recovered };
 
 /// The numbers that a formula on the command line is worked out with.
 struct EvalArguments {

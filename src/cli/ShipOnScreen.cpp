@@ -114,4 +114,8 @@ ShipClass& ShipOnScreen::ship() {
     return *m_program->window.g_Ship;
 }
 
+const ListView& ShipOnScreen::lvCurrentWeapons() const {
+    return m_program->window.lvCurrentWeapons;
+}
+
 }  // namespace fleetwright

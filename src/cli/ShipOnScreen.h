@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ListView.h"
 #include "ShipClass.h"
 
 #include <filesystem>
@@ -28,6 +29,8 @@ public:
 
     /// The ship that was loaded last.
     ShipClass& ship();
+    /// The list of its systems.
+    const ListView& lvCurrentWeapons() const;
 
 private:
     class Program;

@@ -3,13 +3,15 @@
 #include "CatalogueCheck.h"
 #include "Error.h"
 #include "PictureCheck.h"
+#include "SSDMapCheck.h"
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
 #include "TextFile.h"
 #include "capitals.h"
+#include "folders.h"
 
-#include <algorithm>
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -17,28 +19,6 @@ namespace fleetwright {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// The files of a folder with this extension, by name without regard to case. A folder that is not
-/// there has none. Throws FileError if it cannot be read.
-std::vector<fs::path> listFolder(const fs::path& folder, std::string_view extension) {
-    std::vector<fs::path> files;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-         entry.increment(error)) {
-        if (toCapitals(entry->path().extension().string()) == extension) {
-            files.push_back(entry->path());
-        }
-    }
-    if (error && error != std::errc::no_such_file_or_directory) {
-        throw FileError(folder, "cannot be read: " + error.message());
-    }
-    std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
-        const std::string left = toCapitals(a.filename().string());
-        const std::string right = toCapitals(b.filename().string());
-        return left != right ? left < right : a < b;
-    });
-    return files;
-}
 
 std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file) {
     const std::string text = readTextFile(nativePath(file));
@@ -89,7 +69,10 @@ std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file)
         if (extension == ".DAT") {
             return checkCatalogueFile(nativePath(file));
         }
-        return {{0, "neither a catalogue (.dat) nor a ship file (.shp)"}};
+        if (extension == ".MAP") {
+            return checkMapFile(readTextFile(nativePath(file)), appFolder);
+        }
+        return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {
         const bool isOwn = error.file() == nativePath(file);
         return {{0, (isOwn ? "" : error.file().string() + " ") + error.what()}};
@@ -107,12 +90,14 @@ int runCheck(const Options& options) {
     std::vector<std::string> files = options.files;
     if (files.empty()) {
         files.push_back((options.appFolder / "weaps.dat").string());
-        try {
-            for (const fs::path& ship : listFolder(options.appFolder / "ships", ".SHP")) {
-                files.push_back(ship.string());
+        for (const auto& [folder, ending] : {std::pair("ships", ".shp"), {"maps", ".map"}}) {
+            try {
+                for (const fs::path& file : listFolder(options.appFolder / folder, ending)) {
+                    files.push_back(file.string());
+                }
+            } catch (const FileError& error) {
+                complain(error.file().string(), {0, error.what()});
             }
-        } catch (const FileError& error) {
-            complain(error.file().string(), {0, error.what()});
         }
         for (const PictureFault& fault : checkDeliveredPictures(options.appFolder)) {
             complain(fault.file.string(), fault.fault);

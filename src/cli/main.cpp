@@ -21,6 +21,8 @@ int run(const Options& options) {
         return runSave(options);
     case Command::Eval:
         return runEval(options);
+    case Command::Maps:
+        return runMaps(options);
     case Command::Check:
         return runCheck(options);
     case Command::Unpack:

@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "Error.h"
 #include "ShipOnScreen.h"
 #include "inOrder.h"
 
@@ -70,7 +71,12 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
             result.complaints.push_back(complaint(file, *fault));
             return result;
         }
-        result.output = work(file, screen);
+        try {
+            result.output = work(file, screen);
+        } catch (const Error& error) {
+            result.complaints.push_back(complaint(file, {0, error.what()}));
+            return result;
+        }
         if (refusedLines == RefusedLines::AsComplaints) {
             for (const RefusedLine& line : screen.ship().refusedLines()) {
                 result.complaints.push_back(complaint(file, line.fault));

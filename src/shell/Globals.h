@@ -1,5 +1,6 @@
 #pragma once
 
+#include "SSDMaps.h"
 #include "formula_calculate.h"
 
 #include <cstdint>
@@ -22,7 +23,8 @@ struct Version {
 };
 inline constexpr Version version = {2, 0, 5};
 
-/// What lives as long as the program: the formula library and the settings read at its start.
+/// What lives as long as the program: the formula library, the settings and the maps that its start
+/// has read.
 /// `app` owns the one there is.
 struct Globals {
     void* g_hFormulaLib = nullptr;  ///< the loaded formula library
@@ -33,7 +35,7 @@ struct Globals {
     bool g_bConfirmExit = true;  ///< closing asks when the ship is not saved
     /// The designer of the first ship of a run.
     std::string g_sDefaultDesigner = "Nils's Iron Vector Ship Creator";
-
+    SSDMaps g_colSSDMaps;            ///< all maps that were read
     std::int16_t g_iLargestSSD = 0;  ///< mass of the largest ship that a map serves; at most 100
 
     /// Reads the settings. A switch is on only where the text is "True" to the letter.

@@ -27,6 +27,10 @@ void frmSplash::Form_Load() {
     unpackOnFirstRun();
     loadFormulaLibrary();
     checkCatalogue();
+    setText("Loading SSD Maps....");
+    scanMaps(m_services.appFolder, m_services.globals.g_colSSDMaps,
+             m_services.globals.g_iLargestSSD, [this](const std::string& text) { setText(text); });
+    setText("Finished Loading SSD Maps....");
     Timer1.setEnabled(true);
     m_services.mainWindow().load();
 }

@@ -159,7 +159,7 @@ TEST_F(Tool, CheckNamesEveryFault) {
               "part.shp:2: unknown system \"Laser\"\n"
               "part.shp:4: a merchant hull cannot have a cloak and other systems\n"
               "none.shp: cannot be read: No such file or directory\n"
-              "x.gif: neither a catalogue (.dat) nor a ship file (.shp)\n|");
+              "x.gif: neither a catalogue (.dat), a ship file (.shp) nor a map (.map)\n|");
     const ToolRun catalogue = run({"check", "ok/weaps.dat"});
     EXPECT_EQ(catalogue.status, 1);
     EXPECT_EQ(catalogue.output.substr(0, 61),
@@ -169,6 +169,36 @@ TEST_F(Tool, CheckNamesEveryFault) {
     EXPECT_EQ(delivered.output, "");
     EXPECT_EQ(all(run({"--app", "nowhere", "check"})),
               "1|nowhere/weaps.dat: cannot be read: No such file or directory\n|");
+}
+
+TEST_F(Tool, CheckLooksThroughMaps) {
+    m_folder.write("maps/b.MAP", "IMAGE: Hull.gif\nSIZE: 18\nDAMROW: (1,2)\nFTL: 1,2\n");
+    m_folder.write("maps/a.map", "IMAGE: none.gif\nSIZE: 18\nDAMROW: (1,2)\nFTL: (1,2)\n"
+                                 "THRUST: (1)\n");
+    m_folder.write("shipimages/hull.GIF", "");
+    EXPECT_EQ(all(run({"--app", ".", "check", "maps/b.MAP"})),
+              "1|maps/b.MAP:4: \"\" is no number\nmaps/b.MAP: no line \"THRUST\"\n|");
+    const std::string output = run({"--app", ".", "check"}).output;
+    EXPECT_NE(output.find("./maps/a.map:1: there is no outline \"none.gif\"\n"
+                          "./maps/a.map:5: \"\" is no number\n./maps/b.MAP:4: "),
+              std::string::npos)
+        << output;
+}
+
+TEST_F(Tool, MapsAreThoseThatLoadOrThatAShipFitsOn) {
+    EXPECT_EQ(all(run({"--app", ".", "maps"})), "0||");
+    m_folder.write("maps/roomy.map", "SIZE: 50\nWEAP: (1,2,F)\nWEAP: (1,2,F)\nWEAP: (1,2,F)\n");
+    m_folder.write("maps/Light.map", "SIZE: 49\nWEAP: (1,2,F)\nWEAP: (1,2,F)\nWEAP: (1,2,F)\n");
+    m_folder.write("maps/few.MAP", "SIZE: 50\nWEAP: (1,2,F)\nWEAP: (1,2,F)\n");
+    m_folder.write("maps/broken.map", "SIZE: big\n");
+    EXPECT_EQ(all(run({"--app", ".", "maps"})), "0|few\nLight\nroomy\n|");
+    EXPECT_EQ(all(run({"maps", "good.shp", "--app", "."})), "0|roomy\n|");
+    EXPECT_EQ(all(run({"--app", ".", "maps", "part.shp"})),
+              "1|few\nLight\nroomy\n|part.shp:2: unknown system \"Laser\"\n"
+              "part.shp:4: a merchant hull cannot have a cloak and other systems\n");
+    EXPECT_EQ(all(run({"--app", ".", "maps", "bad.shp"})), "1||" + badComplaint);
+    m_folder.write("many.shp", "System: Gun, 32768\n");
+    EXPECT_EQ(all(run({"--app", ".", "maps", "many.shp"})), "1||many.shp: number too large\n");
 }
 
 TEST_F(Tool, WithoutACatalogueNothingCanBeSaid) {
@@ -185,6 +215,7 @@ TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
         {"figures", "-x", "good.shp"},
         {"save", "good.shp"},
         {"save", "good.shp", "a", "b"},
+        {"maps", "good.shp", "part.shp"},
         {"eval"},
         {"eval", "1", "2"},
         {"eval", "1", "--mass"},

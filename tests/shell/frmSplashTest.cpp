@@ -154,7 +154,8 @@ TEST_F(Start, TakesItsStepsInOrderAndGoesWithASoundWhenTheMainWindowIsReady) {
     EXPECT_EQ(run(), "Unpacking the pictures... 1; run images.exe -o for 10000; Unpacking the "
                      "pictures... " +
                          std::to_string(sheetPictures().size() + 1) +
-                         "; library w_dll.dll; load main; ");
+                         "; library w_dll.dll; Loading SSD Maps....; Finished Loading SSD "
+                         "Maps....; load main; ");
     EXPECT_TRUE(fs::is_directory(folder.path() / "images"));
     EXPECT_FALSE(fs::exists(folder.path() / "images" / "images.exe"));
     EXPECT_TRUE(fs::exists(folder.path() / "images.exe"));
@@ -197,7 +198,9 @@ TEST_F(Start, TakesOnlyTheWordTrueForOn) {
 TEST_F(Start, LeavesAFolderOfPicturesAloneEvenAnEmptyOne) {
     fs::create_directory(folder.path() / "images");
     fs::remove(folder.path() / "images.exe");
-    EXPECT_EQ(run(), "library w_dll.dll; load main; ");
+    EXPECT_EQ(
+        run(),
+        "library w_dll.dll; Loading SSD Maps....; Finished Loading SSD Maps....; load main; ");
 }
 
 TEST_F(Start, TakesAHalfMadeFolderOfPicturesAwayAgain) {

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PictureFiles.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace fleetwright {
+
+/// Keeps decoded pictures, so that a file is decoded once per process, and again only when it has
+/// changed. Any number of threads may use it, if the decoder behind it can work on several files
+/// at a time. A picture that cannot be decoded is tried anew each time.
+class PictureCache : public PictureFiles {
+public:
+    /// `files` decodes; it outlives the cache.
+    explicit PictureCache(PictureFiles& files) : m_files(files) {}
+    PictureCache(const PictureCache&) = delete;
+    PictureCache& operator=(const PictureCache&) = delete;
+    ~PictureCache() override = default;
+
+    Raster load(const std::filesystem::path& file) override;
+    Raster builtIn(const std::string& name) override;
+
+private:
+    /// What tells one state of a file from another.
+    struct Stamp {
+        std::filesystem::file_time_type time;
+        std::uintmax_t size = 0;
+
+        friend bool operator==(const Stamp&, const Stamp&) = default;
+    };
+
+    struct Entry {
+        std::mutex mutex;  // held while decoding, so that nobody else does it as well
+        bool isDecoded = false;
+        Stamp stamp;
+        Raster picture;
+    };
+    using Entries = std::map<std::string, std::shared_ptr<Entry>>;
+
+    static Stamp stampOf(const std::filesystem::path& file);
+    std::shared_ptr<Entry> entry(Entries& entries, const std::string& key);
+
+    PictureFiles& m_files;
+    std::mutex m_mutex;  // of the two maps
+    Entries m_loaded;
+    Entries m_builtIn;
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,101 @@
+#include "RasterSheet.h"
+
+#include "Error.h"
+#include "SheetFont.h"
+#include "utf8.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr char lineEnd = '\r';
+
+}  // namespace
+
+void RasterSheet::setControlHeight(int twips) {
+    // A ship can list its systems by the ten thousand. Nobody prints that.
+    constexpr std::int64_t mostPixels = std::int64_t{64} * 1024 * 1024;
+    const int height = std::max(twips / twipsToThePixel, 0);
+    if (std::int64_t{m_raster.width()} * height > mostPixels) {
+        throw Error("the sheet is too large");
+    }
+    Raster resized(m_raster.width(), height);
+    for (int y = 0; y < std::min(height, m_raster.height()); ++y) {
+        for (int x = 0; x < m_raster.width(); ++x) {
+            resized.pixel(x, y) = m_raster.pixel(x, y);
+        }
+    }
+    m_raster = std::move(resized);
+}
+
+void RasterSheet::paint(const Raster& picture, int x, int y) {
+    const int right = std::min(picture.width(), m_raster.width() - x);
+    const int bottom = std::min(picture.height(), m_raster.height() - y);
+    for (int row = std::max(0, -y); row < bottom; ++row) {
+        for (int column = std::max(0, -x); column < right; ++column) {
+            m_raster.pixel(x + column, y + row) = picture.pixel(column, row);
+        }
+    }
+}
+
+void RasterSheet::fill(Pen from, Pen to, std::uint32_t colour) {
+    for (int y = std::max(from.y, 0); y < std::min(to.y, m_raster.height()); ++y) {
+        for (int x = std::max(from.x, 0); x < std::min(to.x, m_raster.width()); ++x) {
+            m_raster.pixel(x, y) = colour;
+        }
+    }
+}
+
+Pen RasterSheet::print(std::string_view text, Pen pen) {
+    const int bottom = pen.y + textHeight(text);
+    while (!text.empty()) {
+        if (text.front() == lineEnd) {
+            pen = {0, pen.y + Glyph::height};
+        } else {
+            pen.x += printCharacter(codePoint(text), pen);
+        }
+        text.remove_prefix(characterLength(text));
+    }
+    return {0, bottom};
+}
+
+/// Prints one character; how far the pen moves on.
+int RasterSheet::printCharacter(char32_t character, Pen pen) {
+    const Glyph glyph = glyphOf(character);
+    // Far beyond the edge nothing shows, and the pen must not run out of its range.
+    if (pen.x > m_raster.width() + glyph.width) {
+        return 0;
+    }
+    for (int y = 0; y < Glyph::height; ++y) {
+        for (int x = 0; x < glyph.width; ++x) {
+            const int column = pen.x + glyph.left + x;
+            if (glyph.hasInk(x, y) && isInside(column, pen.y + y)) {
+                m_raster.pixel(column, pen.y + y) = black;
+            }
+        }
+    }
+    return glyph.advance;
+}
+
+int RasterSheet::textHeight(std::string_view text) const {
+    auto lines = std::count(text.begin(), text.end(), lineEnd);
+    if (!text.empty() && text.back() != lineEnd) {
+        ++lines;
+    }
+    return static_cast<int>(lines) * Glyph::height;
+}
+
+std::uint32_t RasterSheet::pixel(int x, int y) const {
+    return isInside(x, y) ? m_raster.pixel(x, y) : white;
+}
+
+void RasterSheet::refresh() {
+    if (m_refresh) {
+        m_refresh();
+    }
+}
+
+}  // namespace fleetwright

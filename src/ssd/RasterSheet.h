@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Sheet.h"
+
+#include <functional>
+
+namespace fleetwright {
+
+/// A sheet that is nothing but its raster: without a border, 15 twips to the pixel, white where it
+/// grows, printed on in the font of `SheetFont`. Texts are UTF-8.
+class RasterSheet : public Sheet {
+public:
+    static constexpr int twipsToThePixel = 15;
+
+    RasterSheet() = default;
+    /// `refresh` is called when what is drawn so far is to be shown.
+    explicit RasterSheet(std::function<void()> refresh) : m_refresh(std::move(refresh)) {}
+
+    const Raster& raster() const { return m_raster; }
+
+    void setPicture(const Raster& picture) override { m_raster = picture; }
+    int scaleWidth() const override { return m_raster.width(); }
+    int scaleHeight() const override { return m_raster.height(); }
+    int controlHeight() const override { return m_raster.height() * twipsToThePixel; }
+    void setControlHeight(int twips) override;
+    int twipsPerPixel() const override { return twipsToThePixel; }
+    void paint(const Raster& picture, int x, int y) override;
+    void fill(Pen from, Pen to, std::uint32_t colour) override;
+    Pen print(std::string_view text, Pen pen) override;
+    int textHeight(std::string_view text) const override;
+    std::uint32_t pixel(int x, int y) const override;
+    void refresh() override;
+
+private:
+    bool isInside(int x, int y) const {
+        return x >= 0 && x < m_raster.width() && y >= 0 && y < m_raster.height();
+    }
+    int printCharacter(char32_t character, Pen pen);
+
+    Raster m_raster;
+    std::function<void()> m_refresh;
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,121 @@
+#include "SSDMap.h"
+
+#include "TextFile.h"
+#include "capitals.h"
+#include "checkedArithmetic.h"
+#include "folders.h"
+
+#include <algorithm>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string readMapFile(const fs::path& appFolder, const std::string& name) {
+    const fs::path file = nativePath(pathText(appFolder / "maps") + '/' + name + ".map");
+    try {
+        return readTextFile(file);
+    } catch (const FileError&) {
+        const fs::path other = findFile(file);
+        if (other == file) {
+            throw;
+        }
+        return readTextFile(other);
+    }
+}
+
+/// Adds a point; the count is checked before anything changes.
+void append(std::vector<SSDPoint>& points, std::int16_t& count, SSDPoint&& point) {
+    const auto newCount = narrow<std::int16_t>(count + 1);
+    points.push_back(std::move(point));
+    count = newCount;
+}
+
+}  // namespace
+
+void SSDMap::ImageFile(const std::string& in_sFileName) {
+    m_fileFault.reset();
+    try {
+        if (!loadMap(in_sFileName)) {
+            throw InvalidMapError();
+        }
+    } catch (const Error& error) {
+        if (!m_fileFault) {
+            m_fileFault = {0, error.what()};
+        }
+        throw;
+    }
+}
+
+bool SSDMap::loadMap(const std::string& in_sFileName) {
+    iWeapNDX = iDCPNDX = iFIRECONNDX = 0;
+    m_aWeapPnts.clear();
+    m_aDCPPnts.clear();
+    m_aFireconPnts.clear();
+    const std::string text = readMapFile(m_appFolder, in_sFileName);
+    sDisplayName = in_sFileName;
+
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        if (isMapComment(line)) {
+            continue;
+        }
+        try {
+            readLine(cutMapLine(line));
+        } catch (const Error& error) {
+            m_fileFault = {lines.lineNumber(), error.what()};
+            throw;
+        }
+    }
+    return true;
+}
+
+void SSDMap::readLine(const SSDMapLine& line) {
+    switch (line.key) {
+    case MapKey::Size:
+        iMaxMass = mapNumber(line.value);
+        return;
+    case MapKey::Image:
+        sImgFile = outlinePath(m_appFolder, line.value);
+        return;
+    case MapKey::Weap:
+        return append(m_aWeapPnts, iWeapNDX, parseWeapPoint(line.value));
+    case MapKey::FireCon:
+        return append(m_aFireconPnts, iFIRECONNDX, parsePoint(line.value));
+    case MapKey::Dcp:
+        return append(m_aDCPPnts, iDCPNDX, parsePoint(line.value));
+    case MapKey::DamRow:
+        m_ptDam = parsePoint(line.value);
+        return;
+    case MapKey::Ftl:
+        m_ptFTL = parsePoint(line.value);
+        return;
+    case MapKey::Thrust:
+        m_ptThrust = parsePoint(line.value);
+        return;
+    case MapKey::Unknown:
+        return;
+    }
+}
+
+const SSDPoint& SSDMap::at(const std::vector<SSDPoint>& points, std::int16_t index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= points.size()) {
+        throw Error("the map has no such point: " + std::to_string(index));
+    }
+    return points[static_cast<std::size_t>(index)];
+}
+
+std::string outlinePath(const fs::path& appFolder, std::string_view imageValue) {
+    std::string name = toCapitals(imageValue);
+    std::replace(name.begin(), name.end(), '\\', '/');
+    return pathText(appFolder / "shipimages") + '/' + name;
+}
+
+fs::path outlineFile(const SSDMap& map) {
+    return findFile(nativePath(map.sImgFile));
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,182 @@
+#include "SSDMapCheck.h"
+
+#include "Error.h"
+#include "SSDMap.h"
+#include "TextFile.h"
+#include "folders.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <map>
+#include <string>
+#include <utility>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string quote(std::string_view text) {
+    return '"' + std::string(text) + '"';
+}
+
+bool isAppending(MapKey key) {
+    return key == MapKey::Weap || key == MapKey::FireCon || key == MapKey::Dcp;
+}
+
+class MapChecker {
+public:
+    explicit MapChecker(const fs::path& appFolder) : m_appFolder(appFolder) {}
+
+    std::vector<Fault> check(std::string_view text);
+
+private:
+    void checkLine(const SSDMapLine& line);
+    void countLine(const SSDMapLine& line);
+    void checkSize(std::string_view value);
+    void checkImage(std::string_view value);
+    void checkPoint(const SSDMapLine& line);
+    void checkFields(const SSDMapLine& line);
+    void checkArc(std::string_view arc);
+    void checkRounding(std::string_view number);
+    void checkWhole();
+    void complain(std::string text) { m_faults.push_back({m_line, std::move(text)}); }
+
+    fs::path m_appFolder;
+    std::vector<Fault> m_faults;
+    std::map<MapKey, int> m_lastLines;
+    std::map<MapKey, int> m_counts;
+    int m_line = 0;
+};
+
+std::vector<Fault> MapChecker::check(std::string_view text) {
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        m_line = lines.lineNumber();
+        if (!isMapComment(line)) {
+            checkLine(cutMapLine(line));
+        }
+    }
+    m_line = 0;
+    checkWhole();
+    return std::move(m_faults);
+}
+
+void MapChecker::checkLine(const SSDMapLine& line) {
+    if (line.key == MapKey::Unknown) {
+        complain("nobody reads the key " + quote(line.keyText));
+        return;
+    }
+    countLine(line);
+    try {
+        switch (line.key) {
+        case MapKey::Size:
+            return checkSize(line.value);
+        case MapKey::Image:
+            return checkImage(line.value);
+        default:
+            return checkPoint(line);
+        }
+    } catch (const Error& error) {
+        complain(error.what());
+    }
+}
+
+void MapChecker::countLine(const SSDMapLine& line) {
+    const auto [earlier, isFirst] = m_lastLines.try_emplace(line.key, m_line);
+    if (!isFirst && !isAppending(line.key)) {
+        complain("a second line " + quote(line.keyText) + ": also line " +
+                 std::to_string(earlier->second));
+        earlier->second = m_line;
+    }
+    constexpr int most = std::numeric_limits<std::int16_t>::max();
+    if (++m_counts[line.key] == most + 1 && isAppending(line.key)) {
+        complain("more than " + std::to_string(most) + " lines " + quote(line.keyText));
+    }
+}
+
+void MapChecker::checkSize(std::string_view value) {
+    mapNumber(value);
+    checkRounding(value);
+}
+
+void MapChecker::checkImage(std::string_view value) {
+    const fs::path outline = findFile(nativePath(outlinePath(m_appFolder, value)));
+    std::error_code error;
+    if (value.empty() || !fs::is_regular_file(outline, error)) {
+        complain("there is no outline " + quote(value));
+    }
+}
+
+void MapChecker::checkPoint(const SSDMapLine& line) {
+    if (line.key == MapKey::Weap) {
+        checkArc(parseWeapPoint(line.value).sArc);
+    } else {
+        parsePoint(line.value);
+    }
+    if (!line.value.starts_with('(') || !line.value.ends_with(')')) {
+        complain("no parentheses around " + quote(line.value) + ", which is read as " +
+                 quote(withoutEnds(line.value)));
+    }
+    checkFields(line);
+}
+
+/// Looks at the fields of a point that can be read.
+void MapChecker::checkFields(const SSDMapLine& line) {
+    std::string_view inside = withoutEnds(line.value);
+    int coordinates = 2;
+    int fields = 0;
+    while (true) {
+        const std::size_t comma = inside.find(',');
+        if (coordinates-- > 0) {
+            checkRounding(inside.substr(0, comma));
+        }
+        ++fields;
+        if (comma == std::string_view::npos) {
+            break;
+        }
+        inside.remove_prefix(comma + 1);
+    }
+    constexpr int weaponFields = 3;
+    if (line.key == MapKey::Weap && fields > weaponFields) {
+        complain("what stands behind the third comma is lost");
+    }
+}
+
+void MapChecker::checkArc(std::string_view arc) {
+    if (arc.size() != 1 || mapArcs.find(arc) == std::string_view::npos) {
+        complain("unknown arc " + quote(arc) + ", so that the point is never used");
+    }
+}
+
+void MapChecker::checkRounding(std::string_view number) {
+    if (number.find('.') != std::string_view::npos) {
+        complain(quote(number) + " is read as " + std::to_string(mapNumber(number)));
+    }
+}
+
+void MapChecker::checkWhole() {
+    static constexpr std::array<std::pair<MapKey, const char*>, 5> needed = {{
+        {MapKey::Image, "IMAGE"},
+        {MapKey::Size, "SIZE"},
+        {MapKey::DamRow, "DAMROW"},
+        {MapKey::Ftl, "FTL"},
+        {MapKey::Thrust, "THRUST"},
+    }};
+    for (const auto& [key, word] : needed) {
+        if (!m_lastLines.contains(key)) {
+            complain("no line " + quote(word));
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<Fault> checkMapFile(std::string_view text, const fs::path& appFolder) {
+    return MapChecker(appFolder).check(text);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,106 @@
+// The trim takes the lowest ink in pixel column 2 for the end of the text. These tests hold the
+// font and the catalogue to that: no line of a sheet is cut.
+
+#include "RasterSheet.h"
+
+#include "Catalogue.h"
+#include "SSDMap.h"
+#include "SheetFont.h"
+#include "SheetImages.h"
+#include "drawSSD.h"
+#include "sheetWorld.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+
+namespace {
+
+constexpr int sheetWidth = 400;
+
+class WhiteImages : public SheetImages {
+public:
+    Raster file(std::string_view) override { return m_white; }
+    const Raster& system(std::string_view) override { return m_white; }
+
+private:
+    Raster m_white{1, 1};
+};
+
+/// The sheet of a new ship whose text ends with the name of this system.
+RasterSheet sheetOf(const ShipClass& ship, const std::string& lastLine) {
+    static const SSDMap map = MapFolder().map("SIZE: 10");
+    WhiteImages images;
+    RasterSheet sheet;
+    sheet.setPicture(Raster(sheetWidth, 20));
+    SheetLists lists;
+    if (!lastLine.empty()) {
+        lists.lstShipWeap.push_back(lastLine);
+    }
+    drawSSD(sheet, images, map, lists, {"1", "0", "0", "Éa", "b", "9", ship});
+    return sheet;
+}
+
+int inkCount(const Raster& raster) {
+    int count = 0;
+    for (int y = 0; y < raster.height(); ++y) {
+        for (int x = 0; x < raster.width(); ++x) {
+            count += raster.pixel(x, y) == Sheet::black ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+/// Ink of a text that nothing is cut from.
+int inkOf(const std::string& text) {
+    RasterSheet sheet;
+    sheet.setPicture(Raster(sheetWidth, sheet.textHeight(text)));
+    sheet.print(text, {0, 0});
+    return inkCount(sheet.raster());
+}
+
+const std::string head = "\rName: Éa\rDesigner: b\rPoints: 9\r\r";
+const std::string listHead = head + "=================================\r";
+
+}  // namespace
+
+TEST(SheetTrim, CutsNoLine) {
+    const ShipYard yard;
+    const auto ship = yard.newShip();
+    EXPECT_EQ(inkCount(sheetOf(*ship, "").raster()), inkOf(head));
+
+    Catalogue catalogue;
+    catalogue.loadWeaps(SOURCE_FOLDER "/data/weaps.dat");
+    ASSERT_GT(catalogue.records().size(), 100U);
+    for (const WeapRec& record : catalogue.records()) {
+        if (record.name == Catalogue::partyName) {
+            continue;  // that one is never listed
+        }
+        // The ship's own catalogue knows the name as none that goes on an arc.
+        const std::string name(record.name);
+        const RasterSheet sheet = sheetOf(*ship, name);
+        EXPECT_EQ(inkCount(sheet.raster()), inkOf(listHead + name)) << name;
+        EXPECT_GT(inkOf(name), 0) << name;
+    }
+}
+
+TEST(SheetTrim, WouldCutALineWithoutInkInItsColumn) {
+    const ShipYard yard;
+    const auto ship = yard.newShip();
+    const RasterSheet sheet = sheetOf(*ship, "!!");
+    EXPECT_LT(inkCount(sheet.raster()), inkOf(listHead + "!!"));
+    // The lower ink of the rule, which is the sixth line below the outline, is in its row 11.
+    EXPECT_EQ(sheet.scaleHeight(), 20 + 5 * 16 + 11 + 15);
+}
+
+TEST(SheetTrim, FindsEveryCapitalAndDigit) {
+    for (const char character : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789")) {
+        const Glyph glyph = glyphOf(static_cast<unsigned char>(character));
+        bool hasInk = false;
+        for (int y = 0; y < Glyph::height; ++y) {
+            hasInk = hasInk || glyph.hasInk(2, y);
+        }
+        EXPECT_TRUE(hasInk) << character;
+        EXPECT_EQ(glyph.advance, 8) << character;
+    }
+}
