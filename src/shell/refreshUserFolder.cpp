@@ -87,7 +87,7 @@ public:
     void save(const std::string& state) const {
         std::string text = state + '\n';
         for (const auto& [name, contents] : m_given) {
-            text += contents + ' ' + name + '\n';
+            text.append(contents).append(" ").append(name).append("\n");
         }
         saveFile(m_file, text);
     }
