@@ -87,7 +87,7 @@ public:
     void save(const std::string& state) const {
         std::string text = state + '\n';
         for (const auto& [name, contents] : m_given) {
-            text += contents + ' ' + name + '\n';
+            text.append(contents).append(" ").append(name).append("\n");
         }
         saveFile(m_file, text);
     }
@@ -125,12 +125,15 @@ void refreshLink(const fs::path& source, const fs::path& target) {
     if (fs::exists(target)) {
         return;
     }
-    std::error_code ignored;  // another start of the program may be at the same work
     fs::create_directories(target.parent_path());
-    fs::remove(target, ignored);  // a link to what is no longer there
-    fs::create_symlink(fs::canonical(source), target, ignored);
-    if (!fs::exists(target)) {
-        throw FileError(target, "cannot be made");
+    std::error_code error;
+    if (fs::is_symlink(target)) {
+        fs::remove(target, error);  // it leads to what is no longer there
+    }
+    fs::create_symlink(fs::canonical(source), target, error);
+    // Another start of the program may be at the same work.
+    if (error && error != std::errc::file_exists) {
+        throw FileError(target, "cannot be made: " + error.message());
     }
 }
 

@@ -28,6 +28,8 @@ protected:
         deliver("ships/Deleted.shp", "deleted 1");
         deliver("ships/Changed.shp", "changed 1");
     }
+    InstalledFiles(const InstalledFiles&) = delete;
+    InstalledFiles& operator=(const InstalledFiles&) = delete;
     ~InstalledFiles() override { unsetenv("XDG_DATA_HOME"); }
 
     /// Each version's files have a time of their own, as those of a package have.
@@ -138,7 +140,8 @@ TEST_F(InstalledFiles, NameTheFileThatCannotBeMade) {
 }
 
 TEST(UserDataFolder, IsWhereTheDesktopKeepsSuchData) {
-    const std::string home = std::getenv("HOME") == nullptr ? "" : std::getenv("HOME");
+    const char* const set = std::getenv("HOME");
+    const std::string home = set == nullptr ? "" : set;
     setenv("HOME", "/home/someone", 1);
     setenv("XDG_DATA_HOME", "/data", 1);
     EXPECT_EQ(userDataFolder(), "/data/FleetWright");
