@@ -24,7 +24,7 @@ struct CommandRow {
     std::string_view help;
 };
 
-constexpr std::array<CommandRow, 7> commandTable = {{
+constexpr std::array<CommandRow, 8> commandTable = {{
     {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
     {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
      "Print the figures of ships, one JSON object a line"},
@@ -33,6 +33,8 @@ constexpr std::array<CommandRow, 7> commandTable = {{
     {"save", Command::Save, "SHIP OUT", 2, 2, "Load a ship and save it as OUT"},
     {"eval", Command::Eval, "FORMULA [NUMBERS]", 1, 1,
      "Work out a mass or cost formula of the catalogue"},
+    {"scan", Command::Scan, "OUTLINE... [-o OUT]", 1, any,
+     "Make maps from marked outlines; OUT is a file or, for several, a folder"},
     {"check", Command::Check, "[FILE...]", 0, any,
      "Say what is wrong with catalogues (.dat) and ships (.shp), or with all of the folder"},
     {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
@@ -68,6 +70,7 @@ std::string helpText() {
     }
     text += "\nOptions, before or behind the files; \"--\" ends them:\n" +
             padded("  --app DIR", 32) + "The application folder, by default the tool's own\n" +
+            padded("  -o OUT", 32) + "Write there, not to standard output\n" +
             padded("  --auto-mass", 32) + "Fit the hull mass to the systems\n" +
             padded("  --help, --version", 32) + "Show this help, or the version\n" +
             "\nNumbers of eval, with what they are if not given:\n";
@@ -156,6 +159,13 @@ private:
             m_options.appFolder = nativePath(value());
             if (m_options.appFolder.empty()) {
                 throw UsageError("--app needs a folder");
+            }
+            return;
+        }
+        if (name == "-o" && m_options.command == Command::Scan) {
+            m_options.output = value();
+            if (m_options.output.empty()) {
+                throw UsageError("-o needs a file or a folder");
             }
             return;
         }

@@ -8,7 +8,7 @@
 
 namespace fleetwright {
 
-enum class Command { None, Report, Figures, Save, Eval, Explain, Check, Unpack };
+enum class Command { None, Report, Figures, Save, Eval, Explain, Scan, Check, Unpack };
 
 /// The numbers that a formula on the command line is worked out with.
 struct EvalArguments {
@@ -26,6 +26,7 @@ struct Options {
     std::filesystem::path appFolder;
     std::vector<std::string> files;  ///< as given; of `save` only the ship
     std::string saveName;            ///< of `save`: the file to write
+    std::string output;              ///< of `scan`: where the results go; empty if not given
     bool autoMass = false;
     std::string formula;
     EvalArguments evalArguments;

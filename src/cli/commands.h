@@ -20,6 +20,7 @@ int runFigures(const Options& options);
 int runExplain(const Options& options);
 int runSave(const Options& options);
 int runEval(const Options& options);
+int runScan(const Options& options);
 int runCheck(const Options& options);
 int runUnpack(const Options& options);
 

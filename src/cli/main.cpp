@@ -21,6 +21,8 @@ int run(const Options& options) {
         return runSave(options);
     case Command::Eval:
         return runEval(options);
+    case Command::Scan:
+        return runScan(options);
     case Command::Check:
         return runCheck(options);
     case Command::Unpack:
