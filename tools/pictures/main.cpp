@@ -69,6 +69,7 @@ void run(char** arguments) {
     systems.insert(sheet.begin(), sheet.end());
     writeSet(out / "images", systems);
     writeSet(out / "window", window);
+    writeSet(out / "shipimages", outlinePictures(artwork));
     writeFile(out / "window" / "window.qrc", resourceList(window));
     writeFile(out / "blaster.wav", waveFile(artwork.file("blaster.txt")));
 }
