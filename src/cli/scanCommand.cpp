@@ -57,7 +57,7 @@ public:
 
 private:
     fs::path mapName(const std::string& outline) {
-        const fs::path name = nativePath(outline).filename().replace_extension(".map");
+        fs::path name = nativePath(outline).filename().replace_extension(".map");
         const auto [made, isNew] = m_made.try_emplace(toCapitals(name.string()), outline);
         if (!isNew) {
             throw Error("the map \"" + name.string() + "\" is already made from " + made->second);

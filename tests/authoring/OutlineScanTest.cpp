@@ -93,12 +93,12 @@ TEST(OutlineScan, ThreeLengthsOfTheTrackSayTheSize) {
             EXPECT_EQ(scanned({row(other, ".")}), "DAMROW: (0,0) ") << other;
         }
         const std::string found = "DAMROW: (0,0) SIZE: " + size + ' ';
-        const std::string x = std::to_string(black + 1);
+        const std::string place = "(" + std::to_string(black + 1) + ",0";
         EXPECT_EQ(scanned({row(black, ".")}), found);
         EXPECT_EQ(scanned({row(black, "k")}), found);
-        EXPECT_EQ(scanned({row(black, "R")}), found + "FIRECON: (" + x + ",0) ");
-        EXPECT_EQ(scanned({row(black, "YB")}), found + "WEAP: (" + x + ",0,P) ");
-        EXPECT_EQ(scanned({row(black, "M.")}), found + "DAMROW: (" + x + ",0) ");
+        EXPECT_EQ(scanned({row(black, "R")}), found + "FIRECON: " + place + ") ");
+        EXPECT_EQ(scanned({row(black, "YB")}), found + "WEAP: " + place + ",P) ");
+        EXPECT_EQ(scanned({row(black, "M.")}), found + "DAMROW: " + place + ") ");
         EXPECT_EQ(scanned({row(black, "")}), "DAMROW: (0,0) ")
             << "the end of the picture ends no run";
     }
