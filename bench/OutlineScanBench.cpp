@@ -3,7 +3,7 @@
 #include "GoalTable.h"
 #include "OutlineScan.h"
 
-#include <string>
+#include <algorithm>
 
 namespace fleetwright {
 
@@ -27,7 +27,8 @@ Raster outline() {
         }
     }
     for (int i = 0; i < 500; ++i) {
-        mark(picture, 40 + i % 25 * 72, 60 + i / 25 * 90, Yellow, arcMarks[i % 5U].colour);
+        const ArcMark& arc = arcMarks[static_cast<std::size_t>(i) % arcMarks.size()];
+        mark(picture, 40 + i % 25 * 72, 60 + i / 25 * 90, Yellow, arc.colour);
     }
     mark(picture, 0, side - 20, Magenta, Black);
     for (int x = 0; x < side; ++x) {
@@ -40,6 +41,26 @@ void scan(benchmark::State& state) {
     const Raster picture = outline();
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(scanOutline(picture, "outline.gif"));
+    }
+}
+
+/// As a window does it: paints what is done in a copy of the picture, and now and then would look
+/// at the clock.
+void scanWithProgress(benchmark::State& state) {
+    const Raster picture = outline();
+    Raster shown = picture;
+    for ([[maybe_unused]] auto _ : state) {
+        OutlineScan progress(picture, "outline.gif");
+        int pixels = 0;
+        progress.runInStretches([&](int x, int y, int count) {
+            const auto row = shown.row(y).subspan(static_cast<std::size_t>(std::min(x, side)));
+            std::fill_n(row.begin(),
+                        std::min<std::size_t>(row.size(), static_cast<unsigned>(count)), Black);
+            pixels += count;
+            return pixels >= 0;
+        });
+        benchmark::DoNotOptimize(progress.text());
+        benchmark::DoNotOptimize(shown);
     }
 }
 
@@ -58,11 +79,14 @@ void plainPass(benchmark::State& state) {
 
 const bool registered = [] {
     for (auto* bench : {benchmark::RegisterBenchmark("scan of an outline", scan),
+                        benchmark::RegisterBenchmark("scan with progress", scanWithProgress),
                         benchmark::RegisterBenchmark("plain pass over its pixels", plainPass)}) {
         bench->Repetitions(9)->MinTime(0.1);
     }
     RegisterGoal({"Scan of a 2000x2000 outline: times a plain pass over its pixels",
                   "scan of an outline", "plain pass over its pixels", 3, false});
+    RegisterGoal({"The same with its progress painted", "scan with progress",
+                  "plain pass over its pixels", 5, false});
     return true;
 }();
 

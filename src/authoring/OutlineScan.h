@@ -23,21 +23,34 @@ public:
     /// which lies outside the picture (x is its width) if the weapon is in the last column.
     ///
     /// Returns false if `afterPixel` has ended the scan; then the text is "Operation Cancelled".
-    /// The function is inlined, as it is called millions of times.
     template <typename AfterPixel>
     bool run(AfterPixel afterPixel) {
+        return runInStretches([&afterPixel](int x, int y, int count) {
+            for (int i = 0; i < count; ++i) {
+                if (!afterPixel(x + i, y)) {
+                    return false;
+                }
+            }
+            return true;
+        });
+    }
+
+    /// The same for who has much to show: calls `afterStretch(x, y, count)` after so many pixels
+    /// side by side, from (x, y) on, which are no marks, or after a single one.
+    template <typename AfterStretch>
+    bool runInStretches(AfterStretch afterStretch) {
         for (int iRow = 0; iRow < m_picture.height(); ++iRow) {
             for (int iCol = 0; iCol < m_picture.width(); ++iCol) {
-                for (int plain = plainPixels(iCol, iRow); plain > 0; --plain, ++iCol) {
-                    if (!afterPixel(iCol, iRow)) {
-                        return cancel();
-                    }
+                const int plain = plainPixels(iCol, iRow);
+                if (plain > 0 && !afterStretch(iCol, iRow, plain)) {
+                    return cancel();
                 }
+                iCol += plain;
                 if (iCol == m_picture.width()) {
                     break;
                 }
                 iCol += takePixel(iCol, iRow);
-                if (!afterPixel(iCol, iRow)) {
+                if (!afterStretch(iCol, iRow, 1)) {
                     return cancel();
                 }
             }

@@ -27,6 +27,9 @@ public:
     std::uint32_t pixel(int x, int y) const { return m_pixels[index(x, y)]; }
 
     /// The pixels of a row inside the picture.
+    std::span<std::uint32_t> row(int y) {
+        return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
+    }
     std::span<const std::uint32_t> row(int y) const {
         return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
     }

@@ -44,6 +44,11 @@ std::string row(int black, const std::string& behind) {
     return 'M' + std::string(static_cast<std::size_t>(black), '#') + behind;
 }
 
+/// The line of a mark in the first row.
+std::string lineOf(std::string key, int x, const char* arc = "") {
+    return key.append(": (").append(std::to_string(x)).append(",0").append(arc).append(") ");
+}
+
 }  // namespace
 
 TEST(OutlineScan, NamesTheOutlineWithoutItsFolder) {
@@ -93,12 +98,12 @@ TEST(OutlineScan, ThreeLengthsOfTheTrackSayTheSize) {
             EXPECT_EQ(scanned({row(other, ".")}), "DAMROW: (0,0) ") << other;
         }
         const std::string found = "DAMROW: (0,0) SIZE: " + size + ' ';
-        const std::string place = "(" + std::to_string(black + 1) + ",0";
+        const int end = black + 1;
         EXPECT_EQ(scanned({row(black, ".")}), found);
         EXPECT_EQ(scanned({row(black, "k")}), found);
-        EXPECT_EQ(scanned({row(black, "R")}), found + "FIRECON: " + place + ") ");
-        EXPECT_EQ(scanned({row(black, "YB")}), found + "WEAP: " + place + ",P) ");
-        EXPECT_EQ(scanned({row(black, "M.")}), found + "DAMROW: " + place + ") ");
+        EXPECT_EQ(scanned({row(black, "R")}), found + lineOf("FIRECON", end));
+        EXPECT_EQ(scanned({row(black, "YB")}), found + lineOf("WEAP", end, ",P"));
+        EXPECT_EQ(scanned({row(black, "M.")}), found + lineOf("DAMROW", end));
         EXPECT_EQ(scanned({row(black, "")}), "DAMROW: (0,0) ")
             << "the end of the picture ends no run";
     }
@@ -107,8 +112,8 @@ TEST(OutlineScan, ThreeLengthsOfTheTrackSayTheSize) {
 
 TEST(OutlineScan, ARunGoesOnInTheNextRow) {
     const std::string black(60, '#');
-    EXPECT_EQ(scanned({std::string(59, '.') + 'M', black, "###" + std::string(57, '.')}),
-              "DAMROW: (59,0) SIZE: 18 ");
+    const std::string blank(59, '.');
+    EXPECT_EQ(scanned({blank + 'M', black, "###" + blank.substr(2)}), "DAMROW: (59,0) SIZE: 18 ");
     EXPECT_EQ(scanned({'M' + black.substr(1), '.' + black.substr(1)}), "DAMROW: (0,0) ");
     EXPECT_EQ(scanned({row(20, "") + row(63, "."), row(20, std::string(65, '.'))}),
               "DAMROW: (0,0) DAMROW: (21,0) SIZE: 18 DAMROW: (0,1) ");
@@ -139,6 +144,16 @@ TEST(OutlineScan, ShowsEachPlaceAndStopsWhenTold) {
         return true;
     }));
     EXPECT_EQ(places, "0,0 2,0 0,1 1,1 3,1 ");
+
+    OutlineScan inStretches(picture, "a");
+    std::string stretches;
+    EXPECT_TRUE(inStretches.runInStretches([&](int x, int y, int count) {
+        for (int i = 0; i < count; ++i) {
+            stretches += std::to_string(x + i) + ',' + std::to_string(y) + ' ';
+        }
+        return true;
+    }));
+    EXPECT_EQ(stretches, places);
 
     OutlineScan cancelled(picture, "a");
     int pixels = 0;
