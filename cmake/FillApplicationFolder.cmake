@@ -1,5 +1,5 @@
-# Copies the delivered data into the application folder, and takes away what an earlier run has
-# copied and is no longer wanted. Files of the user's own stay.
+# Copies delivered files into the application folder, and takes away what an earlier run has copied
+# and is no longer wanted. Files of the user's own stay.
 #
 #   cmake -DSOURCE=… -DTARGET=… -DWANTED=list -DCOPIED=list -P FillApplicationFolder.cmake
 

@@ -36,6 +36,8 @@ constexpr auto commandTable = std::to_array<CommandRow>({
      "Work out a mass or cost formula of the catalogue"},
     {"maps", Command::Maps, "[SHIP]", 0, 1,
      "List all maps for sheets, or those that a ship fits on"},
+    {"scan", Command::Scan, "OUTLINE... [-o OUT]", 1, any,
+     "Make maps from marked outlines; OUT is a file or, for several, a folder"},
     {"check", Command::Check, "[FILE...]", 0, any,
      "Say what is wrong with .dat, .shp and .map files, or with all of the folder"},
     {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
@@ -73,6 +75,7 @@ std::string helpText() {
     }
     text += "\nOptions, before or behind the files; \"--\" ends them:\n" +
             padded("  --app DIR", 32) + "The application folder, by default the tool's own\n" +
+            padded("  -o OUT", 32) + "Write there, not to standard output\n" +
             padded("  --auto-mass", 32) + "Fit the hull mass to the systems\n" +
             padded("  --help, --version", 32) + "Show this help, or the version\n" +
             "\nNumbers of eval, with what they are if not given:\n";
@@ -161,6 +164,13 @@ private:
             m_options.appFolder = nativePath(value());
             if (m_options.appFolder.empty()) {
                 throw UsageError("--app needs a folder");
+            }
+            return;
+        }
+        if (name == "-o" && m_options.command == Command::Scan) {
+            m_options.output = value();
+            if (m_options.output.empty()) {
+                throw UsageError("-o needs a file or a folder");
             }
             return;
         }

@@ -8,7 +8,19 @@
 
 namespace fleetwright {
 
-enum class Command { None, Report, Figures, Save, Eval, Explain, Maps, Check, Unpack, Recovered };
+enum class Command {
+    None,
+    Report,
+    Figures,
+    Save,
+    Eval,
+    Explain,
+    Maps,
+    Scan,
+    Check,
+    Unpack,
+    Recovered
+};
 
 /// The numbers that a formula on the command line is worked out with.
 struct EvalArguments {
@@ -26,6 +38,7 @@ struct Options {
     std::filesystem::path appFolder;
     std::vector<std::string> files;  ///< as given; of `save` and `recovered` only the first
     std::string saveName;            ///< of `save` and `recovered`: the file to write
+    std::string output;              ///< of `scan`: where the results go; empty if not given
     bool autoMass = false;
     std::string formula;
     EvalArguments evalArguments;

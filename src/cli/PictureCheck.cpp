@@ -19,12 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Width and height in pixels; 0 where they are not known.
-struct PictureSize {
-    int width = 0;
-    int height = 0;
-};
-
 int readGif(GifFileType* gif, GifByteType* bytes, int count) {
     auto& rest = *static_cast<std::string_view*>(gif->UserData);
     const std::size_t taken = std::min(rest.size(), static_cast<std::size_t>(count));
@@ -67,7 +61,7 @@ bool isPicture(const fs::path& file) {
 
 /// What is wrong with the picture of a system; nothing if it is as it should be.
 std::optional<std::string> systemPictureFault(const fs::path& file) {
-    constexpr int side = 32;
+    constexpr int side = systemPictureSize;
     const auto size = pictureSize(file);
     if (!size) {
         return "cannot be read";

@@ -21,6 +21,7 @@ int runExplain(const Options& options);
 int runSave(const Options& options);
 int runEval(const Options& options);
 int runMaps(const Options& options);
+int runScan(const Options& options);
 int runCheck(const Options& options);
 int runUnpack(const Options& options);
 int runRecovered(const Options& options);

@@ -23,6 +23,8 @@ int run(const Options& options) {
         return runEval(options);
     case Command::Maps:
         return runMaps(options);
+    case Command::Scan:
+        return runScan(options);
     case Command::Check:
         return runCheck(options);
     case Command::Unpack:

@@ -33,6 +33,17 @@ TrackSize trackSize(std::int32_t mapMass) {
     return mapMass <= cruiserMass ? TrackSize::Cruiser : TrackSize::Capital;
 }
 
+PictureSize trackPictureSize(TrackSize size) {
+    switch (size) {
+    case TrackSize::Escort:
+        return {64, 28};
+    case TrackSize::Cruiser:
+        return {80, 43};
+    default:
+        return {144, 54};
+    }
+}
+
 std::string damageTrackPicture(TrackSize size, std::string_view damagePoints) {
     constexpr const char* families[] = {"escort", "cruz", "cap"};
     return families[static_cast<int>(size)] + std::string(damagePoints) + ".gif";

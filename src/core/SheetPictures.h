@@ -24,6 +24,18 @@ inline constexpr TrackSize trackSizes[] = {TrackSize::Escort, TrackSize::Cruiser
 /// none.
 TrackSize trackSize(std::int32_t mapMass);
 
+/// Width and height of a picture in pixels; 0 where they are not known.
+struct PictureSize {
+    int width = 0;
+    int height = 0;
+};
+
+/// Width and height of all pictures of sheets but the damage tracks.
+inline constexpr int systemPictureSize = 32;
+
+/// The size of a damage track's picture, whatever the number of damage points.
+PictureSize trackPictureSize(TrackSize size);
+
 /// File name of the damage track for a number of damage points, as the ship's window says it.
 std::string damageTrackPicture(TrackSize size, std::string_view damagePoints);
 

@@ -12,7 +12,8 @@ class PictureFiles {
 public:
     virtual ~PictureFiles() = default;
 
-    /// The picture in a GIF, BMP, JPEG or PNG file. Throws FileError.
+    /// The picture in a GIF, BMP, JPEG or PNG file, as it looks on white paper if parts of it are
+    /// transparent, and with 8 bits a channel. Throws FileError.
     virtual Raster load(const std::filesystem::path& file) = 0;
     /// One of the pictures that the program carries in itself, by its file name. Throws FileError.
     virtual Raster builtIn(const std::string& name) = 0;

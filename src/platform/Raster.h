@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace fleetwright {
@@ -24,6 +25,14 @@ public:
     /// A pixel inside the picture.
     std::uint32_t& pixel(int x, int y) { return m_pixels[index(x, y)]; }
     std::uint32_t pixel(int x, int y) const { return m_pixels[index(x, y)]; }
+
+    /// The pixels of a row inside the picture.
+    std::span<std::uint32_t> row(int y) {
+        return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
+    }
+    std::span<const std::uint32_t> row(int y) const {
+        return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
+    }
 
 private:
     std::size_t index(int x, int y) const {

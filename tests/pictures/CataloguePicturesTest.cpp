@@ -1,4 +1,5 @@
 #include "Error.h"
+#include "SheetPictures.h"
 #include "TemporaryFolder.h"
 #include "drawing.h"
 #include "renderedSets.h"

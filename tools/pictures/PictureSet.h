@@ -11,9 +11,6 @@ class Catalogue;
 /// Files by name, with their bytes.
 using PictureSet = std::map<std::string, std::string>;
 
-/// A system's picture takes so many pixels each way.
-inline constexpr int systemPictureSize = 32;
-
 /// The pictures that the catalogue names, and what sources they are made from.
 ///
 /// The name says how a picture is made: a class in it ("-3") and a mounting ("-fp") choose the
@@ -27,6 +24,10 @@ PictureSet sheetPictureFiles(const Artwork& artwork);
 
 /// The pictures that the windows bring along: roots of the tree, buttons, faces, icons, splash.
 PictureSet windowPictures(const Artwork& artwork);
+
+/// The outlines of ships that sheets are drawn on, with the marks that the scan reads; in
+/// `outlines` of the sources. Throws FileError for a source that is faulty.
+PictureSet outlinePictures(const Artwork& artwork);
 
 /// What a picture's file name says about its making.
 struct PictureName {

@@ -2,6 +2,7 @@
 #include "Catalogue.h"
 #include "Error.h"
 #include "PictureSet.h"
+#include "SheetPictures.h"
 #include "drawing.h"
 #include "pictureFiles.h"
 

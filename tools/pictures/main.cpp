@@ -6,6 +6,7 @@
 #include "PictureSet.h"
 #include "Sound.h"
 #include "contactSheet.h"
+#include "marksPicture.h"
 #include "pictureFiles.h"
 
 #include <cstdio>
@@ -61,14 +62,19 @@ void run(char** arguments) {
     PictureSet systems = cataloguePictures(artwork, catalogue);
     const PictureSet sheet = sheetPictureFiles(artwork);
     const PictureSet window = windowPictures(artwork);
+    const PictureSet outlines = outlinePictures(artwork);
     if (arguments[5] != nullptr) {
-        writeContactSheets(arguments[5], artwork,
-                           {{"systems", systems}, {"sheet", sheet}, {"window", window}});
+        const fs::path sheets = arguments[5];
+        writeContactSheets(
+            sheets, artwork,
+            {{"systems", systems}, {"sheet", sheet}, {"window", window}, {"outlines", outlines}});
+        writeFile(sheets / "map-marks.png", imageFile(marksPicture(artwork), "PNG"));
         return;
     }
     systems.insert(sheet.begin(), sheet.end());
     writeSet(out / "images", systems);
     writeSet(out / "window", window);
+    writeSet(out / "shipimages", outlines);
     writeFile(out / "window" / "window.qrc", resourceList(window));
     writeFile(out / "blaster.wav", waveFile(artwork.file("blaster.txt")));
 }

@@ -13,18 +13,6 @@ namespace {
 
 constexpr QSize systemSize(systemPictureSize, systemPictureSize);
 
-/// The room that a track has on a map, in pixels.
-QSize trackRoom(TrackSize size) {
-    switch (size) {
-    case TrackSize::Escort:
-        return {64, 28};
-    case TrackSize::Cruiser:
-        return {80, 43};
-    default:
-        return {144, 54};
-    }
-}
-
 /// The outline of a box whose upper left corner is at (x, y).
 void drawBox(QImage& image, int x, int y, int side) {
     for (int i = 0; i < side; ++i) {
@@ -38,13 +26,13 @@ void drawBox(QImage& image, int x, int y, int side) {
 /// A box for each damage point, in rows that differ by one box at the most, the longer ones on
 /// top. Neighbours share their sides, rows stand apart: the end of a row is what players wait for.
 QImage drawTrack(TrackSize size, int points) {
-    const QSize room = trackRoom(size);
-    QImage image = blankInk(room);
+    const PictureSize room = trackPictureSize(size);
+    QImage image = blankInk({room.width, room.height});
     const int rows = trackRows(size, points);
     const int longest = (points + rows - 1) / rows;
-    const int rowHeight = room.height() / rows;
+    const int rowHeight = room.height / rows;
     constexpr int gap = 2;
-    const int step = std::min((room.width() - 1) / std::max(longest, 1), rowHeight - gap - 1);
+    const int step = std::min((room.width - 1) / std::max(longest, 1), rowHeight - gap - 1);
     for (int row = 0; row < rows; ++row) {
         const int boxes = points / rows + (row < points % rows ? 1 : 0);
         for (int box = 0; box < boxes; ++box) {

@@ -1,6 +1,7 @@
 #include "Artwork.h"
 #include "HullRules.h"
 #include "PictureSet.h"
+#include "SheetPictures.h"
 #include "drawing.h"
 #include "pictureFiles.h"
 

@@ -1,0 +1,138 @@
+#include "OutlineScan.h"
+
+#include "checkedArithmetic.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+
+std::string number(int value) {
+    return std::to_string(value);
+}
+
+constexpr auto longestRun = std::numeric_limits<std::int16_t>::max();
+
+/// Outlines are mostly paper with ink here and there, and are looked through in blocks that the
+/// compiler can take several pixels at a time of.
+constexpr std::size_t blockSize = 32;
+
+bool hasNoMark(const std::uint32_t* block) {
+    std::uint32_t common = Raster::white;
+    std::uint32_t any = Black;
+    for (std::size_t i = 0; i < blockSize; ++i) {
+        common &= block[i];
+        any |= block[i];
+    }
+    if (common == Raster::white || any == Black) {
+        return true;
+    }
+    std::uint32_t marks = 0;
+    for (std::size_t i = 0; i < blockSize; ++i) {
+        marks += isMark(block[i]) ? 1U : 0U;
+    }
+    return marks == 0;
+}
+
+}  // namespace
+
+OutlineScan::OutlineScan(const Raster& picture, std::string_view imageFile) : m_picture(picture) {
+    narrow<std::int16_t>(picture.width());
+    narrow<std::int16_t>(picture.height());
+    const std::string_view name = imageFile.substr(imageFile.find_last_of("\\/") + 1);
+    m_text.append("IMAGE: ").append(name).append(lineEnd);
+}
+
+int OutlineScan::plainPixels(int iCol, int iRow) const {
+    if (m_isMeasuring) {
+        return 0;
+    }
+    const auto rest = m_picture.row(iRow).subspan(static_cast<std::size_t>(iCol));
+    auto plain = rest.begin();
+    while (static_cast<std::size_t>(rest.end() - plain) >= blockSize && hasNoMark(&*plain)) {
+        plain += blockSize;
+    }
+    return static_cast<int>(std::find_if(plain, rest.end(), isMark) - rest.begin());
+}
+
+int OutlineScan::takePixel(int iCol, int iRow) {
+    const std::uint32_t colour = m_picture.pixel(iCol, iRow);
+    if (m_isMeasuring) {
+        measure(colour);
+    }
+    if (isMark(colour)) {
+        takeMark(colour, iCol, iRow);
+    }
+    return colour == Yellow ? 1 : 0;
+}
+
+/// The run may go on in the next row. It ends before the pixel that ends it is taken up.
+void OutlineScan::measure(std::uint32_t colour) {
+    if (colour == Black) {
+        m_iRunLength = std::min<std::int16_t>(m_iRunLength, longestRun - 1);
+        ++m_iRunLength;
+        return;
+    }
+    for (const TrackLength& track : trackLengths) {
+        if (m_iRunLength == track.blackPixels + 1) {  // the mark itself counts too
+            m_text.append("SIZE: ").append(number(track.size)).append(lineEnd);
+        }
+    }
+    m_isMeasuring = false;
+}
+
+void OutlineScan::takeMark(std::uint32_t colour, int iCol, int iRow) {
+    m_text.append(markKey(colour)).append(": (");
+    m_text.append(number(iCol)).append(",").append(number(iRow));
+    if (colour == Yellow) {
+        m_text.append(",").append(1, weapArc(m_picture, iCol, iRow));
+    }
+    m_text.append(")").append(lineEnd);
+    if (colour == Magenta) {
+        m_isMeasuring = true;
+        m_iRunLength = 1;
+    }
+}
+
+bool OutlineScan::cancel() {
+    m_text = "Operation Cancelled";
+    return false;
+}
+
+char weapArc(const Raster& picture, int iCol, int iRow) {
+    if (iCol + 1 < picture.width()) {
+        for (const ArcMark& mark : arcMarks) {
+            if (picture.pixel(iCol + 1, iRow) == mark.colour) {
+                return mark.arc;
+            }
+        }
+    }
+    const int w = picture.width() / 3;
+    const int h = picture.height() / 3;
+    if (iRow <= h) {
+        return 'F';
+    }
+    if (iCol <= w) {
+        return 'P';
+    }
+    if (iCol >= 2 * w) {
+        return 'S';
+    }
+    return iRow >= 2 * h ? 'A' : 'B';
+}
+
+std::string scanOutline(const Raster& picture, std::string_view imageFile) {
+    OutlineScan scan(picture, imageFile);
+    scan.run([](int, int) { return true; });
+    return scan.text();
+}
+
+std::string mapFileContents(std::string_view text) {
+    return std::string(text).append(lineEnd);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,242 @@
+#include "checkMapPlaces.h"
+
+#include "HullRules.h"
+#include "SheetPictures.h"
+#include "mapMarks.h"
+
+#include <algorithm>
+#include <array>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::string_view fireControlKey = "FIRECON", partyKey = "DCP", driveKey = "FTL",
+                           thrustKey = "THRUST";
+
+std::string at(int x, int y) {
+    return "(" + std::to_string(x) + "," + std::to_string(y) + ")";
+}
+
+/// What is pasted at a place, and so what it covers.
+struct Box {
+    const MapPlace* place;
+    int width;
+    int height;
+
+    int right() const { return place->x + width; }
+    int bottom() const { return place->y + height; }
+    bool overlaps(const Box& other) const {
+        return place->x < other.right() && other.place->x < right() && place->y < other.bottom() &&
+               other.place->y < bottom();
+    }
+    std::string name() const { return place->key + " box at " + at(place->x, place->y); }
+};
+
+bool isArc(std::string_view arc) {
+    return std::any_of(arcMarks.begin(), arcMarks.end(), [&](const ArcMark& known) {
+        return arc == std::string_view(&known.arc, 1);
+    });
+}
+
+class PlaceCheck {
+public:
+    PlaceCheck(const MapPlaces& map, const Raster& outline) : m_map(map), m_outline(outline) {
+        for (const MapPlace& place : map.places) {
+            addBox(place);
+        }
+    }
+
+    std::vector<Fault> run() {
+        checkLines();
+        checkArcs();
+        checkFigures();
+        checkBoxes();
+        checkMarks();
+        sortByLine(m_faults);
+        return std::move(m_faults);
+    }
+
+private:
+    void complain(int line, const std::string& text) { m_faults.push_back({line, text}); }
+
+    bool hasTrack() const { return m_map.size <= capitalMass; }
+
+    /// Of the keys that name one place only the last line counts.
+    bool isOverridden(const MapPlace& place) const {
+        return (place.key == trackKey || place.key == driveKey || place.key == thrustKey) &&
+               &place != last(place.key);
+    }
+
+    const MapPlace* last(std::string_view key) const {
+        const auto found = std::find_if(m_map.places.rbegin(), m_map.places.rend(),
+                                        [&](const MapPlace& place) { return place.key == key; });
+        return found == m_map.places.rend() ? nullptr : &*found;
+    }
+
+    void addBox(const MapPlace& place) {
+        if (isOverridden(place) || (place.key == weaponKey && !isArc(place.arc))) {
+            return;
+        }
+        if (place.key != trackKey) {
+            m_boxes.push_back({&place, systemPictureSize, systemPictureSize});
+        } else if (hasTrack()) {
+            const PictureSize track = trackPictureSize(trackSize(m_map.size));
+            m_boxes.push_back({&place, track.width, track.height});
+        }
+    }
+
+    void checkLines() {
+        if (m_map.sizeLine == 0) {
+            complain(0, "no SIZE line, so that the map is offered to no ship");
+        }
+        if (!hasTrack()) {
+            complain(m_map.sizeLine,
+                     "above SIZE " + std::to_string(capitalMass) + " no damage track is drawn");
+        }
+        for (const auto& [key, what] : {std::pair{trackKey, "damage track"},
+                                        {driveKey, "FTL drive"},
+                                        {thrustKey, "thrust drive"}}) {
+            if (last(key) == nullptr) {
+                complain(0, "no " + std::string(key) + " line, so that the " + what +
+                                " is drawn at (0,0)");
+            }
+        }
+    }
+
+    void checkArcs() {
+        std::string missing;
+        for (const ArcMark& mark : arcMarks) {
+            const bool isThere =
+                std::any_of(m_map.places.begin(), m_map.places.end(), [&](const MapPlace& place) {
+                    return place.key == weaponKey && place.arc == std::string(1, mark.arc);
+                });
+            if (!isThere) {
+                missing += missing.empty() ? "" : ", ";
+                missing += mark.arc;
+            }
+        }
+        if (!missing.empty()) {
+            complain(0, "no weapon point for the arc " + missing);
+        }
+        for (const MapPlace& place : m_map.places) {
+            if (place.key == weaponKey && !isArc(place.arc)) {
+                complain(place.line, "unknown arc \"" + place.arc +
+                                         "\", so that the point is neither used nor covered");
+            }
+        }
+    }
+
+    /// The figures grow with the mass, so that the largest ships of the map have the most.
+    void checkFigures() {
+        HullFigures most;
+        for (const std::int32_t type :
+             {Warship, Merchant, QShip, Starbase, SpaceStation, QSpaceStation}) {
+            const HullFigures figures = hullFigures({.mass = m_map.size, .hullType = type});
+            most.fireControls = std::max(most.fireControls, figures.fireControls);
+            most.damageControlParties =
+                std::max(most.damageControlParties, figures.damageControlParties);
+        }
+        checkCount(fireControlKey, "fire controls", most.fireControls);
+        checkCount(partyKey, "damage control parties", most.damageControlParties);
+    }
+
+    void checkCount(std::string_view key, const char* what, int most) {
+        const auto count = std::count_if(m_map.places.begin(), m_map.places.end(),
+                                         [&](const MapPlace& place) { return place.key == key; });
+        if (m_map.sizeLine != 0 && count < most) {
+            complain(m_map.sizeLine, std::to_string(count) + " " + std::string(key) +
+                                         " points, but ships of this SIZE have up to " +
+                                         std::to_string(most) + " " + what);
+        }
+    }
+
+    void checkBoxes() {
+        for (const Box& box : m_boxes) {
+            if (box.place->x < 0 || box.place->y < 0 || box.right() > m_outline.width() ||
+                box.bottom() > m_outline.height()) {
+                complain(box.place->line, "the " + box.name() + " leaves the outline, which is " +
+                                              std::to_string(m_outline.width()) + " by " +
+                                              std::to_string(m_outline.height()) + " pixels");
+            }
+        }
+        for (auto box = m_boxes.begin(); box != m_boxes.end(); ++box) {
+            const auto other =
+                std::find_if(m_boxes.begin(), box, [&](const Box& b) { return b.overlaps(*box); });
+            if (other != box) {
+                complain(box->place->line, "the " + box->name() + " overlaps the " + other->name() +
+                                               " of line " + std::to_string(other->place->line));
+            }
+        }
+    }
+
+    /// Whether something is pasted over a pixel.
+    std::vector<bool> coveredPixels() const {
+        const auto width = static_cast<std::size_t>(m_outline.width());
+        std::vector<bool> covered(width * static_cast<std::size_t>(m_outline.height()));
+        for (const Box& box : m_boxes) {
+            const int left = std::max(box.place->x, 0);
+            const int right = std::min(box.right(), m_outline.width());
+            const int bottom = std::min(box.bottom(), m_outline.height());
+            for (int y = std::max(box.place->y, 0); y < bottom; ++y) {
+                for (int x = left; x < right; ++x) {
+                    covered[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)] =
+                        true;
+                }
+            }
+        }
+        return covered;
+    }
+
+    void checkMarks() {
+        constexpr int mostNamed = 10;
+        const std::vector<bool> covered = coveredPixels();
+        int bare = 0;
+        auto pixel = covered.begin();
+        for (int y = 0; y < m_outline.height(); ++y) {
+            for (int x = 0; x < m_outline.width(); ++x, ++pixel) {
+                if (!*pixel && isMark(m_outline.pixel(x, y)) && ++bare <= mostNamed) {
+                    complain(0, "the mark at " + at(x, y) + " is covered by nothing");
+                }
+            }
+        }
+        if (bare > mostNamed) {
+            complain(0, std::to_string(bare - mostNamed) + " more marks are covered by nothing");
+        }
+        checkTrackMark();
+    }
+
+    /// The black pixels that say the size are a mark, too.
+    void checkTrackMark() {
+        for (const Box& box : m_boxes) {
+            const int y = box.place->y;
+            if (box.place->key != trackKey || box.place->x < 0 || y < 0 ||
+                box.place->x >= m_outline.width() || y >= m_outline.height() ||
+                m_outline.pixel(box.place->x, y) != Magenta) {
+                continue;
+            }
+            int end = box.place->x + 1;
+            while (end < m_outline.width() && m_outline.pixel(end, y) == Black) {
+                ++end;
+            }
+            if (end > box.right()) {
+                complain(box.place->line, "the mark of the damage track is " +
+                                              std::to_string(end - box.right()) +
+                                              " pixels longer than the track");
+            }
+        }
+    }
+
+    const MapPlaces& m_map;
+    const Raster& m_outline;
+    std::vector<Box> m_boxes;
+    std::vector<Fault> m_faults;
+};
+
+}  // namespace
+
+std::vector<Fault> checkMapPlaces(const MapPlaces& map, const Raster& outline) {
+    return PlaceCheck(map, outline).run();
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Fault.h"
+#include "Raster.h"
+
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+/// A line of a map that says where something is pasted on the outline.
+struct MapPlace {
+    std::string key;  ///< "WEAP", "FIRECON", "DCP", "DAMROW", "FTL" or "THRUST"
+    int x = 0;        ///< upper left corner of what is pasted, in pixels
+    int y = 0;
+    std::string arc;  ///< of a weapon; as the map says it, in capitals
+    int line = 0;     ///< from 1
+};
+
+/// What a map says about the places on its outline.
+struct MapPlaces {
+    int size = 0;                  ///< the largest ship mass; 0 without a SIZE line
+    int sizeLine = 0;              ///< line of SIZE; 0 without one
+    std::vector<MapPlace> places;  ///< in the order of the map
+};
+
+/// What an author may not have meant about the places of a map, by line: boxes that overlap or
+/// leave the outline, marks that stay to be seen, arcs without a point, lines that are missing and
+/// too few points for the figures of ships of that size. What concerns no single line comes last.
+std::vector<Fault> checkMapPlaces(const MapPlaces& map, const Raster& outline);
+
+}  // namespace fleetwright

@@ -1,0 +1,65 @@
+#pragma once
+
+// The marks that an author paints on a ship outline, one pixel each in a pure colour. Whoever
+// paints, scans or explains marks takes their colours from here.
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace fleetwright {
+
+/// Colours as a Raster has them, 0xRRGGBB. All other colours are no marks.
+enum MarkColour : std::uint32_t {
+    Black = 0x000000,
+    Blue = 0x0000FF,
+    Green = 0x00FF00,
+    Cyan = 0x00FFFF,
+    Red = 0xFF0000,
+    Magenta = 0xFF00FF,
+    Yellow = 0xFFFF00
+};
+
+/// A mark and the key of the line that it makes in a map.
+struct MapMark {
+    std::uint32_t colour;
+    std::string_view key;
+};
+
+inline constexpr std::string_view weaponKey = "WEAP", trackKey = "DAMROW";
+
+inline constexpr std::array<MapMark, 6> mapMarks = {{{Red, "FIRECON"},
+                                                     {Green, "THRUST"},
+                                                     {Yellow, weaponKey},
+                                                     {Blue, "DCP"},
+                                                     {Magenta, trackKey},
+                                                     {Cyan, "FTL"}}};
+
+/// The pixel at the right of a weapon mark that says the weapon's arc.
+struct ArcMark {
+    std::uint32_t colour;
+    char arc;
+};
+
+inline constexpr std::array<ArcMark, 5> arcMarks = {
+    {{Red, 'F'}, {Blue, 'P'}, {Green, 'S'}, {Cyan, 'A'}, {Magenta, 'B'}}};
+
+/// The black pixels at the right of a track mark that say the SIZE of the map.
+struct TrackLength {
+    int blackPixels;
+    int size;  ///< the largest mass of the ships that the map is for
+};
+
+inline constexpr std::array<TrackLength, 3> trackLengths = {{{63, 18}, {79, 36}, {143, 100}}};
+
+/// Whether a colour is that of a mark: every channel empty or full, and neither black nor white.
+constexpr bool isMark(std::uint32_t colour) {
+    constexpr std::uint32_t lowBits = 0x010101, white = 0xFFFFFF;
+    const std::uint32_t full = ((colour & lowBits) << 8) - (colour & lowBits);
+    return (full == colour) & (colour != Black) & (colour != white);  // without branches: quicker
+}
+
+/// The key of the line that a mark makes. The colour is that of a mark.
+std::string_view markKey(std::uint32_t colour);
+
+}  // namespace fleetwright

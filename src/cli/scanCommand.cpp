@@ -1,0 +1,104 @@
+#include "commands.h"
+
+#include "Error.h"
+#include "OutlineScan.h"
+#include "QtPictureFiles.h"
+#include "TextFile.h"
+#include "capitals.h"
+#include "inOrder.h"
+#include "saveFile.h"
+
+#include <cstdio>
+#include <map>
+#include <thread>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Result scanFile(const std::string& file) {
+    try {
+        return {.output = scanOutline(QtPictureFiles().load(nativePath(file)), file),
+                .complaints = {}};
+    } catch (const FileError& error) {
+        return {.output = {}, .complaints = {complaint(file, {0, error.what()})}};
+    } catch (const OverflowError&) {
+        return {.output = {}, .complaints = {complaint(file, {0, "is too large for a map"})}};
+    }
+}
+
+/// Where the texts go: to standard output, into a file, or into a folder of maps that are named
+/// after their outlines.
+class MapWriter {
+public:
+    explicit MapWriter(const Options& options)
+        : m_output(nativePath(options.output)),
+          m_isFolder(!m_output.empty() && (options.files.size() > 1 || !m_output.has_filename() ||
+                                           fs::is_directory(m_output))) {
+        if (m_isFolder) {
+            std::error_code error;
+            fs::create_directories(m_output, error);
+            if (error) {
+                throw FileError(m_output, "cannot be made: " + error.message());
+            }
+        }
+    }
+
+    /// Throws Error.
+    void write(const std::string& outline, const std::string& text) {
+        if (m_output.empty()) {
+            std::fwrite(text.data(), 1, text.size(), stdout);
+            return;
+        }
+        saveFile(m_isFolder ? m_output / mapName(outline) : m_output, mapFileContents(text));
+    }
+
+private:
+    fs::path mapName(const std::string& outline) {
+        fs::path name = nativePath(outline).filename().replace_extension(".map");
+        const auto [made, isNew] = m_made.try_emplace(toCapitals(name.string()), outline);
+        if (!isNew) {
+            throw Error("the map \"" + name.string() + "\" is already made from " + made->second);
+        }
+        return name;
+    }
+
+    fs::path m_output;
+    bool m_isFolder;
+    std::map<std::string, std::string> m_made;  // outlines by the names of their maps
+};
+
+}  // namespace
+
+int runScan(const Options& options) {
+    int status = Done;
+    MapWriter writer(options);
+    const auto complain = [&status](const std::string& line) {
+        std::fprintf(stderr, "%s\n", line.c_str());
+        status = SomeRefused;
+    };
+    const auto take = [&](std::size_t index, const Result& result) {
+        const std::string& outline = options.files[index];
+        for (const std::string& line : result.complaints) {
+            complain(line);
+        }
+        if (!result.complaints.empty()) {
+            return;
+        }
+        try {
+            writer.write(outline, result.output);
+        } catch (const FileError& error) {
+            complain(complaint(error.file().string(), {0, error.what()}));
+        } catch (const Error& error) {
+            complain(complaint(outline, {0, error.what()}));
+        }
+    };
+    inOrder(
+        options.files.size(), std::thread::hardware_concurrency(),
+        [&](std::size_t index) { return scanFile(options.files[index]); }, take);
+    return status;
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,97 @@
+#include "OutlineMarks.h"
+
+#include "Error.h"
+#include "SheetPictures.h"
+#include "TextFile.h"
+#include "mapMarks.h"
+
+#include <QStringList>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
+
+namespace fleetwright {
+
+namespace {
+
+/// A whole number of pixels; throws Error.
+int pixels(const QString& text) {
+    bool isWhole = false;
+    const int number = text.toInt(&isWhole);
+    if (!isWhole) {
+        throw Error('"' + text.toStdString() + "\" is no whole number of pixels");
+    }
+    return number;
+}
+
+QSize sizeOf(const QXmlStreamAttributes& attributes) {
+    const QStringList viewBox = attributes.value("viewBox").toString().split(' ');
+    if (viewBox.size() != 4 || viewBox[0] != "0" || viewBox[1] != "0") {
+        throw Error("an outline has a viewBox from 0 0 on");
+    }
+    return {pixels(viewBox[2]), pixels(viewBox[3])};
+}
+
+void nameKind(OutlineMark& mark, const std::string& word) {
+    const auto isArc = [&](const ArcMark& arc) { return word == std::string(1, arc.arc); };
+    const auto isKey = [&](const MapMark& known) { return known.key == word; };
+    if (std::any_of(arcMarks.begin(), arcMarks.end(), isArc)) {
+        mark.kind = weaponKey;
+        mark.arc = word.front();
+    } else if (word != weaponKey && std::any_of(mapMarks.begin(), mapMarks.end(), isKey)) {
+        mark.kind = word;
+    } else {
+        throw Error("unknown mark \"" + word + '"');
+    }
+}
+
+/// Whether something is pasted in this size.
+bool isPasted(const OutlineMark& mark) {
+    if (mark.kind != trackKey) {
+        return mark.box.size() == QSize(systemPictureSize, systemPictureSize);
+    }
+    return std::any_of(std::begin(trackSizes), std::end(trackSizes), [&](TrackSize size) {
+        const PictureSize room = trackPictureSize(size);
+        return mark.box.size() == QSize(room.width, room.height);
+    });
+}
+
+OutlineMark readMark(const QXmlStreamAttributes& attributes) {
+    OutlineMark mark;
+    nameKind(mark, attributes.value("data-mark").toString().toStdString());
+    const auto number = [&](const char* name) { return pixels(attributes.value(name).toString()); };
+    mark.box = {number("x"), number("y"), number("width"), number("height")};
+    if (!isPasted(mark)) {
+        throw Error("nothing is pasted in the size of this mark");
+    }
+    return mark;
+}
+
+}  // namespace
+
+OutlineLayout readOutlineLayout(const std::filesystem::path& source) {
+    QXmlStreamReader reader(QString::fromStdString(readTextFile(source)));
+    OutlineLayout layout;
+    try {
+        while (!reader.atEnd()) {
+            if (reader.readNext() != QXmlStreamReader::StartElement) {
+                continue;
+            }
+            if (reader.name() == QLatin1String("svg")) {
+                layout.size = sizeOf(reader.attributes());
+            } else if (reader.attributes().hasAttribute("data-mark")) {
+                layout.marks.push_back(readMark(reader.attributes()));
+                if (!QRect(QPoint(), layout.size).contains(layout.marks.back().box)) {
+                    throw Error("a mark leaves the picture");
+                }
+            }
+        }
+    } catch (const Error& error) {
+        throw FileError(source,
+                        "line " + std::to_string(reader.lineNumber()) + ": " + error.what());
+    }
+    return layout;
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,81 @@
+#include "marksPicture.h"
+
+#include "Artwork.h"
+#include "OutlineMarks.h"
+#include "PictureSet.h"
+#include "SheetPictures.h"
+#include "drawing.h"
+#include "mapMarks.h"
+
+#include <QPainter>
+
+#include <array>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr const char* shownOutline = "Escort Warship - Kestrel";
+constexpr int enlargement = 6, gap = 12;
+
+/// The parts of the outline that are shown: fore weapons with the fire control, and the track.
+constexpr std::array<QRect, 2> parts = {{{134, 104, 92, 88}, {134, 442, 92, 46}}};
+
+void writeLine(QPainter& painter, QPoint place, const std::string& text,
+               const Lettering& lettering) {
+    const std::string svg = R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 -26 480 32">)"
+                            R"(<path fill="none" stroke="#147" stroke-width="2.4" d=")" +
+                            lettering.outline(text, 4) + R"("/></svg>)";
+    painter.drawImage(place, drawColours(QByteArray::fromStdString(svg), {300, 20}));
+}
+
+/// The lines that a mark makes in a map, in pieces that fit into its box.
+std::vector<std::string> linesOf(const OutlineMark& mark) {
+    std::string place = '(' + std::to_string(mark.box.x()) + ',' + std::to_string(mark.box.y());
+    place += mark.arc == 0 ? ")" : std::string(",") + mark.arc + ')';
+    std::vector<std::string> lines = {mark.kind + ": " + place};
+    for (const TrackLength& track : trackLengths) {
+        if (mark.kind == trackKey && mark.box.width() == track.blackPixels + 1) {
+            lines.push_back("SIZE: " + std::to_string(track.size));
+        }
+    }
+    return lines;
+}
+
+}  // namespace
+
+QImage marksPicture(const Artwork& artwork) {
+    const std::string bytes = outlinePictures(artwork).at(std::string(shownOutline) + ".gif");
+    const QImage outline = QImage::fromData(QByteArray::fromStdString(bytes));
+    const OutlineLayout layout =
+        readOutlineLayout(artwork.file(std::string("outlines/") + shownOutline + ".svg"));
+    int height = gap;
+    for (const QRect& part : parts) {
+        height += part.height() * enlargement + gap;
+    }
+    QImage page(parts[0].width() * enlargement + 2 * gap, height, QImage::Format_RGB32);
+    page.fill(QColor(225, 228, 232));
+    QPainter painter(&page);
+    int top = gap;
+    for (const QRect& part : parts) {
+        painter.drawImage(gap, top, outline.copy(part).scaled(part.size() * enlargement));
+        for (const OutlineMark& mark : layout.marks) {
+            if (!part.contains(mark.box)) {
+                continue;
+            }
+            const QPoint corner =
+                (mark.box.topLeft() - part.topLeft()) * enlargement + QPoint(gap, top);
+            painter.setPen(QPen(QColor(150, 170, 190), 1, Qt::DashLine));
+            painter.drawRect(QRect(corner, mark.box.size() * enlargement));
+            QPoint line = corner + QPoint(10, 40);
+            for (const std::string& text : linesOf(mark)) {
+                writeLine(painter, line, text, artwork.lettering());
+                line.ry() += 30;
+            }
+        }
+        top += part.height() * enlargement + gap;
+    }
+    return page;
+}
+
+}  // namespace fleetwright
