@@ -58,7 +58,12 @@ private:
         while (!m_failure && m_taken < m_count && slot(m_taken)) {
             const Result due = std::move(*slot(m_taken));
             slot(m_taken).reset();
-            m_take(m_taken++, due);
+            try {
+                m_take(m_taken++, due);
+            } catch (...) {
+                // Still under the lock: nobody may hand on what follows.
+                m_failure = std::current_exception();
+            }
         }
         if (m_taken != takenBefore) {
             m_roomMade.notify_all();
