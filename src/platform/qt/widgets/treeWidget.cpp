@@ -109,9 +109,8 @@ protected:
         if (event->type() == QEvent::ToolTip && m_tree.nodeToolTip) {
             const auto* const help = static_cast<QHelpEvent*>(event);
             QTreeWidgetItem* const item = itemAt(help->pos());
-            QToolTip::showText(help->globalPos(), item == nullptr
-                                                      ? QString()
-                                                      : toQt(m_tree.nodeToolTip(nodeOf(item))));
+            const std::string text = item == nullptr ? "" : m_tree.nodeToolTip(nodeOf(item));
+            QToolTip::showText(help->globalPos(), toQt(text.empty() ? m_tree.toolTip() : text));
             return true;
         }
         return QTreeWidget::viewportEvent(event);
