@@ -153,6 +153,7 @@ TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
     form.list.add("a", "a", "3");
     form.list.add("b", "b", "4");
     form.list.select(1);
+    form.images.add("ROOT", Raster(32, 32));  // a picture may come after its node
     form.tree.add("ROOT", "late");
     form.tree.setExpanded(*form.tree.find("ROOT"), true);
     form.tree.select(*form.tree.find("late"));
@@ -173,6 +174,7 @@ TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
     EXPECT_EQ(list->currentItem(), nullptr);
     const auto* const tree = find<QTreeWidget>("tree");
     EXPECT_TRUE(tree->topLevelItem(0)->isExpanded());
+    EXPECT_FALSE(tree->topLevelItem(0)->icon(0).isNull());
     EXPECT_EQ(tree->currentItem()->text(0), "late");
     // Showing what the rules have done is no act of the user.
     EXPECT_EQ(takeLog(), "second text=abc slider=5 ");

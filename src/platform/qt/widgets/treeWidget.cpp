@@ -50,6 +50,8 @@ public:
         for (std::size_t i = m_items.size(); i < m_tree.nodes().size(); ++i) {
             addItem(m_tree.nodes()[i]);
         }
+        std::erase_if(m_withoutPicture,
+                      [this](QTreeWidgetItem* item) { return showPicture(item); });
         for (std::size_t i = 0; i < m_items.size(); ++i) {
             m_items[i]->setExpanded(m_tree.nodes()[i].isExpanded);
         }
@@ -97,9 +99,6 @@ private:
     void addItem(TreeView::Node& node) {
         auto* const item = new QTreeWidgetItem;
         item->setText(0, toQt(node.key));
-        if (m_tree.images() != nullptr && m_tree.images()->contains(node.key)) {
-            item->setIcon(0, QPixmap::fromImage(toImage(m_tree.images()->picture(node.key))));
-        }
         if (node.parent == nullptr) {
             addTopLevelItem(item);
         } else {
@@ -108,6 +107,17 @@ private:
         m_byNode[&node] = item;
         m_byItem[item] = &node;
         m_items.push_back(item);
+        m_withoutPicture.push_back(item);
+    }
+
+    /// Gives an item its picture, unless that has not come yet.
+    bool showPicture(QTreeWidgetItem* item) {
+        const std::string& key = nodeOf(item).key;
+        if (m_tree.images() == nullptr || !m_tree.images()->contains(key)) {
+            return false;
+        }
+        item->setIcon(0, QPixmap::fromImage(toImage(m_tree.images()->picture(key))));
+        return true;
     }
 
     TreeView::Node& nodeOf(QTreeWidgetItem* item) { return *m_byItem.at(item); }
@@ -115,6 +125,7 @@ private:
     TreeView& m_tree;
     Scale m_scale;
     std::vector<QTreeWidgetItem*> m_items;
+    std::vector<QTreeWidgetItem*> m_withoutPicture;
     std::map<const TreeView::Node*, QTreeWidgetItem*> m_byNode;
     std::map<QTreeWidgetItem*, TreeView::Node*> m_byItem;
 };
