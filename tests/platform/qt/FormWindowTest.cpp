@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QGroupBox>
@@ -62,6 +63,7 @@ public:
     OptionButton second{frame,
                         {.name = "second", .place = {150, 900, 900, 300}, .caption = "2"},
                         [this] { log += "second "; }};
+    Frame inner{frame, {.name = "inner", .place = {1500, 300, 1200, 900}, .caption = "Inner"}};
     TextBox text{*this, {.name = "text", .place = {3300, 150, 900, 300}}, [this] {
                      log += "text=" + text.text() + ' ';
                  }};
@@ -213,6 +215,16 @@ TEST_F(FormWindowTest, GroupsOfOptionsAreOneStopWithArrowsInside) {
     form.first.setEnabled(false);
     QTest::keyClick(second, Qt::Key_Down);
     EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(FormWindowTest, ScreenReadersAreToldWhatThereIs) {
+    const auto nameOf = [this](const char* name) {
+        return QAccessible::queryAccessibleInterface(find<QWidget>(name))->text(QAccessible::Name);
+    };
+    form.status.setText("Saved...");
+    EXPECT_EQ(nameOf("status"), "Saved...");
+    EXPECT_EQ(nameOf("button"), "Spoken");
+    EXPECT_EQ(nameOf("inner"), "Inner");
 }
 
 TEST_F(FormWindowTest, EnterAndEscapeAnswerDialogs) {
