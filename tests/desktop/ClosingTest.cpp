@@ -11,9 +11,8 @@ namespace {
 constexpr const char* question = "Ship not saved!";
 
 Element theQuestion() {
-    const Element box = waitForElement("the question", [] { return windowOnScreen(question); });
-    waitFor("the question to have the keyboard", [&] { return box.is(ATSPI_STATE_ACTIVE); });
-    return box;
+    waitForKeyboard(question);
+    return *windowOnScreen(question);
 }
 
 }  // namespace
@@ -24,19 +23,18 @@ TEST(ClosingTest, UnsavedShipIsAskedAboutAndNoKeepsIt) {
     const MainWindow window;
     click(window.get("check box", "Thrust 4"));
     window.waitFor({.thrust = 4});
-    press({"alt+F4"});
+    clickToClose(MainWindow::title);
     EXPECT_TRUE(theQuestion().find("label", "Ship not saved, continue with exit?"));
     click(*theQuestion().find("push button", "No"));
     waitFor("the question to go", [] { return !windowOnScreen(question); });
     window.waitUntilActive();
     click(window.get("check box", "Thrust 5"));
     window.waitFor({.thrust = 5});
-    press({"alt+F4"});
+    clickToClose(MainWindow::title);
     theQuestion();
     press({"Escape"});  // the same as No
     waitFor("the question to go", [] { return !windowOnScreen(question); });
-    window.waitUntilActive();
-    press({"alt+F4"});
+    clickToClose(MainWindow::title);
     click(*theQuestion().find("push button", "Yes"));
     EXPECT_EQ(program.waitForEnd(), 0);
 }

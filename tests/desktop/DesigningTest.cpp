@@ -14,23 +14,20 @@ namespace {
 
 constexpr const char* tree = "Catalogue of systems";
 constexpr const char* list = "Systems aboard";
+constexpr const char* dialogTitle = "Adjust Amount";
 constexpr const char* gun = "Guard Gun (All)";
 constexpr const char* battery = "Guard Battery (All)";
 
 /// The dialog in which the player says how many pieces are to remain.
 class AmountDialog {
 public:
-    AmountDialog()
-        : m_dialog(waitForElement("the amount dialog",
-                                  [] { return windowOnScreen("Adjust Amount"); })) {}
-
     Element get(const char* role, const char* name) const {
-        return waitForElement(name, [&] { return m_dialog.find(role, name); });
+        return waitForElement(name, [&] {
+            const auto dialog = windowOnScreen(dialogTitle);
+            return dialog ? dialog->find(role, name) : std::nullopt;
+        });
     }
     std::string amount() const { return get("slider", "Amount").text(); }
-
-private:
-    Element m_dialog;
 };
 
 class DesigningTest : public testing::Test {
@@ -130,6 +127,7 @@ TEST_F(DesigningTest, SystemsAreFittedAndTakenAway) {
     doubleClick(row(gun));
     design.systems[gun] -= 1;
     window->waitFor(design);
+    window->waitUntilActive();
     press({"Delete"});
     design.systems[gun] -= 1;
     window->waitFor(design);
@@ -146,10 +144,11 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
 
     click(row(gun));
     rightClick(row(gun));
+    waitForKeyboard(dialogTitle);
     press({"Left", "Left"});
     waitFor("two steps on the slider", [&] { return AmountDialog().amount() == "8"; });
     // From the handle, at 8 of 10, to the left.
-    const Rectangle slider = AmountDialog().get("slider", "Amount").place();
+    const Rectangle slider = restingPlace(AmountDialog().get("slider", "Amount"));
     const int middle = slider.top + slider.height / 2;
     drag({slider.left + slider.width * 8 / 10 - 3, middle},
          {slider.left + slider.width * 3 / 10, middle});
@@ -162,10 +161,12 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
 
     // With the keys, and without a change.
     window->waitUntilActive();
-    press({"Menu", "Home"});
+    press({"Menu"});
+    waitForKeyboard(dialogTitle);
+    press({"Home"});
     waitFor("the slider at its begin", [&] { return AmountDialog().amount() == "0"; });
     press({"Escape"});
-    waitFor("the dialog to go", [] { return !windowOnScreen("Adjust Amount"); });
+    waitFor("the dialog to go", [] { return !windowOnScreen(dialogTitle); });
     window->waitFor(design);
 
     click(window->get("menu item", "Extras"));

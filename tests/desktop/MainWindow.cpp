@@ -13,7 +13,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr const char* title = "Fleet Wright";
 constexpr const char* list = "Systems aboard";
 
 /// The figures as the window calls them, and as the tool does.
@@ -88,7 +87,6 @@ Shown expectedOf(const Design& design) {
 }
 
 MainWindow::MainWindow() {
-    waitForElement("the main window", [] { return windowOnScreen(title); });
     waitUntilActive();
 }
 
@@ -97,8 +95,7 @@ Element MainWindow::window() const {
 }
 
 void MainWindow::waitUntilActive() const {
-    fleetwright::waitFor("the main window to have the keyboard",
-                         [this] { return window().is(ATSPI_STATE_ACTIVE); });
+    waitForKeyboard(title);
 }
 
 Element MainWindow::get(const std::string& role, const std::string& name) const {

@@ -30,6 +30,8 @@ Shown expectedOf(const Design& design);
 /// The main window of the program that runs.
 class MainWindow {
 public:
+    static constexpr const char* title = "Fleet Wright";
+
     /// Waits for the window, and for the keyboard to be its own.
     MainWindow();
 

@@ -2,6 +2,8 @@
 
 #include "ScreenReader.h"
 
+#include <gtest/gtest.h>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -27,6 +29,8 @@ RunningProgram::~RunningProgram() {
     if (isRunning()) {
         kill(m_process, SIGKILL);
         waitpid(m_process, nullptr, 0);
+    } else if (!m_isAwaited) {
+        ADD_FAILURE() << "the program has ended by itself, with status " << m_status;
     }
 }
 
@@ -54,6 +58,7 @@ bool RunningProgram::isRunning() {
 }
 
 int RunningProgram::waitForEnd() {
+    m_isAwaited = true;
     waitFor("the program to end", [this] { return !isRunning(); });
     return m_status;
 }

@@ -27,7 +27,8 @@ public:
 private:
     TemporaryFolder m_folder;
     pid_t m_process = 0;  ///< 0 while it does not run
-    int m_status = 0;
+    int m_status = 0;     ///< the exit status, or the number of a signal as a negative number
+    bool m_isAwaited = false;
 };
 
 }  // namespace fleetwright
