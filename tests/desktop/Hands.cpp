@@ -78,10 +78,10 @@ void clickToClose(const std::string& title) {
             outOfTheWay);
 }
 
-void drag(Point from, Point to) {
-    xdotool(moveTo(from.x, from.y) + "mousedown 1 " +
-            moveTo((from.x + to.x) / 2, (from.y + to.y) / 2) + moveTo(to.x, to.y) + "mouseup 1" +
-            outOfTheWay);
+void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone) {
+    xdotool(moveTo(from.x, from.y) + "mousedown 1 " + moveTo(to.x, to.y));
+    waitFor(what, isDone);
+    xdotool(std::string("mouseup 1") + outOfTheWay);
 }
 
 void waitForKeyboard(const std::string& title) {

@@ -27,8 +27,8 @@ void doubleClick(const Element& element);
 void pointAt(const Element& element);
 /// Clicks on the button in a window's title that closes it.
 void clickToClose(const std::string& title);
-/// Moves with the left button held down.
-void drag(Point from, Point to);
+/// Moves with the left button held down, and lets it go when what was wanted has come about.
+void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone);
 /// Waits until the keyboard is a window's, for the program and for the window manager.
 void waitForKeyboard(const std::string& title);
 /// Presses keys, one after the other, by their names as X knows them.

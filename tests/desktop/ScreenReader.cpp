@@ -66,8 +66,12 @@ std::string Element::text() const {
         return taken(atspi_text_get_text(text.get(), 0, -1, nullptr));
     }
     if (const auto value = takenObject(atspi_accessible_get_value_iface(m_accessible.get()))) {
-        return std::to_string(
-            static_cast<int>(atspi_value_get_current_value(value.get(), nullptr)));
+        GError* error = nullptr;
+        const double number = atspi_value_get_current_value(value.get(), &error);
+        if (error == nullptr) {
+            return std::to_string(static_cast<int>(number));
+        }
+        g_error_free(error);
     }
     return {};
 }
