@@ -80,10 +80,10 @@ const bool registered = [] {
             records == 0 ? "the delivered catalogue" : "a catalogue of " + std::to_string(records);
         const std::string own = "click on a thrust button, " + catalogue;
         const std::string peer = own + ", painting";
-        benchmark::RegisterBenchmark(own.c_str(), rules, records)->Repetitions(5)->MinTime(0.1);
+        benchmark::RegisterBenchmark(own.c_str(), rules, records)->Repetitions(9)->MinTime(0.1);
         benchmark::RegisterBenchmark(peer.c_str(), painting, records)
             ->UseManualTime()
-            ->Repetitions(5)
+            ->Repetitions(9)
             ->MinTime(0.1);
         RegisterGoal({"Click with " + catalogue + ": rules, of the time of painting", own, peer,
                       records == 0 ? 0.1 : 0.5, false});

@@ -134,7 +134,7 @@ void startBareWindow(benchmark::State& state) {
 const bool registered = [] {
     for (auto* bench : {benchmark::RegisterBenchmark("program start", startProgram),
                         benchmark::RegisterBenchmark("bare window's start", startBareWindow)}) {
-        bench->Repetitions(15)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
+        bench->Repetitions(25)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
     }
     RegisterGoal({"Start until the window is painted: times a bare window's", "program start",
                   "bare window's start", 1.5, false});
