@@ -5,6 +5,8 @@
 #include "MainWindow.h"
 #include "RunningProgram.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 
