@@ -4,6 +4,8 @@
 #include "MainWindow.h"
 #include "RunningProgram.h"
 
+#include <gtest/gtest.h>
+
 using namespace fleetwright;
 
 namespace {

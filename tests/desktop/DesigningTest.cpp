@@ -5,6 +5,8 @@
 #include "MainWindow.h"
 #include "RunningProgram.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 
@@ -124,6 +126,9 @@ TEST_F(DesigningTest, SystemsAreFittedAndTakenAway) {
     press({"Down", "Down", "Down", "Return"});
     design.systems[battery] += 3;
     window->waitFor(design);
+    // A click of its own first: right behind the menu, the first one may only close it.
+    click(row(gun));
+    waitFor("the row to be selected", [&] { return row(gun).is(ATSPI_STATE_SELECTED); });
     doubleClick(row(gun));
     design.systems[gun] -= 1;
     window->waitFor(design);

@@ -4,6 +4,8 @@
 #include "RunningProgram.h"
 #include "ScreenReader.h"
 
+#include <gtest/gtest.h>
+
 using namespace fleetwright;
 
 TEST(StartTest, BrokenCatalogueEndsTheStartWithOneMessageThatNamesFileAndLine) {

@@ -13,6 +13,8 @@ namespace fleetwright {
 class QtPrograms : public Programs {
 public:
     QtPrograms();
+    QtPrograms(const QtPrograms&) = delete;
+    QtPrograms& operator=(const QtPrograms&) = delete;
     ~QtPrograms() override;
 
     bool run(const std::filesystem::path& program, const std::string& argument,
