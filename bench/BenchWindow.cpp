@@ -56,15 +56,8 @@ fs::path benchApplication(int records) {
     return folder;
 }
 
-BenchWindow::BenchWindow(fs::path appFolder)
-    : m_form({.appFolder = std::move(appFolder),
-              .eventLoopTurn = {},
-              .freeFormulaLibrary = [] {},
-              .desktop = m_desktop,
-              .pictures = m_pictures,
-              .progress = m_progress,
-              .globals = m_globals}) {
-    m_globals.formula = formula_calculate;
+BenchWindow::BenchWindow(const fs::path& appFolder)
+    : m_form(m_silent.services(appFolder, m_pictures)) {
     m_form.show();
 }
 

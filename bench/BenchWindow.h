@@ -1,10 +1,7 @@
 #pragma once
 
-#include "Desktop.h"
-#include "Globals.h"
 #include "QtPictureFiles.h"
-#include "StartUpProgress.h"
-#include "frmMain.h"
+#include "SilentServices.h"
 
 #include <filesystem>
 
@@ -18,28 +15,13 @@ std::filesystem::path benchApplication(int records = 0);
 /// attaches a FormWindow. Needs no application, but pictures that QImage can read.
 class BenchWindow {
 public:
-    explicit BenchWindow(std::filesystem::path appFolder);
+    explicit BenchWindow(const std::filesystem::path& appFolder);
 
     frmMain& form() { return m_form; }
 
 private:
-    class SilentDesktop : public Desktop {
-    public:
-        Answer showMessage(const std::string&, const std::string&, Buttons, Icon) override {
-            return Answer::Ok;
-        }
-        std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-        std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
-        void popUp(MenuEntry&) override {}
-        void showModal(Form&, Form&) override {}
-        void unloadAllForms() override {}
-        ScreenSize screenSize() override { return {}; }
-    };
-
-    SilentDesktop m_desktop;
     QtPictureFiles m_pictures;
-    NoProgress m_progress;
-    Globals m_globals;
+    SilentServices m_silent;
     frmMain m_form;
 };
 
