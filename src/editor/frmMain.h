@@ -395,7 +395,6 @@ private:
     // Showing the ship.
     void RefreshScreen();
     void showFigures();
-    void explainFigures();
     void showButtons();
     void previewNode();
     void previewRow(std::size_t row);
