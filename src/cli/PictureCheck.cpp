@@ -1,56 +1,20 @@
 #include "PictureCheck.h"
 
 #include "Catalogue.h"
+#include "Error.h"
+#include "PictureFiles.h"
 #include "SheetPictures.h"
 #include "TextFile.h"
 #include "capitals.h"
 
-#include <gif_lib.h>
-
 #include <algorithm>
 #include <array>
-#include <cstring>
-#include <fstream>
-#include <iterator>
 
 namespace fleetwright {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-int readGif(GifFileType* gif, GifByteType* bytes, int count) {
-    auto& rest = *static_cast<std::string_view*>(gif->UserData);
-    const std::size_t taken = std::min(rest.size(), static_cast<std::size_t>(count));
-    std::memcpy(bytes, rest.data(), taken);
-    rest.remove_prefix(taken);
-    return static_cast<int>(taken);
-}
-
-/// Decodes a GIF file whole; nothing if that fails.
-std::optional<PictureSize> gifSize(std::string_view bytes) {
-    GifFileType* const gif = DGifOpen(&bytes, readGif, nullptr);
-    if (gif == nullptr) {
-        return std::nullopt;
-    }
-    std::optional<PictureSize> size;
-    if (DGifSlurp(gif) == GIF_OK && gif->ImageCount > 0) {
-        size = {gif->SWidth, gif->SHeight};
-    }
-    DGifCloseFile(gif, nullptr);
-    return size;
-}
-
-/// The size of a picture, or nothing if it cannot be read. Of BMP and JPEG files, which the
-/// catalogue may name but is not meant to, only the first bytes are looked at.
-std::optional<PictureSize> pictureSize(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (bytes.starts_with("BM") || bytes.starts_with("\xFF\xD8")) {
-        return PictureSize();
-    }
-    return gifSize(bytes);
-}
 
 bool isPicture(const fs::path& file) {
     constexpr std::array<std::string_view, 5> extensions = {".GIF", ".BMP", ".JPG", ".JPEG",
@@ -59,23 +23,10 @@ bool isPicture(const fs::path& file) {
     return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
 }
 
-/// What is wrong with the picture of a system; nothing if it is as it should be.
-std::optional<std::string> systemPictureFault(const fs::path& file) {
-    constexpr int side = systemPictureSize;
-    const auto size = pictureSize(file);
-    if (!size) {
-        return "cannot be read";
-    }
-    if (size->width != 0 && (size->width != side || size->height != side)) {
-        return "is " + std::to_string(size->width) + " by " + std::to_string(size->height) +
-               " pixels, not 32 by 32";
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
-PictureCheck::PictureCheck(const fs::path& folder) : m_folder(folder) {
+PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures)
+    : m_folder(folder), m_pictures(pictures) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
         if (entry.is_regular_file(error)) {
@@ -91,6 +42,29 @@ PictureCheck::Entry* PictureCheck::find(std::string_view name) {
     }
     found->second.isUsed = true;
     return &found->second;
+}
+
+bool PictureCheck::isReadable(const fs::path& file) const {
+    try {
+        m_pictures.load(file);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+/// What is wrong with the picture of a system; nothing if it is as it should be.
+std::optional<std::string> PictureCheck::systemPictureFault(const fs::path& file) const {
+    try {
+        const Raster picture = m_pictures.load(file);
+        if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
+            return std::nullopt;
+        }
+        return "is " + std::to_string(picture.width()) + " by " + std::to_string(picture.height()) +
+               " pixels, not 32 by 32";
+    } catch (const FileError&) {
+        return "cannot be read";
+    }
 }
 
 std::vector<Fault> PictureCheck::checkCatalogue(std::string_view text) {
@@ -117,7 +91,7 @@ std::vector<PictureFault> PictureCheck::checkRest() {
         const Entry* const entry = find(name);
         if (entry == nullptr) {
             faults.push_back({m_folder / name, {0, "is missing; sheets need it"}});
-        } else if (!pictureSize(entry->file)) {
+        } else if (!isReadable(entry->file)) {
             faults.push_back({entry->file, {0, "cannot be read"}});
         }
     }

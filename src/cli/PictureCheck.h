@@ -11,6 +11,8 @@
 
 namespace fleetwright {
 
+class PictureFiles;
+
 /// What is wrong with a file of the folder of pictures.
 struct PictureFault {
     std::filesystem::path file;
@@ -20,7 +22,8 @@ struct PictureFault {
 /// Looks at the folder of pictures as the program will: names count without regard to case.
 class PictureCheck {
 public:
-    explicit PictureCheck(const std::filesystem::path& folder);
+    /// `pictures` decodes; it outlives the check.
+    PictureCheck(const std::filesystem::path& folder, PictureFiles& pictures);
 
     /// The pictures that the records of a catalogue name, each with the line of its record: those
     /// that are missing, that cannot be read or that have another size than systems have.
@@ -38,8 +41,11 @@ private:
     };
 
     Entry* find(std::string_view name);
+    bool isReadable(const std::filesystem::path& file) const;
+    std::optional<std::string> systemPictureFault(const std::filesystem::path& file) const;
 
     std::filesystem::path m_folder;
+    PictureFiles& m_pictures;
     std::map<std::string, Entry> m_entries;  // by name in capitals
 };
 
