@@ -1,7 +1,7 @@
 #include "ShipOnScreen.h"
 
-#include "Desktop.h"
 #include "Globals.h"
+#include "NoDesktop.h"
 #include "PictureFiles.h"
 #include "Printer.h"
 #include "SettingsStore.h"
@@ -11,19 +11,6 @@
 namespace fleetwright {
 
 namespace {
-
-class NoDesktop : public Desktop {
-public:
-    Answer showMessage(const std::string&, const std::string&, Buttons, Icon) override {
-        return Answer::Ok;
-    }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
-    void popUp(MenuEntry&) override {}
-    void showModal(Form&, Form&) override {}
-    void unloadAllForms() override {}
-    ScreenSize screenSize() override { return {}; }
-};
 
 class NoPictures : public PictureFiles {
 public:
@@ -114,8 +101,8 @@ ShipClass& ShipOnScreen::ship() {
     return *m_program->window.g_Ship;
 }
 
-const ListView& ShipOnScreen::lvCurrentWeapons() const {
-    return m_program->window.lvCurrentWeapons;
+const frmMain& ShipOnScreen::window() const {
+    return m_program->window;
 }
 
 }  // namespace fleetwright

@@ -4,16 +4,25 @@
 #include "Error.h"
 #include "FormWindow.h"
 #include "Globals.h"
+#include "PictureCache.h"
+#include "ProgramImages.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
 #include "QtPrinter.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
 #include "QtSettingsStore.h"
+#include "SSDMaps.h"
+#include "ShipOnScreen.h"
 #include "StartUpProgress.h"
+#include "drawnSheet.h"
+#include "folders.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
+#include "frmMapper.h"
+#include "saveFile.h"
+#include "sheetShip.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -58,6 +67,30 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// Draws the sheets of all sample ships that there is a map for.
+void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path& output) {
+    fs::create_directories(output);
+    QtPictureFiles files;
+    PictureCache cache(files);
+    const SSDMaps maps = loadMaps(appFolder);
+    for (const fs::path& ship : listFolder(ships, ".shp")) {
+        ShipOnScreen screen(appFolder);
+        if (screen.load(ship.string())) {
+            throw FileError(ship, "does not load");
+        }
+        if (fittingMaps(maps, screen.ship().mass(), 0).empty()) {
+            continue;
+        }
+        try {
+            const Raster sheet = drawnSheet(screen, {appFolder, cache, files, maps}, {});
+            saveFile(output / ship.filename().replace_extension(".png"),
+                     files.encode(sheet, "png"));
+        } catch (const Error& error) {
+            throw FileError(ship, error.what());
+        }
+    }
+}
+
 /// Shows a ship with a system of it selected in the tree.
 void showShip(frmMain& window, const fs::path& ship, const std::string& system) {
     if (!window.loadFile(ship.string())) {
@@ -72,12 +105,41 @@ void showShip(frmMain& window, const fs::path& ship, const std::string& system) 
     window.tmrRefreshScreen.tick();
 }
 
+/// The window of sheets before and after the ship of the main window is drawn.
+void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& appFolder) {
+    QtPictureFiles files;
+    ProgramImages images(appFolder, files, form.ilWeapons);
+    const SSDMaps maps = loadMaps(appFolder);
+    frmMapper mapper(
+        {.appFolder = appFolder,
+         .desktop = desktop,
+         .pictures = files,
+         .encoder = files,
+         .images = images,
+         .g_colSSDMaps = maps,
+         .currentWeapons = [&form]() -> auto& { return form.lvCurrentWeapons.rows();
+}
+, .ship = [&form] { return sheetShip(form); }
+}  // namespace
+);
+mapper.load();
+FormWindow window(mapper);
+mapper.show();
+desktop.take(window, "mapper-empty");
+mapper.cboMapSelection.choose(0);
+mapper.cmdDrawIt.press();
+desktop.take(window, "mapper");
+}
+
 void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& output) {
     fs::create_directories(output);
     const QTemporaryDir temporary;
     const fs::path appFolder = temporary.path().toStdString();
     fs::copy_file(data / "weaps.dat", appFolder / "weaps.dat");
-    fs::create_directory_symlink(fs::absolute(pictures) / "images", appFolder / "images");
+    for (const char* const folder : {"images", "maps", "shipimages"}) {
+        fs::create_directory_symlink(fs::absolute(pictures) / folder, appFolder / folder);
+    }
+    drawSheets(appFolder, data / "ships", output / "sheets");
 
     PictureDesktop desktop(output);
     QtPictureFiles files;
@@ -122,6 +184,7 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     QApplication::setPalette(darkPalette());
     take("main-dark");
     QApplication::setPalette(light);
+    takeMapper(desktop, form, appFolder);
     QFont large = QApplication::font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     QApplication::setFont(large);
