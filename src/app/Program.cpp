@@ -53,8 +53,7 @@ public:
           m_recovery(
               recoveryFolder(),
               {.ownMark = m_runs.own(),
-               .isRunning = [this](const std::string& mark) {
-        return m_runs.isRunning(mark); }},
+               .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
               currentTime),
           m_splash({.appFolder = m_appFolder,
                     .desktop = desktop,
@@ -64,29 +63,21 @@ public:
                     .pictures = m_pictures,
                     .programs = m_programs,
                     .globals = m_globals,
-                    .catalogueFaults = [this] {
-        return catalogueFaults(m_appFolder); },
-                    .mainWindow = [this]() -> Form& {
-        return m_main; },
-                    .isMainWindowLoaded = [this] {
-        return m_main.g_bLoaded; }}),
+                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder); },
+                    .mainWindow = [this]() -> Form& { return m_main; },
+                    .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
           m_main({.appFolder = m_appFolder,
-                  .eventLoopTurn = [] {
-        QApplication::processEvents(); },
-                  .freeFormulaLibrary = [this] {
-        freeFormulaLibrary(); },
+                  .eventLoopTurn = [] { QApplication::processEvents(); },
+                  .freeFormulaLibrary = [this] { freeFormulaLibrary(); },
                   .desktop = desktop,
                   .pictures = m_pictures,
                   .progress = m_splash,
                   .globals = m_globals,
                   .settings = m_settings,
                   .printer = m_printer,
-                  .extras = [this]() -> frmExtras& {
-        return m_extras; },
-                  .showAbout = [this] {
-        m_about.show(); },
-                  .showMapper = [this] {
-        showMapper(); },
+                  .extras = [this]() -> frmExtras& { return m_extras; },
+                  .showAbout = [this] { m_about.show(); },
+                  .showMapper = [this] { showMapper(); },
                   .showViewer = [] {},
                   .showMapCreator = [] {},
                   .recovery = &m_recovery}),
@@ -94,12 +85,11 @@ public:
               {.globals = m_globals,
                .settings = m_settings,
                .nameShip = [this](const std::string& designer,
-                                  const std::string& ship) {
-        m_main.nameShip(designer, ship); },
+                                  const std::string& ship) { m_main.nameShip(designer, ship); },
                .clearRecentFiles =
                    [this] {
-        m_main.CMRUList->clearList();
-        m_main.fillMRU();
+                       m_main.CMRUList->clearList();
+                       m_main.fillMRU();
                    }}),
           m_images(m_appFolder, m_pictures, m_main.ilWeapons),
           m_mapper({.appFolder = m_appFolder,
@@ -108,74 +98,71 @@ public:
                     .encoder = m_pictures,
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
-                    .currentWeapons =
-                        [this]() -> auto& { return m_main.lvCurrentWeapons.rows();
-}, .ship = [this] { return sheetShip(m_main); }
-}  // namespace
-),
+                    .lvCurrentWeapons = m_main.lvCurrentWeapons,
+                    .ship = [this] { return sheetShip(m_main); }}),
           m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}) {
-    if (run == Run::Whole) {
-        desktop.present(m_splash);
+        if (run == Run::Whole) {
+            desktop.present(m_splash);
+        }
+        desktop.present(m_main);
+        desktop.present(m_mapper);
+        desktop.present(m_about);
     }
-    desktop.present(m_main);
-    desktop.present(m_mapper);
-    desktop.present(m_about);
-}
-Program(const Program&) = delete;
-Program& operator=(const Program&) = delete;
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
-~Program() {
-    m_desktop.dismiss(m_about);
-    m_desktop.dismiss(m_mapper);
-    m_desktop.dismiss(m_main);
-    m_desktop.dismiss(m_splash);
-}
+    ~Program() {
+        m_desktop.dismiss(m_about);
+        m_desktop.dismiss(m_mapper);
+        m_desktop.dismiss(m_main);
+        m_desktop.dismiss(m_splash);
+    }
 
-int run() {
-    m_splash.load();
-    return QApplication::exec();
-}
+    int run() {
+        m_splash.load();
+        return QApplication::exec();
+    }
 
-int runUntilPainted() {
-    m_splash.load();
-    m_main.show();
-    m_main.repaint();
-    return 0;
-}
+    int runUntilPainted() {
+        m_splash.load();
+        m_main.show();
+        m_main.repaint();
+        return 0;
+    }
 
 private:
-/// Opens the window of sheets or, if it is open, brings it to the front.
-void showMapper() {
-    if (m_mapper.isLoaded() && m_mapper.state() == WindowState::Minimized) {
-        m_mapper.setState(WindowState::Normal);
+    /// Opens the window of sheets or, if it is open, brings it to the front.
+    void showMapper() {
+        if (m_mapper.isLoaded() && m_mapper.state() == WindowState::Minimized) {
+            m_mapper.setState(WindowState::Normal);
+        }
+        m_mapper.show();
     }
-    m_mapper.show();
-}
 
-void freeFormulaLibrary() {
-    m_globals.formula = nullptr;
-    m_programs.freeLibrary(std::exchange(m_globals.g_hFormulaLib, nullptr));
-}
+    void freeFormulaLibrary() {
+        m_globals.formula = nullptr;
+        m_programs.freeLibrary(std::exchange(m_globals.g_hFormulaLib, nullptr));
+    }
 
-std::filesystem::path m_appFolder;
-QtDesktop& m_desktop;
-QtSettingsStore m_settings;
-QtClock m_clock;
-QtSounds m_sounds;
-QtPictureFiles m_pictures;
-QtPrograms m_programs;
-QtPrinter m_printer;
-QtRegistry m_registry;
-RunMarks m_runs;
-RecoveryFolder m_recovery;
-Globals m_globals;
-frmSplash m_splash;
-frmMain m_main;
-frmExtras m_extras;
-ProgramImages m_images;
-frmMapper m_mapper;
-frmAbout m_about;
-};  // namespace fleetwright
+    std::filesystem::path m_appFolder;
+    QtDesktop& m_desktop;
+    QtSettingsStore m_settings;
+    QtClock m_clock;
+    QtSounds m_sounds;
+    QtPictureFiles m_pictures;
+    QtPrograms m_programs;
+    QtPrinter m_printer;
+    QtRegistry m_registry;
+    RunMarks m_runs;
+    RecoveryFolder m_recovery;
+    Globals m_globals;
+    frmSplash m_splash;
+    frmMain m_main;
+    frmExtras m_extras;
+    ProgramImages m_images;
+    frmMapper m_mapper;
+    frmAbout m_about;
+};
 
 }  // namespace
 

@@ -35,24 +35,21 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
                       .encoder = tools.encoder,
                       .images = images,
                       .g_colSSDMaps = tools.maps,
-                      .currentWeapons = [&]() -> auto& { return main.lvCurrentWeapons.rows();
-}
-, .ship = [&] { return sheetShip(main); }
-}  // namespace fleetwright
-);
-mapper.show();
-if (!mapName.empty()) {
-    mapper.cboMapSelection.type(mapName);
-} else if (!mapper.cboMapSelection.items().empty()) {
-    mapper.cboMapSelection.choose(0);
-} else if (desktop.message.empty()) {
-    throw Error("there is no map that the ship fits on");
-}
-mapper.cmdDrawIt.press();
-if (!desktop.message.empty()) {
-    throw Error(desktop.message + " (" + mapper.lastFault() + ')');
-}
-return std::move(mapper.picSSD.canvas());
+                      .lvCurrentWeapons = main.lvCurrentWeapons,
+                      .ship = [&] { return sheetShip(main); }});
+    mapper.show();
+    if (!mapName.empty()) {
+        mapper.cboMapSelection.type(mapName);
+    } else if (!mapper.cboMapSelection.items().empty()) {
+        mapper.cboMapSelection.choose(0);
+    } else if (desktop.message.empty()) {
+        throw Error("there is no map that the ship fits on");
+    }
+    mapper.cmdDrawIt.press();
+    if (!desktop.message.empty()) {
+        throw Error(desktop.message + " (" + mapper.lastFault() + ')');
+    }
+    return std::move(mapper.picSSD.canvas());
 }
 
 }  // namespace fleetwright

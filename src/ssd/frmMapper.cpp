@@ -25,7 +25,7 @@ void frmMapper::Form_Load() {
     picSSD.setAutoSize(true);
     std::int32_t iShipWeapCount = 0;
     try {
-        iShipWeapCount = m_lists.fillShipWeap(m_services.currentWeapons());
+        iShipWeapCount = m_lists.fillShipWeap(m_services.lvCurrentWeapons.rows());
     } catch (const Error& error) {
         // So many pieces of one system are on no map.
         fail("The ship has too many systems for a sheet!!!", "SSD Creation Error", error);

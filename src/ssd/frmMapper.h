@@ -13,7 +13,6 @@
 #include <filesystem>
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace fleetwright {
 
@@ -34,8 +33,7 @@ public:
         PictureEncoder& encoder;
         SheetImages& images;
         const SSDMaps& g_colSSDMaps;
-        /// The rows of the main window's list of systems aboard.
-        std::function<const std::vector<ListView::Row>&()> currentWeapons;
+        const ListView& lvCurrentWeapons;  ///< the main window's list of systems aboard
         /// The current ship and its figures as the main window shows them.
         std::function<SheetShip()> ship;
     };

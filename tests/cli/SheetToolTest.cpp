@@ -101,17 +101,13 @@ std::string SheetTool::savedByWindow(const std::string& ship) const {
                       .encoder = pictures,
                       .images = images,
                       .g_colSSDMaps = maps,
-                      .currentWeapons =
-                          [&]() -> auto& { return screen.window().lvCurrentWeapons.rows();
-}
-, .ship = [&] { return sheetShip(screen.window()); }
-}  // namespace
-);
-window.show();
-window.cboMapSelection.choose(0);
-window.cmdDrawIt.press();
-window.cmdSave.press();
-return m_folder.read("window.bmp");
+                      .lvCurrentWeapons = screen.window().lvCurrentWeapons,
+                      .ship = [&] { return sheetShip(screen.window()); }});
+    window.show();
+    window.cboMapSelection.choose(0);
+    window.cmdDrawIt.press();
+    window.cmdSave.press();
+    return m_folder.read("window.bmp");
 }
 
 std::size_t pagesIn(const std::string& pdf) {

@@ -23,6 +23,7 @@ class Mapper : public testing::Test,
                protected SheetImages {
 protected:
     Mapper() {
+        carry({{"F", "1"}});
         folder.write("Small", "SIZE: 10\nIMAGE: SHIP.BMP\nWEAP: (1,2,F)\nDCP: (3,4)\n"
                               "FIRECON: (5,6)\n");
         folder.write("Wide", "SIZE: 100\nIMAGE: WIDE.BMP\nWEAP: (1,2,F)\nWEAP: (9,2,P)\n");
@@ -30,91 +31,87 @@ protected:
         outlines = {{"SHIP.BMP", Raster(400, 100)}, {"WIDE.BMP", Raster(2185, 50)}};
         maps = loadMaps(folder.path());
         window = std::make_unique<frmMapper>(frmMapper::Services{
-            folder.path(), *this, *this, *this, *this, maps,
-            [this]() -> auto& { return systems;
+            folder.path(), *this, *this, *this, *this, maps, systems,
+            [this]() -> SheetShip { return {"5", parties, "1", "Magpie", "Åsa", "99", *ship}; }});
     }
-    , [this]() -> SheetShip { return {"5", parties, "1", "Magpie", "Åsa", "99", *ship}; }});
-}  // namespace
 
-void drawOn(const std::string& map) {
-    window->cboMapSelection.type(map);
-    window->cmdDrawIt.press();
-}
-/// Which buttons can be pressed: "draw save".
-std::string buttons() const {
-    return std::string(window->cmdDrawIt.isEnabled() ? "draw " : "") +
-           (window->cmdSave.isEnabled() ? "save" : "");
-}
-/// Size of the sheet, of its box and of the window.
-std::string sizes() const {
-    const Raster& picture = window->picSSD.picture();
-    const Place& box = window->picSSD.place();
-    return std::to_string(picture.width()) + 'x' + std::to_string(picture.height()) + ' ' +
-           std::to_string(box.width) + 'x' + std::to_string(box.height) + ' ' +
-           std::to_string(window->width()) + 'x' + std::to_string(window->height());
-}
-std::string takeLog() {
-    return std::exchange(log, {});
-}
-
-// Desktop
-Answer showMessage(const std::string& text, const std::string& title, Buttons, Icon icon) override {
-    log += text + '/' + title + (icon == Icon::Critical ? "/stop; " : "; ");
-    return Answer::Ok;
-}
-std::optional<std::string> chooseFileToOpen(const FileDialog&) override {
-    return {};
-}
-std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override {
-    log += dialog.filter + '/' + std::to_string(dialog.filterIndex) + '/' +
-           dialog.initialFolder.lexically_relative(folder.path()).string() + "; ";
-    return chosen;
-}
-void popUp(MenuEntry&) override {}
-void showModal(Form&, Form&) override {}
-void unloadAllForms() override {}
-ScreenSize screenSize() override {
-    return {};
-}
-// PictureFiles
-Raster load(const fs::path& file) override {
-    const auto found = outlines.find(file.filename().string());
-    if (found == outlines.end()) {
-        throw FileError(file, "is missing");
+    void carry(std::initializer_list<std::pair<const char*, const char*>> aboard) {
+        systems.clear();
+        for (const ListView::Row& row : rows(aboard)) {
+            systems.add(row.key, row.text, row.subItem);
+        }
     }
-    return found->second;
-}
-Raster builtIn(const std::string&) override {
-    return {};
-}
-std::string encode(const Raster& picture, const std::string& format) override {
-    return format + ' ' + std::to_string(picture.width()) + 'x' + std::to_string(picture.height());
-}
-// SheetImages
-Raster file(std::string_view name) override {
-    if (name == lacking) {
-        throw FileError(fs::path(name), "is missing");
+    void drawOn(const std::string& map) {
+        window->cboMapSelection.type(map);
+        window->cmdDrawIt.press();
     }
-    return {8, 8};
-}
-const Raster& system(std::string_view) override {
-    return systemPicture;
-}
+    /// Which buttons can be pressed: "draw save".
+    std::string buttons() const {
+        return std::string(window->cmdDrawIt.isEnabled() ? "draw " : "") +
+               (window->cmdSave.isEnabled() ? "save" : "");
+    }
+    /// Size of the sheet, of its box and of the window.
+    std::string sizes() const {
+        const Raster& picture = window->picSSD.picture();
+        const Place& box = window->picSSD.place();
+        return std::to_string(picture.width()) + 'x' + std::to_string(picture.height()) + ' ' +
+               std::to_string(box.width) + 'x' + std::to_string(box.height) + ' ' +
+               std::to_string(window->width()) + 'x' + std::to_string(window->height());
+    }
+    std::string takeLog() { return std::exchange(log, {}); }
 
-MapFolder folder;
-ShipYard yard{arcCatalogue};
-std::unique_ptr<ShipClass> ship = yard.loaded("Mass: 10\n");
-std::vector<ListView::Row> systems = rows({{"F", "1"}});
-std::string parties = "1";
-SSDMaps maps;
-std::map<std::string, Raster> outlines;
-std::string_view lacking;
-const Raster systemPicture{8, 8};
-std::optional<std::string> chosen;
-std::string log;
-std::unique_ptr<frmMapper> window;
-}
-;
+    // Desktop
+    Answer showMessage(const std::string& text, const std::string& title, Buttons,
+                       Icon icon) override {
+        log += text + '/' + title + (icon == Icon::Critical ? "/stop; " : "; ");
+        return Answer::Ok;
+    }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
+    std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override {
+        log += dialog.filter + '/' + std::to_string(dialog.filterIndex) + '/' +
+               dialog.initialFolder.lexically_relative(folder.path()).string() + "; ";
+        return chosen;
+    }
+    void popUp(MenuEntry&) override {}
+    void showModal(Form&, Form&) override {}
+    void unloadAllForms() override {}
+    ScreenSize screenSize() override { return {}; }
+    // PictureFiles
+    Raster load(const fs::path& file) override {
+        const auto found = outlines.find(file.filename().string());
+        if (found == outlines.end()) {
+            throw FileError(file, "is missing");
+        }
+        return found->second;
+    }
+    Raster builtIn(const std::string&) override { return {}; }
+    std::string encode(const Raster& picture, const std::string& format) override {
+        return format + ' ' + std::to_string(picture.width()) + 'x' +
+               std::to_string(picture.height());
+    }
+    // SheetImages
+    Raster file(std::string_view name) override {
+        if (name == lacking) {
+            throw FileError(fs::path(name), "is missing");
+        }
+        return {8, 8};
+    }
+    const Raster& system(std::string_view) override { return systemPicture; }
+
+    MapFolder folder;
+    ShipYard yard{arcCatalogue};
+    std::unique_ptr<ShipClass> ship = yard.loaded("Mass: 10\n");
+    Form main{{.name = "main"}};
+    ListView systems{main, {.name = "systems"}};
+    std::string parties = "1";
+    SSDMaps maps;
+    std::map<std::string, Raster> outlines;
+    std::string_view lacking;
+    const Raster systemPicture{8, 8};
+    std::optional<std::string> chosen;
+    std::string log;
+    std::unique_ptr<frmMapper> window;
+};
 
 constexpr const char* drawnSizes = "400x171 6000x2565 6305x3800";
 constexpr const char* dialogLog = "All Files (*.*)|*.*|BitMap Files/2/ssds; ";
@@ -134,7 +131,7 @@ TEST_F(Mapper, OffersTheMapsThatFitAndBeginsEmpty) {
 }
 
 TEST_F(Mapper, DrawsAndShowsEachSystemAsItComes) {
-    systems = rows({{"F", "1"}, {"Listed", "2"}});
+    carry({{"F", "1"}, {"Listed", "2"}});
     window->show();
     std::vector<int> seen;
     const Connection connection =
@@ -211,7 +208,7 @@ TEST_F(Mapper, ShowsTheOutlineAgainWhenTheDrawingFails) {
 }
 
 TEST_F(Mapper, RefusesCountsThatNoSheetHolds) {
-    systems = rows({{"F", "32768"}});
+    carry({{"F", "32768"}});
     window->show();
     EXPECT_EQ(takeLog(), "The ship has too many systems for a sheet!!!/SSD Creation Error/stop; ");
     EXPECT_TRUE(window->cboMapSelection.items().empty());
@@ -247,13 +244,13 @@ TEST_F(Mapper, BeginsAnewEachTimeAndSavesTheEmptyStrip) {
     drawOn("Small");
     window->setState(WindowState::Maximized);
     window->unload();
-    systems.clear();
+    carry({});
     window->show();
     EXPECT_EQ(buttons(), "draw save");
     EXPECT_EQ(window->cboMapSelection.text(), "");
     EXPECT_EQ(sizes(), "0x0 4635x120 5055x1355");
     EXPECT_EQ(window->state(), WindowState::Normal);
-    systems = rows({{"F", "9"}});
+    carry({{"F", "9"}});
     window->show();  // open already: it only comes to the front
     EXPECT_EQ(window->cboMapSelection.items().size(), 2U);
     chosen = (folder.path() / "strip").string();

@@ -28,6 +28,7 @@
 #include <QPixmap>
 #include <QTemporaryDir>
 
+#include <array>
 #include <cstdio>
 
 namespace {
@@ -67,6 +68,28 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// The map that suits a ship best of those that it fits on: of the smallest size and, as the names
+/// of the delivered maps tell it, for its kind of hull. Empty if there is none.
+std::string mapFor(const SSDMaps& maps, const ShipOnScreen& screen, const ShipClass& ship) {
+    static constexpr std::array<const char*, 6> kinds = {"Warship",  "Merchant", "Q-Ship",
+                                                         "Starbase", "Station",  "Station"};
+    SheetLists lists;
+    const std::int32_t count = lists.fillShipWeap(screen.window().lvCurrentWeapons.rows());
+    SSDMaps::Map best;
+    const auto suits = [&](const SSDMaps::Map& map) {
+        const char* const kind = kinds.at(static_cast<std::size_t>(ship.Hull() - 1));
+        return map->sDisplayName.find(kind) != std::string::npos;
+    };
+    for (const std::string& name : fittingMaps(maps, ship.mass(), count)) {
+        const SSDMaps::Map map = maps.at(name);
+        if (!best || map->iMaxMass < best->iMaxMass ||
+            (map->iMaxMass == best->iMaxMass && suits(map) && !suits(best))) {
+            best = map;
+        }
+    }
+    return best ? best->sDisplayName : "";
+}
+
 /// Draws the sheets of all sample ships that there is a map for.
 void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path& output) {
     fs::create_directories(output);
@@ -78,11 +101,12 @@ void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path
         if (screen.load(ship.string())) {
             throw FileError(ship, "does not load");
         }
-        if (fittingMaps(maps, screen.ship().mass(), 0).empty()) {
+        const std::string map = mapFor(maps, screen, screen.ship());
+        if (map.empty()) {
             continue;
         }
         try {
-            const Raster sheet = drawnSheet(screen, {appFolder, cache, files, maps}, {});
+            const Raster sheet = drawnSheet(screen, {appFolder, cache, files, maps}, map);
             saveFile(output / ship.filename().replace_extension(".png"),
                      files.encode(sheet, "png"));
         } catch (const Error& error) {
@@ -110,25 +134,21 @@ void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& ap
     QtPictureFiles files;
     ProgramImages images(appFolder, files, form.ilWeapons);
     const SSDMaps maps = loadMaps(appFolder);
-    frmMapper mapper(
-        {.appFolder = appFolder,
-         .desktop = desktop,
-         .pictures = files,
-         .encoder = files,
-         .images = images,
-         .g_colSSDMaps = maps,
-         .currentWeapons = [&form]() -> auto& { return form.lvCurrentWeapons.rows();
-}
-, .ship = [&form] { return sheetShip(form); }
-}  // namespace
-);
-mapper.load();
-FormWindow window(mapper);
-mapper.show();
-desktop.take(window, "mapper-empty");
-mapper.cboMapSelection.choose(0);
-mapper.cmdDrawIt.press();
-desktop.take(window, "mapper");
+    frmMapper mapper({.appFolder = appFolder,
+                      .desktop = desktop,
+                      .pictures = files,
+                      .encoder = files,
+                      .images = images,
+                      .g_colSSDMaps = maps,
+                      .lvCurrentWeapons = form.lvCurrentWeapons,
+                      .ship = [&form] { return sheetShip(form); }});
+    mapper.load();
+    FormWindow window(mapper);
+    mapper.show();
+    desktop.take(window, "mapper-empty");
+    mapper.cboMapSelection.type("Cruiser Warship - Halberd");
+    mapper.cmdDrawIt.press();
+    desktop.take(window, "mapper");
 }
 
 void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& output) {
