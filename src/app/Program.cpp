@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "Globals.h"
 #include "PictureCache.h"
+#include "ProgramImages.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
@@ -19,7 +20,9 @@
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
+#include "frmMapper.h"
 #include "frmSplash.h"
+#include "sheetShip.h"
 #include "userDataFolder.h"
 
 #include <QApplication>
@@ -75,7 +78,7 @@ public:
                   .printer = m_printer,
                   .extras = [this]() -> frmExtras& { return m_extras; },
                   .showAbout = [this] { m_about.show(); },
-                  .showMapper = [] {},
+                  .showMapper = [this] { showMapper(); },
                   .showViewer = [] {},
                   .showMapCreator = [] {},
                   .recovery = &m_recovery}),
@@ -89,11 +92,21 @@ public:
                        m_main.CMRUList->clearList();
                        m_main.fillMRU();
                    }}),
+          m_images(m_appFolder, m_pictures, m_main.ilWeapons),
+          m_mapper({.appFolder = m_appFolder,
+                    .desktop = desktop,
+                    .pictures = m_pictures,
+                    .encoder = m_decoder,
+                    .images = m_images,
+                    .g_colSSDMaps = m_globals.g_colSSDMaps,
+                    .lvCurrentWeapons = m_main.lvCurrentWeapons,
+                    .ship = [this] { return sheetShip(m_main); }}),
           m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}) {
         if (run == Run::Whole) {
             desktop.present(m_splash);
         }
         desktop.present(m_main);
+        desktop.present(m_mapper);
         desktop.present(m_about);
     }
     Program(const Program&) = delete;
@@ -101,6 +114,7 @@ public:
 
     ~Program() {
         m_desktop.dismiss(m_about);
+        m_desktop.dismiss(m_mapper);
         m_desktop.dismiss(m_main);
         m_desktop.dismiss(m_splash);
     }
@@ -118,6 +132,14 @@ public:
     }
 
 private:
+    /// Opens the window of sheets or, if it is open, brings it to the front.
+    void showMapper() {
+        if (m_mapper.isLoaded() && m_mapper.state() == WindowState::Minimized) {
+            m_mapper.setState(WindowState::Normal);
+        }
+        m_mapper.show();
+    }
+
     void freeFormulaLibrary() {
         m_globals.formula = nullptr;
         m_programs.freeLibrary(std::exchange(m_globals.g_hFormulaLib, nullptr));
@@ -139,6 +161,8 @@ private:
     frmSplash m_splash;
     frmMain m_main;
     frmExtras m_extras;
+    ProgramImages m_images;
+    frmMapper m_mapper;
     frmAbout m_about;
 };
 

@@ -17,7 +17,7 @@ std::string catalogueFaults(const std::filesystem::path& appFolder, PictureFiles
     try {
         const std::string catalogue = readTextFile(file);
         faults = checkCatalogue(catalogue, CatalogueCheck::Start);
-        PictureCheck check(appFolder / "images", pictures);
+        PictureCheck check(appFolder / "images", pictures, PictureCheck::Start);
         for (Fault& fault : check.checkCatalogue(catalogue)) {
             faults.push_back(std::move(fault));
         }

@@ -63,6 +63,14 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
     return paths;
 }
 
+void makeFolder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw FileError(folder, "cannot be made: " + error.message());
+    }
+}
+
 fs::path findFile(const fs::path& file) {
     std::error_code error;
     if (fs::exists(file, error)) {

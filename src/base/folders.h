@@ -19,6 +19,9 @@ std::string pathText(const std::filesystem::path& path);
 std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folder,
                                               std::string_view ending);
 
+/// Makes a folder and those that it stands in, unless they are there. Throws FileError.
+void makeFolder(const std::filesystem::path& folder);
+
 /// What stands under this path: the path itself if there is such an entry, else the first one by
 /// name whose path differs from it only in case. The path itself if there is none at all.
 std::filesystem::path findFile(const std::filesystem::path& file);

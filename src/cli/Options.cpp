@@ -2,10 +2,12 @@
 
 #include "TextFile.h"
 #include "applicationFolder.h"
+#include "capitals.h"
 #include "executableFolder.h"
 
 #include <array>
 #include <charconv>
+#include <functional>
 #include <limits>
 #include <string_view>
 
@@ -36,6 +38,8 @@ constexpr auto commandTable = std::to_array<CommandRow>({
      "Work out a mass or cost formula of the catalogue"},
     {"maps", Command::Maps, "[SHIP]", 0, 1,
      "List all maps for sheets, or those that a ship fits on"},
+    {"sheet", Command::Sheet, "SHIP... [--map NAME] [-o OUT]", 1, any,
+     "Draw the sheets of ships: OUT is a .bmp, .png or .pdf file, or a folder"},
     {"scan", Command::Scan, "OUTLINE... [-o OUT]", 1, any,
      "Make maps from marked outlines; OUT is a file or, for several, a folder"},
     {"check", Command::Check, "[FILE...]", 0, any,
@@ -75,9 +79,12 @@ std::string helpText() {
     }
     text += "\nOptions, before or behind the files; \"--\" ends them:\n" +
             padded("  --app DIR", 32) + "The application folder, by default the tool's own\n" +
-            padded("  -o OUT", 32) + "Write there, not to standard output\n" +
             padded("  --auto-mass", 32) + "Fit the hull mass to the systems\n" +
             padded("  --help, --version", 32) + "Show this help, or the version\n" +
+            padded("  --map NAME", 32) + "The map to draw on, by default the first that fits\n" +
+            padded("  -o OUT", 32) +
+            "Where to write; by default sheets to SHIP.bmp here, maps to standard output\n" +
+            padded("  --paper A4|Letter", 32) + "The paper of a .pdf, by default A4\n" +
             "\nNumbers of eval, with what they are if not given:\n";
     for (const NumberRow& row : numberTable) {
         text += padded("  " + std::string(row.option) + " N", 32) + std::string(row.help) + ", " +
@@ -118,8 +125,9 @@ public:
             return m_options;
         }
         finish();
+        m_options.programFolder = executableFolder(argv0);
         if (m_options.appFolder.empty()) {
-            m_options.appFolder = applicationFolder(executableFolder(argv0));
+            m_options.appFolder = applicationFolder(m_options.programFolder);
         }
         return m_options;
     }
@@ -167,7 +175,8 @@ private:
             }
             return;
         }
-        if (name == "-o" && m_options.command == Command::Scan) {
+        if (name == "-o" &&
+            (m_options.command == Command::Scan || m_options.command == Command::Sheet)) {
             m_options.output = value();
             if (m_options.output.empty()) {
                 throw UsageError("-o needs a file or a folder");
@@ -180,6 +189,9 @@ private:
                 return;
             }
         }
+        if (m_options.command == Command::Sheet && takeSheetOption(name, value)) {
+            return;
+        }
         if (word == "--auto-mass" && m_options.command == Command::Figures) {
             m_options.autoMass = true;
         } else if (word == "--help" || word == "-h") {
@@ -188,6 +200,38 @@ private:
             m_options.answer = "FleetWright " FLEETWRIGHT_VERSION "\n";
         } else {
             throw UsageError("unknown option " + std::string(word));
+        }
+    }
+
+    bool takeSheetOption(std::string_view name, const std::function<std::string_view()>& value) {
+        if (name == "--map") {
+            m_options.mapName = value();
+        } else if (name == "--paper") {
+            const std::string paper = toCapitals(value());
+            if (paper != "A4" && paper != "LETTER") {
+                throw UsageError("--paper is A4 or Letter");
+            }
+            m_options.paper = paper == "A4" ? Paper::A4 : Paper::Letter;
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    /// What `-o` names: an ending says that it is a file, unless there is a folder of that name.
+    void finishSheet() {
+        const std::filesystem::path out = nativePath(m_options.output);
+        std::error_code ignored;
+        if (!out.has_extension() || std::filesystem::is_directory(out, ignored)) {
+            return;
+        }
+        const std::optional<std::string> format = sheetFormat(m_options.output);
+        if (!format) {
+            throw UsageError("-o: a sheet is a .bmp, .png or .pdf file: " + m_options.output);
+        }
+        m_options.sheetOut = format == "pdf" ? SheetOut::Document : SheetOut::Picture;
+        if (m_options.sheetOut == SheetOut::Picture && m_options.files.size() > 1) {
+            throw UsageError("-o: several sheets need a folder or a .pdf file");
         }
     }
 
@@ -202,7 +246,9 @@ private:
         if (m_options.files.size() > m_row->most) {
             throw UsageError("one too many: " + m_options.files[m_row->most]);
         }
-        if (m_options.command == Command::Eval) {
+        if (m_options.command == Command::Sheet) {
+            finishSheet();
+        } else if (m_options.command == Command::Eval) {
             m_options.formula = m_options.files.front();
             m_options.files.clear();
         } else if (m_options.command == Command::Recovered && m_options.files.size() == 1) {
@@ -222,6 +268,15 @@ private:
 };
 
 }  // namespace
+
+std::optional<std::string> sheetFormat(std::string_view file) {
+    for (const char* const format : {"bmp", "png", "pdf"}) {
+        if (toCapitals(file).ends_with('.' + toCapitals(format))) {
+            return format;
+        }
+    }
+    return std::nullopt;
+}
 
 Options readOptions(int argc, const char* const* argv) {
     return Parser(argc, argv).parse(argv[0]);

@@ -16,6 +16,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Whether the end of a GIF file is missing.
+bool isCutShort(std::string_view bytes) {
+    constexpr char trailer = 0x3B;
+    return bytes.starts_with("GIF") && !bytes.ends_with(trailer);
+}
+
 bool isPicture(const fs::path& file) {
     constexpr std::array<std::string_view, 5> extensions = {".GIF", ".BMP", ".JPG", ".JPEG",
                                                             ".PNG"};
@@ -25,8 +31,8 @@ bool isPicture(const fs::path& file) {
 
 }  // namespace
 
-PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures)
-    : m_folder(folder), m_pictures(pictures) {
+PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth depth)
+    : m_folder(folder), m_pictures(pictures), m_depth(depth) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
         if (entry.is_regular_file(error)) {
@@ -44,9 +50,17 @@ PictureCheck::Entry* PictureCheck::find(std::string_view name) {
     return &found->second;
 }
 
+/// Throws FileError.
+Raster PictureCheck::read(const fs::path& file) const {
+    if (m_depth == All && isCutShort(readBytes(file))) {
+        throw FileError(file, "is cut short");
+    }
+    return m_pictures.load(file);
+}
+
 bool PictureCheck::isReadable(const fs::path& file) const {
     try {
-        m_pictures.load(file);
+        read(file);
         return true;
     } catch (const FileError&) {
         return false;
@@ -56,7 +70,7 @@ bool PictureCheck::isReadable(const fs::path& file) const {
 /// What is wrong with the picture of a system; nothing if it is as it should be.
 std::optional<std::string> PictureCheck::systemPictureFault(const fs::path& file) const {
     try {
-        const Raster picture = m_pictures.load(file);
+        const Raster picture = read(file);
         if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
             return std::nullopt;
         }

@@ -1,29 +1,11 @@
 #include "ShipOnScreen.h"
 
-#include "Desktop.h"
-#include "Globals.h"
 #include "PictureFiles.h"
-#include "Printer.h"
-#include "SettingsStore.h"
-#include "StartUpProgress.h"
-#include "frmMain.h"
+#include "SilentServices.h"
 
 namespace fleetwright {
 
 namespace {
-
-class NoDesktop : public Desktop {
-public:
-    Answer showMessage(const std::string&, const std::string&, Buttons, Icon) override {
-        return Answer::Ok;
-    }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
-    void popUp(MenuEntry&) override {}
-    void showModal(Form&, Form&) override {}
-    void unloadAllForms() override {}
-    ScreenSize screenSize() override { return {}; }
-};
 
 class NoPictures : public PictureFiles {
 public:
@@ -31,56 +13,21 @@ public:
     Raster builtIn(const std::string&) override { return {}; }
 };
 
-class NoSettings : public SettingsStore {
-public:
-    std::string read(const std::string&, const std::string&,
-                     const std::string& otherwise) const override {
-        return otherwise;
-    }
-    void write(const std::string&, const std::string&, const std::string&) override {}
-};
-
-class NoPrinter : public Printer {
-public:
-    std::optional<int> choose() override { return {}; }
-    std::string fontName() const override { return {}; }
-    void setFontName(const std::string&) override {}
-    int fontSize() const override { return 0; }
-    void setFontSize(int) override {}
-    void printLine(std::string_view) override {}
-    void endDocument() override {}
-};
-
 }  // namespace
 
 class ShipOnScreen::Program {
 public:
     explicit Program(const std::filesystem::path& appFolder)
-        : window({.appFolder = appFolder,
-                  .eventLoopTurn = {},
-                  .freeFormulaLibrary = [] {},
-                  .desktop = m_desktop,
-                  .pictures = m_pictures,
-                  .progress = m_progress,
-                  .globals = m_globals,
-                  .settings = m_settings,
-                  .printer = m_printer,
-                  .extras = {},
-                  .showAbout = {},
-                  .showMapper = {},
-                  .showViewer = {},
-                  .showMapCreator = {},
-                  .hasScreen = false}) {
-        m_globals.formula = formula_calculate;
-    }
+        : window(withoutScreen(m_silent.services(appFolder, m_pictures))) {}
 
 private:
-    NoDesktop m_desktop;
+    static MainWindowServices withoutScreen(MainWindowServices services) {
+        services.hasScreen = false;
+        return services;
+    }
+
     NoPictures m_pictures;
-    NoProgress m_progress;
-    NoSettings m_settings;
-    NoPrinter m_printer;
-    Globals m_globals;
+    SilentServices m_silent;
 
 public:
     frmMain window;
@@ -114,8 +61,8 @@ ShipClass& ShipOnScreen::ship() {
     return *m_program->window.g_Ship;
 }
 
-const ListView& ShipOnScreen::lvCurrentWeapons() const {
-    return m_program->window.lvCurrentWeapons;
+const frmMain& ShipOnScreen::window() const {
+    return m_program->window;
 }
 
 }  // namespace fleetwright

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ListView.h"
 #include "ShipClass.h"
 
 #include <filesystem>
@@ -9,6 +8,8 @@
 #include <string>
 
 namespace fleetwright {
+
+class frmMain;
 
 /// A ship as the freshly started program shows it. This is the program without its screen: it
 /// drives the main window itself, so that no figure can differ from the one in the window.
@@ -29,8 +30,8 @@ public:
 
     /// The ship that was loaded last.
     ShipClass& ship();
-    /// The list of its systems.
-    const ListView& lvCurrentWeapons() const;
+    /// The main window, which shows it.
+    const frmMain& window() const;
 
 private:
     class Program;

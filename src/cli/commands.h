@@ -19,6 +19,7 @@ int runReport(const Options& options);
 int runFigures(const Options& options);
 int runExplain(const Options& options);
 int runSave(const Options& options);
+int runSheet(const Options& options);
 int runEval(const Options& options);
 int runMaps(const Options& options);
 int runScan(const Options& options);
@@ -30,9 +31,11 @@ int runRecovered(const Options& options);
 enum class RefusedLines { InOutput, AsComplaints };
 
 /// Loads each ship of the command line and prints what `work` makes of it, in their order and
-/// several at a time.
+/// several at a time. An Error of `work` becomes a complaint. `taken`, if there is one, hears in
+/// their order of all ships that are done with.
 int forEachShip(const Options& options, RefusedLines refusedLines,
-                const std::function<std::string(const std::string& file, ShipOnScreen&)>& work);
+                const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
+                const std::function<void(std::size_t index)>& taken = {});
 
 /// "FILE:LINE: what is wrong", or without the line where none is at fault.
 std::string complaint(const std::string& file, const Fault& fault);

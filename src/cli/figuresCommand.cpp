@@ -53,11 +53,11 @@ std::string figuresOf(const std::string& file, ShipClass& ship) {
 
 int runFigures(const Options& options) {
     return forEachShip(options, RefusedLines::InOutput,
-                       [&options](const std::string& file, ShipOnScreen& screen) {
+                       [&options](std::size_t index, ShipOnScreen& screen) {
                            if (options.autoMass) {
                                screen.switchAutoMassOn();
                            }
-                           return figuresOf(file, screen.ship()) + '\n';
+                           return figuresOf(options.files[index], screen.ship()) + '\n';
                        });
 }
 

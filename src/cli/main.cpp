@@ -25,6 +25,8 @@ int run(const Options& options) {
         return runMaps(options);
     case Command::Scan:
         return runScan(options);
+    case Command::Sheet:
+        return runSheet(options);
     case Command::Check:
         return runCheck(options);
     case Command::Unpack:

@@ -3,6 +3,7 @@
 #include "SSDMaps.h"
 #include "SheetLists.h"
 #include "ShipOnScreen.h"
+#include "frmMain.h"
 
 #include <cstdio>
 
@@ -10,17 +11,9 @@ namespace fleetwright {
 
 namespace {
 
-/// The maps as the start of the program loads them.
-SSDMaps loadMaps(const Options& options) {
-    SSDMaps maps;
-    std::int16_t largest = 0;
-    scanMaps(options.appFolder, maps, largest, [](const std::string&) {});
-    return maps;
-}
-
 std::string mapsFor(const SSDMaps& maps, ShipOnScreen& screen) {
     SheetLists lists;
-    const std::int32_t count = lists.fillShipWeap(screen.lvCurrentWeapons().rows());
+    const std::int32_t count = lists.fillShipWeap(screen.window().lvCurrentWeapons.rows());
     std::string names;
     for (const std::string& name : fittingMaps(maps, screen.ship().mass(), count)) {
         names += name + '\n';
@@ -31,11 +24,11 @@ std::string mapsFor(const SSDMaps& maps, ShipOnScreen& screen) {
 }  // namespace
 
 int runMaps(const Options& options) {
-    const SSDMaps maps = loadMaps(options);
+    const SSDMaps maps = loadMaps(options.appFolder);
     if (!options.files.empty()) {
         return forEachShip(
             options, RefusedLines::AsComplaints,
-            [&maps](const std::string&, ShipOnScreen& screen) { return mapsFor(maps, screen); });
+            [&maps](std::size_t, ShipOnScreen& screen) { return mapsFor(maps, screen); });
     }
     for (const SSDMaps::Map& map : maps.all()) {
         std::printf("%s\n", map->sDisplayName.c_str());

@@ -25,12 +25,11 @@ private:
 }  // namespace
 
 int runReport(const Options& options) {
-    return forEachShip(options, RefusedLines::AsComplaints,
-                       [](const std::string&, ShipOnScreen& screen) {
-                           TextPrinter printer;
-                           screen.ship().PrintShip(printer);
-                           return printer.text();
-                       });
+    return forEachShip(options, RefusedLines::AsComplaints, [](std::size_t, ShipOnScreen& screen) {
+        TextPrinter printer;
+        screen.ship().PrintShip(printer);
+        return printer.text();
+    });
 }
 
 }  // namespace fleetwright

@@ -2,10 +2,12 @@
 
 #include "Error.h"
 #include "OutlineScan.h"
-#include "QtPictureFiles.h"
+#include "PictureFiles.h"
 #include "TextFile.h"
 #include "capitals.h"
+#include "folders.h"
 #include "inOrder.h"
+#include "loadPictures.h"
 #include "saveFile.h"
 
 #include <cstdio>
@@ -18,10 +20,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Result scanFile(const std::string& file) {
+Result scanFile(PictureFiles& pictures, const std::string& file) {
     try {
-        return {.output = scanOutline(QtPictureFiles().load(nativePath(file)), file),
-                .complaints = {}};
+        return {.output = scanOutline(pictures.load(nativePath(file)), file), .complaints = {}};
     } catch (const FileError& error) {
         return {.output = {}, .complaints = {complaint(file, {0, error.what()})}};
     } catch (const OverflowError&) {
@@ -38,11 +39,7 @@ public:
           m_isFolder(!m_output.empty() && (options.files.size() > 1 || !m_output.has_filename() ||
                                            fs::is_directory(m_output))) {
         if (m_isFolder) {
-            std::error_code error;
-            fs::create_directories(m_output, error);
-            if (error) {
-                throw FileError(m_output, "cannot be made: " + error.message());
-            }
+            makeFolder(m_output);
         }
     }
 
@@ -73,6 +70,7 @@ private:
 }  // namespace
 
 int runScan(const Options& options) {
+    const Pictures& pictures = loadPictures(options.programFolder);
     int status = Done;
     MapWriter writer(options);
     const auto complain = [&status](const std::string& line) {
@@ -97,7 +95,7 @@ int runScan(const Options& options) {
     };
     inOrder(
         options.files.size(), std::thread::hardware_concurrency(),
-        [&](std::size_t index) { return scanFile(options.files[index]); }, take);
+        [&](std::size_t index) { return scanFile(pictures.files, options.files[index]); }, take);
     return status;
 }
 

@@ -60,7 +60,8 @@ std::string complaint(const std::string& file, const Fault& fault) {
 }
 
 int forEachShip(const Options& options, RefusedLines refusedLines,
-                const std::function<std::string(const std::string&, ShipOnScreen&)>& work) {
+                const std::function<std::string(std::size_t, ShipOnScreen&)>& work,
+                const std::function<void(std::size_t)>& taken) {
     int status = Done;
     Progress progress(options.files.size());
     const auto load = [&](std::size_t index) {
@@ -72,7 +73,7 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
             return result;
         }
         try {
-            result.output = work(file, screen);
+            result.output = work(index, screen);
         } catch (const Error& error) {
             result.complaints.push_back(complaint(file, {0, error.what()}));
             return result;
@@ -90,6 +91,9 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
             progress.clear();
             std::fprintf(stderr, "%s\n", line.c_str());
             status = SomeRefused;
+        }
+        if (taken) {
+            taken(index);
         }
         progress.show(index + 1);
     };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Desktop.h"
 #include "Globals.h"
+#include "NoDesktop.h"
 #include "Printer.h"
 #include "SettingsStore.h"
 #include "StartUpProgress.h"
@@ -36,19 +36,6 @@ public:
     Globals globals;
 
 private:
-    class NoDesktop : public Desktop {
-    public:
-        Answer showMessage(const std::string&, const std::string&, Buttons, Icon) override {
-            return Answer::Ok;
-        }
-        std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-        std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
-        void popUp(MenuEntry&) override {}
-        void showModal(Form&, Form&) override {}
-        void unloadAllForms() override {}
-        ScreenSize screenSize() override { return {}; }
-    };
-
     class NoSettings : public SettingsStore {
     public:
         std::string read(const std::string&, const std::string&,

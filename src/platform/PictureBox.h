@@ -23,10 +23,18 @@ public:
     void setPicture(Raster picture) {
         m_picture = std::move(picture);
         if (m_isAutoSize) {
-            setPlace({place().left, place().top, m_picture.width() * twipsPerPixel,
-                      m_picture.height() * twipsPerPixel});
+            fitToPicture();
         }
         Changed.raise();
+    }
+
+    /// The picture, to be drawn on; `Painted` is raised to show it.
+    Raster& canvas() { return m_picture; }
+
+    /// Takes the picture's size.
+    void fitToPicture() {
+        setPlace({place().left, place().top, m_picture.width() * twipsPerPixel,
+                  m_picture.height() * twipsPerPixel});
     }
 
     /// Paints one pixel of the picture, which shows when the window is painted next.

@@ -19,4 +19,14 @@ public:
     virtual Raster builtIn(const std::string& name) = 0;
 };
 
+/// Makes picture files.
+class PictureEncoder {
+public:
+    virtual ~PictureEncoder() = default;
+
+    /// The bytes of a file with this picture. The format is "bmp" or "png". Throws Error for an
+    /// empty picture.
+    virtual std::string encode(const Raster& picture, const std::string& format) = 0;
+};
+
 }  // namespace fleetwright

@@ -2,17 +2,10 @@
 
 #include "Error.h"
 #include "ImageList.h"
-#include "PictureFiles.h"
-#include "TextFile.h"
-#include "folders.h"
 
 #include <string>
 
 namespace fleetwright {
-
-Raster ProgramImages::file(std::string_view name) {
-    return m_pictures.load(findFile(m_folder / nativePath(name)));
-}
 
 const Raster& ProgramImages::system(std::string_view name) {
     const std::string key(name);

@@ -1,29 +1,23 @@
 #pragma once
 
-#include "SheetImages.h"
-
-#include <filesystem>
+#include "FolderImages.h"
 
 namespace fleetwright {
 
 class ImageList;
-class PictureFiles;
 
-/// The pictures as the program has them: files in the application folder, whatever the case of
-/// their names, and the main window's list of system pictures.
-class ProgramImages : public SheetImages {
+/// The pictures as the program with its windows has them: those of systems are in the main
+/// window's list.
+class ProgramImages : public FolderImages {
 public:
     /// `pictures` and `ilWeapons` outlive this.
     ProgramImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
                   const ImageList& ilWeapons)
-        : m_folder(appFolder / "images"), m_pictures(pictures), m_ilWeapons(ilWeapons) {}
+        : FolderImages(appFolder, pictures), m_ilWeapons(ilWeapons) {}
 
-    Raster file(std::string_view name) override;
     const Raster& system(std::string_view name) override;
 
 private:
-    std::filesystem::path m_folder;
-    PictureFiles& m_pictures;
     const ImageList& m_ilWeapons;
 };
 

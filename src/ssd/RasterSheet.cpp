@@ -24,20 +24,18 @@ void RasterSheet::setControlHeight(int twips) {
     }
     Raster resized(m_raster.width(), height);
     for (int y = 0; y < std::min(height, m_raster.height()); ++y) {
-        for (int x = 0; x < m_raster.width(); ++x) {
-            resized.pixel(x, y) = m_raster.pixel(x, y);
-        }
+        std::ranges::copy(m_raster.row(y), resized.row(y).begin());
     }
     m_raster = std::move(resized);
 }
 
 void RasterSheet::paint(const Raster& picture, int x, int y) {
+    const int left = std::max(0, -x);
     const int right = std::min(picture.width(), m_raster.width() - x);
     const int bottom = std::min(picture.height(), m_raster.height() - y);
-    for (int row = std::max(0, -y); row < bottom; ++row) {
-        for (int column = std::max(0, -x); column < right; ++column) {
-            m_raster.pixel(x + column, y + row) = picture.pixel(column, row);
-        }
+    for (int row = std::max(0, -y); row < bottom && left < right; ++row) {
+        std::copy(picture.row(row).begin() + left, picture.row(row).begin() + right,
+                  m_raster.row(y + row).begin() + x + left);
     }
 }
 

@@ -6,17 +6,15 @@
 
 namespace fleetwright {
 
-/// A sheet that is nothing but its raster: without a border, 15 twips to the pixel, white where it
-/// grows, printed on in the font of `SheetFont`. Texts are UTF-8.
+/// A sheet on a raster that stands elsewhere: without a border, 15 twips to the pixel, white where
+/// it grows, printed on in the font of `SheetFont`. Texts are UTF-8.
 class RasterSheet : public Sheet {
 public:
     static constexpr int twipsToThePixel = 15;
 
-    RasterSheet() = default;
-    /// `refresh` is called when what is drawn so far is to be shown.
-    explicit RasterSheet(std::function<void()> refresh) : m_refresh(std::move(refresh)) {}
-
-    const Raster& raster() const { return m_raster; }
+    /// `refresh` is called when what is drawn so far is to be shown. The raster outlives the sheet.
+    explicit RasterSheet(Raster& raster, std::function<void()> refresh = {})
+        : m_raster(raster), m_refresh(std::move(refresh)) {}
 
     void setPicture(const Raster& picture) override { m_raster = picture; }
     int scaleWidth() const override { return m_raster.width(); }
@@ -37,7 +35,7 @@ private:
     }
     int printCharacter(char32_t character, Pen pen);
 
-    Raster m_raster;
+    Raster& m_raster;
     std::function<void()> m_refresh;
 };
 

@@ -61,6 +61,13 @@ void scanMaps(const fs::path& appFolder, SSDMaps& g_colSSDMaps, std::int16_t& g_
     g_iLargestSSD = std::min(g_iLargestSSD, largest);
 }
 
+SSDMaps loadMaps(const std::filesystem::path& appFolder) {
+    SSDMaps maps;
+    std::int16_t largest = 0;
+    scanMaps(appFolder, maps, largest, [](const std::string&) {});
+    return maps;
+}
+
 std::vector<std::string> fittingMaps(const SSDMaps& maps, std::int32_t mass,
                                      std::int32_t iShipWeapCount) {
     std::vector<std::string> names;

@@ -37,6 +37,9 @@ private:
 void scanMaps(const std::filesystem::path& appFolder, SSDMaps& g_colSSDMaps,
               std::int16_t& g_iLargestSSD, const std::function<void(const std::string&)>& showText);
 
+/// The maps as that scan finds them.
+SSDMaps loadMaps(const std::filesystem::path& appFolder);
+
 /// The names of the maps that a ship fits on: of this mass, and with so many systems besides
 /// damage control parties.
 std::vector<std::string> fittingMaps(const SSDMaps& maps, std::int32_t mass,

@@ -81,7 +81,7 @@ TEST_F(DesigningTest, HullMassAndDrives) {
     window->waitFor(design);
 
     pointAt(window->get("text", "Cost"));
-    const std::string sum = expectedOf(design).at("Cost") + "  = Cost\n";
+    const std::string sum = expectedOf(design).at("Cost") + "  = Cost";
     waitFor("what the cost is made of", [&] {
         const std::vector<Element> windows = windowsOnScreen();
         return std::any_of(windows.begin(), windows.end(), [&](const Element& each) {

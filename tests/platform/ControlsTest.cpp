@@ -1,4 +1,5 @@
 #include "Button.h"
+#include "ComboBox.h"
 #include "Form.h"
 #include "Frame.h"
 #include "ListView.h"
@@ -66,6 +67,25 @@ TEST(Controls, TextBoxesRaiseEachChangeAndOnlyChanges) {
     form.text.setText("");
     EXPECT_EQ(form.log, "<b><>");
     EXPECT_EQ(drawn, 2);
+}
+
+TEST(Controls, CombosHoldATextBesideTheirList) {
+    TestForm form;
+    ComboBox combo(form, {.name = "combo", .text = "Selection"});
+    combo.addItem("a");
+    combo.addItem("b");
+    combo.choose(1);  // the form is not shown
+    EXPECT_EQ(combo.text(), "Selection");
+    form.show();
+    combo.choose(1);
+    EXPECT_EQ(combo.text(), "b");
+    combo.choose(2);
+    combo.type("c");
+    EXPECT_EQ(combo.text(), "c");
+    EXPECT_EQ(combo.items().size(), 2U);
+    combo.clear();
+    EXPECT_EQ(combo.text(), "");
+    EXPECT_TRUE(combo.items().empty());
 }
 
 TEST(Controls, DisabledHiddenAndLockedOnesTakeNoActs) {

@@ -39,15 +39,16 @@ Raster box(int width, int height, std::uint32_t colour) {
     return raster;
 }
 
-RasterSheet sheetOf(int width, int height) {
-    RasterSheet sheet;
-    sheet.setPicture(Raster(width, height));
-    return sheet;
-}
+/// A sheet and what it is drawn on.
+struct DrawnSheet : RasterSheet {
+    DrawnSheet(int width, int height) : RasterSheet(raster), raster(width, height) {}
+
+    Raster raster;
+};
 
 /// Holds a sheet against a picture beside this file.
-void expectGolden(const RasterSheet& sheet, const std::string& name) {
-    const std::string actual = pictureOf(sheet.raster());
+void expectGolden(const Raster& raster, const std::string& name) {
+    const std::string actual = pictureOf(raster);
     std::ifstream file(SOURCE_FOLDER "/tests/ssd/golden/" + name, std::ios::binary);
     const std::string golden{std::istreambuf_iterator<char>(file), {}};
     if (actual != golden) {
@@ -75,34 +76,34 @@ private:
 }  // namespace
 
 TEST(RasterSheet, PaintsAndFillsInsideItsEdges) {
-    RasterSheet sheet = sheetOf(5, 4);
+    DrawnSheet sheet(5, 4);
     sheet.paint(box(3, 2, 0), -1, -1);
     sheet.paint(box(3, 2, 1), 3, 3);
     sheet.paint(box(2, 2, 2), 0, 90);
     sheet.paint(box(2, 2, 2), -2, 1);
-    EXPECT_EQ(pictureOf(sheet.raster()), "##...\n.....\n.....\n...bb\n");
+    EXPECT_EQ(pictureOf(sheet.raster), "##...\n.....\n.....\n...bb\n");
     sheet.fill({1, 2}, {9, 9}, 3);
     sheet.fill({-5, 0}, {1, 1}, Sheet::white);
-    EXPECT_EQ(pictureOf(sheet.raster()), ".#...\n.....\n.dddd\n.dddd\n");
+    EXPECT_EQ(pictureOf(sheet.raster), ".#...\n.....\n.dddd\n.dddd\n");
     EXPECT_EQ(sheet.pixel(1, 0), Sheet::black);
     EXPECT_EQ(sheet.pixel(1, 4), Sheet::white);
     EXPECT_EQ(sheet.pixel(-1, 0), Sheet::white);
 }
 
 TEST(RasterSheet, GrowsWhiteAndIsCutAtTheBottom) {
-    RasterSheet sheet = sheetOf(2, 2);
+    DrawnSheet sheet(2, 2);
     sheet.fill({0, 0}, {2, 2}, 0);
     EXPECT_EQ(sheet.controlHeight(), 30);
     sheet.setControlHeight(59);
-    EXPECT_EQ(pictureOf(sheet.raster()), "##\n##\n..\n");
+    EXPECT_EQ(pictureOf(sheet.raster), "##\n##\n..\n");
     sheet.setControlHeight(15);
-    EXPECT_EQ(pictureOf(sheet.raster()), "##\n");
+    EXPECT_EQ(pictureOf(sheet.raster), "##\n");
     EXPECT_EQ(sheet.scaleHeight(), 1);
     EXPECT_THROW(sheet.setControlHeight(2'000'000'000), Error);
 }
 
 TEST(RasterSheet, PrintsLinesThatEndInCr) {
-    RasterSheet sheet = sheetOf(20, 32);
+    DrawnSheet sheet(20, 32);
     sheet.fill({0, 0}, {20, 32}, 7);
     EXPECT_EQ(sheet.textHeight(""), 0);
     EXPECT_EQ(sheet.textHeight("a"), 16);
@@ -110,14 +111,14 @@ TEST(RasterSheet, PrintsLinesThatEndInCr) {
     const Pen pen = sheet.print("1\rI!", {9, 1});
     EXPECT_EQ(pen.x, 0);
     EXPECT_EQ(pen.y, 33);
-    expectGolden(sheet, "lines.txt");
+    expectGolden(sheet.raster, "lines.txt");
 }
 
 TEST(RasterSheet, PrintsCharactersOfAllKinds) {
-    RasterSheet sheet = sheetOf(110, 16);
+    DrawnSheet sheet(110, 16);
     // Narrow, accented, put together, wide, a blank, invisible ones, unknown, no UTF-8 at all.
     sheet.print("éß e\u0301Ж漢\t\u200B\n|\U0001F680\xFF", {0, 0});
-    expectGolden(sheet, "characters.txt");
+    expectGolden(sheet.raster, "characters.txt");
 }
 
 TEST(RasterSheet, ShowsAShipAsItsPicturesStand) {
@@ -128,7 +129,8 @@ TEST(RasterSheet, ShowsAShipAsItsPicturesStand) {
                                   "WEAP: (17,8,S)\nDCP: (3,15)\nFIRECON: (30,2)\nFTL: (30,8)\n"
                                   "THRUST: (30,14)\n");
     int refreshes = 0;
-    RasterSheet sheet([&refreshes] { ++refreshes; });
+    Raster raster;
+    RasterSheet sheet(raster, [&refreshes] { ++refreshes; });
     sheet.setPicture(box(120, 24, 14));
     ColouredImages images;
     SheetLists lists;
@@ -136,6 +138,6 @@ TEST(RasterSheet, ShowsAShipAsItsPicturesStand) {
     lists.fillPoints(map);
     drawSSD(sheet, images, map, lists,
             {"5", "0", "1", "Magpie", "Åsa", std::to_string(ship->g_lCost), *ship});
-    expectGolden(sheet, "ship.txt");
+    expectGolden(raster, "ship.txt");
     EXPECT_EQ(refreshes, 3);
 }

@@ -28,17 +28,17 @@ private:
 };
 
 /// The sheet of a new ship whose text ends with the name of this system.
-RasterSheet sheetOf(const ShipClass& ship, const std::string& lastLine) {
+Raster sheetOf(const ShipClass& ship, const std::string& lastLine) {
     static const SSDMap map = MapFolder().map("SIZE: 10");
     WhiteImages images;
-    RasterSheet sheet;
-    sheet.setPicture(Raster(sheetWidth, 20));
+    Raster raster(sheetWidth, 20);
+    RasterSheet sheet(raster);
     SheetLists lists;
     if (!lastLine.empty()) {
         lists.lstShipWeap.push_back(lastLine);
     }
     drawSSD(sheet, images, map, lists, {"1", "0", "0", "Éa", "b", "9", ship});
-    return sheet;
+    return raster;
 }
 
 int inkCount(const Raster& raster) {
@@ -53,10 +53,11 @@ int inkCount(const Raster& raster) {
 
 /// Ink of a text that nothing is cut from.
 int inkOf(const std::string& text) {
-    RasterSheet sheet;
+    Raster raster;
+    RasterSheet sheet(raster);
     sheet.setPicture(Raster(sheetWidth, sheet.textHeight(text)));
     sheet.print(text, {0, 0});
-    return inkCount(sheet.raster());
+    return inkCount(raster);
 }
 
 const std::string head = "\rName: Éa\rDesigner: b\rPoints: 9\r\r";
@@ -67,7 +68,7 @@ const std::string listHead = head + "=================================\r";
 TEST(SheetTrim, CutsNoLine) {
     const ShipYard yard;
     const auto ship = yard.newShip();
-    EXPECT_EQ(inkCount(sheetOf(*ship, "").raster()), inkOf(head));
+    EXPECT_EQ(inkCount(sheetOf(*ship, "")), inkOf(head));
 
     Catalogue catalogue;
     catalogue.loadWeaps(SOURCE_FOLDER "/data/weaps.dat");
@@ -78,8 +79,8 @@ TEST(SheetTrim, CutsNoLine) {
         }
         // The ship's own catalogue knows the name as none that goes on an arc.
         const std::string name(record.name);
-        const RasterSheet sheet = sheetOf(*ship, name);
-        EXPECT_EQ(inkCount(sheet.raster()), inkOf(listHead + name)) << name;
+        const Raster sheet = sheetOf(*ship, name);
+        EXPECT_EQ(inkCount(sheet), inkOf(listHead + name)) << name;
         EXPECT_GT(inkOf(name), 0) << name;
     }
 }
@@ -87,10 +88,10 @@ TEST(SheetTrim, CutsNoLine) {
 TEST(SheetTrim, WouldCutALineWithoutInkInItsColumn) {
     const ShipYard yard;
     const auto ship = yard.newShip();
-    const RasterSheet sheet = sheetOf(*ship, "!!");
-    EXPECT_LT(inkCount(sheet.raster()), inkOf(listHead + "!!"));
+    const Raster sheet = sheetOf(*ship, "!!");
+    EXPECT_LT(inkCount(sheet), inkOf(listHead + "!!"));
     // The lower ink of the rule, which is the sixth line below the outline, is in its row 11.
-    EXPECT_EQ(sheet.scaleHeight(), 20 + 5 * 16 + 11 + 15);
+    EXPECT_EQ(sheet.height(), 20 + 5 * 16 + 11 + 15);
 }
 
 TEST(SheetTrim, FindsEveryCapitalAndDigit) {

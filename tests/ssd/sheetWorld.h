@@ -25,6 +25,7 @@ public:
     void writeFile(const std::string& name, std::string_view text) const {
         m_folder.write(name, text);
     }
+    std::string read(const std::string& name) const { return m_folder.read(name); }
     /// A map with this text, loaded.
     SSDMap map(std::string_view text) const;
 

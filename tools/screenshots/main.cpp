@@ -4,21 +4,31 @@
 #include "Error.h"
 #include "FormWindow.h"
 #include "Globals.h"
+#include "PictureCache.h"
+#include "ProgramImages.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
 #include "QtPrinter.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
 #include "QtSettingsStore.h"
+#include "SSDMaps.h"
+#include "ShipOnScreen.h"
 #include "StartUpProgress.h"
+#include "drawnSheet.h"
+#include "folders.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
+#include "frmMapper.h"
+#include "saveFile.h"
+#include "sheetShip.h"
 
 #include <QApplication>
 #include <QPixmap>
 #include <QTemporaryDir>
 
+#include <array>
 #include <cstdio>
 
 namespace {
@@ -58,6 +68,53 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// The map that suits a ship best of those that it fits on: of the smallest size and, as the names
+/// of the delivered maps tell it, for its kind of hull. Empty if there is none.
+std::string mapFor(const SSDMaps& maps, const ShipOnScreen& screen, const ShipClass& ship) {
+    static constexpr std::array<const char*, 6> kinds = {"Warship",  "Merchant", "Q-Ship",
+                                                         "Starbase", "Station",  "Station"};
+    SheetLists lists;
+    const std::int32_t count = lists.fillShipWeap(screen.window().lvCurrentWeapons.rows());
+    SSDMaps::Map best;
+    const auto suits = [&](const SSDMaps::Map& map) {
+        const char* const kind = kinds.at(static_cast<std::size_t>(ship.Hull() - 1));
+        return map->sDisplayName.find(kind) != std::string::npos;
+    };
+    for (const std::string& name : fittingMaps(maps, ship.mass(), count)) {
+        const SSDMaps::Map map = maps.at(name);
+        if (!best || map->iMaxMass < best->iMaxMass ||
+            (map->iMaxMass == best->iMaxMass && suits(map) && !suits(best))) {
+            best = map;
+        }
+    }
+    return best ? best->sDisplayName : "";
+}
+
+/// Draws the sheets of all sample ships that there is a map for.
+void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path& output) {
+    fs::create_directories(output);
+    QtPictureFiles files;
+    PictureCache cache(files);
+    const SSDMaps maps = loadMaps(appFolder);
+    for (const fs::path& ship : listFolder(ships, ".shp")) {
+        ShipOnScreen screen(appFolder);
+        if (screen.load(ship.string())) {
+            throw FileError(ship, "does not load");
+        }
+        const std::string map = mapFor(maps, screen, screen.ship());
+        if (map.empty()) {
+            continue;
+        }
+        try {
+            const Raster sheet = drawnSheet(screen, {appFolder, cache, files, maps}, map);
+            saveFile(output / ship.filename().replace_extension(".png"),
+                     files.encode(sheet, "png"));
+        } catch (const Error& error) {
+            throw FileError(ship, error.what());
+        }
+    }
+}
+
 /// Shows a ship with a system of it selected in the tree.
 void showShip(frmMain& window, const fs::path& ship, const std::string& system) {
     if (!window.loadFile(ship.string())) {
@@ -72,12 +129,37 @@ void showShip(frmMain& window, const fs::path& ship, const std::string& system) 
     window.tmrRefreshScreen.tick();
 }
 
+/// The window of sheets before and after the ship of the main window is drawn.
+void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& appFolder) {
+    QtPictureFiles files;
+    ProgramImages images(appFolder, files, form.ilWeapons);
+    const SSDMaps maps = loadMaps(appFolder);
+    frmMapper mapper({.appFolder = appFolder,
+                      .desktop = desktop,
+                      .pictures = files,
+                      .encoder = files,
+                      .images = images,
+                      .g_colSSDMaps = maps,
+                      .lvCurrentWeapons = form.lvCurrentWeapons,
+                      .ship = [&form] { return sheetShip(form); }});
+    mapper.load();
+    FormWindow window(mapper);
+    mapper.show();
+    desktop.take(window, "mapper-empty");
+    mapper.cboMapSelection.type("Cruiser Warship - Halberd");
+    mapper.cmdDrawIt.press();
+    desktop.take(window, "mapper");
+}
+
 void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& output) {
     fs::create_directories(output);
     const QTemporaryDir temporary;
     const fs::path appFolder = temporary.path().toStdString();
     fs::copy_file(data / "weaps.dat", appFolder / "weaps.dat");
-    fs::create_directory_symlink(fs::absolute(pictures) / "images", appFolder / "images");
+    for (const char* const folder : {"images", "maps", "shipimages"}) {
+        fs::create_directory_symlink(fs::absolute(pictures) / folder, appFolder / folder);
+    }
+    drawSheets(appFolder, data / "ships", output / "sheets");
 
     PictureDesktop desktop(output);
     QtPictureFiles files;
@@ -122,6 +204,7 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     QApplication::setPalette(darkPalette());
     take("main-dark");
     QApplication::setPalette(light);
+    takeMapper(desktop, form, appFolder);
     QFont large = QApplication::font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     QApplication::setFont(large);

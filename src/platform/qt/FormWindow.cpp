@@ -2,6 +2,7 @@
 
 #include "Button.h"
 #include "CheckBox.h"
+#include "ComboBox.h"
 #include "DragImage.h"
 #include "Form.h"
 #include "Frame.h"
@@ -160,8 +161,8 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
     }
     addKeys(control);
     QWidget* const widget =
-        makeFirst<Frame, Label, TextBox, Button, OptionButton, CheckBox, UpDown, TreeView, ListView,
-                  Slider, StatusBar, PictureBox, Line>(control, parent, m_scale);
+        makeFirst<Frame, Label, TextBox, Button, OptionButton, CheckBox, ComboBox, UpDown, TreeView,
+                  ListView, Slider, StatusBar, PictureBox, Line>(control, parent, m_scale);
     if (auto* const frame = dynamic_cast<Frame*>(&control)) {
         addControls(*frame, widget);
     }

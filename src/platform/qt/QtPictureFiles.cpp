@@ -1,10 +1,13 @@
 #include "QtPictureFiles.h"
 
 #include "Error.h"
+#include "qtImage.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
+#include <QImageWriter>
 #include <QPainter>
 
 namespace fleetwright {
@@ -18,18 +21,6 @@ QImage onWhite(QImage image) {
     image.setDevicePixelRatio(1);
     QPainter(&paper).drawImage(0, 0, image);
     return paper;
-}
-
-Raster toRaster(const QImage& image) {
-    constexpr QRgb colour = 0xFFFFFF;
-    Raster raster(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            raster.pixel(x, y) = row[x] & colour;
-        }
-    }
-    return raster;
 }
 
 Raster read(const QString& name, const std::filesystem::path& file) {
@@ -54,6 +45,17 @@ Raster QtPictureFiles::load(const std::filesystem::path& file) {
 Raster QtPictureFiles::builtIn(const std::string& name) {
     const std::string resource = ":/pictures/" + name;
     return read(QString::fromStdString(resource), resource);
+}
+
+std::string QtPictureFiles::encode(const Raster& picture, const std::string& format) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, QByteArray::fromStdString(format));
+    if (!writer.write(toImage(picture))) {
+        throw Error("the picture cannot be written: " + writer.errorString().toStdString());
+    }
+    return bytes.toStdString();
 }
 
 }  // namespace fleetwright

@@ -1,6 +1,7 @@
 #include "FormWindow.h"
 
 #include "Button.h"
+#include "ComboBox.h"
 #include "Form.h"
 #include "Frame.h"
 #include "ImageList.h"
@@ -21,6 +22,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -98,6 +100,7 @@ public:
                     }};
     MenuEntry hiddenMenu{*this, {.name = "hidden", .caption = "Hidden", .isVisible = false}};
     Timer timer{*this, "timer", 10, true, [this] { ++ticks; }};
+    ComboBox combo{*this, {.name = "combo", .place = {6450, 150, 1500, 300}}};
     StatusBar status{*this, {.name = "status"}};
     int ticks = 0;
 
@@ -199,6 +202,28 @@ TEST_F(FormWindowTest, MouseAndKeysReachTheModels) {
     QTest::keyClick(find<QSlider>("slider"), Qt::Key_Right);
     EXPECT_EQ(takeLog(), "slider=1 ");
     EXPECT_TRUE(form.second.isOn());
+}
+
+TEST_F(FormWindowTest, CombosTakeWhatIsTypedAndWhatIsChosen) {
+    form.combo.addItem("Kestrel");
+    form.combo.addItem("Kite");
+    auto* const combo = find<QComboBox>("combo");
+    ASSERT_NE(combo, nullptr);
+    EXPECT_EQ(combo->count(), 2);
+    EXPECT_EQ(combo->currentText(), "");
+    QTest::keyClicks(combo->lineEdit(), "Kes");
+    EXPECT_EQ(form.combo.text(), "Kes");  // and no more than that
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(combo->count(), 2);
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Down);
+    EXPECT_EQ(form.combo.text(), combo->currentText().toStdString());
+    EXPECT_NE(form.combo.text(), "Kes");
+    form.combo.setText("Heron");
+    EXPECT_EQ(combo->currentText(), "Heron");
+    form.combo.clear();
+    EXPECT_EQ(combo->count(), 0);
+    EXPECT_EQ(combo->currentText(), "");
 }
 
 TEST_F(FormWindowTest, GroupsOfOptionsAreOneStopWithArrowsInside) {

@@ -13,6 +13,7 @@ namespace fleetwright {
 
 class Button;
 class CheckBox;
+class ComboBox;
 class DragImage;
 class Frame;
 class Label;
@@ -30,6 +31,7 @@ class UpDown;
 
 QWidget* makeWidget(Button& button, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(CheckBox& box, QWidget* parent, const Scale& scale);
+QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(Frame& frame, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(Line& line, QWidget* parent, const Scale& scale);

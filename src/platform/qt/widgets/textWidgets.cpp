@@ -1,11 +1,13 @@
-// Labels, text boxes and the status bar.
+// Labels, text boxes, combo boxes and the status bar.
 
+#include "ComboBox.h"
 #include "Label.h"
 #include "StatusBar.h"
 #include "TextBox.h"
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -124,6 +126,33 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
             return false;
         }
     });
+    return widget;
+}
+
+QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QComboBox(parent);
+    prepare(widget, box, scale);
+    widget->setEditable(true);
+    widget->setInsertPolicy(QComboBox::NoInsert);
+    widget->setCompleter(nullptr);  // the text is what was typed, and no more
+    auto shown = std::make_shared<std::vector<std::string>>();
+    keepInStep(widget, box, [widget, &box, shown] {
+        const QSignalBlocker blocker(widget);
+        if (*shown != box.items()) {
+            *shown = box.items();
+            widget->clear();
+            for (const std::string& item : *shown) {
+                widget->addItem(toQt(item));
+            }
+        }
+        if (widget->currentText() != toQt(box.text())) {
+            widget->setEditText(toQt(box.text()));
+        }
+    });
+    QObject::connect(widget, &QComboBox::editTextChanged,
+                     [&box](const QString& text) { box.type(text.toStdString()); });
+    QObject::connect(widget, &QComboBox::activated,
+                     [&box](int item) { box.choose(static_cast<std::size_t>(item)); });
     return widget;
 }
 

@@ -3,11 +3,10 @@
 // What the widgets of all kinds of controls share.
 
 #include "Control.h"
-#include "Raster.h"
 #include "Scale.h"
+#include "qtImage.h"
 
 #include <QIcon>
-#include <QImage>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QWidget>
@@ -25,18 +24,6 @@ inline QString toQt(const std::string& text) {
 /// A face that the program carries in itself, with its picture for twice the resolution.
 inline QIcon faceOf(const std::string& picture) {
     return QIcon(":/pictures/" + toQt(picture) + ".png");
-}
-
-inline QImage toImage(const Raster& raster) {
-    constexpr QRgb opaque = 0xFF000000U;
-    QImage image(raster.width(), raster.height(), QImage::Format_RGB32);
-    for (int y = 0; y < raster.height(); ++y) {
-        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < raster.width(); ++x) {
-            line[x] = opaque | raster.pixel(x, y);
-        }
-    }
-    return image;
 }
 
 /// Calls `update` now and whenever the control changes, for as long as the widget lives.

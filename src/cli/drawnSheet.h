@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Raster.h"
+
+#include <filesystem>
+#include <string>
+
+namespace fleetwright {
+
+class PictureEncoder;
+class PictureFiles;
+class SSDMaps;
+class ShipOnScreen;
+
+/// What sheets are drawn with.
+struct SheetTools {
+    std::filesystem::path appFolder;
+    PictureFiles& pictures;
+    PictureEncoder& encoder;
+    const SSDMaps& maps;
+};
+
+/// The sheet of a ship on the map of this name, or on the first one that is offered for it if the
+/// name is empty. It drives the window in which sheets are made. Throws Error.
+Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std::string& mapName);
+
+}  // namespace fleetwright

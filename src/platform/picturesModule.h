@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Pages.h"
+
+#include <memory>
+
+namespace fleetwright {
+
+class PictureEncoder;
+class PictureFiles;
+
+/// What the module "pictures.dll" has, as its one function "createPictures" hands it out. It lives
+/// as long as the program.
+struct Pictures {
+    PictureFiles& files;
+    PictureEncoder& encoder;
+    std::unique_ptr<Pages> (*newPages)(Paper);
+};
+using CreatePictures = const Pictures* (*)();
+
+inline constexpr const char* picturesModule = "pictures.dll";
+
+}  // namespace fleetwright

@@ -1,0 +1,168 @@
+#include "frmMapper.h"
+
+#include "Desktop.h"
+#include "Error.h"
+#include "PictureFiles.h"
+#include "RasterSheet.h"
+#include "ShipClass.h"
+#include "TextFile.h"
+#include "folders.h"
+#include "saveFile.h"
+
+namespace fleetwright {
+
+frmMapper::frmMapper(Services services)
+    : Form({.name = "frmMapper",
+            .caption = "Create SSD",
+            .width = 4935,
+            .height = 930,
+            .border = Border::Sizable}),
+      m_services(std::move(services)), m_firstPlace(place()), m_emptySheet(picSSD.place()) {}
+
+void frmMapper::Form_Load() {
+    cboMapSelection.clear();
+    startAnew();
+    picSSD.setAutoSize(true);
+    std::int32_t iShipWeapCount = 0;
+    try {
+        iShipWeapCount = m_lists.fillShipWeap(m_services.lvCurrentWeapons.rows());
+    } catch (const Error& error) {
+        // So many pieces of one system are on no map.
+        fail("The ship has too many systems for a sheet!!!", "SSD Creation Error", error);
+        return;
+    }
+    const std::int32_t mass = m_services.ship().ship.mass();
+    for (const std::string& name : fittingMaps(m_services.g_colSSDMaps, mass, iShipWeapCount)) {
+        cboMapSelection.addItem(name);
+    }
+}
+
+/// Brings the window to what it is when it opens.
+void frmMapper::startAnew() {
+    m_lists = {};
+    m_Map.reset();
+    m_lastFault.clear();
+    cmdDrawIt.setEnabled(true);
+    cmdSave.setEnabled(true);
+    picSSD.setAutoSize(false);
+    picSSD.setPicture({});
+    picSSD.setPlace(m_emptySheet);
+    setState(WindowState::Normal);
+    resize(m_firstPlace.width + frameWidth, m_firstPlace.height + frameHeight);
+}
+
+void frmMapper::cmdDrawIt_Click() {
+    if (cboMapSelection.text().empty() || !layOut() || !showOutline()) {
+        return;
+    }
+    drawSheet();
+    cmdDrawIt.setEnabled(false);
+    cmdSave.setEnabled(true);
+}
+
+/// Lays out the points of the chosen map; false, with a message, if there is no such map.
+bool frmMapper::layOut() {
+    try {
+        m_Map = m_services.g_colSSDMaps.at(cboMapSelection.text());
+        m_lists.fillPoints(*m_Map);
+        return true;
+    } catch (const Error& error) {
+        fail("Invalid map file!!!", "Error in map file", error);
+        return false;
+    }
+}
+
+/// Shows the outline of the map; false, with a message, if that fails.
+bool frmMapper::showOutline() {
+    try {
+        picSSD.setPicture(m_services.pictures.load(outlineFile(*m_Map)));
+        fitToSheet();
+        return true;
+    } catch (const Error& error) {
+        fail("Couldn't load image file!!!", "Error loading image file", error);
+        return false;
+    }
+}
+
+/// Draws the sheet on the outline. If that fails, the outline stays.
+void frmMapper::drawSheet() {
+    RasterSheet sheet(picSSD.canvas(), [this] {
+        picSSD.Painted.raise();
+        repaint();
+    });
+    try {
+        drawSSD(sheet, m_services.images, *m_Map, m_lists, m_services.ship());
+        picSSD.fitToPicture();
+        picSSD.Painted.raise();
+        fitToSheet();
+    } catch (const Error& error) {
+        fail("Could not create the SSD!", "SSD Creation Error", error);
+        try {
+            picSSD.setPicture(m_services.pictures.load(outlineFile(*m_Map)));
+        } catch (const FileError&) {
+            picSSD.setPicture(Raster(sheet.scaleWidth(), sheet.scaleHeight()));
+        }
+    }
+}
+
+void frmMapper::fail(const std::string& text, const std::string& title,
+                     const std::exception& cause) {
+    m_lastFault = cause.what();
+    if (const auto* const error = dynamic_cast<const FileError*>(&cause)) {
+        m_lastFault = pathText(error->file()) + ": " + m_lastFault;
+    }
+    m_services.desktop.showMessage(text, title, Buttons::Ok, Icon::Critical);
+}
+
+void frmMapper::cmdSave_Click() {
+    constexpr const char* extension = ".bmp";
+    std::optional<std::string> name =
+        m_services.desktop.chooseFileToSave({.filter = "All Files (*.*)|*.*|BitMap Files",
+                                             .filterIndex = 2,
+                                             .initialFolder = m_services.appFolder / "ssds",
+                                             .extension = extension});
+    if (!name) {
+        return;
+    }
+    if (!name->ends_with(extension)) {
+        *name += extension;
+    }
+    try {
+        const Raster empty(m_emptySheet.width / PictureBox::twipsPerPixel,
+                           m_emptySheet.height / PictureBox::twipsPerPixel);
+        const Raster& sheet = picSSD.picture().isEmpty() ? empty : picSSD.picture();
+        saveFile(nativePath(*name), m_services.encoder.encode(sheet, "bmp"));
+    } catch (const std::exception&) {
+        return;  // the window stays, and the sheet in it
+    }
+    unload();
+}
+
+MapperMeasures frmMapper::measures() const {
+    return {.sheetTop = picSSD.place().top,
+            .sheetWidth = picSSD.place().width,
+            .sheetHeight = picSSD.place().height,
+            .frameLeft = fraControls.place().left,
+            .frameWidth = fraControls.place().width};
+}
+
+void frmMapper::fitToSheet() {
+    const WindowSize size = fleetwright::fitToSheet(measures());
+    if (state() == WindowState::Normal) {
+        resize(size.width, size.height);
+    }
+}
+
+/// Keeps the user from making the window smaller than its sheet. `isInside` says that this handler
+/// is at work already.
+void frmMapper::keepMinimumSize(bool& isInside) {
+    if (isInside || state() != WindowState::Normal) {
+        return;
+    }
+    isInside = true;
+    const WindowSize size = fleetwright::keepMinimumSize(measures(), {width(), height()});
+    resize(size.width, size.height);
+    isInside = false;
+}
+
+}  // namespace fleetwright

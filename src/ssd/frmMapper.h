@@ -1,0 +1,90 @@
+#pragma once
+
+#include "Button.h"
+#include "ComboBox.h"
+#include "Form.h"
+#include "Frame.h"
+#include "PictureBox.h"
+#include "SSDMaps.h"
+#include "SheetLists.h"
+#include "drawSSD.h"
+#include "mapperSizes.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace fleetwright {
+
+class Desktop;
+class PictureEncoder;
+class PictureFiles;
+class SheetImages;
+
+/// The window in which a ship's sheet is drawn and saved. Each time it is loaded it begins anew
+/// with the ship as it then stands.
+class frmMapper : public Form {
+public:
+    /// What the window needs of the world around it. All of it outlives the window.
+    struct Services {
+        std::filesystem::path appFolder;
+        Desktop& desktop;
+        PictureFiles& pictures;  ///< read outlines
+        PictureEncoder& encoder;
+        SheetImages& images;
+        const SSDMaps& g_colSSDMaps;
+        const ListView& lvCurrentWeapons;  ///< the main window's list of systems aboard
+        /// The current ship and its figures as the main window shows them.
+        std::function<SheetShip()> ship;
+    };
+
+    explicit frmMapper(Services services);
+
+    Frame fraControls{*this, {.name = "fraControls", .place = {105, 0, 4635, 645}}};
+    ComboBox cboMapSelection{fraControls,
+                             {.name = "cboMapSelection",
+                              .place = {105, 210, 2115, 315},
+                              .text = "Selection",
+                              .accessibleName = "Map"}};
+    Button cmdDrawIt{fraControls,
+                     {.name = "cmdDrawIt", .place = {2310, 210, 1065, 330}, .caption = "Draw It!"},
+                     [this] { cmdDrawIt_Click(); }};
+    Button cmdSave{fraControls,
+                   {.name = "cmdSave", .place = {3465, 210, 1065, 330}, .caption = "Save It!"},
+                   [this] { cmdSave_Click(); }};
+    /// The sheet.
+    PictureBox picSSD{
+        *this, {.name = "picSSD", .place = {105, 735, 4635, 120}, .accessibleName = "Sheet"}};
+
+    /// What was behind the message that was shown last.
+    const std::string& lastFault() const { return m_lastFault; }
+
+protected:
+    void Form_Load() override;
+    void Form_Paint() override { keepMinimumSize(bInPaint); }
+    void Form_Resize() override { keepMinimumSize(bInResize); }
+
+private:
+    void cmdDrawIt_Click();
+    void cmdSave_Click();
+
+    void startAnew();
+    bool layOut();
+    bool showOutline();
+    void drawSheet();
+    void fail(const std::string& text, const std::string& title, const std::exception& cause);
+    MapperMeasures measures() const;
+    void fitToSheet();
+    void keepMinimumSize(bool& isInside);
+
+    Services m_services;
+    Place m_firstPlace;  ///< of the window's inside
+    Place m_emptySheet;  ///< of `picSSD` before a map is chosen
+    SSDMaps::Map m_Map;  ///< the map of this sheet
+    SheetLists m_lists;
+    bool bInPaint = false;   ///< the paint handler is at work
+    bool bInResize = false;  ///< the resize handler is at work
+    std::string m_lastFault;
+};
+
+}  // namespace fleetwright
