@@ -47,7 +47,7 @@ std::optional<Fault> ShipOnScreen::load(const std::string& file) {
         throw;
     }
     if (!window.loadFile(file)) {
-        return window.g_Ship->fileFault();
+        return window.fileFault;
     }
     window.tmrRefreshScreen.tick();
     return std::nullopt;

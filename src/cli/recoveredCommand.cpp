@@ -20,7 +20,9 @@ int runRecovered(const Options& options) {
     const std::string& name = options.files.front();
     for (const RecoveryFolder::Design& design : designs) {
         if (design.name == name) {
-            saveFile(nativePath(options.saveName), readTextFile(design.file));
+            const bool isNamed = options.saveName.ends_with(".shp");
+            saveFile(nativePath(options.saveName + (isNamed ? "" : ".shp")),
+                     readTextFile(design.file));
             return Done;
         }
     }

@@ -126,10 +126,12 @@ void frmMain::Form_Unload(bool& cancel) {
             m_services.desktop.showMessage("Ship not saved, continue with exit?", "Ship not saved!",
                                            Buttons::YesNo, Icon::Information) == Answer::No;
     }
+    if (!cancel && !giveUpDesign()) {
+        cancel = true;
+    }
     if (cancel) {
         return;
     }
-    giveUpDesign();
     m_shipEvents.clear();
     g_Ship.reset();
     m_services.freeFormulaLibrary();
@@ -174,6 +176,11 @@ void frmMain::act(const std::function<void()>& change) {
         return;
     }
     runUndoable(change);
+    runWaiting();
+}
+
+/// Runs what has waited for the acts to end.
+void frmMain::runWaiting() {
     while (m_actDepth == 0 && !m_whenIdle.empty()) {
         const std::function<void()> task = std::move(m_whenIdle.front());
         m_whenIdle.erase(m_whenIdle.begin());
@@ -252,11 +259,13 @@ void frmMain::showFigures() {
 }
 
 void frmMain::tmrRefreshScreen_Timer() {
-    if (sbStatus.text() == sLastStatus) {
-        sbStatus.setText("");
-    }
-    sLastStatus = sbStatus.text();
-    RefreshScreen();
+    act([this] {
+        if (sbStatus.text() == sLastStatus) {
+            sbStatus.setText("");
+        }
+        sLastStatus = sbStatus.text();
+        RefreshScreen();
+    });
     keepFindable();
 }
 

@@ -74,8 +74,9 @@ public:
     /// the ship cannot be replaced while it is at work.
     void whenIdle(std::function<void()> task);
     /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
-    /// is a new one all the same, and its `fileFault` says why.
+    /// is a new one all the same, and `fileFault` says why.
     bool loadFile(const std::string& fileName);
+    std::optional<Fault> fileFault;  ///< why the last load has failed
     /// Shows the list of recent files in the menu.
     void fillMRU();
     /// Gives the ship its names, without a recalculation.
@@ -354,8 +355,7 @@ private:
     void tmrRecovery_Timer();
     void noteSafe();
     bool isSafe() const;
-    void putAside();
-    void giveUpDesign();
+    bool giveUpDesign();
     void showRecovered();
 
     // The two names.
@@ -402,6 +402,7 @@ private:
     /// Runs an act of the user. One that leaves the width of a number is undone and said so.
     void act(const std::function<void()>& change);
     void runUndoable(const std::function<void()>& change);
+    void runWaiting();
     void giveTurn();
 
     // The tree.
@@ -472,6 +473,7 @@ private:
     bool bShipNameEditing = false;  ///< the name's box is open
     bool bDesignerEditing = false;  ///< the designer's box is open
     std::string sLastStatus;        ///< the status line at the last tick
+    std::string m_asideFile;        ///< the design as it was put aside last
     std::string m_safeFile;         ///< the design as it was when nothing of it could be lost
     int m_actDepth = 0;             ///< acts that are under way, one inside the other
     bool m_isInTurn = false;        ///< the innermost of them has given the event loop its turn

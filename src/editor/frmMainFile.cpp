@@ -48,7 +48,6 @@ void frmMain::replaceShip() {
         ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
                      .formula = m_services.globals.formula,
                      .eventLoopTurn = [this] { giveTurn(); }});
-    giveUpDesign();
     m_shipEvents.clear();
     g_Ship = std::move(ship);
     const auto listen = [this](Signal<>& event, void (frmMain::*handler)()) {
@@ -69,14 +68,24 @@ void frmMain::replaceShipAndRows() {
 }
 
 bool frmMain::loadFile(const std::string& fileName) {
+    if (!giveUpDesign()) {
+        return false;
+    }
     replaceShipAndRows();
-    // An overflow in the middle of a load ends the load; there is nothing to go back to.
-    const ActScope scope(*this);
-    const bool isLoaded = g_Ship->loadShip(fileName);
-    noteSafe();
+    bool isLoaded = false;
+    {
+        // An overflow in the middle of a load ends the load; there is nothing to go back to.
+        const ActScope scope(*this);
+        isLoaded = g_Ship->loadShip(fileName);
+    }
+    fileFault = g_Ship->fileFault();
     if (isLoaded) {
         addRecentFile();
+    } else {
+        replaceShipAndRows();  // nobody takes half a ship for the one in the file
     }
+    noteSafe();
+    runWaiting();
     return isLoaded;
 }
 
@@ -97,6 +106,9 @@ void frmMain::mnuNew_Click() {
         if (!g_Ship->g_bSaved &&
             m_services.desktop.showMessage("Ship not saved, delete?", "Ship not saved!",
                                            Buttons::YesNo, Icon::Information) == Answer::No) {
+            return;
+        }
+        if (!giveUpDesign()) {
             return;
         }
         replaceShipAndRows();

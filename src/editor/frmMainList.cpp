@@ -56,7 +56,7 @@ void frmMain::changeAmount(const std::string name, std::int32_t change) {
 
 void frmMain::lvCurrentWeapons_Click() {
     if (const auto row = lvCurrentWeapons.selected()) {
-        previewRow(*row);
+        act([this, row] { previewRow(*row); });
     }
 }
 

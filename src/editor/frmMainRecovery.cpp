@@ -3,6 +3,7 @@
 
 #include "frmMain.h"
 
+#include "Desktop.h"
 #include "Error.h"
 #include "RecoveryFolder.h"
 
@@ -13,6 +14,7 @@ void frmMain::noteSafe() {
     if (m_services.recovery != nullptr) {
         m_services.recovery->forget();
         m_safeFile = g_Ship->shipFile();
+        m_asideFile.clear();
     }
 }
 
@@ -20,33 +22,45 @@ bool frmMain::isSafe() const {
     return m_services.recovery == nullptr || !g_Ship || g_Ship->shipFile() == m_safeFile;
 }
 
-void frmMain::putAside() {
+void frmMain::tmrRecovery_Timer() {
+    tmrRecovery.setEnabled(false);
+    if (isSafe()) {
+        if (m_services.recovery != nullptr) {
+            m_services.recovery->forget();
+            m_asideFile.clear();
+        }
+        return;
+    }
+    std::string design = g_Ship->shipFile();
+    if (design == m_asideFile) {
+        return;
+    }
     try {
-        m_services.recovery->put(g_Ship->g_sShipName, g_Ship->shipFile());
-    } catch (const std::exception& error) {
+        m_services.recovery->put(g_Ship->g_sShipName, design);
+        m_asideFile = std::move(design);
+    } catch (const FileError& error) {
         sbStatus.setText(std::string("The design cannot be put aside: ") + error.what());
     }
 }
 
-void frmMain::tmrRecovery_Timer() {
-    tmrRecovery.setEnabled(false);
-    if (!isSafe()) {
-        putAside();
-    } else if (m_services.recovery != nullptr) {
-        m_services.recovery->forget();
-    }
-}
-
-/// The design at hand goes. What has changed since it was safe is kept for good.
-void frmMain::giveUpDesign() {
-    if (m_services.recovery == nullptr) {
-        return;
-    }
+/// The design at hand is about to go. What has changed since it was safe is kept for good; if that
+/// is not possible, the user says whether it may go all the same.
+bool frmMain::giveUpDesign() {
     if (isSafe()) {
-        m_services.recovery->forget();
-    } else {
-        putAside();
+        if (m_services.recovery != nullptr) {
+            m_services.recovery->forget();
+        }
+        return true;
+    }
+    try {
+        m_services.recovery->put(g_Ship->g_sShipName, g_Ship->shipFile());
         m_services.recovery->keep();
+        return true;
+    } catch (const FileError& error) {
+        return m_services.desktop.showMessage(
+                   std::string("The design is not saved and cannot be put aside: ") + error.what() +
+                       "\nLose it?",
+                   "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
     }
 }
 

@@ -91,7 +91,7 @@ void frmMain::cmdCollapseAll_Click() {
 void frmMain::tvWeapons_Click() {
     const TreeView::Node* const node = tvWeapons.selected();
     if (node != nullptr && node->children.empty()) {
-        previewNode();
+        act([this] { previewNode(); });
     }
 }
 

@@ -1,5 +1,6 @@
 #include "RecoveryFolder.h"
 
+#include "Error.h"
 #include "saveFile.h"
 #include "utf8.h"
 
@@ -69,18 +70,22 @@ std::optional<fs::path> RecoveryFolder::keepLeftBehind() {
 }
 
 void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {
-    fs::create_directories(m_folder);
-    const fs::path before = m_ownFile;
-    const std::string name = fileNameOf(shipName);
-    if (m_ownFile.empty() || !m_ownFile.filename().string().starts_with(name + ' ')) {
-        m_ownFile = m_folder /
-                    (name + ' ' + m_now() + std::string(extension) + beforeMark + m_runs.ownMark);
+    std::error_code error;
+    fs::create_directories(m_folder, error);
+    if (error) {
+        throw FileError(m_folder, "cannot be made: " + error.message());
     }
-    saveFile(m_ownFile, shipFile);
-    if (!before.empty() && before != m_ownFile) {
-        std::error_code gone;
-        fs::remove(before, gone);
+    const std::string ship = fileNameOf(shipName);
+    if (!m_ownFile.empty() && ship == m_ownShip) {
+        saveFile(m_ownFile, shipFile);
+        return;
     }
+    const fs::path file =
+        m_folder / (ship + ' ' + m_now() + std::string(extension) + beforeMark + m_runs.ownMark);
+    saveFile(file, shipFile);
+    forget();  // under its old name
+    m_ownFile = file;
+    m_ownShip = ship;
 }
 
 void RecoveryFolder::keep() {

@@ -50,6 +50,7 @@ private:
     Runs m_runs;
     std::function<std::string()> m_now;
     std::filesystem::path m_ownFile;
+    std::string m_ownShip;  ///< as it stands in the name of that file
 };
 
 }  // namespace fleetwright

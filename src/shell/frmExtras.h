@@ -74,7 +74,7 @@ public:
         *this,
         {.name = "chkConfirmExit", .place = {105, 2160, 3360, 330}, .caption = "Confirm on Exit"}};
     Line lineNames{*this, {.name = "Line1", .place = {105, 1080, 3360, 30}}};
-    Line lineCommands{*this, {.name = "Line2", .place = {105, 4485, 3360, 30}}};
+    Line lineCommands{*this, {.name = "Line1", .place = {105, 4485, 3360, 30}}};
 
 protected:
     void Form_Load() override;

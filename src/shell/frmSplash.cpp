@@ -109,8 +109,11 @@ void frmSplash::dismissSplash() {
 }
 
 void frmSplash::Form_Unload(bool&) {
-    // The main window is there by now: one more tick must not bring it to the front again.
-    Timer1.setEnabled(false);
+    // Whoever closes this window before its time does not mean the program.
+    if (m_services.isMainWindowLoaded() && !m_services.mainWindow().isVisible()) {
+        m_services.mainWindow().show();
+    }
+    Timer1.setEnabled(false);  // one more tick must not bring it to the front again
     const fs::path sound = m_services.appFolder / "blaster.wav";
     constexpr int pause = 500;  // milliseconds
     playSound(sound, m_services.sounds, m_services.globals);

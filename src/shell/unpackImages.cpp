@@ -3,6 +3,9 @@
 #include "Error.h"
 #include "SheetPictures.h"
 
+#include <chrono>
+#include <random>
+#include <string>
 #include <system_error>
 
 namespace fleetwright {
@@ -40,6 +43,20 @@ bool unpackInto(const fs::path& folder, const fs::path& archive, const RunArchiv
     return isDone && hasPictures(folder);
 }
 
+const std::string beginning = "images.unpacking-";
+
+/// Takes away what starts that were cut short have left, but not what one that runs is at.
+void takeOldOnesAway(const fs::path& appFolder) {
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(appFolder, error)) {
+        const auto age = fs::file_time_type::clock::now() - entry.last_write_time(error);
+        if (entry.path().filename().string().starts_with(beginning) &&
+            age > std::chrono::hours(1)) {
+            fs::remove_all(entry.path(), error);
+        }
+    }
+}
+
 constexpr const char* couldNot = "the pictures could not be unpacked";
 
 }  // namespace
@@ -47,20 +64,25 @@ constexpr const char* couldNot = "the pictures could not be unpacked";
 void unpackImages(const fs::path& appFolder, const RunArchive& runArchive) {
     const fs::path archive = archiveOf(appFolder);
     const fs::path images = appFolder / "images";
-    const fs::path folder = appFolder / "images.unpacking";
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
+    takeOldOnesAway(appFolder);
+    const fs::path folder = appFolder / (beginning + std::to_string(std::random_device()()));
+    std::error_code error;
     try {
         fs::create_directory(folder);
         if (!unpackInto(folder, archive, runArchive)) {
             throw FileError(images, couldNot);
         }
-        fs::rename(folder, images);
-    } catch (const fs::filesystem_error& error) {
-        fs::remove_all(folder, ignored);
-        throw FileError(images, "cannot be made: " + error.code().message());
+        fs::rename(folder, images, error);
+        // Another start may have been quicker.
+        if (error && !hasPictures(images)) {
+            throw fs::filesystem_error("rename", error);
+        }
+        fs::remove_all(folder, error);
+    } catch (const fs::filesystem_error& failure) {
+        fs::remove_all(folder, error);
+        throw FileError(images, "cannot be made: " + failure.code().message());
     } catch (const FileError&) {
-        fs::remove_all(folder, ignored);
+        fs::remove_all(folder, error);
         throw;
     }
 }

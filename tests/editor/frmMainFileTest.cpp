@@ -223,6 +223,35 @@ TEST_F(Files, ADesignThatGoesUnsavedIsKept) {
     EXPECT_TRUE(aside().find("Bee time 3.shp ") != std::string::npos);
 }
 
+TEST_F(Files, AFileThatDoesNotFitLeavesANewShip) {
+    for (const char* const line : {"Thrust: 100000\n", "Mass: 2147483647\n", "Mass: x\n"}) {
+        test.file =
+            test.folder().write("bad.shp", std::string("Ship Name: Bad\nSystem: Gun, 1\n") + line);
+        window.mnuLoad.choose();
+        window.tmrRefreshScreen.tick();
+        EXPECT_EQ(window.txtShipName.text() + test.list(), "Generic") << line;
+        EXPECT_EQ(window.txtCost.text(), "7");
+        EXPECT_TRUE(window.fileFault);
+    }
+}
+
+TEST_F(Files, ADesignThatCannotBePutAsideGoesOnlyIfThePlayerSaysSo) {
+    test.folder().write("recovered", "in the way");
+    change();
+    window.tmrRecovery.tick();
+    EXPECT_TRUE(window.sbStatus.text().starts_with("The design cannot be put aside: "));
+    test.file = ship;
+    window.mnuLoad.choose();
+    EXPECT_TRUE(
+        test.takeLog().starts_with("box: The design is not saved and cannot be put aside: "));
+    EXPECT_EQ(test.ship().THRUST(), 4);
+    test.globals.g_bConfirmExit = false;
+    EXPECT_FALSE(window.unload());
+    test.answer = Answer::Yes;
+    window.mnuLoad.choose();
+    EXPECT_EQ(test.ship().g_sShipName, "Wasp");
+}
+
 TEST_F(Files, StandardHullsSetHullAndMass) {
     window.optStarBase.choose();
     window.mnuFrigate.choose();

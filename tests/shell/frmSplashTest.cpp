@@ -171,6 +171,12 @@ TEST_F(Start, TakesItsStepsInOrderAndGoesWithASoundWhenTheMainWindowIsReady) {
     EXPECT_FALSE(splash.isLoaded());
 }
 
+TEST_F(Start, ClosedBeforeItsTimeItShowsTheMainWindowAllTheSame) {
+    run();
+    splash.unload();
+    EXPECT_TRUE(mainWindow.isVisible());
+}
+
 TEST_F(Start, PicksItsPictureByTheClock) {
     machine.ticks = -3;
     run();
@@ -221,6 +227,7 @@ TEST_F(Start, EndsWithAMessageWhereItCannotGoOn) {
 TEST_F(Start, PlaysItsSoundWhenTheFormulaLibraryIsMissing) {
     fs::create_directory(folder.path() / "images");
     machine.hasLibrary = false;
+    mainWindow.isReady = false;
     EXPECT_EQ(run(), "library w_dll.dll; box Can't Open DLL " + folder.path().string() +
                          "/File Open Error critical; play blaster.wav; sleep 500; "
                          "play blaster.wav; end");

@@ -114,7 +114,6 @@ std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted)
     prepareDialog(dialog, wanted);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     const QString extension = toQt(wanted.extension);
-    dialog.setDefaultSuffix(extension.mid(1));
     while (dialog.exec() == QDialog::Accepted) {
         const QString chosen = dialog.selectedFiles().value(0);
         if (mayReplace(chosen, extension)) {
@@ -127,10 +126,9 @@ std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted)
 void QtDesktop::popUp(MenuEntry& menu) {
     // A menu that was asked for by a key opens at what has the keyboard.
     const QWidget* const focus = QApplication::focusWidget();
-    const bool isUnderPointer = focus != nullptr && focus->underMouse();
-    popUpMenu(menu, focus == nullptr || isUnderPointer
-                        ? QCursor::pos()
-                        : focus->mapToGlobal(focus->rect().center()));
+    const bool isByPointer =
+        focus == nullptr || focus->underMouse() || QApplication::mouseButtons() != Qt::NoButton;
+    popUpMenu(menu, isByPointer ? QCursor::pos() : focus->mapToGlobal(focus->rect().center()));
 }
 
 void QtDesktop::showModal(Form& form, Form& owner) {

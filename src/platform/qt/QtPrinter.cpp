@@ -110,6 +110,7 @@ void QtPrinter::printPart(const QString& part) {
     const QFontMetrics metrics = m_painter->fontMetrics();
     if (m_y + metrics.height() > m_painter->viewport().height()) {
         if (!printer().newPage()) {
+            m_painter.reset();  // the next line begins anew
             throw Error("the printer does not print");
         }
         m_y = 0;

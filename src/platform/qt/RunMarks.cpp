@@ -2,11 +2,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QRandomGenerator>
 
 namespace fleetwright {
 
 RunMarks::RunMarks(std::filesystem::path folder)
-    : m_folder(std::move(folder)), m_own(std::to_string(QCoreApplication::applicationPid())),
+    : m_folder(std::move(folder)), m_own(std::to_string(QCoreApplication::applicationPid()) + '-' +
+                                         std::to_string(QRandomGenerator::system()->generate())),
       m_lock(lockOf(m_own)) {
     QDir().mkpath(QString::fromStdString(m_folder.string()));
     m_lock.setStaleLockTime(0);  // a lock grows stale with its program, and not with time

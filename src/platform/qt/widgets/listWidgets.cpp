@@ -81,6 +81,12 @@ protected:
         }
     }
 
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) {
+            QTreeWidget::mouseDoubleClickEvent(event);
+        }
+    }
+
     void contextMenuEvent(QContextMenuEvent* event) override {
         if (event->reason() == QContextMenuEvent::Keyboard) {
             m_list.pressMouse({.button = RightButton});

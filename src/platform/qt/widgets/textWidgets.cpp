@@ -85,6 +85,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
         case QEvent::MouseButtonPress:
             if (box.onMouseDown) {
                 box.pressMouse(toPress(*static_cast<QMouseEvent*>(event), scale));
+                widget->setFocus(Qt::MouseFocusReason);
                 return true;
             }
             return false;
@@ -92,6 +93,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
             if (box.onMouseDown &&
                 static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
                 box.pressMouse({.button = RightButton});
+                widget->setFocus(Qt::OtherFocusReason);
             }
             return static_cast<bool>(box.onMouseDown);
         case QEvent::ShortcutOverride:

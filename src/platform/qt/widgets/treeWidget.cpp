@@ -98,6 +98,12 @@ protected:
         m_tree.releaseMouse(toPress(*event, m_scale));
     }
 
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) {
+            QTreeWidget::mouseDoubleClickEvent(event);
+        }
+    }
+
     void contextMenuEvent(QContextMenuEvent* event) override {
         if (event->reason() == QContextMenuEvent::Keyboard) {
             m_tree.pressMouse({.button = RightButton});
