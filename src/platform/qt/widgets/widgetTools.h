@@ -12,6 +12,7 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -27,16 +28,21 @@ inline QIcon faceOf(const std::string& picture) {
     return QIcon(":/pictures/" + toQt(picture) + ".png");
 }
 
-inline QImage toImage(const Raster& raster) {
+/// A part of a picture, inside it.
+inline QImage toImage(const Raster& raster, const QRect& part) {
     constexpr QRgb opaque = 0xFF000000U;
-    QImage image(raster.width(), raster.height(), QImage::Format_RGB32);
-    for (int y = 0; y < raster.height(); ++y) {
-        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < raster.width(); ++x) {
-            line[x] = opaque | raster.pixel(x, y);
-        }
+    QImage image(part.width(), part.height(), QImage::Format_RGB32);
+    for (int y = 0; y < part.height(); ++y) {
+        const auto row = raster.row(part.top() + y).subspan(static_cast<std::size_t>(part.left()));
+        std::transform(row.begin(), row.begin() + part.width(),
+                       reinterpret_cast<QRgb*>(image.scanLine(y)),
+                       [](std::uint32_t pixel) { return opaque | pixel; });
     }
     return image;
+}
+
+inline QImage toImage(const Raster& raster) {
+    return toImage(raster, {0, 0, raster.width(), raster.height()});
 }
 
 /// Calls `update` now and whenever the control changes, for as long as the widget lives.
