@@ -3,11 +3,14 @@
 #include "CatalogueCheck.h"
 #include "Error.h"
 #include "PictureCheck.h"
+#include "QtPictureFiles.h"
+#include "SSDMap.h"
 #include "SSDMapCheck.h"
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
 #include "TextFile.h"
 #include "capitals.h"
+#include "checkMapPlaces.h"
 #include "folders.h"
 
 #include <cstdio>
@@ -60,6 +63,25 @@ std::vector<PictureFault> checkDeliveredPictures(const fs::path& appFolder) {
     return check.checkRest();
 }
 
+std::vector<Fault> checkMap(const fs::path& appFolder, const std::string& text) {
+    std::vector<Fault> faults = checkMapFile(text, appFolder);
+    const MapPlaces places = readMapPlaces(text);
+    const fs::path outline = findFile(nativePath(outlinePath(appFolder, places.image)));
+    Raster picture;
+    if (std::error_code error; fs::is_regular_file(outline, error)) {
+        try {
+            picture = QtPictureFiles().load(outline);
+        } catch (const FileError& fault) {
+            faults.push_back({places.imageLine, "the outline " + std::string(fault.what())});
+        }
+    }
+    for (Fault& fault : checkMapPlaces(places, picture)) {
+        faults.push_back(std::move(fault));
+    }
+    sortByLine(faults);
+    return faults;
+}
+
 std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
@@ -70,7 +92,7 @@ std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file)
             return checkCatalogueFile(nativePath(file));
         }
         if (extension == ".MAP") {
-            return checkMapFile(readTextFile(nativePath(file)), appFolder);
+            return checkMap(appFolder, readTextFile(nativePath(file)));
         }
         return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {
