@@ -18,6 +18,8 @@
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
+#include "frmSSDMapCreator.h"
+#include "frmSSDView.h"
 #include "frmSplash.h"
 #include "userDataFolder.h"
 
@@ -75,8 +77,8 @@ public:
                   .extras = [this]() -> frmExtras& { return m_extras; },
                   .showAbout = [this] { m_about.show(); },
                   .showMapper = [] {},
-                  .showViewer = [] {},
-                  .showMapCreator = [] {},
+                  .showViewer = [this] { bringUp(m_viewer); },
+                  .showMapCreator = [this] { bringUp(m_mapCreator); },
                   .recovery = &m_recovery}),
           m_extras(
               {.globals = m_globals,
@@ -88,17 +90,28 @@ public:
                        m_main.CMRUList->clearList();
                        m_main.fillMRU();
                    }}),
-          m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}) {
+          m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}),
+          m_mapCreator({.appFolder = m_appFolder,
+                        .desktop = desktop,
+                        .pictures = m_pictures,
+                        .clock = m_clock,
+                        .eventLoopTurn = [] { QApplication::processEvents(); },
+                        .g_colSSDMaps = m_globals.g_colSSDMaps}),
+          m_viewer({.appFolder = m_appFolder, .desktop = desktop, .pictures = m_pictures}) {
         if (run == Run::Whole) {
             desktop.present(m_splash);
         }
         desktop.present(m_main);
         desktop.present(m_about);
+        desktop.present(m_mapCreator);
+        desktop.present(m_viewer);
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     ~Program() {
+        m_desktop.dismiss(m_viewer);
+        m_desktop.dismiss(m_mapCreator);
         m_desktop.dismiss(m_about);
         m_desktop.dismiss(m_main);
         m_desktop.dismiss(m_splash);
@@ -117,6 +130,14 @@ public:
     }
 
 private:
+    /// Opens a window or, if it is open, brings it to the front.
+    static void bringUp(Form& form) {
+        if (form.isLoaded() && form.state() == WindowState::Minimized) {
+            form.setState(WindowState::Normal);
+        }
+        form.show();
+    }
+
     void freeFormulaLibrary() {
         m_globals.formula = nullptr;
         m_programs.freeLibrary(std::exchange(m_globals.g_hFormulaLib, nullptr));
@@ -138,6 +159,8 @@ private:
     frmMain m_main;
     frmExtras m_extras;
     frmAbout m_about;
+    frmSSDMapCreator m_mapCreator;
+    frmSSDView m_viewer;
 };
 
 }  // namespace
