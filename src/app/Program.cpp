@@ -21,6 +21,8 @@
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "frmMapper.h"
+#include "frmSSDMapCreator.h"
+#include "frmSSDView.h"
 #include "frmSplash.h"
 #include "sheetShip.h"
 #include "userDataFolder.h"
@@ -78,9 +80,9 @@ public:
                   .printer = m_printer,
                   .extras = [this]() -> frmExtras& { return m_extras; },
                   .showAbout = [this] { m_about.show(); },
-                  .showMapper = [this] { showMapper(); },
-                  .showViewer = [] {},
-                  .showMapCreator = [] {},
+                  .showMapper = [this] { bringUp(m_mapper); },
+                  .showViewer = [this] { bringUp(m_viewer); },
+                  .showMapCreator = [this] { bringUp(m_mapCreator); },
                   .recovery = &m_recovery}),
           m_extras(
               {.globals = m_globals,
@@ -101,18 +103,29 @@ public:
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
                     .lvCurrentWeapons = m_main.lvCurrentWeapons,
                     .ship = [this] { return sheetShip(m_main); }}),
-          m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}) {
+          m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}),
+          m_mapCreator({.appFolder = m_appFolder,
+                        .desktop = desktop,
+                        .pictures = m_pictures,
+                        .clock = m_clock,
+                        .eventLoopTurn = [] { QApplication::processEvents(); },
+                        .g_colSSDMaps = m_globals.g_colSSDMaps}),
+          m_viewer({.appFolder = m_appFolder, .desktop = desktop, .pictures = m_pictures}) {
         if (run == Run::Whole) {
             desktop.present(m_splash);
         }
         desktop.present(m_main);
         desktop.present(m_mapper);
         desktop.present(m_about);
+        desktop.present(m_mapCreator);
+        desktop.present(m_viewer);
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     ~Program() {
+        m_desktop.dismiss(m_viewer);
+        m_desktop.dismiss(m_mapCreator);
         m_desktop.dismiss(m_about);
         m_desktop.dismiss(m_mapper);
         m_desktop.dismiss(m_main);
@@ -132,12 +145,12 @@ public:
     }
 
 private:
-    /// Opens the window of sheets or, if it is open, brings it to the front.
-    void showMapper() {
-        if (m_mapper.isLoaded() && m_mapper.state() == WindowState::Minimized) {
-            m_mapper.setState(WindowState::Normal);
+    /// Opens a window or, if it is open, brings it to the front.
+    static void bringUp(Form& form) {
+        if (form.isLoaded() && form.state() == WindowState::Minimized) {
+            form.setState(WindowState::Normal);
         }
-        m_mapper.show();
+        form.show();
     }
 
     void freeFormulaLibrary() {
@@ -164,6 +177,8 @@ private:
     ProgramImages m_images;
     frmMapper m_mapper;
     frmAbout m_about;
+    frmSSDMapCreator m_mapCreator;
+    frmSSDView m_viewer;
 };
 
 }  // namespace

@@ -11,9 +11,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::string_view fireControlKey = "FIRECON", partyKey = "DCP", driveKey = "FTL",
-                           thrustKey = "THRUST";
-
 std::string at(int x, int y) {
     return "(" + std::to_string(x) + "," + std::to_string(y) + ")";
 }
@@ -51,8 +48,11 @@ public:
         checkLines();
         checkArcs();
         checkFigures();
-        checkBoxes();
-        checkMarks();
+        if (!m_outline.isEmpty()) {
+            checkEdges();
+            checkMarks();
+        }
+        checkOverlaps();
         sortByLine(m_faults);
         return std::move(m_faults);
     }
@@ -72,6 +72,11 @@ private:
         const auto found = std::find_if(m_map.places.rbegin(), m_map.places.rend(),
                                         [&](const MapPlace& place) { return place.key == key; });
         return found == m_map.places.rend() ? nullptr : &*found;
+    }
+
+    /// How many lines of a key there are whose place is not known.
+    std::ptrdiff_t unread(std::string_view key) const {
+        return std::count(m_map.unread.begin(), m_map.unread.end(), key);
     }
 
     void addBox(const MapPlace& place) {
@@ -97,7 +102,7 @@ private:
         for (const auto& [key, what] : {std::pair{trackKey, "damage track"},
                                         {driveKey, "FTL drive"},
                                         {thrustKey, "thrust drive"}}) {
-            if (last(key) == nullptr) {
+            if (last(key) == nullptr && unread(key) == 0) {
                 complain(0, "no " + std::string(key) + " line, so that the " + what +
                                 " is drawn at (0,0)");
             }
@@ -144,14 +149,14 @@ private:
     void checkCount(std::string_view key, const char* what, int most) {
         const auto count = std::count_if(m_map.places.begin(), m_map.places.end(),
                                          [&](const MapPlace& place) { return place.key == key; });
-        if (m_map.sizeLine != 0 && count < most) {
+        if (m_map.sizeLine != 0 && count + unread(key) < most) {
             complain(m_map.sizeLine, std::to_string(count) + " " + std::string(key) +
                                          " points, but ships of this SIZE have up to " +
                                          std::to_string(most) + " " + what);
         }
     }
 
-    void checkBoxes() {
+    void checkEdges() {
         for (const Box& box : m_boxes) {
             if (box.place->x < 0 || box.place->y < 0 || box.right() > m_outline.width() ||
                 box.bottom() > m_outline.height()) {
@@ -160,6 +165,9 @@ private:
                                               std::to_string(m_outline.height()) + " pixels");
             }
         }
+    }
+
+    void checkOverlaps() {
         for (auto box = m_boxes.begin(); box != m_boxes.end(); ++box) {
             const auto other =
                 std::find_if(m_boxes.begin(), box, [&](const Box& b) { return b.overlaps(*box); });

@@ -4,6 +4,7 @@
 #include "Raster.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -19,14 +20,21 @@ struct MapPlace {
 
 /// What a map says about the places on its outline.
 struct MapPlaces {
-    int size = 0;                  ///< the largest ship mass; 0 without a SIZE line
-    int sizeLine = 0;              ///< line of SIZE; 0 without one
-    std::vector<MapPlace> places;  ///< in the order of the map
+    int size = 0;                     ///< the largest ship mass; 0 without a SIZE line
+    int sizeLine = 0;                 ///< line of SIZE; 0 without one
+    int imageLine = 0;                ///< line of IMAGE; 0 without one
+    std::string image = {};           ///< the outline that it names
+    std::vector<MapPlace> places;     ///< in the order of the map
+    std::vector<std::string> unread;  ///< keys of the lines whose place cannot be read
 };
+
+/// What the text of a map file says about the places. What is wrong with its lines is passed over.
+MapPlaces readMapPlaces(std::string_view text);
 
 /// What an author may not have meant about the places of a map, by line: boxes that overlap or
 /// leave the outline, marks that stay to be seen, arcs without a point, lines that are missing and
 /// too few points for the figures of ships of that size. What concerns no single line comes last.
+/// Without an outline there is nothing to say of that.
 std::vector<Fault> checkMapPlaces(const MapPlaces& map, const Raster& outline);
 
 }  // namespace fleetwright

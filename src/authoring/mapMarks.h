@@ -26,14 +26,15 @@ struct MapMark {
     std::string_view key;
 };
 
-inline constexpr std::string_view weaponKey = "WEAP", trackKey = "DAMROW";
+inline constexpr std::string_view weaponKey = "WEAP", fireControlKey = "FIRECON", partyKey = "DCP",
+                                  trackKey = "DAMROW", driveKey = "FTL", thrustKey = "THRUST";
 
-inline constexpr std::array<MapMark, 6> mapMarks = {{{Red, "FIRECON"},
-                                                     {Green, "THRUST"},
+inline constexpr std::array<MapMark, 6> mapMarks = {{{Red, fireControlKey},
+                                                     {Green, thrustKey},
                                                      {Yellow, weaponKey},
-                                                     {Blue, "DCP"},
+                                                     {Blue, partyKey},
                                                      {Magenta, trackKey},
-                                                     {Cyan, "FTL"}}};
+                                                     {Cyan, driveKey}}};
 
 /// The pixel at the right of a weapon mark that says the weapon's arc.
 struct ArcMark {

@@ -3,11 +3,14 @@
 #include "CatalogueCheck.h"
 #include "Error.h"
 #include "PictureCheck.h"
+#include "PictureFiles.h"
+#include "SSDMap.h"
 #include "SSDMapCheck.h"
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
 #include "TextFile.h"
 #include "capitals.h"
+#include "checkMapPlaces.h"
 #include "folders.h"
 #include "loadPictures.h"
 
@@ -63,6 +66,25 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options) {
     return check.checkRest();
 }
 
+std::vector<Fault> checkMap(const Options& options, const std::string& text) {
+    std::vector<Fault> faults = checkMapFile(text, options.appFolder);
+    const MapPlaces places = readMapPlaces(text);
+    const fs::path outline = findFile(nativePath(outlinePath(options.appFolder, places.image)));
+    Raster picture;
+    if (std::error_code error; fs::is_regular_file(outline, error)) {
+        try {
+            picture = loadPictures(options.programFolder).files.load(outline);
+        } catch (const FileError& fault) {
+            faults.push_back({places.imageLine, "the outline " + std::string(fault.what())});
+        }
+    }
+    for (Fault& fault : checkMapPlaces(places, picture)) {
+        faults.push_back(std::move(fault));
+    }
+    sortByLine(faults);
+    return faults;
+}
+
 std::vector<Fault> checkFile(const Options& options, const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
@@ -73,7 +95,7 @@ std::vector<Fault> checkFile(const Options& options, const std::string& file) {
             return checkCatalogueFile(options, nativePath(file));
         }
         if (extension == ".MAP") {
-            return checkMapFile(readTextFile(nativePath(file)), options.appFolder);
+            return checkMap(options, readTextFile(nativePath(file)));
         }
         return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {

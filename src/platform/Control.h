@@ -77,6 +77,7 @@ public:
     bool isEnabled() const { return m_design.isEnabled; }
     void setEnabled(bool isEnabled);
     std::string toolTip() const { return askToolTip ? askToolTip() : m_design.toolTip; }
+    void setToolTip(const std::string& toolTip);
     /// For a tool tip that is worked out when somebody wants to see it. Set once, by the form.
     std::function<std::string()> askToolTip;
 

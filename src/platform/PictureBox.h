@@ -3,20 +3,35 @@
 #include "Control.h"
 #include "Raster.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace fleetwright {
 
-/// A box that holds a picture and, if it sizes itself, takes the picture's size.
+/// A box that holds a picture and, if it sizes itself, takes the picture's size and its border's.
+/// Without a picture it keeps the size that it has.
 class PictureBox : public Control {
 public:
     PictureBox(Container& container, ControlDesign design)
         : Control(&container, std::move(design)) {}
 
     static constexpr int twipsPerPixel = 15;
+    /// What the border of a framed box takes at each edge, in pixels.
+    static constexpr int borderPixels = 2;
 
     bool isAutoSize() const { return m_isAutoSize; }
     void setAutoSize(bool isAutoSize) { m_isAutoSize = isAutoSize; }
+
+    /// Twips to a pixel of the screen, so that a box that sizes itself is just as large as its
+    /// picture there. For whoever draws it.
+    double screenTwipsPerPixel() const { return m_screenTwipsPerPixel; }
+    void setScreenTwipsPerPixel(double twips) {
+        m_screenTwipsPerPixel = twips;
+        if (m_isAutoSize) {
+            fitToPicture();
+        }
+    }
 
     const Raster& picture() const { return m_picture; }
 
@@ -28,27 +43,54 @@ public:
         Changed.raise();
     }
 
-    /// The picture, to be drawn on; `Painted` is raised to show it.
+    /// The picture, to be drawn on. `showDrawn` shows what was drawn.
     Raster& canvas() { return m_picture; }
+    void showDrawn() { Painted.raise(0, m_picture.height()); }
 
     /// Takes the picture's size.
     void fitToPicture() {
-        setPlace({place().left, place().top, m_picture.width() * twipsPerPixel,
-                  m_picture.height() * twipsPerPixel});
+        if (!m_picture.isEmpty()) {
+            const int border = design().isFramed ? 2 * borderPixels : 0;
+            const auto twips = [&](int pixels) {
+                return static_cast<int>(std::lround((pixels + border) * m_screenTwipsPerPixel));
+            };
+            setPlace(
+                {place().left, place().top, twips(m_picture.width()), twips(m_picture.height())});
+        }
     }
 
-    /// Paints one pixel of the picture, which shows when the window is painted next.
-    void paintPixel(int x, int y, std::uint32_t colour) {
-        m_picture.pixel(x, y) = colour;
-        Painted.raise();
+    /// Paints pixels side by side, from (x, y) on, as far as they are in the picture. They show
+    /// after `showPainted`.
+    void paintStretch(int x, int y, int count, std::uint32_t colour) {
+        const auto row = m_picture.row(y);
+        const int end = std::min(x + count, m_picture.width());
+        if (x < end) {
+            std::fill(row.begin() + x, row.begin() + end, colour);
+            m_firstPainted = std::min(m_firstPainted, y);
+            m_endPainted = std::max(m_endPainted, y + 1);
+        }
     }
 
-    /// Pixels of the picture have changed, and nothing else. For whoever draws it.
-    Signal<> Painted;
+    void showPainted() {
+        if (m_firstPainted < m_endPainted) {
+            Painted.raise(std::exchange(m_firstPainted, nothingPainted),
+                          std::exchange(m_endPainted, 0));
+        }
+    }
+
+    /// Rows of the picture have changed, from the first one to the one before the second, and
+    /// nothing else. For whoever draws it.
+    Signal<int, int> Painted;
 
 private:
+    static constexpr int nothingPainted = 0x7FFFFFFF;
+
     bool m_isAutoSize = true;
+    double m_screenTwipsPerPixel = twipsPerPixel;
     Raster m_picture;
+    // Rows painted since the last `showPainted`.
+    int m_firstPainted = nothingPainted;
+    int m_endPainted = 0;
 };
 
 }  // namespace fleetwright

@@ -7,8 +7,8 @@ namespace fleetwright {
 /// The code of the Enter key in key events.
 inline constexpr int EnterKey = 13;
 
-/// A text of one line, or of many. Its change event is raised whenever the text changes, whoever
-/// changed it.
+/// A text of one line, or of many, which then end in CR LF. Its change event is raised whenever the
+/// text changes, whoever changed it.
 class TextBox : public PointedControl {
 public:
     TextBox(Container& container, ControlDesign design, Handler change = {})
@@ -23,6 +23,18 @@ public:
             raise(onChange);
         }
     }
+
+    /// Adds to the end of the text, at the cost of what is added.
+    void append(const std::string& text) {
+        if (!text.empty()) {
+            changeableDesign().text += text;
+            Appended.raise(text);
+            raise(onChange);
+        }
+    }
+
+    /// The text has grown by this, and nothing else has changed. For whoever draws it.
+    Signal<const std::string&> Appended;
 
     bool isLocked() const { return design().isLocked; }
 

@@ -6,7 +6,6 @@
 #include "folders.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <map>
 #include <string>
@@ -39,9 +38,7 @@ private:
     void checkImage(std::string_view value);
     void checkPoint(const SSDMapLine& line);
     void checkFields(const SSDMapLine& line);
-    void checkArc(std::string_view arc);
     void checkRounding(std::string_view number);
-    void checkWhole();
     void complain(std::string text) { m_faults.push_back({m_line, std::move(text)}); }
 
     fs::path m_appFolder;
@@ -60,8 +57,10 @@ std::vector<Fault> MapChecker::check(std::string_view text) {
             checkLine(cutMapLine(line));
         }
     }
-    m_line = 0;
-    checkWhole();
+    if (!m_lastLines.contains(MapKey::Image)) {
+        m_line = 0;
+        complain("no line \"IMAGE\"");
+    }
     return std::move(m_faults);
 }
 
@@ -113,7 +112,7 @@ void MapChecker::checkImage(std::string_view value) {
 
 void MapChecker::checkPoint(const SSDMapLine& line) {
     if (line.key == MapKey::Weap) {
-        checkArc(parseWeapPoint(line.value).sArc);
+        parseWeapPoint(line.value);
     } else {
         parsePoint(line.value);
     }
@@ -146,30 +145,9 @@ void MapChecker::checkFields(const SSDMapLine& line) {
     }
 }
 
-void MapChecker::checkArc(std::string_view arc) {
-    if (arc.size() != 1 || mapArcs.find(arc) == std::string_view::npos) {
-        complain("unknown arc " + quote(arc) + ", so that the point is never used");
-    }
-}
-
 void MapChecker::checkRounding(std::string_view number) {
     if (number.find('.') != std::string_view::npos) {
         complain(quote(number) + " is read as " + std::to_string(mapNumber(number)));
-    }
-}
-
-void MapChecker::checkWhole() {
-    static constexpr std::array<std::pair<MapKey, const char*>, 5> needed = {{
-        {MapKey::Image, "IMAGE"},
-        {MapKey::Size, "SIZE"},
-        {MapKey::DamRow, "DAMROW"},
-        {MapKey::Ftl, "FTL"},
-        {MapKey::Thrust, "THRUST"},
-    }};
-    for (const auto& [key, word] : needed) {
-        if (!m_lastLines.contains(key)) {
-            complain("no line " + quote(word));
-        }
     }
 }
 

@@ -8,8 +8,8 @@
 
 namespace fleetwright {
 
-/// Everything that is wrong with the text of a map file, by line; what it lacks comes last.
-/// Outlines are looked for in the application folder.
+/// What is wrong with the lines of a map file, by line, and whether it lacks an outline. Outlines
+/// are looked for in the application folder. What the lines say about places is not looked at.
 std::vector<Fault> checkMapFile(std::string_view text, const std::filesystem::path& appFolder);
 
 }  // namespace fleetwright

@@ -87,13 +87,13 @@ bool frmMapper::showOutline() {
 /// Draws the sheet on the outline. If that fails, the outline stays.
 void frmMapper::drawSheet() {
     RasterSheet sheet(picSSD.canvas(), [this] {
-        picSSD.Painted.raise();
+        picSSD.showDrawn();
         repaint();
     });
     try {
         drawSSD(sheet, m_services.images, *m_Map, m_lists, m_services.ship());
         picSSD.fitToPicture();
-        picSSD.Painted.raise();
+        picSSD.showDrawn();
         fitToSheet();
     } catch (const Error& error) {
         fail("Could not create the SSD!", "SSD Creation Error", error);

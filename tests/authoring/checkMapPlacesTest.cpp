@@ -129,3 +129,32 @@ TEST_F(MapPlacesCheck, NamesMarksThatStayToBeSeen) {
     EXPECT_EQ(faults().size(), 12U);
     EXPECT_EQ(faults().back(), "0: 11 more marks are covered by nothing");
 }
+
+TEST(ReadMapPlaces, TakesWhatTheLinesSayAndPassesOverWhatIsWrong) {
+    const MapPlaces map = readMapPlaces("# x\r\nimage: a.gif\r\nSIZE: 36\r\nweap: (1, 2, f)\r\n"
+                                        "ABC: 1\r\nWEAP: (3,4)\r\nDCP: (x,1)\r\nFTL: (5,6)\r\n"
+                                        "SIZE: big\r\nDAMROW: (-1,0)\r\n");
+    EXPECT_EQ(map.size, 36);
+    EXPECT_EQ(map.sizeLine, 9);
+    EXPECT_EQ(map.image, "a.gif");
+    EXPECT_EQ(map.imageLine, 2);
+    EXPECT_EQ(map.unread, std::vector<std::string>{"DCP"});
+    std::string places;
+    for (const MapPlace& place : map.places) {
+        places += std::to_string(place.line) + place.key + std::to_string(place.x) + ',' +
+                  std::to_string(place.y) + place.arc + ' ';
+    }
+    EXPECT_EQ(places, "4WEAP1,2F 6WEAP3,44 8FTL5,6 10DAMROW-1,0 ");
+}
+
+TEST(ReadMapPlaces, WithoutAnOutlineTheRestIsChecked) {
+    std::string faults;
+    for (const Fault& fault : checkMapPlaces(
+             readMapPlaces("SIZE: 18\nFTL: (\nDCP: ()\nFIRECON: (0,0)\nFIRECON: (9000,1)\n"
+                           "WEAP: (1,1,F)\nTHRUST: (50,50)\nDAMROW: (200,50)"),
+             Raster())) {
+        faults += std::to_string(fault.line) + ": " + fault.text + '\n';
+    }
+    EXPECT_EQ(faults, "6: the WEAP box at (1,1) overlaps the FIRECON box at (0,0) of line 4\n"
+                      "0: no weapon point for the arc P, S, A, B\n");
+}

@@ -172,17 +172,40 @@ TEST_F(Tool, CheckNamesEveryFault) {
 }
 
 TEST_F(Tool, CheckLooksThroughMaps) {
-    m_folder.write("maps/b.MAP", "IMAGE: Hull.gif\nSIZE: 18\nDAMROW: (1,2)\nFTL: 1,2\n");
+    // A white outline of 100 by 50 with a red mark at (40,10).
+    std::string bitmap("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x64\0\0\0\x32\0\0\0\1\0\x18", 30);
+    bitmap.resize(54);
+    bitmap.resize(54 + 300 * 50, '\xFF');
+    const std::size_t mark = 54 + 300 * 39 + 3 * 40;
+    bitmap[mark] = bitmap[mark + 1] = 0;
+    m_folder.write("shipimages/hull.BMP", bitmap);
+    m_folder.write("shipimages/text.gif", "no picture");
+    m_folder.write("maps/b.MAP", "IMAGE: Hull.bmp\nSIZE: 36\nDAMROW: (0,7)\nFTL: 1,2\n"
+                                 "WEAP: (1,2,X)\nDCP: (10,1)\nDCP: (70,1)\nWEAP: (68,18,B)\n");
     m_folder.write("maps/a.map", "IMAGE: none.gif\nSIZE: 18\nDAMROW: (1,2)\nFTL: (1,2)\n"
                                  "THRUST: (1)\n");
-    m_folder.write("shipimages/hull.GIF", "");
-    EXPECT_EQ(all(run({"--app", ".", "check", "maps/b.MAP"})),
-              "1|maps/b.MAP:4: \"\" is no number\nmaps/b.MAP: no line \"THRUST\"\n|");
+    m_folder.write("maps/c.map", "IMAGE: text.gif\n");
+    EXPECT_EQ(
+        all(run({"--app", ".", "check", "maps/b.MAP"})),
+        "1|maps/b.MAP:2: 0 FIRECON points, but ships of this SIZE have up to 2 fire controls\n"
+        "maps/b.MAP:4: \"\" is no number\n"
+        "maps/b.MAP:5: unknown arc \"X\", so that the point is neither used nor covered\n"
+        "maps/b.MAP:6: the DCP box at (10,1) overlaps the DAMROW box at (0,7) of line 3\n"
+        "maps/b.MAP:7: the DCP box at (70,1) leaves the outline, which is 100 by 50 pixels\n"
+        "maps/b.MAP:7: the DCP box at (70,1) overlaps the DAMROW box at (0,7) of line 3\n"
+        "maps/b.MAP:8: the WEAP box at (68,18) overlaps the DAMROW box at (0,7) of line 3\n"
+        "maps/b.MAP: no THRUST line, so that the thrust drive is drawn at (0,0)\n"
+        "maps/b.MAP: no weapon point for the arc F, P, S, A\n|");
     const std::string output = run({"--app", ".", "check"}).output;
     EXPECT_NE(output.find("./maps/a.map:1: there is no outline \"none.gif\"\n"
-                          "./maps/a.map:5: \"\" is no number\n./maps/b.MAP:4: "),
+                          "./maps/a.map:2: 0 FIRECON"),
               std::string::npos)
         << output;
+    EXPECT_NE(output.find("./maps/c.map:1: the outline cannot be read: "), std::string::npos);
+    m_folder.write("maps/c.map", "IMAGE: hull.bmp\nTHRUST: (0,0)\n");
+    EXPECT_NE(run({"--app", ".", "check", "maps/c.map"})
+                  .output.find("maps/c.map: the mark at (40,10) is covered by nothing\n"),
+              std::string::npos);
 }
 
 TEST_F(Tool, MapsAreThoseThatLoadOrThatAShipFitsOn) {

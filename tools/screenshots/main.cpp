@@ -1,6 +1,7 @@
 // Takes pictures of the program's windows in their states, without a screen: looks at what a user
 // sees, and makes the pictures of the guides.
 
+#include "Clock.h"
 #include "Error.h"
 #include "FormWindow.h"
 #include "Globals.h"
@@ -21,6 +22,8 @@
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "frmMapper.h"
+#include "frmSSDMapCreator.h"
+#include "frmSSDView.h"
 #include "saveFile.h"
 #include "sheetShip.h"
 
@@ -36,10 +39,16 @@ namespace {
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
-/// A desktop that takes a picture of each dialog and cancels it.
+/// A desktop that takes a picture of each dialog and cancels it. Of files it chooses one.
 class PictureDesktop : public QtDesktop {
 public:
     explicit PictureDesktop(fs::path folder) : m_folder(std::move(folder)) {}
+
+    fs::path choice;
+
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override {
+        return choice.string();
+    }
 
     void showModal(Form& form, Form&) override {
         form.load();
@@ -151,6 +160,52 @@ void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& ap
     desktop.take(window, "mapper");
 }
 
+/// A clock by which each look is so late that the event loop gets its turn.
+class LateClock : public Clock {
+public:
+    std::int32_t tickCount() override { return m_now += 30; }
+    void sleep(int) override {}
+
+private:
+    std::int32_t m_now = 0;
+};
+
+/// The windows around maps: new, with an outline whose scan is on its way, and with its map.
+void takeAuthoring(const fs::path& pictures, PictureDesktop& desktop, const std::string& ending) {
+    QtPictureFiles files;
+    LateClock clock;
+    SSDMaps maps;
+    FormWindow* shown = nullptr;
+    int turns = 0;
+    frmSSDMapCreator creator({.appFolder = pictures,
+                              .desktop = desktop,
+                              .pictures = files,
+                              .clock = clock,
+                              .eventLoopTurn =
+                                  [&] {
+                                      constexpr int middle = 20;
+                                      if (++turns == middle) {
+                                          desktop.take(*shown, "map-creator-scanning" + ending);
+                                      }
+                                  },
+                              .g_colSSDMaps = maps});
+    creator.load();
+    FormWindow creatorWindow(creator);
+    shown = &creatorWindow;
+    desktop.take(creatorWindow, "map-creator-new" + ending);
+    desktop.choice = pictures / "shipimages" / "Capital Warship - Sovereign.gif";
+    creator.cmdSelect.press();
+    creator.cmdDoit.press();
+    desktop.take(creatorWindow, "map-creator" + ending);
+
+    frmSSDView viewer({.appFolder = pictures, .desktop = desktop, .pictures = files});
+    viewer.show();
+    FormWindow viewerWindow(viewer);
+    desktop.take(viewerWindow, "viewer-new" + ending);
+    viewer.cmdSelect.press();
+    desktop.take(viewerWindow, "viewer" + ending);
+}
+
 void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& output) {
     fs::create_directories(output);
     const QTemporaryDir temporary;
@@ -200,6 +255,7 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     form.mnuExtrasPage.choose();
     frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
     desktop.showModal(about, form);
+    takeAuthoring(pictures, desktop, "");
     const QPalette light = QApplication::palette();
     QApplication::setPalette(darkPalette());
     take("main-dark");
@@ -209,6 +265,7 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     large.setPointSizeF(large.pointSizeF() * 1.2);
     QApplication::setFont(large);
     take("main-large-font");
+    takeAuthoring(pictures, desktop, "-large-font");
     form.optStarBase.choose();
     form.mnuAutoMass.choose();
     take("main-base");

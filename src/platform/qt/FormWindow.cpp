@@ -24,7 +24,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QElapsedTimer>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPainter>
@@ -87,6 +86,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
     setCentralWidget(m_inside);
     if (form.border() == Border::Sizable) {
         m_inside->setMinimumSize(0, 0);
+        resize(m_inside->size());
     } else {
         // A fixed border: the window is as large as its inside.
         m_inside->setFixedSize(m_inside->size());
@@ -209,7 +209,7 @@ void FormWindow::update() {
 
 void FormWindow::updateSize() {
     const QSize size = m_scale.rect(m_form.place()).size();
-    if (size == m_inside->size()) {
+    if (size == m_inside->size() || m_form.state() != WindowState::Normal) {
         return;
     }
     if (m_form.border() == Border::Sizable) {
@@ -234,10 +234,17 @@ void FormWindow::updatePlace() {
 }
 
 void FormWindow::updateTopmost() {
-    if (m_form.isTopmost() != m_isTopmost) {
-        m_isTopmost = m_form.isTopmost();
-        setWindowFlag(Qt::WindowStaysOnTopHint, m_isTopmost);  // this hides the window
+    if (m_form.isTopmost() == m_isTopmost) {
+        return;
     }
+    m_isTopmost = m_form.isTopmost();
+    if (windowHandle() == nullptr) {
+        setWindowFlag(Qt::WindowStaysOnTopHint, m_isTopmost);
+        return;
+    }
+    // Without making the window anew, which would flicker and lose the keyboard.
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, m_isTopmost);
+    overrideWindowFlags(windowHandle()->flags());
 }
 
 void FormWindow::updateState() {
@@ -311,10 +318,23 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
     }
     // A size that only comes back rounded is the form's own.
     const QSize size = m_inside->size();
-    if (size != m_scale.rect(m_form.place()).size()) {
+    if (size != m_scale.rect(m_form.place()).size() && !isStubborn(size)) {
         m_form.resize(static_cast<int>(m_scale.twips(size.width())) + Form::frameWidth,
                       static_cast<int>(m_scale.twips(size.height())) + Form::frameHeight);
     }
+}
+
+/// Whether the desktop keeps the window at a size that the form has refused again and again: it
+/// would go on so for ever, as desktops do that lay out windows themselves.
+bool FormWindow::isStubborn(const QSize& size) {
+    constexpr int patience = 5;
+    constexpr int shortTime = 500;  // milliseconds
+    if (size != m_offered || !m_sinceOffer.isValid() || m_sinceOffer.hasExpired(shortTime)) {
+        m_offered = size;
+        m_offers = 0;
+    }
+    m_sinceOffer.start();
+    return ++m_offers > patience;
 }
 
 void FormWindow::showEvent(QShowEvent* event) {

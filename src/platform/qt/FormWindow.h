@@ -3,6 +3,7 @@
 #include "Scale.h"
 #include "Signal.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 
 #include <vector>
@@ -42,6 +43,7 @@ private:
     void updateTopmost();
     void raiseAndActivate();
     void repaintNow();
+    bool isStubborn(const QSize& size);
 
     Form& m_form;
     Scale m_scale;
@@ -50,6 +52,10 @@ private:
     /// Where the form was last known to be, in twips of the screen.
     QPoint m_formPlace;
     bool m_isTopmost = false;
+    // The size that the desktop has offered last.
+    QSize m_offered;
+    QElapsedTimer m_sinceOffer;
+    int m_offers = 0;
     /// The window is being brought in step: what it reports is not the user's doing.
     bool m_isUpdating = false;
 };

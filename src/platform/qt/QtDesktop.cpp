@@ -157,7 +157,9 @@ void QtDesktop::unloadAllForms() {
     for (Form* const form : forms) {
         form->unload();  // the one that is going already is left alone
     }
-    QApplication::quit();
+    // Without asking the windows again, as a quit does: one that has something to end first closes
+    // itself then.
+    QApplication::exit();
 }
 
 Desktop::ScreenSize QtDesktop::screenSize() {

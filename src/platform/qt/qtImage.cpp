@@ -17,11 +17,16 @@ Raster toRaster(const QImage& image) {
 }
 
 QImage toImage(const Raster& raster) {
+    return toImage(raster, {0, 0, raster.width(), raster.height()});
+}
+
+QImage toImage(const Raster& raster, const QRect& part) {
     constexpr QRgb opaque = 0xFF000000U;
-    QImage image(raster.width(), raster.height(), QImage::Format_RGB32);
-    for (int y = 0; y < raster.height(); ++y) {
-        const auto row = raster.row(y);
-        std::transform(row.begin(), row.end(), reinterpret_cast<QRgb*>(image.scanLine(y)),
+    QImage image(part.width(), part.height(), QImage::Format_RGB32);
+    for (int y = 0; y < part.height(); ++y) {
+        const auto row = raster.row(part.top() + y).subspan(static_cast<std::size_t>(part.left()));
+        std::transform(row.begin(), row.begin() + part.width(),
+                       reinterpret_cast<QRgb*>(image.scanLine(y)),
                        [](std::uint32_t pixel) { return opaque | pixel; });
     }
     return image;

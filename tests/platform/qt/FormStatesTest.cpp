@@ -97,9 +97,10 @@ TEST_F(FormStates, AKeyGoesToItsBoxFirstAndThenToTheForm) {
 
 TEST_F(FormStates, PicturesShowInTheirOwnSizeAndPixelForPixel) {
     page.picture.setPicture(Raster(30, 20));
-    EXPECT_EQ(page.picture.place().width, 30 * 15);
-    page.picture.paintPixel(0, 0, 0xFF0000);
     auto& widget = *window.findChild<QWidget*>("picture");
+    EXPECT_EQ(widget.size(), QSize(30, 20));
+    page.picture.paintStretch(0, 0, 1, 0xFF0000);
+    page.picture.showPainted();
     const QImage shown = widget.grab().toImage();
     const int left = (shown.width() - 30) / 2;
     const int top = (shown.height() - 20) / 2;

@@ -1,6 +1,7 @@
 #include "FormWindow.h"
 
 #include "Button.h"
+#include "CheckBox.h"
 #include "ComboBox.h"
 #include "Form.h"
 #include "Frame.h"
@@ -9,6 +10,8 @@
 #include "ListView.h"
 #include "Menu.h"
 #include "OptionButton.h"
+#include "PictureBox.h"
+#include "QtDesktop.h"
 #include "Slider.h"
 #include "StatusBar.h"
 #include "TextBox.h"
@@ -27,8 +30,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 using namespace fleetwright;
@@ -69,6 +75,12 @@ public:
     TextBox text{*this, {.name = "text", .place = {3300, 150, 900, 300}}, [this] {
                      log += "text=" + text.text() + ' ';
                  }};
+    TextBox lines{*this, {.name = "lines", .place = {6500, 150, 2000, 1500}, .isMultiline = true}};
+    PictureBox picture{*this, {.name = "picture", .place = {6500, 1800, 300, 300}}};
+    CheckBox down{
+        *this,
+        {.name = "down", .place = {6500, 5000, 900, 300}, .caption = "Down", .isGraphical = true},
+        [this] { log += down.isTicked() ? "down " : "released "; }};
     TextBox mass{*this, {.name = "mass", .place = {3300, 600, 900, 300}, .isLocked = true}};
     Button button{*this,
                   {.name = "button",
@@ -341,4 +353,126 @@ TEST_F(FormWindowTest, MenusTimersAndClosing) {
     EXPECT_TRUE(window.isVisible());
     form.hide();
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(FormWindowTest, TextsOfManyLines) {
+    auto* const lines = find<QPlainTextEdit>("lines");
+    ASSERT_NE(lines, nullptr);
+    EXPECT_TRUE(lines->verticalScrollBar()->isVisible());
+    form.lines.setText("a\r\nb\r\n");
+    EXPECT_EQ(lines->toPlainText(), "a\nb\n");
+    form.lines.append("c\r\n");
+    EXPECT_EQ(lines->toPlainText(), "a\nb\nc\n");
+    lines->moveCursor(QTextCursor::End);
+    QTest::keyClicks(lines, "d");
+    QTest::keyClick(lines, Qt::Key_Return);
+    EXPECT_EQ(form.lines.text(), "a\r\nb\r\nc\r\nd\r\n");
+    // What has nothing to do with the text leaves the user's place in it.
+    form.lines.setToolTip("tip");
+    EXPECT_EQ(lines->textCursor().position(), 8);
+    form.lines.setLocked(true);
+    QTest::keyClicks(lines, "x");
+    EXPECT_EQ(form.lines.text(), "a\r\nb\r\nc\r\nd\r\n");
+    form.lines.setEnabled(false);
+    EXPECT_FALSE(lines->isEnabled());
+}
+
+TEST_F(FormWindowTest, PicturesAreAsLargeOnTheScreenAsTheyAre) {
+    auto* const box = find<QFrame>("picture");
+    Raster picture(120, 40);
+    picture.pixel(119, 39) = 0xFF0000;
+    form.picture.setPicture(picture);
+    EXPECT_EQ(box->size(), QSize(120, 40));
+    EXPECT_EQ(box->grab().toImage().pixelColor(119, 39), QColor(Qt::red));
+    form.picture.paintStretch(100, 39, 50, 0x0000FF);
+    form.picture.showPainted();
+    EXPECT_EQ(box->grab().toImage().pixelColor(119, 39), QColor(Qt::blue));
+    EXPECT_EQ(box->grab().toImage().pixelColor(99, 39), QColor(Qt::white));
+}
+
+TEST_F(FormWindowTest, AButtonThatStaysDown) {
+    auto* const down = find<QAbstractButton>("down");
+    QTest::mouseClick(down, Qt::LeftButton);
+    EXPECT_TRUE(down->isChecked() && form.down.isTicked());
+    form.down.setTicked(false);
+    EXPECT_FALSE(down->isChecked());
+    EXPECT_EQ(takeLog(), "down released ");
+}
+
+namespace {
+
+/// A form that wants to be at least so wide.
+class WideForm : public Form {
+public:
+    WideForm()
+        : Form({.name = "frmWide",
+                .caption = "Wide",
+                .width = 6000,
+                .height = 3000,
+                .border = Border::Sizable}) {}
+
+    int refusals = 0;
+
+protected:
+    void Form_Resize() override {
+        if (state() == WindowState::Normal && width() < 6000 + frameWidth) {
+            ++refusals;
+            resize(6000 + frameWidth, height());
+        }
+    }
+};
+
+}  // namespace
+
+TEST(SizableWindow, TheFormDecidesHowSmallItGets) {
+    WideForm form;
+    FormWindow window(form);
+    form.show();
+    const QSize first = window.size();
+    EXPECT_NEAR(first.width(), 2.0 * first.height(), 1) << "as the form is";
+    window.resize(first.width() + 50, first.height() + 50);
+    EXPECT_EQ(window.width(), first.width() + 50);
+    EXPECT_GT(form.width(), 6000 + Form::frameWidth);
+    window.resize(first.width() / 2, first.height());
+    EXPECT_NEAR(window.width(), first.width(), 1);
+    // A maximized window keeps the screen, whatever changes meanwhile.
+    window.showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.width() > first.width() + 100; }));
+    EXPECT_EQ(form.state(), WindowState::Maximized);
+    const QSize large = window.size();
+    form.setCaption("Other");
+    EXPECT_EQ(window.size(), large);
+    window.showNormal();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() <= first.width() + 1; }));
+    // A desktop that insists on a size of its own is not asked for ever.
+    form.refusals = 0;
+    for (int i = 0; i < 100; ++i) {
+        window.resize(first.width() / 3, first.height());
+    }
+    EXPECT_LT(form.refusals, 10);
+}
+
+TEST(TopmostWindow, StaysOnTheScreenWhenItBecomesOne) {
+    AllKinds form;
+    FormWindow window(form);
+    form.show();
+    const WId handle = window.winId();
+    form.setTopmost(true);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(window.winId(), handle);
+    form.setTopmost(false);
+    EXPECT_FALSE(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(window.winId(), handle);
+}
+
+TEST(QtDesktop, TheProgramEndsAlthoughAWindowHasSomethingToEndFirst) {
+    AllKinds form;
+    form.keeps = true;
+    QtDesktop desktop;
+    desktop.present(form);
+    form.show();
+    QTimer::singleShot(0, [&] { desktop.unloadAllForms(); });
+    QTimer::singleShot(5000, [] { QApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
 }

@@ -138,7 +138,9 @@ QWidget* makeWidget(CheckBox& box, QWidget* parent, const Scale& scale) {
     prepare(widget, box, scale);
     setFace(widget, box.design());
     keepInStep(widget, box, [widget, &box] { widget->setChecked(box.isTicked()); });
-    fitText(widget, box, scale);
+    if (!box.design().isGraphical) {  // buttons stand in rows of equals
+        fitText(widget, box, scale);
+    }
     QObject::connect(widget, &QAbstractButton::clicked, [widget, &box] {
         box.press();
         widget->setChecked(box.isTicked());

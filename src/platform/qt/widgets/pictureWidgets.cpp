@@ -6,6 +6,7 @@
 #include "widgetTools.h"
 
 #include <QFrame>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace fleetwright {
@@ -17,6 +18,11 @@ class PictureWidget : public QFrame {
 public:
     PictureWidget(const PictureBox& box, QWidget* parent) : QFrame(parent), m_box(box) {}
 
+    void updateRows(int first, int end) {
+        const QRect place = picturePlace();
+        update(place.left(), place.top() + first, place.width(), end - first);
+    }
+
 protected:
     void paintEvent(QPaintEvent* event) override {
         QFrame::paintEvent(event);
@@ -25,15 +31,22 @@ protected:
             faceOf(m_box.design().picture).paint(&painter, contentsRect());
             return;
         }
-        const Raster& picture = m_box.picture();
-        if (!picture.isEmpty()) {
-            QRect place(0, 0, picture.width(), picture.height());
-            place.moveCenter(contentsRect().center());
-            QPainter(this).drawImage(place, toImage(picture));
+        // Of a large picture only what is to be seen anew is made ready for the screen.
+        const QRect place = picturePlace();
+        const QRect part = event->rect().intersected(place).translated(-place.topLeft());
+        if (!part.isEmpty()) {
+            QPainter(this).drawImage(place.topLeft() + part.topLeft(),
+                                     toImage(m_box.picture(), part));
         }
     }
 
 private:
+    QRect picturePlace() const {
+        QRect place(0, 0, m_box.picture().width(), m_box.picture().height());
+        place.moveCenter(contentsRect().center());
+        return place;
+    }
+
     const PictureBox& m_box;
 };
 
@@ -45,9 +58,10 @@ QWidget* makeWidget(PictureBox& box, QWidget* parent, const Scale& scale) {
     if (box.design().isFramed) {
         widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     }
+    box.setScreenTwipsPerPixel(scale.twips(1));
     keepInStep(widget, box, [widget] { widget->update(); });
-    auto painted =
-        std::make_shared<Connection>(box.Painted.connect([widget] { widget->update(); }));
+    auto painted = std::make_shared<Connection>(
+        box.Painted.connect([widget](int first, int end) { widget->updateRows(first, end); }));
     QObject::connect(widget, &QObject::destroyed, [painted] {});
     return widget;
 }

@@ -13,6 +13,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 namespace fleetwright {
@@ -61,7 +63,52 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     return widget;
 }
 
+namespace {
+
+/// Keys that edit a text are the menu's where there is nothing to edit.
+bool takesEditKeys(const QEvent& event, const TextBox& box) {
+    return event.type() == QEvent::ShortcutOverride && box.isLocked();
+}
+
+/// A text as models keep it.
+std::string withLineEnds(QString text) {
+    return text.replace('\n', "\r\n").toStdString();
+}
+
+/// The box of a text with many lines.
+QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
+    auto* const widget = new QPlainTextEdit(parent);
+    prepare(widget, box, scale);
+    widget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    widget->setTabChangesFocus(true);
+    keepInStep(widget, box, [widget, &box] {
+        const QSignalBlocker blocker(widget);
+        if (withLineEnds(widget->toPlainText()) != box.text()) {
+            widget->setPlainText(toQt(box.text()));
+        }
+        widget->setReadOnly(box.isLocked());
+    });
+    auto appended =
+        std::make_shared<Connection>(box.Appended.connect([widget](const std::string& text) {
+            const QSignalBlocker blocker(widget);
+            QTextCursor end(widget->document());
+            end.movePosition(QTextCursor::End);
+            end.insertText(toQt(text).remove('\r'));
+            widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
+        }));
+    QObject::connect(widget, &QObject::destroyed, [appended] {});
+    QObject::connect(widget, &QPlainTextEdit::textChanged,
+                     [widget, &box] { box.type(withLineEnds(widget->toPlainText())); });
+    new EventHook(widget, [&box](QEvent* event) { return takesEditKeys(*event, box); });
+    return widget;
+}
+
+}  // namespace
+
 QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
+    if (box.design().isMultiline) {
+        return makeTextArea(box, parent, scale);
+    }
     auto* const widget = new QLineEdit(parent);
     prepare(widget, box, scale);
     const auto show = [widget, &box] {
@@ -97,8 +144,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
             }
             return static_cast<bool>(box.onMouseDown);
         case QEvent::ShortcutOverride:
-            // Keys that edit a text are the menu's where there is nothing to edit.
-            return widget->isReadOnly();
+            return takesEditKeys(*event, box);
         case QEvent::KeyPress: {
             const auto* const key = static_cast<QKeyEvent*>(event);
             if (key->key() == Qt::Key_F2 && box.onDblClick) {

@@ -11,6 +11,7 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>

@@ -1,0 +1,256 @@
+#include "frmSSDMapCreator.h"
+
+#include "Clock.h"
+#include "Desktop.h"
+#include "Error.h"
+#include "OutlineScan.h"
+#include "PictureFiles.h"
+#include "SSDMap.h"
+#include "SSDMaps.h"
+#include "TextFile.h"
+#include "checkedArithmetic.h"
+#include "folders.h"
+#include "pictureDialog.h"
+#include "saveFile.h"
+#include "wholeNumber.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr int firstWidth = 5790, firstHeight = 5565;
+
+constexpr std::string_view mapExtension = ".map";
+
+/// The name that players choose a map file by.
+std::string displayName(std::string_view file) {
+    const std::string_view path = file.substr(0, file.size() - mapExtension.size());
+    return std::string(trimmed(path.substr(path.find_last_of("\\/") + 1)));
+}
+
+/// How long after another moment this one is; the clock may have come round between them.
+std::int32_t between(std::int32_t before, std::int32_t now) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(now) -
+                                     static_cast<std::uint32_t>(before));
+}
+
+}  // namespace
+
+frmSSDMapCreator::frmSSDMapCreator(Services services)
+    : Form({.name = "frmSSDMapCreator",
+            .caption = "SSD Map Creator",
+            .width = firstWidth,
+            .height = firstHeight}),
+      m_services(std::move(services)) {}
+
+void frmSSDMapCreator::Form_Load() {
+    // Whatever an earlier use has left: the window opens without a picture and a text.
+    m_isClosing = false;
+    selectNothing("No picture is selected yet");
+    cmdDoit.setEnabled(true);
+    chkCancel.setTicked(false);
+    picImage.setPicture({});
+    picImage.setPlace(pictureBox);
+    txtOutput.setPlace(textBox);
+    txtOutput.setText("");
+    resize(firstWidth + frameWidth, firstHeight + frameHeight);
+    show();
+}
+
+void frmSSDMapCreator::Form_Unload(bool& cancel) {
+    if (m_isScanning) {
+        cancel = true;
+        m_isClosing = true;  // when the scan has ended
+        chkCancel.setTicked(true);
+    }
+}
+
+void frmSSDMapCreator::cmdSelect_Click() {
+    std::optional<std::string> file;
+    try {
+        file =
+            m_services.desktop.chooseFileToOpen(pictureDialog(m_services.appFolder / "shipimages"));
+        if (!file || file->empty()) {
+            return selectNothing("No picture is selected");
+        }
+        resetImage(loadImage(*file));
+    } catch (const std::exception& error) {
+        return selectNothing("No picture is selected: \"" + file.value_or("") + "\" " +
+                             error.what());
+    }
+    m_sImageFile = *file;
+    cmdDoit.setEnabled(true);
+    picImage.setToolTip(m_sImageFile);
+    cmdDoit.setToolTip("Makes the map of " + m_sImageFile);
+}
+
+/// The picture on show stays, so that what is said of it has to say that it no longer counts.
+void frmSSDMapCreator::selectNothing(const std::string& why) {
+    m_sImageFile.clear();
+    cmdDoit.setEnabled(false);
+    cmdDoit.setToolTip(why);
+    picImage.setToolTip(why);
+}
+
+/// Throws Error.
+Raster frmSSDMapCreator::loadImage(const std::string& file) const {
+    Raster picture = m_services.pictures.load(nativePath(file));
+    try {
+        OutlineScan(picture, file);
+    } catch (const OverflowError&) {
+        throw Error("is too large for a map");
+    }
+    return picture;
+}
+
+Raster frmSSDMapCreator::currentImage() const {
+    return m_sImageFile.empty() ? Raster() : loadImage(m_sImageFile);
+}
+
+void frmSSDMapCreator::resetImage(Raster picture) {
+    chkCancel.setTicked(false);
+    picImage.setPicture(std::move(picture));
+    fitWindow();
+}
+
+void frmSSDMapCreator::fitWindow() {
+    constexpr int gap = 100, margin = 500;
+    const Place& image = picImage.place();
+    const Place& text = txtOutput.place();
+    txtOutput.setPlace({image.width + image.left + gap, text.top, text.width, image.height});
+    resize(text.width + margin + image.width + gap, image.height + image.top + margin);
+}
+
+/// What is scanned where no picture is selected.
+Raster frmSSDMapCreator::emptyBox() const {
+    const auto pixels = [this](int twips) {
+        return narrow<std::int16_t>(
+            std::lrint(static_cast<float>(twips / picImage.screenTwipsPerPixel())));
+    };
+    return {pixels(picImage.place().width), pixels(picImage.place().height)};
+}
+
+void frmSSDMapCreator::cmdDoit_Click() {
+    if (m_isScanning) {
+        return;
+    }
+    try {
+        resetImage(currentImage());
+        if (picImage.picture().isEmpty()) {
+            picImage.setPicture(emptyBox());
+        }
+    } catch (const Error& error) {
+        return selectNothing("No picture is selected: \"" + m_sImageFile + "\" " + error.what());
+    }
+    OnTop();
+    setScanning(true);
+    txtOutput.setText("");
+    const bool isWhole = scan();
+    setScanning(false);
+    if (!isWhole) {
+        chkCancel.setTicked(false);
+    }
+    try {
+        picImage.setPicture(currentImage());
+    } catch (const Error& error) {
+        selectNothing("No picture is selected: \"" + m_sImageFile + "\" " + error.what());
+    }
+    if (!isWhole) {
+        txtOutput.setText("Operation Cancelled");
+    }
+    notOnTop();
+    if (m_isClosing) {
+        unload();
+    }
+}
+
+/// Scans the picture on show and paints its progress there, which is always behind what is still
+/// to be read; false if it was cancelled.
+bool frmSSDMapCreator::scan() {
+    // Pending events may take long, and a turn of them costs more than many pixels.
+    constexpr std::int32_t shortestSlice = 20, longestSlice = 60;  // milliseconds
+    OutlineScan progress(picImage.picture(), m_sImageFile);
+    std::size_t shown = 0;
+    const auto showText = [&] {
+        txtOutput.append(progress.text().substr(shown));
+        shown = progress.text().size();
+    };
+    int sinceLook = 0;
+    const auto afterStretch = [&](int x, int y, int count) {
+        picImage.paintStretch(x, y, count, Black);
+        sinceLook += count;
+        const bool isMuchText = progress.text().size() - shown > textToATurn;
+        if (sinceLook < pixelsToALook && !isMuchText) {
+            return true;
+        }
+        sinceLook = 0;
+        const std::int32_t slice = std::clamp(m_turnLength, shortestSlice, longestSlice);
+        if (!isMuchText && between(m_lastTurn, m_services.clock.tickCount()) < slice) {
+            return true;
+        }
+        showText();
+        return giveTurn();
+    };
+    if (!giveTurn() || !progress.runInStretches(afterStretch)) {
+        return false;
+    }
+    showText();
+    return true;
+}
+
+/// Shows the progress and lets the user act; whether to go on.
+bool frmSSDMapCreator::giveTurn() {
+    const std::int32_t start = m_services.clock.tickCount();
+    picImage.showPainted();
+    m_services.eventLoopTurn();
+    m_lastTurn = m_services.clock.tickCount();
+    m_turnLength = between(start, m_lastTurn);
+    return !chkCancel.isTicked() && !m_isClosing;
+}
+
+void frmSSDMapCreator::setScanning(bool isScanning) {
+    m_isScanning = isScanning;
+    for (Control* const control :
+         std::initializer_list<Control*>{&cmdSelect, &cmdDoit, &cmdSaveIt, &txtOutput}) {
+        control->setEnabled(!isScanning);
+    }
+}
+
+void frmSSDMapCreator::cmdSaveIt_Click() {
+    std::string file;
+    try {
+        file = m_services.desktop
+                   .chooseFileToSave({.filter = "All Files (*.*)|*.*|SSD Maps(*.map)|*.map",
+                                      .filterIndex = 2,
+                                      .initialFolder = m_services.appFolder / "maps",
+                                      .extension = std::string(mapExtension)})
+                   .value_or("");
+        if (file.empty()) {
+            return;
+        }
+        if (!file.ends_with(mapExtension)) {
+            file += mapExtension;
+        }
+        saveMap(file);
+    } catch (const std::exception& error) {
+        cmdSaveIt.setToolTip("Not saved: \"" + file + "\" " + error.what());
+    }
+}
+
+void frmSSDMapCreator::saveMap(const std::string& file) {
+    saveFile(nativePath(file), mapFileContents(txtOutput.text()));
+    cmdSaveIt.setToolTip("Saved as " + file);
+    try {
+        auto map = std::make_shared<SSDMap>(m_services.appFolder);
+        map->ImageFile(displayName(file));
+        m_services.g_colSSDMaps.add(std::move(map));
+    } catch (const Error&) {
+        // No map, a map elsewhere, or one of a name that is taken: the next start finds it.
+    }
+}
+
+}  // namespace fleetwright

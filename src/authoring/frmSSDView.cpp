@@ -1,0 +1,77 @@
+#include "frmSSDView.h"
+
+#include "PictureFiles.h"
+#include "TextFile.h"
+#include "pictureDialog.h"
+
+namespace fleetwright {
+
+namespace {
+
+constexpr int firstWidth = 3045, firstHeight = 825;
+
+}  // namespace
+
+frmSSDView::frmSSDView(Services services)
+    : Form({.name = "frmSSDView",
+            .caption = "View SSD",
+            .width = firstWidth,
+            .height = firstHeight,
+            .border = Border::Sizable}),
+      m_services(std::move(services)) {}
+
+void frmSSDView::Form_Load() {
+    // Whatever an earlier use has left.
+    chkCancel.setTicked(false);
+    setState(WindowState::Normal);
+    picImage.setPicture({});
+    picImage.setPlace(emptyBox);
+    picImage.setToolTip("");
+    resize(firstWidth + frameWidth, firstHeight + frameHeight);
+    fitWindow();
+}
+
+/// A resize that this causes comes back here and finds nothing left to do.
+void frmSSDView::fitWindow() {
+    if (state() != WindowState::Normal) {
+        return;
+    }
+    constexpr int besides = 200, below = 500;
+    const Place& commands = fraCommands.place();
+    if (commands.left + commands.width + besides > width()) {
+        resize(commands.width + commands.left + besides, height());
+    }
+    const Place& image = picImage.place();
+    if (image.left + image.width + besides > width()) {
+        resize(image.width + image.left + besides, height());
+    }
+    if (image.top + image.height + below > height()) {
+        resize(width(), image.height + image.top + below);
+    }
+}
+
+void frmSSDView::cmdSelect_Click() {
+    std::optional<std::string> file;
+    try {
+        file = m_services.desktop.chooseFileToOpen(pictureDialog(m_services.appFolder / "ssds"));
+        if (!file || file->empty()) {
+            return;
+        }
+        picImage.setPicture(m_services.pictures.load(nativePath(*file)));
+        picImage.setToolTip(*file);
+        cmdSelect.setToolTip("");
+        fitWindow();
+    } catch (const std::exception& error) {
+        cmdSelect.setToolTip("Still the picture before: \"" + file.value_or("") + "\" " +
+                             error.what());
+    }
+}
+
+/// Its release, when the window opens anew, closes nothing.
+void frmSSDView::chkCancel_Click() {
+    if (chkCancel.isTicked()) {
+        unload();
+    }
+}
+
+}  // namespace fleetwright

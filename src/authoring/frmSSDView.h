@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Button.h"
+#include "CheckBox.h"
+#include "Form.h"
+#include "Frame.h"
+#include "PictureBox.h"
+
+#include <filesystem>
+
+namespace fleetwright {
+
+class Desktop;
+class PictureFiles;
+
+/// The window that shows a saved sheet, or any other picture, at its natural size. It grows with
+/// what it shows, and nobody makes it smaller than that.
+class frmSSDView : public Form {
+public:
+    struct Services {
+        std::filesystem::path appFolder;
+        Desktop& desktop;
+        PictureFiles& pictures;
+    };
+
+    explicit frmSSDView(Services services);
+
+    Frame fraCommands{*this, {.name = "fraCommands", .place = {105, 0, 2745, 645}}};
+    Button cmdSelect{
+        fraCommands,
+        {.name = "cmdSelect", .place = {105, 105, 1215, 435}, .caption = "Select File"},
+        [this] { cmdSelect_Click(); }};
+    CheckBox chkCancel{fraCommands,
+                       {.name = "chkCancel",
+                        .place = {1425, 105, 1215, 435},
+                        .caption = "Cancel",
+                        .toolTip = "Closes the window",
+                        .isGraphical = true},
+                       [this] { chkCancel_Click(); }};
+    PictureBox picImage{
+        *this,
+        {.name = "picImage", .place = emptyBox, .accessibleName = "Sheet", .isFramed = true}};
+
+protected:
+    void Form_Load() override;
+    void Form_Resize() override { fitWindow(); }
+    void Form_Paint() override { fitWindow(); }
+
+private:
+    static constexpr Place emptyBox = {105, 735, 2745, 60};
+
+    void cmdSelect_Click();
+    void chkCancel_Click();
+    void fitWindow();
+
+    Services m_services;
+};
+
+}  // namespace fleetwright
