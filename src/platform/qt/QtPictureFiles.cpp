@@ -16,6 +16,9 @@ namespace {
 
 /// An image as it looks on white paper, pixel by pixel whatever resolution it is meant for.
 QImage onWhite(QImage image) {
+    if (!image.hasAlphaChannel()) {
+        return image.convertToFormat(QImage::Format_RGB32);
+    }
     QImage paper(image.size(), QImage::Format_RGB32);
     paper.fill(Qt::white);
     image.setDevicePixelRatio(1);
