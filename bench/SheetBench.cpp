@@ -13,6 +13,7 @@
 #include "folders.h"
 #include "frmMain.h"
 #include "inOrder.h"
+#include "keepFreedMemory.h"
 #include "sheetShip.h"
 
 #include <cstdlib>
@@ -97,6 +98,7 @@ private:
 /// sheets are made of.
 struct SheetWorld {
     SheetWorld() {
+        keepFreedMemory();
         QtPictureFiles encoder;
         std::vector<std::string> drawable;
         for (const fs::path& ship : listFolder(startedFolder() / "ships", ".shp")) {

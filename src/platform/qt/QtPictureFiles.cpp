@@ -52,6 +52,7 @@ Raster QtPictureFiles::builtIn(const std::string& name) {
 
 std::string QtPictureFiles::encode(const Raster& picture, const std::string& format) {
     QByteArray bytes;
+    bytes.reserve(3 * picture.width() * picture.height());  // it would be moved time and again
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, QByteArray::fromStdString(format));
