@@ -37,9 +37,9 @@ const fs::path& startedFolder() {
         fs::path made = benchFolder() / "started";
         fs::create_directory(made);
         for (const char* const entry : {"weaps.dat", "ships", "maps", "shipimages"}) {
-            fs::create_symlink(fs::path(FLEETWRIGHT_APP_DIR) / entry, made / entry);
+            fs::create_symlink(fs::path(APP_FOLDER) / entry, made / entry);
         }
-        fs::create_symlink(FLEETWRIGHT_PICTURES_DIR "/images", made / "images");
+        fs::create_symlink(PICTURES_FOLDER "/images", made / "images");
         return made;
     }();
     return folder;
@@ -207,9 +207,8 @@ const bool registered = [] {
     add("decoding and encoding of 200 sheets", bareSheets);
     const std::string out = (benchFolder() / "sheet.bmp").string();
     add("sheet by a process", [out](benchmark::State& state) {
-        runProcess(state, FLEETWRIGHT_APP_DIR "/fleetwright-cli --app '" +
-                              startedFolder().string() + "' sheet '" + processShip + "' -o '" +
-                              out + "'");
+        runProcess(state, APP_FOLDER "/fleetwright-cli --app '" + startedFolder().string() +
+                              "' sheet '" + processShip + "' -o '" + out + "'");
     });
     add("sheet by ImageMagick",
         [out](benchmark::State& state) { runProcess(state, pasteCommand(out)); });

@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "Globals.h"
+#include "PictureCache.h"
 #include "ProgramImages.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
@@ -63,7 +64,7 @@ public:
                     .pictures = m_pictures,
                     .programs = m_programs,
                     .globals = m_globals,
-                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder); },
+                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder, m_pictures); },
                     .mainWindow = [this]() -> Form& { return m_main; },
                     .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
           m_main({.appFolder = m_appFolder,
@@ -95,7 +96,7 @@ public:
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
-                    .encoder = m_pictures,
+                    .encoder = m_decoder,
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
                     .lvCurrentWeapons = m_main.lvCurrentWeapons,
@@ -149,7 +150,8 @@ private:
     QtSettingsStore m_settings;
     QtClock m_clock;
     QtSounds m_sounds;
-    QtPictureFiles m_pictures;
+    QtPictureFiles m_decoder;
+    PictureCache m_pictures{m_decoder};  // the start looks at each picture twice
     QtPrograms m_programs;
     QtPrinter m_printer;
     QtRegistry m_registry;

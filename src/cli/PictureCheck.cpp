@@ -1,17 +1,14 @@
 #include "PictureCheck.h"
 
 #include "Catalogue.h"
+#include "Error.h"
+#include "PictureFiles.h"
 #include "SheetPictures.h"
 #include "TextFile.h"
 #include "capitals.h"
 
-#include <gif_lib.h>
-
 #include <algorithm>
 #include <array>
-#include <cstring>
-#include <fstream>
-#include <iterator>
 
 namespace fleetwright {
 
@@ -19,37 +16,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-int readGif(GifFileType* gif, GifByteType* bytes, int count) {
-    auto& rest = *static_cast<std::string_view*>(gif->UserData);
-    const std::size_t taken = std::min(rest.size(), static_cast<std::size_t>(count));
-    std::memcpy(bytes, rest.data(), taken);
-    rest.remove_prefix(taken);
-    return static_cast<int>(taken);
-}
-
-/// Decodes a GIF file whole; nothing if that fails.
-std::optional<PictureSize> gifSize(std::string_view bytes) {
-    GifFileType* const gif = DGifOpen(&bytes, readGif, nullptr);
-    if (gif == nullptr) {
-        return std::nullopt;
-    }
-    std::optional<PictureSize> size;
-    if (DGifSlurp(gif) == GIF_OK && gif->ImageCount > 0) {
-        size = {gif->SWidth, gif->SHeight};
-    }
-    DGifCloseFile(gif, nullptr);
-    return size;
-}
-
-/// The size of a picture, or nothing if it cannot be read. Of BMP and JPEG files, which the
-/// catalogue may name but is not meant to, only the first bytes are looked at.
-std::optional<PictureSize> pictureSize(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (bytes.starts_with("BM") || bytes.starts_with("\xFF\xD8")) {
-        return PictureSize();
-    }
-    return gifSize(bytes);
+/// Whether the end of a GIF file is missing.
+bool isCutShort(std::string_view bytes) {
+    constexpr char trailer = 0x3B;
+    return bytes.starts_with("GIF") && !bytes.ends_with(trailer);
 }
 
 bool isPicture(const fs::path& file) {
@@ -59,23 +29,10 @@ bool isPicture(const fs::path& file) {
     return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
 }
 
-/// What is wrong with the picture of a system; nothing if it is as it should be.
-std::optional<std::string> systemPictureFault(const fs::path& file) {
-    constexpr int side = systemPictureSize;
-    const auto size = pictureSize(file);
-    if (!size) {
-        return "cannot be read";
-    }
-    if (size->width != 0 && (size->width != side || size->height != side)) {
-        return "is " + std::to_string(size->width) + " by " + std::to_string(size->height) +
-               " pixels, not 32 by 32";
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
-PictureCheck::PictureCheck(const fs::path& folder) : m_folder(folder) {
+PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth depth)
+    : m_folder(folder), m_pictures(pictures), m_depth(depth) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
         if (entry.is_regular_file(error)) {
@@ -91,6 +48,37 @@ PictureCheck::Entry* PictureCheck::find(std::string_view name) {
     }
     found->second.isUsed = true;
     return &found->second;
+}
+
+/// Throws FileError.
+Raster PictureCheck::read(const fs::path& file) const {
+    if (m_depth == All && isCutShort(readBytes(file))) {
+        throw FileError(file, "is cut short");
+    }
+    return m_pictures.load(file);
+}
+
+bool PictureCheck::isReadable(const fs::path& file) const {
+    try {
+        read(file);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+/// What is wrong with the picture of a system; nothing if it is as it should be.
+std::optional<std::string> PictureCheck::systemPictureFault(const fs::path& file) const {
+    try {
+        const Raster picture = read(file);
+        if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
+            return std::nullopt;
+        }
+        return "is " + std::to_string(picture.width()) + " by " + std::to_string(picture.height()) +
+               " pixels, not 32 by 32";
+    } catch (const FileError&) {
+        return "cannot be read";
+    }
 }
 
 std::vector<Fault> PictureCheck::checkCatalogue(std::string_view text) {
@@ -117,7 +105,7 @@ std::vector<PictureFault> PictureCheck::checkRest() {
         const Entry* const entry = find(name);
         if (entry == nullptr) {
             faults.push_back({m_folder / name, {0, "is missing; sheets need it"}});
-        } else if (!pictureSize(entry->file)) {
+        } else if (!isReadable(entry->file)) {
             faults.push_back({entry->file, {0, "cannot be read"}});
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Fault.h"
+#include "Raster.h"
 
 #include <filesystem>
 #include <map>
@@ -11,6 +12,8 @@
 
 namespace fleetwright {
 
+class PictureFiles;
+
 /// What is wrong with a file of the folder of pictures.
 struct PictureFault {
     std::filesystem::path file;
@@ -20,7 +23,12 @@ struct PictureFault {
 /// Looks at the folder of pictures as the program will: names count without regard to case.
 class PictureCheck {
 public:
-    explicit PictureCheck(const std::filesystem::path& folder);
+    /// What keeps the program from starting, or all that is wrong: decoders show of a picture that
+    /// was cut short what there is.
+    enum Depth { Start, All };
+
+    /// `pictures` decodes; it outlives the check.
+    PictureCheck(const std::filesystem::path& folder, PictureFiles& pictures, Depth depth = All);
 
     /// The pictures that the records of a catalogue name, each with the line of its record: those
     /// that are missing, that cannot be read or that have another size than systems have.
@@ -38,8 +46,13 @@ private:
     };
 
     Entry* find(std::string_view name);
+    Raster read(const std::filesystem::path& file) const;
+    bool isReadable(const std::filesystem::path& file) const;
+    std::optional<std::string> systemPictureFault(const std::filesystem::path& file) const;
 
     std::filesystem::path m_folder;
+    PictureFiles& m_pictures;
+    Depth m_depth;
     std::map<std::string, Entry> m_entries;  // by name in capitals
 };
 

@@ -1,12 +1,7 @@
 #include "ShipOnScreen.h"
 
-#include "Globals.h"
-#include "NoDesktop.h"
 #include "PictureFiles.h"
-#include "Printer.h"
-#include "SettingsStore.h"
-#include "StartUpProgress.h"
-#include "frmMain.h"
+#include "SilentServices.h"
 
 namespace fleetwright {
 
@@ -18,56 +13,21 @@ public:
     Raster builtIn(const std::string&) override { return {}; }
 };
 
-class NoSettings : public SettingsStore {
-public:
-    std::string read(const std::string&, const std::string&,
-                     const std::string& otherwise) const override {
-        return otherwise;
-    }
-    void write(const std::string&, const std::string&, const std::string&) override {}
-};
-
-class NoPrinter : public Printer {
-public:
-    std::optional<int> choose() override { return {}; }
-    std::string fontName() const override { return {}; }
-    void setFontName(const std::string&) override {}
-    int fontSize() const override { return 0; }
-    void setFontSize(int) override {}
-    void printLine(std::string_view) override {}
-    void endDocument() override {}
-};
-
 }  // namespace
 
 class ShipOnScreen::Program {
 public:
     explicit Program(const std::filesystem::path& appFolder)
-        : window({.appFolder = appFolder,
-                  .eventLoopTurn = {},
-                  .freeFormulaLibrary = [] {},
-                  .desktop = m_desktop,
-                  .pictures = m_pictures,
-                  .progress = m_progress,
-                  .globals = m_globals,
-                  .settings = m_settings,
-                  .printer = m_printer,
-                  .extras = {},
-                  .showAbout = {},
-                  .showMapper = {},
-                  .showViewer = {},
-                  .showMapCreator = {},
-                  .hasScreen = false}) {
-        m_globals.formula = formula_calculate;
-    }
+        : window(withoutScreen(m_silent.services(appFolder, m_pictures))) {}
 
 private:
-    NoDesktop m_desktop;
+    static MainWindowServices withoutScreen(MainWindowServices services) {
+        services.hasScreen = false;
+        return services;
+    }
+
     NoPictures m_pictures;
-    NoProgress m_progress;
-    NoSettings m_settings;
-    NoPrinter m_printer;
-    Globals m_globals;
+    SilentServices m_silent;
 
 public:
     frmMain window;

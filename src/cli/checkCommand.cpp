@@ -9,6 +9,7 @@
 #include "TextFile.h"
 #include "capitals.h"
 #include "folders.h"
+#include "loadPictures.h"
 
 #include <cstdio>
 #include <utility>
@@ -28,12 +29,13 @@ std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file)
 }
 
 /// The faults of a catalogue, those of its pictures included where the folder beside it is there.
-std::vector<Fault> checkCatalogueFile(const fs::path& file) {
+std::vector<Fault> checkCatalogueFile(const Options& options, const fs::path& file) {
     const std::string text = readTextFile(file);
     std::vector<Fault> faults = checkCatalogue(text);
     const fs::path images = file.parent_path() / "images";
     if (fs::is_directory(images)) {
-        for (Fault& fault : PictureCheck(images).checkCatalogue(text)) {
+        PictureCheck check(images, loadPictures(options.programFolder).files);
+        for (Fault& fault : check.checkCatalogue(text)) {
             faults.push_back(std::move(fault));
         }
         sortByLine(faults);
@@ -42,7 +44,8 @@ std::vector<Fault> checkCatalogueFile(const fs::path& file) {
 }
 
 /// What is wrong in the delivered folder of pictures beyond what the catalogue's lines say.
-std::vector<PictureFault> checkDeliveredPictures(const fs::path& appFolder) {
+std::vector<PictureFault> checkDeliveredPictures(const Options& options) {
+    const fs::path& appFolder = options.appFolder;
     const fs::path images = appFolder / "images";
     std::string catalogue;
     try {
@@ -55,22 +58,22 @@ std::vector<PictureFault> checkDeliveredPictures(const fs::path& appFolder) {
                      images.string().c_str());
         return {};
     }
-    PictureCheck check(images);
+    PictureCheck check(images, loadPictures(options.programFolder).files);
     check.checkCatalogue(catalogue);
     return check.checkRest();
 }
 
-std::vector<Fault> checkFile(const fs::path& appFolder, const std::string& file) {
+std::vector<Fault> checkFile(const Options& options, const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
         if (extension == ".SHP") {
-            return checkShip(appFolder, file);
+            return checkShip(options.appFolder, file);
         }
         if (extension == ".DAT") {
-            return checkCatalogueFile(nativePath(file));
+            return checkCatalogueFile(options, nativePath(file));
         }
         if (extension == ".MAP") {
-            return checkMapFile(readTextFile(nativePath(file)), appFolder);
+            return checkMapFile(readTextFile(nativePath(file)), options.appFolder);
         }
         return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {
@@ -99,12 +102,12 @@ int runCheck(const Options& options) {
                 complain(error.file().string(), {0, error.what()});
             }
         }
-        for (const PictureFault& fault : checkDeliveredPictures(options.appFolder)) {
+        for (const PictureFault& fault : checkDeliveredPictures(options)) {
             complain(fault.file.string(), fault.fault);
         }
     }
     for (const std::string& file : files) {
-        for (const Fault& fault : checkFile(options.appFolder, file)) {
+        for (const Fault& fault : checkFile(options, file)) {
             complain(file, fault);
         }
     }

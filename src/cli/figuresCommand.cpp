@@ -12,16 +12,11 @@ using Json = nlohmann::ordered_json;
 
 Json systemsOf(ShipClass& ship) {
     Json systems = Json::array();
-    WeapRec record;
-    std::int32_t index = 0;
-    while (index < ship.g_lWeapCount) {
-        ship.listWeap(index, record);
-        if (record.amount > 0) {
-            systems.push_back({{"name", record.name},
-                               {"amount", record.amount},
-                               {"mass", ship.previewWeapMass(record.name, record.amount)},
-                               {"cost", ship.previewWeapCost(record.name, record.amount)}});
-        }
+    for (const WeapRec& record : ship.systemsAboard()) {
+        systems.push_back({{"name", record.name},
+                           {"amount", record.amount},
+                           {"mass", ship.previewWeapMass(record.name, record.amount)},
+                           {"cost", ship.previewWeapCost(record.name, record.amount)}});
     }
     return systems;
 }

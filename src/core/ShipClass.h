@@ -21,6 +21,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -105,6 +106,8 @@ public:
     /// Delivers the record at `ndx`, which must be inside the catalogue, and steps to the next;
     /// true if there is a next one.
     bool listWeap(std::int32_t& ndx, WeapRec& record) const;
+    /// The records of which a piece is aboard, in the order of the catalogue.
+    std::vector<WeapRec> systemsAboard() const;
     /// Index of the record, or -1.
     std::int32_t weapNameToIndex(std::string_view in_sName) const;
     /// Cost of so many pieces on this ship as it is; 0 for an unknown name.
@@ -149,7 +152,7 @@ public:
     struct State {
         HullDesign hull;
         Figures figures;
-        std::vector<std::int32_t> amounts;  ///< of each record
+        std::vector<std::pair<std::size_t, std::int32_t>> amounts;  ///< by record, without zeros
         bool isSaved = true;
     };
     State state() const;
@@ -175,6 +178,7 @@ private:
     std::int32_t preview(std::string_view name, std::int32_t amount,
                          std::string_view WeapRec::*formula);
     bool cloakRuleRefuses(std::string_view name) const;
+    std::int32_t& amountOf(std::size_t record);
 
     void readShipFile(const std::string& fileName, int& lineNumber);
     void readShipLine(std::string& line, int lineNumber);
@@ -194,6 +198,10 @@ private:
     std::optional<Fault> m_fileFault;
     std::vector<RefusedLine> m_refusedLines;
     std::vector<char> m_formulaBuffer;
+    /// Ascending; every record whose amount is not 0 is among them. A catalogue can be large, and
+    /// a ship carries little of it.
+    std::vector<std::size_t> m_touched;
+    mutable std::size_t m_lastFound = 0;  ///< the record of the last look-up by name
 
     AutoMassRun m_autoMassRun = AutoMassRun::Working;
     int m_passDepth = 0;

@@ -87,11 +87,9 @@ std::string ShipClass::shipFile() const {
     appendLine(text, streamlineLine(Streamline()));
     appendLine(text, armorLine(Armor()));
     appendLine(text, ftlLine(m_hull.ftl));
-    for (const WeapRec& record : m_catalogue.records()) {
-        if (record.amount > 0) {
-            appendLine(text, "System: " + std::string(record.name) + ", " +
-                                 std::to_string(record.amount));
-        }
+    for (const WeapRec& record : systemsAboard()) {
+        appendLine(text,
+                   "System: " + std::string(record.name) + ", " + std::to_string(record.amount));
     }
     return text;
 }

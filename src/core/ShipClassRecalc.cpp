@@ -68,7 +68,8 @@ ShipClass::Figures ShipClass::workOutFigures(const HullDesign& hull) {
     const std::int32_t hullCost = figures.hull.hullCost;
     std::int32_t systemCost = 0;
     std::int32_t systemMass = 0;
-    for (WeapRec& record : m_catalogue.records()) {
+    for (const std::size_t touched : m_touched) {
+        WeapRec& record = m_catalogue.records()[touched];
         if (record.amount > 0) {
             systemCost =
                 checkedAdd(systemCost, evaluate(record.costform, hull, hullCost, record.amount));
@@ -144,16 +145,21 @@ ShipClass::State ShipClass::state() const {
                 .figures = {m_hullFigures, g_lCost, g_iMassLeft},
                 .amounts = {},
                 .isSaved = g_bSaved};
-    for (const WeapRec& record : m_catalogue.records()) {
-        state.amounts.push_back(record.amount);
+    for (const std::size_t record : m_touched) {
+        if (const std::int32_t amount = m_catalogue.records()[record].amount; amount != 0) {
+            state.amounts.emplace_back(record, amount);
+        }
     }
     return state;
 }
 
 void ShipClass::restore(const State& state) {
     m_hull = state.hull;
-    for (std::size_t i = 0; i < state.amounts.size(); ++i) {
-        m_catalogue.records()[i].amount = state.amounts[i];
+    for (const std::size_t record : m_touched) {
+        m_catalogue.records()[record].amount = 0;
+    }
+    for (const auto& [record, amount] : state.amounts) {
+        amountOf(record) = amount;
     }
     show(state.figures);
     g_bSaved = state.isSaved;

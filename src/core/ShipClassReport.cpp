@@ -53,11 +53,8 @@ void ShipClass::printSystems(ReportPrinter& printer) const {
     printer.printLine("Systems");
     printer.printLine("    " + std::to_string(g_iFCS) + " Fire Control System");
     printer.printLine("    " + std::to_string(g_iDCP) + " Damage Control Party");
-    for (const WeapRec& record : m_catalogue.records()) {
-        if (record.amount > 0) {
-            printer.printLine("    " + std::to_string(record.amount) + '\t' +
-                              std::string(record.name));
-        }
+    for (const WeapRec& record : systemsAboard()) {
+        printer.printLine("    " + std::to_string(record.amount) + '\t' + std::string(record.name));
     }
 }
 

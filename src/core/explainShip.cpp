@@ -29,15 +29,11 @@ std::string describeHull(const ShipClass& ship) {
 
 /// One term for each system aboard; `preview` gives its mass or cost.
 template <typename Preview>
-void appendSystems(std::vector<Explanation::Term>& terms, const ShipClass& ship, Preview preview) {
-    WeapRec record;
-    std::int32_t index = 0;
-    while (index < ship.g_lWeapCount) {
-        ship.listWeap(index, record);
-        if (record.amount > 0) {
-            terms.push_back({preview(record),
-                             std::to_string(record.amount) + " x " + std::string(record.name)});
-        }
+void appendSystems(std::vector<Explanation::Term>& terms, const std::vector<WeapRec>& systems,
+                   Preview preview) {
+    for (const WeapRec& record : systems) {
+        terms.push_back(
+            {preview(record), std::to_string(record.amount) + " x " + std::string(record.name)});
     }
 }
 
@@ -75,11 +71,12 @@ std::string describeSystem(ShipClass& ship, std::string_view name, std::int32_t 
 
 std::vector<Explanation> explainShip(ShipClass& ship) {
     const HullFigures& hull = ship.hullFigures();
+    const std::vector<WeapRec> systems = ship.systemsAboard();
     Explanation cost{.figure = "Cost", .terms = {}, .sum = ship.g_lCost};
     cost.terms.push_back({hull.hullCost, describeHull(ship)});
     cost.terms.push_back({hull.ftlCost, "FTL drive: " + wordOf(ftlLine(ship.FTL()))});
     cost.terms.push_back({hull.thrustCost, "Thrust " + std::to_string(ship.hullDesign().thrust)});
-    appendSystems(cost.terms, ship, [&](const WeapRec& record) {
+    appendSystems(cost.terms, systems, [&](const WeapRec& record) {
         return std::int64_t{ship.previewWeapCost(record.name, record.amount)};
     });
 
@@ -88,7 +85,7 @@ std::vector<Explanation> explainShip(ShipClass& ship) {
 
     Explanation massLeft{.figure = "Mass left", .terms = {}, .sum = ship.g_iMassLeft};
     massLeft.terms.push_back({hull.freeMass, "Free mass of the " + describeHull(ship)});
-    appendSystems(massLeft.terms, ship, [&](const WeapRec& record) {
+    appendSystems(massLeft.terms, systems, [&](const WeapRec& record) {
         return -std::int64_t{ship.previewWeapMass(record.name, record.amount)};
     });
     return {std::move(cost), std::move(damagePoints), std::move(massLeft)};

@@ -37,6 +37,14 @@ frmMain::frmMain(MainWindowServices services)
     lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
         lvCurrentWeapons_MouseDown(press);
     };
+    // Lets the player see what a figure is made of by pointing at it.
+    const std::array<Control*, 3> figures = {&txtCost, &txtDP, &lblMassLeft};
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        figures[i]->askToolTip = [this, i] {
+            std::string sum = g_Ship ? textOf(explainShip(*g_Ship)[i]) : std::string();
+            return sum.substr(0, sum.find_last_not_of('\n') + 1);
+        };
+    }
     tvWeapons.nodeToolTip = [this](const TreeView::Node& node) {
         const std::string system =
             node.children.empty() ? describeSystem(*g_Ship, node.key, 1) : std::string();
@@ -241,18 +249,6 @@ void frmMain::showFigures() {
     txtClass.setText(std::string(g_Ship->Class()));
     txtShipName.setText(g_Ship->g_sShipName);
     txtDesigner.setText(g_Ship->g_sDesignerName);
-    if (m_services.hasScreen) {
-        explainFigures();
-    }
-}
-
-/// Lets the player see what a figure is made of by pointing at it.
-void frmMain::explainFigures() {
-    const std::vector<Explanation> explanations = explainShip(*g_Ship);
-    const std::array<Control*, 3> figures = {&txtCost, &txtDP, &lblMassLeft};
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        figures[i]->setToolTip(textOf(explanations[i]));
-    }
 }
 
 void frmMain::tmrRefreshScreen_Timer() {

@@ -250,6 +250,9 @@ public:
     ListView lvCurrentWeapons{*this,
                               {.name = "lvCurrentWeapons",
                                .place = {2625, 3990, 4110, 3375},
+                               .toolTip = "The systems aboard. Drag systems from the tree here; "
+                                          "double-click one, or press Delete, to take one away; "
+                                          "right-click for more",
                                .accessibleName = "Systems aboard"}};
 
     // The tree of systems, and its buttons.
@@ -278,6 +281,8 @@ public:
     TreeView tvWeapons{*this,
                        {.name = "tvWeapons",
                         .place = {6825, 1365, 3900, 6000},
+                        .toolTip = "The catalogue. Double-click a system, press Enter or drag it "
+                                   "to the list to fit one; right-click for more",
                         .accessibleName = "Catalogue of systems"},
                        &ilWeapons};
 
@@ -390,7 +395,6 @@ private:
     // Showing the ship.
     void RefreshScreen();
     void showFigures();
-    void explainFigures();
     void showButtons();
     void previewNode();
     void previewRow(std::size_t row);

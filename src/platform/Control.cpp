@@ -38,13 +38,6 @@ void Control::setEnabled(bool isEnabled) {
     }
 }
 
-void Control::setToolTip(const std::string& toolTip) {
-    if (m_design.toolTip != toolTip) {
-        m_design.toolTip = toolTip;
-        Changed.raise();
-    }
-}
-
 bool Control::takesActs() const {
     return isVisible() && isEnabled() && (m_container == nullptr || m_container->takesActs());
 }

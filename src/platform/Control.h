@@ -76,8 +76,9 @@ public:
     void setVisible(bool isVisible);
     bool isEnabled() const { return m_design.isEnabled; }
     void setEnabled(bool isEnabled);
-    const std::string& toolTip() const { return m_design.toolTip; }
-    void setToolTip(const std::string& toolTip);
+    std::string toolTip() const { return askToolTip ? askToolTip() : m_design.toolTip; }
+    /// For a tool tip that is worked out when somebody wants to see it. Set once, by the form.
+    std::function<std::string()> askToolTip;
 
     /// Whether a user can act on it: it and all that it stands in are visible and enabled.
     bool takesActs() const;

@@ -100,14 +100,14 @@ TEST(FrmMain, PointingAtAFigureOrASystemExplainsIt) {
     EXPECT_EQ(window.txtCost.toolTip(), "       4  Warship hull of mass 2\n"
                                         "       2  FTL drive: Normal\n"
                                         "       1  Thrust 2\n"
-                                        "       7  = Cost\n");
+                                        "       7  = Cost");
     test.selectNode("Gun");
     window.mnuAddWeap[1].choose();
     EXPECT_EQ(window.lblMassLeft.toolTip(), "       1  Free mass of the Warship hull of mass 2\n"
                                             "      -4  2 x Gun\n"
-                                            "      -3  = Mass left\n");
+                                            "      -3  = Mass left");
     EXPECT_EQ(window.txtDP.toolTip(), "       1  Warship hull of mass 2\n"
-                                      "       1  = Damage points\n");
+                                      "       1  = Damage points");
     const std::string gun = window.tvWeapons.nodeToolTip(*window.tvWeapons.find("Gun"));
     EXPECT_EQ(gun.substr(0, gun.find("\n\n")),
               "1 x Gun\nMass: 2 = 2 * amount\nCost: 6 = 6 * amount\nArcs: FPS");

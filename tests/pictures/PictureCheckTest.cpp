@@ -1,5 +1,7 @@
 #include "PictureCheck.h"
 
+#include "QtPictureFiles.h"
+
 #include "TemporaryFolder.h"
 #include "renderedSets.h"
 #include "runCommand.h"
@@ -44,7 +46,7 @@ protected:
 
     /// What a look at the whole folder brings up, a text for each fault.
     std::vector<std::string> rest() const {
-        PictureCheck check(m_folder.path());
+        PictureCheck check(m_folder.path(), m_pictures);
         check.checkCatalogue(catalogue);
         std::vector<std::string> faults;
         for (const PictureFault& fault : check.checkRest()) {
@@ -54,12 +56,13 @@ protected:
     }
 
     TemporaryFolder m_folder;
+    mutable QtPictureFiles m_pictures;
 };
 
 TEST_F(PictureCheckTest, FindsNothingWrongWithAGoodFolder) {
     writeAllSystems();
     writeAllOfSheets();
-    EXPECT_TRUE(PictureCheck(m_folder.path()).checkCatalogue(catalogue).empty());
+    EXPECT_TRUE(PictureCheck(m_folder.path(), m_pictures).checkCatalogue(catalogue).empty());
     EXPECT_TRUE(rest().empty());
 }
 
@@ -73,7 +76,7 @@ TEST_F(PictureCheckTest, NamesTheLineOfAPictureThatIsMissingOrFaulty) {
         {2, "picture \"cat-pulse-cannons.gif\" is missing"},
         {3, "picture \"Maw-F.gif\" cannot be read"},
         {4, "picture \"armor-plate.gif\" is 144 by 54 pixels, not 32 by 32"}};
-    EXPECT_EQ(PictureCheck(m_folder.path()).checkCatalogue(catalogue), expected);
+    EXPECT_EQ(PictureCheck(m_folder.path(), m_pictures).checkCatalogue(catalogue), expected);
 }
 
 TEST_F(PictureCheckTest, NamesWhatSheetsMissAndWhatNothingUses) {

@@ -59,7 +59,9 @@ QtDesktop::~QtDesktop() = default;
 void QtDesktop::present(Form& form) {
     Presented& presented = m_presented[&form];
     const auto makeWhenShown = [&presented, &form] {
-        if (form.isVisible() && presented.window == nullptr) {
+        // A window that comes moves its form, which asks for a window again.
+        if (form.isVisible() && !presented.isMade) {
+            presented.isMade = true;
             presented.window = std::make_unique<FormWindow>(form);
         }
     };

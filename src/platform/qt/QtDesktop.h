@@ -37,6 +37,7 @@ public:
 private:
     struct Presented {
         Connection changed;
+        bool isMade = false;
         std::unique_ptr<FormWindow> window;
     };
     std::map<Form*, Presented> m_presented;

@@ -4,9 +4,11 @@
 #include <QLibrary>
 #include <QProcess>
 
-#include <memory>
-
 namespace fleetwright {
+
+QtPrograms::QtPrograms() = default;
+
+QtPrograms::~QtPrograms() = default;
 
 bool QtPrograms::run(const std::filesystem::path& program, const std::string& argument,
                      const std::filesystem::path& folder, int milliseconds,
@@ -36,7 +38,10 @@ bool QtPrograms::start(const std::filesystem::path& program) {
 
 void* QtPrograms::loadLibrary(const std::filesystem::path& file) {
     auto library = std::make_unique<QLibrary>(QString::fromStdString(file.string()));
-    return library->load() ? library.release() : nullptr;
+    if (!library->load()) {
+        return nullptr;
+    }
+    return m_libraries.emplace_back(std::move(library)).get();
 }
 
 void* QtPrograms::function(void* library, const std::string& name) {
@@ -44,10 +49,9 @@ void* QtPrograms::function(void* library, const std::string& name) {
 }
 
 void QtPrograms::freeLibrary(void* library) {
-    const std::unique_ptr<QLibrary> loaded(static_cast<QLibrary*>(library));
-    if (loaded != nullptr) {
-        loaded->unload();
-    }
+    std::erase_if(m_libraries, [library](const std::unique_ptr<QLibrary>& loaded) {
+        return loaded.get() == library && (loaded->unload(), true);
+    });
 }
 
 }  // namespace fleetwright

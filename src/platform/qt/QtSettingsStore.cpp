@@ -29,7 +29,12 @@ std::string QtSettingsStore::read(const std::string& section, const std::string&
 
 void QtSettingsStore::write(const std::string& section, const std::string& key,
                             const std::string& value) {
-    store().setValue(pathOf(section, key), QString::fromStdString(value));
+    // What is there already is not written once more: each write goes through to the disk.
+    QSettings settings = store();
+    const QString path = pathOf(section, key);
+    if (!settings.contains(path) || read(section, key, "") != value) {
+        settings.setValue(path, QString::fromStdString(value));
+    }
 }
 
 }  // namespace fleetwright

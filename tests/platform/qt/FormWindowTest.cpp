@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -64,6 +65,7 @@ public:
     OptionButton second{frame,
                         {.name = "second", .place = {150, 900, 900, 300}, .caption = "2"},
                         [this] { log += "second "; }};
+    Frame inner{frame, {.name = "inner", .place = {1500, 300, 1200, 900}, .caption = "Inner"}};
     TextBox text{*this, {.name = "text", .place = {3300, 150, 900, 300}}, [this] {
                      log += "text=" + text.text() + ' ';
                  }};
@@ -156,6 +158,7 @@ TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
     form.list.add("a", "a", "3");
     form.list.add("b", "b", "4");
     form.list.select(1);
+    form.images.add("ROOT", Raster(32, 32));  // a picture may come after its node
     form.tree.add("ROOT", "late");
     form.tree.setExpanded(*form.tree.find("ROOT"), true);
     form.tree.select(*form.tree.find("late"));
@@ -176,6 +179,7 @@ TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
     EXPECT_EQ(list->currentItem(), nullptr);
     const auto* const tree = find<QTreeWidget>("tree");
     EXPECT_TRUE(tree->topLevelItem(0)->isExpanded());
+    EXPECT_FALSE(tree->topLevelItem(0)->icon(0).isNull());
     EXPECT_EQ(tree->currentItem()->text(0), "late");
     // Showing what the rules have done is no act of the user.
     EXPECT_EQ(takeLog(), "second text=abc slider=5 ");
@@ -236,6 +240,16 @@ TEST_F(FormWindowTest, GroupsOfOptionsAreOneStopWithArrowsInside) {
     form.first.setEnabled(false);
     QTest::keyClick(second, Qt::Key_Down);
     EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(FormWindowTest, ScreenReadersAreToldWhatThereIs) {
+    const auto nameOf = [this](const char* name) {
+        return QAccessible::queryAccessibleInterface(find<QWidget>(name))->text(QAccessible::Name);
+    };
+    form.status.setText("Saved...");
+    EXPECT_EQ(nameOf("status"), "Saved...");
+    EXPECT_EQ(nameOf("button"), "Spoken");
+    EXPECT_EQ(nameOf("inner"), "Inner");
 }
 
 TEST_F(FormWindowTest, EnterAndEscapeAnswerDialogs) {

@@ -102,6 +102,8 @@ QWidget* makeWidget(Frame& frame, QWidget* parent, const Scale& scale) {
     }
     auto* const widget = new CaptionFrame(toQt(frame.design().caption), parent);
     prepare(widget, frame, scale);
+    // A frame inside another one would be spoken of by the name of the outer one.
+    widget->setAccessibleName(widget->title());
     return widget;
 }
 

@@ -32,11 +32,14 @@ void fitText(QWidget* widget, const Control& control, const Scale& scale) {
         const int room = scale.pixels(freeRight(control) - control.place().left);
         widget->resize(std::min(needed, room), widget->height());
     }
-    // What still does not fit is set in narrower letters, a little at a time: how wide a text
-    // becomes is not quite in proportion.
-    constexpr int narrowest = 70, step = 2;
+    // What still does not fit is set in narrower letters. They begin in proportion and become
+    // narrower a little at a time, since how wide a text becomes is not quite in proportion. Each
+    // width is one more font to be found, which takes long.
+    constexpr int narrowest = 70, step = 5;
+    int stretch =
+        std::max(100 * widget->width() / std::max(needed, 1) / step * step, narrowest) + step;
     QFont font = widget->font();
-    for (int stretch = 100; stretch > narrowest && widget->sizeHint().width() > widget->width();) {
+    while (stretch > narrowest && widget->sizeHint().width() > widget->width()) {
         stretch -= step;
         font.setStretch(stretch);
         widget->setFont(font);

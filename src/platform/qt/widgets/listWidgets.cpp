@@ -99,10 +99,10 @@ protected:
         if (event->type() == QEvent::ToolTip && m_list.rowToolTip) {
             const auto* const help = static_cast<QHelpEvent*>(event);
             const int row = indexOfTopLevelItem(itemAt(help->pos()));
-            QToolTip::showText(
-                help->globalPos(),
-                row < 0 ? QString()
-                        : toQt(m_list.rowToolTip(m_list.rows()[static_cast<std::size_t>(row)])));
+            const std::string text =
+                row < 0 ? m_list.toolTip()
+                        : m_list.rowToolTip(m_list.rows()[static_cast<std::size_t>(row)]);
+            QToolTip::showText(help->globalPos(), toQt(text));
             return true;
         }
         return QTreeWidget::viewportEvent(event);

@@ -29,9 +29,9 @@ public:
         setIconSize({pictureSize, pictureSize});
         setUniformRowHeights(true);
         connect(this, &QTreeWidget::itemExpanded,
-                [this](QTreeWidgetItem* item) { m_tree.setExpanded(nodeOf(item), true); });
+                [this](QTreeWidgetItem* item) { takeExpanded(item, true); });
         connect(this, &QTreeWidget::itemCollapsed,
-                [this](QTreeWidgetItem* item) { m_tree.setExpanded(nodeOf(item), false); });
+                [this](QTreeWidgetItem* item) { takeExpanded(item, false); });
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_tree.select(nodeOf(item));
@@ -50,8 +50,15 @@ public:
         for (std::size_t i = m_items.size(); i < m_tree.nodes().size(); ++i) {
             addItem(m_tree.nodes()[i]);
         }
+        std::erase_if(m_withoutPicture,
+                      [this](QTreeWidgetItem* item) { return showPicture(item); });
+        // This runs for each node that comes or changes: only what differs may cost anything.
         for (std::size_t i = 0; i < m_items.size(); ++i) {
-            m_items[i]->setExpanded(m_tree.nodes()[i].isExpanded);
+            if (const bool isExpanded = m_tree.nodes()[i].isExpanded;
+                m_isExpanded[i] != isExpanded) {
+                m_isExpanded[i] = isExpanded;
+                m_items[i]->setExpanded(isExpanded);
+            }
         }
         if (m_tree.selected() != nullptr) {
             setCurrentItem(m_byNode.at(m_tree.selected()));
@@ -109,9 +116,8 @@ protected:
         if (event->type() == QEvent::ToolTip && m_tree.nodeToolTip) {
             const auto* const help = static_cast<QHelpEvent*>(event);
             QTreeWidgetItem* const item = itemAt(help->pos());
-            QToolTip::showText(help->globalPos(), item == nullptr
-                                                      ? QString()
-                                                      : toQt(m_tree.nodeToolTip(nodeOf(item))));
+            const std::string text = item == nullptr ? "" : m_tree.nodeToolTip(nodeOf(item));
+            QToolTip::showText(help->globalPos(), toQt(text.empty() ? m_tree.toolTip() : text));
             return true;
         }
         return QTreeWidget::viewportEvent(event);
@@ -121,27 +127,44 @@ private:
     void addItem(TreeView::Node& node) {
         auto* const item = new QTreeWidgetItem;
         item->setText(0, toQt(node.key));
-        if (m_tree.images() != nullptr && m_tree.images()->contains(node.key)) {
-            item->setIcon(0, QPixmap::fromImage(toImage(m_tree.images()->picture(node.key))));
-        }
         if (node.parent == nullptr) {
             addTopLevelItem(item);
         } else {
             m_byNode.at(node.parent)->addChild(item);
         }
         m_byNode[&node] = item;
-        m_byItem[item] = &node;
+        m_byItem[item] = m_items.size();
         m_items.push_back(item);
+        m_isExpanded.push_back(false);
+        m_withoutPicture.push_back(item);
     }
 
-    TreeView::Node& nodeOf(QTreeWidgetItem* item) { return *m_byItem.at(item); }
+    /// Gives an item its picture, unless that has not come yet.
+    bool showPicture(QTreeWidgetItem* item) {
+        const std::string& key = nodeOf(item).key;
+        if (m_tree.images() == nullptr || !m_tree.images()->contains(key)) {
+            return false;
+        }
+        item->setIcon(0, QPixmap::fromImage(toImage(m_tree.images()->picture(key))));
+        return true;
+    }
+
+    TreeView::Node& nodeOf(QTreeWidgetItem* item) { return m_tree.nodes()[m_byItem.at(item)]; }
+
+    /// The user has opened or closed an item.
+    void takeExpanded(QTreeWidgetItem* item, bool isExpanded) {
+        m_isExpanded[m_byItem.at(item)] = isExpanded;
+        m_tree.setExpanded(nodeOf(item), isExpanded);
+    }
 
     TreeView& m_tree;
     Scale m_scale;
     QPoint m_pressedAt;
     std::vector<QTreeWidgetItem*> m_items;
+    std::vector<bool> m_isExpanded;  // as the items show it
+    std::vector<QTreeWidgetItem*> m_withoutPicture;
     std::map<const TreeView::Node*, QTreeWidgetItem*> m_byNode;
-    std::map<QTreeWidgetItem*, TreeView::Node*> m_byItem;
+    std::map<QTreeWidgetItem*, std::size_t> m_byItem;  // places in m_items and the model's nodes
 };
 
 }  // namespace

@@ -34,33 +34,6 @@ inline void keepInStep(QWidget* widget, Control& control, std::function<void()> 
     QObject::connect(widget, &QObject::destroyed, [connection] {});
 }
 
-/// Gives a new widget what every control has.
-inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
-    const ControlDesign& design = control.design();
-    widget->setObjectName(toQt(design.name));
-    widget->setGeometry(scale.rect(design.place));
-    auto place = std::make_shared<Place>(design.place);
-    if (!design.accessibleName.empty()) {
-        widget->setAccessibleName(toQt(design.accessibleName));
-    }
-    keepInStep(widget, control, [widget, &control, scale, place] {
-        if (*place != control.place()) {
-            *place = control.place();
-            widget->setGeometry(scale.rect(*place));
-        }
-        widget->setToolTip(toQt(control.toolTip()));
-        widget->setVisible(control.isVisible());
-        widget->setEnabled(control.isEnabled());
-    });
-    auto focus = std::make_shared<Connection>(
-        control.FocusWanted.connect([widget] { widget->setFocus(Qt::OtherFocusReason); }));
-    QObject::connect(widget, &QObject::destroyed, [focus] {});
-}
-
-/// Makes room for a text that is too long for its control's place: first to the right, as far as
-/// nothing stands there, then by narrower letters.
-void fitText(QWidget* widget, const Control& control, const Scale& scale);
-
 /// Hands chosen events of a widget to a function, which says whether it has dealt with them.
 class EventHook : public QObject {
 public:
@@ -76,6 +49,44 @@ public:
 private:
     std::function<bool(QEvent*)> m_hook;
 };
+
+/// Gives a new widget what every control has.
+inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
+    const ControlDesign& design = control.design();
+    widget->setObjectName(toQt(design.name));
+    widget->setGeometry(scale.rect(design.place));
+    auto place = std::make_shared<Place>(design.place);
+    if (!design.accessibleName.empty()) {
+        widget->setAccessibleName(toQt(design.accessibleName));
+    }
+    keepInStep(widget, control, [widget, &control, scale, place] {
+        if (*place != control.place()) {
+            *place = control.place();
+            widget->setGeometry(scale.rect(*place));
+        }
+        if (!control.askToolTip) {
+            widget->setToolTip(toQt(control.toolTip()));
+        }
+        widget->setVisible(control.isVisible());
+        widget->setEnabled(control.isEnabled());
+    });
+    if (control.askToolTip) {
+        // It is worked out for the pointer, and for the keyboard, whose screen reader says it.
+        new EventHook(widget, [widget, &control](QEvent* event) {
+            if (event->type() == QEvent::ToolTip || event->type() == QEvent::FocusIn) {
+                widget->setToolTip(toQt(control.toolTip()));
+            }
+            return false;
+        });
+    }
+    auto focus = std::make_shared<Connection>(
+        control.FocusWanted.connect([widget] { widget->setFocus(Qt::OtherFocusReason); }));
+    QObject::connect(widget, &QObject::destroyed, [focus] {});
+}
+
+/// Makes room for a text that is too long for its control's place: first to the right, as far as
+/// nothing stands there, then by narrower letters.
+void fitText(QWidget* widget, const Control& control, const Scale& scale);
 
 /// What the mouse has done as the models know it; with the button that has done it.
 inline MousePress toPress(const QMouseEvent& event, const Scale& scale) {

@@ -1,0 +1,146 @@
+// The program from its start until its main window is painted, against a bare program with as many
+// widgets, nodes and pictures. Both are processes of their own, and the pictures are unpacked.
+
+#include "BenchFolder.h"
+#include "BenchWindow.h"
+#include "Catalogue.h"
+#include "FormWindow.h"
+#include "GoalTable.h"
+#include "TextFile.h"
+
+#include <QToolButton>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Runs a program that shows nothing until it ends.
+void run(std::vector<std::string> command) {
+    std::vector<std::string> environment = {"QT_QPA_PLATFORM=offscreen", "LANG=C.UTF-8",
+                                            "HOME=" + benchFolder().string(),
+                                            "XDG_RUNTIME_DIR=" + benchFolder().string()};
+    std::vector<char*> argv, envp;
+    for (std::string& argument : command) {
+        argv.push_back(argument.data());
+    }
+    for (std::string& variable : environment) {
+        envp.push_back(variable.data());
+    }
+    argv.push_back(nullptr);
+    envp.push_back(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        if (std::freopen("/dev/null", "w", stderr) != nullptr) {
+            execve(argv[0], argv.data(), envp.data());
+        }
+        _exit(126);
+    }
+    int status = 0;
+    if (child < 0 || waitpid(child, &status, 0) != child || status != 0) {
+        throw std::runtime_error(command.front() + " has failed");
+    }
+}
+
+/// The program in an application folder, beside its files as it expects.
+std::string programStart() {
+    const fs::path program = benchApplication() / "program-start";
+    if (!fs::exists(program)) {
+        fs::copy_file(PROGRAM_START, program);
+    }
+    return program.string();
+}
+
+void addControls(const Container& container, const QWidget& window, std::ostream& out) {
+    for (const Control* const control : container.controls()) {
+        const auto* const widget =
+            window.findChild<QWidget*>(QString::fromStdString(control->name()));
+        if (widget == nullptr) {
+            continue;
+        }
+        out << "widget " << widget->metaObject()->className();
+        if (!control->design().picture.empty()) {
+            out << " :/pictures/" << control->design().picture << ".png";
+        }
+        out << '\n';
+        if (const auto* const inner = dynamic_cast<const Container*>(control)) {
+            addControls(*inner, window, out);
+        }
+    }
+}
+
+/// What the bare window is to show: as much as the main window does.
+std::string description() {
+    const fs::path file = benchFolder() / "bare-window.txt";
+    const fs::path appFolder = benchApplication();
+    BenchWindow window(appFolder);
+    const FormWindow drawn(window.form());
+    std::ofstream out(file);
+    addControls(window.form(), drawn, out);
+    for (const QToolButton* const arrow : drawn.findChildren<QToolButton*>()) {
+        if (arrow->arrowType() != Qt::NoArrow) {
+            out << "widget QToolButton\n";
+        }
+    }
+    std::vector<std::string> pictures;
+    const std::string catalogue = readTextFile(appFolder / "weaps.dat");
+    LineReader lines(catalogue);
+    for (std::string_view line; lines.next(line);) {
+        if (!isCatalogueComment(line)) {
+            pictures.push_back((appFolder / "images" / cutCatalogueLine(line).icon).string());
+        }
+    }
+    std::size_t next = 0;
+    for (const TreeView::Node& node : window.form().tvWeapons.nodes()) {
+        int depth = 0;
+        for (const TreeView::Node* above = node.parent; above != nullptr; above = above->parent) {
+            ++depth;
+        }
+        out << "node " << depth << ' '
+            << (depth == 0 ? ":/pictures/root-blank.gif" : pictures[next++]) << ' ' << node.key
+            << '\n';
+    }
+    for (const char* const other : {"root-blank.gif", "splash-1.gif", "splash-2.bmp"}) {
+        out << "picture :/pictures/" << other << '\n';
+    }
+    return file.string();
+}
+
+void startProgram(benchmark::State& state) {
+    const std::string program = programStart();
+    for ([[maybe_unused]] auto _ : state) {
+        run({program});
+    }
+}
+
+void startBareWindow(benchmark::State& state) {
+    needQt();
+    const std::string file = description();
+    for ([[maybe_unused]] auto _ : state) {
+        run({BARE_WINDOW, file});
+    }
+}
+
+const bool registered = [] {
+    for (auto* bench : {benchmark::RegisterBenchmark("program start", startProgram),
+                        benchmark::RegisterBenchmark("bare window's start", startBareWindow)}) {
+        bench->Repetitions(25)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
+    }
+    RegisterGoal({"Start until the window is painted: times a bare window's", "program start",
+                  "bare window's start", 1.5, false});
+    return true;
+}();
+
+}  // namespace
+
+}  // namespace fleetwright

@@ -1,0 +1,102 @@
+#include "Hands.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace fleetwright {
+
+namespace {
+
+void xdotool(const std::string& arguments) {
+    if (std::system(("xdotool " + arguments).c_str()) != 0) {
+        throw std::runtime_error("xdotool " + arguments + " has failed");
+    }
+}
+
+/// The title of the window that the window manager gives the keyboard to.
+std::string activeTitle() {
+    std::FILE* const pipe = popen("xdotool getactivewindow getwindowname 2>/dev/null", "r");
+    char buffer[200] = {};
+    const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
+    pclose(pipe);
+    const std::string title(buffer, count);
+    return title.substr(0, title.find('\n'));
+}
+
+std::string moveTo(int x, int y) {
+    return "mousemove " + std::to_string(x) + ' ' + std::to_string(y) + ' ';
+}
+
+constexpr const char* outOfTheWay = " mousemove 0 0";
+
+Point middleOf(const Element& element) {
+    const Rectangle place = restingPlace(element);
+    return {place.left + place.width / 2, place.top + place.height / 2};
+}
+
+std::string moveTo(const Element& element) {
+    const Point middle = middleOf(element);
+    return moveTo(middle.x, middle.y);
+}
+
+}  // namespace
+
+Rectangle restingPlace(const Element& element) {
+    Rectangle place;
+    waitFor("\"" + element.name() + "\" to have its place", [&] {
+        const Rectangle before = place;
+        place = element.place();
+        return place == before && place.width > 0 && element.is(ATSPI_STATE_SHOWING);
+    });
+    return place;
+}
+
+void click(const Element& element) {
+    xdotool(moveTo(element) + "click 1" + outOfTheWay);
+}
+
+void rightClick(const Element& element) {
+    xdotool(moveTo(element) + "click 3" + outOfTheWay);
+}
+
+void doubleClick(const Element& element) {
+    xdotool(moveTo(element) + "click --repeat 2 --delay 10 1" + outOfTheWay);
+}
+
+void pointAt(const Element& element) {
+    const Point middle = middleOf(element);
+    xdotool(moveTo(middle.x - 1, middle.y) + moveTo(middle.x, middle.y));
+}
+
+void clickToClose(const std::string& title) {
+    waitForKeyboard(title);
+    const Rectangle window = restingPlace(*windowOnScreen(title));
+    // The title is the window manager's, which puts this button into its right end.
+    constexpr int fromRight = 9, above = 10;
+    xdotool(moveTo(window.left + window.width - fromRight, window.top - above) + "click 1" +
+            outOfTheWay);
+}
+
+void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone) {
+    xdotool(moveTo(from.x, from.y) + "mousedown 1 " + moveTo(to.x, to.y));
+    waitFor(what, isDone);
+    xdotool(std::string("mouseup 1") + outOfTheWay);
+}
+
+void waitForKeyboard(const std::string& title) {
+    waitFor("\"" + title + "\" to have the keyboard", [&] {
+        const auto window = windowOnScreen(title);
+        return window && window->is(ATSPI_STATE_ACTIVE) && activeTitle() == title;
+    });
+}
+
+void press(const std::vector<std::string>& keys) {
+    std::string arguments = "key";
+    for (const std::string& key : keys) {
+        arguments += ' ' + key;
+    }
+    xdotool(arguments);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ScreenReader.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+/// What the window is meant to hold: a design, which the command line tool turns into figures.
+struct Design {
+    int mass = 2;
+    int thrust = 2;
+    std::string type = "Warship";
+    std::string streamlining = {};  ///< "Partial", "Full" or nothing
+    std::string armor = {};         ///< "Level 1", "Level 2" or nothing
+    std::string ftl = "Normal";
+    std::map<std::string, int> systems = {};
+    bool isAutoMass = false;
+};
+
+/// All that a window shows of a ship, by what a screen reader calls it. The systems aboard have
+/// names like "aboard: Gun".
+using Shown = std::map<std::string, std::string>;
+
+/// What the command line tool makes of a design.
+Shown expectedOf(const Design& design);
+
+/// The main window of the program that runs.
+class MainWindow {
+public:
+    static constexpr const char* title = "Fleet Wright";
+
+    /// Waits for the window, and for the keyboard to be its own.
+    MainWindow();
+
+    /// Something in the window, or in a part of it; waits for it.
+    Element get(const std::string& role, const std::string& name) const;
+    Element getIn(const std::string& part, const std::string& role, const std::string& name) const;
+    /// Waits until the window shows what the tool says about a design.
+    void waitFor(const Design& design) const;
+    /// Waits for the keyboard to be the window's again.
+    void waitUntilActive() const;
+    /// Moves the keyboard to an element, with the keyboard.
+    void tabTo(const std::string& role, const std::string& name) const;
+
+private:
+    Element window() const;
+    Shown shown() const;
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,175 @@
+#include "ScreenReader.h"
+
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+namespace fleetwright {
+
+namespace {
+
+/// Takes a text of the library over.
+std::string taken(char* text) {
+    const std::unique_ptr<char, void (*)(void*)> owned(text, g_free);
+    return text == nullptr ? std::string() : std::string(text);
+}
+
+template <typename Kind>
+std::unique_ptr<Kind, void (*)(gpointer)> takenObject(Kind* object) {
+    return {object, g_object_unref};
+}
+
+Element desktop() {
+    static const int started = atspi_init();
+    if (started > 1) {
+        throw std::runtime_error("the accessibility bus cannot be reached");
+    }
+    return Element(atspi_get_desktop(0));
+}
+
+void describe(const Element& element, int depth, std::string& text) {
+    const Rectangle place = element.place();
+    const std::string held = element.text();
+    text += std::string(static_cast<std::size_t>(2 * depth), ' ') + element.role() + " \"" +
+            element.name() + '"' + (held.empty() ? "" : " holds \"" + held + '"') + " at " +
+            std::to_string(place.left) + ',' + std::to_string(place.top) + ' ' +
+            std::to_string(place.width) + 'x' + std::to_string(place.height) +
+            (element.is(ATSPI_STATE_SHOWING) ? "" : " hidden") +
+            (element.is(ATSPI_STATE_FOCUSED) ? " focused" : "") +
+            (element.is(ATSPI_STATE_ACTIVE) ? " active" : "") +
+            (element.is(ATSPI_STATE_CHECKED) ? " checked" : "") +
+            (element.is(ATSPI_STATE_SELECTED) ? " selected" : "") +
+            (element.is(ATSPI_STATE_ENABLED) ? "" : " disabled") + '\n';
+    for (const Element& child : element.children()) {
+        describe(child, depth + 1, text);
+    }
+}
+
+}  // namespace
+
+Element::Element(AtspiAccessible* accessible) : m_accessible(accessible, g_object_unref) {}
+
+std::string Element::role() const {
+    return taken(atspi_accessible_get_role_name(m_accessible.get(), nullptr));
+}
+
+std::string Element::name() const {
+    return taken(atspi_accessible_get_name(m_accessible.get(), nullptr));
+}
+
+std::string Element::description() const {
+    return taken(atspi_accessible_get_description(m_accessible.get(), nullptr));
+}
+
+std::string Element::text() const {
+    if (const auto text = takenObject(atspi_accessible_get_text_iface(m_accessible.get()))) {
+        return taken(atspi_text_get_text(text.get(), 0, -1, nullptr));
+    }
+    if (const auto value = takenObject(atspi_accessible_get_value_iface(m_accessible.get()))) {
+        GError* error = nullptr;
+        const double number = atspi_value_get_current_value(value.get(), &error);
+        if (error == nullptr) {
+            return std::to_string(static_cast<int>(number));
+        }
+        g_error_free(error);
+    }
+    return {};
+}
+
+bool Element::is(AtspiStateType state) const {
+    const auto states = takenObject(atspi_accessible_get_state_set(m_accessible.get()));
+    return states != nullptr && atspi_state_set_contains(states.get(), state) != 0;
+}
+
+Rectangle Element::place() const {
+    const auto component = takenObject(atspi_accessible_get_component_iface(m_accessible.get()));
+    if (component == nullptr) {
+        return {};
+    }
+    const std::unique_ptr<AtspiRect, void (*)(gpointer)> rectangle(
+        atspi_component_get_extents(component.get(), ATSPI_COORD_TYPE_SCREEN, nullptr), g_free);
+    return rectangle == nullptr
+               ? Rectangle{}
+               : Rectangle{rectangle->x, rectangle->y, rectangle->width, rectangle->height};
+}
+
+std::vector<Element> Element::children() const {
+    std::vector<Element> all;
+    const int count = atspi_accessible_get_child_count(m_accessible.get(), nullptr);
+    for (int i = 0; i < count; ++i) {
+        AtspiAccessible* const child =
+            atspi_accessible_get_child_at_index(m_accessible.get(), i, nullptr);
+        if (child != nullptr) {
+            all.emplace_back(child);
+        }
+    }
+    return all;
+}
+
+std::optional<Element> Element::find(std::string_view role, std::string_view name) const {
+    for (const Element& child : children()) {
+        if (child.role() == role && (name.empty() || child.name() == name)) {
+            return child;
+        }
+        if (std::optional<Element> found = child.find(role, name)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string> Element::names(std::string_view role) const {
+    std::vector<std::string> all;
+    for (const Element& child : children()) {
+        if (child.role() == role) {
+            all.push_back(child.name());
+        }
+    }
+    return all;
+}
+
+std::vector<Element> windowsOnScreen() {
+    std::vector<Element> all;
+    for (const Element& program : desktop().children()) {
+        for (const Element& window : program.children()) {
+            all.push_back(window);
+        }
+    }
+    return all;
+}
+
+std::optional<Element> windowOnScreen(std::string_view title) {
+    for (const Element& window : windowsOnScreen()) {
+        if (window.name() == title && window.is(ATSPI_STATE_SHOWING)) {
+            return window;
+        }
+    }
+    return std::nullopt;
+}
+
+std::string describeScreen() {
+    std::string text;
+    describe(desktop(), 0, text);
+    return text;
+}
+
+void waitFor(const std::string& what, const std::function<bool()>& holds) {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::minutes(1);
+    while (!holds()) {
+        if (Clock::now() > end) {
+            throw std::runtime_error("waited in vain: " + what + "\n\nOn the screen:\n" +
+                                     describeScreen());
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+}
+
+Element waitForElement(const std::string& what,
+                       const std::function<std::optional<Element>()>& find) {
+    std::optional<Element> found;
+    waitFor(what, [&] { return (found = find()).has_value(); });
+    return *found;
+}
+
+}  // namespace fleetwright

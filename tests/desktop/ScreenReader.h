@@ -1,0 +1,64 @@
+#pragma once
+
+// What is on the screen, read over the accessibility bus as a screen reader does it. Every look-up
+// asks the program anew; nothing is remembered.
+
+#include <atspi/atspi.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fleetwright {
+
+/// Pixels of the screen.
+struct Rectangle {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Rectangle&) const = default;
+};
+
+/// One thing on the screen. It may be gone by the time that it is asked; its texts are empty then.
+class Element {
+public:
+    explicit Element(AtspiAccessible* accessible);  ///< takes the reference over
+
+    std::string role() const;
+    std::string name() const;
+    std::string description() const;
+    /// What it holds: the text of a text box, the number of a slider.
+    std::string text() const;
+    bool is(AtspiStateType state) const;
+    Rectangle place() const;
+    std::vector<Element> children() const;
+    /// The first element inside this one with such a role and, unless empty, such a name.
+    std::optional<Element> find(std::string_view role, std::string_view name = {}) const;
+    /// The names of all elements with such a role right inside this one.
+    std::vector<std::string> names(std::string_view role) const;
+
+private:
+    std::shared_ptr<AtspiAccessible> m_accessible;
+};
+
+/// All windows of all programs.
+std::vector<Element> windowsOnScreen();
+std::optional<Element> windowOnScreen(std::string_view title);
+
+/// Everything on the screen, a line for each element, to be looked at.
+std::string describeScreen();
+
+/// Waits until a condition holds; a minute at the most, then it throws and says what is on the
+/// screen.
+void waitFor(const std::string& what, const std::function<bool()>& holds);
+
+/// Waits for an element to appear.
+Element waitForElement(const std::string& what,
+                       const std::function<std::optional<Element>()>& find);
+
+}  // namespace fleetwright

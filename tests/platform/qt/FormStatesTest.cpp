@@ -1,0 +1,133 @@
+// Windows that change their state, size and picture, and the kinds of controls of pages.
+
+#include "FormWindow.h"
+
+#include "CheckBox.h"
+#include "DragImage.h"
+#include "Form.h"
+#include "PictureBox.h"
+#include "TextBox.h"
+#include "TrayIcon.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QSystemTrayIcon>
+#include <QTest>
+
+using namespace fleetwright;
+
+namespace {
+
+class Page : public Form {
+public:
+    Page() : Form({.name = "page", .width = 4500, .height = 3000, .border = Border::Sizable}) {
+        name.onKeyPress = [this](int key) {
+            log += "key" + std::to_string(key) + ' ';
+            return key == EnterKey;
+        };
+        name.onDblClick = [this] { log += "open "; };
+    }
+
+    std::string log;
+    CheckBox tick{*this, {.name = "tick", .place = {0, 0, 1500, 300}, .caption = "Tick"}, [this] {
+                      log += tick.isTicked() ? "on " : "off ";
+                  }};
+    CheckBox down{
+        *this,
+        {.name = "down", .place = {0, 300, 1500, 300}, .caption = "Down", .isGraphical = true}};
+    PictureBox picture{*this, {.name = "picture", .place = {0, 600, 0, 0}}};
+    TextBox name{*this, {.name = "name", .place = {0, 2000, 1500, 300}}};
+    TrayIcon tray{*this, {.name = "tray", .picture = "tray"}, {}};
+
+protected:
+    void Form_Resize() override { log += "resize "; }
+    void Form_KeyPress() override { log += "formkey "; }
+};
+
+class FormStates : public testing::Test {
+protected:
+    FormStates() { page.show(); }
+
+    template <typename Widget>
+    Widget& widget(const char* name) {
+        return *window.findChild<Widget*>(name);
+    }
+
+    std::string takeLog() { return std::exchange(page.log, {}); }
+
+    Page page;
+    FormWindow window{page};
+};
+
+TEST_F(FormStates, CheckBoxesAreTickedFromBothSides) {
+    auto& tick = widget<QAbstractButton>("tick");
+    tick.click();
+    EXPECT_TRUE(page.tick.isTicked());
+    page.tick.setTicked(false);
+    page.tick.setTicked(false);
+    EXPECT_FALSE(tick.isChecked());
+    EXPECT_EQ(takeLog(), "on off ");
+    page.down.setTicked(true);
+    EXPECT_TRUE(widget<QAbstractButton>("down").isChecked());
+}
+
+TEST_F(FormStates, AKeyGoesToItsBoxFirstAndThenToTheForm) {
+    auto& name = widget<QLineEdit>("name");
+    page.name.setFocus();
+    EXPECT_EQ(window.focusWidget(), &name);
+    QTest::keyClick(&name, Qt::Key_A);
+    QTest::keyClick(&name, Qt::Key_Return);
+    QTest::keyClick(&name, Qt::Key_F2);
+    EXPECT_EQ(page.name.text(), "a");
+    EXPECT_EQ(takeLog(), "key97 key13 open ");
+    QTest::keyClick(&window, Qt::Key_Space);
+    EXPECT_EQ(takeLog(), "formkey ");
+    // What edits a text is a key of the menu where there is nothing to edit.
+    for (const bool isLocked : {true, false}) {
+        page.name.setLocked(isLocked);
+        QKeyEvent cut(QEvent::ShortcutOverride, Qt::Key_A, Qt::ControlModifier);
+        cut.ignore();
+        QApplication::sendEvent(&name, &cut);
+        EXPECT_EQ(cut.isAccepted(), !isLocked);
+    }
+}
+
+TEST_F(FormStates, PicturesShowInTheirOwnSizeAndPixelForPixel) {
+    page.picture.setPicture(Raster(30, 20));
+    EXPECT_EQ(page.picture.place().width, 30 * 15);
+    page.picture.paintPixel(0, 0, 0xFF0000);
+    auto& widget = *window.findChild<QWidget*>("picture");
+    const QImage shown = widget.grab().toImage();
+    const int left = (shown.width() - 30) / 2;
+    const int top = (shown.height() - 20) / 2;
+    EXPECT_EQ(shown.pixelColor(left, top), QColor(Qt::red));
+    EXPECT_EQ(shown.pixelColor(left + 1, top), QColor(Qt::white));
+}
+
+TEST_F(FormStates, TheWindowFollowsTheFormAndTheFormTheWindow) {
+    takeLog();
+    page.resize(6000 + Form::frameWidth, 4500 + Form::frameHeight);
+    EXPECT_EQ(takeLog(), "resize ");
+    const double scale = window.centralWidget()->width() / 6000.0;
+    EXPECT_NEAR(window.centralWidget()->height(), 4500 * scale, 1);
+    window.resize(window.width() + 40, window.height());
+    EXPECT_NEAR(page.place().width, 6000 + 40 / scale, 15);
+    EXPECT_EQ(takeLog(), "resize ");
+
+    window.setWindowState(Qt::WindowMinimized);
+    EXPECT_EQ(page.state(), WindowState::Minimized);
+    page.setState(WindowState::Normal);
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_EQ(takeLog(), "resize resize ");
+
+    page.tray.setOn(true);
+    EXPECT_TRUE(window.findChild<QSystemTrayIcon*>("tray")->isVisible());
+    EXPECT_EQ(page.tray.isAvailable(), QSystemTrayIcon::isSystemTrayAvailable());
+    page.hide();
+    EXPECT_FALSE(window.isVisible());
+}
+
+}  // namespace
