@@ -7,6 +7,7 @@
 #include "TextFile.h"
 #include "drawnSheet.h"
 #include "folders.h"
+#include "keepFreedMemory.h"
 #include "loadPictures.h"
 #include "saveFile.h"
 
@@ -105,6 +106,7 @@ int runSheet(const Options& options) {
     if (!fs::is_directory(findFile(images))) {
         throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
     }
+    keepFreedMemory();
     const Pictures& pictures = loadPictures(options.programFolder);
     PictureCache cache(pictures.files);
     const SSDMaps maps = loadMaps(options.appFolder);

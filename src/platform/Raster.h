@@ -34,6 +34,13 @@ public:
         return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
     }
 
+    /// Adds white rows at the bottom, or cuts some off.
+    void setHeight(int height) {
+        m_pixels.resize(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(height),
+                        white);
+        m_height = height;
+    }
+
 private:
     std::size_t index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +

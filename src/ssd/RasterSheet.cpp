@@ -22,11 +22,7 @@ void RasterSheet::setControlHeight(int twips) {
     if (std::int64_t{m_raster.width()} * height > mostPixels) {
         throw Error("the sheet is too large");
     }
-    Raster resized(m_raster.width(), height);
-    for (int y = 0; y < std::min(height, m_raster.height()); ++y) {
-        std::ranges::copy(m_raster.row(y), resized.row(y).begin());
-    }
-    m_raster = std::move(resized);
+    m_raster.setHeight(height);
 }
 
 void RasterSheet::paint(const Raster& picture, int x, int y) {

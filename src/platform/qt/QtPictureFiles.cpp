@@ -16,6 +16,9 @@ namespace {
 
 /// An image as it looks on white paper, pixel by pixel whatever resolution it is meant for.
 QImage onWhite(QImage image) {
+    if (!image.hasAlphaChannel()) {
+        return image.convertToFormat(QImage::Format_RGB32);
+    }
     QImage paper(image.size(), QImage::Format_RGB32);
     paper.fill(Qt::white);
     image.setDevicePixelRatio(1);
@@ -49,6 +52,7 @@ Raster QtPictureFiles::builtIn(const std::string& name) {
 
 std::string QtPictureFiles::encode(const Raster& picture, const std::string& format) {
     QByteArray bytes;
+    bytes.reserve(3 * picture.width() * picture.height());  // it would be moved time and again
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, QByteArray::fromStdString(format));

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace fleetwright {
+
+/// Lets the memory of one sheet serve the next, where the system's allocator would give pieces of
+/// megabytes back at once and fetch them anew, page by page: that takes longer than drawing.
+void keepFreedMemory();
+
+}  // namespace fleetwright
