@@ -172,8 +172,7 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
     waitFor("the dialog to go", [] { return !windowOnScreen(dialogTitle); });
     window->waitFor(design);
 
-    click(window->get("menu item", "Extras"));
-    click(window->get("menu item", "AutoMass"));
+    window->choose("Extras", "AutoMass");
     design.isAutoMass = true;
     window->waitFor(design);
     design.mass = std::stoi(expectedOf(design).at("Mass"));

@@ -14,13 +14,17 @@ void xdotool(const std::string& arguments) {
     }
 }
 
-/// The title of the window that the window manager gives the keyboard to.
-std::string activeTitle() {
-    std::FILE* const pipe = popen("xdotool getactivewindow getwindowname 2>/dev/null", "r");
-    char buffer[200] = {};
+std::string answerOf(const std::string& arguments) {
+    std::FILE* const pipe = popen(("xdotool " + arguments + " 2>/dev/null").c_str(), "r");
+    char buffer[2000] = {};
     const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
     pclose(pipe);
-    const std::string title(buffer, count);
+    return {buffer, count};
+}
+
+/// The title of the window that the window manager gives the keyboard to.
+std::string activeTitle() {
+    const std::string title = answerOf("getactivewindow getwindowname");
     return title.substr(0, title.find('\n'));
 }
 
@@ -97,6 +101,22 @@ void press(const std::vector<std::string>& keys) {
         arguments += ' ' + key;
     }
     xdotool(arguments);
+}
+
+void type(const std::string& text) {
+    xdotool("type --delay 1 '" + text + '\'');
+}
+
+void chooseFile(const std::string& title, const std::filesystem::path& file) {
+    waitForKeyboard(title);
+    type(file.string());
+    waitFor("the path to stand in \"" + title + '"', [&] {
+        const auto dialog = windowOnScreen(title);
+        const auto box = dialog ? dialog->find("text", "File name:") : std::nullopt;
+        return box && box->text() == file.string();
+    });
+    press({"Return"});
+    waitFor('"' + title + "\" to go", [&] { return !windowOnScreen(title); });
 }
 
 }  // namespace fleetwright

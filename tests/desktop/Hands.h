@@ -4,6 +4,7 @@
 
 #include "ScreenReader.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -33,5 +34,9 @@ void drag(Point from, Point to, const std::string& what, const std::function<boo
 void waitForKeyboard(const std::string& title);
 /// Presses keys, one after the other, by their names as X knows them.
 void press(const std::vector<std::string>& keys);
+/// Types a text.
+void type(const std::string& text);
+/// Types the path of a file into the dialog with this title, and takes it.
+void chooseFile(const std::string& title, const std::filesystem::path& file);
 
 }  // namespace fleetwright

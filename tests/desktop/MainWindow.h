@@ -2,6 +2,7 @@
 
 #include "ScreenReader.h"
 
+#include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
@@ -24,8 +25,9 @@ struct Design {
 /// names like "aboard: Gun".
 using Shown = std::map<std::string, std::string>;
 
-/// What the command line tool makes of a design.
+/// What the command line tool makes of a design, or of the one in a file.
 Shown expectedOf(const Design& design);
+Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass = false);
 
 /// The main window of the program that runs.
 class MainWindow {
@@ -40,6 +42,11 @@ public:
     Element getIn(const std::string& part, const std::string& role, const std::string& name) const;
     /// Waits until the window shows what the tool says about a design.
     void waitFor(const Design& design) const;
+    void waitForShip(const std::filesystem::path& file) const;
+    /// Waits until the status bar says something that begins like this; all that it says.
+    std::string waitForStatus(const std::string& begin) const;
+    /// Chooses an entry of a menu.
+    void choose(const std::string& menu, const std::string& entry) const;
     /// Waits for the keyboard to be the window's again.
     void waitUntilActive() const;
     /// Moves the keyboard to an element, with the keyboard.
@@ -48,6 +55,7 @@ public:
 private:
     Element window() const;
     Shown shown() const;
+    void waitUntilShown(const Shown& expected) const;
 };
 
 }  // namespace fleetwright
