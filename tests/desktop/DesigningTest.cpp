@@ -182,3 +182,23 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
     design.systems[battery] = 1;
     window->waitFor(design);
 }
+
+TEST_F(DesigningTest, SystemsAreDraggedAboard) {
+    click(window->get("push button", "Mass in steps of 50, up"));
+    design.mass = 52;
+    window->waitFor(design);
+    click(window->get("push button", "Defenses"));
+    doubleClick(node("GUARD GUNS"));
+    const Element aboard = window->get("tree", list);
+    for (int amount = 1; amount <= 2; ++amount) {
+        dragOnto(node(gun), aboard);
+        design.systems[gun] = amount;
+        window->waitFor(design);
+    }
+    dragOnto(node(battery), window->get("text", "Cost"));
+    dragOnto(node(battery), window->get("tree", tree));
+    // What a drop would have done is done before the next act.
+    click(window->get("check box", "Thrust 4"));
+    design.thrust = 4;
+    window->waitFor(design);
+}

@@ -1,5 +1,6 @@
 #include "Hands.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -26,6 +27,12 @@ std::string answerOf(const std::string& arguments) {
 std::string activeTitle() {
     const std::string title = answerOf("getactivewindow getwindowname");
     return title.substr(0, title.find('\n'));
+}
+
+/// How many windows there are for the screen, which counts a dragged picture as one.
+auto windowCount() {
+    const std::string windows = answerOf("search --onlyvisible --class FleetWright");
+    return std::count(windows.begin(), windows.end(), '\n');
 }
 
 std::string moveTo(int x, int y) {
@@ -86,6 +93,17 @@ void drag(Point from, Point to, const std::string& what, const std::function<boo
     xdotool(moveTo(from.x, from.y) + "mousedown 1 " + moveTo(to.x, to.y));
     waitFor(what, isDone);
     xdotool(std::string("mouseup 1") + outOfTheWay);
+}
+
+void dragOnto(const Element& from, const Element& to) {
+    const Point start = middleOf(from), end = middleOf(to);
+    const auto before = windowCount();
+    constexpr int farEnough = 20;
+    xdotool(moveTo(start.x, start.y) + "mousedown 1 " +
+            moveTo(start.x + farEnough, start.y + farEnough));
+    waitFor("the picture of what is dragged", [&] { return windowCount() > before; });
+    xdotool(moveTo(end.x, end.y) + "mouseup 1" + outOfTheWay);
+    waitFor("that picture to go", [&] { return windowCount() == before; });
 }
 
 void waitForKeyboard(const std::string& title) {

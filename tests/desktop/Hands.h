@@ -30,6 +30,8 @@ void pointAt(const Element& element);
 void clickToClose(const std::string& title);
 /// Moves with the left button held down, and lets it go when what was wanted has come about.
 void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone);
+/// Drags what an element stands for onto another element.
+void dragOnto(const Element& from, const Element& to);
 /// Waits until the keyboard is a window's, for the program and for the window manager.
 void waitForKeyboard(const std::string& title);
 /// Presses keys, one after the other, by their names as X knows them.
