@@ -90,22 +90,6 @@ Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass) {
     return shown;
 }
 
-MainWindow::MainWindow() {
-    waitUntilActive();
-}
-
-Element MainWindow::window() const {
-    return waitForElement("the main window", [] { return windowOnScreen(title); });
-}
-
-void MainWindow::waitUntilActive() const {
-    waitForKeyboard(title);
-}
-
-Element MainWindow::get(const std::string& role, const std::string& name) const {
-    return waitForElement(role + " \"" + name + '"', [&] { return window().find(role, name); });
-}
-
 Element MainWindow::getIn(const std::string& part, const std::string& role,
                           const std::string& name) const {
     return waitForElement(role + " \"" + name + "\" in \"" + part + '"',
@@ -168,15 +152,6 @@ void MainWindow::waitUntilShown(const Shown& expected) const {
         throw std::runtime_error("wanted:\n" + toText(expected) + "shown:\n" + toText(shown()) +
                                  error.what());
     }
-}
-
-void MainWindow::tabTo(const std::string& role, const std::string& name) const {
-    const auto isThere = [&] { return get(role, name).is(ATSPI_STATE_FOCUSED); };
-    constexpr int mostStops = 60;
-    for (int i = 0; i < mostStops && !isThere(); ++i) {
-        press({"Tab"});
-    }
-    fleetwright::waitFor("the keyboard to come to \"" + name + '"', isThere);
 }
 
 }  // namespace fleetwright
