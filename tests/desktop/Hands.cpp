@@ -15,23 +15,15 @@ void xdotool(const std::string& arguments) {
     }
 }
 
-std::string answerOf(const std::string& arguments) {
-    std::FILE* const pipe = popen(("xdotool " + arguments + " 2>/dev/null").c_str(), "r");
-    char buffer[2000] = {};
-    const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
-    pclose(pipe);
-    return {buffer, count};
-}
-
 /// The title of the window that the window manager gives the keyboard to.
 std::string activeTitle() {
-    const std::string title = answerOf("getactivewindow getwindowname");
+    const std::string title = outputOf("xdotool getactivewindow getwindowname");
     return title.substr(0, title.find('\n'));
 }
 
 /// How many windows there are for the screen, which counts a dragged picture as one.
 auto windowCount() {
-    const std::string windows = answerOf("search --onlyvisible --class FleetWright");
+    const std::string windows = outputOf("xdotool search --onlyvisible --class FleetWright");
     return std::count(windows.begin(), windows.end(), '\n');
 }
 
@@ -52,6 +44,14 @@ std::string moveTo(const Element& element) {
 }
 
 }  // namespace
+
+std::string outputOf(const std::string& command) {
+    std::FILE* const pipe = popen((command + " 2>/dev/null").c_str(), "r");
+    char buffer[2000] = {};
+    const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
+    pclose(pipe);
+    return {buffer, count};
+}
 
 Rectangle restingPlace(const Element& element) {
     Rectangle place;

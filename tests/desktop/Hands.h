@@ -32,6 +32,8 @@ void clickToClose(const std::string& title);
 void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone);
 /// Drags what an element stands for onto another element.
 void dragOnto(const Element& from, const Element& to);
+/// What a command prints that looks at the screen or acts on it.
+std::string outputOf(const std::string& command);
 /// Waits until the keyboard is a window's, for the program and for the window manager.
 void waitForKeyboard(const std::string& title);
 /// Presses keys, one after the other, by their names as X knows them.
