@@ -62,7 +62,8 @@ protected:
     }
     /// The window is there, and does what it is told.
     void expectUsable(int thrust) {
-        window->waitUntilActive();
+        waitFor("the window to come back",
+                [this] { return onScreen().find(main) != std::string::npos; });
         EXPECT_TRUE(isInTaskList());
         click(window->get("check box", "Thrust " + std::to_string(thrust)));
         window->waitFor(Design{.thrust = thrust});
