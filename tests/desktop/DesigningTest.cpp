@@ -172,8 +172,7 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
     waitFor("the dialog to go", [] { return !windowOnScreen(dialogTitle); });
     window->waitFor(design);
 
-    click(window->get("menu item", "Extras"));
-    click(window->get("menu item", "AutoMass"));
+    window->choose("Extras", "AutoMass");
     design.isAutoMass = true;
     window->waitFor(design);
     design.mass = std::stoi(expectedOf(design).at("Mass"));
@@ -181,5 +180,25 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
     window->waitUntilActive();
     doubleClick(node(battery));
     design.systems[battery] = 1;
+    window->waitFor(design);
+}
+
+TEST_F(DesigningTest, SystemsAreDraggedAboard) {
+    click(window->get("push button", "Mass in steps of 50, up"));
+    design.mass = 52;
+    window->waitFor(design);
+    click(window->get("push button", "Defenses"));
+    doubleClick(node("GUARD GUNS"));
+    const Element aboard = window->get("tree", list);
+    for (int amount = 1; amount <= 2; ++amount) {
+        dragOnto(node(gun), aboard);
+        design.systems[gun] = amount;
+        window->waitFor(design);
+    }
+    dragOnto(node(battery), window->get("text", "Cost"));
+    dragOnto(node(battery), window->get("tree", tree));
+    // What a drop would have done is done before the next act.
+    click(window->get("check box", "Thrust 4"));
+    design.thrust = 4;
     window->waitFor(design);
 }

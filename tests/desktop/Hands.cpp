@@ -1,5 +1,6 @@
 #include "Hands.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -16,12 +17,14 @@ void xdotool(const std::string& arguments) {
 
 /// The title of the window that the window manager gives the keyboard to.
 std::string activeTitle() {
-    std::FILE* const pipe = popen("xdotool getactivewindow getwindowname 2>/dev/null", "r");
-    char buffer[200] = {};
-    const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
-    pclose(pipe);
-    const std::string title(buffer, count);
+    const std::string title = outputOf("xdotool getactivewindow getwindowname");
     return title.substr(0, title.find('\n'));
+}
+
+/// How many windows there are for the screen, which counts a dragged picture as one.
+auto windowCount() {
+    const std::string windows = outputOf("xdotool search --onlyvisible --class FleetWright");
+    return std::count(windows.begin(), windows.end(), '\n');
 }
 
 std::string moveTo(int x, int y) {
@@ -41,6 +44,14 @@ std::string moveTo(const Element& element) {
 }
 
 }  // namespace
+
+std::string outputOf(const std::string& command) {
+    std::FILE* const pipe = popen((command + " 2>/dev/null").c_str(), "r");
+    char buffer[2000] = {};
+    const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
+    pclose(pipe);
+    return {buffer, count};
+}
 
 Rectangle restingPlace(const Element& element) {
     Rectangle place;
@@ -84,6 +95,17 @@ void drag(Point from, Point to, const std::string& what, const std::function<boo
     xdotool(std::string("mouseup 1") + outOfTheWay);
 }
 
+void dragOnto(const Element& from, const Element& to) {
+    const Point start = middleOf(from), end = middleOf(to);
+    const auto before = windowCount();
+    constexpr int farEnough = 20;
+    xdotool(moveTo(start.x, start.y) + "mousedown 1 " +
+            moveTo(start.x + farEnough, start.y + farEnough));
+    waitFor("the picture of what is dragged", [&] { return windowCount() > before; });
+    xdotool(moveTo(end.x, end.y) + "mouseup 1" + outOfTheWay);
+    waitFor("that picture to go", [&] { return windowCount() == before; });
+}
+
 void waitForKeyboard(const std::string& title) {
     waitFor("\"" + title + "\" to have the keyboard", [&] {
         const auto window = windowOnScreen(title);
@@ -97,6 +119,22 @@ void press(const std::vector<std::string>& keys) {
         arguments += ' ' + key;
     }
     xdotool(arguments);
+}
+
+void type(const std::string& text) {
+    xdotool("type --delay 1 '" + text + '\'');
+}
+
+void chooseFile(const std::string& title, const std::filesystem::path& file) {
+    waitForKeyboard(title);
+    type(file.string());
+    waitFor("the path to stand in \"" + title + '"', [&] {
+        const auto dialog = windowOnScreen(title);
+        const auto box = dialog ? dialog->find("text", "File name:") : std::nullopt;
+        return box && box->text() == file.string();
+    });
+    press({"Return"});
+    waitFor('"' + title + "\" to go", [&] { return !windowOnScreen(title); });
 }
 
 }  // namespace fleetwright

@@ -4,6 +4,7 @@
 
 #include "ScreenReader.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -29,9 +30,17 @@ void pointAt(const Element& element);
 void clickToClose(const std::string& title);
 /// Moves with the left button held down, and lets it go when what was wanted has come about.
 void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone);
+/// Drags what an element stands for onto another element.
+void dragOnto(const Element& from, const Element& to);
+/// What a command prints that looks at the screen or acts on it.
+std::string outputOf(const std::string& command);
 /// Waits until the keyboard is a window's, for the program and for the window manager.
 void waitForKeyboard(const std::string& title);
 /// Presses keys, one after the other, by their names as X knows them.
 void press(const std::vector<std::string>& keys);
+/// Types a text.
+void type(const std::string& text);
+/// Types the path of a file into the dialog with this title, and takes it.
+void chooseFile(const std::string& title, const std::filesystem::path& file);
 
 }  // namespace fleetwright

@@ -66,11 +66,15 @@ std::string labelBehind(const Element& part, const std::string& label) {
 
 Shown expectedOf(const Design& design) {
     const TemporaryFolder folder;
-    std::vector<std::string> arguments = {"figures", folder.write("ship.shp", shipFile(design))};
-    if (design.isAutoMass) {
+    return expectedOf(folder.write("ship.shp", shipFile(design)), design.isAutoMass);
+}
+
+Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass) {
+    std::vector<std::string> arguments = {"figures", shipFile};
+    if (isAutoMass) {
         arguments.emplace_back("--auto-mass");
     }
-    const ToolRun run = runTool(folder.path(), arguments);
+    const ToolRun run = runTool("/", arguments);
     if (run.status != 0) {
         throw std::runtime_error("the tool: " + run.errors);
     }
@@ -84,22 +88,6 @@ Shown expectedOf(const Design& design) {
         shown["aboard: " + toText(system.at("name"))] = toText(system.at("amount"));
     }
     return shown;
-}
-
-MainWindow::MainWindow() {
-    waitUntilActive();
-}
-
-Element MainWindow::window() const {
-    return waitForElement("the main window", [] { return windowOnScreen(title); });
-}
-
-void MainWindow::waitUntilActive() const {
-    waitForKeyboard(title);
-}
-
-Element MainWindow::get(const std::string& role, const std::string& name) const {
-    return waitForElement(role + " \"" + name + '"', [&] { return window().find(role, name); });
 }
 
 Element MainWindow::getIn(const std::string& part, const std::string& role,
@@ -135,22 +123,35 @@ Shown MainWindow::shown() const {
 }
 
 void MainWindow::waitFor(const Design& design) const {
-    const Shown expected = expectedOf(design);
+    waitUntilShown(expectedOf(design));
+}
+
+void MainWindow::waitForShip(const std::filesystem::path& file) const {
+    waitUntilShown(expectedOf(file));
+}
+
+std::string MainWindow::waitForStatus(const std::string& begin) const {
+    std::string text;
+    fleetwright::waitFor("the status \"" + begin + '"', [&] {
+        const std::vector<std::string> labels = window().find("filler")->names("label");
+        text = labels.empty() ? std::string() : labels.back();  // the lowest one
+        return text.starts_with(begin);
+    });
+    return text;
+}
+
+void MainWindow::choose(const std::string& menu, const std::string& entry) const {
+    click(get("menu item", menu));
+    click(get("menu item", entry));
+}
+
+void MainWindow::waitUntilShown(const Shown& expected) const {
     try {
         fleetwright::waitFor("the figures of the design", [&] { return shown() == expected; });
     } catch (const std::exception& error) {
         throw std::runtime_error("wanted:\n" + toText(expected) + "shown:\n" + toText(shown()) +
                                  error.what());
     }
-}
-
-void MainWindow::tabTo(const std::string& role, const std::string& name) const {
-    const auto isThere = [&] { return get(role, name).is(ATSPI_STATE_FOCUSED); };
-    constexpr int mostStops = 60;
-    for (int i = 0; i < mostStops && !isThere(); ++i) {
-        press({"Tab"});
-    }
-    fleetwright::waitFor("the keyboard to come to \"" + name + '"', isThere);
 }
 
 }  // namespace fleetwright

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "ScreenReader.h"
+#include "Window.h"
 
+#include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
@@ -24,30 +25,30 @@ struct Design {
 /// names like "aboard: Gun".
 using Shown = std::map<std::string, std::string>;
 
-/// What the command line tool makes of a design.
+/// What the command line tool makes of a design, or of the one in a file.
 Shown expectedOf(const Design& design);
+Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass = false);
 
 /// The main window of the program that runs.
-class MainWindow {
+class MainWindow : public Window {
 public:
     static constexpr const char* title = "Fleet Wright";
 
-    /// Waits for the window, and for the keyboard to be its own.
-    MainWindow();
+    MainWindow() : Window(title) {}
 
-    /// Something in the window, or in a part of it; waits for it.
-    Element get(const std::string& role, const std::string& name) const;
+    /// Something in a part of the window; waits for it.
     Element getIn(const std::string& part, const std::string& role, const std::string& name) const;
     /// Waits until the window shows what the tool says about a design.
     void waitFor(const Design& design) const;
-    /// Waits for the keyboard to be the window's again.
-    void waitUntilActive() const;
-    /// Moves the keyboard to an element, with the keyboard.
-    void tabTo(const std::string& role, const std::string& name) const;
+    void waitForShip(const std::filesystem::path& file) const;
+    /// Waits until the status bar says something that begins like this; all that it says.
+    std::string waitForStatus(const std::string& begin) const;
+    /// Chooses an entry of a menu.
+    void choose(const std::string& menu, const std::string& entry) const;
 
 private:
-    Element window() const;
     Shown shown() const;
+    void waitUntilShown(const Shown& expected) const;
 };
 
 }  // namespace fleetwright

@@ -27,8 +27,7 @@ RunningProgram::RunningProgram() {
 
 RunningProgram::~RunningProgram() {
     if (isRunning()) {
-        kill(m_process, SIGKILL);
-        waitpid(m_process, nullptr, 0);
+        crash();
     } else if (!m_isAwaited) {
         ADD_FAILURE() << "the program has ended by itself, with status " << m_status;
     }
@@ -37,9 +36,12 @@ RunningProgram::~RunningProgram() {
 void RunningProgram::start() {
     const std::string program = m_folder.path() / "FleetWright";
     const std::string settings = m_folder.path() / "settings";
+    const std::string data = dataHome();
+    m_isAwaited = false;
     m_process = fork();
     if (m_process == 0) {
         setenv("XDG_CONFIG_HOME", settings.c_str(), 1);
+        setenv("XDG_DATA_HOME", data.c_str(), 1);
         execl(program.c_str(), program.c_str(), nullptr);
         _exit(126);
     }
@@ -55,6 +57,13 @@ bool RunningProgram::isRunning() {
         m_status = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
     }
     return m_process != 0;
+}
+
+void RunningProgram::crash() {
+    m_isAwaited = true;
+    kill(m_process, SIGKILL);
+    waitpid(m_process, nullptr, 0);
+    m_process = 0;
 }
 
 int RunningProgram::waitForEnd() {

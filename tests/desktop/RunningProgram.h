@@ -8,8 +8,8 @@
 
 namespace fleetwright {
 
-/// The delivered program, in an application folder and with settings of its own. It ends with this
-/// object.
+/// The delivered program, in an application folder, with settings and user's data of its own. It
+/// ends with this object.
 class RunningProgram {
 public:
     /// Copies the application folder, as it is before the first start.
@@ -19,8 +19,12 @@ public:
     ~RunningProgram();
 
     const TemporaryFolder& folder() const { return m_folder; }
+    /// Where it keeps what belongs to its user.
+    std::filesystem::path dataHome() const { return m_folder.path() / "data"; }
     void start();
     bool isRunning();
+    /// Ends it without giving it a chance to do anything about it.
+    void crash();
     /// Waits for its end; its exit status.
     int waitForEnd();
 

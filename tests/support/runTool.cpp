@@ -10,7 +10,8 @@
 
 namespace fleetwright {
 
-ToolRun runTool(const std::string& folder, std::vector<std::string> arguments) {
+ToolRun runTool(const std::string& folder, std::vector<std::string> arguments,
+                std::string variable) {
     const TemporaryFolder capture;
     const std::string output = capture.write("output", "");
     const std::string errors = capture.write("errors", "");
@@ -23,7 +24,7 @@ ToolRun runTool(const std::string& folder, std::vector<std::string> arguments) {
 
     const pid_t child = fork();
     if (child == 0) {
-        char* environment[] = {nullptr};
+        char* environment[] = {variable.empty() ? nullptr : variable.data(), nullptr};
         const bool isReady = chdir(folder.c_str()) == 0 &&
                              std::freopen("/dev/null", "r", stdin) != nullptr &&
                              std::freopen(output.c_str(), "w", stdout) != nullptr &&

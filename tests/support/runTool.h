@@ -11,7 +11,9 @@ struct ToolRun {
     std::string errors;  ///< what it wrote to standard error
 };
 
-/// Runs the delivered command line tool in `folder`, with nothing in its environment.
-ToolRun runTool(const std::string& folder, std::vector<std::string> arguments);
+/// Runs the delivered command line tool in `folder`, with nothing in its environment but what is
+/// given, "NAME=value".
+ToolRun runTool(const std::string& folder, std::vector<std::string> arguments,
+                std::string variable = {});
 
 }  // namespace fleetwright

@@ -56,7 +56,12 @@ std::string QtPictureFiles::encode(const Raster& picture, const std::string& for
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, QByteArray::fromStdString(format));
-    if (!writer.write(toImage(picture))) {
+    QImage image = toImage(picture);
+    // The file would else tell the resolution of this machine's screen.
+    constexpr int dotsPerMeter = 3937;  // 100 to the inch
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+    if (!writer.write(image)) {
         throw Error("the picture cannot be written: " + writer.errorString().toStdString());
     }
     return bytes.toStdString();
