@@ -10,9 +10,8 @@ namespace {
 
 class BenchFolder {
 public:
-    BenchFolder() {
-        std::string name =
-            (std::filesystem::temp_directory_path() / "fleetwright-bench-XXXXXX").string();
+    explicit BenchFolder(const std::filesystem::path& parent) {
+        std::string name = (parent / "fleetwright-bench-XXXXXX").string();
         if (mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("no temporary folder");
         }
@@ -31,7 +30,14 @@ public:
 }  // namespace
 
 const std::filesystem::path& benchFolder() {
-    static const BenchFolder folder;
+    static const BenchFolder folder(std::filesystem::temp_directory_path());
+    return folder.path;
+}
+
+const std::filesystem::path& memoryFolder() {
+    const std::filesystem::path memory = "/dev/shm";
+    static const BenchFolder folder(
+        std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path());
     return folder.path;
 }
 

@@ -9,10 +9,10 @@
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
 #include "TextFile.h"
+#include "ToolPictures.h"
 #include "capitals.h"
 #include "checkMapPlaces.h"
 #include "folders.h"
-#include "loadPictures.h"
 
 #include <cstdio>
 #include <utility>
@@ -37,7 +37,8 @@ std::vector<Fault> checkCatalogueFile(const Options& options, const fs::path& fi
     std::vector<Fault> faults = checkCatalogue(text);
     const fs::path images = file.parent_path() / "images";
     if (fs::is_directory(images)) {
-        PictureCheck check(images, loadPictures(options.programFolder).files);
+        ToolPictures pictures(options.programFolder);
+        PictureCheck check(images, pictures);
         for (Fault& fault : check.checkCatalogue(text)) {
             faults.push_back(std::move(fault));
         }
@@ -61,7 +62,8 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options) {
                      images.string().c_str());
         return {};
     }
-    PictureCheck check(images, loadPictures(options.programFolder).files);
+    ToolPictures pictures(options.programFolder);
+    PictureCheck check(images, pictures);
     check.checkCatalogue(catalogue);
     return check.checkRest();
 }
@@ -73,7 +75,7 @@ std::vector<Fault> checkMap(const Options& options, const std::string& text) {
     Raster picture;
     if (std::error_code error; fs::is_regular_file(outline, error)) {
         try {
-            picture = loadPictures(options.programFolder).files.load(outline);
+            picture = ToolPictures(options.programFolder).load(outline);
         } catch (const FileError& fault) {
             faults.push_back({places.imageLine, "the outline " + std::string(fault.what())});
         }

@@ -4,10 +4,10 @@
 #include "OutlineScan.h"
 #include "PictureFiles.h"
 #include "TextFile.h"
+#include "ToolPictures.h"
 #include "capitals.h"
 #include "folders.h"
 #include "inOrder.h"
-#include "loadPictures.h"
 #include "saveFile.h"
 
 #include <cstdio>
@@ -70,7 +70,7 @@ private:
 }  // namespace
 
 int runScan(const Options& options) {
-    const Pictures& pictures = loadPictures(options.programFolder);
+    ToolPictures pictures(options.programFolder);
     int status = Done;
     MapWriter writer(options);
     const auto complain = [&status](const std::string& line) {
@@ -95,7 +95,7 @@ int runScan(const Options& options) {
     };
     inOrder(
         options.files.size(), std::thread::hardware_concurrency(),
-        [&](std::size_t index) { return scanFile(pictures.files, options.files[index]); }, take);
+        [&](std::size_t index) { return scanFile(pictures, options.files[index]); }, take);
     return status;
 }
 

@@ -5,10 +5,10 @@
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
 #include "TextFile.h"
+#include "ToolPictures.h"
 #include "drawnSheet.h"
 #include "folders.h"
 #include "keepFreedMemory.h"
-#include "loadPictures.h"
 #include "saveFile.h"
 
 #include <map>
@@ -107,10 +107,10 @@ int runSheet(const Options& options) {
         throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
     }
     keepFreedMemory();
-    const Pictures& pictures = loadPictures(options.programFolder);
-    PictureCache cache(pictures.files);
+    ToolPictures pictures(options.programFolder);
+    PictureCache cache(pictures);
     const SSDMaps maps = loadMaps(options.appFolder);
-    const SheetTools tools{options.appFolder, cache, pictures.encoder, maps};
+    const SheetTools tools{options.appFolder, cache, pictures, maps};
     if (options.sheetOut == SheetOut::Document) {
         const std::unique_ptr<Pages> pages = pictures.newPages(options.paper);
         return drawDocument(options, tools, *pages);

@@ -1,6 +1,7 @@
 #include "QtPictureFiles.h"
 
 #include "Error.h"
+#include "bmpFile.h"
 #include "qtImage.h"
 
 #include <QBuffer>
@@ -51,8 +52,10 @@ Raster QtPictureFiles::builtIn(const std::string& name) {
 }
 
 std::string QtPictureFiles::encode(const Raster& picture, const std::string& format) {
+    if (format == "bmp" && !picture.isEmpty()) {
+        return bmpFile(picture);  // Qt's own would depend on the screen
+    }
     QByteArray bytes;
-    bytes.reserve(3 * picture.width() * picture.height());  // it would be moved time and again
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, QByteArray::fromStdString(format));
