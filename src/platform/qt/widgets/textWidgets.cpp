@@ -7,6 +7,7 @@
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
@@ -16,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 
 namespace fleetwright {
 
@@ -192,11 +194,18 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
             for (const std::string& item : *shown) {
                 widget->addItem(toQt(item));
             }
+            const int scrollBar = widget->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+            widget->view()->setMinimumWidth(widget->view()->sizeHintForColumn(0) + scrollBar);
         }
-        if (widget->currentText() != toQt(box.text())) {
-            widget->setEditText(toQt(box.text()));
+        // The arrow keys go on from the item that the text is, and else begin at the first.
+        const QString text = toQt(box.text());
+        widget->setCurrentIndex(widget->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        if (widget->currentText() != text) {
+            widget->setEditText(text);
         }
+        widget->lineEdit()->setToolTip(text);  // which may be longer than the box
     });
+    widget->view()->setTextElideMode(Qt::ElideNone);
     QObject::connect(widget, &QComboBox::editTextChanged,
                      [&box](const QString& text) { box.type(text.toStdString()); });
     QObject::connect(widget, &QComboBox::activated,
