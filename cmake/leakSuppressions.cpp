@@ -1,0 +1,11 @@
+// For the sanitizer build: Qt keeps what it knows of a thread that it has not started itself, and
+// the tool's workers are such threads. Nothing is said of it, since tests compare what is said.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libQt6Core\n";
+}
+
+extern "C" const char* __lsan_default_options();
+extern "C" const char* __lsan_default_options() {
+    return "print_suppressions=0";
+}
