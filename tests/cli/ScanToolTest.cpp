@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 using namespace fleetwright;
-namespace fs = std::filesystem;
 
 namespace {
 
