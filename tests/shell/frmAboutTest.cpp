@@ -1,6 +1,6 @@
 #include "frmAbout.h"
 
-#include "Desktop.h"
+#include "NoDesktop.h"
 #include "Programs.h"
 #include "Registry.h"
 #include "TemporaryFolder.h"
@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Machine : public Desktop, public Programs, public Registry {
+class Machine : public NoDesktop, public Programs, public Registry {
 public:
     std::string log;
     std::map<std::string, Value> values;
@@ -26,12 +26,6 @@ public:
         log += "box " + text + '/' + title + "; ";
         return Answer::Ok;
     }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
-    void popUp(MenuEntry&) override {}
-    void showModal(Form&, Form&) override {}
-    void unloadAllForms() override {}
-    ScreenSize screenSize() override { return {}; }
 
     bool run(const fs::path&, const std::string&, const fs::path&, int,
              const std::function<void()>&) override {

@@ -1,9 +1,9 @@
 #include "frmSplash.h"
 
 #include "Clock.h"
-#include "Desktop.h"
 #include "Error.h"
 #include "Globals.h"
+#include "NoDesktop.h"
 #include "PictureFiles.h"
 #include "Programs.h"
 #include "SettingsStore.h"
@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A machine that writes down what the start asks of it.
-class Machine : public Desktop,
+class Machine : public NoDesktop,
                 public SettingsStore,
                 public Clock,
                 public Sounds,
@@ -42,11 +42,6 @@ public:
         log += "box " + text + '/' + title + (icon == Icon::Critical ? " critical; " : "; ");
         return Answer::Ok;
     }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
-    void popUp(MenuEntry&) override {}
-    void showModal(Form&, Form&) override {}
-    void unloadAllForms() override {}
     ScreenSize screenSize() override { return screen; }
 
     std::string read(const std::string& section, const std::string& key,
