@@ -7,6 +7,7 @@
 #include "StartUpProgress.h"
 #include "TextFile.h"
 #include "capitals.h"
+#include "folders.h"
 
 #include <algorithm>
 #include <cctype>
@@ -58,8 +59,8 @@ void frmMain::LoadWeaponTree() {
             m_services.progress.setText("Loading: " + std::string(fields.name));
             m_services.progress.repaint();
         }
-        Raster picture =
-            m_services.pictures.load(m_services.appFolder / "images" / nativePath(fields.icon));
+        Raster picture = m_services.pictures.load(
+            findFile(m_services.appFolder / "images" / nativePath(fields.icon)));
         const std::string categoryKey = toCapitals(fields.categoryKey);
         const std::string key = fields.isCategory() ? categoryKey : std::string(fields.name);
         ilWeapons.add(key, std::move(picture));

@@ -27,6 +27,15 @@ TEST(FrmMain, LoadsInOrderAndShowsASavedShip) {
     EXPECT_EQ(test.window().lvCurrentWeapons.columns()[1].width, 1370);
 }
 
+TEST(FrmMain, FindsPicturesWhateverTheCaseOfTheirNames) {
+    TestWindow test("Gun,1,1,x,BEAM,F,GUN.gif\nScreen,1,1,x,BEAM,F,Screen.gif\n");
+    test.folder().write("images/Gun.GIF", "");
+    test.window().load();
+    EXPECT_EQ(test.takeLog(),
+              "Preparing to load weapons; Loading: Gun; paint; picture: images/Gun.GIF; "
+              "Loading: Screen; paint; picture: images/Screen.gif; Weapons Loaded; ");
+}
+
 TEST(FrmMain, WithoutACatalogueSaysSoAndEnds) {
     TestWindow test;
     std::filesystem::remove(test.folder().path() / "weaps.dat");
