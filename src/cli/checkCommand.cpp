@@ -15,6 +15,7 @@
 #include "folders.h"
 
 #include <cstdio>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -27,8 +28,9 @@ namespace {
 std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file) {
     const std::string text = readTextFile(nativePath(file));
     ShipOnScreen screen(appFolder);
-    screen.load(file);
-    return checkShipFile(text, screen.ship());
+    // Asked here, for the window drops a ship that does not load, and its fault with it.
+    const std::optional<Fault> loadFault = screen.load(file);
+    return checkShipFile(text, screen.ship(), loadFault);
 }
 
 /// The faults of a catalogue, those of its pictures included where the folder beside it is there.

@@ -171,7 +171,6 @@ private:
     Figures workOutFigures(const HullDesign& hull);
     void show(const Figures& figures);
     void fitMass();
-    void nestedPass();
     void restoreMass(std::int32_t mass);
     std::int32_t evaluate(std::string_view& text, const HullDesign& hull, std::int32_t hullCost,
                           std::int32_t amount);

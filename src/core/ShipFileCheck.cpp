@@ -25,7 +25,8 @@ std::string quote(std::string_view text) {
 
 class ShipFileChecker {
 public:
-    explicit ShipFileChecker(const ShipClass& ship) : m_ship(ship) {}
+    ShipFileChecker(const ShipClass& ship, const std::optional<Fault>& loadFault)
+        : m_ship(ship), m_loadFault(loadFault) {}
 
     std::vector<Fault> check(std::string_view text);
 
@@ -46,6 +47,7 @@ private:
     void complainAt(int line, std::string text) { m_faults.push_back({line, std::move(text)}); }
 
     const ShipClass& m_ship;
+    const std::optional<Fault>& m_loadFault;
     std::vector<Fault> m_faults;
     std::map<ShipKey, int> m_linesByKey;  // the last line of each key
     std::set<ShipKey> m_movingKeys;       // those whose value no base can have
@@ -65,9 +67,7 @@ std::vector<Fault> ShipFileChecker::check(std::string_view text) {
     checkHull();
     checkCloak();
     checkShip();
-    std::stable_sort(m_faults.begin(), m_faults.end(), [](const Fault& a, const Fault& b) {
-        return a.line != 0 && (b.line == 0 || a.line < b.line);
-    });
+    sortByLine(m_faults);
     return std::move(m_faults);
 }
 
@@ -229,8 +229,8 @@ void ShipFileChecker::checkShip() {
     for (const RefusedLine& line : m_ship.refusedLines()) {
         addUnlessKnown(line.fault);
     }
-    if (const auto& fault = m_ship.fileFault()) {
-        addUnlessKnown(*fault);
+    if (m_loadFault) {
+        addUnlessKnown(*m_loadFault);
     } else if (m_ship.g_iMassLeft < 0) {
         complainAt(0, "overloaded: the systems are " + std::to_string(-m_ship.g_iMassLeft) +
                           " mass units too heavy for the hull");
@@ -239,8 +239,9 @@ void ShipFileChecker::checkShip() {
 
 }  // namespace
 
-std::vector<Fault> checkShipFile(std::string_view text, const ShipClass& ship) {
-    return ShipFileChecker(ship).check(text);
+std::vector<Fault> checkShipFile(std::string_view text, const ShipClass& ship,
+                                 const std::optional<Fault>& loadFault) {
+    return ShipFileChecker(ship, loadFault).check(text);
 }
 
 }  // namespace fleetwright

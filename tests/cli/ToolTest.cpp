@@ -154,8 +154,14 @@ TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
 
 TEST_F(Tool, CheckNamesEveryFault) {
     m_folder.write("ok/weaps.dat", "Gun,1,1,BEAM,BEAM,F,x.gif,\nShell,1 +,1,BEAM,ODD,F,x.gif\n");
-    EXPECT_EQ(all(run({"--app", ".", "check", "bad.shp", "part.shp", "none.shp", "x.gif"})),
+    m_folder.write("huge.shp", "Mass: 2000000000\n");
+    m_folder.write("fast.shp", "Thrust: 40000\n");
+    EXPECT_EQ(all(run({"--app", ".", "check", "bad.shp", "huge.shp", "fast.shp", "part.shp",
+                       "none.shp", "x.gif"})),
               "1|bad.shp:2: \"fast\" is no number\n"
+              "huge.shp: number too large\n"
+              "fast.shp:1: thrust 40000 is outside 0 to 8\n"
+              "fast.shp: number too large\n"
               "part.shp:2: unknown system \"Laser\"\n"
               "part.shp:4: a merchant hull cannot have a cloak and other systems\n"
               "none.shp: cannot be read: No such file or directory\n"

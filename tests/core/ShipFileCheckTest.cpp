@@ -15,7 +15,7 @@ std::string faultsOf(std::string_view text) {
         ship->weapChange();
     }
     std::string faults;
-    for (const Fault& fault : checkShipFile(text, *ship)) {
+    for (const Fault& fault : checkShipFile(text, *ship, ship->fileFault())) {
         faults += std::to_string(fault.line) + ": " + fault.text + '\n';
     }
     return faults;
