@@ -2,8 +2,6 @@
 
 #include "BenchFolder.h"
 
-#include <QApplication>
-
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
@@ -59,14 +57,6 @@ fs::path benchApplication(int records) {
 BenchWindow::BenchWindow(const fs::path& appFolder)
     : m_form(m_silent.services(appFolder, m_pictures)) {
     m_form.show();
-}
-
-void needQt() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int argc = 1;
-    static char name[] = "benchmarks";
-    static char* argv[] = {name, nullptr};
-    static const QApplication application(argc, argv);
 }
 
 }  // namespace fleetwright

@@ -25,7 +25,4 @@ private:
     frmMain m_form;
 };
 
-/// Makes the one QApplication of this process, without a screen.
-void needQt();
-
 }  // namespace fleetwright

@@ -34,7 +34,6 @@ void clickThrust(frmMain& form) {
 }
 
 void rules(benchmark::State& state, int records) {
-    needQt();
     BenchWindow window(benchApplication(records));
     fitSystems(window.form());
     for ([[maybe_unused]] auto _ : state) {
@@ -56,7 +55,6 @@ public:
 };
 
 void painting(benchmark::State& state, int records) {
-    needQt();
     BenchWindow window(benchApplication(records));
     FormWindow drawn(window.form());
     fitSystems(window.form());

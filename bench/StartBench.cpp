@@ -124,7 +124,6 @@ void startProgram(benchmark::State& state) {
 }
 
 void startBareWindow(benchmark::State& state) {
-    needQt();
     const std::string file = description();
     for ([[maybe_unused]] auto _ : state) {
         run({BARE_WINDOW, file});

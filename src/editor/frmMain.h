@@ -96,7 +96,10 @@ public:
                     [this] { txtMass_Change(); }};
     Label lblMassLft{
         fraMassNfo, {.name = "lblMassLft", .place = {105, 810, 1050, 300}, .caption = "Mass Left"}};
-    Label lblMassLeft{fraMassNfo, {.name = "lblMassLeft", .place = {1260, 840, 750, 225}}};
+    Label lblMassLeft{fraMassNfo,
+                      {.name = "lblMassLeft",
+                       .place = {1260, 840, 750, 225},
+                       .accessibleDescription = "Mass Left"}};
     Frame fraMassSpinner{fraMassNfo, {.name = "fraMassSpinner", .place = {2100, 315, 1452, 900}}};
     Label Label1{fraMassSpinner, {.name = "Label1", .place = {0, 0, 480, 285}, .caption = "x2"}};
     Label Label2{fraMassSpinner, {.name = "Label2", .place = {480, 0, 480, 285}, .caption = "x10"}};
@@ -296,15 +299,21 @@ public:
                              .caption = index % 2 == 0 ? "Mass" : "Cost"});
     });
     std::array<Label, 2> lblWeapMass = controlArray<Label, 2>([this](int index) {
-        return Label(*this, {.name = "lblWeapMass" + std::to_string(index),
-                             .place = {index == 0 ? 7770 : 3570, 7455, 960, 330}});
+        return Label(*this,
+                     {.name = "lblWeapMass" + std::to_string(index),
+                      .place = {index == 0 ? 7770 : 3570, 7455, 960, 330},
+                      .accessibleDescription = index == 0 ? "Mass of the system in the catalogue"
+                                                          : "Mass of the system aboard"});
     });
     std::array<Label, 2> lblWeapCost = controlArray<Label, 2>([this](int index) {
-        return Label(*this, {.name = "lblWeapCost" + std::to_string(index),
-                             .place = {index == 0 ? 9765 : 5565, 7455, 960, 330}});
+        return Label(*this,
+                     {.name = "lblWeapCost" + std::to_string(index),
+                      .place = {index == 0 ? 9765 : 5565, 7455, 960, 330},
+                      .accessibleDescription = index == 0 ? "Cost of the system in the catalogue"
+                                                          : "Cost of the system aboard"});
     });
 
-    StatusBar sbStatus{*this, {.name = "sbStatus"}};
+    StatusBar sbStatus{*this, {.name = "sbStatus", .accessibleDescription = "Status"}};
 
     DragImage imgDrag{*this, {.name = "imgDrag", .place = {0, 0, 480, 480}, .isVisible = false}};
     TrayIcon tray1{

@@ -32,7 +32,8 @@ struct ControlDesign {
     std::string shortcut = {};        ///< of a menu entry: "Ctrl+N"
     bool isVerbatim = false;          ///< of a menu entry: an "&" is one, and marks no access key
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
-    bool isOn = false;                ///< of an option button or check box
+    std::string accessibleDescription = {};  ///< where the caption is a value: what is told by it
+    bool isOn = false;                       ///< of an option button or check box
     bool isGraphical = false;  ///< of an option button or check box: a button that stays down
     bool isFramed = false;     ///< of a label or picture box: with a border
     bool isHeading = false;    ///< of a label: in large letters

@@ -46,7 +46,7 @@ public:
     void setText(const std::string& text) override { sbInfo.setText(text); }
     void repaint() override { Form::repaint(); }
 
-    StatusBar sbInfo{*this, {.name = "sbInfo"}};
+    StatusBar sbInfo{*this, {.name = "sbInfo", .accessibleDescription = "Status"}};
     PictureBox Picture1{*this, {.name = "Picture1"}};
     PictureBox Picture2{*this, {.name = "Picture2"}};
     Timer Timer1{*this, "Timer1", 100, false, [this] { Timer1_Timer(); }};

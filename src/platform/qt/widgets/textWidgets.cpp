@@ -46,8 +46,6 @@ QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
 QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     auto* const widget = new QLabel(parent);
     prepare(widget, bar, scale);
-    // Its name for a screen reader stays its text: that is what there is to be read.
-    widget->setAccessibleDescription("Status");
     widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     widget->setMargin(2);
     const int height = scale.pixels(StatusBar::height);

@@ -60,6 +60,9 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     if (!design.accessibleName.empty()) {
         widget->setAccessibleName(toQt(design.accessibleName));
     }
+    if (!design.accessibleDescription.empty()) {
+        widget->setAccessibleDescription(toQt(design.accessibleDescription));
+    }
     keepInStep(widget, control, [widget, &control, scale, place] {
         if (*place != control.place()) {
             *place = control.place();
