@@ -179,9 +179,9 @@ void frmMain::act(const std::function<void()>& change) {
     runWaiting();
 }
 
-/// Runs what has waited for the acts to end.
+/// Runs what has waited for the acts to end. Behind the end of the window nothing is left to do.
 void frmMain::runWaiting() {
-    while (m_actDepth == 0 && !m_whenIdle.empty()) {
+    while (g_Ship && m_actDepth == 0 && !m_whenIdle.empty()) {
         const std::function<void()> task = std::move(m_whenIdle.front());
         m_whenIdle.erase(m_whenIdle.begin());
         task();

@@ -82,7 +82,9 @@ bool frmMain::loadFile(const std::string& fileName) {
     if (isLoaded) {
         addRecentFile();
     } else {
-        replaceShipAndRows();  // nobody takes half a ship for the one in the file
+        // Nobody takes half a ship, or the former one, for the one in the file.
+        replaceShipAndRows();
+        runUndoable([this] { RefreshScreen(); });
     }
     noteSafe();
     runWaiting();
@@ -114,7 +116,8 @@ void frmMain::mnuNew_Click() {
         replaceShipAndRows();
         mnuAutoMass.setChecked(false);
         fraMassSpinner.setVisible(true);
-        act([this] { RefreshScreen(); });
+        // What waits, the end of the window perhaps, waits for the last step.
+        runUndoable([this] { RefreshScreen(); });
         g_Ship->g_bSaved = true;
         noteSafe();
     });

@@ -68,8 +68,16 @@ void frmMain::showRecovered() {
     if (m_services.recovery == nullptr) {
         return;
     }
-    if (const auto design = m_services.recovery->keepLeftBehind()) {
-        sbStatus.setText("Recovered design: " + design->string());
+    const std::vector<RecoveryFolder::Design> designs = m_services.recovery->keepLeftBehind();
+    if (designs.size() == 1) {
+        sbStatus.setText("Recovered design: " + designs.front().file.string());
+    } else if (!designs.empty()) {
+        std::string names;
+        for (const RecoveryFolder::Design& design : designs) {
+            names += (names.empty() ? "" : ", ") + design.name;
+        }
+        sbStatus.setText("Recovered designs: " + names + " in " +
+                         designs.front().file.parent_path().string());
     }
 }
 

@@ -56,17 +56,18 @@ fs::file_time_type timeOf(const fs::path& file) {
 RecoveryFolder::RecoveryFolder(fs::path folder, Runs runs, std::function<std::string()> now)
     : m_folder(std::move(folder)), m_runs(std::move(runs)), m_now(std::move(now)) {}
 
-std::optional<fs::path> RecoveryFolder::keepLeftBehind() {
-    std::optional<fs::path> newest;
+std::vector<RecoveryFolder::Design> RecoveryFolder::keepLeftBehind() {
+    std::vector<Design> leftBehind;
     for (const Design& design : list(m_folder)) {
         const std::string mark = markOf(design.file);
         if (!mark.empty() && mark != m_runs.ownMark && !m_runs.isRunning(mark)) {
             const fs::path kept = keepFile(design.file);
-            newest = newest ? newest : kept;
+            leftBehind.push_back({kept.stem().string(), kept});
         }
     }
     takeOldestAway();
-    return newest;
+    std::erase_if(leftBehind, [](const Design& design) { return !fs::exists(design.file); });
+    return leftBehind;
 }
 
 void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {

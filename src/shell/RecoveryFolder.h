@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,14 +18,20 @@ public:
         std::function<bool(const std::string& mark)> isRunning;
     };
 
+    /// One design that was put aside.
+    struct Design {
+        std::string name;  ///< of ship and time
+        std::filesystem::path file;
+    };
+
     static constexpr std::size_t mostKept = 10;
 
     RecoveryFolder(std::filesystem::path folder, Runs runs, std::function<std::string()> now);
     RecoveryFolder(const RecoveryFolder&) = delete;
     RecoveryFolder& operator=(const RecoveryFolder&) = delete;
 
-    /// Keeps what runs that have crashed have left. The newest of these designs, if there is one.
-    std::optional<std::filesystem::path> keepLeftBehind();
+    /// Keeps what runs that have crashed have left: these designs, the newest first.
+    std::vector<Design> keepLeftBehind();
     /// Writes the design at work as the file of this run. Throws FileError.
     void put(const std::string& shipName, const std::string& shipFile);
     /// Keeps the file of this run, if there is one, for good; of those kept the last ten stay.
@@ -34,11 +39,6 @@ public:
     /// Takes the file of this run away, if there is one.
     void forget();
 
-    /// One design that was put aside.
-    struct Design {
-        std::string name;  ///< of ship and time
-        std::filesystem::path file;
-    };
     /// All designs in a folder, the newest first.
     static std::vector<Design> list(const std::filesystem::path& folder);
 

@@ -158,7 +158,12 @@ TEST(FrmMainDesign, ReplacingAndClosingWaitForAutoMass) {
     closing.globals.g_bConfirmExit = false;
     closing.window().show();
     closing.window().mnuAutoMass.choose();
-    closing.inTurn = [&] { EXPECT_FALSE(closing.window().unload()); };
+    closing.answer = Answer::Yes;
+    closing.inTurn = [&] {
+        closing.window().mnuNew.choose();
+        EXPECT_FALSE(closing.window().unload());
+        closing.window().mnuNew.choose();
+    };
     closing.window().optStarBase.choose();
     EXPECT_EQ(closing.window().g_Ship, nullptr);
     EXPECT_TRUE(closing.takeLog().ends_with("free library; unload all; "));

@@ -93,6 +93,8 @@ TEST_F(Files, LoadAsksNothingAndFillsTheList) {
     window.mnuLoad.choose();
     EXPECT_EQ(test.takeLog(), "");
     EXPECT_EQ(test.list(), "");
+    EXPECT_TRUE(window.optWarship.isOn()) << "the new ship is seen at once";
+    EXPECT_FALSE(window.mnuSave.isEnabled());
     EXPECT_EQ(test.ship().g_sSaveName, "");
     EXPECT_EQ(recent(), "| Wasp");
 }
@@ -221,6 +223,28 @@ TEST_F(Files, ADesignThatGoesUnsavedIsKept) {
     EXPECT_TRUE(aside().find("Bee time 3.shp~1 ") != std::string::npos) << "a name is work, too";
     window.unload();
     EXPECT_TRUE(aside().find("Bee time 3.shp ") != std::string::npos);
+}
+
+TEST(Recovered, EachDesignThatCrashesHaveLeftIsNamed) {
+    TestWindow test;
+    const fs::path folder = test.folder().path() / "recovered";
+    fs::create_directory(folder);
+    const auto leave = [&](const char* file, int secondsAgo) {
+        test.folder().write((fs::path("recovered") / file).string(), "Mass: 4\n");
+        fs::last_write_time(folder / file,
+                            fs::file_time_type::clock::now() - std::chrono::seconds(secondsAgo));
+    };
+    leave("Bee t1.shp~7", 20);
+    leave("Wasp t2.shp~8", 10);
+    test.window().show();
+    EXPECT_EQ(test.window().sbStatus.text(),
+              "Recovered designs: Wasp t2, Bee t1 in " + folder.string());
+
+    TestWindow other;
+    fs::create_directory(other.folder().path() / "recovered");
+    const std::string ant = other.folder().write("recovered/Ant t1.shp~7", "Mass: 4\n");
+    other.window().show();
+    EXPECT_EQ(other.window().sbStatus.text(), "Recovered design: " + ant.substr(0, ant.find('~')));
 }
 
 TEST_F(Files, AFileThatDoesNotFitLeavesANewShip) {

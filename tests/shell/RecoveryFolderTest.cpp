@@ -46,11 +46,12 @@ TEST_F(Recovery, FindsWhatACrashHasLeftAndLeavesARunningProgramAlone) {
     RecoveryFolder next = open("13");
     next.put("Ant", "four");
     const auto found = next.keepLeftBehind();
-    ASSERT_TRUE(found);
-    EXPECT_EQ(found->filename(), "Wasp t1.shp");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].name, "Wasp t1");
+    EXPECT_EQ(found[0].file.filename(), "Wasp t1.shp");
     EXPECT_EQ(temporary.read("recovered/Wasp t1.shp"), "two");
     EXPECT_EQ(files(), "Ant t3.shp~13 Bee t2.shp~12 Wasp t1.shp ");
-    EXPECT_FALSE(next.keepLeftBehind());
+    EXPECT_TRUE(next.keepLeftBehind().empty());
     next.forget();
     other.keep();
     EXPECT_EQ(files(), "Bee t2.shp Wasp t1.shp ");

@@ -17,21 +17,22 @@ namespace fleetwright {
 
 namespace {
 
-/// "Ship Files(*.shp)|*.shp" and the like as Qt writes it: "Ship Files (*.shp)".
+/// "Ship Files(*.shp)|*.shp" and the like as Qt writes it, with the pattern in brackets behind the
+/// label, which may end in brackets of its own.
 QStringList nameFilters(const std::string& filter) {
     const QStringList parts = toQt(filter).split('|');
     QStringList filters;
     for (qsizetype i = 0; i < parts.size(); i += 2) {
-        const QString label = parts[i].section('(', 0, 0).trimmed();
         const QString pattern = parts.value(i + 1);
         const bool isAll = pattern.isEmpty() || pattern == "*.*";
-        filters += label + " (" + (isAll ? QString("*") : pattern) + ')';
+        filters += parts[i] + " (" + (isAll ? QString("*") : pattern) + ')';
     }
     return filters;
 }
 
 void prepareDialog(QFileDialog& dialog, const FileDialog& wanted) {
     dialog.setObjectName("fileDialog");
+    dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels show as they were written
     dialog.setNameFilters(nameFilters(wanted.filter));
     dialog.selectNameFilter(dialog.nameFilters().value(wanted.filterIndex - 1));
     dialog.setDirectory(toQt(wanted.initialFolder.string()));
@@ -123,11 +124,27 @@ std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted)
     return std::nullopt;
 }
 
+/// The window in which a control stands, if it has been made.
+const QWidget* QtDesktop::windowWith(const Control& control) const {
+    const Control* form = &control;
+    while (form->container() != nullptr) {
+        form = form->container();
+    }
+    for (const auto& [each, presented] : m_presented) {
+        if (each == form) {
+            return presented.window.get();
+        }
+    }
+    return nullptr;
+}
+
 void QtDesktop::popUp(MenuEntry& menu) {
-    // A menu that was asked for by a key opens at what has the keyboard.
+    // A menu that was asked for by a key opens at what has the keyboard in the menu's own window:
+    // the icon of a window in the tray is clicked while the keyboard is elsewhere.
     const QWidget* const focus = QApplication::focusWidget();
-    const bool isByPointer =
-        focus == nullptr || focus->underMouse() || QApplication::mouseButtons() != Qt::NoButton;
+    const bool isByPointer = focus == nullptr || focus->underMouse() ||
+                             focus->window() != windowWith(menu) ||
+                             QApplication::mouseButtons() != Qt::NoButton;
     popUpMenu(menu, isByPointer ? QCursor::pos() : focus->mapToGlobal(focus->rect().center()));
 }
 

@@ -7,8 +7,11 @@
 #include <memory>
 #include <vector>
 
+class QWidget;
+
 namespace fleetwright {
 
+class Control;
 class FormWindow;
 
 /// The desktop of the running Qt application.
@@ -35,6 +38,8 @@ public:
     ScreenSize screenSize() override;
 
 private:
+    const QWidget* windowWith(const Control& control) const;
+
     struct Presented {
         Connection changed;
         bool isMade = false;

@@ -59,7 +59,12 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
         }
         return false;
     });
-    keepInStep(widget, bar, [widget, &bar] { widget->setText(toQt(bar.text())); });
+    keepInStep(widget, bar, [widget, &bar] {
+        const QString text = toQt(bar.text());
+        widget->setText(text);
+        // What the line has no room for can be read all the same.
+        widget->setToolTip(widget->sizeHint().width() > widget->width() ? text : QString());
+    });
     return widget;
 }
 

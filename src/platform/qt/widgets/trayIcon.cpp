@@ -13,14 +13,17 @@ void addTrayIcon(TrayIcon& tray, QWidget* window) {
     icon->setToolTip(toQt(tray.toolTip()));
     tray.askAvailable = [] { return QSystemTrayIcon::isSystemTrayAvailable(); };
     keepInStep(window, tray, [icon, &tray] { icon->setVisible(tray.isOn()); });
-    QObject::connect(icon, &QSystemTrayIcon::activated,
-                     [&tray](QSystemTrayIcon::ActivationReason reason) {
-                         if (reason == QSystemTrayIcon::Trigger) {
-                             raise(tray.onLeftClick);
-                         } else if (reason == QSystemTrayIcon::Context) {
-                             raise(tray.onRightClick);
-                         }
-                     });
+    // Later, when Qt has done with the click: the handlers may take away the icon's own window.
+    QObject::connect(
+        icon, &QSystemTrayIcon::activated, icon,
+        [&tray](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger) {
+                raise(tray.onLeftClick);
+            } else if (reason == QSystemTrayIcon::Context) {
+                raise(tray.onRightClick);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 }  // namespace fleetwright

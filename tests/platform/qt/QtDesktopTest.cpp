@@ -1,0 +1,78 @@
+#include "QtDesktop.h"
+
+#include "Button.h"
+#include "Form.h"
+#include "Menu.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QCursor>
+#include <QFileDialog>
+#include <QTest>
+#include <QTimer>
+
+using namespace fleetwright;
+
+namespace {
+
+/// A form with a button for the keyboard, and with a menu.
+class Page : public Form {
+public:
+    Page() : Form({.name = "page", .width = 4500, .height = 3000}) {}
+
+    Button button{
+        *this, {.name = "button", .place = {1500, 900, 900, 300}, .caption = "OK"}, [] {}};
+    MenuEntry menu{*this, {.name = "menu", .caption = "Menu"}};
+    MenuEntry entry{menu, {.name = "entry", .caption = "Entry"}};
+};
+
+}  // namespace
+
+TEST(QtDesktop, TheFiltersOfFileDialogsShowToTheLetter) {
+    QStringList shown;
+    QString first;
+    QTimer::singleShot(0, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        auto* const filters = dialog->findChild<QComboBox*>("fileTypeCombo");
+        first = filters->currentText();
+        for (int i = 0; i < filters->count(); ++i) {
+            shown += filters->itemText(i);
+        }
+        dialog->reject();
+    });
+    const auto file = QtDesktop().chooseFileToOpen(
+        {.filter = "All Files (*.*)|*.*|Ship Files(*.shp)|*.shp|Others",
+         .filterIndex = 2,
+         .initialFolder = "."});
+    EXPECT_FALSE(file);
+    EXPECT_EQ(shown, QStringList({"All Files (*.*)", "Ship Files(*.shp)", "Others"}));
+    EXPECT_EQ(first, "Ship Files(*.shp)");
+}
+
+TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
+    Page form;
+    Page other;
+    QtDesktop desktop;
+    desktop.present(form);
+    desktop.present(other);
+    form.show();
+    other.show();
+    other.button.setFocus();
+    const auto placeOf = [&](Page& owner) {
+        QPoint place;
+        QTimer::singleShot(0, [&] {
+            QWidget* const menu = QApplication::activePopupWidget();
+            place = menu->pos();
+            menu->close();
+        });
+        desktop.popUp(owner.menu);
+        return place;
+    };
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+    const QWidget* const focus = QApplication::focusWidget();
+    ASSERT_FALSE(focus->underMouse());
+    EXPECT_EQ(placeOf(other), focus->mapToGlobal(focus->rect().center()));
+    EXPECT_EQ(placeOf(form), QCursor::pos());
+}
