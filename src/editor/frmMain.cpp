@@ -144,7 +144,8 @@ void frmMain::g_Ship_CloakAndMerchant() {
 }
 
 void frmMain::g_Ship_WeaponNotFound() {
-    m_services.desktop.showMessage("Couldn 't find the weapon");
+    // The timer ticks behind the box, also in the middle of a load.
+    letActsIn([this] { m_services.desktop.showMessage("Couldn 't find the weapon"); });
 }
 
 void frmMain::g_Ship_AutoMassUnsettled() {
@@ -213,13 +214,18 @@ void frmMain::whenIdle(std::function<void()> task) {
     }
 }
 
-/// AutoMass lets the user act in the middle of its own work; such an act is one of its own.
+/// AutoMass lets the user act in the middle of its own work.
 void frmMain::giveTurn() {
     if (m_services.eventLoopTurn) {
-        const bool wasInTurn = std::exchange(m_isInTurn, true);
-        m_services.eventLoopTurn();
-        m_isInTurn = wasInTurn;
+        letActsIn(m_services.eventLoopTurn);
     }
+}
+
+/// Runs what runs the event loop. An act that comes in there is one of its own.
+void frmMain::letActsIn(const std::function<void()>& turn) {
+    const bool wasInTurn = std::exchange(m_isInTurn, true);
+    turn();
+    m_isInTurn = wasInTurn;
 }
 
 void frmMain::RefreshScreen() {

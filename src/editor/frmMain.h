@@ -413,6 +413,7 @@ private:
     void runUndoable(const std::function<void()>& change);
     void runWaiting();
     void giveTurn();
+    void letActsIn(const std::function<void()>& turn);
 
     // The tree.
     void addOwnPictures();

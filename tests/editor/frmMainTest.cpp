@@ -59,6 +59,22 @@ TEST(FrmMain, StatusOutlivesOneTickAndNotTwo) {
     EXPECT_EQ(window.sbStatus.text(), "other");
 }
 
+TEST(FrmMain, ATickBehindABoxInALoadIsAnActOfItsOwn) {
+    TestWindow test;
+    frmMain& window = test.window();
+    window.show();
+    test.inTurn = [&] {
+        window.tmrRefreshScreen.tick();
+        EXPECT_EQ(window.sbStatus.text(), "Number too large");
+    };
+    EXPECT_FALSE(
+        window.loadFile(test.folder().write("big.shp", "Mass: 2000000000\nSystem: Nothing, 1\n")));
+    for (int tick = 0; tick < 2; ++tick) {
+        window.tmrRefreshScreen.tick();
+    }
+    EXPECT_EQ(window.sbStatus.text() + window.txtMass.text(), "2");
+}
+
 TEST(FrmMain, TickShowsWhatWasWrittenWithoutARecalculation) {
     TestWindow test;
     test.window().show();

@@ -24,6 +24,7 @@ public:
         m_test.m_log += "box: " + text + (title.empty() ? "" : " / " + title) +
                         (buttons == Buttons::YesNo ? " yes-no" : "") +
                         (icon == Icon::Information ? " info" : "") + "; ";
+        m_test.takeTurn();
         return buttons == Buttons::YesNo ? m_test.answer : Answer::Ok;
     }
     void popUp(MenuEntry& menu) override { m_test.m_log += "menu: " + menu.name() + "; "; }
@@ -142,12 +143,7 @@ TestWindow::TestWindow(std::string_view catalogue)
     m_folder.write("weaps.dat", catalogue);
     m_window = std::make_unique<frmMain>(
         MainWindowServices{.appFolder = m_folder.path(),
-                           .eventLoopTurn =
-                               [this] {
-                                   if (inTurn) {
-                                       std::exchange(inTurn, {})();
-                                   }
-                               },
+                           .eventLoopTurn = [this] { takeTurn(); },
                            .freeFormulaLibrary = [this] { m_log += "free library; "; },
                            .desktop = *m_desk,
                            .pictures = *m_pictures,
@@ -164,6 +160,12 @@ TestWindow::TestWindow(std::string_view catalogue)
 }
 
 TestWindow::~TestWindow() = default;
+
+void TestWindow::takeTurn() {
+    if (inTurn) {
+        std::exchange(inTurn, {})();
+    }
+}
 
 std::string TestWindow::takeLog() {
     return std::exchange(m_log, {});

@@ -43,7 +43,7 @@ public:
 
     Globals globals;
     Answer answer = Answer::No;
-    /// What happens in the next turn of the event loop.
+    /// What happens in the next turn of the event loop, that of a message box included.
     std::function<void()> inTurn;
     /// What the user does in the next dialog.
     std::function<void(Form&)> inDialog;
@@ -60,6 +60,8 @@ private:
     class Pictures;
     class Progress;
     class Settings;
+
+    void takeTurn();
 
     TemporaryFolder m_folder;
     std::string m_log;

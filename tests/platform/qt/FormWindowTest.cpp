@@ -305,6 +305,23 @@ TEST_F(FormWindowTest, ClickingWhatIsSelectedIsAClickAndWidthsAreTheUsers) {
     EXPECT_EQ(list->columnWidth(0), 123);
 }
 
+TEST_F(FormWindowTest, TheFirstMoveWithTheButtonDownDragsAndATremblingHandClicks) {
+    QWidget* const tree = find<QTreeWidget>("tree")->viewport();
+    form.tree.onClick = [&] { form.log += "click "; };
+    form.tree.onMouseMove = [&](const MousePress&) {
+        form.log += "move ";
+        QTest::mouseRelease(find<QLabel>("label"), Qt::LeftButton);  // as the end of a drag
+    };
+    for (const int way : {0, 1, 60}) {
+        QTest::mousePress(tree, Qt::LeftButton, {}, {9, 9});
+        const QPoint to(9 + way, 9), onScreen = tree->mapToGlobal(to);
+        QCursor::setPos(onScreen);
+        QMouseEvent move(QEvent::MouseMove, to, onScreen, Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(tree, &move);
+    }
+    EXPECT_EQ(takeLog(), "tree1 tree1 move click tree1 move ");
+}
+
 TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
     auto* const tree = find<QTreeWidget>("tree");
     QTest::keyClick(tree, Qt::Key_Return);
@@ -328,6 +345,10 @@ TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
     EXPECT_EQ(form.list.selected(), 0U);
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(takeLog(), "row0 ");
+    double top = 0;
+    form.list.onMouseDown = [&](const MousePress& press) { top = press.y / 3000; };
+    QTest::mousePress(list->viewport(), Qt::RightButton, {}, {1, 0});
+    EXPECT_NEAR(top * list->height(), list->viewport()->y(), 1.0);
 }
 
 TEST_F(FormWindowTest, MenusTimersAndClosing) {

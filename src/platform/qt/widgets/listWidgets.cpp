@@ -69,7 +69,11 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override {
         QTreeWidget::mousePressEvent(event);
-        m_list.pressMouse(toPress(*event, m_scale));
+        // The event counts from below the headers, the model from the corner of the list.
+        MousePress press = toPress(*event, m_scale);
+        press.x += m_scale.twips(viewport()->x());
+        press.y += m_scale.twips(viewport()->y());
+        m_list.pressMouse(press);
     }
 
     void dragEnterEvent(QDragEnterEvent* event) override { takeDrag(*event); }

@@ -80,15 +80,19 @@ protected:
             QTreeWidget::mouseMoveEvent(event);
             return;
         }
-        // A hand that trembles in a click is no move, and a move selects nothing.
-        const bool isMove =
-            (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
-        if (isMove && m_tree.onMouseMove) {
-            m_tree.moveMouse(toMove(*event, m_scale));
-            if (QApplication::mouseButtons() == Qt::NoButton) {
-                // The button was let go in the middle of a drag, of which the tree hears nothing.
-                setState(NoState);
-                m_tree.releaseMouse({.button = LeftButton});
+        // A move selects nothing, and what moves by no pixel is no move.
+        if (event->pos() == m_pressedAt || !m_tree.onMouseMove) {
+            return;
+        }
+        m_tree.moveMouse(toMove(*event, m_scale));
+        if (QApplication::mouseButtons() == Qt::NoButton) {
+            // The button was let go in the middle of a drag, of which the tree hears nothing.
+            setState(NoState);
+            m_tree.releaseMouse({.button = LeftButton});
+            // A hand that trembles in a click drags, but not far, and means the click.
+            const QPoint way = viewport()->mapFromGlobal(QCursor::pos()) - m_pressedAt;
+            if (way.manhattanLength() < QApplication::startDragDistance()) {
+                m_tree.click();
             }
         }
     }
