@@ -263,6 +263,14 @@ void FormWindow::raiseAndActivate() {
     if (isVisible() && m_form.state() != WindowState::Minimized) {
         raise();
         activateWindow();
+        if (QGuiApplication::focusWindow() == windowHandle()) {
+            // Hidden and shown again before the desktop took the keyboard from it, the window will
+            // not hear of the keyboard again, and has to be made the active one by hand.
+            QT_WARNING_PUSH
+            QT_WARNING_DISABLE_DEPRECATED
+            QApplication::setActiveWindow(this);
+            QT_WARNING_POP
+        }
     }
 }
 
