@@ -68,8 +68,12 @@ void frmMain::showRecovered() {
     if (m_services.recovery == nullptr) {
         return;
     }
-    if (const auto design = m_services.recovery->keepLeftBehind()) {
-        sbStatus.setText("Recovered design: " + design->string());
+    try {
+        if (const auto design = m_services.recovery->keepLeftBehind()) {
+            sbStatus.setText("Recovered design: " + design->string());
+        }
+    } catch (const FileError& error) {
+        sbStatus.setText(error.file().string() + ": " + error.what());
     }
 }
 

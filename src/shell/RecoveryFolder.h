@@ -26,6 +26,7 @@ public:
     RecoveryFolder& operator=(const RecoveryFolder&) = delete;
 
     /// Keeps what runs that have crashed have left. The newest of these designs, if there is one.
+    /// Throws FileError as `list` does.
     std::optional<std::filesystem::path> keepLeftBehind();
     /// Writes the design at work as the file of this run. Throws FileError.
     void put(const std::string& shipName, const std::string& shipFile);
@@ -39,7 +40,8 @@ public:
         std::string name;  ///< of ship and time
         std::filesystem::path file;
     };
-    /// All designs in a folder, the newest first.
+    /// All designs in a folder, the newest first. Throws FileError if the folder is there and
+    /// cannot be read.
     static std::vector<Design> list(const std::filesystem::path& folder);
 
 private:

@@ -266,4 +266,11 @@ TEST_F(Tool, RecoveredListsDesignsAndWritesOneOut) {
     EXPECT_EQ(all(run({"recovered", "No such design", "out.shp"})),
               "1||No such design: no design of this name was put aside\n");
     EXPECT_EQ(run({"recovered", "Half"}).status, 2);
+
+    // In the place of a folder, which not even root can look into.
+    m_folder.write("FleetWright/recovered", "");
+    const std::string home = "XDG_DATA_HOME=" + m_folder.path().string();
+    EXPECT_EQ(runTool(m_folder.path().string(), {"recovered"}, home).errors,
+              m_folder.path().string() +
+                  "/FleetWright/recovered: cannot be read: Not a directory\n");
 }
