@@ -144,7 +144,11 @@ void frmMain::g_Ship_CloakAndMerchant() {
 }
 
 void frmMain::g_Ship_WeaponNotFound() {
-    m_services.desktop.showMessage("Couldn 't find the weapon");
+    // The timer refreshes the window behind an open box, too, and each time there would be more.
+    if (!std::exchange(m_saysNotFound, true)) {
+        m_services.desktop.showMessage("Couldn 't find the weapon");
+        m_saysNotFound = false;
+    }
 }
 
 void frmMain::g_Ship_AutoMassUnsettled() {

@@ -24,6 +24,9 @@ public:
         m_test.m_log += "box: " + text + (title.empty() ? "" : " / " + title) +
                         (buttons == Buttons::YesNo ? " yes-no" : "") +
                         (icon == Icon::Information ? " info" : "") + "; ";
+        if (m_test.inMessage) {
+            m_test.inMessage();
+        }
         return buttons == Buttons::YesNo ? m_test.answer : Answer::Ok;
     }
     void popUp(MenuEntry& menu) override { m_test.m_log += "menu: " + menu.name() + "; "; }
@@ -125,7 +128,8 @@ TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
       m_progress(std::make_unique<Progress>(*this)), m_settings(std::make_unique<Settings>(*this)),
       m_paper(std::make_unique<Paper>(*this)),
-      m_extras({.globals = globals,
+      m_extras({.desktop = *m_desk,
+                .globals = globals,
                 .settings = *m_settings,
                 .nameShip = [this](const std::string& designer,
                                    const std::string& ship) { window().nameShip(designer, ship); },
@@ -149,6 +153,7 @@ TestWindow::TestWindow(std::string_view catalogue)
                                    }
                                },
                            .freeFormulaLibrary = [this] { m_log += "free library; "; },
+                           .catalogueFaults = [this] { return catalogueFaults; },
                            .desktop = *m_desk,
                            .pictures = *m_pictures,
                            .progress = *m_progress,
