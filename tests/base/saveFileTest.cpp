@@ -183,7 +183,7 @@ TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
     EXPECT_EQ(small.folder().read("ship.shp"), "old");
     EXPECT_EQ(small.folder().entries(), 1);
 
-    ASSERT_EQ(mount(nullptr, small.path().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+    ASSERT_EQ(mount("none", small.path().c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr), 0);
     for (const char* const name : {"ship.shp", "new.shp"}) {
         EXPECT_EQ(faultOf(small.path() / name, "x"), "cannot be saved: Read-only file system");
     }
