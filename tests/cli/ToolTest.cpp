@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
@@ -150,6 +152,8 @@ TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
     EXPECT_EQ(all(run({"eval", "2 +"})),
               "1|0\n|column 4: a number, a name or ( is expected here, not the end\n");
     EXPECT_EQ(run({"eval", ""}).status, 1);
+    const int full = std::system(APP_FOLDER "/fleetwright-cli eval 1 >/dev/full 2>/dev/null");
+    EXPECT_EQ(WEXITSTATUS(full), 1);
 }
 
 TEST_F(Tool, CheckNamesEveryFault) {
