@@ -17,6 +17,7 @@
 #include "TextFile.h"
 #include "applicationFolder.h"
 #include "catalogueFaults.h"
+#include "fileSizeLimit.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
@@ -25,6 +26,7 @@
 #include "frmSSDView.h"
 #include "frmSplash.h"
 #include "sheetShip.h"
+#include "showFileError.h"
 #include "userDataFolder.h"
 
 #include <QApplication>
@@ -66,12 +68,13 @@ public:
                     .pictures = m_pictures,
                     .programs = m_programs,
                     .globals = m_globals,
-                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder, m_pictures); },
+                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder, &m_pictures); },
                     .mainWindow = [this]() -> Form& { return m_main; },
                     .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
           m_main({.appFolder = m_appFolder,
                   .eventLoopTurn = [] { QApplication::processEvents(); },
                   .freeFormulaLibrary = [this] { freeFormulaLibrary(); },
+                  .catalogueFaults = [this] { return catalogueFaults(m_appFolder); },
                   .desktop = desktop,
                   .pictures = m_pictures,
                   .progress = m_splash,
@@ -85,7 +88,8 @@ public:
                   .showMapCreator = [this] { bringUp(m_mapCreator); },
                   .recovery = &m_recovery}),
           m_extras(
-              {.globals = m_globals,
+              {.desktop = desktop,
+               .globals = m_globals,
                .settings = m_settings,
                .nameShip = [this](const std::string& designer,
                                   const std::string& ship) { m_main.nameShip(designer, ship); },
@@ -184,6 +188,7 @@ private:
 }  // namespace
 
 int runProgram(int argc, char** argv, Run run) {
+    letFileSizeLimitFail();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(applicationTitle);
     // By this name desktops find the entry that a package has installed, and with it the icon.
@@ -197,8 +202,7 @@ int runProgram(int argc, char** argv, Run run) {
     } catch (const EndOfProgram&) {
         return 1;
     } catch (const FileError& error) {
-        desktop.showMessage(error.file().string() + ": " + error.what(), "", Buttons::Ok,
-                            Icon::Critical);
+        showFileError(desktop, error);
         return 1;
     } catch (const std::exception& error) {
         desktop.showMessage(error.what(), "", Buttons::Ok, Icon::Critical);

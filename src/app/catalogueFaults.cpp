@@ -10,16 +10,18 @@
 
 namespace fleetwright {
 
-std::string catalogueFaults(const std::filesystem::path& appFolder, PictureFiles& pictures) {
+std::string catalogueFaults(const std::filesystem::path& appFolder, PictureFiles* pictures) {
     constexpr std::size_t most = 10;
     const std::filesystem::path file = appFolder / "weaps.dat";
     std::vector<Fault> faults;
     try {
         const std::string catalogue = readTextFile(file);
         faults = checkCatalogue(catalogue, CatalogueCheck::Start);
-        PictureCheck check(appFolder / "images", pictures, PictureCheck::Start);
-        for (Fault& fault : check.checkCatalogue(catalogue)) {
-            faults.push_back(std::move(fault));
+        if (pictures != nullptr) {
+            PictureCheck check(appFolder / "images", *pictures, PictureCheck::Start);
+            for (Fault& fault : check.checkCatalogue(catalogue)) {
+                faults.push_back(std::move(fault));
+            }
         }
         sortByLine(faults);
     } catch (const FileError&) {

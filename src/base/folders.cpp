@@ -47,7 +47,10 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
          entry.increment(error)) {
         std::string name = toCapitals(pathText(entry->path().filename()));
         std::error_code unknown;
-        if (name.ends_with(wanted) && !entry->is_directory(unknown)) {
+        // A link to nothing counts, so that whoever opens it says so; a pipe would be waited for.
+        const bool isFile = entry->is_regular_file(unknown) ||
+                            (entry->is_symlink(unknown) && !entry->exists(unknown));
+        if (name.ends_with(wanted) && isFile) {
             files.emplace_back(std::move(name), entry->path());
         }
     }

@@ -1,10 +1,10 @@
 #include "saveFile.h"
 
 #include "Error.h"
+#include "TemporaryFile.h"
 
 #include <cerrno>
 #include <cstdio>
-#include <random>
 #include <string>
 #include <system_error>
 
@@ -37,17 +37,21 @@ bool flushToDisk([[maybe_unused]] std::FILE* file) {
 #endif
 }
 
-bool isWritable([[maybe_unused]] const fs::path& file, const fs::file_status& status) {
+/// Why an existing file may not be written to, if that is so.
+std::error_code writeProtection([[maybe_unused]] const fs::path& file,
+                                const fs::file_status& status) {
     constexpr fs::perms anyWrite =
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((status.permissions() & anyWrite) == fs::perms::none) {
-        return false;  // protected, even from those who may do anything
+        // Protected, even from those who may do anything.
+        return std::make_error_code(std::errc::permission_denied);
     }
 #if __has_include(<unistd.h>)
-    return access(file.c_str(), W_OK) == 0;
-#else
-    return true;
+    if (access(file.c_str(), W_OK) != 0) {
+        return lastError();
+    }
 #endif
+    return {};
 }
 
 /// Gives `file` the owner of `other`, as far as that is allowed.
@@ -74,38 +78,6 @@ std::error_code writeAndClose(std::FILE* file, std::string_view contents) {
     }
     return error;
 }
-
-/// A name beside `target` that no other save uses.
-fs::path temporaryBeside(const fs::path& target) {
-    constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
-    std::random_device random;
-    std::uniform_int_distribution<std::size_t> pick(0, letters.size() - 1);
-    std::string name = ".fleetwright-";
-    for (int i = 0; i < 10; ++i) {
-        name += letters[pick(random)];
-    }
-    return target.parent_path() / (name + ".tmp");
-}
-
-/// Removes the temporary file unless the save has come to its end.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(fs::path path) : m_path(std::move(path)) {}
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() {
-        std::error_code ignored;
-        if (!m_path.empty()) {
-            fs::remove(m_path, ignored);
-        }
-    }
-
-    const fs::path& path() const { return m_path; }
-    void keep() { m_path.clear(); }
-
-private:
-    fs::path m_path;
-};
 
 /// The file that a chain of links ends at, also where that file does not exist yet. A chain
 /// without an end still gives a link.
@@ -147,31 +119,30 @@ void saveFile(const fs::path& target, std::string_view contents) {
     }
 
     // The rename would replace a write-protected file without a question.
-    if (fs::exists(status) && !isWritable(file, status)) {
-        fail(target, std::make_error_code(std::errc::permission_denied));
+    if (fs::exists(status)) {
+        if (const std::error_code protection = writeProtection(file, status)) {
+            fail(target, protection);
+        }
     }
 
-    const fs::path beside = temporaryBeside(file);
-    std::FILE* stream = std::fopen(beside.string().c_str(), "wbx");
-    if (stream == nullptr) {
-        fail(target, lastError());
-    }
-    TemporaryFile temporary(beside);
-    // Before there is anything in it that others should not read.
     std::error_code error;
+    TemporaryFile temporary(file, error);
+    if (error) {
+        fail(target, error);
+    }
+    // Before there is anything in it that others should not read.
     if (fs::exists(status)) {
         takeOwner(temporary.path(), file);
         fs::permissions(temporary.path(), status.permissions(), error);
     }
-    const std::error_code writeError = writeAndClose(stream, contents);
+    const std::error_code writeError = writeAndClose(temporary.stream(), contents);
     error = error ? error : writeError;
     if (!error) {
-        fs::rename(temporary.path(), file, error);
+        temporary.rename(file, error);
     }
     if (error) {
         fail(target, error);
     }
-    temporary.keep();
 }
 
 }  // namespace fleetwright

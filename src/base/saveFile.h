@@ -10,7 +10,8 @@ namespace fleetwright {
 /// The contents go to a new file beside the target, are flushed to the disk and then take the
 /// target's place in one step, so that whatever happens (a full disk, a crash, a kill) the target
 /// holds either its old contents or the new ones, whole. A kill can leave the new file behind,
-/// under a name that begins with ".fleetwright-". A symbolic link is followed and stays a link; a
+/// under a name that begins with ".fleetwright-"; the next program that saves into that folder
+/// takes it away. A symbolic link is followed and stays a link; a
 /// hard link parts from its twins. Permissions and, where allowed, the owner of an existing file
 /// are kept. A target that is no plain file, such as a device, is written to directly.
 ///

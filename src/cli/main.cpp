@@ -1,6 +1,7 @@
 #include "Error.h"
 #include "Options.h"
 #include "commands.h"
+#include "fileSizeLimit.h"
 
 #include <cstdio>
 #include <exception>
@@ -43,6 +44,7 @@ int run(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    letFileSizeLimitFail();
     int status = SomeRefused;
     try {
         status = run(readOptions(argc, argv));

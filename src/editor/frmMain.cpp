@@ -144,8 +144,11 @@ void frmMain::g_Ship_CloakAndMerchant() {
 }
 
 void frmMain::g_Ship_WeaponNotFound() {
-    // The timer ticks behind the box, also in the middle of a load.
-    letActsIn([this] { m_services.desktop.showMessage("Couldn 't find the weapon"); });
+    // The timer ticks behind the box, also in the middle of a load; each time there would be more.
+    if (!std::exchange(m_saysNotFound, true)) {
+        letActsIn([this] { m_services.desktop.showMessage("Couldn 't find the weapon"); });
+        m_saysNotFound = false;
+    }
 }
 
 void frmMain::g_Ship_AutoMassUnsettled() {

@@ -43,6 +43,8 @@ struct MainWindowServices {
     std::filesystem::path appFolder;
     std::function<void()> eventLoopTurn;  ///< lets pending events run
     std::function<void()> freeFormulaLibrary;
+    /// What keeps the catalogue from being used, as a text to show; empty if nothing does.
+    std::function<std::string()> catalogueFaults = [] { return std::string(); };
     Desktop& desktop;
     PictureFiles& pictures;
     StartUpProgress& progress;
@@ -487,6 +489,7 @@ private:
     std::string m_safeFile;         ///< the design as it was when nothing of it could be lost
     int m_actDepth = 0;             ///< acts that are under way, one inside the other
     bool m_isInTurn = false;        ///< the innermost of them has given the event loop its turn
+    bool m_saysNotFound = false;    ///< a system is missing, and the box that says so is open
     std::vector<std::function<void()>> m_whenIdle;
 };
 

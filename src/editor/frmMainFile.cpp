@@ -11,6 +11,7 @@
 #include "ReportPrinter.h"
 #include "TextFile.h"
 #include "frmExtras.h"
+#include "showFileError.h"
 
 #include <cassert>
 
@@ -91,14 +92,17 @@ bool frmMain::loadFile(const std::string& fileName) {
     return isLoaded;
 }
 
-/// Runs what replaces the ship. Where the catalogue cannot be read any more, the one at hand stays.
+/// Runs what replaces the ship. Where the catalogue cannot be used any more, the one at hand stays.
 void frmMain::whenReplaceable(std::function<void()> replace) {
     whenIdle([this, task = std::move(replace)] {
+        if (const std::string faults = m_services.catalogueFaults(); !faults.empty()) {
+            m_services.desktop.showMessage(faults, "", Buttons::Ok, Icon::Critical);
+            return;
+        }
         try {
             task();
         } catch (const FileError& error) {
-            m_services.desktop.showMessage(error.file().string() + ": " + error.what(), "",
-                                           Buttons::Ok, Icon::Critical);
+            showFileError(m_services.desktop, error);
         }
     });
 }

@@ -68,7 +68,12 @@ void frmMain::showRecovered() {
     if (m_services.recovery == nullptr) {
         return;
     }
-    const std::vector<RecoveryFolder::Design> designs = m_services.recovery->keepLeftBehind();
+    std::vector<RecoveryFolder::Design> designs;
+    try {
+        designs = m_services.recovery->keepLeftBehind();
+    } catch (const FileError& error) {
+        sbStatus.setText(error.file().string() + ": " + error.what());
+    }
     if (designs.size() == 1) {
         sbStatus.setText("Recovered design: " + designs.front().file.string());
     } else if (!designs.empty()) {

@@ -12,6 +12,7 @@ public:
     /// The text stored, or `otherwise` where there is none.
     virtual std::string read(const std::string& section, const std::string& key,
                              const std::string& otherwise) const = 0;
+    /// Throws FileError.
     virtual void write(const std::string& section, const std::string& key,
                        const std::string& value) = 0;
 };

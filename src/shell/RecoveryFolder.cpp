@@ -1,6 +1,7 @@
 #include "RecoveryFolder.h"
 
 #include "Error.h"
+#include "folders.h"
 #include "saveFile.h"
 #include "utf8.h"
 
@@ -71,11 +72,7 @@ std::vector<RecoveryFolder::Design> RecoveryFolder::keepLeftBehind() {
 }
 
 void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {
-    std::error_code error;
-    fs::create_directories(m_folder, error);
-    if (error) {
-        throw FileError(m_folder, "cannot be made: " + error.message());
-    }
+    makeFolder(m_folder);
     const std::string ship = fileNameOf(shipName);
     if (!m_ownFile.empty() && ship == m_ownShip) {
         saveFile(m_ownFile, shipFile);
@@ -118,8 +115,14 @@ fs::path RecoveryFolder::keepFile(const fs::path& file) {
 }
 
 void RecoveryFolder::takeOldestAway() {
+    std::vector<Design> designs;
+    try {
+        designs = list(m_folder);
+    } catch (const FileError&) {
+        // What cannot be listed stays.
+    }
     std::size_t kept = 0;
-    for (const Design& design : list(m_folder)) {
+    for (const Design& design : designs) {
         if (markOf(design.file).empty() && ++kept > mostKept) {
             std::error_code gone;
             fs::remove(design.file, gone);
@@ -129,10 +132,9 @@ void RecoveryFolder::takeOldestAway() {
 
 std::vector<RecoveryFolder::Design> RecoveryFolder::list(const fs::path& folder) {
     std::vector<Design> designs;
-    std::error_code missing;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, missing)) {
-        if (isDesign(entry.path())) {
-            designs.push_back({entry.path().stem().string(), entry.path()});
+    for (const fs::path& file : listFolder(folder, "")) {
+        if (isDesign(file)) {
+            designs.push_back({file.stem().string(), file});
         }
     }
     std::sort(designs.begin(), designs.end(), [](const Design& a, const Design& b) {

@@ -31,6 +31,7 @@ public:
     RecoveryFolder& operator=(const RecoveryFolder&) = delete;
 
     /// Keeps what runs that have crashed have left: these designs, the newest first.
+    /// Throws FileError as `list` does.
     std::vector<Design> keepLeftBehind();
     /// Writes the design at work as the file of this run. Throws FileError.
     void put(const std::string& shipName, const std::string& shipFile);
@@ -39,7 +40,8 @@ public:
     /// Takes the file of this run away, if there is one.
     void forget();
 
-    /// All designs in a folder, the newest first.
+    /// All designs in a folder, the newest first. Throws FileError if the folder is there and
+    /// cannot be read.
     static std::vector<Design> list(const std::filesystem::path& folder);
 
 private:

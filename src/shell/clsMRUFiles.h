@@ -25,7 +25,7 @@ public:
     void addFile(const std::string& insArg);
     /// The name at a place from 1 on; empty where there is none.
     std::string getFile(std::int16_t inout_iNDX) const;
-    /// Empties the list, in the settings too.
+    /// Empties the list, in the settings too. Throws FileError if they cannot be written.
     void clearList();
 
 private:

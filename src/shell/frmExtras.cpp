@@ -1,7 +1,9 @@
 #include "frmExtras.h"
 
+#include "Error.h"
 #include "Globals.h"
 #include "SettingsStore.h"
+#include "showFileError.h"
 
 namespace fleetwright {
 
@@ -49,17 +51,32 @@ void frmExtras::cmdOK_Click() {
     unload();
 }
 
+void frmExtras::cmdClearMRU_Click() {
+    store([this] { m_services.clearRecentFiles(); });
+}
+
 void frmExtras::cmdSaveSettings_Click() {
-    const auto store = [this](const char* key, const CheckBox& box, bool& flag) {
+    const auto storeSwitch = [this](const char* key, const CheckBox& box, bool& flag) {
         m_services.settings.write("Settings", key, box.isTicked() ? "True" : "False");
         flag = box.isTicked();
     };
-    Globals& globals = m_services.globals;
-    store("Sounds", chkSounds, globals.g_bSounds);
-    store("Hide", chkMinimized, globals.g_bHide);
-    store("ConfirmExit", chkConfirmExit, globals.g_bConfirmExit);
-    // The default of this run stays: the new one is for the next start.
-    m_services.settings.write("Names", "Designer", txtDesigner.text());
+    store([&] {
+        Globals& globals = m_services.globals;
+        storeSwitch("Sounds", chkSounds, globals.g_bSounds);
+        storeSwitch("Hide", chkMinimized, globals.g_bHide);
+        storeSwitch("ConfirmExit", chkConfirmExit, globals.g_bConfirmExit);
+        // The default of this run stays: the new one is for the next start.
+        m_services.settings.write("Names", "Designer", txtDesigner.text());
+    });
+}
+
+/// Stores settings; where that is not possible, the user would else learn of it at the next start.
+void frmExtras::store(const std::function<void()>& settings) {
+    try {
+        settings();
+    } catch (const FileError& error) {
+        showFileError(m_services.desktop, error);
+    }
 }
 
 }  // namespace fleetwright

@@ -11,6 +11,7 @@
 
 namespace fleetwright {
 
+class Desktop;
 class SettingsStore;
 struct Globals;
 
@@ -19,6 +20,7 @@ struct Globals;
 class frmExtras : public Form {
 public:
     struct Services {
+        Desktop& desktop;
         Globals& globals;
         SettingsStore& settings;
         /// Gives the ship its names: designer, ship.
@@ -85,8 +87,9 @@ private:
     bool txtShipName_KeyPress(int KeyAscii);
     void cmdOK_Click();
     void cmdCancel_Click() { unload(); }
-    void cmdClearMRU_Click() { m_services.clearRecentFiles(); }
+    void cmdClearMRU_Click();
     void cmdSaveSettings_Click();
+    void store(const std::function<void()>& settings);
 
     Services m_services;
     bool m_wasActive = false;  ///< it has been the active window before

@@ -2,6 +2,8 @@
 
 #include "Error.h"
 #include "SheetPictures.h"
+#include "TextFile.h"
+#include "saveFile.h"
 
 #include <chrono>
 #include <random>
@@ -37,7 +39,9 @@ bool hasPictures(const fs::path& folder) {
 bool unpackInto(const fs::path& folder, const fs::path& archive, const RunArchive& runArchive) {
     std::error_code ignored;
     const fs::path copy = folder / archive.filename();
-    fs::copy_file(archive, copy, fs::copy_options::overwrite_existing);
+    fs::remove(copy);  // a run that was killed has left it
+    saveFile(copy, readBytes(archive));
+    fs::permissions(copy, fs::status(archive).permissions());
     const bool isDone = runArchive(copy, folder);
     fs::remove(copy, ignored);
     return isDone && hasPictures(folder);

@@ -15,6 +15,7 @@
 #include <csignal>
 #include <functional>
 #include <thread>
+#include <vector>
 
 using namespace fleetwright;
 namespace fs = std::filesystem;
@@ -181,13 +182,17 @@ TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
               "cannot be saved: No space left on device");
     EXPECT_EQ(small.folder().read("ship.shp"), "old");
     EXPECT_EQ(small.folder().entries(), 1);
+
+    ASSERT_EQ(mount("none", small.path().c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr), 0);
+    for (const char* const name : {"ship.shp", "new.shp"}) {
+        EXPECT_EQ(faultOf(small.path() / name, "x"), "cannot be saved: Read-only file system");
+    }
 }
 
 TEST(SaveFile, KillInTheMiddleLeavesOneOfTheTwoContents) {
     const TemporaryFolder folder;
-    const fs::path file = folder.path() / "ship.shp";
     const std::string contents[] = {std::string(300'000, 'a'), std::string(300'000, 'b')};
-    saveFile(file, contents[0]);
+    const fs::path file = folder.write("ship.shp", contents[0]);
     for (int round = 0; round < 30; ++round) {
         const pid_t child = fork();
         if (child == 0) {
@@ -200,5 +205,30 @@ TEST(SaveFile, KillInTheMiddleLeavesOneOfTheTwoContents) {
         waitpid(child, nullptr, 0);
         const std::string found = folder.read("ship.shp");
         ASSERT_TRUE(found == contents[0] || found == contents[1]) << found.size() << " bytes";
+        ASSERT_LE(folder.entries(), 2) << "what the kills before have left is still there";
     }
+}
+
+TEST(SaveFile, LeavesTheSavesOfOtherProgramsAlone) {
+    const TemporaryFolder folder;
+    fs::permissions(folder.path(), fs::perms::all);
+    std::vector<pid_t> users(4);
+    for (pid_t& user : users) {
+        user = fork();
+        if (user == 0) {
+            // A program that has not saved yet looks for what others have left.
+            const fs::path file = folder.path() / std::to_string(getpid());
+            bool areSaved = true;
+            for (int i = 0; i < 25 && areSaved; ++i) {
+                areSaved = asNobody([&] { return faultOf(file, "ship").empty(); }) == 0;
+            }
+            _exit(areSaved ? 0 : 1);
+        }
+    }
+    for (const pid_t user : users) {
+        int status = -1;
+        waitpid(user, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(folder.entries(), 4);
 }

@@ -186,4 +186,10 @@ TEST_F(SheetTool, RefusesOutputsThatCannotBeMeant) {
               "2|fleetwright-cli: --paper is A4 or Letter" + tail);
     EXPECT_EQ(sheet({"good.shp", "-o", "none/a.bmp"}),
               "1|good.shp: none/a.bmp: cannot be saved: No such file or directory\n");
+    for (const char* const name : {"full.bmp", "full.pdf"}) {
+        fs::create_symlink("/dev/full", m_folder.path() / name);
+        EXPECT_TRUE(
+            sheet({"good.shp", "-o", name})
+                .ends_with(std::string(name) + ": cannot be saved: No space left on device\n"));
+    }
 }

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
@@ -150,6 +152,8 @@ TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
     EXPECT_EQ(all(run({"eval", "2 +"})),
               "1|0\n|column 4: a number, a name or ( is expected here, not the end\n");
     EXPECT_EQ(run({"eval", ""}).status, 1);
+    const int full = std::system(APP_FOLDER "/fleetwright-cli eval 1 >/dev/full 2>/dev/null");
+    EXPECT_EQ(WEXITSTATUS(full), 1);
 }
 
 TEST_F(Tool, CheckNamesEveryFault) {
@@ -272,4 +276,11 @@ TEST_F(Tool, RecoveredListsDesignsAndWritesOneOut) {
     EXPECT_EQ(all(run({"recovered", "No such design", "out.shp"})),
               "1||No such design: no design of this name was put aside\n");
     EXPECT_EQ(run({"recovered", "Half"}).status, 2);
+
+    // In the place of a folder, which not even root can look into.
+    m_folder.write("FleetWright/recovered", "");
+    const std::string home = "XDG_DATA_HOME=" + m_folder.path().string();
+    EXPECT_EQ(runTool(m_folder.path().string(), {"recovered"}, home).errors,
+              m_folder.path().string() +
+                  "/FleetWright/recovered: cannot be read: Not a directory\n");
 }

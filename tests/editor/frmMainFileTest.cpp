@@ -99,17 +99,41 @@ TEST_F(Files, LoadAsksNothingAndFillsTheList) {
     EXPECT_EQ(recent(), "| Wasp");
 }
 
-TEST_F(Files, AnUnreadableCatalogueLeavesTheShipAtHand) {
+TEST_F(Files, ACatalogueThatCannotBeUsedLeavesTheShipAtHand) {
+    window.CMRUList->addFile("Wasp");
+    window.fillMRU();
     change();
-    fs::remove(test.folder().path() / "weaps.dat");
     test.file = ship;
     test.answer = Answer::Yes;
-    for (MenuEntry* const entry : {&window.mnuLoad, &window.mnuNew}) {
-        test.takeLog();
-        entry->choose();
-        EXPECT_TRUE(test.takeLog().find("weaps.dat: cannot be read") != std::string::npos);
-        EXPECT_EQ(test.ship().THRUST(), 4);
+    fs::remove(test.folder().path() / "weaps.dat");
+    for (const std::string fault : {"weaps.dat: cannot be read", "weaps.dat:3: double key"}) {
+        for (MenuEntry* const entry : {&window.mnuLoad, &window.mnuNew, &window.mnuMRUFile[0]}) {
+            test.takeLog();
+            entry->choose();
+            EXPECT_TRUE(test.takeLog().find(fault) != std::string::npos) << fault;
+            EXPECT_EQ(test.ship().THRUST(), 4);
+        }
+        test.folder().write("weaps.dat", windowCatalogue);
+        test.catalogueFaults = "weaps.dat:3: double key\n";
     }
+}
+
+TEST_F(Files, AnotherCatalogueIsThatOfTheNextShip) {
+    test.folder().write("weaps.dat",
+                        "Gun,1,1,BEAM,guns,F,gun.gif\nRaft,1,9,x,SYSTEMS,O,raft.gif\n");
+    test.file = test.folder().write("raft.shp", "Mass: 20\nSystem: Raft, 2\nSystem: Ballast, 1\n");
+    test.selectNode("Ballast");
+    window.tvWeapons.doubleClick();
+    EXPECT_EQ(test.list(), "Ballast 1") << "this ship keeps its own";
+    test.selectNode("SYSTEMS");
+    test.takeLog();
+    window.mnuLoad.choose();
+    EXPECT_EQ(test.takeLog(), "box: Couldn 't find the weapon; ");
+    test.selectNode("Ballast");
+    test.inMessage = [&] { window.tmrRefreshScreen.tick(); };
+    window.tvWeapons.doubleClick();
+    EXPECT_EQ(test.list(), "Raft 2");
+    EXPECT_EQ(amountOf(test.ship(), "Raft"), 2);
 }
 
 TEST_F(Files, SavingNamesTheShipAndTheRecentFile) {

@@ -25,6 +25,9 @@ public:
                         (buttons == Buttons::YesNo ? " yes-no" : "") +
                         (icon == Icon::Information ? " info" : "") + "; ";
         m_test.takeTurn();
+        if (m_test.inMessage) {
+            m_test.inMessage();
+        }
         return buttons == Buttons::YesNo ? m_test.answer : Answer::Ok;
     }
     void popUp(MenuEntry& menu) override { m_test.m_log += "menu: " + menu.name() + "; "; }
@@ -126,7 +129,8 @@ TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
       m_progress(std::make_unique<Progress>(*this)), m_settings(std::make_unique<Settings>(*this)),
       m_paper(std::make_unique<Paper>(*this)),
-      m_extras({.globals = globals,
+      m_extras({.desktop = *m_desk,
+                .globals = globals,
                 .settings = *m_settings,
                 .nameShip = [this](const std::string& designer,
                                    const std::string& ship) { window().nameShip(designer, ship); },
@@ -145,6 +149,7 @@ TestWindow::TestWindow(std::string_view catalogue)
         MainWindowServices{.appFolder = m_folder.path(),
                            .eventLoopTurn = [this] { takeTurn(); },
                            .freeFormulaLibrary = [this] { m_log += "free library; "; },
+                           .catalogueFaults = [this] { return catalogueFaults; },
                            .desktop = *m_desk,
                            .pictures = *m_pictures,
                            .progress = *m_progress,

@@ -45,6 +45,8 @@ public:
     Answer answer = Answer::No;
     /// What happens in the next turn of the event loop, that of a message box included.
     std::function<void()> inTurn;
+    /// What happens while a message box is open.
+    std::function<void()> inMessage;
     /// What the user does in the next dialog.
     std::function<void(Form&)> inDialog;
     /// What the user chooses in file dialogs, and how many copies in the print dialog; nothing is
@@ -52,6 +54,7 @@ public:
     std::optional<std::string> file;
     std::optional<int> copies;
     bool printerFails = false;
+    std::string catalogueFaults;
     std::map<std::string, std::string> settings;  ///< "section/key"
 
 private:

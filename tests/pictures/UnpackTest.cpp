@@ -151,6 +151,18 @@ TEST_F(UnpackCommand, MakesTheFolderAndCanBeRepeated) {
     EXPECT_EQ(m_app.read("images/ftl.gif"), renderedSheet().at("ftl.gif"));
 }
 
+TEST_F(UnpackCommand, ADiskThatFillsUpLeavesThePicturesAsTheyWere) {
+    m_app.write("images/ftl.gif", "old");
+    const CommandResult result =
+        runCommand("ulimit -f 20; " CLI " unpack --app " + m_app.path().string());
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.output.find("images/images.exe: cannot be saved: File too large"),
+              std::string::npos)
+        << result.output;
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_app.path() / "images"), {}), 1);
+    EXPECT_EQ(m_app.read("images/ftl.gif"), "old");
+}
+
 TEST_F(UnpackCommand, AnArchiveThatFailsLeavesNoFolder) {
     m_app.write("images.exe", "#!/bin/sh\ntouch half.gif\nexit 1\n");
     const CommandResult result = unpack();

@@ -1,5 +1,6 @@
 #include "clsMRUFiles.h"
 
+#include "Error.h"
 #include "SettingsStore.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +21,14 @@ public:
     }
     void write(const std::string& section, const std::string& key,
                const std::string& value) override {
+        if (isReadOnly) {
+            throw FileError("settings", "cannot be written");
+        }
         values[section + '/' + key] = value;
     }
 
     std::map<std::string, std::string> values;
+    bool isReadOnly = false;
 };
 
 std::string all(const clsMRUFiles& list) {
@@ -74,6 +79,11 @@ TEST(ClsMRUFiles, IsClearedInTheStoreToo) {
     list.clearList();
     EXPECT_EQ(store.values.size(), 5U);
     EXPECT_EQ(all(list), ".......");
+
+    list.addFile("y");
+    store.isReadOnly = true;  // and its end goes without a word
+    EXPECT_THROW(list.clearList(), FileError);
+    EXPECT_EQ(list.getFile(1), "y");
 }
 
 }  // namespace

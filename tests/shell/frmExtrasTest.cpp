@@ -1,6 +1,8 @@
 #include "frmExtras.h"
 
+#include "Error.h"
 #include "Globals.h"
+#include "NoDesktop.h"
 #include "SettingsStore.h"
 
 #include <gtest/gtest.h>
@@ -9,18 +11,26 @@ using namespace fleetwright;
 
 namespace {
 
-class Log : public SettingsStore {
+class Log : public SettingsStore, public NoDesktop {
 public:
+    Answer showMessage(const std::string& message, const std::string&, Buttons, Icon) override {
+        text += "box " + message;
+        return Answer::Ok;
+    }
     std::string read(const std::string&, const std::string&,
                      const std::string& otherwise) const override {
         return otherwise;
     }
     void write(const std::string& section, const std::string& key,
                const std::string& value) override {
+        if (isReadOnly) {
+            throw FileError("settings", "cannot be written");
+        }
         text += section + '/' + key + '=' + value + ' ';
     }
 
     std::string text;
+    bool isReadOnly = false;
 };
 
 class Extras : public testing::Test {
@@ -34,7 +44,8 @@ protected:
     Log log;
     Globals globals;
     frmExtras page{
-        {.globals = globals,
+        {.desktop = log,
+         .globals = globals,
          .settings = log,
          .nameShip = [this](const std::string& designer,
                             const std::string& ship) { log.text += designer + '+' + ship; },
@@ -69,6 +80,15 @@ TEST_F(Extras, SaveSettingsStoresAndStaysOpenAndCancelKeepsWhatItDid) {
     page.cmdCancel.press();
     EXPECT_FALSE(page.isLoaded());
     EXPECT_TRUE(log.text.ends_with("clear "));
+}
+
+TEST_F(Extras, SettingsThatCannotBeWrittenAreNamedAndStay) {
+    log.isReadOnly = true;
+    page.chkSounds.press();
+    page.cmdSaveSettings.press();
+    EXPECT_EQ(log.text, "box settings: cannot be written");
+    EXPECT_FALSE(globals.g_bSounds);
+    EXPECT_TRUE(page.isLoaded());
 }
 
 TEST_F(Extras, EnterGoesFromBoxToBoxAndTheFirstActivationToTheFirst) {

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using namespace fleetwright;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -47,9 +50,14 @@ TEST(SSDMaps, AreScannedByNameAndFaultyOnesPassedOver) {
     folder.writeFile("maps/notes.txt", "SIZE: 90");
     folder.writeFile("maps/x.mapx", "SIZE: 90");
     folder.writeFile("maps/folder.map/x", "");
+    folder.writeFile("maps/empty.map", "");
+    folder.writeFile("maps/garbled.map", std::string("SIZE\0:\xFF\x1B\nDCP: \xFE\n", 16));
+    fs::create_symlink("nowhere", folder.path() / "maps/link.map");
+    ASSERT_EQ(mkfifo((folder.path() / "maps/pipe.map").c_str(), 0600), 0);
     const Scan scan(folder);
-    EXPECT_EQ(scan.names(), "Alpha beta Gamma ");
-    EXPECT_EQ(scan.shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n");
+    EXPECT_EQ(scan.names(), "Alpha beta empty Gamma ");
+    EXPECT_EQ(scan.shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\n"
+                          "Adding SSD Map: empty\nAdding SSD Map: Gamma\n");
     EXPECT_EQ(scan.largest, 36);
 
     const Scan none((MapFolder()));

@@ -2,6 +2,7 @@
 // current folder.
 
 #include "Error.h"
+#include "fileSizeLimit.h"
 #include "unpackFiles.h"
 
 #include <cstdio>
@@ -10,6 +11,7 @@
 
 int main(int argc, char** argv) {
     using namespace fleetwright;
+    letFileSizeLimitFail();
     if (argc != 2 || std::strcmp(argv[1], "-o") != 0) {
         std::fprintf(stderr,
                      "The pictures of FleetWright, %zu files. With the option -o they are "

@@ -225,8 +225,11 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     QtRegistry registry;
     Globals globals;
     globals.formula = formula_calculate;
-    frmExtras extras(
-        {.globals = globals, .settings = settings, .nameShip = {}, .clearRecentFiles = {}});
+    frmExtras extras({.desktop = desktop,
+                      .globals = globals,
+                      .settings = settings,
+                      .nameShip = {},
+                      .clearRecentFiles = {}});
     frmMain form({.appFolder = appFolder,
                   .eventLoopTurn = {},
                   .freeFormulaLibrary = [] {},

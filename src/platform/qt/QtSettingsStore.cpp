@@ -1,5 +1,7 @@
 #include "QtSettingsStore.h"
 
+#include "Error.h"
+
 #include <QApplication>
 #include <QSettings>
 
@@ -34,6 +36,10 @@ void QtSettingsStore::write(const std::string& section, const std::string& key,
     const QString path = pathOf(section, key);
     if (!settings.contains(path) || read(section, key, "") != value) {
         settings.setValue(path, QString::fromStdString(value));
+        settings.sync();
+        if (settings.status() != QSettings::NoError) {
+            throw FileError(settings.fileName().toStdString(), "cannot be written");
+        }
     }
 }
 

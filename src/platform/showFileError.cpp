@@ -1,0 +1,13 @@
+#include "showFileError.h"
+
+#include "Desktop.h"
+#include "Error.h"
+
+namespace fleetwright {
+
+void showFileError(Desktop& desktop, const FileError& error) {
+    desktop.showMessage(error.file().string() + ": " + error.what(), "", Buttons::Ok,
+                        Icon::Critical);
+}
+
+}  // namespace fleetwright
