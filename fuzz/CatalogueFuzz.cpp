@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <map>
 #include <numeric>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,17 +25,18 @@ using namespace fleetwright;
 
 namespace {
 
-/// The lines that hold records.
-std::vector<std::string> recordLines(std::string_view text, int& lines) {
-    std::vector<std::string> records;
+/// The lines that hold records, by their numbers.
+using RecordLines = std::map<int, std::string>;
+
+RecordLines recordLines(std::string_view text) {
+    RecordLines records;
     LineReader reader(text);
     std::string_view line;
     while (reader.next(line)) {
         if (!line.empty() && line.front() != '#') {
-            records.emplace_back(line);
+            records[reader.lineNumber()] = line;
         }
     }
-    lines = reader.lineNumber();
     return records;
 }
 
@@ -55,60 +57,64 @@ CatalogueLine cutWithMemory(std::string line, std::vector<std::string>& pieces) 
             .icon = pieces[6]};
 }
 
-void checkRecords(const Catalogue& catalogue, const std::vector<std::string>& lines) {
+void checkRecords(const Catalogue& catalogue, const RecordLines& lines) {
     require(catalogue.records().size() == lines.size(), "every line but a comment is a record");
     std::int32_t cloak = 0;
+    std::int32_t index = 0;
     std::vector<std::string> pieces;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const WeapRec& record = catalogue.records()[i];
-        const CatalogueLine fields = cutWithMemory(lines[i], pieces);
+    for (const auto& [number, line] : lines) {
+        const WeapRec& record = catalogue.records()[static_cast<std::size_t>(index)];
+        const CatalogueLine fields = cutWithMemory(line, pieces);
         require(record.name == fields.name && record.massform == fields.massform &&
                     record.costform == fields.costform && record.arclist == fields.arclist &&
                     record.icon == fields.icon,
                 "a line is cut as the cutter with the memory cuts it");
         require(record.amount == 0, "a new catalogue has nothing aboard");
-        if (fields.name == Catalogue::cloakName) {
-            cloak = static_cast<std::int32_t>(i);
-        }
+        cloak = fields.name == Catalogue::cloakName ? index : cloak;
+        ++index;
     }
     require(catalogue.cloakIndex() == cloak, "the last cloak counts");
 }
 
-/// A catalogue that passes the check of the start must make a tree without a fault.
-void checkTree(const std::vector<std::string>& lines) {
+/// The lines that cannot be hung in the tree as it has grown so far, or have no price.
+std::set<int> linesOutOfTree(const RecordLines& lines) {
+    std::set<int> faulty;
     std::map<std::string, bool> isCategory = {{"BLANK", false}};
     for (const std::string_view root : catalogueRoots) {
         isCategory[std::string(root)] = true;
     }
-    for (const std::string& line : lines) {
+    for (const auto& [number, line] : lines) {
         const CatalogueLine fields = cutCatalogueLine(line);
         const std::string categoryKey = toCapitals(fields.categoryKey);
         const std::string parent = fields.isCategory() ? toCapitals(fields.parentKey) : categoryKey;
         const std::string key = fields.isCategory() ? categoryKey : std::string(fields.name);
-        require(isCategory.contains(parent) && isCategory[parent], "the parent is in the tree");
-        require(isCategory.try_emplace(key, fields.isCategory()).second, "no key stands twice");
-        if (!fields.isCategory()) {
-            require(!formulaFault(fields.massform) && !formulaFault(fields.costform),
-                    "all formulas can be read");
+        const bool hangs = isCategory.contains(parent) && isCategory[parent];
+        const bool isNew = !key.empty() && isCategory.try_emplace(key, fields.isCategory()).second;
+        const bool hasPrice = fields.isCategory() ||
+                              (!formulaFault(fields.massform) && !formulaFault(fields.costform));
+        if (!hangs || !isNew || !hasPrice) {
+            faulty.insert(number);
         }
     }
+    return faulty;
 }
 
-void checkFaults(const std::string& text, const std::vector<std::string>& records, int lines) {
+void checkFaults(const std::string& text, const RecordLines& lines) {
     const std::vector<Fault> all = checkCatalogue(text);
-    const std::vector<Fault> start = checkCatalogue(text, CatalogueCheck::Start);
-    int line = 0;
+    int last = 0;
     for (const Fault& fault : all) {
-        require(fault.line >= 0 && fault.line <= lines && !fault.text.empty(),
+        require((fault.line == 0 || lines.contains(fault.line)) && !fault.text.empty(),
                 "a fault has its line and is put into words");
-        require(fault.line == 0 || (line != -1 && fault.line >= line),
+        require(fault.line == 0 || (last != -1 && fault.line >= last),
                 "faults are in the order of their lines");
-        line = fault.line == 0 ? -1 : fault.line;
+        last = fault.line == 0 ? -1 : fault.line;
     }
-    require(!all.empty() || start.empty(), "what ends the start is a fault for the author, too");
-    if (start.empty()) {
-        checkTree(records);
+    std::set<int> atStart;
+    for (const Fault& fault : checkCatalogue(text, CatalogueCheck::Start)) {
+        atStart.insert(fault.line);
     }
+    require(!all.empty() || atStart.empty(), "what ends the start is a fault for the author, too");
+    require(atStart == linesOutOfTree(lines), "the start ends where the tree would be in pieces");
 }
 
 /// Fits what the catalogue offers: the figures are the sums of what single systems say.
@@ -143,12 +149,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const TemporaryFolder folder;
     const std::string file = folder.write("weaps.dat", {reinterpret_cast<const char*>(data), size});
     const std::string text = readTextFile(file);
-    int lines = 0;
-    const std::vector<std::string> records = recordLines(text, lines);
+    const RecordLines records = recordLines(text);
     Catalogue catalogue;
     catalogue.loadWeaps(file);
     checkRecords(catalogue, records);
-    checkFaults(text, records, lines);
+    checkFaults(text, records);
     checkShip({.catalogueFile = file, .formula = formula_calculate, .eventLoopTurn = {}});
     return 0;
 }

@@ -9,10 +9,12 @@
 #include "ShipClass.h"
 #include "TemporaryFolder.h"
 #include "TextFile.h"
+#include "capitals.h"
 #include "checkMapPlaces.h"
 #include "drawSSD.h"
 #include "mapMarks.h"
 #include "require.h"
+#include "wholeNumber.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -75,6 +77,8 @@ std::string plainText(const SSDMap& map, const TemporaryFolder& folder) {
         text += "IMAGE: " + map.sImgFile.substr(outlines.size()) + "\r\n";
     }
     for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
+        require(map.getWeapPntArc(i) == toCapitals(trimmed(map.getWeapPntArc(i))),
+                "arcs are in capitals, without blanks around them");
         text += line(weaponKey, map.getWeapPntX(i), map.getWeapPntY(i), map.getWeapPntArc(i));
     }
     for (std::int16_t i = 0; i < map.iDCPNDX; ++i) {

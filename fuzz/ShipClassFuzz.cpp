@@ -74,6 +74,7 @@ private:
     void switchAutoMass();
     void beABaseForAWhile();
     bool makeHull(const HullDesign& hull);
+    std::string hullAndSystems() const;
     void keepOrGoBack();
     void look();
     void saveAndLoad();
@@ -338,15 +339,22 @@ void Course::beABaseForAWhile() {
     requireSame(describe(*m_ship), before, "a ship that was a base is what it was before");
 }
 
+/// What a state of a ship holds.
+std::string Course::hullAndSystems() const {
+    DesignModel design = DesignModel::of(*m_ship);
+    design.isAutoMass = false;
+    return textOf(design) + figuresOf(*m_ship);
+}
+
 void Course::keepOrGoBack() {
     if (!m_kept || m_data.ConsumeBool()) {
         m_kept = m_ship->state();
-        m_keptText = describe(*m_ship);
+        m_keptText = hullAndSystems();
         return;
     }
     m_events = {};
     m_ship->restore(*m_kept);
-    requireSame(describe(*m_ship), m_keptText, "a ship goes back to what it was");
+    requireSame(hullAndSystems(), m_keptText, "a ship goes back to what it was");
     require(m_events.recalculating == 0 && m_ship->g_bSaved == m_kept->isSaved,
             "and says nothing of it");
 }
