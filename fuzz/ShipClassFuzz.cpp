@@ -35,13 +35,15 @@ constexpr const char* oddCatalogue =
     "Wobble,mass % 4 = 2 ? mass / 2 + 1 : mass / 2 - 2,1,SYSTEMS,SYSTEMS,O,wobble.gif\r\n"
     "Slow,mass / 2 - 10 + (3000 - mass) * 0.005,1,SYSTEMS,SYSTEMS,O,slow.gif\r\n"
     "Giant,2000000000,2000000000,SYSTEMS,SYSTEMS,,giant.gif\r\n"
+    "Titan,1000000000,2000000000,SYSTEMS,SYSTEMS,,titan.gif\r\n"
     "Rebate,-amount,-50 * amount,SYSTEMS,SYSTEMS,,rebate.gif\r\n"
     "Gun,1,1,BEAM,GUNS,FPS,gun.gif\r\n";
 
 class Course {
 public:
     Course(FuzzedDataProvider& data, const ShipServices& services, const TemporaryFolder& folder)
-        : m_data(data), m_services(services), m_folder(folder), m_isWatched(data.ConsumeBool()) {
+        : m_data(data), m_services(services), m_folder(folder),
+          m_listener(data.ConsumeEnum<Listener>()) {
         take(std::make_unique<ShipClass>(m_services));
     }
 
@@ -54,6 +56,14 @@ public:
     }
 
 private:
+    /// Who listens to the ship and writes to it while it is at work, as the window does.
+    enum class Listener {
+        Nobody,
+        BringsInOrder,  ///< makes a base one that does not move, and a ship no smaller than allowed
+        WritesBack,     ///< shows the mass, and writes what it shows
+        kMaxValue = WritesBack
+    };
+
     /// How often a ship has raised each of its events.
     struct Events {
         int recalculating, recalculated, unsettled, refused, unknown;
@@ -64,7 +74,8 @@ private:
     bool perform(const DesignModel& wanted, const std::function<void()>& act);
     void checkDone(const DesignModel& wanted);
     void checkAutoMass(const DesignModel& wanted);
-    void watch();
+    void bringInOrder();
+    void writeBack();
 
     std::int32_t number();
     bool set(const HullDesign& hull, const std::function<void()>& setter);
@@ -82,7 +93,8 @@ private:
     FuzzedDataProvider& m_data;
     const ShipServices& m_services;
     const TemporaryFolder& m_folder;
-    bool m_isWatched;  // whether somebody listens who writes to the ship, as the window does
+    Listener m_listener;
+    std::int32_t m_shownMass = 0;
     std::unique_ptr<ShipClass> m_ship;
     std::vector<Connection> m_listeners;
     std::vector<WeapRec> m_records;
@@ -109,13 +121,23 @@ void Course::take(std::unique_ptr<ShipClass> ship) {
     count(m_ship->AutoMassUnsettled, m_events.unsettled);
     count(m_ship->CloakAndMerchant, m_events.refused);
     count(m_ship->WeaponNotFound, m_events.unknown);
-    if (m_isWatched) {
-        m_listeners.push_back(m_ship->Recalculated.connect([this] { watch(); }));
+    m_shownMass = m_ship->mass();
+    if (m_listener == Listener::BringsInOrder) {
+        m_listeners.push_back(m_ship->Recalculated.connect([this] { bringInOrder(); }));
+    } else if (m_listener == Listener::WritesBack) {
+        m_listeners.push_back(m_ship->Recalculated.connect([this] { writeBack(); }));
     }
 }
 
-/// The window brings what it shows in order, an act at a time.
-void Course::watch() {
+void Course::writeBack() {
+    if (m_ship->mass() != m_shownMass) {
+        m_shownMass = m_ship->mass();
+        m_ship->mass(m_shownMass);
+    }
+}
+
+/// An act at a time.
+void Course::bringInOrder() {
     const HullDesign wanted = inOrder(m_ship->hullDesign());
     if (m_ship->FTL() != wanted.ftl) {
         m_ship->FTL(wanted.ftl);
@@ -142,7 +164,9 @@ bool Course::perform(const DesignModel& wanted, const std::function<void()>& act
     } catch (const OverflowError&) {
         requireSame(describe(*m_ship), before, "an act that overflows changes nothing");
         require(m_ship->g_bSaved == wasSaved && !m_ship->isBusy(), "and leaves nothing under way");
-        require(m_isWatched || !wanted.figures(m_services), "only what overflows is refused");
+        require(m_listener != Listener::Nobody || !wanted.figures(m_services),
+                "only what overflows is refused");
+        m_shownMass = m_ship->mass();
         return false;
     }
     checkDone(wanted);
@@ -154,14 +178,27 @@ void Course::checkDone(const DesignModel& wanted) {
     const DesignModel is = DesignModel::of(*m_ship);
     requireSame(figuresOf(*m_ship), is.figures(m_services).value_or("overflow"),
                 "a ship has the figures of a new one of its design");
-    constexpr int mostPasses = 1001;
-    require(m_events.recalculating > 0 && m_events.recalculated > 0 &&
-                (m_isWatched || m_events.recalculating <= mostPasses),
-            "figures are worked out anew, and not for ever");
-    if (m_isWatched) {
-        require(is.hull.mass >= smallestMass, "the window's mass is the ship's");
+    require(m_events.recalculating > 0 && m_events.recalculated > 0, "figures are worked out anew");
+    if (m_listener == Listener::BringsInOrder) {
+        DesignModel ordered = is;
+        ordered.hull = inOrder(is.hull);
+        requireSame(textOf(is), textOf(ordered), "a listener has its way");
         return;
     }
+    if (m_listener == Listener::WritesBack) {
+        require(is.hull.mass == m_shownMass, "what is shown is the ship's mass");
+        if (m_events.unsettled > 0) {
+            DesignModel kept = wanted;
+            // A mass that is written back does not stay below the smallest.
+            if (m_ship->mass() == smallestMass) {
+                kept.hull.mass = std::max(wanted.hull.mass, smallestMass);
+            }
+            requireSame(textOf(is), textOf(kept), "a ship that nothing fits keeps its mass");
+        }
+        return;
+    }
+    constexpr int mostPasses = 1001;
+    require(m_events.recalculating <= mostPasses, "AutoMass comes to an end");
     if (wanted.isAutoMass) {
         checkAutoMass(wanted);
         return;
@@ -322,7 +359,7 @@ bool Course::makeHull(const HullDesign& hull) {
 }
 
 void Course::beABaseForAWhile() {
-    if (m_ship->g_bAutoMass || m_isWatched) {
+    if (m_ship->g_bAutoMass || m_listener != Listener::Nobody) {
         return;
     }
     const HullDesign hull = m_ship->hullDesign();
