@@ -153,10 +153,17 @@ void checkSurroundings(const std::string& text, const Numbers& ship) {
     const double value = plain.value;
     const bool divides = plain.dividesByZero;
     const std::string inner = '(' + text + ')';
-    for (const std::string& same :
-         {inner, capitals(text), moreBlanks(text), "1 ? " + inner + " : 1 / 0",
-          "0 ? 1 / 0 : " + inner, "max(" + text + ';' + text + ')', "min(" + text + ')',
-          "- -" + inner, "+" + inner, inner + "^1"}) {
+    const std::array<std::string, 10> alike = {inner,
+                                               capitals(text),
+                                               moreBlanks(text),
+                                               "1 ? " + inner + " : 1 / 0",
+                                               "0 ? 1 / 0 : " + inner,
+                                               "max(" + text + ';' + text + ')',
+                                               "min(" + text + ')',
+                                               "- -" + inner,
+                                               "+" + inner,
+                                               inner + "^1"};
+    for (const std::string& same : alike) {
         requireValue(same, ship, value, divides, "surroundings leave a value as it is");
     }
     requireValue("0 and " + inner, ship, 0.0, false, "what is decided does not count");

@@ -29,13 +29,13 @@ constexpr std::array<std::uint32_t, 16> colours = {
 /// A byte is a colour and the length of its run.
 Raster pictureOf(const std::uint8_t* data, std::size_t size) {
     constexpr int mostColumns = 400;
-    constexpr int mostRows = 64;
+    constexpr std::size_t mostRows = 64;
     if (size < 2) {
         return {};
     }
     const int width = 1 + (data[0] | data[1] << 8) % mostColumns;
     std::vector<std::uint32_t> pixels;
-    const auto most = static_cast<std::size_t>(width * mostRows);
+    const auto most = static_cast<std::size_t>(width) * mostRows;
     for (std::size_t i = 2; i < size && pixels.size() < most; ++i) {
         pixels.insert(pixels.end(), static_cast<std::size_t>(runLengths[data[i] >> 4]),
                       colours[data[i] & 15]);

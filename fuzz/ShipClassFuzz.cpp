@@ -43,7 +43,8 @@ class Course {
 public:
     Course(FuzzedDataProvider& data, const ShipServices& services, const TemporaryFolder& folder)
         : m_data(data), m_services(services), m_folder(folder),
-          m_listener(data.ConsumeEnum<Listener>()) {
+          m_listener(data.PickValueInArray(
+              {Listener::Nobody, Listener::BringsInOrder, Listener::WritesBack})) {
         take(std::make_unique<ShipClass>(m_services));
     }
 
@@ -60,8 +61,7 @@ private:
     enum class Listener {
         Nobody,
         BringsInOrder,  ///< makes a base one that does not move, and a ship no smaller than allowed
-        WritesBack,     ///< shows the mass, and writes what it shows
-        kMaxValue = WritesBack
+        WritesBack      ///< shows the mass, and writes what it shows
     };
 
     /// How often a ship has raised each of its events.
