@@ -7,9 +7,14 @@
 #include "TextFile.h"
 #include "require.h"
 #include "shipWords.h"
+#include "wholeNumber.h"
 
 #include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 using namespace fleetwright;
 
@@ -51,6 +56,48 @@ void checkFaults(const std::string& text, const ShipClass& ship, bool isLoaded) 
             "a file without faults has no amounts below 0");
 }
 
+/// The system and the number of pieces in a line as ships are saved; nothing for any other line.
+std::optional<std::pair<std::string, std::int32_t>> savedSystem(std::string_view line) {
+    constexpr std::string_view key = "System: ";
+    constexpr std::size_t mostDigits = 6;
+    const std::size_t comma = line.find(", ");
+    if (!line.starts_with(key) || comma == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const std::string_view name = line.substr(key.size(), comma - key.size());
+    const std::string_view digits = line.substr(comma + 2);
+    if (digits.empty() || digits.size() > mostDigits ||
+        digits.find_first_not_of("0123456789") != std::string_view::npos ||
+        name.find_first_of(":,") != std::string_view::npos || trimmed(name) != name) {
+        return std::nullopt;
+    }
+    return std::pair{std::string(name), std::stoi(std::string(digits))};
+}
+
+/// Lines as ships are saved come aboard, all of them, or the file says why not.
+void checkSystems(std::string_view text, const ShipClass& ship) {
+    std::map<std::string, std::int64_t> wanted;
+    bool isPlain = ship.refusedLines().empty() && !ship.fileFault();
+    LineReader lines(text);
+    std::string_view line;
+    while (lines.next(line)) {
+        if (const auto system = savedSystem(line)) {
+            wanted[system->first] += system->second;
+            require(!ship.fileFault() || ship.fileFault()->line != lines.lineNumber() ||
+                        ship.fileFault()->text == OverflowError().what(),
+                    "a line as ships are saved can be read");
+        } else if (line.empty() || line.starts_with("System:")) {
+            isPlain = false;  // an empty line can bring a system, too
+        }
+    }
+    std::map<std::string, std::int64_t> aboard;
+    for (const WeapRec& record : ship.systemsAboard()) {
+        aboard[std::string(record.name)] = record.amount;
+    }
+    std::erase_if(wanted, [](const auto& system) { return system.second == 0; });
+    require(!isPlain || aboard == wanted, "what the lines say is aboard");
+}
+
 /// What was loaded, brought in order as the window does, can be shown, saved and loaded again.
 void checkRoundTrip(ShipClass& ship, const ShipServices& services, const TemporaryFolder& folder) {
     ShipClass::State shown = ship.state();
@@ -90,7 +137,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(!isLoaded || (ship.g_bSaved && ship.g_sSaveName == file), "a loaded ship is saved");
     require(!ship.g_bAutoMass && !ship.isBusy(), "a load ends with AutoMass off");
     const std::string loaded = describe(ship);
-    checkFaults(readTextFile(file), ship, isLoaded);
+    const std::string text = readTextFile(file);
+    checkFaults(text, ship, isLoaded);
+    checkSystems(text, ship);
     requireSame(describe(ship), loaded, "a check leaves the ship as it is");
 
     ShipClass twin(services);
