@@ -1,0 +1,270 @@
+// The language of formulas. An input is up to three formulas, a line each.
+
+#include "FormulaReader.h"
+#include "formulaFault.h"
+#include "formula_calculate.h"
+#include "require.h"
+#include "utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <string>
+#include <string_view>
+
+using namespace fleetwright;
+
+namespace {
+
+/// The six numbers of a ship, as an evaluation gets them.
+using Numbers = std::array<std::int32_t, 6>;
+
+constexpr std::array<Numbers, 4> ships = {{
+    {2, 1, 1, 2, 4, 1},
+    {150, 3, 0, 8, 375, 3},
+    {-13, 0, 3, -7, 0, -1},
+    {std::numeric_limits<std::int32_t>::max(), 6, 1, 32767,
+     std::numeric_limits<std::int32_t>::min(), 1'000'000'000},
+}};
+
+struct Outcome {
+    FormulaReader::Fault fault;
+    std::ptrdiff_t faultPlace;
+    bool dividesByZero;
+    double value;
+
+    bool isReadable() const { return fault == FormulaReader::Fault::None; }
+};
+
+Outcome outcomeOf(const std::string& text, const Numbers& ship) {
+    FormulaReader reader(text.c_str(), {.mass = static_cast<double>(ship[0]),
+                                        .hull = static_cast<double>(ship[1]),
+                                        .ftl = static_cast<double>(ship[2]),
+                                        .thrust = static_cast<double>(ship[3]),
+                                        .hullCost = static_cast<double>(ship[4]),
+                                        .amount = static_cast<double>(ship[5])});
+    const double value = reader.read();
+    const bool isReadable = reader.fault() == FormulaReader::Fault::None;
+    return {.fault = reader.fault(),
+            .faultPlace = isReadable ? 0 : reader.faultPlace() - text.c_str(),
+            .dividesByZero = reader.dividesByZero(),
+            .value = value};
+}
+
+bool isSameNumber(double a, double b) {
+    return a == b || (std::isnan(a) && std::isnan(b));
+}
+
+/// What `text`, which is made of readable parts, comes to; it can only be nested too deep.
+void requireValue(const std::string& text, const Numbers& ship, double value, bool dividesByZero,
+                  std::string_view promise) {
+    const Outcome outcome = outcomeOf(text, ship);
+    if (outcome.fault == FormulaReader::Fault::TooDeep) {
+        return;
+    }
+    const bool holds = outcome.isReadable() && outcome.dividesByZero == dividesByZero &&
+                       (dividesByZero || isSameNumber(outcome.value, value));
+    if (!holds) {
+        std::fprintf(stderr, "%s\ngot %.17g, wanted %.17g\n", text.c_str(), outcome.value, value);
+    }
+    require(holds, promise);
+}
+
+std::int32_t valueOf(const std::string& text, const Numbers& ship) {
+    std::string buffer = text;
+    const std::int32_t value =
+        formula_calculate(buffer.data(), ship[0], ship[1], ship[2], ship[3], ship[4], ship[5]);
+    require(buffer == text, "an evaluation leaves the text as it is");
+    return value;
+}
+
+/// The checker, the reader and the evaluator must be of one mind about every text.
+void checkAgreement(const std::string& text) {
+    const auto fault = formulaFault(text);
+    const Outcome onAnyShip = outcomeOf(text, ships[0]);
+    for (const Numbers& ship : ships) {
+        const Outcome outcome = outcomeOf(text, ship);
+        require(outcome.isReadable() == !fault && outcome.fault == onAnyShip.fault &&
+                    outcome.faultPlace == onAnyShip.faultPlace,
+                "whether a text can be read does not depend on the ship");
+        const double rounded = std::nearbyint(outcome.value);
+        const bool hasValue = outcome.isReadable() && !outcome.dividesByZero &&
+                              rounded >= std::numeric_limits<std::int32_t>::min() &&
+                              rounded <= std::numeric_limits<std::int32_t>::max();
+        require(valueOf(text, ship) == (hasValue ? static_cast<std::int32_t>(rounded) : 0),
+                "the value is the rounded one within 32 bits, and 0 without one");
+    }
+    if (!fault) {
+        return;
+    }
+    require(!fault->text.empty(), "a fault is put into words");
+    require(fault->column >= 1 &&
+                static_cast<std::size_t>(fault->column) <= characterCount(text) + 1,
+            "a fault has its column within the text");
+    // The place is that of the first thing that is wrong: what stands before it can go on.
+    const std::string before = text.substr(0, static_cast<std::size_t>(onAnyShip.faultPlace));
+    const Outcome start = outcomeOf(before, ships[0]);
+    require(start.isReadable() || start.faultPlace == onAnyShip.faultPlace,
+            "nothing is wrong in front of the fault");
+}
+
+std::string capitals(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+    return text;
+}
+
+std::string moreBlanks(const std::string& text) {
+    std::string spaced = "\t ";
+    for (const char c : text) {
+        const bool isBlank = c == ' ' || c == '\t';
+        spaced += isBlank ? std::string(" \t ") : std::string(1, c);
+    }
+    return spaced + ' ';
+}
+
+/// The rounding of fractions, decided on the 15 significant digits as they are printed.
+double roundedUp(double x) {
+    if (!std::isfinite(x)) {
+        return x;
+    }
+    constexpr int digitsBehindFirst = 14;
+    std::array<char, 40> text{};
+    std::snprintf(text.data(), text.size(), "%.*e", digitsBehindFirst, std::fabs(x));
+    const std::string_view printed(text.data());
+    const std::string digits =
+        std::string(printed.substr(0, 1)) + std::string(printed.substr(2, digitsBehindFirst));
+    const int exponent = std::atoi(printed.substr(printed.find('e') + 1).data());
+    const std::size_t whole =
+        std::min(static_cast<std::size_t>(std::max(exponent + 1, 0)), digits.size());
+    const bool hasFraction = digits.find_first_not_of('0', whole) != std::string::npos;
+    return hasFraction ? std::trunc(x) + 1.0 : std::nearbyint(x);
+}
+
+/// What a readable text comes to does not change with what only stands around it.
+void checkSurroundings(const std::string& text, const Numbers& ship) {
+    const Outcome plain = outcomeOf(text, ship);
+    if (!plain.isReadable()) {
+        return;
+    }
+    const double value = plain.value;
+    const bool divides = plain.dividesByZero;
+    const std::string inner = '(' + text + ')';
+    const std::array<std::string, 10> alike = {inner,
+                                               capitals(text),
+                                               moreBlanks(text),
+                                               "1 ? " + inner + " : 1 / 0",
+                                               "0 ? 1 / 0 : " + inner,
+                                               "max(" + text + ';' + text + ')',
+                                               "min(" + text + ')',
+                                               "- -" + inner,
+                                               "+" + inner,
+                                               inner + "^1"};
+    for (const std::string& same : alike) {
+        requireValue(same, ship, value, divides, "surroundings leave a value as it is");
+    }
+    requireValue("0 and " + inner, ship, 0.0, false, "what is decided does not count");
+    requireValue("1 or " + inner, ship, 1.0, false, "what is decided does not count");
+    requireValue("not " + inner, ship, value == 0.0, divides, "not turns a truth round");
+    requireValue("roundup" + inner, ship, roundedUp(value), divides,
+                 "fractions are rounded up by their printed digits");
+    requireValue("floor" + inner, ship, std::floor(value), divides, "floor goes down");
+    requireValue("ceil" + inner, ship, std::ceil(value), divides, "ceil goes up");
+    requireValue("round" + inner, ship, std::nearbyint(value), divides, "round takes the nearest");
+    requireValue("trunc" + inner, ship, std::trunc(value), divides, "trunc goes to zero");
+    requireValue("abs" + inner, ship, std::fabs(value), divides, "abs has no sign");
+}
+
+struct Operator {
+    const char* text;
+    int binding;  // the larger, the tighter
+    bool divides = false;
+    std::function<double(double, double)> combine;
+};
+
+const std::array<Operator, 15>& operators() {
+    static const std::array<Operator, 15> all = {{
+        {"or", 0, false, [](double a, double b) { return a != 0.0 || b != 0.0 ? 1.0 : 0.0; }},
+        {"and", 1, false, [](double a, double b) { return a != 0.0 && b != 0.0 ? 1.0 : 0.0; }},
+        {"=", 2, false, std::equal_to<double>()},
+        {"==", 2, false, std::equal_to<double>()},
+        {"<>", 2, false, std::not_equal_to<double>()},
+        {"!=", 2, false, std::not_equal_to<double>()},
+        {"<", 2, false, std::less<double>()},
+        {"<=", 2, false, std::less_equal<double>()},
+        {">", 2, false, std::greater<double>()},
+        {">=", 2, false, std::greater_equal<double>()},
+        {"+", 3, false, std::plus<double>()},
+        {"-", 3, false, std::minus<double>()},
+        {"*", 4, false, std::multiplies<double>()},
+        {"/", 4, true, std::divides<double>()},
+        {"%", 4, true, [](double a, double b) { return std::fmod(a, b); }},
+    }};
+    return all;
+}
+
+/// Operators do what they say, and bind as they should, whatever their operands are.
+void checkOperators(const std::string& a, const std::string& b, const std::string& c,
+                    const Numbers& ship, std::size_t choice) {
+    const Outcome left = outcomeOf(a, ship);
+    const Outcome right = outcomeOf(b, ship);
+    if (!left.isReadable() || !right.isReadable() || !outcomeOf(c, ship).isReadable()) {
+        return;
+    }
+    const std::string one = '(' + a + ')';
+    const std::string two = '(' + b + ')';
+    const std::string three = '(' + c + ')';
+    const auto joined = [](const std::string& x, const Operator& op, const std::string& y) {
+        return x + ' ' + op.text + ' ' + y;
+    };
+    for (std::size_t i = 0; i < operators().size(); ++i) {
+        const Operator& op = operators()[i];
+        const bool isDecided =
+            (op.binding == 0 && left.value != 0.0) || (op.binding == 1 && left.value == 0.0);
+        const bool divides = left.dividesByZero || (right.dividesByZero && !isDecided) ||
+                             (op.divides && right.value == 0.0);
+        requireValue(joined(one, op, two), ship, op.combine(left.value, right.value), divides,
+                     "an operator combines its operands");
+
+        const Operator& next = operators()[(i + choice) % operators().size()];
+        const std::string grouped = next.binding > op.binding
+                                        ? joined(one, op, '(' + joined(two, next, three) + ')')
+                                        : joined('(' + joined(one, op, two) + ')', next, three);
+        const Outcome wanted = outcomeOf(grouped, ship);
+        if (wanted.isReadable()) {
+            requireValue(joined(joined(one, op, two), next, three), ship, wanted.value,
+                         wanted.dividesByZero, "operators bind as they should");
+        }
+    }
+    const Outcome tower = outcomeOf(one + "^(" + two + '^' + three + ')', ship);
+    if (tower.isReadable()) {
+        requireValue(one + '^' + two + '^' + three, ship, tower.value, tower.dividesByZero,
+                     "powers go to the right");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string input(reinterpret_cast<const char*>(data), size);
+    input.resize(std::min(input.find('\0'), input.size()));
+    std::array<std::string, 3> formulas = {"mass", "amount - 3", "0.5"};
+    std::size_t at = 0;
+    for (std::string& formula : formulas) {
+        const std::size_t end = std::min(input.find('\n', at), input.size());
+        if (at < end) {
+            formula = input.substr(at, end - at);
+        }
+        at = std::min(end + 1, input.size());
+    }
+    checkAgreement(input);
+    for (const std::string& formula : formulas) {
+        checkAgreement(formula);
+        checkSurroundings(formula, ships[size % ships.size()]);
+    }
+    checkOperators(formulas[0], formulas[1], formulas[2], ships[size % ships.size()], size);
+    return 0;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace fleetwright {
+
+/// Ends the run with a find, unless what the program promises `holds`.
+inline void require(bool holds, std::string_view promise) {
+    if (!holds) {
+        std::fprintf(stderr, "Broken promise: %.*s\n", static_cast<int>(promise.size()),
+                     promise.data());
+        std::abort();
+    }
+}
+
+/// The same for two texts that are to be alike; shows both.
+inline void requireSame(const std::string& got, const std::string& wanted,
+                        std::string_view promise) {
+    if (got != wanted) {
+        std::fprintf(stderr, "--- got:\n%s\n--- wanted:\n%s\n---\n", got.c_str(), wanted.c_str());
+    }
+    require(got == wanted, promise);
+}
+
+}  // namespace fleetwright
