@@ -57,7 +57,7 @@ private:
         const MainWindow window;
     }
 
-    /// Windows on the screen, the main one last.
+    /// The windows on the screen besides the main one.
     static std::vector<std::string> titles() {
         std::vector<std::string> found;
         for (const Element& window : windowsOnScreen()) {
@@ -167,7 +167,7 @@ private:
         const MainWindow window;
         const std::filesystem::path file =
             m_program.folder().path() / ("look" + std::to_string(m_looks++) + ".shp");
-        press({"ctrl+a"});
+        window.choose("File", "Save As");  // the key may be that of an open name
         chooseFile("Save As", file);
         waitFor("the save", [&] { return std::filesystem::exists(file); });
         const std::string design = readTextFile(file);
