@@ -27,7 +27,6 @@
 #include "frmSplash.h"
 #include "sheetShip.h"
 #include "showFileError.h"
-#include "userDataFolder.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -38,10 +37,6 @@
 namespace fleetwright {
 
 namespace {
-
-std::filesystem::path recoveryFolder() {
-    return userDataFolder() / "recovered";
-}
 
 /// The time as it stands in the name of a design put aside.
 std::string currentTime() {
@@ -54,9 +49,9 @@ public:
     Program(QtDesktop& desktop, Run run)
         : m_appFolder(
               applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
-          m_desktop(desktop), m_sounds(m_appFolder), m_runs(recoveryFolder()),
+          m_desktop(desktop), m_sounds(m_appFolder), m_runs(RecoveryFolder::ofUser()),
           m_recovery(
-              recoveryFolder(),
+              RecoveryFolder::ofUser(),
               {.ownMark = m_runs.own(),
                .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
               currentTime),

@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "folders.h"
 #include "saveFile.h"
+#include "userDataFolder.h"
 #include "utf8.h"
 
 #include <algorithm>
@@ -53,6 +54,10 @@ fs::file_time_type timeOf(const fs::path& file) {
 }
 
 }  // namespace
+
+fs::path RecoveryFolder::ofUser() {
+    return userDataFolder() / "recovered";
+}
 
 RecoveryFolder::RecoveryFolder(fs::path folder, Runs runs, std::function<std::string()> now)
     : m_folder(std::move(folder)), m_runs(std::move(runs)), m_now(std::move(now)) {}
