@@ -32,6 +32,7 @@
 #include <QDateTime>
 #include <QIcon>
 
+#include <array>
 #include <exception>
 
 namespace fleetwright {
@@ -97,7 +98,7 @@ public:
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
-                    .encoder = m_decoder,
+                    .encoder = m_pictureFiles,
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
                     .lvCurrentWeapons = m_main.lvCurrentWeapons,
@@ -110,25 +111,19 @@ public:
                         .eventLoopTurn = [] { QApplication::processEvents(); },
                         .g_colSSDMaps = m_globals.g_colSSDMaps}),
           m_viewer({.appFolder = m_appFolder, .desktop = desktop, .pictures = m_pictures}) {
-        if (run == Run::Whole) {
-            desktop.present(m_splash);
+        for (Form* const form : windows()) {
+            if (form != &m_splash || run == Run::Whole) {
+                desktop.present(*form);
+            }
         }
-        desktop.present(m_main);
-        desktop.present(m_mapper);
-        desktop.present(m_about);
-        desktop.present(m_mapCreator);
-        desktop.present(m_viewer);
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     ~Program() {
-        m_desktop.dismiss(m_viewer);
-        m_desktop.dismiss(m_mapCreator);
-        m_desktop.dismiss(m_about);
-        m_desktop.dismiss(m_mapper);
-        m_desktop.dismiss(m_main);
-        m_desktop.dismiss(m_splash);
+        for (Form* const form : windows()) {
+            m_desktop.dismiss(*form);
+        }
     }
 
     int run() {
@@ -144,6 +139,11 @@ public:
     }
 
 private:
+    /// The forms with windows of their own. The page of settings is a dialog of the main window.
+    std::array<Form*, 6> windows() {
+        return {&m_splash, &m_main, &m_mapper, &m_about, &m_mapCreator, &m_viewer};
+    }
+
     /// Opens a window or, if it is open, brings it to the front.
     static void bringUp(Form& form) {
         if (form.isLoaded() && form.state() == WindowState::Minimized) {
@@ -162,8 +162,8 @@ private:
     QtSettingsStore m_settings;
     QtClock m_clock;
     QtSounds m_sounds;
-    QtPictureFiles m_decoder;
-    PictureCache m_pictures{m_decoder};  // the start looks at each picture twice
+    QtPictureFiles m_pictureFiles;
+    PictureCache m_pictures{m_pictureFiles};  // the start looks at each picture twice
     QtPrograms m_programs;
     QtPrinter m_printer;
     QtRegistry m_registry;
