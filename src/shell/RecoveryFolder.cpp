@@ -21,15 +21,19 @@ constexpr char beforeMark = '~';
 
 /// A ship's name as the name of a file: without what some file system does not take, and short.
 std::string fileNameOf(const std::string& shipName) {
-    constexpr std::size_t longest = 60;
+    constexpr std::size_t mostCharacters = 60;
+    constexpr std::size_t mostBytes = 200;  // file systems take 255, and time and mark follow
     constexpr std::string_view forbidden = "/\\:*?\"<>|~";
     std::string name;
     for (const char c : shipName) {
         const bool isControl = static_cast<unsigned char>(c) < ' ';
         name += isControl || forbidden.find(c) != std::string_view::npos ? '_' : c;
     }
-    if (const std::size_t length = characterCount(name); length > longest) {
-        name = withoutLastCharacters(name, length - longest);
+    if (const std::size_t length = characterCount(name); length > mostCharacters) {
+        name = withoutLastCharacters(name, length - mostCharacters);
+    }
+    while (name.size() > mostBytes) {
+        name = withoutLastCharacters(name, 1);
     }
     const std::size_t first = name.find_first_not_of(" .");
     return first == std::string::npos ? "Unnamed" : name.substr(first);
