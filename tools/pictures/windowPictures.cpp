@@ -20,6 +20,7 @@ constexpr QSize buttonSize(systemPictureSize, systemPictureSize);
 /// The roots of the catalogue as they stand in the names of files.
 std::vector<std::string> rootNames() {
     std::vector<std::string> names;
+    names.reserve(catalogueRoots.size());
     for (const std::string_view root : catalogueRoots) {
         names.push_back(QString::fromUtf8(root.data(), std::ssize(root)).toLower().toStdString());
     }
