@@ -35,6 +35,7 @@ public:
     RecoveryFolder(std::filesystem::path folder, Runs runs, std::function<std::string()> now);
     RecoveryFolder(const RecoveryFolder&) = delete;
     RecoveryFolder& operator=(const RecoveryFolder&) = delete;
+    ~RecoveryFolder() = default;
 
     /// Keeps what runs that have crashed have left: these designs, the newest first.
     /// Throws FileError as `list` does.
