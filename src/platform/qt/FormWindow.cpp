@@ -357,7 +357,8 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
         m_form.state() != WindowState::Normal) {
         return;
     }
-    const QSize own = m_scale.rect(m_form.place()).size();
+    const Place& form = m_form.place();
+    const QSize own = m_scale.rect(form).size();
     const QSize expected = fitting(own);
     const QSize size = centralWidget()->size();
     if (size == expected || isStubborn(size)) {
@@ -365,11 +366,13 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
     }
     // Where the edge has not moved, the form keeps its size, which the screen may have no room for.
     const QSize bars = (expected - own).expandedTo(QSize(0, 0));
-    const int width = size.width() == expected.width() ? own.width() : size.width() - bars.width();
-    const int height =
-        size.height() == expected.height() ? own.height() : size.height() - bars.height();
-    m_form.resize(static_cast<int>(m_scale.twips(width)) + Form::frameWidth,
-                  static_cast<int>(m_scale.twips(height)) + Form::frameHeight);
+    const int width = size.width() == expected.width()
+                          ? form.width
+                          : static_cast<int>(m_scale.twips(size.width() - bars.width()));
+    const int height = size.height() == expected.height()
+                           ? form.height
+                           : static_cast<int>(m_scale.twips(size.height() - bars.height()));
+    m_form.resize(width + Form::frameWidth, height + Form::frameHeight);
 }
 
 /// Whether the desktop keeps the window at a size that the form has refused again and again: it
