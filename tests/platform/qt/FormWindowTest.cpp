@@ -351,6 +351,7 @@ TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
     form.list.onMouseDown = [&](const MousePress& press) { top = press.y / 3000; };
     QTest::mousePress(list->viewport(), Qt::RightButton, {}, {1, 0});
     EXPECT_NEAR(top * list->height(), list->viewport()->y(), 1.0);
+    QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, {1, 0});
 }
 
 TEST_F(FormWindowTest, MenusTimersAndClosing) {
