@@ -30,7 +30,12 @@ public:
         }
         return buttons == Buttons::YesNo ? m_test.answer : Answer::Ok;
     }
-    void popUp(MenuEntry& menu) override { m_test.m_log += "menu: " + menu.name() + "; "; }
+    void popUp(MenuEntry& menu) override {
+        m_test.m_log += "menu: " + menu.name() + "; ";
+        if (m_test.inPopUp) {
+            m_test.inPopUp(menu);
+        }
+    }
     void showModal(Form& form, Form& owner) override {
         m_test.m_log += "dialog: " + form.name() + " of " + owner.name() + "; ";
         form.show();
@@ -39,12 +44,20 @@ public:
             m_test.inDialog(form);
         }
     }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return m_test.file; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return m_test.file; }
-    void unloadAllForms() override { m_test.m_log += "unload all; "; }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return choose(); }
+    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return choose(); }
+    void unloadAllForms() override {
+        m_test.m_log += "unload all; ";
+        raise(m_test.atEnd);
+    }
     ScreenSize screenSize() override { return {1024, 768}; }
 
 private:
+    std::optional<std::string> choose() {
+        raise(m_test.inFileDialog);
+        return m_test.file;
+    }
+
     TestWindow& m_test;
 };
 
@@ -128,7 +141,11 @@ TestWindow::TestWindow(std::string_view catalogue)
     m_folder.write("weaps.dat", catalogue);
     m_window = std::make_unique<frmMain>(
         MainWindowServices{.appFolder = m_folder.path(),
-                           .eventLoopTurn = [this] { takeTurn(); },
+                           .eventLoopTurn =
+                               [this] {
+                                   takeTurn();
+                                   raise(inEachTurn);
+                               },
                            .freeFormulaLibrary = [this] { m_log += "free library; "; },
                            .catalogueFaults = [this] { return catalogueFaults; },
                            .desktop = *m_desk,
@@ -138,10 +155,10 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .settings = m_settings,
                            .printer = *m_paper,
                            .extras = [this]() -> frmExtras& { return m_extras; },
-                           .showAbout = [this] { m_log += "about; "; },
-                           .showMapper = [this] { m_log += "mapper; "; },
-                           .showViewer = [this] { m_log += "viewer; "; },
-                           .showMapCreator = [this] { m_log += "map creator; "; },
+                           .showAbout = [this] { openOther("about"); },
+                           .showMapper = [this] { openOther("mapper"); },
+                           .showViewer = [this] { openOther("viewer"); },
+                           .showMapCreator = [this] { openOther("map creator"); },
                            .recovery = &m_recovery});
 }
 
@@ -151,6 +168,17 @@ void TestWindow::takeTurn() {
     if (inTurn) {
         std::exchange(inTurn, {})();
     }
+}
+
+void TestWindow::openOther(const std::string& name) {
+    m_log += name + "; ";
+    if (showOther) {
+        showOther(name);
+    }
+}
+
+Desktop& TestWindow::desktop() {
+    return *m_desk;
 }
 
 std::string TestWindow::takeLog() {

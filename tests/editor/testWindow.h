@@ -30,6 +30,7 @@ public:
 
     frmMain& window() { return *m_window; }
     ShipClass& ship() { return *m_window->g_Ship; }
+    Desktop& desktop();
     /// Everything shown on the desktop since the last call: "box: text; " and the like.
     std::string takeLog();
     /// Selects the node of a system in the tree.
@@ -48,6 +49,14 @@ public:
     std::function<void()> inMessage;
     /// What the user does in the next dialog.
     std::function<void(Form&)> inDialog;
+    /// The same for file dialogs, for menus that pop up and for each turn that the window gives.
+    std::function<void()> inFileDialog;
+    std::function<void(MenuEntry&)> inPopUp;
+    std::function<void()> inEachTurn;
+    /// The program ends.
+    std::function<void()> atEnd;
+    /// A window without an owner is to be shown: "mapper", "viewer", "map creator" or "about".
+    std::function<void(const std::string&)> showOther;
     /// What the user chooses in file dialogs, and how many copies in the print dialog; nothing is
     /// Cancel.
     std::optional<std::string> file;
@@ -62,6 +71,7 @@ private:
     class Progress;
 
     void takeTurn();
+    void openOther(const std::string& name);
 
     TemporaryFolder m_folder;
     std::string m_log;
