@@ -162,13 +162,15 @@ void frmMain::g_Ship_ShipSaved() {
 
 void frmMain::g_Ship_ShipLoaded() {
     showButtons();
-    WeapRec record;
-    for (std::int32_t index = 0; index < g_Ship->g_lWeapCount;) {
-        g_Ship->listWeap(index, record);
-        if (record.amount > 0) {
-            AddWeaponRow(std::string(record.name), record.amount);
-        }
+    showSystems();
+    if (isBase(g_Ship->Hull())) {
+        // A file can have brought a base that moves, and no button's click if the ship before was
+        // such a base.
+        chooseBaseHull(static_cast<HullType>(g_Ship->Hull()));
     }
+    // A file without systems has worked nothing out yet, and the screen may still show the ship
+    // before.
+    g_Ship->mass(g_Ship->mass());
 }
 
 void frmMain::act(const std::function<void()>& change) {
@@ -199,6 +201,7 @@ void frmMain::runUndoable(const std::function<void()>& change) {
         change();
     } catch (const OverflowError&) {
         g_Ship->restore(before);
+        showSystems();
         try {
             RefreshScreen();
         } catch (const OverflowError&) {

@@ -364,7 +364,8 @@ private:
 
     // Designs put aside.
     void tmrRecovery_Timer();
-    void noteSafe();
+    void noteSafe() { noteSafe(g_Ship->shipFile()); }
+    void noteSafe(std::string design);
     bool isSafe() const;
     bool giveUpDesign();
     void showRecovered();
@@ -473,6 +474,7 @@ private:
     // The systems aboard.
     void AddSelectedWeapon(std::int32_t amount);
     void AddWeaponRow(const std::string& name, std::int32_t amount);
+    void showSystems();
     void changeAmount(std::string name, std::int32_t change);
     void lvCurrentWeapons_Click();
     void lvCurrentWeapons_DblClick();

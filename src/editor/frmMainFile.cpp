@@ -155,10 +155,12 @@ void frmMain::mnuSave_Click() {
 
 bool frmMain::saveAs(std::string fileName) {
     sbStatus.setText("Saving...");
+    std::string design = g_Ship->shipFile();
     if (!g_Ship->saveShip(fileName)) {
         return false;
     }
-    noteSafe();
+    // The refresh behind the save can have let AutoMass go on.
+    noteSafe(std::move(design));
     addRecentFile();
     return true;
 }

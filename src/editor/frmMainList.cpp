@@ -35,6 +35,26 @@ void frmMain::AddWeaponRow(const std::string& name, std::int32_t amount) {
     }
 }
 
+/// Brings the rows to what the ship has aboard. Rows that stay keep their order.
+void frmMain::showSystems() {
+    const std::vector<WeapRec> aboard = g_Ship->systemsAboard();
+    for (std::size_t row = lvCurrentWeapons.rows().size(); row-- > 0;) {
+        const std::string& key = lvCurrentWeapons.rows()[row].key;
+        if (std::none_of(aboard.begin(), aboard.end(),
+                         [&](const WeapRec& system) { return system.name == key; })) {
+            lvCurrentWeapons.remove(row);
+        }
+    }
+    for (const WeapRec& system : aboard) {
+        const std::string count = std::to_string(system.amount);
+        if (const auto row = lvCurrentWeapons.find(system.name)) {
+            lvCurrentWeapons.setSubItem(*row, count);
+        } else {
+            lvCurrentWeapons.add(std::string(system.name), std::string(system.name), count);
+        }
+    }
+}
+
 /// Adds so many pieces to the ship, or takes them away. The row changes first, since the ship's
 /// recalculation ends in a refresh that reads it. The name is a copy: its row may go.
 void frmMain::changeAmount(const std::string name, std::int32_t change) {
@@ -50,6 +70,7 @@ void frmMain::changeAmount(const std::string name, std::int32_t change) {
         }
         if (!isTaken) {
             lvCurrentWeapons.setContent(before);
+            showSystems();  // AutoMass may have let other acts in
         }
     });
 }

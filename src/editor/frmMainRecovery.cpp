@@ -7,13 +7,15 @@
 #include "Error.h"
 #include "RecoveryFolder.h"
 
+#include <utility>
+
 namespace fleetwright {
 
-/// From here on nothing of the design can be lost: it is new, or in its file.
-void frmMain::noteSafe() {
+/// From here on nothing of this design can be lost: it is new, or in its file.
+void frmMain::noteSafe(std::string design) {
     if (m_services.recovery != nullptr) {
         m_services.recovery->forget();
-        m_safeFile = g_Ship->shipFile();
+        m_safeFile = std::move(design);
         m_asideFile.clear();
     }
 }

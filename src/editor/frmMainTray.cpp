@@ -25,9 +25,10 @@ void frmMain::Form_Resize() {
     }
 }
 
-/// Brings a hidden window back into the task bar when the tray has gone in which its icon was.
+/// Brings a hidden window back into the task bar when the tray has gone in which its icon was. One
+/// that the tick has closed, because that was to wait for its end, stays closed.
 void frmMain::keepFindable() {
-    if (state() == WindowState::Minimized && !isVisible() && !tray1.isAvailable()) {
+    if (g_Ship && state() == WindowState::Minimized && !isVisible() && !tray1.isAvailable()) {
         show();
     }
 }

@@ -30,7 +30,12 @@ public:
         }
         return buttons == Buttons::YesNo ? m_test.answer : Answer::Ok;
     }
-    void popUp(MenuEntry& menu) override { m_test.m_log += "menu: " + menu.name() + "; "; }
+    void popUp(MenuEntry& menu) override {
+        m_test.m_log += "menu: " + menu.name() + "; ";
+        if (m_test.inPopUp) {
+            m_test.inPopUp(menu);
+        }
+    }
     void showModal(Form& form, Form& owner) override {
         m_test.m_log += "dialog: " + form.name() + " of " + owner.name() + "; ";
         form.show();
@@ -39,12 +44,20 @@ public:
             m_test.inDialog(form);
         }
     }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return m_test.file; }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return m_test.file; }
-    void unloadAllForms() override { m_test.m_log += "unload all; "; }
+    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return choose(); }
+    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return choose(); }
+    void unloadAllForms() override {
+        m_test.m_log += "unload all; ";
+        raise(m_test.atEnd);
+    }
     ScreenSize screenSize() override { return {1024, 768}; }
 
 private:
+    std::optional<std::string> choose() {
+        raise(m_test.inFileDialog);
+        return m_test.file;
+    }
+
     TestWindow& m_test;
 };
 
@@ -72,24 +85,6 @@ public:
 
     void setText(const std::string& text) override { m_test.m_log += text + "; "; }
     void repaint() override { m_test.m_log += "paint; "; }
-
-private:
-    TestWindow& m_test;
-};
-
-class TestWindow::Settings : public SettingsStore {
-public:
-    explicit Settings(TestWindow& test) : m_test(test) {}
-
-    std::string read(const std::string& section, const std::string& key,
-                     const std::string& otherwise) const override {
-        const auto found = m_test.settings.find(section + '/' + key);
-        return found == m_test.settings.end() ? otherwise : found->second;
-    }
-    void write(const std::string& section, const std::string& key,
-               const std::string& value) override {
-        m_test.settings[section + '/' + key] = value;
-    }
 
 private:
     TestWindow& m_test;
@@ -127,11 +122,10 @@ private:
 
 TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
-      m_progress(std::make_unique<Progress>(*this)), m_settings(std::make_unique<Settings>(*this)),
-      m_paper(std::make_unique<Paper>(*this)),
+      m_progress(std::make_unique<Progress>(*this)), m_paper(std::make_unique<Paper>(*this)),
       m_extras({.desktop = *m_desk,
                 .globals = globals,
-                .settings = *m_settings,
+                .settings = m_settings,
                 .nameShip = [this](const std::string& designer,
                                    const std::string& ship) { window().nameShip(designer, ship); },
                 .clearRecentFiles =
@@ -147,20 +141,24 @@ TestWindow::TestWindow(std::string_view catalogue)
     m_folder.write("weaps.dat", catalogue);
     m_window = std::make_unique<frmMain>(
         MainWindowServices{.appFolder = m_folder.path(),
-                           .eventLoopTurn = [this] { takeTurn(); },
+                           .eventLoopTurn =
+                               [this] {
+                                   takeTurn();
+                                   raise(inEachTurn);
+                               },
                            .freeFormulaLibrary = [this] { m_log += "free library; "; },
                            .catalogueFaults = [this] { return catalogueFaults; },
                            .desktop = *m_desk,
                            .pictures = *m_pictures,
                            .progress = *m_progress,
                            .globals = globals,
-                           .settings = *m_settings,
+                           .settings = m_settings,
                            .printer = *m_paper,
                            .extras = [this]() -> frmExtras& { return m_extras; },
-                           .showAbout = [this] { m_log += "about; "; },
-                           .showMapper = [this] { m_log += "mapper; "; },
-                           .showViewer = [this] { m_log += "viewer; "; },
-                           .showMapCreator = [this] { m_log += "map creator; "; },
+                           .showAbout = [this] { openOther("about"); },
+                           .showMapper = [this] { openOther("mapper"); },
+                           .showViewer = [this] { openOther("viewer"); },
+                           .showMapCreator = [this] { openOther("map creator"); },
                            .recovery = &m_recovery});
 }
 
@@ -170,6 +168,17 @@ void TestWindow::takeTurn() {
     if (inTurn) {
         std::exchange(inTurn, {})();
     }
+}
+
+void TestWindow::openOther(const std::string& name) {
+    m_log += name + "; ";
+    if (showOther) {
+        showOther(name);
+    }
+}
+
+Desktop& TestWindow::desktop() {
+    return *m_desk;
 }
 
 std::string TestWindow::takeLog() {

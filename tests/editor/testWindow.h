@@ -5,13 +5,12 @@
 #include "PictureFiles.h"
 #include "Printer.h"
 #include "RecoveryFolder.h"
-#include "SettingsStore.h"
 #include "StartUpProgress.h"
+#include "fakeServices.h"
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "testShip.h"
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,6 +30,7 @@ public:
 
     frmMain& window() { return *m_window; }
     ShipClass& ship() { return *m_window->g_Ship; }
+    Desktop& desktop();
     /// Everything shown on the desktop since the last call: "box: text; " and the like.
     std::string takeLog();
     /// Selects the node of a system in the tree.
@@ -49,29 +49,36 @@ public:
     std::function<void()> inMessage;
     /// What the user does in the next dialog.
     std::function<void(Form&)> inDialog;
+    /// The same for file dialogs, for menus that pop up and for each turn that the window gives.
+    std::function<void()> inFileDialog;
+    std::function<void(MenuEntry&)> inPopUp;
+    std::function<void()> inEachTurn;
+    /// The program ends.
+    std::function<void()> atEnd;
+    /// A window without an owner is to be shown: "mapper", "viewer", "map creator" or "about".
+    std::function<void(const std::string&)> showOther;
     /// What the user chooses in file dialogs, and how many copies in the print dialog; nothing is
     /// Cancel.
     std::optional<std::string> file;
     std::optional<int> copies;
     bool printerFails = false;
     std::string catalogueFaults;
-    std::map<std::string, std::string> settings;  ///< "section/key"
 
 private:
     class Desk;
     class Paper;
     class Pictures;
     class Progress;
-    class Settings;
 
     void takeTurn();
+    void openOther(const std::string& name);
 
     TemporaryFolder m_folder;
     std::string m_log;
     std::unique_ptr<Desk> m_desk;
     std::unique_ptr<Pictures> m_pictures;
     std::unique_ptr<Progress> m_progress;
-    std::unique_ptr<Settings> m_settings;
+    MemorySettings m_settings;
     std::unique_ptr<Paper> m_paper;
     frmExtras m_extras;
     int m_time = 0;

@@ -256,6 +256,14 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     take("main-base");
 }
 
+/// Has Qt draw on a screen in memory that has room for every window: on a smaller one they scroll.
+void useLargeScreen(const QString& description) {
+    saveFile(description.toStdString(),
+             R"({"screens": [{"name": "large", "x": 0, "y": 0, "width": 2400, "height": 2400,
+                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.toLocal8Bit());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -263,9 +271,9 @@ int main(int argc, char** argv) {
         std::fputs("Usage: window-screenshots DATA PICTURES OUTPUT\n", stderr);
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir noConfiguration;  // the pictures are nobody's in particular
-    qputenv("XDG_CONFIG_HOME", noConfiguration.path().toLocal8Bit());
+    const QTemporaryDir settings;  // the pictures are nobody's in particular
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    useLargeScreen(settings.filePath("screen.json"));
     const QApplication application(argc, argv);
     QApplication::setStyle("fusion");
     try {

@@ -31,6 +31,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
@@ -349,6 +351,7 @@ TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
     form.list.onMouseDown = [&](const MousePress& press) { top = press.y / 3000; };
     QTest::mousePress(list->viewport(), Qt::RightButton, {}, {1, 0});
     EXPECT_NEAR(top * list->height(), list->viewport()->y(), 1.0);
+    QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, {1, 0});
 }
 
 TEST_F(FormWindowTest, MenusTimersAndClosing) {
@@ -471,6 +474,25 @@ TEST(SizableWindow, TheFormDecidesHowSmallItGets) {
         window.resize(first.width() / 3, first.height());
     }
     EXPECT_LT(form.refusals, 10);
+}
+
+TEST(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
+    WideForm form;
+    FormWindow window(form);
+    form.show();
+    form.resize(6000 + Form::frameWidth, 30000 + Form::frameHeight);
+    const QSize shown = window.size();
+    EXPECT_LT(shown.height(), window.screen()->availableSize().height());
+    EXPECT_EQ(form.place().height, 30000) << "the screen is no matter of the form's";
+    auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->viewport()->width(), view->widget()->width()) << "the bar stands beside it";
+    EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(),
+              view->widget()->height());
+    // The user moves one edge; the other dimension stays what it was.
+    window.resize(shown.width() + 50, shown.height());
+    EXPECT_EQ(view->viewport()->width(), view->widget()->width());
+    EXPECT_EQ(form.place().height, 30000);
 }
 
 TEST(TopmostWindow, StaysOnTheScreenWhenItBecomesOne) {

@@ -1,0 +1,231 @@
+#include "screenFaults.h"
+
+#include "Error.h"
+#include "TextFile.h"
+#include "wholeNumber.h"
+
+#include <algorithm>
+
+namespace fleetwright {
+
+namespace {
+
+/// Looks at a window and writes down what is wrong with it.
+class Look {
+public:
+    Look(TestWindow& test, Stale& stale) : m_test(test), m_stale(stale) {}
+
+    std::string faults() {
+        lookAtFigures();
+        lookAtButtons();
+        lookAtList();
+        lookAtPreviews();
+        lookAtMenus();
+        lookAtRules();
+        lookAtFiles();
+        return m_faults;
+    }
+
+private:
+    void expect(bool isAsMeant, const std::string& fault) {
+        if (!isAsMeant) {
+            m_faults += fault + '\n';
+        }
+    }
+
+    void expectText(const std::string& what, const std::string& shown, const std::string& meant) {
+        expect(shown == meant, what + " is \"" + shown + "\" and not \"" + meant + '"');
+    }
+
+    void expectFigure(const TextBox& box, const std::string& meant) {
+        const auto typed = m_stale.typed.find(&box);
+        if (typed == m_stale.typed.end() || box.text() != typed->second) {
+            expectText(box.name(), box.text(), meant);
+        }
+    }
+
+    void lookAtFigures() {
+        expectFigure(m_window.txtCost, std::to_string(m_ship.g_lCost));
+        expectFigure(m_window.txtDP, std::to_string(m_ship.g_iDP));
+        expectFigure(m_window.txtDamRows, std::to_string(m_ship.g_iDamRows));
+        expectFigure(m_window.txtDCP, std::to_string(m_ship.g_iDCP));
+        expectFigure(m_window.txtFireCon, std::to_string(m_ship.g_iFCS));
+        expectFigure(m_window.txtMass, std::to_string(m_ship.mass()));
+        expectFigure(m_window.txtClass, std::string(m_ship.Class()));
+        expectFigure(m_window.txtRelSize, std::string(m_ship.relSize()));
+        expectFigure(m_window.txtShipName, m_ship.g_sShipName);
+        expectFigure(m_window.txtDesigner, m_ship.g_sDesignerName);
+        expectText("lblMassLeft", m_window.lblMassLeft.caption(),
+                   std::to_string(m_ship.g_iMassLeft));
+    }
+
+    /// Of each group the one button is on that stands for the ship.
+    void lookAtButtons() {
+        const auto expectOn = [this](const Container& group, std::size_t number) {
+            std::size_t place = 0;
+            for (const Control* const control : group.controls()) {
+                if (const auto* const button = dynamic_cast<const OptionButton*>(control)) {
+                    expect(button->isOn() == (place++ == number),
+                           button->name() + " is not as the ship is");
+                }
+            }
+        };
+        expectOn(m_window.fraHull, static_cast<std::size_t>(m_ship.Hull() - 1));
+        expectOn(m_window.fraStreamling, static_cast<std::size_t>(m_ship.Streamline()));
+        expectOn(m_window.fraArmor, static_cast<std::size_t>(m_ship.Armor()));
+        expectOn(m_window.fraFTL, static_cast<std::size_t>(std::min(m_ship.FTL(), 2)));
+        if (m_ship.THRUST() >= 0 && m_ship.THRUST() <= mostThrust) {
+            expectOn(m_window.fraThrust, static_cast<std::size_t>(m_ship.THRUST()));
+        }
+        for (const Control* const group :
+             {&m_window.fraStreamling, &m_window.fraFTL, &m_window.fraThrust}) {
+            expect(group->isEnabled() != isBase(m_ship.Hull()), group->name() + " is open or not");
+        }
+    }
+
+    void lookAtList() {
+        std::map<std::string, std::string> shown;
+        std::map<std::string, std::string> aboard;
+        for (const ListView::Row& row : m_window.lvCurrentWeapons.rows()) {
+            expect(shown.emplace(row.key, row.subItem).second, row.key + " stands twice");
+        }
+        for (const WeapRec& system : m_ship.systemsAboard()) {
+            aboard.emplace(system.name, std::to_string(system.amount));
+        }
+        const auto text = [](const auto& systems) {
+            std::string all;
+            for (const auto& [name, count] : systems) {
+                all += name + ' ' + count + ", ";
+            }
+            return all;
+        };
+        expectText("the list", text(shown), text(aboard));
+        const auto selected = m_window.lvCurrentWeapons.selected();
+        expect(!selected || *selected < m_window.lvCurrentWeapons.rows().size(),
+               "the selected row is none");
+    }
+
+    /// What the labels under tree or list show of so many pieces of a system.
+    void expectPreview(std::size_t labels, bool& isStale, const std::string& name, int amount) {
+        const std::string shown =
+            m_window.lblWeapMass[labels].caption() + ' ' + m_window.lblWeapCost[labels].caption();
+        const std::string meant = amount == 0
+                                      ? " "
+                                      : std::to_string(m_ship.previewWeapMass(name, amount)) + ' ' +
+                                            std::to_string(m_ship.previewWeapCost(name, amount));
+        isStale = isStale && shown != meant;
+        if (!isStale) {
+            expectText("the preview of " + name, shown, meant);
+        }
+    }
+
+    void lookAtPreviews() {
+        const TreeView::Node* const node = m_window.tvWeapons.selected();
+        if (node == nullptr) {
+            m_stale.isRowPreview = true;  // no refresh gets that far
+            return;
+        }
+        if (node->children.empty() && m_ship.weapNameToIndex(node->key) == -1) {
+            expect(m_stale.isNodePreview || m_window.lblWeapMass[0].caption() == "0",
+                   "the preview of nothing is not 0");
+        } else {
+            expectPreview(0, m_stale.isNodePreview, node->key, node->children.empty() ? 1 : 0);
+        }
+        const auto& rows = m_window.lvCurrentWeapons.rows();
+        if (const auto row = m_window.lvCurrentWeapons.selected(); row && *row < rows.size()) {
+            expectPreview(1, m_stale.isRowPreview, rows[*row].key, wholeNumber(rows[*row].subItem));
+        } else if (rows.empty()) {
+            expectPreview(1, m_stale.isRowPreview, "no row", 0);
+        }
+    }
+
+    void lookAtMenus() {
+        expectText("the title", m_window.caption(), "Fleet Wright");
+        expect(m_window.mnuSave.isEnabled() != m_ship.g_sSaveName.empty(), "Save is open or not");
+        expect(m_window.mnuSSD.isEnabled() == (m_ship.mass() <= m_test.globals.g_iLargestSSD),
+               "Create SSD is open or not");
+        expect(m_window.mnuAutoMass.isChecked() || !m_ship.g_bAutoMass, "AutoMass goes unseen");
+        expect(m_window.mnuAutoMass.isChecked() != m_window.fraMassSpinner.isVisible(),
+               "the arrows of the mass are there or not");
+        for (std::int16_t index = 1; index <= m_window.CMRUList->MaxFiles(); ++index) {
+            const MenuEntry& entry = m_window.mnuMRUFile[static_cast<std::size_t>(index - 1)];
+            const std::string file = m_window.CMRUList->getFile(index);
+            expectText(entry.name(), entry.isVisible() ? entry.caption() : "", file);
+        }
+    }
+
+    std::unique_ptr<ShipClass> newShip() const {
+        return std::make_unique<ShipClass>(
+            ShipServices{.catalogueFile = m_test.folder().path() / "weaps.dat",
+                         .formula = formula_calculate,
+                         .eventLoopTurn = {}});
+    }
+
+    /// The figures are those of such a ship.
+    void lookAtRules() {
+        const auto ship = newShip();
+        try {
+            ship->restore(m_ship.state());
+            ship->weapChange();
+        } catch (const OverflowError& error) {
+            expect(false, std::string("the ship has no figures: ") + error.what());
+        }
+        expectText("the figures", figures(m_ship), figures(*ship));
+    }
+
+    /// What a ship is when it is loaded: the window brings in order what AutoMass or a file has
+    /// brought out of it, and it is saved all the same.
+    static std::string inOrder(ShipClass& ship) {
+        if (isBase(ship.Hull())) {
+            ship.FTL(NoDrive);
+            ship.THRUST(0);
+            ship.Streamline(0);
+        }
+        ship.mass(ship.mass());
+        return ship.shipFile();
+    }
+
+    static std::string withoutNames(const std::string& shipFile) {
+        return shipFile.substr(std::min(shipFile.find("Mass: "), shipFile.size()));
+    }
+
+    /// A saved ship is as in its file; another one is put aside, or soon will be.
+    void lookAtFiles() {
+        const auto safe = newShip();
+        if (!m_ship.g_sSaveName.empty()) {
+            expect(safe->loadShip(m_ship.g_sSaveName), m_ship.g_sSaveName + " does not load");
+        }
+        const auto ship = newShip();
+        ship->restore(m_ship.state());
+        const std::string design = withoutNames(inOrder(*ship));
+        const std::string safeDesign = inOrder(*safe);
+        // A file may hold a cloak beside other systems, which a merchant does not load.
+        const bool isSafe =
+            design == withoutNames(safeDesign) ||
+            (!m_ship.g_sSaveName.empty() && readTextFile(m_ship.g_sSaveName) == m_ship.shipFile());
+        expect(isSafe || !m_ship.g_bSaved, "the ship counts as saved:\n" + m_ship.shipFile());
+        const std::string file = m_ship.shipFile();
+        const bool isNew = isSafe && m_ship.g_sSaveName.empty();
+        if (!m_window.tmrRecovery.isEnabled() && !isNew &&
+            (!isSafe || m_ship.g_sShipName != safe->g_sShipName)) {
+            const auto aside = RecoveryFolder::list(m_test.folder().path() / "recovered");
+            expect(std::any_of(aside.begin(), aside.end(),
+                               [&](const auto& each) { return readTextFile(each.file) == file; }),
+                   "the ship is not put aside:\n" + file + "its file:\n" + safeDesign);
+        }
+    }
+
+    TestWindow& m_test;
+    Stale& m_stale;
+    frmMain& m_window = m_test.window();
+    ShipClass& m_ship = m_test.ship();
+    std::string m_faults;
+};
+
+}  // namespace
+
+std::string screenFaults(TestWindow& test, Stale& stale) {
+    return Look(test, stale).faults();
+}
+
+}  // namespace fleetwright
