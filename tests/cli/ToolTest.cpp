@@ -77,6 +77,15 @@ TEST_F(Tool, FiguresStayReadableForAnyFileName) {
               "{\"file\":\"\uFFFD\\n.shp\",\"shipName\":\"a\\tb\\\\\",\"des");
 }
 
+TEST_F(Tool, ComplaintsShowNoControlCharacters) {
+    using namespace std::string_literals;
+    m_folder.write("odd.shp", "Type\x1B[2J: Merchant\nSystem: A\0b, 1\nMass: 5\0\n"s);
+    const ToolRun odd = run({"--app", ".", "check", "odd.shp"});
+    EXPECT_EQ(odd.output, "odd.shp:1: nobody reads the key \"Type\uFFFD[2J\"\n"
+                          "odd.shp:2: unknown system \"A\uFFFDb\"\n"
+                          "odd.shp:3: \"5\uFFFD\" is no number\n");
+}
+
 TEST_F(Tool, ReportsFollowEachOther) {
     const ToolRun reports = run({"--app", ".", "report", "good.shp", "part.shp", "bad.shp"});
     EXPECT_EQ(reports.status, 1);
