@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -20,6 +21,18 @@ inline void sortByLine(std::vector<Fault>& faults) {
     std::stable_sort(faults.begin(), faults.end(), [](const Fault& a, const Fault& b) {
         return a.line != 0 && (b.line == 0 || a.line < b.line);
     });
+}
+
+/// A fault as one line of text: "FILE:LINE: what is wrong", or without the line where no single one
+/// is at fault.
+inline std::string complaint(const std::string& file, const Fault& fault) {
+    const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
+    return file + ":" + line + " " + fault.text;
+}
+
+/// A piece of a file as the texts of faults show it.
+inline std::string quote(std::string_view piece) {
+    return '"' + std::string(piece) + '"';
 }
 
 }  // namespace fleetwright

@@ -35,8 +35,7 @@ frmAbout::frmAbout(Services services)
 
 void frmAbout::Form_Load() {
     setCaption(std::string("About ") + productName);
-    lblVersion.setCaption("Version " + std::to_string(version.major) + '.' +
-                          std::to_string(version.minor) + '.' + std::to_string(version.revision));
+    lblVersion.setCaption("Version " FLEETWRIGHT_VERSION);
     lblTitle.setCaption(applicationTitle);
 }
 

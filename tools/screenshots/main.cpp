@@ -4,18 +4,15 @@
 #include "Clock.h"
 #include "Error.h"
 #include "FormWindow.h"
-#include "Globals.h"
 #include "PictureCache.h"
 #include "ProgramImages.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
-#include "QtPrinter.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
-#include "QtSettingsStore.h"
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
-#include "StartUpProgress.h"
+#include "SilentServices.h"
 #include "drawnSheet.h"
 #include "folders.h"
 #include "frmAbout.h"
@@ -218,32 +215,17 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
 
     PictureDesktop desktop(output);
     QtPictureFiles files;
-    NoProgress progress;
-    QtSettingsStore settings;
-    QtPrinter printer;
     QtPrograms programs;
     QtRegistry registry;
-    Globals globals;
-    globals.formula = formula_calculate;
+    SilentServices silent(desktop);
+    MainWindowServices services = silent.services(appFolder, files);
     frmExtras extras({.desktop = desktop,
-                      .globals = globals,
-                      .settings = settings,
+                      .globals = services.globals,
+                      .settings = services.settings,
                       .nameShip = {},
                       .clearRecentFiles = {}});
-    frmMain form({.appFolder = appFolder,
-                  .eventLoopTurn = {},
-                  .freeFormulaLibrary = [] {},
-                  .desktop = desktop,
-                  .pictures = files,
-                  .progress = progress,
-                  .globals = globals,
-                  .settings = settings,
-                  .printer = printer,
-                  .extras = [&extras]() -> frmExtras& { return extras; },
-                  .showAbout = {},
-                  .showMapper = {},
-                  .showViewer = {},
-                  .showMapCreator = {}});
+    services.extras = [&extras]() -> frmExtras& { return extras; };
+    frmMain form(services);
     form.load();
     const auto take = [&](const std::string& name) {
         FormWindow window(form);
@@ -289,9 +271,9 @@ int main(int argc, char** argv) {
         std::fputs("Usage: window-screenshots DATA PICTURES OUTPUT\n", stderr);
         return 2;
     }
-    const QTemporaryDir settings;
-    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
-    useLargeScreen(settings.filePath("screen.json"));
+    const QTemporaryDir configuration;  // the pictures are nobody's in particular
+    qputenv("XDG_CONFIG_HOME", configuration.path().toLocal8Bit());
+    useLargeScreen(configuration.filePath("screen.json"));
     const QApplication application(argc, argv);
     QApplication::setStyle("fusion");
     try {

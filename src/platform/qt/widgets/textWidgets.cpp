@@ -95,15 +95,13 @@ QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
         }
         widget->setReadOnly(box.isLocked());
     });
-    auto appended =
-        std::make_shared<Connection>(box.Appended.connect([widget](const std::string& text) {
-            const QSignalBlocker blocker(widget);
-            QTextCursor end(widget->document());
-            end.movePosition(QTextCursor::End);
-            end.insertText(toQt(text).remove('\r'));
-            widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
-        }));
-    QObject::connect(widget, &QObject::destroyed, [appended] {});
+    keepAttached(widget, box.Appended.connect([widget](const std::string& text) {
+        const QSignalBlocker blocker(widget);
+        QTextCursor end(widget->document());
+        end.movePosition(QTextCursor::End);
+        end.insertText(toQt(text).remove('\r'));
+        widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
+    }));
     QObject::connect(widget, &QPlainTextEdit::textChanged,
                      [widget, &box] { box.type(withLineEnds(widget->toPlainText())); });
     new EventHook(widget, [&box](QEvent* event) { return takesEditKeys(*event, box); });
