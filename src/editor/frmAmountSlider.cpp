@@ -23,9 +23,19 @@ void frmAmountSlider::sliCount_Change() {
     lblAmount.setCaption(std::to_string(sliCount.value()));
 }
 
+/// AutoMass lets the user act while the pieces go: the dialog stays as it is until they are gone.
+void frmAmountSlider::Form_Unload(bool& cancel) {
+    cancel = m_isTaking;
+}
+
 void frmAmountSlider::cmdOK_Click() {
+    if (m_isTaking) {
+        return;
+    }
     if (sliCount.value() != iOriginal) {
+        m_isTaking = true;
         CountChanged.raise(iOriginal - sliCount.value());
+        m_isTaking = false;
     }
     unload();
 }

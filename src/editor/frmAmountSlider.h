@@ -42,12 +42,15 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Unload(bool& cancel) override;
     void Form_Activate() override;
 
 private:
     void sliCount_Change();
     void cmdOK_Click();
     void cmdCancel_Click();
+
+    bool m_isTaking = false;  ///< what is to go is going
 };
 
 }  // namespace fleetwright

@@ -217,6 +217,7 @@ void frmMain::whenIdle(std::function<void()> task) {
         m_whenIdle.push_back(std::move(task));
     } else {
         task();
+        runWaiting();
     }
 }
 

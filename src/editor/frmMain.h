@@ -73,7 +73,7 @@ public:
     std::unique_ptr<frmAmountSlider> frmSld;  ///< the amount dialog that was opened last
 
     /// Runs a task now or, if an act is under way that AutoMass has interrupted, when it has ended:
-    /// the ship cannot be replaced while it is at work.
+    /// the ship cannot be replaced while it is at work, and is no design that anybody has made.
     void whenIdle(std::function<void()> task);
     /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
     /// is a new one all the same, and `fileFault` says why.
@@ -358,14 +358,13 @@ private:
     // Files.
     void replaceShipAndRows();
     void whenReplaceable(std::function<void()> replace);
-    bool saveAs(std::string fileName);
+    void saveAs(std::string fileName);
     void addRecentFile();
     void printCopies(int copies);
 
     // Designs put aside.
     void tmrRecovery_Timer();
-    void noteSafe() { noteSafe(g_Ship->shipFile()); }
-    void noteSafe(std::string design);
+    void noteSafe();
     bool isSafe() const;
     bool giveUpDesign();
     void showRecovered();

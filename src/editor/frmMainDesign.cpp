@@ -4,7 +4,8 @@
 
 namespace fleetwright {
 
-/// Sets the option button for each of the ship's codes on. A code without a button sets none.
+/// Sets the option button for each of the ship's codes on, and opens the groups that its hull has.
+/// A code without a button sets none.
 void frmMain::showButtons() {
     const std::array<OptionButton*, 7> hulls = {nullptr,     &optWarship,  &optMerchant,
                                                 &optQship,   &optStarBase, &optSpaceStation,
@@ -26,28 +27,24 @@ void frmMain::showButtons() {
         optThrust[static_cast<std::size_t>(thrust)].setOn();
     }
     show(drives, g_Ship->FTL());
+    const bool isShip = !isBase(g_Ship->Hull());
+    EnableStreamlineGroup(isShip);
+    EnableFTLGroup(isShip);
+    EnableThrustGroup(isShip);
 }
 
 void frmMain::chooseShipHull(HullType hullType) {
-    act([&] {
-        EnableStreamlineGroup(true);
-        EnableFTLGroup(true);
-        EnableThrustGroup(true);
-        g_Ship->Hull(hullType);
-    });
+    act([&] { g_Ship->Hull(hullType); });
 }
 
 /// The buttons of the three groups that a base does not have write through their own clicks. A
-/// refresh in the middle sets the old hull's button on again, and its handler opens the groups;
-/// the refresh after the last step runs this handler once more and closes them.
+/// refresh in the middle sets the old hull's button on again; the refresh after the last step runs
+/// this handler once more.
 void frmMain::chooseBaseHull(HullType hullType) {
     act([&] {
         optNone.setOn();
         optThrust[0].setOn();
         optNoStreamline.setOn();
-        EnableStreamlineGroup(false);
-        EnableFTLGroup(false);
-        EnableThrustGroup(false);
         g_Ship->Hull(hullType);
     });
 }

@@ -88,7 +88,6 @@ bool frmMain::loadFile(const std::string& fileName) {
         runUndoable([this] { RefreshScreen(); });
     }
     noteSafe();
-    runWaiting();
     return isLoaded;
 }
 
@@ -143,26 +142,27 @@ void frmMain::mnuMRUFile_Click(int Index) {
 
 void frmMain::mnuSaveAs_Click() {
     if (const auto file = m_services.desktop.chooseFileToSave(shipDialog(m_services.appFolder))) {
-        saveAs(*file);
+        whenIdle([this, name = *file] { saveAs(name); });
     }
 }
 
 void frmMain::mnuSave_Click() {
-    if (!g_Ship->g_sSaveName.empty()) {
-        saveAs(g_Ship->g_sSaveName);
-    }
+    whenIdle([this] {
+        if (!g_Ship->g_sSaveName.empty()) {
+            saveAs(g_Ship->g_sSaveName);
+        }
+    });
 }
 
-bool frmMain::saveAs(std::string fileName) {
+void frmMain::saveAs(std::string fileName) {
     sbStatus.setText("Saving...");
-    std::string design = g_Ship->shipFile();
-    if (!g_Ship->saveShip(fileName)) {
-        return false;
+    bool isSaved = false;
+    // An act, so that the window does not close behind a box that the refresh shows.
+    runUndoable([&] { isSaved = g_Ship->saveShip(fileName); });
+    if (isSaved) {
+        noteSafe();
+        addRecentFile();
     }
-    // The refresh behind the save can have let AutoMass go on.
-    noteSafe(std::move(design));
-    addRecentFile();
-    return true;
 }
 
 void frmMain::addRecentFile() {

@@ -7,15 +7,13 @@
 #include "Error.h"
 #include "RecoveryFolder.h"
 
-#include <utility>
-
 namespace fleetwright {
 
-/// From here on nothing of this design can be lost: it is new, or in its file.
-void frmMain::noteSafe(std::string design) {
+/// From here on nothing of the design can be lost: it is new, or in its file.
+void frmMain::noteSafe() {
     if (m_services.recovery != nullptr) {
         m_services.recovery->forget();
-        m_safeFile = std::move(design);
+        m_safeFile = g_Ship->shipFile();
         m_asideFile.clear();
     }
 }

@@ -1,6 +1,5 @@
 #include "frmSSDMapCreator.h"
 
-#include "Clock.h"
 #include "SSDMap.h"
 #include "SSDMaps.h"
 #include "TemporaryFolder.h"
@@ -14,20 +13,6 @@ using namespace fleetwright;
 namespace {
 
 const std::string large = "C:\\outlines\\large.gif", small = "ship.gif";
-
-/// Each look at it takes a while.
-class SteppingClock : public Clock {
-public:
-    std::int32_t now = 0x7FFFFFF0;  // comes round soon
-    std::int32_t step = 1;          ///< milliseconds between two looks
-
-    std::int32_t tickCount() override {
-        now = static_cast<std::int32_t>(static_cast<std::uint32_t>(now) +
-                                        static_cast<std::uint32_t>(step));
-        return now;
-    }
-    void sleep(int) override {}
-};
 
 class MapCreator : public testing::Test {
 protected:

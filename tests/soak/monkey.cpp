@@ -11,12 +11,12 @@
 #include "Error.h"
 #include "ProgramImages.h"
 #include "Slider.h"
+#include "fakeServices.h"
 #include "frmMapper.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
 #include "screenFaults.h"
 #include "sheetShip.h"
-#include "windowWorld.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -184,6 +184,7 @@ private:
     /// answered as with Escape.
     void ask(const std::string& what) {
         while_(what, nullptr, [this] { actMeanwhile(); });
+        m_stale.isRowPreview = true;  // the row that it was of may be refused
         m_test.answer = m_hasEnded || m_dice.oneIn(2) ? Answer::No : Answer::Yes;
         m_test.file = anyFile();
     }

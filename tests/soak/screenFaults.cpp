@@ -192,26 +192,29 @@ private:
     /// A saved ship is as in its file; another one is put aside, or soon will be.
     void lookAtFiles() {
         const auto safe = newShip();
-        if (!m_ship.g_sSaveName.empty()) {
-            expect(safe->loadShip(m_ship.g_sSaveName), m_ship.g_sSaveName + " does not load");
+        if (!m_ship.g_sSaveName.empty() && !safe->loadShip(m_ship.g_sSaveName)) {
+            return expect(false, m_ship.g_sSaveName + " does not load: " + safe->fileFault()->text +
+                                     '\n' + readTextFile(m_ship.g_sSaveName) + "\nThe ship:\n" +
+                                     m_ship.shipFile());
         }
+        const std::string file = m_ship.shipFile();
+        // Not all that is in a file comes back from it: a merchant with a cloak besides other
+        // systems, a name with a colon.
+        const bool isInFile =
+            !m_ship.g_sSaveName.empty() && readTextFile(m_ship.g_sSaveName) == file;
         const auto ship = newShip();
         ship->restore(m_ship.state());
-        const std::string design = withoutNames(inOrder(*ship));
-        const std::string safeDesign = inOrder(*safe);
-        // A file may hold a cloak beside other systems, which a merchant does not load.
+        const bool isDesigned =
+            isInFile || withoutNames(inOrder(*ship)) == withoutNames(inOrder(*safe));
+        expect(isDesigned || !m_ship.g_bSaved, "the ship counts as saved:\n" + file);
         const bool isSafe =
-            design == withoutNames(safeDesign) ||
-            (!m_ship.g_sSaveName.empty() && readTextFile(m_ship.g_sSaveName) == m_ship.shipFile());
-        expect(isSafe || !m_ship.g_bSaved, "the ship counts as saved:\n" + m_ship.shipFile());
-        const std::string file = m_ship.shipFile();
-        const bool isNew = isSafe && m_ship.g_sSaveName.empty();
-        if (!m_window.tmrRecovery.isEnabled() && !isNew &&
-            (!isSafe || m_ship.g_sShipName != safe->g_sShipName)) {
+            isInFile ||
+            (isDesigned && (m_ship.g_sSaveName.empty() || m_ship.g_sShipName == safe->g_sShipName));
+        if (!isSafe && !m_window.tmrRecovery.isEnabled()) {
             const auto aside = RecoveryFolder::list(m_test.folder().path() / "recovered");
             expect(std::any_of(aside.begin(), aside.end(),
                                [&](const auto& each) { return readTextFile(each.file) == file; }),
-                   "the ship is not put aside:\n" + file + "its file:\n" + safeDesign);
+                   "the ship is not put aside:\n" + file);
         }
     }
 

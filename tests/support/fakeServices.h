@@ -2,11 +2,13 @@
 
 // Services of a desktop that exist in memory only. Whoever includes this links `platform`.
 
+#include "Clock.h"
 #include "Error.h"
 #include "NoDesktop.h"
 #include "PictureFiles.h"
 #include "SettingsStore.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -68,6 +70,20 @@ public:
         return found->second;
     }
     Raster builtIn(const std::string& name) override { return load(name); }
+};
+
+/// Each look at it takes a while.
+class SteppingClock : public Clock {
+public:
+    std::int32_t now = 0x7FFFFFF0;  // comes round soon
+    std::int32_t step = 1;          ///< milliseconds between two looks
+
+    std::int32_t tickCount() override {
+        now = static_cast<std::int32_t>(static_cast<std::uint32_t>(now) +
+                                        static_cast<std::uint32_t>(step));
+        return now;
+    }
+    void sleep(int) override {}
 };
 
 }  // namespace fleetwright
