@@ -4,6 +4,7 @@
 #include "formulaFault.h"
 #include "formula_calculate.h"
 #include "require.h"
+#include "roundUpByText.h"
 #include "utf8.h"
 
 #include <algorithm>
@@ -126,24 +127,6 @@ std::string moreBlanks(const std::string& text) {
     return spaced + ' ';
 }
 
-/// The rounding of fractions, decided on the 15 significant digits as they are printed.
-double roundedUp(double x) {
-    if (!std::isfinite(x)) {
-        return x;
-    }
-    constexpr int digitsBehindFirst = 14;
-    std::array<char, 40> text{};
-    std::snprintf(text.data(), text.size(), "%.*e", digitsBehindFirst, std::fabs(x));
-    const std::string_view printed(text.data());
-    const std::string digits =
-        std::string(printed.substr(0, 1)) + std::string(printed.substr(2, digitsBehindFirst));
-    const int exponent = std::atoi(printed.substr(printed.find('e') + 1).data());
-    const std::size_t whole =
-        std::min(static_cast<std::size_t>(std::max(exponent + 1, 0)), digits.size());
-    const bool hasFraction = digits.find_first_not_of('0', whole) != std::string::npos;
-    return hasFraction ? std::trunc(x) + 1.0 : std::nearbyint(x);
-}
-
 /// What a readable text comes to does not change with what only stands around it.
 void checkSurroundings(const std::string& text, const Numbers& ship) {
     const Outcome plain = outcomeOf(text, ship);
@@ -169,7 +152,7 @@ void checkSurroundings(const std::string& text, const Numbers& ship) {
     requireValue("0 and " + inner, ship, 0.0, false, "what is decided does not count");
     requireValue("1 or " + inner, ship, 1.0, false, "what is decided does not count");
     requireValue("not " + inner, ship, value == 0.0, divides, "not turns a truth round");
-    requireValue("roundup" + inner, ship, roundedUp(value), divides,
+    requireValue("roundup" + inner, ship, roundUpByText(value), divides,
                  "fractions are rounded up by their printed digits");
     requireValue("floor" + inner, ship, std::floor(value), divides, "floor goes down");
     requireValue("ceil" + inner, ship, std::ceil(value), divides, "ceil goes up");

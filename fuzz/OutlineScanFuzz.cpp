@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace fleetwright;
@@ -50,112 +51,15 @@ Raster pictureOf(const std::uint8_t* data, std::size_t size) {
     return picture;
 }
 
-char arcOf(const Raster& picture, int x, int y) {
-    if (x + 1 < picture.width()) {
-        switch (picture.pixel(x + 1, y)) {
-        case Red:
-            return 'F';
-        case Blue:
-            return 'P';
-        case Green:
-            return 'S';
-        case Cyan:
-            return 'A';
-        case Magenta:
-            return 'B';
-        default:
-            break;
-        }
-    }
-    if (y <= picture.height() / 3) {
-        return 'F';
-    }
-    if (x <= picture.width() / 3) {
-        return 'P';
-    }
-    if (x >= picture.width() / 3 * 2) {
-        return 'S';
-    }
-    return y >= picture.height() / 3 * 2 ? 'A' : 'B';
-}
+/// A place of a picture, column and row.
+using Place = std::pair<int, int>;
 
-/// What the marks of a picture say, pixel by pixel and without any haste.
-struct PlainScan {
-    std::string text = std::string("IMAGE: ") + name + "\r\n";
-    std::vector<std::pair<int, int>> passed;  // the place after each pixel
-    int marks = 0;
-
-    explicit PlainScan(const Raster& picture) {
-        int run = -1;  // below 0 where nothing is measured
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                const std::uint32_t colour = picture.pixel(x, y);
-                if (run >= 0 && colour == Black) {
-                    ++run;
-                } else if (run >= 0) {
-                    endRun(run);
-                    run = -1;
-                }
-                takeMark(picture, x, y);
-                run = colour == Magenta ? 1 : run;
-                x += colour == Yellow ? 1 : 0;
-                passed.emplace_back(x, y);
-            }
-        }
-    }
-
-private:
-    void endRun(int length) {
-        if (length == 64 || length == 80 || length == 144) {
-            text += std::string("SIZE: ") +
-                    (length == 64   ? "18"
-                     : length == 80 ? "36"
-                                    : "100") +
-                    "\r\n";
-        }
-    }
-
-    void takeMark(const Raster& picture, int x, int y) {
-        const char* key = nullptr;
-        switch (picture.pixel(x, y)) {
-        case Red:
-            key = "FIRECON";
-            break;
-        case Green:
-            key = "THRUST";
-            break;
-        case Yellow:
-            key = "WEAP";
-            break;
-        case Blue:
-            key = "DCP";
-            break;
-        case Magenta:
-            key = "DAMROW";
-            break;
-        case Cyan:
-            key = "FTL";
-            break;
-        default:
-            return;
-        }
-        ++marks;
-        text += std::string(key) + ": (" + std::to_string(x) + ',' + std::to_string(y);
-        if (picture.pixel(x, y) == Yellow) {
-            text += std::string(",") + arcOf(picture, x, y);
-        }
-        text += ")\r\n";
-    }
-};
-
-/// The scan says what the marks say, and goes over the places that it should, while its progress
-/// is painted on the very picture.
-void checkScan(const Raster& picture, const PlainScan& plain) {
-    requireSame(scanOutline(picture, std::string("C:\\folder/") + name), plain.text,
-                "the scan says what the marks say");
+/// A scan with progress after each pixel, which is painted on the very picture, and one with
+/// progress after each stretch say what the scan says that shows none. Gives the number of pixels.
+std::size_t checkScan(const Raster& picture, const std::string& text) {
     Raster painted = picture;
     OutlineScan scan(painted, name);
-    std::vector<std::pair<int, int>> passed;
+    std::vector<Place> passed;
     const bool isWhole = scan.run([&](int x, int y) {
         passed.emplace_back(x, y);
         if (x < painted.width()) {
@@ -164,8 +68,18 @@ void checkScan(const Raster& picture, const PlainScan& plain) {
         return true;
     });
     require(isWhole, "a scan that nobody ends comes to its end");
-    requireSame(scan.text(), plain.text, "progress on the picture does not disturb the scan");
-    require(passed == plain.passed, "the scan calls after each pixel");
+    requireSame(scan.text(), text, "progress on the picture does not disturb the scan");
+    OutlineScan inStretches(picture, name);
+    std::vector<Place> stretched;
+    inStretches.runInStretches([&](int x, int y, int count) {
+        for (int i = 0; i < count; ++i) {
+            stretched.emplace_back(x + i, y);
+        }
+        return true;
+    });
+    requireSame(inStretches.text(), text, "stretches do not disturb the scan");
+    require(passed == stretched, "stretches go over all pixels");
+    return passed.size();
 }
 
 /// A scan that is ended stops there and says so.
@@ -177,16 +91,31 @@ void checkCancel(const Raster& picture, std::size_t last) {
     require(scan.text() == "Operation Cancelled", "a scan that was ended says so");
 }
 
+/// Counts the marks pixel by pixel and without any haste; none stands right behind a weapon.
+std::size_t marksIn(const Raster& picture) {
+    std::size_t marks = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            marks += isMark(picture.pixel(x, y)) ? 1 : 0;
+            x += picture.pixel(x, y) == Yellow ? 1 : 0;
+        }
+    }
+    return marks;
+}
+
 /// What the scan writes is a map, with a place for each mark.
-void checkMap(const Raster& picture, const PlainScan& plain, const TemporaryFolder& folder) {
-    const std::string contents = mapFileContents(plain.text);
+void checkMap(const Raster& picture, const std::string& text, const TemporaryFolder& folder) {
+    const std::string contents = mapFileContents(text);
     folder.write("maps/input.map", contents);
     SSDMap map(folder.path());
     map.ImageFile("input");
     const MapPlaces places = readMapPlaces(contents);
-    require(places.unread.empty() && places.places.size() == static_cast<std::size_t>(plain.marks),
+    require(places.unread.empty() && places.places.size() == marksIn(picture),
             "each mark is a place of the map");
-    checkMapPlaces(places, picture);
+    constexpr std::size_t mostMarks = 200;  // boxes are compared each with each
+    if (places.places.size() <= mostMarks) {
+        checkMapPlaces(places, picture);
+    }
 }
 
 }  // namespace
@@ -194,14 +123,11 @@ void checkMap(const Raster& picture, const PlainScan& plain, const TemporaryFold
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const TemporaryFolder folder;
     const Raster picture = pictureOf(data, size);
-    const PlainScan plain(picture);
-    checkScan(picture, plain);
-    if (!plain.passed.empty()) {
-        checkCancel(picture, 1 + size * 37 % plain.passed.size());
+    const std::string text = scanOutline(picture, std::string("C:\\folder/") + name);
+    const std::size_t pixels = checkScan(picture, text);
+    if (pixels > 0) {
+        checkCancel(picture, 1 + size * 37 % pixels);
     }
-    constexpr int mostMarks = 200;  // boxes are compared each with each
-    if (plain.marks <= mostMarks) {
-        checkMap(picture, plain, folder);
-    }
+    checkMap(picture, text, folder);
     return 0;
 }

@@ -15,7 +15,6 @@
 #include <functional>
 #include <limits>
 #include <memory>
-#include <numeric>
 #include <string>
 #include <utility>
 #include <vector>
@@ -71,20 +70,18 @@ private:
 
     void take(std::unique_ptr<ShipClass> ship);
     void step();
-    bool perform(const DesignModel& wanted, const std::function<void()>& act);
+    void perform(const DesignModel& wanted, const std::function<void()>& act);
     void checkDone(const DesignModel& wanted);
     void checkAutoMass(const DesignModel& wanted);
     void bringInOrder();
     void writeBack();
 
     std::int32_t number();
-    bool set(const HullDesign& hull, const std::function<void()>& setter);
+    void set(const HullDesign& hull, const std::function<void()>& setter);
     void setPart();
     void add();
     void addUnknown();
     void switchAutoMass();
-    void beABaseForAWhile();
-    bool makeHull(const HullDesign& hull);
     std::string hullAndSystems() const;
     void keepOrGoBack();
     void look();
@@ -153,9 +150,8 @@ void Course::bringInOrder() {
     }
 }
 
-/// Runs an act that is to make the ship `wanted`, but for what AutoMass then makes of its mass;
-/// false if it overflows.
-bool Course::perform(const DesignModel& wanted, const std::function<void()>& act) {
+/// Runs an act that is to make the ship `wanted`, but for what AutoMass then makes of its mass.
+void Course::perform(const DesignModel& wanted, const std::function<void()>& act) {
     const std::string before = describe(*m_ship);
     const bool wasSaved = m_ship->g_bSaved;
     m_events = {};
@@ -167,10 +163,9 @@ bool Course::perform(const DesignModel& wanted, const std::function<void()>& act
         require(m_listener != Listener::Nobody || !wanted.figures(m_services),
                 "only what overflows is refused");
         m_shownMass = m_ship->mass();
-        return false;
+        return;
     }
     checkDone(wanted);
-    return true;
 }
 
 void Course::checkDone(const DesignModel& wanted) {
@@ -222,7 +217,7 @@ void Course::checkAutoMass(const DesignModel& wanted) {
 }
 
 void Course::step() {
-    constexpr int kinds = 16;
+    constexpr int kinds = 15;
     const int kind = m_data.ConsumeIntegralInRange(0, kinds - 1);
     if (kind < 5) {
         setPart();
@@ -233,12 +228,10 @@ void Course::step() {
     } else if (kind == 10) {
         switchAutoMass();
     } else if (kind == 11) {
-        beABaseForAWhile();
-    } else if (kind == 12) {
         keepOrGoBack();
-    } else if (kind == 13) {
+    } else if (kind == 12) {
         look();
-    } else if (kind == 14) {
+    } else if (kind == 13) {
         saveAndLoad();
     } else {
         take(std::make_unique<ShipClass>(m_services));
@@ -262,10 +255,10 @@ std::int32_t Course::number() {
     }
 }
 
-bool Course::set(const HullDesign& hull, const std::function<void()>& setter) {
+void Course::set(const HullDesign& hull, const std::function<void()>& setter) {
     DesignModel wanted = DesignModel::of(*m_ship);
     wanted.hull = hull;
-    return perform(wanted, setter);
+    perform(wanted, setter);
 }
 
 void Course::setPart() {
@@ -344,38 +337,6 @@ void Course::addUnknown() {
     }
 }
 
-/// Makes the ship this hull, an act for each part; false where one of them overflows.
-bool Course::makeHull(const HullDesign& hull) {
-    HullDesign next = m_ship->hullDesign();
-    next.ftl = hull.ftl;
-    bool isDone = set(next, [&] { m_ship->FTL(hull.ftl); });
-    next.thrust = hull.thrust;
-    isDone = isDone && set(next, [&] { m_ship->THRUST(static_cast<std::int16_t>(hull.thrust)); });
-    next.streamline = hull.streamline;
-    isDone = isDone &&
-             set(next, [&] { m_ship->Streamline(static_cast<std::int16_t>(hull.streamline * 2)); });
-    next.hullType = hull.hullType;
-    return isDone && set(next, [&] { m_ship->Hull(hull.hullType); });
-}
-
-void Course::beABaseForAWhile() {
-    if (m_ship->g_bAutoMass || m_listener != Listener::Nobody) {
-        return;
-    }
-    const HullDesign hull = m_ship->hullDesign();
-    const ShipClass::State state = m_ship->state();
-    const std::string before = describe(*m_ship);
-    HullDesign base = hull;
-    base.hullType = m_data.ConsumeIntegralInRange<std::int32_t>(Starbase, QSpaceStation);
-    base.ftl = NoDrive;
-    base.thrust = 0;
-    base.streamline = 0.0;
-    if (!makeHull(base) || !makeHull(hull)) {
-        m_ship->restore(state);
-    }
-    requireSame(describe(*m_ship), before, "a ship that was a base is what it was before");
-}
-
 /// What a state of a ship holds.
 std::string Course::hullAndSystems() const {
     DesignModel design = DesignModel::of(*m_ship);
@@ -414,12 +375,7 @@ void Course::look() {
                 m_ship->previewWeapMass(m_records[record].name, amount) ==
                     value(m_records[first].massform),
             "a preview is what the formula says");
-    for (const Explanation& figure : explainShip(*m_ship)) {
-        const std::int64_t sum =
-            std::accumulate(figure.terms.begin(), figure.terms.end(), std::int64_t{0},
-                            [](std::int64_t s, const auto& term) { return s + term.value; });
-        require(sum == figure.sum, "a figure is the sum of its terms");
-    }
+    requireSums(*m_ship);
     describeSystem(*m_ship, m_records[record].name, amount);
     requireSame(describe(*m_ship), before, "who looks changes nothing");
     require(m_ship->g_bSaved == wasSaved, "who looks changes nothing");

@@ -41,7 +41,7 @@ void checkFaults(const std::string& text, const ShipClass& ship, bool isLoaded) 
                     refused.text.starts_with("System:"),
                 "a refused line is a line of the file");
     }
-    const std::vector<Fault> faults = checkShipFile(text, ship);
+    const std::vector<Fault> faults = checkShipFile(text, ship, ship.fileFault());
     int line = 0;
     for (const Fault& fault : faults) {
         require(fault.line >= 0 && fault.line <= lines && !fault.text.empty(),

@@ -3,8 +3,11 @@
 #include "Error.h"
 #include "TemporaryFolder.h"
 #include "TextFile.h"
+#include "explainShip.h"
+#include "require.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace fleetwright {
 
@@ -42,6 +45,15 @@ std::string describe(const ShipClass& ship, bool withDebts) {
         }
     }
     return text;
+}
+
+void requireSums(ShipClass& ship) {
+    for (const Explanation& figure : explainShip(ship)) {
+        const std::int64_t sum =
+            std::accumulate(figure.terms.begin(), figure.terms.end(), std::int64_t{0},
+                            [](std::int64_t s, const auto& term) { return s + term.value; });
+        require(sum == figure.sum, "a figure is the sum of its terms");
+    }
 }
 
 HullDesign inOrder(HullDesign hull) {

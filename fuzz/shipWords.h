@@ -18,6 +18,9 @@ std::string figuresOf(const ShipClass& ship);
 /// below 0, which no file keeps, are left out on demand.
 std::string describe(const ShipClass& ship, bool withDebts = true);
 
+/// Each figure of a ship is the sum of the terms that explain it.
+void requireSums(ShipClass& ship);
+
 /// A hull as the window brings it in order: no mass below the smallest, no moving base.
 HullDesign inOrder(HullDesign hull);
 

@@ -27,21 +27,17 @@
 #include "frmSplash.h"
 #include "sheetShip.h"
 #include "showFileError.h"
-#include "userDataFolder.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QIcon>
 
+#include <array>
 #include <exception>
 
 namespace fleetwright {
 
 namespace {
-
-std::filesystem::path recoveryFolder() {
-    return userDataFolder() / "recovered";
-}
 
 /// The time as it stands in the name of a design put aside.
 std::string currentTime() {
@@ -54,9 +50,9 @@ public:
     Program(QtDesktop& desktop, Run run)
         : m_appFolder(
               applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
-          m_desktop(desktop), m_sounds(m_appFolder), m_runs(recoveryFolder()),
+          m_desktop(desktop), m_sounds(m_appFolder), m_runs(RecoveryFolder::ofUser()),
           m_recovery(
-              recoveryFolder(),
+              RecoveryFolder::ofUser(),
               {.ownMark = m_runs.own(),
                .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
               currentTime),
@@ -102,7 +98,7 @@ public:
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
-                    .encoder = m_decoder,
+                    .encoder = m_pictureFiles,
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
                     .lvCurrentWeapons = m_main.lvCurrentWeapons,
@@ -115,25 +111,19 @@ public:
                         .eventLoopTurn = [] { QApplication::processEvents(); },
                         .g_colSSDMaps = m_globals.g_colSSDMaps}),
           m_viewer({.appFolder = m_appFolder, .desktop = desktop, .pictures = m_pictures}) {
-        if (run == Run::Whole) {
-            desktop.present(m_splash);
+        for (Form* const form : windows()) {
+            if (form != &m_splash || run == Run::Whole) {
+                desktop.present(*form);
+            }
         }
-        desktop.present(m_main);
-        desktop.present(m_mapper);
-        desktop.present(m_about);
-        desktop.present(m_mapCreator);
-        desktop.present(m_viewer);
     }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     ~Program() {
-        m_desktop.dismiss(m_viewer);
-        m_desktop.dismiss(m_mapCreator);
-        m_desktop.dismiss(m_about);
-        m_desktop.dismiss(m_mapper);
-        m_desktop.dismiss(m_main);
-        m_desktop.dismiss(m_splash);
+        for (Form* const form : windows()) {
+            m_desktop.dismiss(*form);
+        }
     }
 
     int run() {
@@ -149,6 +139,11 @@ public:
     }
 
 private:
+    /// The forms with windows of their own. The page of settings is a dialog of the main window.
+    std::array<Form*, 6> windows() {
+        return {&m_splash, &m_main, &m_mapper, &m_about, &m_mapCreator, &m_viewer};
+    }
+
     /// Opens a window or, if it is open, brings it to the front.
     static void bringUp(Form& form) {
         if (form.isLoaded() && form.state() == WindowState::Minimized) {
@@ -167,8 +162,8 @@ private:
     QtSettingsStore m_settings;
     QtClock m_clock;
     QtSounds m_sounds;
-    QtPictureFiles m_decoder;
-    PictureCache m_pictures{m_decoder};  // the start looks at each picture twice
+    QtPictureFiles m_pictureFiles;
+    PictureCache m_pictures{m_pictureFiles};  // the start looks at each picture twice
     QtPrograms m_programs;
     QtPrinter m_printer;
     QtRegistry m_registry;

@@ -4,7 +4,6 @@
 #include "Error.h"
 #include "PictureCheck.h"
 #include "TextFile.h"
-#include "commands.h"
 
 #include <algorithm>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Fault.h"
+
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -22,7 +24,7 @@ public:
 /// A text that should be a whole number is none.
 class NotANumberError : public Error {
 public:
-    explicit NotANumberError(const std::string& text) : Error('"' + text + "\" is no number") {}
+    explicit NotANumberError(const std::string& text) : Error(quote(text) + " is no number") {}
 };
 
 /// A file could not be opened, read or written.

@@ -78,7 +78,7 @@ std::string helpText() {
                 std::string(row.help) + '\n';
     }
     text += "\nOptions, before or behind the files; \"--\" ends them:\n" +
-            padded("  --app DIR", 32) + "The application folder, by default the tool's own\n" +
+            padded("  --app DIR", 32) + "The application folder, by default that of the program\n" +
             padded("  --auto-mass", 32) + "Fit the hull mass to the systems\n" +
             padded("  --help, --version", 32) + "Show this help, or the version\n" +
             padded("  --map NAME", 32) + "The map to draw on, by default the first that fits\n" +

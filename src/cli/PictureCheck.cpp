@@ -74,8 +74,9 @@ std::optional<std::string> PictureCheck::systemPictureFault(const fs::path& file
         if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
             return std::nullopt;
         }
+        const std::string side = std::to_string(systemPictureSize);
         return "is " + std::to_string(picture.width()) + " by " + std::to_string(picture.height()) +
-               " pixels, not 32 by 32";
+               " pixels, not " + side + " by " + side;
     } catch (const FileError&) {
         return "cannot be read";
     }

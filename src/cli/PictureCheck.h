@@ -23,9 +23,11 @@ struct PictureFault {
 /// Looks at the folder of pictures as the program will: names count without regard to case.
 class PictureCheck {
 public:
-    /// What keeps the program from starting, or all that is wrong: decoders show of a picture that
-    /// was cut short what there is.
-    enum Depth { Start, All };
+    /// How much is looked for.
+    enum Depth {
+        Start,  ///< what keeps the program from starting
+        All,    ///< also pictures that were cut short, of which decoders show what there is
+    };
 
     /// `pictures` decodes; it outlives the check.
     PictureCheck(const std::filesystem::path& folder, PictureFiles& pictures, Depth depth = All);

@@ -37,9 +37,6 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t index)>& taken = {});
 
-/// "FILE:LINE: what is wrong", or without the line where none is at fault.
-std::string complaint(const std::string& file, const Fault& fault);
-
 /// One ship's JSON object, without a line end.
 std::string figuresOf(const std::string& file, ShipClass& ship);
 

@@ -2,7 +2,6 @@
 #include "TextFile.h"
 #include "commands.h"
 #include "saveFile.h"
-#include "userDataFolder.h"
 
 #include <cstdio>
 
@@ -10,7 +9,7 @@ namespace fleetwright {
 
 int runRecovered(const Options& options) {
     const std::vector<RecoveryFolder::Design> designs =
-        RecoveryFolder::list(userDataFolder() / "recovered");
+        RecoveryFolder::list(RecoveryFolder::ofUser());
     if (options.saveName.empty()) {
         for (const RecoveryFolder::Design& design : designs) {
             std::printf("%s\n", design.name.c_str());

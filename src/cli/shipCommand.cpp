@@ -54,11 +54,6 @@ private:
 
 }  // namespace
 
-std::string complaint(const std::string& file, const Fault& fault) {
-    const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
-    return file + ":" + line + " " + fault.text;
-}
-
 int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t)>& taken) {

@@ -14,10 +14,6 @@ namespace fleetwright {
 
 namespace {
 
-std::string quote(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
 /// Goes through a catalogue from top to bottom, as the readers do, and keeps what it has seen.
 class CatalogueChecker {
 public:

@@ -19,10 +19,6 @@ namespace fleetwright {
 
 namespace {
 
-std::string quote(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
 class ShipFileChecker {
 public:
     ShipFileChecker(const ShipClass& ship, const std::optional<Fault>& loadFault)

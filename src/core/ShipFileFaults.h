@@ -2,13 +2,15 @@
 
 // Faults of ship files that more than one reader finds, in the words of all of them.
 
+#include "Fault.h"
+
 #include <string>
 #include <string_view>
 
 namespace fleetwright {
 
 inline std::string unknownSystem(std::string_view name) {
-    return "unknown system \"" + std::string(name) + '"';
+    return "unknown system " + quote(name);
 }
 
 inline constexpr std::string_view cloakRule =

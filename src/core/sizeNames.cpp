@@ -1,5 +1,7 @@
 #include "sizeNames.h"
 
+#include "HullRules.h"
+
 #include <array>
 
 namespace fleetwright {
@@ -26,7 +28,7 @@ std::string_view nameOf(std::int32_t mass, const std::array<SizeName, Size>& nam
 
 std::string_view classOf(std::int32_t mass) {
     static constexpr std::array<SizeName, 3> names = {
-        {{18, "Escort"}, {36, "Cruiser"}, {100, "Capital"}}};
+        {{escortMass, "Escort"}, {cruiserMass, "Cruiser"}, {capitalMass, "Capital"}}};
     return nameOf(mass, names, "Supership");
 }
 

@@ -13,6 +13,10 @@ namespace fleetwright {
 /// printed.
 class SilentServices {
 public:
+    SilentServices() : m_desktop(m_noDesktop) {}
+    /// With this desktop, which outlives the services, in place of one where nothing is shown.
+    explicit SilentServices(Desktop& desktop) : m_desktop(desktop) {}
+
     /// The services of a window in this application folder. Whoever has more of the world than
     /// this puts it in their place.
     MainWindowServices services(const std::filesystem::path& appFolder, PictureFiles& pictures) {
@@ -56,7 +60,8 @@ private:
         void endDocument() override {}
     };
 
-    NoDesktop m_desktop;
+    NoDesktop m_noDesktop;
+    Desktop& m_desktop;
     NoProgress m_progress;
     NoSettings m_settings;
     NoPrinter m_printer;

@@ -163,14 +163,8 @@ void frmMain::g_Ship_ShipSaved() {
 void frmMain::g_Ship_ShipLoaded() {
     showButtons();
     showSystems();
-    if (isBase(g_Ship->Hull())) {
-        // A file can have brought a base that moves, and no button's click if the ship before was
-        // such a base.
-        chooseBaseHull(static_cast<HullType>(g_Ship->Hull()));
-    }
-    // A file without systems has worked nothing out yet, and the screen may still show the ship
-    // before.
-    g_Ship->mass(g_Ship->mass());
+    // A file without systems has worked nothing out yet. What this still changes counts as loaded.
+    RefreshScreen();
 }
 
 void frmMain::act(const std::function<void()>& change) {

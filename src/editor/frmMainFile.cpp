@@ -77,6 +77,10 @@ bool frmMain::loadFile(const std::string& fileName) {
     {
         // An overflow in the middle of a load ends the load; there is nothing to go back to.
         const ActScope scope(*this);
+        // What the buttons show decides which of them write to the ship, and so what it becomes:
+        // they start like those of a fresh window, whatever ship was on the screen before.
+        RefreshScreen();
+        g_Ship->g_bSaved = true;
         isLoaded = g_Ship->loadShip(fileName);
     }
     fileFault = g_Ship->fileFault();

@@ -50,7 +50,4 @@ public:
     virtual ScreenSize screenSize() = 0;
 };
 
-/// Thrown by a step of the start that has failed and has said so: the program ends.
-struct EndOfProgram {};
-
 }  // namespace fleetwright

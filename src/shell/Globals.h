@@ -16,16 +16,8 @@ inline constexpr const char* applicationTitle = "FleetWright";
 /// The product that the application is.
 inline constexpr const char* productName = "Iron Vector Ship Creator";
 
-struct Version {
-    int major;
-    int minor;
-    int revision;
-};
-inline constexpr Version version = {2, 0, 5};
-
 /// What lives as long as the program: the formula library, the settings and the maps that its start
-/// has read.
-/// `app` owns the one there is.
+/// has read. `app` owns the one there is.
 struct Globals {
     void* g_hFormulaLib = nullptr;  ///< the loaded formula library
     /// The function of the formula library.

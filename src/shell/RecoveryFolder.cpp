@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "folders.h"
 #include "saveFile.h"
+#include "userDataFolder.h"
 #include "utf8.h"
 
 #include <algorithm>
@@ -20,15 +21,19 @@ constexpr char beforeMark = '~';
 
 /// A ship's name as the name of a file: without what some file system does not take, and short.
 std::string fileNameOf(const std::string& shipName) {
-    constexpr std::size_t longest = 60;
+    constexpr std::size_t mostCharacters = 60;
+    constexpr std::size_t mostBytes = 200;  // file systems take 255, and time and mark follow
     constexpr std::string_view forbidden = "/\\:*?\"<>|~";
     std::string name;
     for (const char c : shipName) {
         const bool isControl = static_cast<unsigned char>(c) < ' ';
         name += isControl || forbidden.find(c) != std::string_view::npos ? '_' : c;
     }
-    if (const std::size_t length = characterCount(name); length > longest) {
-        name = withoutLastCharacters(name, length - longest);
+    if (const std::size_t length = characterCount(name); length > mostCharacters) {
+        name = withoutLastCharacters(name, length - mostCharacters);
+    }
+    while (name.size() > mostBytes) {
+        name = withoutLastCharacters(name, 1);
     }
     const std::size_t first = name.find_first_not_of(" .");
     return first == std::string::npos ? "Unnamed" : name.substr(first);
@@ -53,6 +58,10 @@ fs::file_time_type timeOf(const fs::path& file) {
 }
 
 }  // namespace
+
+fs::path RecoveryFolder::ofUser() {
+    return userDataFolder() / "recovered";
+}
 
 RecoveryFolder::RecoveryFolder(fs::path folder, Runs runs, std::function<std::string()> now)
     : m_folder(std::move(folder)), m_runs(std::move(runs)), m_now(std::move(now)) {}

@@ -24,18 +24,25 @@ public:
         std::filesystem::path file;
     };
 
+    /// How many designs are kept for good; the oldest go.
     static constexpr std::size_t mostKept = 10;
 
+    /// The user's folder of designs put aside, which need not exist yet. Throws FileError if the
+    /// user has no home.
+    static std::filesystem::path ofUser();
+
+    /// `now` says the time as it is to stand in the name of a file.
     RecoveryFolder(std::filesystem::path folder, Runs runs, std::function<std::string()> now);
     RecoveryFolder(const RecoveryFolder&) = delete;
     RecoveryFolder& operator=(const RecoveryFolder&) = delete;
+    ~RecoveryFolder() = default;
 
     /// Keeps what runs that have crashed have left: these designs, the newest first.
     /// Throws FileError as `list` does.
     std::vector<Design> keepLeftBehind();
     /// Writes the design at work as the file of this run. Throws FileError.
     void put(const std::string& shipName, const std::string& shipFile);
-    /// Keeps the file of this run, if there is one, for good; of those kept the last ten stay.
+    /// Keeps the file of this run, if there is one, for good.
     void keep();
     /// Takes the file of this run away, if there is one.
     void forget();

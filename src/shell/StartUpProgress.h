@@ -14,6 +14,9 @@ public:
     virtual void repaint() = 0;
 };
 
+/// Thrown by a step of the start that has failed and has said so: the program ends.
+struct EndOfProgram {};
+
 /// Where nobody watches the start.
 class NoProgress : public StartUpProgress {
 public:

@@ -18,10 +18,10 @@ namespace {
 /// its digits without leading zeros.
 std::string numberText(const std::string& bytes) {
     std::string digits = "0";
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
+    for (const char byte : std::string(bytes.rbegin(), bytes.rend())) {
         char two[3];
         std::snprintf(two, sizeof two, "%X",
-                      static_cast<unsigned>(static_cast<unsigned char>(*byte)));
+                      static_cast<unsigned>(static_cast<unsigned char>(byte)));
         digits += two;
     }
     return std::to_string(static_cast<std::int32_t>(std::stoul(digits, nullptr, 16)));
@@ -35,8 +35,7 @@ frmAbout::frmAbout(Services services)
 
 void frmAbout::Form_Load() {
     setCaption(std::string("About ") + productName);
-    lblVersion.setCaption("Version " + std::to_string(version.major) + '.' +
-                          std::to_string(version.minor) + '.' + std::to_string(version.revision));
+    lblVersion.setCaption("Version " FLEETWRIGHT_VERSION);
     lblTitle.setCaption(applicationTitle);
 }
 

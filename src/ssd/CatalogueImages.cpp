@@ -1,6 +1,7 @@
 #include "CatalogueImages.h"
 
 #include "Error.h"
+#include "SheetPictures.h"
 #include "ShipClass.h"
 
 namespace fleetwright {
@@ -15,8 +16,7 @@ const Raster& CatalogueImages::system(std::string_view name) {
 
 Raster CatalogueImages::load(std::string_view name) {
     if (name == blank) {
-        constexpr int side = 32;  // pixels, as the pictures of systems
-        return {side, side};
+        return {systemPictureSize, systemPictureSize};
     }
     std::int32_t index = m_ship.weapNameToIndex(name);
     if (index < 0) {

@@ -16,10 +16,11 @@
 
 namespace fleetwright {
 
-/// A file that was read to its end and yet is no map.
+/// A file that was read to its end and yet is no map. As long as the format has no rule that
+/// refuses a file as a whole, none is.
 class InvalidMapError : public Error {
 public:
-    static constexpr int number = 11111;
+    static constexpr int number = 11111;  ///< the one that it has always had
     InvalidMapError() : Error("Not a valid Map file!!!") {}
 };
 
@@ -67,6 +68,7 @@ public:
 private:
     static const SSDPoint& at(const std::vector<SSDPoint>& points, std::int16_t index);
 
+    /// Reads the file; whether it is a map as a whole.
     bool loadMap(const std::string& in_sFileName);
     void readLine(const SSDMapLine& line);
 

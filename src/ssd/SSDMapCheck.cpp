@@ -17,10 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string quote(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
 bool isAppending(MapKey key) {
     return key == MapKey::Weap || key == MapKey::FireCon || key == MapKey::Dcp;
 }

@@ -1,5 +1,6 @@
 #include "SSDMaps.h"
 
+#include "HullRules.h"
 #include "capitals.h"
 #include "folders.h"
 
@@ -40,7 +41,7 @@ std::vector<fs::path> mapFiles(const fs::path& appFolder) {
 void scanMaps(const fs::path& appFolder, SSDMaps& g_colSSDMaps, std::int16_t& g_iLargestSSD,
               const std::function<void(const std::string&)>& showText) {
     constexpr std::size_t endingLength = 4;
-    constexpr std::int16_t largest = 100;
+    constexpr std::int16_t largest = capitalMass;
     for (const fs::path& file : mapFiles(appFolder)) {
         std::string name = pathText(file.filename());
         name.resize(name.size() - endingLength);

@@ -64,7 +64,7 @@ const std::vector<Act> acts = {
     {"AutoMass on", 4, [](TestWindow& test) { test.window().mnuAutoMass.choose(); },
      [](TestWindow& test) { test.window().updwnMass_5.pressUp(); }},
     {"one system more, with AutoMass", 3, fitGun, startAutoMass},
-    {"load of a file", 8, loadFile},
+    {"load of a file", 7, loadFile},
     {"refresh by the timer", 0, [](TestWindow& test) { test.window().tmrRefreshScreen.tick(); }},
 };
 

@@ -65,6 +65,12 @@ TEST(OutlineScan, FindsEveryMarkInReadingOrder) {
     EXPECT_EQ(scanned({".R.G#", "B....", "...YC", "M...C"}),
               "FIRECON: (1,0) THRUST: (3,0) DCP: (0,1) WEAP: (3,2,A) DAMROW: (0,3) FTL: (4,3) ");
     EXPECT_EQ(scanned({"rgbcmyk.#"}), "");
+    // Many pixels are looked at in one go, and none of them may hide a mark.
+    for (std::size_t x = 0; x < 70; ++x) {
+        std::string wide(70, '#');
+        wide[x] = 'R';
+        EXPECT_EQ(scanned({wide}), lineOf("FIRECON", static_cast<int>(x)));
+    }
 }
 
 TEST(OutlineScan, TheArcMarkIsNoMarkOfItsOwn) {

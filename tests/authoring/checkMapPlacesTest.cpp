@@ -1,5 +1,6 @@
 #include "checkMapPlaces.h"
 
+#include "faults.h"
 #include "mapMarks.h"
 
 #include <gtest/gtest.h>
@@ -148,13 +149,10 @@ TEST(ReadMapPlaces, TakesWhatTheLinesSayAndPassesOverWhatIsWrong) {
 }
 
 TEST(ReadMapPlaces, WithoutAnOutlineTheRestIsChecked) {
-    std::string faults;
-    for (const Fault& fault : checkMapPlaces(
-             readMapPlaces("SIZE: 18\nFTL: (\nDCP: ()\nFIRECON: (0,0)\nFIRECON: (9000,1)\n"
-                           "WEAP: (1,1,F)\nTHRUST: (50,50)\nDAMROW: (200,50)"),
-             Raster())) {
-        faults += std::to_string(fault.line) + ": " + fault.text + '\n';
-    }
-    EXPECT_EQ(faults, "6: the WEAP box at (1,1) overlaps the FIRECON box at (0,0) of line 4\n"
-                      "0: no weapon point for the arc P, S, A, B\n");
+    const MapPlaces map =
+        readMapPlaces("SIZE: 18\nFTL: (\nDCP: ()\nFIRECON: (0,0)\nFIRECON: (9000,1)\n"
+                      "WEAP: (1,1,F)\nTHRUST: (50,50)\nDAMROW: (200,50)");
+    EXPECT_EQ(textOf(checkMapPlaces(map, Raster())),
+              "6: the WEAP box at (1,1) overlaps the FIRECON box at (0,0) of line 4\n"
+              "0: no weapon point for the arc P, S, A, B\n");
 }

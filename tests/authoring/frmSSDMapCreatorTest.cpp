@@ -3,8 +3,8 @@
 #include "SSDMap.h"
 #include "SSDMaps.h"
 #include "TemporaryFolder.h"
+#include "fakeServices.h"
 #include "mapMarks.h"
-#include "windowWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -186,7 +186,7 @@ TEST_F(MapCreator, WhatCannotBeLoadedSelectsNothingAndSaysSoWithoutAMessage) {
     window.cmdDoit.press();
     EXPECT_FALSE(window.cmdDoit.isEnabled());
     EXPECT_EQ(window.txtOutput.text(), "mine");
-    EXPECT_EQ(desktop.questions, 0);
+    EXPECT_EQ(desktop.log, "");
 }
 
 TEST_F(MapCreator, WithoutAPictureTheEmptyBoxIsScanned) {
@@ -224,7 +224,7 @@ TEST_F(MapCreator, ANewMapIsOfferedAtOnceAndAKnownOneAtTheNextStart) {
     EXPECT_EQ(folder.read("maps/New.map"), "SIZE: 36\r\n\r\n");
     EXPECT_EQ(maps.at("New"), known);
     EXPECT_EQ(known->iMaxMass, 18);
-    EXPECT_EQ(desktop.questions, 0);
+    EXPECT_EQ(desktop.log, "");
 }
 
 TEST_F(MapCreator, SavingAddsTheExtensionAndFailsWithoutAMessage) {
@@ -242,7 +242,7 @@ TEST_F(MapCreator, SavingAddsTheExtensionAndFailsWithoutAMessage) {
         << window.cmdSaveIt.toolTip();
     desktop.choice.reset();
     window.cmdSaveIt.press();
-    EXPECT_EQ(desktop.questions, 0);
+    EXPECT_EQ(desktop.log, "");
 }
 
 }  // namespace

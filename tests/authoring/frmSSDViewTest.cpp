@@ -1,6 +1,6 @@
 #include "frmSSDView.h"
 
-#include "windowWorld.h"
+#include "fakeServices.h"
 
 #include <gtest/gtest.h>
 
@@ -75,7 +75,7 @@ TEST_F(Viewer, AFailureLeavesThePictureOnShowWithoutAMessage) {
         EXPECT_EQ(window.picImage.picture().width(), 100);
         EXPECT_EQ(window.picImage.toolTip(), "small.bmp");
     }
-    EXPECT_EQ(desktop.questions, 0);
+    EXPECT_EQ(desktop.log, "");
 }
 
 TEST_F(Viewer, CancelClosesItAndItOpensAnew) {

@@ -3,7 +3,6 @@
 #include "Error.h"
 #include "TemporaryFolder.h"
 
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -34,27 +33,6 @@ int asNobody(const std::function<bool()>& act) {
     waitpid(child, &status, 0);
     return WEXITSTATUS(status);
 }
-
-/// A disk of 64 KiB, for those who may mount one.
-class SmallDisk {
-public:
-    SmallDisk() : m_isMounted(mount("none", path().c_str(), "tmpfs", 0, "size=64k") == 0) {}
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    ~SmallDisk() {
-        if (m_isMounted) {
-            umount(path().c_str());
-        }
-    }
-
-    bool isMounted() const { return m_isMounted; }
-    const TemporaryFolder& folder() const { return m_folder; }
-    const fs::path& path() const { return m_folder.path(); }
-
-private:
-    TemporaryFolder m_folder;
-    bool m_isMounted;
-};
 
 std::string faultOf(const fs::path& target, std::string_view contents) {
     try {
@@ -172,21 +150,6 @@ TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
               0);
     EXPECT_EQ(folder.read("ship.shp"), "old");
     EXPECT_EQ(folder.entries(), 2);
-
-    const SmallDisk small;
-    if (!small.isMounted()) {
-        GTEST_SKIP() << "no right to mount a small disk";
-    }
-    saveFile(small.path() / "ship.shp", "old");
-    EXPECT_EQ(faultOf(small.path() / "ship.shp", std::string(200'000, 'x')),
-              "cannot be saved: No space left on device");
-    EXPECT_EQ(small.folder().read("ship.shp"), "old");
-    EXPECT_EQ(small.folder().entries(), 1);
-
-    ASSERT_EQ(mount("none", small.path().c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr), 0);
-    for (const char* const name : {"ship.shp", "new.shp"}) {
-        EXPECT_EQ(faultOf(small.path() / name, "x"), "cannot be saved: Read-only file system");
-    }
 }
 
 TEST(SaveFile, KillInTheMiddleLeavesOneOfTheTwoContents) {

@@ -1,39 +1,22 @@
+#include "QtPictureFiles.h"
 #include "TemporaryFolder.h"
 #include "runTool.h"
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace fleetwright;
 
 namespace {
 
-void append(std::string& bytes, std::uint32_t number, int count) {
-    for (; count > 0; --count, number >>= 8) {
-        bytes += static_cast<char>(number & 0xFF);
+/// A white picture file but for one mark a row, each in the column of its row's number.
+std::string outlineFile(int side, const std::vector<std::uint32_t>& marks) {
+    Raster picture(side, side);
+    for (int i = 0; std::cmp_less(i, marks.size()); ++i) {
+        picture.pixel(i, i) = marks[static_cast<std::size_t>(i)];
     }
-}
-
-/// A BMP file, white but for one mark a row, each in the column of its row's number.
-std::string outlineFile(std::uint32_t side, const std::vector<std::uint32_t>& marks) {
-    constexpr std::uint32_t headers = 54;
-    const std::uint32_t padding = side % 4;  // rows of three bytes a pixel end at a multiple of 4
-    std::string bytes = "BM";
-    append(bytes, headers + side * (side * 3 + padding), 4);
-    append(bytes, 0, 4);
-    append(bytes, headers, 4);
-    append(bytes, 40, 4);
-    append(bytes, side, 4);
-    append(bytes, side, 4);
-    append(bytes, 1, 2);
-    append(bytes, 24, 2);
-    bytes.resize(headers);
-    for (std::uint32_t y = side; y-- > 0;) {  // from the bottom up
-        for (std::uint32_t x = 0; x < side; ++x) {
-            append(bytes, x == y && y < marks.size() ? marks[y] : 0xFFFFFF, 3);
-        }
-        append(bytes, 0, static_cast<int>(padding));
-    }
-    return bytes;
+    return QtPictureFiles().encode(picture, "bmp");
 }
 
 class ScanTool : public testing::Test {

@@ -1,10 +1,10 @@
-#include "NoDesktop.h"
 #include "PictureCache.h"
 #include "ProgramImages.h"
 #include "QtPictureFiles.h"
 #include "SheetPictures.h"
 #include "ShipOnScreen.h"
 #include "TemporaryFolder.h"
+#include "fakeServices.h"
 #include "frmMain.h"
 #include "frmMapper.h"
 #include "runTool.h"
@@ -40,7 +40,9 @@ protected:
         writePicture("shipimages/ship.gif", Raster(200, 160));
         for (const std::string& name : sheetPictures()) {
             if (!name.starts_with("c")) {
-                writePicture("images/" + name, box(name.size()));
+                // The case of a file's name does not matter.
+                writePicture("images/" + (name == fireControlPicture ? "SsdFc.GIF" : name),
+                             box(name.size()));
             }
         }
         writePicture("images/gun.gif", box(20));
@@ -74,16 +76,6 @@ protected:
     TemporaryFolder m_folder;
 };
 
-class SavingDesktop : public NoDesktop {
-public:
-    explicit SavingDesktop(std::string name) : m_name(std::move(name)) {}
-
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return m_name; }
-
-private:
-    std::string m_name;
-};
-
 std::string SheetTool::savedByWindow(const std::string& ship) const {
     ShipOnScreen screen(m_folder.path());
     screen.load((m_folder.path() / ship).string());
@@ -93,7 +85,8 @@ std::string SheetTool::savedByWindow(const std::string& ship) const {
     ilWeapons.add("Damage Control Party", pictures.load(m_folder.path() / "images/party.gif"));
     ilWeapons.add("BLANK", Raster(32, 32));
     ProgramImages images(m_folder.path(), pictures, ilWeapons);
-    SavingDesktop desktop((m_folder.path() / "window.bmp").string());
+    ChoosingDesktop desktop;
+    desktop.choice = (m_folder.path() / "window.bmp").string();
     const SSDMaps maps = loadMaps(m_folder.path());
     frmMapper window({.appFolder = m_folder.path(),
                       .desktop = desktop,

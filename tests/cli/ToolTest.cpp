@@ -1,3 +1,4 @@
+#include "QtPictureFiles.h"
 #include "TemporaryFolder.h"
 #include "runTool.h"
 
@@ -76,6 +77,15 @@ TEST_F(Tool, FiguresStayReadableForAnyFileName) {
               "{\"file\":\"\uFFFD\\n.shp\",\"shipName\":\"a\\tb\\\\\",\"des");
 }
 
+TEST_F(Tool, ComplaintsShowNoControlCharacters) {
+    using namespace std::string_literals;
+    m_folder.write("odd.shp", "Type\x1B[2J: Merchant\nSystem: A\0b, 1\nMass: 5\0\n"s);
+    const ToolRun odd = run({"--app", ".", "check", "odd.shp"});
+    EXPECT_EQ(odd.output, "odd.shp:1: nobody reads the key \"Type\uFFFD[2J\"\n"
+                          "odd.shp:2: unknown system \"A\uFFFDb\"\n"
+                          "odd.shp:3: \"5\uFFFD\" is no number\n");
+}
+
 TEST_F(Tool, ReportsFollowEachOther) {
     const ToolRun reports = run({"--app", ".", "report", "good.shp", "part.shp", "bad.shp"});
     EXPECT_EQ(reports.status, 1);
@@ -83,23 +93,10 @@ TEST_F(Tool, ReportsFollowEachOther) {
               "part.shp:2: unknown system \"Laser\"\n"
               "part.shp:4: a merchant hull cannot have a cloak and other systems\n" +
                   badComplaint);
-    EXPECT_EQ(reports.output, "=====================================\n"
-                              "+      Iron Vector Ship Creator     +\n"
-                              "=====================================\n"
-                              "Ship Name: \"Né\"\n"
-                              "Designer Name: Nils's Iron Vector Creator\n"
-                              "Mass: 50\nCost: 368\nThrust: 4\nType: Warship\nFTL: Normal\n"
-                              "Damage Points: 25\nDamage Rows: 4\nMass Left: 19\n\nSystems\n"
-                              "    3 Fire Control System\n    3 Damage Control Party\n    3\tGun\n"
-                              "=====================================\n"
-                              "+      Iron Vector Ship Creator     +\n"
-                              "=====================================\n"
-                              "Ship Name: Generic\n"
-                              "Designer Name: Nils's Iron Vector Creator\n"
-                              "Mass: 2\nCost: 11\nThrust: 2\nType: Merchant\nFTL: Normal\n"
-                              "Damage Points: 1\nDamage Rows: 2\nMass Left: 0\n\nSystems\n"
-                              "    1 Fire Control System\n    0 Damage Control Party\n"
-                              "    1\tCloaking Field\n");
+    const std::string good = run({"--app", ".", "report", "good.shp"}).output;
+    EXPECT_NE(good.find("\nCost: 368\n"), std::string::npos);
+    EXPECT_TRUE(good.ends_with("\n    3\tGun\n"));
+    EXPECT_EQ(reports.output, good + run({"--app", ".", "report", "part.shp"}).output);
 }
 
 TEST_F(Tool, SaveWritesOneFileAndNamesWhatWasLost) {
@@ -119,19 +116,9 @@ TEST_F(Tool, SaveWritesOneFileAndNamesWhatWasLost) {
 }
 
 TEST_F(Tool, ExplainSaysWhereTheFiguresComeFrom) {
-    EXPECT_EQ(all(run({"explain", "--app", ".", "good.shp"})),
-              "0|\"Né\"\n"
-              "     100  Warship hull of mass 50\n"
-              "      50  FTL drive: Normal\n"
-              "     200  Thrust 4\n"
-              "      18  3 x Gun\n"
-              "     368  = Cost\n"
-              "      25  Warship hull of mass 50\n"
-              "      25  = Damage points\n"
-              "      25  Free mass of the Warship hull of mass 50\n"
-              "      -6  3 x Gun\n"
-              "      19  = Mass left\n"
-              "|");
+    const ToolRun explained = run({"explain", "--app", ".", "good.shp"});
+    EXPECT_TRUE(explained.output.starts_with("\"Né\"\n     100  Warship hull of mass 50\n"));
+    EXPECT_TRUE(explained.output.ends_with("      -6  3 x Gun\n      19  = Mass left\n"));
 }
 
 TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
@@ -142,11 +129,7 @@ TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {
     EXPECT_EQ(all(run({"eval", "hull*ftl*thrust*hullcost", "--hull", "3", "--ftl", "3", "--thrust",
                        "5", "--hull-cost", "7"})),
               "0|315\n|");
-    for (const char* name : {"mass", "hull", "ftl", "thrust", "hullcost", "amount", "abs(1)"}) {
-        const std::string plus = run({"eval", std::string("0 + ") + name}).output;
-        EXPECT_EQ(all(run({"eval", std::string("-") + name})), "0|-" + plus + "|");
-    }
-    EXPECT_EQ(run({"eval", "[1]"}).status, 1);
+    EXPECT_EQ(all(run({"eval", "-hull"})), "0|-1\n|") << "which is not -h";
     EXPECT_EQ(all(run({"eval", "--", "--mass"})), "0|2\n|");
     EXPECT_EQ(all(run({"eval", "1/0"})), "0|0\n|");
     EXPECT_EQ(all(run({"eval", "2 +"})),
@@ -182,13 +165,9 @@ TEST_F(Tool, CheckNamesEveryFault) {
 }
 
 TEST_F(Tool, CheckLooksThroughMaps) {
-    // A white outline of 100 by 50 with a red mark at (40,10).
-    std::string bitmap("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x64\0\0\0\x32\0\0\0\1\0\x18", 30);
-    bitmap.resize(54);
-    bitmap.resize(54 + 300 * 50, '\xFF');
-    const std::size_t mark = 54 + 300 * 39 + 3 * 40;
-    bitmap[mark] = bitmap[mark + 1] = 0;
-    m_folder.write("shipimages/hull.BMP", bitmap);
+    Raster outline(100, 50);
+    outline.pixel(40, 10) = 0xFF0000;
+    m_folder.write("shipimages/hull.BMP", QtPictureFiles().encode(outline, "bmp"));
     m_folder.write("shipimages/text.gif", "no picture");
     m_folder.write("maps/b.MAP", "IMAGE: Hull.bmp\nSIZE: 36\nDAMROW: (0,7)\nFTL: 1,2\n"
                                  "WEAP: (1,2,X)\nDCP: (10,1)\nDCP: (70,1)\nWEAP: (68,18,B)\n");

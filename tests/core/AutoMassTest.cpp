@@ -68,16 +68,6 @@ TEST(AutoMass, JumpsWhenFarAndStepsWhenNear) {
     EXPECT_EQ(withBallast(50, 60, 0).mass, 79);
 }
 
-TEST(AutoMass, GoesBelowTheSmallestMassWithoutSystems) {
-    const ShipYard yard;
-    const Fitted fitted = fit(yard, [](ShipClass& ship) {
-        ship.FTL(NoDrive);
-        ship.mass(60);
-    });
-    EXPECT_EQ(fitted.mass, 0);
-    EXPECT_EQ(fitted.massLeft, 0);
-}
-
 TEST(AutoMass, GivesUpWhereNothingFitsAndKeepsTheMass) {
     const ShipYard yard;
     for (const std::int32_t mass : {10, 50, 200}) {

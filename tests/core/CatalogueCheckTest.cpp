@@ -1,7 +1,7 @@
 #include "CatalogueCheck.h"
 
 #include "TextFile.h"
-#include "testShip.h"
+#include "faults.h"
 
 #include <gtest/gtest.h>
 
@@ -18,11 +18,7 @@ const std::string sound = "CATEGORY,0,0,beam,Guns,O,guns.gif\n"
                           "Damage Control Party,1,1,x,systems,O,f.gif\n";
 
 std::string faultsWith(const std::string& lines) {
-    std::string text;
-    for (const Fault& fault : checkCatalogue(sound + lines)) {
-        text += std::to_string(fault.line) + ": " + fault.text + '\n';
-    }
-    return text;
+    return textOf(checkCatalogue(sound + lines));
 }
 
 }  // namespace

@@ -1,11 +1,9 @@
 #include "formula_calculate.h"
+#include "runCommand.h"
 
 #include <dlfcn.h>
 
 #include <gtest/gtest.h>
-
-#include <cstdio>
-#include <string>
 
 TEST(FormulaModule, HasTheOneExportUnderItsPlainName) {
     void* const module = dlopen(APP_FOLDER "/w_dll.dll", RTLD_NOW | RTLD_LOCAL);
@@ -17,13 +15,7 @@ TEST(FormulaModule, HasTheOneExportUnderItsPlainName) {
     dlclose(module);
 
     // What else it might show would be open to clashes with the program that loads it.
-    FILE* const names =
-        popen("nm -D --defined-only --format=just-symbols " APP_FOLDER "/w_dll.dll", "r");
-    ASSERT_NE(names, nullptr);
-    std::string symbols;
-    for (int c = 0; (c = std::fgetc(names)) != EOF;) {
-        symbols += static_cast<char>(c);
-    }
-    pclose(names);
-    EXPECT_EQ(symbols, "formula_calculate\n");
+    const fleetwright::CommandResult names = fleetwright::runCommand(
+        "nm -D --defined-only --format=just-symbols " APP_FOLDER "/w_dll.dll");
+    EXPECT_EQ(names.output, "formula_calculate\n");
 }

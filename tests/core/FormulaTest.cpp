@@ -14,6 +14,13 @@ std::int32_t value(std::string text) {
     return formula_calculate(text.data(), 50, 2, 3, 4, 175, 6);
 }
 
+void expectValues(std::initializer_list<std::pair<const char*, std::int32_t>> cases) {
+    for (const auto& [text, expected] : cases) {
+        EXPECT_EQ(value(text), expected) << text;
+        EXPECT_FALSE(formulaFault(text)) << text;
+    }
+}
+
 std::string repeat(const std::string& text, int times) {
     std::string result;
     for (int i = 0; i < times; ++i) {
@@ -25,7 +32,7 @@ std::string repeat(const std::string& text, int times) {
 }  // namespace
 
 TEST(Formula, KnowsTheShipAndItsOperators) {
-    const std::pair<const char*, std::int32_t> cases[] = {
+    expectValues({
         {"mass", 50},
         {"HULL", 2},
         {"Ftl", 3},
@@ -75,15 +82,11 @@ TEST(Formula, KnowsTheShipAndItsOperators) {
         {"1 or 1 ? 4 : 5", 4},
         {"hull >= 4 ? 6 : 9", 9},
         {"(mass>30)*amount", 6},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(value(text), expected) << text;
-        EXPECT_FALSE(formulaFault(text)) << text;
-    }
+    });
 }
 
 TEST(Formula, KnowsItsFunctions) {
-    const std::pair<const char*, std::int32_t> cases[] = {
+    expectValues({
         {"roundup(30*0.1)", 3},
         {"roundup(2.25)", 3},
         {"RoundUp (-13.5)", -12},
@@ -97,15 +100,11 @@ TEST(Formula, KnowsItsFunctions) {
         {"max( 3 ; 7 ; 2 )", 7},
         {"min(4)", 4},
         {"max(roundup(mass*0.05);2)*amount", 18},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(value(text), expected) << text;
-        EXPECT_FALSE(formulaFault(text)) << text;
-    }
+    });
 }
 
 TEST(Formula, RoundsItsResultTiesToEvenWithin32Bits) {
-    const std::pair<const char*, std::int32_t> cases[] = {
+    expectValues({
         {"0.5", 0},
         {"1.5", 2},
         {"2.5", 2},
@@ -120,11 +119,7 @@ TEST(Formula, RoundsItsResultTiesToEvenWithin32Bits) {
         {"0^-1", 0},
         {"(-1)^0.5", 0},
         {"1/(0^-1)", 0},
-    };
-    for (const auto& [text, expected] : cases) {
-        EXPECT_EQ(value(text), expected) << text;
-        EXPECT_FALSE(formulaFault(text)) << text;
-    }
+    });
     EXPECT_EQ(value("1" + repeat("0", 400)), 0);
     EXPECT_EQ(value("1/1" + repeat("0", 400) + "+4"), 4);
     EXPECT_EQ(value("0." + repeat("0", 400) + "1+4"), 4);

@@ -2,10 +2,10 @@
 
 #include "Error.h"
 #include "roundUp.h"
+#include "roundUpByText.h"
 
 #include <gtest/gtest.h>
 
-#include <charconv>
 #include <cmath>
 #include <random>
 #include <string>
@@ -13,25 +13,6 @@
 using namespace fleetwright;
 
 namespace {
-
-/// The rounding as its rule says it: by the decimal text.
-double roundUpByText(double x) {
-    char text[400];
-    const auto end = std::to_chars(text, text + sizeof text, x, std::chars_format::scientific, 14);
-    // All digits but the first stand behind the point; the exponent says how many of them are
-    // in front of it.
-    const std::string scientific(text, end.ptr);
-    const std::size_t e = scientific.find('e');
-    std::string digits = scientific.substr(0, e);
-    std::erase_if(digits, [](char c) { return c == '.' || c == '-'; });
-    const int exponent = std::stoi(scientific.substr(e + 1));
-    const bool hasPoint =
-        x != 0 &&
-        (exponent < 0 ||
-         (exponent < 14 && digits.find_first_not_of('0', static_cast<std::size_t>(exponent) + 1) !=
-                               std::string::npos));
-    return hasPoint ? std::trunc(x) + 1 : std::nearbyint(x);
-}
 
 std::string figuresOf(std::int32_t hullType, std::int32_t mass) {
     const HullFigures figures = hullFigures({.mass = mass, .hullType = hullType, .ftl = NoDrive});

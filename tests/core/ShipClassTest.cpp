@@ -8,36 +8,11 @@
 
 using namespace fleetwright;
 
-TEST(ShipClass, StartsAsASmallSavedWarship) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
-    EXPECT_EQ(figures(*ship), "7 1 2 0 1 1");
-    EXPECT_EQ(ship->mass(), 2);
-    EXPECT_EQ(ship->Hull(), 1);
-    EXPECT_EQ(ship->FTL(), 1);
-    EXPECT_EQ(ship->THRUST(), 2);
-    EXPECT_EQ(ship->Armor(), 0);
-    EXPECT_EQ(ship->Streamline(), 0);
-    EXPECT_TRUE(ship->g_bSaved);
-    EXPECT_FALSE(ship->g_bAutoMass);
-    EXPECT_EQ(ship->g_sShipName, "Generic");
-    EXPECT_EQ(ship->g_sDesignerName, "Nils's Iron Vector Creator");
-    EXPECT_EQ(ship->g_sSaveName + ship->g_sTrimmedFileName, "");
-}
+using ShipClassTest = NewShip;
 
-TEST(ShipClass, WithoutACatalogueDoesNotComeIntoBeing) {
-    const TemporaryFolder folder;
-    EXPECT_THROW(ShipClass({.catalogueFile = folder.path() / "weaps.dat",
-                            .formula = formula_calculate,
-                            .eventLoopTurn = {}}),
-                 FileError);
-}
-
-TEST(ShipClass, WorksOutTheFiguresOfKnownDesigns) {
-    const ShipYard yard;
+TEST_F(ShipClassTest, WorksOutTheFiguresOfKnownDesigns) {
     const auto design = [&](std::int32_t hull, std::int32_t mass, std::int16_t thrust,
                             std::int32_t ftl, std::int32_t armor, std::int16_t streamline) {
-        const auto ship = yard.newShip();
         ship->Hull(hull);
         ship->mass(mass);
         ship->THRUST(thrust);
@@ -52,9 +27,7 @@ TEST(ShipClass, WorksOutTheFiguresOfKnownDesigns) {
     EXPECT_EQ(design(4, 7, 0, 0, 0, 0), "14: 14 4 2 1 1 4");
 }
 
-TEST(ShipClass, EachWriteRecalculatesOnceAndMarksTheShip) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipClassTest, EachWriteRecalculatesOnceAndMarksTheShip) {
     EventLog events(*ship);
     const std::vector<std::function<void()>> writes = {
         [&] { ship->mass(10); },     [&] { ship->Armor(1); }, [&] { ship->Streamline(1); },
@@ -74,9 +47,7 @@ TEST(ShipClass, EachWriteRecalculatesOnceAndMarksTheShip) {
     EXPECT_TRUE(ship->g_bSaved);
 }
 
-TEST(ShipClass, ListenersSeeTheMarkThatBelongsToTheEvent) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipClassTest, ListenersSeeTheMarkThatBelongsToTheEvent) {
     std::string seen;
     const auto note = [&] { seen += ship->g_bSaved ? "saved " : "changed "; };
     const Connection recalculated = ship->Recalculated.connect(note);
@@ -91,9 +62,7 @@ TEST(ShipClass, ListenersSeeTheMarkThatBelongsToTheEvent) {
     EXPECT_TRUE(ship->g_bSaved);
 }
 
-TEST(ShipClass, AListenerThatThrowsLeavesTheShipAsItWas) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipClassTest, AListenerThatThrowsLeavesTheShipAsItWas) {
     ship->mass(30);
     ship->g_bSaved = true;
     const std::string before = figures(*ship);
@@ -116,9 +85,7 @@ TEST(ShipClass, AListenerThatThrowsLeavesTheShipAsItWas) {
     EXPECT_EQ(figures(*ship), before);
 }
 
-TEST(ShipClass, HoldsValuesToTheirBounds) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipClassTest, HoldsValuesToTheirBounds) {
     for (const std::int32_t mass : {1, 0, -7, INT32_MIN}) {
         ship->mass(mass);
         EXPECT_EQ(ship->mass(), 2);
@@ -135,9 +102,7 @@ TEST(ShipClass, HoldsValuesToTheirBounds) {
     EXPECT_EQ(ship->Streamline(), 2);
 }
 
-TEST(ShipClass, OverflowLeavesTheShipAsItWas) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipClassTest, OverflowLeavesTheShipAsItWas) {
     ship->mass(150'000'000);
     ship->g_bSaved = true;
     const std::string before = figures(*ship);

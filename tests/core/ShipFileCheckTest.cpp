@@ -1,5 +1,6 @@
 #include "ShipFileCheck.h"
 
+#include "faults.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>
@@ -14,11 +15,7 @@ std::string faultsOf(std::string_view text) {
     if (!ship->fileFault()) {
         ship->weapChange();
     }
-    std::string faults;
-    for (const Fault& fault : checkShipFile(text, *ship, ship->fileFault())) {
-        faults += std::to_string(fault.line) + ": " + fault.text + '\n';
-    }
-    return faults;
+    return textOf(checkShipFile(text, *ship, ship->fileFault()));
 }
 
 }  // namespace

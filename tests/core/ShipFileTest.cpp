@@ -4,6 +4,8 @@
 
 using namespace fleetwright;
 
+using ShipFileTest = NewShip;
+
 namespace {
 
 std::string fault(const ShipClass& ship) {
@@ -13,9 +15,7 @@ std::string fault(const ShipClass& ship) {
 
 }  // namespace
 
-TEST(ShipFile, IsWrittenLineByLine) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipFileTest, IsWrittenLineByLine) {
     std::string name = (yard.folder().path() / "plain").string();
     EXPECT_TRUE(ship->saveShip(name));
     EXPECT_EQ(name, (yard.folder().path() / "plain.shp").string());
@@ -49,9 +49,7 @@ TEST(ShipFile, IsWrittenLineByLine) {
                                                "System: Ballast, 3\r\n");
 }
 
-TEST(ShipFile, SavingTakesTheNameAndMarksTheShip) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipFileTest, SavingTakesTheNameAndMarksTheShip) {
     ship->weapChange();
     EventLog events(*ship);
     std::string name = (yard.folder().path() / "a.b.SHP").string();
@@ -72,9 +70,7 @@ TEST(ShipFile, SavingTakesTheNameAndMarksTheShip) {
     EXPECT_EQ(events.take(), "");
 }
 
-TEST(ShipFile, LoadingSetsFieldsAndRecalculatesForSystemsOnly) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipFileTest, LoadingSetsFieldsAndRecalculatesForSystemsOnly) {
     EventLog events(*ship);
     ship->g_bAutoMass = true;
     const std::string file = yard.folder().write(
@@ -102,24 +98,22 @@ TEST(ShipFile, LoadingSetsFieldsAndRecalculatesForSystemsOnly) {
     EXPECT_TRUE(armed->g_bSaved);
 }
 
-TEST(ShipFile, KeysAndWordsAreExactButForTheType) {
-    const ShipYard yard;
-    const auto ship = yard.loaded(
+TEST_F(ShipFileTest, KeysAndWordsAreExactButForTheType) {
+    const auto loaded = yard.loaded(
         "ship name: x\nShip Name : y\nMASS: 9\n Mass: 9\nType: space station\nFTL: normal\n"
         "FTL: tug\nStreamlining: full\nArmor: Level 3\nArmor: 0\nno colon at all\n");
-    EXPECT_EQ(fault(*ship), "none");
-    EXPECT_EQ(ship->g_sShipName, "Generic");
-    EXPECT_EQ(ship->mass(), 2);
-    EXPECT_EQ(ship->Hull(), SpaceStation);
-    EXPECT_EQ(ship->FTL(), NormalDrive);
-    EXPECT_EQ(ship->Streamline(), 0);
-    EXPECT_EQ(ship->Armor(), 0);
+    EXPECT_EQ(fault(*loaded), "none");
+    EXPECT_EQ(loaded->g_sShipName, "Generic");
+    EXPECT_EQ(loaded->mass(), 2);
+    EXPECT_EQ(loaded->Hull(), SpaceStation);
+    EXPECT_EQ(loaded->FTL(), NormalDrive);
+    EXPECT_EQ(loaded->Streamline(), 0);
+    EXPECT_EQ(loaded->Armor(), 0);
     EXPECT_EQ(yard.loaded("Type: Warships\nType: Starbase")->Hull(), Starbase);
     EXPECT_EQ(yard.loaded("Armor:x2")->Armor(), 2);
 }
 
-TEST(ShipFile, ValuesEndAtTheNextColonAndPiecesRepeat) {
-    const ShipYard yard;
+TEST_F(ShipFileTest, ValuesEndAtTheNextColonAndPiecesRepeat) {
     EXPECT_EQ(yard.loaded("Ship Name: Alpha: Beta")->g_sShipName, "Alpha");
     EXPECT_EQ(yard.loaded("Ship Name")->g_sShipName, "Ship Name");
     EXPECT_EQ(yard.loaded("Ship Name:")->g_sShipName, "");
@@ -133,8 +127,7 @@ TEST(ShipFile, ValuesEndAtTheNextColonAndPiecesRepeat) {
     EXPECT_EQ(yard.loaded("\n\nMass: 7")->mass(), 7);
 }
 
-TEST(ShipFile, BadNumbersEndTheLoadAtTheirLine) {
-    const ShipYard yard;
+TEST_F(ShipFileTest, BadNumbersEndTheLoadAtTheirLine) {
     const std::pair<const char*, const char*> cases[] = {
         {"Mass: ten", "1: \"ten\" is no number"},
         {"Ship Name: x\r\n\r\nThrust: 1e1", "3: \"1e1\" is no number"},
@@ -150,20 +143,18 @@ TEST(ShipFile, BadNumbersEndTheLoadAtTheirLine) {
         {"Foo:Mass\n\n", "2: \"Mass\" is no number"},
     };
     for (const auto& [text, expected] : cases) {
-        const auto ship = yard.loaded(text);
-        EXPECT_EQ(fault(*ship), expected) << text;
-        EXPECT_EQ(ship->g_sSaveName.empty(), ship->fileFault().has_value()) << text;
+        const auto loaded = yard.loaded(text);
+        EXPECT_EQ(fault(*loaded), expected) << text;
+        EXPECT_EQ(loaded->g_sSaveName.empty(), loaded->fileFault().has_value()) << text;
     }
-    const auto ship = yard.loaded("Ship Name: kept\nMass: x\nMass: 30");
-    EXPECT_EQ(ship->g_sShipName, "kept");
-    EXPECT_EQ(ship->mass(), 2);
+    const auto kept = yard.loaded("Ship Name: kept\nMass: x\nMass: 30");
+    EXPECT_EQ(kept->g_sShipName, "kept");
+    EXPECT_EQ(kept->mass(), 2);
     // A base that the window will stop fits, although it would not while it moved.
     EXPECT_EQ(fault(*yard.loaded("Mass: 800000000\nType: Starbase\nFTL: Tug\nThrust: 0")), "none");
 }
 
-TEST(ShipFile, UnknownAndRefusedSystemsArePassedOverAndNamed) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipFileTest, UnknownAndRefusedSystemsArePassedOverAndNamed) {
     EventLog events(*ship);
     EXPECT_TRUE(ship->loadShip(yard.folder().write(
         "x.shp", "Type: Merchant\nSystem: Laser, 1\nSystem: Cloaking Field, 1\nSystem: Gun, 1\n")));
@@ -176,9 +167,7 @@ TEST(ShipFile, UnknownAndRefusedSystemsArePassedOverAndNamed) {
     EXPECT_EQ(amountOf(*ship, "Gun"), 0);
 }
 
-TEST(ShipFile, NamesAreCutAtEitherSeparator) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipFileTest, NamesAreCutAtEitherSeparator) {
     EXPECT_TRUE(ship->loadShip(yard.folder().write("C:\\ships\\abc.txt", "")));
     EXPECT_EQ(ship->g_sTrimmedFileName, "abc");
     EXPECT_TRUE(ship->loadShip(yard.folder().write("naïveté", "")));

@@ -6,6 +6,8 @@
 
 using namespace fleetwright;
 
+using ShipReportTest = NewShip;
+
 namespace {
 
 class Recorder : public ReportPrinter {
@@ -19,9 +21,7 @@ public:
 
 }  // namespace
 
-TEST(ShipReport, IsPrintedToTheLetter) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipReportTest, IsPrintedToTheLetter) {
     Recorder plain;
     ship->PrintShip(plain);
     EXPECT_EQ(plain.text, "=====================================\n"
@@ -71,9 +71,7 @@ TEST(ShipReport, IsPrintedToTheLetter) {
                                                              "<end>");
 }
 
-TEST(ShipReport, TextsForTheSheet) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipReportTest, TextsForTheSheet) {
     EXPECT_EQ(ship->StreamString() + ship->ArmorString(), "");
     ship->Streamline(1);
     ship->Armor(2);
@@ -92,9 +90,7 @@ TEST(ShipReport, TextsForTheSheet) {
     EXPECT_EQ(events.take(), "");
 }
 
-TEST(ExplainShip, TermsAddUpToEachFigure) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(ShipReportTest, TermsAddUpToEachFigure) {
     ship->mass(37);
     ship->Armor(2);
     ship->Streamline(1);

@@ -6,6 +6,8 @@
 
 using namespace fleetwright;
 
+using SystemsTest = NewShip;
+
 namespace {
 
 std::string g_evaluated;
@@ -31,30 +33,27 @@ std::int32_t writeIntoText(char* text, std::int32_t, std::int32_t, std::int32_t,
 
 }  // namespace
 
-TEST(Systems, AreEvaluatedCostFirstForAllPiecesTogether) {
-    const ShipYard yard;
+TEST_F(SystemsTest, AreEvaluatedCostFirstForAllPiecesTogether) {
     ShipServices services = yard.services();
     services.formula = recordCall;
-    ShipClass ship(services);
-    ship.mass(20);
-    ship.addWeap("Gun", 3);
+    ShipClass recorded(services);
+    recorded.mass(20);
+    recorded.addWeap("Gun", 3);
     g_evaluated.clear();
-    ship.Armor(2);
+    recorded.Armor(2);
     EXPECT_EQ(g_evaluated, "20 1 1 2 60 3 6 * amount|20 1 1 2 60 3 2 * amount|");
     g_evaluated.clear();
-    EXPECT_EQ(ship.previewWeapCost("Screen", 5), 1);
+    EXPECT_EQ(recorded.previewWeapCost("Screen", 5), 1);
     std::string formula = "mass";
-    EXPECT_EQ(ship.weapCalc(formula), 1);
+    EXPECT_EQ(recorded.weapCalc(formula), 1);
     EXPECT_EQ(g_evaluated, "20 1 1 2 60 5 3 * mass * amount|20 1 1 2 60 1 mass|");
-    ship.addWeap("Gun", -3);
+    recorded.addWeap("Gun", -3);
     g_evaluated.clear();
-    ship.weapChange();
+    recorded.weapChange();
     EXPECT_EQ(g_evaluated, "");
 }
 
-TEST(Systems, AddUpToCostAndMass) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(SystemsTest, AddUpToCostAndMass) {
     ship->mass(40);
     EXPECT_EQ(figures(*ship), "200 20 4 3 3 20");
     EXPECT_TRUE(ship->addWeap("Gun", 2));
@@ -67,25 +66,22 @@ TEST(Systems, AddUpToCostAndMass) {
     EXPECT_EQ(figures(*ship), "320 20 4 3 3 16");
 }
 
-TEST(Systems, AnEvaluatorMayRewriteTheText) {
-    const ShipYard yard;
+TEST_F(SystemsTest, AnEvaluatorMayRewriteTheText) {
     ShipServices services = yard.services();
     services.formula = writeIntoText;
-    ShipClass ship(services);
-    ship.previewWeapCost("Gun", 1);
+    ShipClass rewritten(services);
+    rewritten.previewWeapCost("Gun", 1);
     WeapRec record;
-    std::int32_t index = ship.weapNameToIndex("Gun");
-    ship.listWeap(index, record);
+    std::int32_t index = rewritten.weapNameToIndex("Gun");
+    rewritten.listWeap(index, record);
     EXPECT_EQ(record.costform, "42");
     EXPECT_EQ(record.massform, "2 * amount");
     std::string formula = "thrust";
-    ship.weapCalc(formula);
+    rewritten.weapCalc(formula);
     EXPECT_EQ(formula, "42");
 }
 
-TEST(Systems, UnknownNamesAreReported) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
+TEST_F(SystemsTest, UnknownNamesAreReported) {
     EventLog events(*ship);
     EXPECT_FALSE(ship->addWeap("gun", 1));
     EXPECT_EQ(events.take(), "unknown ( )");
@@ -96,22 +92,20 @@ TEST(Systems, UnknownNamesAreReported) {
     EXPECT_EQ(ship->weapNameToIndex("cloaking field"), -1);
 }
 
-TEST(Systems, CloakStandsAloneOnMerchantHulls) {
-    const ShipYard yard;
+TEST_F(SystemsTest, CloakStandsAloneOnMerchantHulls) {
     for (const std::int32_t hull : {1, 2, 3, 4, 5, 6}) {
-        const auto ship = yard.newShip();
-        ship->Hull(hull);
-        EventLog events(*ship);
+        const auto other = yard.newShip();
+        other->Hull(hull);
+        EventLog events(*other);
         const bool isMerchantHull = hull == 2 || hull == 5;
-        EXPECT_TRUE(ship->addWeap("Cloaking Field", 1));
+        EXPECT_TRUE(other->addWeap("Cloaking Field", 1));
         events.take();
-        EXPECT_EQ(ship->addWeap("Gun", 1), !isMerchantHull);
+        EXPECT_EQ(other->addWeap("Gun", 1), !isMerchantHull);
         EXPECT_EQ(events.take(), isMerchantHull ? "cloak" : "( )");
-        EXPECT_EQ(ship->addWeap("Cloaking Field", 1), !isMerchantHull);
-        EXPECT_EQ(ship->addWeap("Nothing", 1), false);
-        EXPECT_EQ(ship->addWeap("Cloaking Field", -1), !isMerchantHull);
+        EXPECT_EQ(other->addWeap("Cloaking Field", 1), !isMerchantHull);
+        EXPECT_EQ(other->addWeap("Nothing", 1), false);
+        EXPECT_EQ(other->addWeap("Cloaking Field", -1), !isMerchantHull);
     }
-    const auto ship = yard.newShip();
     ship->Hull(Merchant);
     ship->addWeap("Gun", 1);
     EXPECT_FALSE(ship->addWeap("Cloaking Field", 1));
@@ -124,7 +118,7 @@ TEST(Systems, CloakStandsAloneOnMerchantHulls) {
     EXPECT_EQ(amountOf(*ship, "Gun"), 1);
 }
 
-TEST(Systems, WithoutACloakRecordTheFirstOneStandsForIt) {
+TEST(SystemsOfOtherCatalogues, WithoutACloakRecordTheFirstOneStandsForIt) {
     const ShipYard yard("Gun,1,1,BEAM,BEAM,F,a.gif\nShell,1,1,BEAM,BEAM,F,b.gif\n");
     const auto ship = yard.newShip();
     ship->Hull(Merchant);
@@ -133,7 +127,7 @@ TEST(Systems, WithoutACloakRecordTheFirstOneStandsForIt) {
     EXPECT_FALSE(ship->addWeap("Shell", 1));
 }
 
-TEST(Systems, AreListedToTheLast) {
+TEST(SystemsOfOtherCatalogues, AreListedToTheLast) {
     const ShipYard yard("a,1,2,3,4,F,x.gif\nb,1,2,3,4,F,y.gif\nc,5,6,7,8,A,z.gif");
     const auto ship = yard.newShip();
     WeapRec record;

@@ -12,31 +12,23 @@ namespace {
 
 constexpr const char* question = "Ship not saved!";
 
-Element theQuestion() {
-    waitForKeyboard(question);
-    return *windowOnScreen(question);
-}
-
 }  // namespace
 
 TEST(ClosingTest, UnsavedShipIsAskedAboutAndNoKeepsIt) {
     RunningProgram program;
     program.start();
     const MainWindow window;
-    click(window.get("check box", "Thrust 4"));
+    window.click("check box", "Thrust 4");
     window.waitFor({.thrust = 4});
     clickToClose(MainWindow::title);
-    EXPECT_TRUE(theQuestion().find("label", "Ship not saved, continue with exit?"));
-    click(*theQuestion().find("push button", "No"));
-    waitFor("the question to go", [] { return !windowOnScreen(question); });
-    window.waitUntilActive();
-    click(window.get("check box", "Thrust 5"));
+    Window(question).get("label", "Ship not saved, continue with exit?");
+    Window(question).click("push button", "No");
+    window.click("check box", "Thrust 5");
     window.waitFor({.thrust = 5});
     clickToClose(MainWindow::title);
-    theQuestion();
+    waitForKeyboard(question);
     press({"Escape"});  // the same as No
-    waitFor("the question to go", [] { return !windowOnScreen(question); });
     clickToClose(MainWindow::title);
-    click(*theQuestion().find("push button", "Yes"));
+    Window(question).click("push button", "Yes");
     EXPECT_EQ(program.waitForEnd(), 0);
 }

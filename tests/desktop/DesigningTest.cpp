@@ -20,17 +20,10 @@ constexpr const char* dialogTitle = "Adjust Amount";
 constexpr const char* gun = "Guard Gun (All)";
 constexpr const char* battery = "Guard Battery (All)";
 
-/// The dialog in which the player says how many pieces are to remain.
-class AmountDialog {
-public:
-    Element get(const char* role, const char* name) const {
-        return waitForElement(name, [&] {
-            const auto dialog = windowOnScreen(dialogTitle);
-            return dialog ? dialog->find(role, name) : std::nullopt;
-        });
-    }
-    std::string amount() const { return get("slider", "Amount").text(); }
-};
+/// What the slider of the dialog stands at that asks how many pieces are to remain.
+std::string askedAmount(const Window& dialog) {
+    return dialog.get("slider", "Amount").text();
+}
 
 class DesigningTest : public testing::Test {
 protected:
@@ -58,25 +51,25 @@ protected:
 
 TEST_F(DesigningTest, HullMassAndDrives) {
     EXPECT_TRUE(std::filesystem::is_directory(program.folder().path() / "images"));
-    click(window->get("radio button", "Merchant"));
+    window->click("radio button", "Merchant");
     design.type = "Merchant";
     window->waitFor(design);
-    click(window->get("check box", "Thrust 4"));
+    window->click("check box", "Thrust 4");
     design.thrust = 4;
     window->waitFor(design);
     click(window->getIn("Armor", "check box", "Lvl 1"));
     design.armor = "Level 1";
     window->waitFor(design);
-    click(window->get("radio button", "Partial Streamling"));
+    window->click("radio button", "Partial Streamling");
     design.streamlining = "Partial";
     window->waitFor(design);
-    click(window->get("push button", "Mass in steps of 50, up"));
-    click(window->get("push button", "Mass in steps of 10, up"));
-    click(window->get("push button", "Mass in steps of 10, up"));
-    click(window->get("push button", "Mass in steps of 2, down"));
+    window->click("push button", "Mass in steps of 50, up");
+    window->click("push button", "Mass in steps of 10, up");
+    window->click("push button", "Mass in steps of 10, up");
+    window->click("push button", "Mass in steps of 2, down");
     design.mass = 70;
     window->waitFor(design);
-    click(window->get("check box", "Tug FTL drive"));
+    window->click("check box", "Tug FTL drive");
     design.ftl = "Tug";
     window->waitFor(design);
 
@@ -89,7 +82,7 @@ TEST_F(DesigningTest, HullMassAndDrives) {
         });
     });
 
-    click(window->get("radio button", "Star Base"));
+    window->click("radio button", "Star Base");
     design = {.mass = 70, .thrust = 0, .type = "Starbase", .armor = "Level 1", .ftl = "None"};
     window->waitFor(design);
     waitFor("a base to have no thrust buttons",
@@ -97,10 +90,10 @@ TEST_F(DesigningTest, HullMassAndDrives) {
 }
 
 TEST_F(DesigningTest, SystemsAreFittedAndTakenAway) {
-    click(window->get("push button", "Mass in steps of 50, up"));
+    window->click("push button", "Mass in steps of 50, up");
     design.mass = 52;
     window->waitFor(design);
-    click(window->get("push button", "Defenses"));
+    window->click("push button", "Defenses");
     node("GUARD GUNS");
 
     // With the keys: BEAM, DEFENSE, GUARD GUNS and its first two.
@@ -139,7 +132,7 @@ TEST_F(DesigningTest, SystemsAreFittedAndTakenAway) {
 }
 
 TEST_F(DesigningTest, AmountDialogAndAutoMass) {
-    click(window->get("push button", "Defenses"));
+    window->click("push button", "Defenses");
     doubleClick(node("GUARD GUNS"));  // opens it
     click(node(gun));
     selectNode(gun);
@@ -149,27 +142,27 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
 
     click(row(gun));
     rightClick(row(gun));
-    waitForKeyboard(dialogTitle);
+    const Window dialog(dialogTitle);
     press({"Left", "Left"});
-    waitFor("two steps on the slider", [&] { return AmountDialog().amount() == "8"; });
+    waitFor("two steps on the slider", [&] { return askedAmount(dialog) == "8"; });
     // From the handle, at 8 of 10, to the left.
-    const Rectangle slider = restingPlace(AmountDialog().get("slider", "Amount"));
+    const Rectangle slider = restingPlace(dialog.get("slider", "Amount"));
     const int middle = slider.top + slider.height / 2;
     drag({slider.left + slider.width * 8 / 10 - 3, middle},
          {slider.left + slider.width * 3 / 10, middle}, "the slider to be dragged",
-         [] { return AmountDialog().amount() == "3"; });
-    click(AmountDialog().get("push button", "OK"));
+         [&] { return askedAmount(dialog) == "3"; });
+    dialog.click("push button", "OK");
     design.systems[gun] = 3;
     window->waitFor(design);
 
     // With the keys, and without a change.
     window->waitUntilActive();
     press({"Menu"});
-    waitForKeyboard(dialogTitle);
+    dialog.waitUntilActive();
     press({"Home"});
-    waitFor("the slider at its begin", [&] { return AmountDialog().amount() == "0"; });
+    waitFor("the slider at its begin", [&] { return askedAmount(dialog) == "0"; });
     press({"Escape"});
-    waitFor("the dialog to go", [] { return !windowOnScreen(dialogTitle); });
+    dialog.waitUntilGone();
     window->waitFor(design);
 
     window->choose("Extras", "AutoMass");
@@ -184,10 +177,10 @@ TEST_F(DesigningTest, AmountDialogAndAutoMass) {
 }
 
 TEST_F(DesigningTest, SystemsAreDraggedAboard) {
-    click(window->get("push button", "Mass in steps of 50, up"));
+    window->click("push button", "Mass in steps of 50, up");
     design.mass = 52;
     window->waitFor(design);
-    click(window->get("push button", "Defenses"));
+    window->click("push button", "Defenses");
     doubleClick(node("GUARD GUNS"));
     const Element aboard = window->get("tree", list);
     for (int amount = 1; amount <= 2; ++amount) {
@@ -198,7 +191,7 @@ TEST_F(DesigningTest, SystemsAreDraggedAboard) {
     dragOnto(node(battery), window->get("text", "Cost"));
     dragOnto(node(battery), window->get("tree", tree));
     // What a drop would have done is done before the next act.
-    click(window->get("check box", "Thrust 4"));
+    window->click("check box", "Thrust 4");
     design.thrust = 4;
     window->waitFor(design);
 }

@@ -20,7 +20,7 @@ protected:
     }
 
     void setThrust(int thrust) {
-        click(window->get("check box", "Thrust " + std::to_string(thrust)));
+        window->click("check box", "Thrust " + std::to_string(thrust));
         design.thrust = thrust;
         window->waitFor(design);
     }
@@ -42,7 +42,7 @@ protected:
 TEST_F(FilesTest, SavedAndLoadedAgain) {
     const std::string name = "ships/Kept Ship.shp";
     const std::filesystem::path file = program.folder().path() / name;
-    click(window->get("push button", "Mass in steps of 50, up"));
+    window->click("push button", "Mass in steps of 50, up");
     design.mass = 52;
     setThrust(4);
     press({"ctrl+a"});
@@ -54,14 +54,11 @@ TEST_F(FilesTest, SavedAndLoadedAgain) {
 
     press({"ctrl+n"});
     window->waitFor(Design());
-    press({"ctrl+l"});
-    chooseFile("Open", file);
-    window->waitForShip(file);
+    window->load(file);
 
     setThrust(6);
     press({"ctrl+n"});
-    waitForKeyboard(question);
-    click(*windowOnScreen(question)->find("push button", "Yes"));
+    Window(question).click("push button", "Yes");
     window->waitFor(Design());
     window->choose("File", file.stem());
     window->waitForShip(file);

@@ -130,6 +130,13 @@ void MainWindow::waitForShip(const std::filesystem::path& file) const {
     waitUntilShown(expectedOf(file));
 }
 
+void MainWindow::load(const std::filesystem::path& file) const {
+    waitUntilActive();
+    press({"ctrl+l"});
+    chooseFile("Open", file);
+    waitForShip(file);
+}
+
 std::string MainWindow::waitForStatus(const std::string& begin) const {
     std::string text;
     fleetwright::waitFor("the status \"" + begin + '"', [&] {
@@ -141,8 +148,8 @@ std::string MainWindow::waitForStatus(const std::string& begin) const {
 }
 
 void MainWindow::choose(const std::string& menu, const std::string& entry) const {
-    click(get("menu item", menu));
-    click(get("menu item", entry));
+    click("menu item", menu);
+    fleetwright::click(get("menu item", entry));
 }
 
 void MainWindow::waitUntilShown(const Shown& expected) const {

@@ -41,6 +41,8 @@ public:
     /// Waits until the window shows what the tool says about a design.
     void waitFor(const Design& design) const;
     void waitForShip(const std::filesystem::path& file) const;
+    /// Opens a ship file, and waits until it is shown.
+    void load(const std::filesystem::path& file) const;
     /// Waits until the status bar says something that begins like this; all that it says.
     std::string waitForStatus(const std::string& begin) const;
     /// Chooses an entry of a menu.

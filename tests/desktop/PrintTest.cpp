@@ -39,19 +39,17 @@ TEST(PrintTest, ReportReachesThePaper) {
     const std::string ship = folder / "ships" / "Provost.shp";
     program.start();
     const MainWindow window;
-    press({"ctrl+l"});
-    chooseFile("Open", ship);
-    window.waitForShip(ship);
+    window.load(ship);
     window.waitUntilActive();
     press({"ctrl+p"});
     const Window dialog("Print");
     const std::string pdf = folder / "report.pdf";
-    click(dialog.get("text", "Output file:"));
+    dialog.click("text", "Output file:");
     press({"ctrl+a"});
     type(pdf);
     waitFor("the name of the file to be typed",
             [&] { return dialog.get("text", "Output file:").text() == pdf; });
-    click(dialog.get("push button", "Print"));
+    dialog.click("push button", "Print");
     dialog.waitUntilGone();
     waitFor("the file to be whole",
             [&] { return program.folder().read("report.pdf").ends_with("%%EOF\n"); });

@@ -44,8 +44,8 @@ TEST(RecoveryTest, DesignOutlivesTheProgram) {
     program.start();
     {
         const MainWindow window;
-        click(window.get("push button", "Mass in steps of 50, up"));
-        click(window.get("check box", "Thrust 4"));
+        window.click("push button", "Mass in steps of 50, up");
+        window.click("check box", "Thrust 4");
         window.waitFor({.mass = 52, .thrust = 4});
     }
     const fs::path folder = program.dataHome() / "FleetWright" / "recovered";

@@ -57,10 +57,6 @@ std::string Element::name() const {
     return taken(atspi_accessible_get_name(m_accessible.get(), nullptr));
 }
 
-std::string Element::description() const {
-    return taken(atspi_accessible_get_description(m_accessible.get(), nullptr));
-}
-
 std::string Element::text() const {
     if (const auto text = takenObject(atspi_accessible_get_text_iface(m_accessible.get()))) {
         return taken(atspi_text_get_text(text.get(), 0, -1, nullptr));

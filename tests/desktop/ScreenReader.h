@@ -31,7 +31,6 @@ public:
 
     std::string role() const;
     std::string name() const;
-    std::string description() const;
     /// What it holds: the text of a text box, the number of a slider.
     std::string text() const;
     bool is(AtspiStateType state) const;

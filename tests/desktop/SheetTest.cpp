@@ -22,10 +22,10 @@ void drawOn(const std::string& map, const MainWindow& window, const TemporaryFol
     mapper.tabTo("combo box", "Map");
     press({"ctrl+a"});
     type(map);
-    click(mapper.get("push button", "Draw It!"));
+    mapper.click("push button", "Draw It!");
     waitFor("the sheet to be drawn",
             [&] { return !mapper.get("push button", "Draw It!").is(ATSPI_STATE_ENABLED); });
-    click(mapper.get("push button", "Save It!"));
+    mapper.click("push button", "Save It!");
     chooseFile("Save As", folder.path() / "ssds" / "sheet");
     mapper.waitUntilGone();
     const std::string expected = folder.path() / "expected.bmp";
@@ -59,23 +59,18 @@ TEST(SheetTest, DrawnSavedAndViewed) {
     const std::string ship = folder.path() / "ships" / "Provost.shp";
     program.start();
     const MainWindow window;
-    press({"ctrl+l"});
-    chooseFile("Open", ship);
-    window.waitForShip(ship);
-    window.waitUntilActive();
+    window.load(ship);
 
     const std::string maps = runTool(folder.path(), {"--app", folder.path(), "maps", ship}).output;
     const std::string map = maps.substr(0, maps.find('\n'));
     ASSERT_FALSE(map.empty());
     drawOn(map, window, folder, ship);
 
-    window.waitUntilActive();
     window.choose("Extras", "View SSD");
     const Window viewer("View SSD");
     const int emptyWidth = viewer.get("frame", "Sheet").place().width;
-    click(viewer.get("push button", "Select File"));
+    viewer.click("push button", "Select File");
     chooseFile("Open", folder.path() / "ssds" / "sheet.bmp");
-    viewer.waitUntilActive();
     waitFor("the sheet to be shown", [&] {
         const Rectangle place = viewer.get("frame", "Sheet").place();
         return place.width > emptyWidth;
@@ -90,16 +85,12 @@ TEST(SheetTest, NewMapIsDrawnOnWithoutANewStart) {
     const std::string ship = folder.path() / "ships" / "Provost.shp";
     program.start();
     const MainWindow window;
-    press({"ctrl+l"});
-    chooseFile("Open", ship);
-    window.waitForShip(ship);
-    window.waitUntilActive();
+    window.load(ship);
     window.choose("Extras", "Create SSD Map");
     const Window creator("SSD Map Creator");
     const auto select = [&](const std::string& file) {
-        click(creator.get("push button", "Select File"));
+        creator.click("push button", "Select File");
         chooseFile("Open", file);
-        creator.waitUntilActive();
     };
     const auto isReady = [&] {
         return creator.get("push button", "Select File").is(ATSPI_STATE_ENABLED);
@@ -109,22 +100,21 @@ TEST(SheetTest, NewMapIsDrawnOnWithoutANewStart) {
     };
 
     select(many);
-    click(creator.get("push button", "Do It"));
+    creator.click("push button", "Do It");
     waitFor("the scan to be under way", [&] { return !isReady(); });
-    click(creator.get("check box", "Cancel"));
+    creator.click("check box", "Cancel");
     waitForMap("Operation Cancelled");
 
     select(outline);
-    click(creator.get("push button", "Do It"));
+    creator.click("push button", "Do It");
     const ToolRun scanned = runTool(folder.path(), {"scan", outline});
     ASSERT_EQ(scanned.status, 0) << scanned.errors;
     waitForMap(withoutReturns(scanned.output));
-    click(creator.get("push button", "Save It"));
+    creator.click("push button", "Save It");
     chooseFile("Save As", folder.path() / "maps" / "0 New");
     waitFor("the map to be saved", [&] { return !folder.read("maps/0 New.map").empty(); });
 
     clickToClose("SSD Map Creator");
     creator.waitUntilGone();
-    window.waitUntilActive();
     drawOn("0 New", window, folder, ship);
 }

@@ -93,7 +93,7 @@ protected:
                 [this] { return onScreen().find(main) != std::string::npos; });
         window->waitUntilActive();
         EXPECT_TRUE(isInTaskList());
-        click(window->get("check box", "Thrust " + std::to_string(thrust)));
+        window->click("check box", "Thrust " + std::to_string(thrust));
         window->waitFor(Design{.thrust = thrust});
     }
 

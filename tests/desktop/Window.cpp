@@ -16,6 +16,11 @@ Element Window::get(const std::string& role, const std::string& name) const {
     return waitForElement(role + " \"" + name + '"', [&] { return window().find(role, name); });
 }
 
+void Window::click(const std::string& role, const std::string& name) const {
+    waitUntilActive();
+    fleetwright::click(get(role, name));
+}
+
 void Window::waitUntilActive() const {
     waitForKeyboard(m_title);
 }

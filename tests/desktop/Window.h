@@ -14,6 +14,9 @@ public:
 
     /// Something in the window; waits for it.
     Element get(const std::string& role, const std::string& name) const;
+    /// Clicks on something in the window once the keyboard is the window's: as long as a dialog is
+    /// about to go, clicks on the window behind it are lost.
+    void click(const std::string& role, const std::string& name) const;
     /// Waits for the keyboard to be the window's again.
     void waitUntilActive() const;
     void waitUntilGone() const;

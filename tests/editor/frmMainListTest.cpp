@@ -1,13 +1,10 @@
-#include "testWindow.h"
-
-#include <gtest/gtest.h>
+#include "ShownWindow.h"
 
 using namespace fleetwright;
 
-TEST(FrmMainList, GrowsThroughTheTree) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+using SystemList = ShownWindow;
+
+TEST_F(SystemList, GrowsThroughTheTree) {
     window.tvWeapons.doubleClick();
     test.selectNode("GUNS");
     window.tvWeapons.doubleClick();
@@ -28,10 +25,7 @@ TEST(FrmMainList, GrowsThroughTheTree) {
     EXPECT_EQ(window.mnuAddWeap[0].caption() + window.mnuAddWeapEx[0].caption(), "X1X20");
 }
 
-TEST(FrmMainList, ShrinksByDoubleClick) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(SystemList, ShrinksByDoubleClick) {
     test.selectNode("Gun");
     window.mnuAddWeap[1].choose();
     test.selectNode("Ballast");
@@ -50,10 +44,7 @@ TEST(FrmMainList, ShrinksByDoubleClick) {
     EXPECT_EQ(test.previews(), "1 0 |  ");
 }
 
-TEST(FrmMainList, AmountDialogTakesAnyNumberAway) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(SystemList, AmountDialogTakesAnyNumberAway) {
     window.moveTo(1000, 2000);
     test.selectNode("Gun");
     window.mnuAddWeapEx[0].choose();
@@ -97,10 +88,7 @@ TEST(FrmMainList, AmountDialogTakesAnyNumberAway) {
     EXPECT_EQ(window.frmSld->sliCount.tickFrequency(), 1);
 }
 
-TEST(FrmMainList, RefusalsLeaveListAndShipInStep) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(SystemList, RefusalsLeaveListAndShipInStep) {
     window.optMerchant.choose();
     test.selectNode("Cloaking Field");
     window.tvWeapons.doubleClick();
@@ -138,10 +126,7 @@ TEST(FrmMainList, RefusalsLeaveListAndShipInStep) {
     EXPECT_EQ(test.list(), before + ", Gun 300");
 }
 
-TEST(FrmMainList, LoadedShipsFillItInTheOrderOfTheCatalogue) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(SystemList, LoadedShipsFillItInTheOrderOfTheCatalogue) {
     test.selectNode("Ballast");
     window.tvWeapons.doubleClick();
     EXPECT_TRUE(window.loadFile(test.folder().write(

@@ -1,8 +1,8 @@
-#include "testWindow.h"
-
-#include <gtest/gtest.h>
+#include "ShownWindow.h"
 
 using namespace fleetwright;
+
+using MainWindow = ShownWindow;
 
 TEST(FrmMain, LoadsInOrderAndShowsASavedShip) {
     TestWindow test("CATEGORY,0,0,BEAM,Guns,O,guns.gif\n# comment\n\nGun,1,1,x,guns,F,gun,1.gif\n");
@@ -44,10 +44,7 @@ TEST(FrmMain, WithoutACatalogueSaysSoAndEnds) {
     EXPECT_FALSE(test.window().g_bLoaded);
 }
 
-TEST(FrmMain, StatusOutlivesOneTickAndNotTwo) {
-    TestWindow test;
-    test.window().show();
-    frmMain& window = test.window();
+TEST_F(MainWindow, StatusOutlivesOneTickAndNotTwo) {
     window.sbStatus.setText("message");
     window.tmrRefreshScreen.tick();
     EXPECT_EQ(window.sbStatus.text(), "message");
@@ -59,10 +56,7 @@ TEST(FrmMain, StatusOutlivesOneTickAndNotTwo) {
     EXPECT_EQ(window.sbStatus.text(), "other");
 }
 
-TEST(FrmMain, ATickBehindABoxInALoadIsAnActOfItsOwn) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(MainWindow, ATickBehindABoxInALoadIsAnActOfItsOwn) {
     test.inTurn = [&] {
         window.tmrRefreshScreen.tick();
         EXPECT_EQ(window.sbStatus.text(), "Number too large");
@@ -75,22 +69,17 @@ TEST(FrmMain, ATickBehindABoxInALoadIsAnActOfItsOwn) {
     EXPECT_EQ(window.sbStatus.text() + window.txtMass.text(), "2");
 }
 
-TEST(FrmMain, TickShowsWhatWasWrittenWithoutARecalculation) {
-    TestWindow test;
-    test.window().show();
+TEST_F(MainWindow, TickShowsWhatWasWrittenWithoutARecalculation) {
     test.ship().g_sShipName = "Renamed";
-    test.window().tmrRefreshScreen.tick();
-    EXPECT_EQ(test.window().txtShipName.text(), "Renamed");
-    test.window().txtCost.type("9999");
-    test.window().tmrRefreshScreen.tick();
-    EXPECT_EQ(test.window().txtCost.text(), "7");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.txtShipName.text(), "Renamed");
+    window.txtCost.type("9999");
+    window.tmrRefreshScreen.tick();
+    EXPECT_EQ(window.txtCost.text(), "7");
     EXPECT_TRUE(test.ship().g_bSaved);
 }
 
-TEST(FrmMain, PreviewsEndSilentlyWhereNothingIsSelected) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(MainWindow, PreviewsEndSilentlyWhereNothingIsSelected) {
     window.optThrust[4].choose();
     EXPECT_EQ(test.previews(), "  |  ");
     test.selectNode("Screen");
@@ -118,10 +107,7 @@ TEST(FrmMain, PreviewsEndSilentlyWhereNothingIsSelected) {
     EXPECT_EQ(test.previews(), "0 0 | 12 312");
 }
 
-TEST(FrmMain, PointingAtAFigureOrASystemExplainsIt) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(MainWindow, PointingAtAFigureOrASystemExplainsIt) {
     EXPECT_EQ(window.txtCost.toolTip(), "       4  Warship hull of mass 2\n"
                                         "       2  FTL drive: Normal\n"
                                         "       1  Thrust 2\n"
@@ -146,10 +132,7 @@ TEST(FrmMain, PointingAtAFigureOrASystemExplainsIt) {
     EXPECT_EQ(test.takeLog(), "");
 }
 
-TEST(FrmMain, CategoryButtonsOpenOneAndCloseTheRest) {
-    TestWindow test;
-    frmMain& window = test.window();
-    window.show();
+TEST_F(MainWindow, CategoryButtonsOpenOneAndCloseTheRest) {
     const auto open = [&] {
         std::string text;
         for (const TreeView::Node& node : window.tvWeapons.nodes()) {

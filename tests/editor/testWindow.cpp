@@ -90,24 +90,6 @@ private:
     TestWindow& m_test;
 };
 
-class TestWindow::Settings : public SettingsStore {
-public:
-    explicit Settings(TestWindow& test) : m_test(test) {}
-
-    std::string read(const std::string& section, const std::string& key,
-                     const std::string& otherwise) const override {
-        const auto found = m_test.settings.find(section + '/' + key);
-        return found == m_test.settings.end() ? otherwise : found->second;
-    }
-    void write(const std::string& section, const std::string& key,
-               const std::string& value) override {
-        m_test.settings[section + '/' + key] = value;
-    }
-
-private:
-    TestWindow& m_test;
-};
-
 class TestWindow::Paper : public Printer {
 public:
     explicit Paper(TestWindow& test) : m_test(test) {}
@@ -140,11 +122,10 @@ private:
 
 TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
-      m_progress(std::make_unique<Progress>(*this)), m_settings(std::make_unique<Settings>(*this)),
-      m_paper(std::make_unique<Paper>(*this)),
+      m_progress(std::make_unique<Progress>(*this)), m_paper(std::make_unique<Paper>(*this)),
       m_extras({.desktop = *m_desk,
                 .globals = globals,
-                .settings = *m_settings,
+                .settings = m_settings,
                 .nameShip = [this](const std::string& designer,
                                    const std::string& ship) { window().nameShip(designer, ship); },
                 .clearRecentFiles =
@@ -171,7 +152,7 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .pictures = *m_pictures,
                            .progress = *m_progress,
                            .globals = globals,
-                           .settings = *m_settings,
+                           .settings = m_settings,
                            .printer = *m_paper,
                            .extras = [this]() -> frmExtras& { return m_extras; },
                            .showAbout = [this] { openOther("about"); },

@@ -5,13 +5,12 @@
 #include "PictureFiles.h"
 #include "Printer.h"
 #include "RecoveryFolder.h"
-#include "SettingsStore.h"
 #include "StartUpProgress.h"
+#include "fakeServices.h"
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "testShip.h"
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -64,14 +63,12 @@ public:
     std::optional<int> copies;
     bool printerFails = false;
     std::string catalogueFaults;
-    std::map<std::string, std::string> settings;  ///< "section/key"
 
 private:
     class Desk;
     class Paper;
     class Pictures;
     class Progress;
-    class Settings;
 
     void takeTurn();
     void openOther(const std::string& name);
@@ -81,7 +78,7 @@ private:
     std::unique_ptr<Desk> m_desk;
     std::unique_ptr<Pictures> m_pictures;
     std::unique_ptr<Progress> m_progress;
-    std::unique_ptr<Settings> m_settings;
+    MemorySettings m_settings;
     std::unique_ptr<Paper> m_paper;
     frmExtras m_extras;
     int m_time = 0;

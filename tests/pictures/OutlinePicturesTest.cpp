@@ -9,6 +9,7 @@
 #include "TemporaryFolder.h"
 #include "TextFile.h"
 #include "checkMapPlaces.h"
+#include "faults.h"
 #include "renderedSets.h"
 
 #include <gtest/gtest.h>
@@ -29,28 +30,6 @@ struct Delivered {
     MapPlaces map;
 };
 
-/// The places of a map as the scan writes it.
-MapPlaces placesOf(const std::string& text) {
-    MapPlaces map;
-    LineReader lines(text);
-    std::string_view line;
-    while (lines.next(line)) {
-        const std::string copy(line);
-        char key[9] = {}, arc[2] = {};
-        MapPlace place;
-        if (std::sscanf(copy.c_str(), "%8[A-Z]: (%d,%d,%1[A-Z])", key, &place.x, &place.y, arc) >
-            2) {
-            place.key = key;
-            place.arc = arc;
-            place.line = lines.lineNumber();
-            map.places.push_back(place);
-        } else if (std::sscanf(copy.c_str(), "SIZE: %d", &map.size) == 1) {
-            map.sizeLine = lines.lineNumber();
-        }
-    }
-    return map;
-}
-
 std::set<std::string> namesIn(const fs::path& folder) {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder)) {
@@ -70,7 +49,7 @@ const std::vector<Delivered>& delivered() {
                 .picture = QtPictureFiles().load(app / "shipimages" / (name + ".gif")),
                 .mapText = readTextFile(app / "maps" / (name + ".map")),
                 .map = {}};
-            outline.map = placesOf(outline.mapText);
+            outline.map = readMapPlaces(outline.mapText);
             outlines.push_back(std::move(outline));
         }
         return outlines;
@@ -110,9 +89,7 @@ TEST(OutlinePictures, EachHasTheMapThatItsScanMakes) {
 TEST(OutlinePictures, BoxesStandApartAndCoverTheirMarks) {
     for (const Delivered& outline : delivered()) {
         SCOPED_TRACE(outline.name);
-        for (const Fault& fault : checkMapPlaces(outline.map, outline.picture)) {
-            ADD_FAILURE() << fault.line << ": " << fault.text;
-        }
+        EXPECT_EQ(textOf(checkMapPlaces(outline.map, outline.picture)), "");
     }
 }
 
@@ -186,23 +163,19 @@ TEST(OutlinePictures, AFaultyMarkIsNamedWithItsLine) {
     const auto faultOf = [&](const std::string& rest) {
         const std::string file =
             folder.write("a.svg", "<svg viewBox=\"0 0 100 80\">\n<rect " + rest + "/>\n</svg>\n");
-        try {
-            readOutlineLayout(file);
-        } catch (const FileError& error) {
-            return std::string(error.what());
-        }
-        return std::string();
+        const std::string fault = fileFaultOf([&] { readOutlineLayout(file); });
+        return fault.substr(std::min(fault.size(), file.size()));
     };
     EXPECT_EQ(faultOf(R"(data-mark="F" x="68" y="48" width="32" height="32")"), "");
     EXPECT_EQ(faultOf(R"(data-mark="F" x="69" y="48" width="32" height="32")"),
-              "line 2: a mark leaves the picture");
+              ": line 2: a mark leaves the picture");
     EXPECT_EQ(faultOf(R"(data-mark="F" x="6.5" y="48" width="32" height="32")"),
-              "line 2: \"6.5\" is no whole number of pixels");
+              ": line 2: \"6.5\" is no whole number of pixels");
     EXPECT_EQ(faultOf(R"(data-mark="FTL" x="6" y="48" width="33" height="32")"),
-              "line 2: nothing is pasted in the size of this mark");
+              ": line 2: nothing is pasted in the size of this mark");
     EXPECT_EQ(faultOf(R"(data-mark="DAMROW" x="6" y="1" width="80" height="43")"), "");
     EXPECT_EQ(faultOf(R"(data-mark="WEAP" x="6" y="48" width="32" height="32")"),
-              "line 2: unknown mark \"WEAP\"");
+              ": line 2: unknown mark \"WEAP\"");
 }
 
 }  // namespace

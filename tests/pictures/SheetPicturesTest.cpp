@@ -103,16 +103,6 @@ TEST(SheetPictures, TracksHaveAsManyRowsAsTheShipsDamageRows) {
     EXPECT_EQ(trackRows(TrackSize::Escort, 19), 4);
 }
 
-TEST(SheetPictures, MapSizesChooseTheTrack) {
-    EXPECT_EQ(damageTrackPicture(trackSize(18), "12"), "escort12.gif");
-    EXPECT_EQ(damageTrackPicture(trackSize(19), "12"), "cruz12.gif");
-    EXPECT_EQ(damageTrackPicture(trackSize(36), "12"), "cruz12.gif");
-    EXPECT_EQ(damageTrackPicture(trackSize(37), "12"), "cap12.gif");
-    EXPECT_EQ(drivePicture(NormalDrive), "ftl.gif");
-    EXPECT_EQ(drivePicture(TugDrive), "ftltug.gif");
-    EXPECT_EQ(drivePicture(2), "blank.gif");
-}
-
 TEST(SheetPictures, WhatCoversAPlaceIsWhiteAndAsLargeAsWhatItCovers) {
     const std::string fireControl(fireControlPicture);
     const QImage cover = sheetPicture(std::string(unusedFireControlPicture));

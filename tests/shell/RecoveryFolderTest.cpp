@@ -77,6 +77,12 @@ TEST_F(Recovery, TakesAnyNameAndKeepsTheLastTen) {
     EXPECT_EQ(designs.size(), RecoveryFolder::mostKept);
     EXPECT_TRUE(designs.front().name.ends_with(" t14"));
     EXPECT_TRUE(designs.back().name.ends_with(" t5"));
+
+    std::string longest;  // in bytes: file systems count those
+    for (int i = 0; i < 60; ++i) {
+        longest += "\U0001F680";
+    }
+    open("1234567-4294967295").put(longest, "x");
 }
 
 TEST_F(Recovery, NeverWritesOverADesignThatIsKept) {

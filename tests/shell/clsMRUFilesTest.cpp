@@ -1,35 +1,14 @@
 #include "clsMRUFiles.h"
 
-#include "Error.h"
-#include "SettingsStore.h"
+#include "fakeServices.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <memory>
 
 using namespace fleetwright;
 
 namespace {
-
-class Store : public SettingsStore {
-public:
-    std::string read(const std::string& section, const std::string& key,
-                     const std::string& otherwise) const override {
-        const auto found = values.find(section + '/' + key);
-        return found == values.end() ? otherwise : found->second;
-    }
-    void write(const std::string& section, const std::string& key,
-               const std::string& value) override {
-        if (isReadOnly) {
-            throw FileError("settings", "cannot be written");
-        }
-        values[section + '/' + key] = value;
-    }
-
-    std::map<std::string, std::string> values;
-    bool isReadOnly = false;
-};
 
 std::string all(const clsMRUFiles& list) {
     std::string text;
@@ -40,7 +19,7 @@ std::string all(const clsMRUFiles& list) {
 }
 
 TEST(ClsMRUFiles, KeepsTheLastFiveAndMovesAKnownOneToTheTop) {
-    Store store;
+    MemorySettings store;
     store.values = {{"Files/File1", "a"}, {"Files/File2", "b"}};
     auto list = std::make_unique<clsMRUFiles>(store);
     EXPECT_EQ(all(*list), ".......");
@@ -65,7 +44,7 @@ TEST(ClsMRUFiles, KeepsTheLastFiveAndMovesAKnownOneToTheTop) {
 }
 
 TEST(ClsMRUFiles, IsClearedInTheStoreToo) {
-    Store store;
+    MemorySettings store;
     {
         clsMRUFiles nameless(store);
         nameless.addFile("x");

@@ -1,10 +1,9 @@
 #include "frmAbout.h"
 
-#include "NoDesktop.h"
 #include "Programs.h"
 #include "Registry.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
+#include "fakeServices.h"
 
 #include <gtest/gtest.h>
 
@@ -16,16 +15,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Machine : public NoDesktop, public Programs, public Registry {
+class Machine : public Programs, public Registry {
 public:
     std::string log;
     std::map<std::string, Value> values;
     std::string startable;
-
-    Answer showMessage(const std::string& text, const std::string& title, Buttons, Icon) override {
-        log += "box " + text + '/' + title + "; ";
-        return Answer::Ok;
-    }
 
     bool run(const fs::path&, const std::string&, const fs::path&, int,
              const std::function<void()>&) override {
@@ -45,19 +39,21 @@ public:
     }
 };
 
-const std::string unavailable = "box System Information Is Unavailable At This Time/; ";
+const std::string unavailable = "System Information Is Unavailable At This Time/; ";
 
 TEST(FrmAbout, SaysWhatItIsAndLooksForTheToolInTwoPlaces) {
     Machine machine;
-    frmAbout about({.desktop = machine, .programs = machine, .registry = machine});
+    ChoosingDesktop desktop;
+    frmAbout about({.desktop = desktop, .programs = machine, .registry = machine});
     about.show();
     EXPECT_EQ(about.caption(), "About Iron Vector Ship Creator");
     EXPECT_EQ(about.lblTitle.caption() + ' ' + about.lblVersion.caption(),
               "FleetWright Version 2.0.5");
     const auto logAfterPress = [&] {
         machine.log.clear();
+        desktop.log.clear();
         about.cmdSysInfo.press();
-        return machine.log;
+        return machine.log + desktop.log;
     };
     EXPECT_EQ(logAfterPress(), unavailable);
     EXPECT_TRUE(about.isVisible());

@@ -1,37 +1,13 @@
 #include "frmExtras.h"
 
-#include "Error.h"
 #include "Globals.h"
-#include "NoDesktop.h"
-#include "SettingsStore.h"
+#include "fakeServices.h"
 
 #include <gtest/gtest.h>
 
 using namespace fleetwright;
 
 namespace {
-
-class Log : public SettingsStore, public NoDesktop {
-public:
-    Answer showMessage(const std::string& message, const std::string&, Buttons, Icon) override {
-        text += "box " + message;
-        return Answer::Ok;
-    }
-    std::string read(const std::string&, const std::string&,
-                     const std::string& otherwise) const override {
-        return otherwise;
-    }
-    void write(const std::string& section, const std::string& key,
-               const std::string& value) override {
-        if (isReadOnly) {
-            throw FileError("settings", "cannot be written");
-        }
-        text += section + '/' + key + '=' + value + ' ';
-    }
-
-    std::string text;
-    bool isReadOnly = false;
-};
 
 class Extras : public testing::Test {
 protected:
@@ -41,15 +17,16 @@ protected:
         page.show();
     }
 
-    Log log;
+    ChoosingDesktop desktop;
+    MemorySettings settings;
+    std::string log;
     Globals globals;
-    frmExtras page{
-        {.desktop = log,
-         .globals = globals,
-         .settings = log,
-         .nameShip = [this](const std::string& designer,
-                            const std::string& ship) { log.text += designer + '+' + ship; },
-         .clearRecentFiles = [this] { log.text += "clear "; }}};
+    frmExtras page{{.desktop = desktop,
+                    .globals = globals,
+                    .settings = settings,
+                    .nameShip = [this](const std::string& designer,
+                                       const std::string& ship) { log += designer + '+' + ship; },
+                    .clearRecentFiles = [this] { log += "clear "; }}};
 };
 
 TEST_F(Extras, OkNamesTheShipAndTakesOneSwitch) {
@@ -61,7 +38,7 @@ TEST_F(Extras, OkNamesTheShipAndTakesOneSwitch) {
     page.chkMinimized.press();
     page.chkConfirmExit.press();
     page.cmdOK.press();
-    EXPECT_EQ(log.text, "Me+Bee");
+    EXPECT_EQ(log, "Me+Bee");
     EXPECT_FALSE(globals.g_bHide);
     EXPECT_TRUE(globals.g_bConfirmExit && !globals.g_bSounds) << "only Save Settings takes these";
     EXPECT_FALSE(page.isLoaded());
@@ -71,22 +48,25 @@ TEST_F(Extras, SaveSettingsStoresAndStaysOpenAndCancelKeepsWhatItDid) {
     page.txtDesigner.type("Me");
     page.chkConfirmExit.press();
     page.cmdSaveSettings.press();
-    EXPECT_EQ(log.text, "Settings/Sounds=False Settings/Hide=True Settings/ConfirmExit=False "
-                        "Names/Designer=Me ");
+    EXPECT_EQ(settings.values,
+              (std::map<std::string, std::string>{{"Settings/Sounds", "False"},
+                                                  {"Settings/Hide", "True"},
+                                                  {"Settings/ConfirmExit", "False"},
+                                                  {"Names/Designer", "Me"}}));
     EXPECT_FALSE(globals.g_bConfirmExit);
     EXPECT_EQ(globals.g_sDefaultDesigner, "Default") << "the new one is for the next start";
     page.cmdClearMRU.press();
     EXPECT_TRUE(page.isLoaded());
     page.cmdCancel.press();
     EXPECT_FALSE(page.isLoaded());
-    EXPECT_TRUE(log.text.ends_with("clear "));
+    EXPECT_EQ(log, "clear ");
 }
 
 TEST_F(Extras, SettingsThatCannotBeWrittenAreNamedAndStay) {
-    log.isReadOnly = true;
+    settings.isReadOnly = true;
     page.chkSounds.press();
     page.cmdSaveSettings.press();
-    EXPECT_EQ(log.text, "box settings: cannot be written");
+    EXPECT_EQ(desktop.log, "settings: cannot be written/ critical; ");
     EXPECT_FALSE(globals.g_bSounds);
     EXPECT_TRUE(page.isLoaded());
 }

@@ -1,19 +1,14 @@
 #include "frmSplash.h"
 
 #include "Clock.h"
-#include "Error.h"
 #include "Globals.h"
-#include "NoDesktop.h"
-#include "PictureFiles.h"
 #include "Programs.h"
-#include "SettingsStore.h"
 #include "SheetPictures.h"
 #include "Sounds.h"
 #include "TemporaryFolder.h"
+#include "fakeServices.h"
 
 #include <gtest/gtest.h>
-
-#include <map>
 
 using namespace fleetwright;
 
@@ -23,14 +18,12 @@ namespace fs = std::filesystem;
 
 /// A machine that writes down what the start asks of it.
 class Machine : public NoDesktop,
-                public SettingsStore,
                 public Clock,
                 public Sounds,
                 public PictureFiles,
                 public Programs {
 public:
     std::string log;
-    std::map<std::string, std::string> settings;
     std::int32_t ticks = 0;
     ScreenSize screen = {800, 600};
     bool hasSound = true;
@@ -43,15 +36,6 @@ public:
         return Answer::Ok;
     }
     ScreenSize screenSize() override { return screen; }
-
-    std::string read(const std::string& section, const std::string& key,
-                     const std::string& otherwise) const override {
-        const auto found = settings.find(section + '/' + key);
-        return found == settings.end() ? otherwise : found->second;
-    }
-    void write(const std::string&, const std::string&, const std::string&) override {
-        log += "write; ";
-    }
 
     std::int32_t tickCount() override { return ticks; }
     void sleep(int milliseconds) override { log += "sleep " + std::to_string(milliseconds) + "; "; }
@@ -127,12 +111,13 @@ protected:
 
     TemporaryFolder folder;
     Machine machine;
+    MemorySettings settings;
     Globals globals;
     std::string faults;
     PlainForm mainWindow{machine.log};
     frmSplash splash{{.appFolder = folder.path(),
                       .desktop = machine,
-                      .settings = machine,
+                      .settings = settings,
                       .clock = machine,
                       .sounds = machine,
                       .pictures = machine,
@@ -185,7 +170,7 @@ TEST_F(Start, PicksItsPictureByTheClock) {
 }
 
 TEST_F(Start, TakesOnlyTheWordTrueForOn) {
-    machine.settings = {
+    settings.values = {
         {"Settings/Hide", "true"}, {"Settings/Sounds", ""}, {"Names/Designer", "Somebody"}};
     run();
     EXPECT_TRUE(globals.g_bConfirmExit) << "nothing is stored";

@@ -3,7 +3,6 @@
 //
 //     soak-designs [ROUNDS]     100000 if it is not said
 
-#include "NoDesktop.h"
 #include "PictureCache.h"
 #include "ProgramImages.h"
 #include "SSDMaps.h"
@@ -43,24 +42,11 @@ void check(bool isAsMeant, const std::string& what) {
     }
 }
 
-class Saving : public NoDesktop {
-public:
-    explicit Saving(std::string file) : m_file(std::move(file)) {}
-
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return m_file; }
-    Answer showMessage(const std::string& text, const std::string&, Buttons, Icon) override {
-        throw std::runtime_error(text);
-    }
-
-private:
-    std::string m_file;
-};
-
 /// The window in which sheets are made, beside the main window.
 class SheetWindow {
 public:
     SheetWindow(const TestWindow& test, const frmMain& main)
-        : m_app(test.folder().path()), m_file(m_app / "sheet.bmp"), m_desktop(m_file),
+        : m_app(test.folder().path()), m_file(m_app / "sheet.bmp"),
           m_images(m_app, m_pictures, main.ilWeapons), m_maps(loadMaps(m_app)),
           m_window({.appFolder = m_app,
                     .desktop = m_desktop,
@@ -69,7 +55,9 @@ public:
                     .images = m_images,
                     .g_colSSDMaps = m_maps,
                     .lvCurrentWeapons = main.lvCurrentWeapons,
-                    .ship = [&main] { return sheetShip(main); }}) {}
+                    .ship = [&main] { return sheetShip(main); }}) {
+        m_desktop.choice = m_file;
+    }
 
     /// Whether the ship at hand has room on a map; then its sheet is in the file.
     bool draw() {
@@ -80,7 +68,8 @@ public:
             m_window.cboMapSelection.choose(0);
             m_window.cmdDrawIt.press();
             m_window.cmdSave.press();
-            check(fs::exists(m_file) && !m_window.isLoaded(), "a sheet was not saved");
+            check(fs::exists(m_file) && !m_window.isLoaded(),
+                  "a sheet was not saved: " + m_desktop.log);
         }
         m_window.unload();
         return hasMap;
@@ -89,7 +78,7 @@ public:
 private:
     fs::path m_app;
     fs::path m_file;
-    Saving m_desktop;
+    ChoosingDesktop m_desktop;
     ToolPictures m_decoder{APP_FOLDER};
     PictureCache m_pictures{m_decoder};
     ProgramImages m_images;

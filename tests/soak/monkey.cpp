@@ -8,15 +8,16 @@
 #include "CheckBox.h"
 #include "ComboBox.h"
 #include "Dice.h"
+#include "Error.h"
 #include "ProgramImages.h"
 #include "Slider.h"
+#include "fakeServices.h"
 #include "frmMapper.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
-#include "monkeyFiles.h"
+#include "monkeyWorld.h"
 #include "screenFaults.h"
 #include "sheetShip.h"
-#include "windowWorld.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -29,21 +30,6 @@ using namespace fleetwright;
 namespace {
 
 namespace fs = std::filesystem;
-
-/// All controls inside one that a user can act on, those of menus only if they can be opened.
-std::vector<Control*> leaves(const Container& container) {
-    std::vector<Control*> found;
-    for (Control* const control : container.controls()) {
-        auto* const inner = dynamic_cast<Container*>(control);
-        if (inner == nullptr || inner->controls().empty()) {
-            found.push_back(control);
-        } else if (inner->isVisible()) {
-            const std::vector<Control*> below = leaves(*inner);
-            found.insert(found.end(), below.begin(), below.end());
-        }
-    }
-    return found;
-}
 
 /// One run of the program, from its start to its end.
 class Run {

@@ -1,5 +1,6 @@
 #include "SSDMapCheck.h"
 
+#include "faults.h"
 #include "sheetWorld.h"
 
 #include <gtest/gtest.h>
@@ -15,11 +16,7 @@ const std::string sound = "# hull\r\nIMAGE: ship.gif\r\nSIZE: 18\r\nDAMROW: (1,2
 std::string faultsOf(const std::string& text) {
     const MapFolder folder;
     folder.writeFile("shipimages/Ship.gif", "");
-    std::string faults;
-    for (const Fault& fault : checkMapFile(text, folder.path())) {
-        faults += std::to_string(fault.line) + ": " + fault.text + '\n';
-    }
-    return faults;
+    return textOf(checkMapFile(text, folder.path()));
 }
 
 }  // namespace

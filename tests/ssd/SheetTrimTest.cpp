@@ -5,7 +5,6 @@
 
 #include "Catalogue.h"
 #include "SSDMap.h"
-#include "SheetFont.h"
 #include "SheetImages.h"
 #include "drawSSD.h"
 #include "sheetWorld.h"
@@ -82,26 +81,5 @@ TEST(SheetTrim, CutsNoLine) {
         const Raster sheet = sheetOf(*ship, name);
         EXPECT_EQ(inkCount(sheet), inkOf(listHead + name)) << name;
         EXPECT_GT(inkOf(name), 0) << name;
-    }
-}
-
-TEST(SheetTrim, WouldCutALineWithoutInkInItsColumn) {
-    const ShipYard yard;
-    const auto ship = yard.newShip();
-    const Raster sheet = sheetOf(*ship, "!!");
-    EXPECT_LT(inkCount(sheet), inkOf(listHead + "!!"));
-    // The lower ink of the rule, which is the sixth line below the outline, is in its row 11.
-    EXPECT_EQ(sheet.height(), 20 + 5 * 16 + 11 + 15);
-}
-
-TEST(SheetTrim, FindsEveryCapitalAndDigit) {
-    for (const char character : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789")) {
-        const Glyph glyph = glyphOf(static_cast<unsigned char>(character));
-        bool hasInk = false;
-        for (int y = 0; y < Glyph::height; ++y) {
-            hasInk = hasInk || glyph.hasInk(2, y);
-        }
-        EXPECT_TRUE(hasInk) << character;
-        EXPECT_EQ(glyph.advance, 8) << character;
     }
 }

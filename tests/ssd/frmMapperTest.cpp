@@ -1,9 +1,8 @@
 #include "frmMapper.h"
 
-#include "Desktop.h"
 #include "Error.h"
-#include "PictureFiles.h"
 #include "SheetImages.h"
+#include "fakeServices.h"
 #include "sheetWorld.h"
 
 #include <gtest/gtest.h>
@@ -16,11 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The window on a desktop that writes down what is shown, with outlines and pictures in memory.
-class Mapper : public testing::Test,
-               protected Desktop,
-               protected PictureFiles,
-               protected PictureEncoder,
-               protected SheetImages {
+class Mapper : public testing::Test, protected PictureEncoder, protected SheetImages {
 protected:
     Mapper() {
         carry({{"F", "1"}});
@@ -28,10 +23,11 @@ protected:
                               "FIRECON: (5,6)\n");
         folder.write("Wide", "SIZE: 100\nIMAGE: WIDE.BMP\nWEAP: (1,2,F)\nWEAP: (9,2,P)\n");
         folder.write("Light", "SIZE: 4\nIMAGE: ship.bmp\nWEAP: (1,2,F)\n");
-        outlines = {{"SHIP.BMP", Raster(400, 100)}, {"WIDE.BMP", Raster(2185, 50)}};
+        outline("SHIP") = Raster(400, 100);
+        outline("WIDE") = Raster(2185, 50);
         maps = loadMaps(folder.path());
         window = std::make_unique<frmMapper>(frmMapper::Services{
-            folder.path(), *this, *this, *this, *this, maps, systems,
+            folder.path(), desktop, pictures, *this, *this, maps, systems,
             [this]() -> SheetShip { return {"5", parties, "1", "Magpie", "Åsa", "99", *ship}; }});
     }
 
@@ -58,33 +54,12 @@ protected:
                std::to_string(box.width) + 'x' + std::to_string(box.height) + ' ' +
                std::to_string(window->width()) + 'x' + std::to_string(window->height());
     }
-    std::string takeLog() { return std::exchange(log, {}); }
+    Raster& outline(const std::string& name) {
+        return pictures.files[(folder.path() / "shipimages" / (name + ".BMP")).string()];
+    }
+    std::string takeLog() { return std::exchange(desktop.log, {}); }
 
-    // Desktop
-    Answer showMessage(const std::string& text, const std::string& title, Buttons,
-                       Icon icon) override {
-        log += text + '/' + title + (icon == Icon::Critical ? "/stop; " : "; ");
-        return Answer::Ok;
-    }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return {}; }
-    std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override {
-        log += dialog.filter + '/' + std::to_string(dialog.filterIndex) + '/' +
-               dialog.initialFolder.lexically_relative(folder.path()).string() + "; ";
-        return chosen;
-    }
-    void popUp(MenuEntry&) override {}
-    void showModal(Form&, Form&) override {}
-    void unloadAllForms() override {}
-    ScreenSize screenSize() override { return {}; }
-    // PictureFiles
-    Raster load(const fs::path& file) override {
-        const auto found = outlines.find(file.filename().string());
-        if (found == outlines.end()) {
-            throw FileError(file, "is missing");
-        }
-        return found->second;
-    }
-    Raster builtIn(const std::string&) override { return {}; }
+    // PictureEncoder
     std::string encode(const Raster& picture, const std::string& format) override {
         return format + ' ' + std::to_string(picture.width()) + 'x' +
                std::to_string(picture.height());
@@ -105,16 +80,14 @@ protected:
     ListView systems{main, {.name = "systems"}};
     std::string parties = "1";
     SSDMaps maps;
-    std::map<std::string, Raster> outlines;
+    ChoosingDesktop desktop;
+    PicturesByName pictures;
     std::string_view lacking;
     const Raster systemPicture{8, 8};
-    std::optional<std::string> chosen;
-    std::string log;
     std::unique_ptr<frmMapper> window;
 };
 
 constexpr const char* drawnSizes = "400x171 6000x2565 6305x3800";
-constexpr const char* dialogLog = "All Files (*.*)|*.*|BitMap Files/2/ssds; ";
 
 }  // namespace
 
@@ -158,7 +131,7 @@ TEST_F(Mapper, TakesItsSizeFromTheSheetAndKeepsIt) {
     window->setState(WindowState::Normal);
     EXPECT_EQ(sizes(), "400x171 6000x2565 4940x3800");
 
-    outlines["SHIP.BMP"] = Raster(10, 100);  // narrower than the frame
+    outline("SHIP") = Raster(10, 100);  // narrower than the frame
     window->unload();
     window->show();
     EXPECT_EQ(sizes(), "0x0 4635x120 5055x1355");
@@ -169,29 +142,29 @@ TEST_F(Mapper, TakesItsSizeFromTheSheetAndKeepsIt) {
 TEST_F(Mapper, SaysWhichStepHasFailed) {
     window->show();
     drawOn("Smal");
-    EXPECT_EQ(takeLog(), "Invalid map file!!!/Error in map file/stop; ");
-    outlines.erase("SHIP.BMP");
+    EXPECT_EQ(takeLog(), "Invalid map file!!!/Error in map file critical; ");
+    pictures.files.erase((folder.path() / "shipimages/SHIP.BMP").string());
     drawOn("Small");
-    EXPECT_EQ(takeLog(), "Couldn't load image file!!!/Error loading image file/stop; ");
-    EXPECT_NE(window->lastFault().find("SHIP.BMP: is missing"), std::string::npos);
+    EXPECT_EQ(takeLog(), "Couldn't load image file!!!/Error loading image file critical; ");
+    EXPECT_NE(window->lastFault().find("SHIP.BMP: cannot be read"), std::string::npos);
     drawOn("Wide");  // 32775 twips
-    EXPECT_EQ(takeLog(), "Couldn't load image file!!!/Error loading image file/stop; ");
+    EXPECT_EQ(takeLog(), "Couldn't load image file!!!/Error loading image file critical; ");
     EXPECT_EQ(buttons(), "draw save");
 
     // A second click does not meet what the first one has left in the lists.
-    outlines["SHIP.BMP"] = Raster(400, 100);
-    outlines["WIDE.BMP"] = Raster(400, 100);
+    outline("SHIP") = Raster(400, 100);
+    outline("WIDE") = Raster(400, 100);
     drawOn("Small");
     EXPECT_EQ(takeLog(), "");
     EXPECT_EQ(sizes(), drawnSizes);
 }
 
 TEST_F(Mapper, ShowsTheOutlineAgainWhenTheDrawingFails) {
-    outlines["SHIP.BMP"].pixel(4, 5) = 0x123456;
+    outline("SHIP").pixel(4, 5) = 0x123456;
     const auto expectFailure = [&](const char* cause) {
         window->show();
         drawOn("Small");
-        EXPECT_EQ(takeLog(), "Could not create the SSD!/SSD Creation Error/stop; ");
+        EXPECT_EQ(takeLog(), "Could not create the SSD!/SSD Creation Error critical; ");
         EXPECT_NE(window->lastFault().find(cause), std::string::npos) << window->lastFault();
         EXPECT_EQ(buttons(), "save");
         EXPECT_EQ(sizes(), "400x100 6000x1500 6305x2735");
@@ -210,7 +183,8 @@ TEST_F(Mapper, ShowsTheOutlineAgainWhenTheDrawingFails) {
 TEST_F(Mapper, RefusesCountsThatNoSheetHolds) {
     carry({{"F", "32768"}});
     window->show();
-    EXPECT_EQ(takeLog(), "The ship has too many systems for a sheet!!!/SSD Creation Error/stop; ");
+    EXPECT_EQ(takeLog(),
+              "The ship has too many systems for a sheet!!!/SSD Creation Error critical; ");
     EXPECT_TRUE(window->cboMapSelection.items().empty());
 }
 
@@ -220,9 +194,8 @@ TEST_F(Mapper, SavesUnderANameThatEndsInBmp) {
     for (const auto& [typed, written] : names) {
         window->show();
         drawOn("Small");
-        chosen = (folder.path() / typed).string();
+        desktop.choice = (folder.path() / typed).string();
         window->cmdSave.press();
-        EXPECT_EQ(takeLog(), dialogLog);
         EXPECT_EQ(folder.read(written), "bmp 400x171") << typed;
         EXPECT_FALSE(window->isLoaded());
     }
@@ -232,9 +205,12 @@ TEST_F(Mapper, StaysOpenWhenNothingIsSaved) {
     window->show();
     drawOn("Small");
     window->cmdSave.press();
-    chosen = (folder.path() / "none" / "a").string();
+    EXPECT_EQ(desktop.asked.filter, "All Files (*.*)|*.*|BitMap Files");
+    EXPECT_EQ(desktop.asked.filterIndex, 2);
+    EXPECT_EQ(desktop.asked.initialFolder, folder.path() / "ssds");
+    desktop.choice = (folder.path() / "none" / "a").string();
     window->cmdSave.press();
-    EXPECT_EQ(takeLog(), std::string(dialogLog) + dialogLog);
+    EXPECT_EQ(takeLog(), "");
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(sizes(), drawnSizes);
 }
@@ -253,7 +229,7 @@ TEST_F(Mapper, BeginsAnewEachTimeAndSavesTheEmptyStrip) {
     carry({{"F", "9"}});
     window->show();  // open already: it only comes to the front
     EXPECT_EQ(window->cboMapSelection.items().size(), 2U);
-    chosen = (folder.path() / "strip").string();
+    desktop.choice = (folder.path() / "strip").string();
     window->cmdSave.press();
     EXPECT_EQ(folder.read("strip.bmp"), "bmp 309x8");
 }

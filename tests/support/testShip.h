@@ -3,6 +3,8 @@
 #include "ShipClass.h"
 #include "TemporaryFolder.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
 #include <string_view>
@@ -26,6 +28,13 @@ public:
 
 private:
     TemporaryFolder m_folder;
+};
+
+/// Tests of a new ship.
+class NewShip : public testing::Test {
+protected:
+    const ShipYard yard;
+    const std::unique_ptr<ShipClass> ship = yard.newShip();
 };
 
 /// Writes down the events of a ship in their order, a word each.

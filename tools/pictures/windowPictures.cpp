@@ -1,4 +1,5 @@
 #include "Artwork.h"
+#include "Catalogue.h"
 #include "HullRules.h"
 #include "PictureSet.h"
 #include "SheetPictures.h"
@@ -7,15 +8,24 @@
 
 #include <QPainter>
 
-#include <array>
+#include <string>
+#include <vector>
 
 namespace fleetwright {
 
 namespace {
 
 constexpr QSize buttonSize(systemPictureSize, systemPictureSize);
-constexpr std::array<const char*, 7> rootNames = {"beam",   "defense", "heavy", "systems",
-                                                  "hangar", "special", "alien"};
+
+/// The roots of the catalogue as they stand in the names of files.
+std::vector<std::string> rootNames() {
+    std::vector<std::string> names;
+    names.reserve(catalogueRoots.size());
+    for (const std::string_view root : catalogueRoots) {
+        names.push_back(QString::fromUtf8(root.data(), std::ssize(root)).toLower().toStdString());
+    }
+    return names;
+}
 
 /// A button's picture on the common tile, so that it shows on dark windows too, and the same for
 /// screens of twice the resolution.
@@ -31,7 +41,7 @@ void addButton(PictureSet& pictures, const Artwork& artwork, const std::string& 
 }
 
 void addButtons(PictureSet& pictures, const Artwork& artwork) {
-    for (const std::string name : rootNames) {
+    for (const std::string& name : rootNames()) {
         addButton(pictures, artwork, "button-" + name, artwork.svg("roots/" + name));
     }
     for (const std::string name : {"button-expand-all", "button-collapse-all"}) {
@@ -69,7 +79,7 @@ QImage drawSplash(const Artwork& artwork, const std::string& name, QSize size) {
 
 PictureSet windowPictures(const Artwork& artwork) {
     PictureSet pictures;
-    for (const std::string name : rootNames) {
+    for (const std::string& name : rootNames()) {
         pictures["root-" + name + ".gif"] =
             gifFile(drawInk({artwork.svg("roots/" + name)}, buttonSize));
     }

@@ -4,18 +4,15 @@
 #include "Clock.h"
 #include "Error.h"
 #include "FormWindow.h"
-#include "Globals.h"
 #include "PictureCache.h"
 #include "ProgramImages.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
-#include "QtPrinter.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
-#include "QtSettingsStore.h"
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
-#include "StartUpProgress.h"
+#include "SilentServices.h"
 #include "drawnSheet.h"
 #include "folders.h"
 #include "frmAbout.h"
@@ -218,32 +215,17 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
 
     PictureDesktop desktop(output);
     QtPictureFiles files;
-    NoProgress progress;
-    QtSettingsStore settings;
-    QtPrinter printer;
     QtPrograms programs;
     QtRegistry registry;
-    Globals globals;
-    globals.formula = formula_calculate;
+    SilentServices silent(desktop);
+    MainWindowServices services = silent.services(appFolder, files);
     frmExtras extras({.desktop = desktop,
-                      .globals = globals,
-                      .settings = settings,
+                      .globals = services.globals,
+                      .settings = services.settings,
                       .nameShip = {},
                       .clearRecentFiles = {}});
-    frmMain form({.appFolder = appFolder,
-                  .eventLoopTurn = {},
-                  .freeFormulaLibrary = [] {},
-                  .desktop = desktop,
-                  .pictures = files,
-                  .progress = progress,
-                  .globals = globals,
-                  .settings = settings,
-                  .printer = printer,
-                  .extras = [&extras]() -> frmExtras& { return extras; },
-                  .showAbout = {},
-                  .showMapper = {},
-                  .showViewer = {},
-                  .showMapCreator = {}});
+    services.extras = [&extras]() -> frmExtras& { return extras; };
+    frmMain form(services);
     form.load();
     const auto take = [&](const std::string& name) {
         FormWindow window(form);
@@ -274,6 +256,14 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     take("main-base");
 }
 
+/// Has Qt draw on a screen in memory that has room for every window: on a smaller one they scroll.
+void useLargeScreen(const QString& description) {
+    saveFile(description.toStdString(),
+             R"({"screens": [{"name": "large", "x": 0, "y": 0, "width": 2400, "height": 2400,
+                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.toLocal8Bit());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -281,9 +271,9 @@ int main(int argc, char** argv) {
         std::fputs("Usage: window-screenshots DATA PICTURES OUTPUT\n", stderr);
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QTemporaryDir settings;
+    const QTemporaryDir settings;  // the pictures are nobody's in particular
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    useLargeScreen(settings.filePath("screen.json"));
     const QApplication application(argc, argv);
     QApplication::setStyle("fusion");
     try {

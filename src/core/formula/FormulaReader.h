@@ -11,10 +11,10 @@ struct FormulaArguments {
 
 /// Reads a formula and works out its value in the same pass, without any allocation.
 ///
-/// One function stands for each level of the language, from the loosest binding (`?:`) to the
-/// tightest (`^`). Parts that a choice, `and` or `or` does not need are read like all others; they
-/// only cannot divide by zero. The first fault moves the reading place to an empty text, so that
-/// every function comes to its end at once.
+/// The functions stand for the levels of the language, from the loosest binding (`?:`) to the
+/// tightest (`^`); `binary` has those of all operators between two values. Parts that a choice,
+/// `and` or `or` does not need are read like all others; they only cannot divide by zero. The first
+/// fault moves the reading place to an empty text, so that every function comes to its end at once.
 class FormulaReader {
 public:
     enum class Fault {

@@ -30,7 +30,9 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QTimer>
 #include <QWindow>
 
@@ -59,6 +61,20 @@ private:
     const Form& m_form;
 };
 
+/// The view of a form's inside, which scrolls only where the screen is too small for the form.
+class View : public QScrollArea {
+public:
+    View(QWidget* inside, QWidget* parent) : QScrollArea(parent) {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(inside);
+    }
+
+protected:
+    // Keys are the form's.
+    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+};
+
 /// Makes the widget of a control that is of the given kind.
 template <typename Kind>
 QWidget* makeIf(Control& control, QWidget* parent, const Scale& scale) {
@@ -80,16 +96,15 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
       m_inside(new Inside(form, this)) {
     setObjectName(toQt(form.name()));
     setFrame(owner);
-    m_inside->setMinimumSize(m_scale.rect(form.place()).size());
-    m_inside->resize(m_inside->minimumSize());
+    m_inside->resize(m_scale.rect(form.place()).size());
     addControls(form, m_inside);
-    setCentralWidget(m_inside);
+    setCentralWidget(new View(m_inside, this));
+    const QSize size = fitting(m_inside->size());
     if (form.border() == Border::Sizable) {
-        m_inside->setMinimumSize(0, 0);
-        resize(m_inside->size());
+        resize(size);
     } else {
         // A fixed border: the window is as large as its inside.
-        m_inside->setFixedSize(m_inside->size());
+        centralWidget()->setFixedSize(size);
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
     update();
@@ -207,15 +222,33 @@ void FormWindow::update() {
     }
 }
 
+/// How large the view of an inside of the given size is: as large, or what the screen has room for.
+QSize FormWindow::fitting(const QSize& inside) const {
+    constexpr QSize usualFrame(10, 40);  // until the desktop has given the window one
+    const QSize frame = (frameGeometry().size() - geometry().size()).expandedTo(usualFrame);
+    const QSize room = screen()->availableSize() - frame;
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    QSize view = inside;
+    if (inside.height() > room.height()) {
+        view.rwidth() += scrollBar;
+    }
+    if (view.width() > room.width()) {
+        view.rheight() += scrollBar;
+    }
+    return view.boundedTo(room);
+}
+
 void FormWindow::updateSize() {
     const QSize size = m_scale.rect(m_form.place()).size();
-    if (size == m_inside->size() || m_form.state() != WindowState::Normal) {
+    m_inside->resize(size);
+    const QSize view = fitting(size);
+    if (view == centralWidget()->size() || m_form.state() != WindowState::Normal) {
         return;
     }
     if (m_form.border() == Border::Sizable) {
-        resize(size);
+        resize(view);
     } else {
-        m_inside->setFixedSize(size);
+        centralWidget()->setFixedSize(view);
         layout()->activate();
     }
 }
@@ -324,12 +357,22 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
         m_form.state() != WindowState::Normal) {
         return;
     }
-    // A size that only comes back rounded is the form's own.
-    const QSize size = m_inside->size();
-    if (size != m_scale.rect(m_form.place()).size() && !isStubborn(size)) {
-        m_form.resize(static_cast<int>(m_scale.twips(size.width())) + Form::frameWidth,
-                      static_cast<int>(m_scale.twips(size.height())) + Form::frameHeight);
+    const Place& form = m_form.place();
+    const QSize own = m_scale.rect(form).size();
+    const QSize expected = fitting(own);
+    const QSize size = centralWidget()->size();
+    if (size == expected || isStubborn(size)) {
+        return;
     }
+    // Where the edge has not moved, the form keeps its size, which the screen may have no room for.
+    const QSize bars = (expected - own).expandedTo(QSize(0, 0));
+    const int width = size.width() == expected.width()
+                          ? form.width
+                          : static_cast<int>(m_scale.twips(size.width() - bars.width()));
+    const int height = size.height() == expected.height()
+                           ? form.height
+                           : static_cast<int>(m_scale.twips(size.height() - bars.height()));
+    m_form.resize(width + Form::frameWidth, height + Form::frameHeight);
 }
 
 /// Whether the desktop keeps the window at a size that the form has refused again and again: it

@@ -37,6 +37,7 @@ private:
 
     // Bringing the window in step with its form.
     void update();
+    QSize fitting(const QSize& inside) const;
     void updateSize();
     void updatePlace();
     void updateState();

@@ -10,8 +10,10 @@
 #include <QCursor>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QScreen>
+#include <QTreeView>
 
 namespace fleetwright {
 
@@ -30,12 +32,29 @@ QStringList nameFilters(const std::string& filter) {
     return filters;
 }
 
+/// Gives the columns of Qt's own file dialog, which a desktop without one shows, the room that
+/// their texts need: it would cut sizes and dates short.
+void widenColumns(QFileDialog& dialog) {
+    auto* const list = dialog.findChild<QTreeView*>("treeView");
+    if (list == nullptr) {
+        return;
+    }
+    QHeaderView& header = *list->header();
+    for (int column = 1; column < header.count(); ++column) {
+        header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
+    constexpr QSize comfortable(760, 460);
+    dialog.resize(dialog.size().expandedTo(comfortable));
+}
+
 void prepareDialog(QFileDialog& dialog, const FileDialog& wanted) {
     dialog.setObjectName("fileDialog");
     dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels show as they were written
     dialog.setNameFilters(nameFilters(wanted.filter));
     dialog.selectNameFilter(dialog.nameFilters().value(wanted.filterIndex - 1));
     dialog.setDirectory(toQt(wanted.initialFolder.string()));
+    widenColumns(dialog);
 }
 
 /// Whether a file may be written that the dialog itself has not asked about, because the rules add

@@ -5,7 +5,6 @@
 #include "CheckBox.h"
 #include "DragImage.h"
 #include "Form.h"
-#include "PictureBox.h"
 #include "TextBox.h"
 #include "TrayIcon.h"
 
@@ -35,10 +34,6 @@ public:
     CheckBox tick{*this, {.name = "tick", .place = {0, 0, 1500, 300}, .caption = "Tick"}, [this] {
                       log += tick.isTicked() ? "on " : "off ";
                   }};
-    CheckBox down{
-        *this,
-        {.name = "down", .place = {0, 300, 1500, 300}, .caption = "Down", .isGraphical = true}};
-    PictureBox picture{*this, {.name = "picture", .place = {0, 600, 0, 0}}};
     TextBox name{*this, {.name = "name", .place = {0, 2000, 1500, 300}}};
     TrayIcon tray{*this, {.name = "tray", .picture = "tray"}, {}};
 
@@ -70,8 +65,6 @@ TEST_F(FormStates, CheckBoxesAreTickedFromBothSides) {
     page.tick.setTicked(false);
     EXPECT_FALSE(tick.isChecked());
     EXPECT_EQ(takeLog(), "on off ");
-    page.down.setTicked(true);
-    EXPECT_TRUE(widget<QAbstractButton>("down").isChecked());
 }
 
 TEST_F(FormStates, AKeyGoesToItsBoxFirstAndThenToTheForm) {
@@ -95,19 +88,6 @@ TEST_F(FormStates, AKeyGoesToItsBoxFirstAndThenToTheForm) {
     }
 }
 
-TEST_F(FormStates, PicturesShowInTheirOwnSizeAndPixelForPixel) {
-    page.picture.setPicture(Raster(30, 20));
-    auto& widget = *window.findChild<QWidget*>("picture");
-    EXPECT_EQ(widget.size(), QSize(30, 20));
-    page.picture.paintStretch(0, 0, 1, 0xFF0000);
-    page.picture.showPainted();
-    const QImage shown = widget.grab().toImage();
-    const int left = (shown.width() - 30) / 2;
-    const int top = (shown.height() - 20) / 2;
-    EXPECT_EQ(shown.pixelColor(left, top), QColor(Qt::red));
-    EXPECT_EQ(shown.pixelColor(left + 1, top), QColor(Qt::white));
-}
-
 TEST_F(FormStates, TheWindowFollowsTheFormAndTheFormTheWindow) {
     takeLog();
     page.resize(6000 + Form::frameWidth, 4500 + Form::frameHeight);
@@ -127,8 +107,6 @@ TEST_F(FormStates, TheWindowFollowsTheFormAndTheFormTheWindow) {
     page.tray.setOn(true);
     EXPECT_TRUE(window.findChild<QSystemTrayIcon*>("tray")->isVisible());
     EXPECT_EQ(page.tray.isAvailable(), QSystemTrayIcon::isSystemTrayAvailable());
-    page.hide();
-    EXPECT_FALSE(window.isVisible());
 }
 
 }  // namespace

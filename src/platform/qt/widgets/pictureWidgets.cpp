@@ -60,9 +60,8 @@ QWidget* makeWidget(PictureBox& box, QWidget* parent, const Scale& scale) {
     }
     box.setScreenTwipsPerPixel(scale.twips(1));
     keepInStep(widget, box, [widget] { widget->update(); });
-    auto painted = std::make_shared<Connection>(
-        box.Painted.connect([widget](int first, int end) { widget->updateRows(first, end); }));
-    QObject::connect(widget, &QObject::destroyed, [painted] {});
+    keepAttached(widget, box.Painted.connect(
+                             [widget](int first, int end) { widget->updateRows(first, end); }));
     return widget;
 }
 

@@ -19,6 +19,8 @@
 #include <QSignalBlocker>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace fleetwright {
 
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
@@ -93,15 +95,13 @@ QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
         }
         widget->setReadOnly(box.isLocked());
     });
-    auto appended =
-        std::make_shared<Connection>(box.Appended.connect([widget](const std::string& text) {
-            const QSignalBlocker blocker(widget);
-            QTextCursor end(widget->document());
-            end.movePosition(QTextCursor::End);
-            end.insertText(toQt(text).remove('\r'));
-            widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
-        }));
-    QObject::connect(widget, &QObject::destroyed, [appended] {});
+    keepAttached(widget, box.Appended.connect([widget](const std::string& text) {
+        const QSignalBlocker blocker(widget);
+        QTextCursor end(widget->document());
+        end.movePosition(QTextCursor::End);
+        end.insertText(toQt(text).remove('\r'));
+        widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
+    }));
     QObject::connect(widget, &QPlainTextEdit::textChanged,
                      [widget, &box] { box.type(withLineEnds(widget->toPlainText())); });
     new EventHook(widget, [&box](QEvent* event) { return takesEditKeys(*event, box); });
@@ -182,6 +182,23 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     return widget;
 }
 
+namespace {
+
+/// Sets the text of a line in narrower letters if it is too long for the line, else in plain ones.
+void narrowToFit(QLineEdit& line) {
+    constexpr int narrowest = 70, step = 5, plain = 100, edges = 8;
+    QFont font = line.font();
+    font.setStretch(plain);
+    const int needed = QFontMetrics(font).horizontalAdvance(line.text()) + edges;
+    const int fitting = plain * line.width() / needed / step * step;
+    font.setStretch(std::clamp(fitting, narrowest, plain));
+    if (font != line.font()) {
+        line.setFont(font);
+    }
+}
+
+}  // namespace
+
 QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
     auto* const widget = new QComboBox(parent);
     prepare(widget, box, scale);
@@ -206,13 +223,17 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
         if (widget->currentText() != text) {
             widget->setEditText(text);
         }
-        widget->lineEdit()->setToolTip(text);  // which may be longer than the box
+        narrowToFit(*widget->lineEdit());
+        widget->lineEdit()->setToolTip(text);  // which may be longer than the box still
     });
     widget->view()->setTextElideMode(Qt::ElideNone);
     QObject::connect(widget, &QComboBox::editTextChanged,
                      [&box](const QString& text) { box.type(text.toStdString()); });
-    QObject::connect(widget, &QComboBox::activated,
-                     [&box](int item) { box.choose(static_cast<std::size_t>(item)); });
+    QObject::connect(widget, &QComboBox::activated, [widget, &box](int item) {
+        box.choose(static_cast<std::size_t>(item));
+        // A name is known by its beginning.
+        widget->lineEdit()->setCursorPosition(0);
+    });
     return widget;
 }
 

@@ -27,12 +27,16 @@ inline QIcon faceOf(const std::string& picture) {
     return QIcon(":/pictures/" + toQt(picture) + ".png");
 }
 
+/// Keeps a listener attached for as long as the widget lives.
+inline void keepAttached(QWidget* widget, Connection connection) {
+    QObject::connect(widget, &QObject::destroyed,
+                     [kept = std::make_shared<Connection>(std::move(connection))] {});
+}
+
 /// Calls `update` now and whenever the control changes, for as long as the widget lives.
 inline void keepInStep(QWidget* widget, Control& control, std::function<void()> update) {
     update();
-    auto connection = std::make_shared<Connection>(
-        control.Changed.connect([update = std::move(update)] { update(); }));
-    QObject::connect(widget, &QObject::destroyed, [connection] {});
+    keepAttached(widget, control.Changed.connect([update = std::move(update)] { update(); }));
 }
 
 /// Hands chosen events of a widget to a function, which says whether it has dealt with them.
@@ -83,9 +87,8 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
             return false;
         });
     }
-    auto focus = std::make_shared<Connection>(
-        control.FocusWanted.connect([widget] { widget->setFocus(Qt::OtherFocusReason); }));
-    QObject::connect(widget, &QObject::destroyed, [focus] {});
+    keepAttached(widget,
+                 control.FocusWanted.connect([widget] { widget->setFocus(Qt::OtherFocusReason); }));
 }
 
 /// Makes room for a text that is too long for its control's place: first to the right, as far as

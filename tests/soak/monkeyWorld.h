@@ -1,7 +1,8 @@
 #pragma once
 
-// What the monkey's windows find in the world around them.
+// What the monkey finds before it: files, texts to type, pictures, and the controls of a window.
 
+#include "Control.h"
 #include "Error.h"
 #include "PictureFiles.h"
 
@@ -29,7 +30,7 @@ public:
     std::string encode(const Raster&, const std::string& format) override { return format; }
 };
 
-/// The files of an application folder, good and faulty ones, and what is in them.
+/// What lies in the application folder beside the catalogue.
 inline const std::map<std::string, std::string> files = {
     {"ships/Gun.shp", "Mass: 40\nSystem: Gun, 2\nSystem: Screen, 1\n"},
     {"ships/Cloaked.shp", "Mass: 60\nType: Merchant\nSystem: Cloaking Field, 1\n"},
@@ -51,9 +52,24 @@ inline const std::map<std::string, std::string> files = {
 /// Files that are not there.
 inline const std::vector<std::string> otherFiles = {
     "ships/None.shp", "nowhere/at all", "a", "new", "ships/new", "ssds/sheet", "maps/made"};
-/// What the user types.
+/// What is typed.
 inline const std::vector<std::string> texts = {"",          "-1",    "7 guns",    "99999999999",
                                                "Ship, one", "a: \"", "\xC3\x9C ", "Ship",
                                                "ship.gif",  "x\t#"};
+
+/// All controls inside one that a user can act on, those of menus only if they can be opened.
+inline std::vector<Control*> leaves(const Container& container) {
+    std::vector<Control*> found;
+    for (Control* const control : container.controls()) {
+        auto* const inner = dynamic_cast<Container*>(control);
+        if (inner == nullptr || inner->controls().empty()) {
+            found.push_back(control);
+        } else if (inner->isVisible()) {
+            const std::vector<Control*> below = leaves(*inner);
+            found.insert(found.end(), below.begin(), below.end());
+        }
+    }
+    return found;
+}
 
 }  // namespace fleetwright

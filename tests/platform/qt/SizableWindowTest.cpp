@@ -1,0 +1,83 @@
+#include "Form.h"
+#include "FormWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace fleetwright;
+
+namespace {
+
+/// A form that wants to be at least so wide.
+class WideForm : public Form {
+public:
+    WideForm()
+        : Form({.name = "frmWide",
+                .caption = "Wide",
+                .width = 6000,
+                .height = 3000,
+                .border = Border::Sizable}) {}
+
+    int refusals = 0;
+
+protected:
+    void Form_Resize() override {
+        if (state() == WindowState::Normal && width() < 6000 + frameWidth) {
+            ++refusals;
+            resize(6000 + frameWidth, height());
+        }
+    }
+};
+
+}  // namespace
+
+TEST(SizableWindow, TheFormDecidesHowSmallItGets) {
+    WideForm form;
+    FormWindow window(form);
+    form.show();
+    const QSize first = window.size();
+    EXPECT_NEAR(first.width(), 2.0 * first.height(), 1) << "as the form is";
+    window.resize(first.width() + 50, first.height() + 50);
+    EXPECT_EQ(window.width(), first.width() + 50);
+    EXPECT_GT(form.width(), 6000 + Form::frameWidth);
+    window.resize(first.width() / 2, first.height());
+    EXPECT_NEAR(window.width(), first.width(), 1);
+    // A maximized window keeps the screen, whatever changes meanwhile.
+    window.showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.width() > first.width() + 100; }));
+    EXPECT_EQ(form.state(), WindowState::Maximized);
+    const QSize large = window.size();
+    form.setCaption("Other");
+    EXPECT_EQ(window.size(), large);
+    window.showNormal();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() <= first.width() + 1; }));
+    // A desktop that insists on a size of its own is not asked for ever.
+    form.refusals = 0;
+    for (int i = 0; i < 100; ++i) {
+        window.resize(first.width() / 3, first.height());
+    }
+    EXPECT_LT(form.refusals, 10);
+}
+
+TEST(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
+    WideForm form;
+    FormWindow window(form);
+    form.show();
+    form.resize(6000 + Form::frameWidth, 30000 + Form::frameHeight);
+    const QSize shown = window.size();
+    EXPECT_LT(shown.height(), window.screen()->availableSize().height());
+    EXPECT_EQ(form.place().height, 30000) << "the screen is no matter of the form's";
+    auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->viewport()->width(), view->widget()->width()) << "the bar stands beside it";
+    EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(),
+              view->widget()->height());
+    // The user moves one edge; the other dimension stays what it was.
+    window.resize(shown.width() + 50, shown.height());
+    EXPECT_EQ(view->viewport()->width(), view->widget()->width());
+    EXPECT_EQ(form.place().height, 30000);
+}
