@@ -137,10 +137,24 @@ void MainWindow::load(const std::filesystem::path& file) const {
     waitForShip(file);
 }
 
+namespace {
+
+/// What stands right inside a window, below the layers that let it scroll.
+Element inside(const Element& window) {
+    Element layer = window.find("filler").value();
+    for (std::vector<Element> parts = layer.children();
+         parts.size() == 1 && parts.front().role() == "filler"; parts = layer.children()) {
+        layer = parts.front();
+    }
+    return layer;
+}
+
+}  // namespace
+
 std::string MainWindow::waitForStatus(const std::string& begin) const {
     std::string text;
     fleetwright::waitFor("the status \"" + begin + '"', [&] {
-        const std::vector<std::string> labels = window().find("filler")->names("label");
+        const std::vector<std::string> labels = inside(window()).names("label");
         text = labels.empty() ? std::string() : labels.back();  // the lowest one
         return text.starts_with(begin);
     });
