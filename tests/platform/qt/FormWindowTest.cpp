@@ -120,6 +120,14 @@ protected:
     void Form_Unload(bool& cancel) override { cancel = keeps; }
 };
 
+/// Keeps the end of a press from all widgets, as a drag does.
+class ReleaseTaker : public QObject {
+public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        return event->type() == QEvent::MouseButtonRelease;
+    }
+};
+
 class FormWindowTest : public testing::Test {
 protected:
     FormWindowTest() {
@@ -307,19 +315,43 @@ TEST_F(FormWindowTest, ClickingWhatIsSelectedIsAClickAndWidthsAreTheUsers) {
 
 TEST_F(FormWindowTest, TheFirstMoveWithTheButtonDownDragsAndATremblingHandClicks) {
     QWidget* const tree = find<QTreeWidget>("tree")->viewport();
+    QWindow* const pointed = window.windowHandle();
+    const QPoint from = tree->mapTo(&window, QPoint(9, 9));
+    QPoint to;
+    const auto endDrag = [&] {
+        ReleaseTaker drag;
+        qApp->installEventFilter(&drag);
+        QTest::mouseRelease(pointed, Qt::LeftButton, {}, to);
+    };
     form.tree.onClick = [&] { form.log += "click "; };
     form.tree.onMouseMove = [&](const MousePress&) {
         form.log += "move ";
-        QTest::mouseRelease(find<QLabel>("label"), Qt::LeftButton);  // as the end of a drag
+        endDrag();
     };
     for (const int way : {0, 1, 60}) {
-        QTest::mousePress(tree, Qt::LeftButton, {}, {9, 9});
-        const QPoint to(9 + way, 9), onScreen = tree->mapToGlobal(to);
-        QCursor::setPos(onScreen);
-        QMouseEvent move(QEvent::MouseMove, to, onScreen, Qt::NoButton, Qt::LeftButton, {});
+        QTest::mousePress(pointed, Qt::LeftButton, {}, from);
+        to = from + QPoint(way, 0);
+        QCursor::setPos(window.mapToGlobal(to));
+        QMouseEvent move(QEvent::MouseMove, QPoint(9 + way, 9), window.mapToGlobal(to),
+                         Qt::NoButton, Qt::LeftButton, {});
         QApplication::sendEvent(tree, &move);
+        QApplication::processEvents();
+        if (way == 0) {
+            endDrag();
+        }
     }
     EXPECT_EQ(takeLog(), "tree1 tree1 move click tree1 move ");
+}
+
+TEST_F(FormWindowTest, NothingIsDraggedByAButtonThatIsUpAgain) {
+    QWidget* const tree = find<QTreeWidget>("tree")->viewport();
+    form.tree.onMouseMove = [&](const MousePress&) { form.log += "move "; };
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {},
+                      tree->mapTo(&window, QPoint(9, 9)));
+    // What has come between is known by the place of the release alone.
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {},
+                        tree->mapTo(&window, QPoint(9, 60)));
+    EXPECT_EQ(takeLog(), "tree1 ");
 }
 
 TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {

@@ -84,17 +84,10 @@ protected:
         if (event->pos() == m_pressedAt || !m_tree.onMouseMove) {
             return;
         }
-        m_tree.moveMouse(toMove(*event, m_scale));
-        if (QApplication::mouseButtons() == Qt::NoButton) {
-            // The button was let go in the middle of a drag, of which the tree hears nothing.
-            setState(NoState);
-            m_tree.releaseMouse({.button = LeftButton});
-            // A hand that trembles in a click drags, but not far, and means the click.
-            const QPoint way = viewport()->mapFromGlobal(QCursor::pos()) - m_pressedAt;
-            if (way.manhattanLength() < QApplication::startDragDistance()) {
-                m_tree.click();
-            }
-        }
+        // What a quick hand has done since then is behind this event, at times in the middle of the
+        // work on it. A drag that began before a release would go on with no button down.
+        QMetaObject::invokeMethod(
+            this, [this, move = toMove(*event, m_scale)] { takeMove(move); }, Qt::QueuedConnection);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override {
@@ -134,6 +127,24 @@ protected:
     }
 
 private:
+    /// A move with a button down, which may drag.
+    void takeMove(const MousePress& move) {
+        if (QApplication::mouseButtons() == Qt::NoButton) {
+            return;
+        }
+        m_tree.moveMouse(move);
+        if (QApplication::mouseButtons() == Qt::NoButton) {
+            // The button was let go in the middle of a drag, of which the tree hears nothing.
+            setState(NoState);
+            m_tree.releaseMouse({.button = LeftButton});
+            // A hand that trembles in a click drags, but not far, and means the click.
+            const QPoint way = viewport()->mapFromGlobal(QCursor::pos()) - m_pressedAt;
+            if (way.manhattanLength() < QApplication::startDragDistance()) {
+                m_tree.click();
+            }
+        }
+    }
+
     void addItem(TreeView::Node& node) {
         auto* const item = new QTreeWidgetItem;
         item->setText(0, toQt(node.key));
