@@ -90,6 +90,7 @@ bool frmMain::loadFile(const std::string& fileName) {
         // Nobody takes half a ship, or the former one, for the one in the file.
         replaceShipAndRows();
         runUndoable([this] { RefreshScreen(); });
+        g_Ship->g_bSaved = true;  // nobody has done anything to it
     }
     noteSafe();
     return isLoaded;
@@ -188,13 +189,15 @@ void frmMain::fillMRU() {
 }
 
 void frmMain::mnuPrint_Click() {
-    try {
-        if (const std::optional<int> copies = m_services.printer.choose()) {
-            printCopies(*copies);
+    whenIdle([this] {
+        try {
+            if (const std::optional<int> copies = m_services.printer.choose()) {
+                printCopies(*copies);
+            }
+        } catch (const Error&) {
+            // The command ends without a word, as it does when it is cancelled.
         }
-    } catch (const Error&) {
-        // The command ends without a word, as it does when it is cancelled.
-    }
+    });
 }
 
 void frmMain::printCopies(int copies) {

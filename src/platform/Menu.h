@@ -11,7 +11,7 @@ public:
     MenuEntry(Container& container, ControlDesign design, Handler click = {})
         : Container(&container, std::move(design)), onClick(std::move(click)) {}
 
-    bool isSeparator() const { return design().caption == "-"; }
+    bool isSeparator() const { return design().caption == "-" && !design().isVerbatim; }
     const std::string& caption() const { return design().caption; }
     void setCaption(const std::string& caption);
     bool isChecked() const { return design().isOn; }

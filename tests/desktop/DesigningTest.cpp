@@ -182,10 +182,11 @@ TEST_F(DesigningTest, SystemsAreDraggedAboard) {
     window->waitFor(design);
     window->click("push button", "Defenses");
     doubleClick(node("GUARD GUNS"));
-    const Element aboard = window->get("tree", list);
-    for (int amount = 1; amount <= 2; ++amount) {
+    int amount = 0;
+    for (const Element& aboard :
+         {window->get("tree", list), window->getIn(list, "table column header", "Count")}) {
         dragOnto(node(gun), aboard);
-        design.systems[gun] = amount;
+        design.systems[gun] = ++amount;
         window->waitFor(design);
     }
     dragOnto(node(battery), window->get("text", "Cost"));

@@ -27,6 +27,13 @@ Element desktop() {
     return Element(atspi_get_desktop(0));
 }
 
+/// Menus and trees hold many entries and nothing else, and each question takes its time.
+bool mayHold(std::string_view whole, std::string_view part) {
+    return whole == "menu bar" ? part == "menu item"
+           : whole == "tree"   ? part.starts_with("table")
+                               : true;
+}
+
 void describe(const Element& element, int depth, std::string& text) {
     const Rectangle place = element.place();
     const std::string held = element.text();
@@ -104,8 +111,12 @@ std::vector<Element> Element::children() const {
 
 std::optional<Element> Element::find(std::string_view role, std::string_view name) const {
     for (const Element& child : children()) {
-        if (child.role() == role && (name.empty() || child.name() == name)) {
+        const std::string kind = child.role();
+        if (kind == role && (name.empty() || child.name() == name)) {
             return child;
+        }
+        if (!mayHold(kind, role)) {
+            continue;
         }
         if (std::optional<Element> found = child.find(role, name)) {
             return found;

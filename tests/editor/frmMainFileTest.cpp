@@ -84,14 +84,19 @@ TEST_F(Files, LoadAsksNothingAndFillsTheList) {
     window.tmrRefreshScreen.tick();
     EXPECT_TRUE(window.mnuSave.isEnabled());
 
-    test.file = "missing.shp";
-    window.mnuLoad.choose();
-    EXPECT_EQ(test.takeLog(), "");
-    EXPECT_EQ(test.list(), "");
-    EXPECT_TRUE(window.optWarship.isOn()) << "the new ship is seen at once";
-    EXPECT_FALSE(window.mnuSave.isEnabled());
-    EXPECT_EQ(test.ship().g_sSaveName, "");
-    EXPECT_EQ(recent(), "| Wasp");
+    const std::string half = "Type: Merchant\nThrust: 4\nSystem: Gun, 1\nMass: many\n";
+    for (const std::string& file :
+         {std::string("missing.shp"), test.folder().write("half.shp", half)}) {
+        test.file = file;
+        window.mnuLoad.choose();
+        EXPECT_EQ(test.takeLog(), "");
+        EXPECT_EQ(test.list(), "");
+        EXPECT_TRUE(window.optWarship.isOn()) << "the new ship is seen at once";
+        EXPECT_TRUE(test.ship().g_bSaved) << file;
+        EXPECT_FALSE(window.mnuSave.isEnabled());
+        EXPECT_EQ(test.ship().g_sSaveName, "");
+        EXPECT_EQ(recent(), "| Wasp");
+    }
 }
 
 TEST_F(Files, ACatalogueThatCannotBeUsedLeavesTheShipAtHand) {

@@ -51,6 +51,17 @@ TEST_F(Turns, ASaveWaitsForAutoMass) {
     EXPECT_TRUE(window.mnuSave.isEnabled());
 }
 
+TEST_F(Turns, APrintWaitsForAutoMass) {
+    test.copies = 1;
+    test.takeLog();
+    test.inTurn = [&] {
+        window.mnuPrint.choose();
+        EXPECT_EQ(test.takeLog(), "");
+    };
+    window.optMerchant.choose();
+    EXPECT_TRUE(test.takeLog().starts_with("font Courier New; "));
+}
+
 TEST_F(Turns, TheAmountDialogTakesOneAnswer) {
     window.lvCurrentWeapons.select(0);
     test.inTurn = [&] {

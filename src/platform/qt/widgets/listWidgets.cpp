@@ -12,10 +12,13 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolTip>
 #include <QTreeWidget>
+
+#include <initializer_list>
 
 namespace fleetwright {
 
@@ -28,7 +31,11 @@ public:
         : QTreeWidget(parent), m_list(list), m_scale(scale) {
         setRootIsDecorated(false);
         setUniformRowHeights(true);
-        viewport()->setAcceptDrops(true);
+        for (QWidget* const part : std::initializer_list<QWidget*>{
+                 viewport(), header()->viewport(), horizontalScrollBar(), verticalScrollBar()}) {
+            part->setAcceptDrops(true);
+            new EventHook(part, [this](QEvent* event) { return takeDrag(*event); });
+        }
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
@@ -76,15 +83,6 @@ protected:
         m_list.pressMouse(press);
     }
 
-    void dragEnterEvent(QDragEnterEvent* event) override { takeDrag(*event); }
-    void dragMoveEvent(QDragMoveEvent* event) override { takeDrag(*event); }
-    void dropEvent(QDropEvent* event) override {
-        if (DragImage* const image = draggedImage(window())) {
-            event->acceptProposedAction();
-            m_list.drop(*image);
-        }
-    }
-
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) {
             QTreeWidget::mouseDoubleClickEvent(event);
@@ -119,10 +117,20 @@ protected:
     }
 
 private:
-    void takeDrag(QDragMoveEvent& event) {
-        if (m_list.onDragDrop && draggedImage(window()) != nullptr) {
-            event.acceptProposedAction();
+    /// A system may be dropped anywhere on the list, on its headers and scroll bars as well.
+    bool takeDrag(QEvent& event) {
+        const bool isDrop = event.type() == QEvent::Drop;
+        if (!isDrop && event.type() != QEvent::DragEnter && event.type() != QEvent::DragMove) {
+            return false;
         }
+        DragImage* const image = draggedImage(window());
+        if (image != nullptr && m_list.onDragDrop) {
+            static_cast<QDropEvent&>(event).acceptProposedAction();
+            if (isDrop) {
+                m_list.drop(*image);
+            }
+        }
+        return true;
     }
 
     /// Sets the headers up; from then on the widths are the user's.
