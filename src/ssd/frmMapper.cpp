@@ -75,6 +75,9 @@ bool frmMapper::layOut() {
 /// Shows the outline of the map; false, with a message, if that fails.
 bool frmMapper::showOutline() {
     try {
+        if (m_Map->sImgFile.empty()) {
+            throw Error("the map names no outline");
+        }
         picSSD.setPicture(m_services.pictures.load(outlineFile(*m_Map)));
         fitToSheet();
         return true;

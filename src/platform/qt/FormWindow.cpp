@@ -75,6 +75,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 };
 
+/// A window that the rules have just asked to paint waits for the desktop. The rules are in the
+/// middle of their work then, and no timer may run into them.
+bool isAwaitingDesktop = false;
+
 /// Makes the widget of a control that is of the given kind.
 template <typename Kind>
 QWidget* makeIf(Control& control, QWidget* parent, const Scale& scale) {
@@ -96,7 +100,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
       m_inside(new Inside(form, this)) {
     setObjectName(toQt(form.name()));
     setFrame(owner);
-    m_inside->resize(m_scale.rect(form.place()).size());
+    m_inside->resize(formSize());
     addControls(form, m_inside);
     setCentralWidget(new View(m_inside, this));
     const QSize size = fitting(m_inside->size());
@@ -144,6 +148,9 @@ void FormWindow::addControls(Container& container, QWidget* parent) {
             setTabOrder(before, widget);
         }
         before = widget;
+        if (parent == m_inside && m_form.border() == Border::Sizable) {
+            m_connections.push_back(control->Changed.connect([this] { resizeInside(); }));
+        }
     }
 }
 
@@ -166,7 +173,7 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
         auto* const ticking = new QTimer(this);
         ticking->setInterval(timer->interval());
         QObject::connect(ticking, &QTimer::timeout, [this, timer] {
-            if (m_form.isLoaded()) {
+            if (m_form.isLoaded() && !isAwaitingDesktop) {
                 timer->tick();
             }
         });
@@ -238,10 +245,24 @@ QSize FormWindow::fitting(const QSize& inside) const {
     return view.boundedTo(room);
 }
 
-void FormWindow::updateSize() {
-    const QSize size = m_scale.rect(m_form.place()).size();
+QSize FormWindow::formSize() const {
+    return m_scale.rect(m_form.place()).size();
+}
+
+/// A window that the user has sized, or maximized, may be too small for what its form has since
+/// come to hold. It scrolls then.
+void FormWindow::resizeInside() {
+    QSize size = formSize();
+    if (m_form.border() == Border::Sizable) {
+        const QRect controls = m_inside->childrenRect();
+        size = size.expandedTo(QSize(controls.right() + 1, controls.bottom() + 1));
+    }
     m_inside->resize(size);
-    const QSize view = fitting(size);
+}
+
+void FormWindow::updateSize() {
+    resizeInside();
+    const QSize view = fitting(formSize());
     if (view == centralWidget()->size() || m_form.state() != WindowState::Normal) {
         return;
     }
@@ -308,17 +329,18 @@ void FormWindow::raiseAndActivate() {
 }
 
 void FormWindow::repaintNow() {
-    // A window that has just come waits for the desktop to give it its place.
+    const QScopedValueRollback<bool> awaiting(isAwaitingDesktop, true);
+    // A window that has just come, or has another size, waits for the desktop to give it that.
     constexpr int longestWait = 200, step = 10;  // milliseconds
     QElapsedTimer waiting;
     waiting.start();
-    while (isVisible() && windowHandle() != nullptr && !windowHandle()->isExposed() &&
+    while (isVisible() && windowHandle() != nullptr &&
+           (!windowHandle()->isExposed() || windowHandle()->size() != size()) &&
            waiting.elapsed() < longestWait) {
         QApplication::processEvents(
             QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, step);
     }
     repaint();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 bool FormWindow::event(QEvent* event) {
@@ -358,7 +380,7 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
         return;
     }
     const Place& form = m_form.place();
-    const QSize own = m_scale.rect(form).size();
+    const QSize own = formSize();
     const QSize expected = fitting(own);
     const QSize size = centralWidget()->size();
     if (size == expected || isStubborn(size)) {

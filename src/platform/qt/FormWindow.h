@@ -38,6 +38,8 @@ private:
     // Bringing the window in step with its form.
     void update();
     QSize fitting(const QSize& inside) const;
+    QSize formSize() const;
+    void resizeInside();
     void updateSize();
     void updatePlace();
     void updateState();

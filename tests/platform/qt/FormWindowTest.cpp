@@ -384,6 +384,14 @@ TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
     QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, {1, 0});
 }
 
+TEST_F(FormWindowTest, NoTimerRunsIntoRulesThatPaint) {
+    form.ticks = 0;
+    QTest::qSleep(30);
+    form.repaint();
+    EXPECT_EQ(form.ticks, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.ticks > 0; }));
+}
+
 TEST_F(FormWindowTest, MenusTimersAndClosing) {
     EXPECT_EQ(window.menuBar()->actions().size(), 1);
     auto* const entry = find<QAction>("entry");

@@ -1,5 +1,6 @@
 #include "Form.h"
 #include "FormWindow.h"
+#include "PictureBox.h"
 
 #include <gtest/gtest.h>
 
@@ -22,6 +23,7 @@ public:
                 .height = 3000,
                 .border = Border::Sizable}) {}
 
+    PictureBox sheet{*this, {.name = "sheet", .place = {150, 150, 1500, 1500}}};
     int refusals = 0;
 
 protected:
@@ -80,4 +82,18 @@ TEST(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
     window.resize(shown.width() + 50, shown.height());
     EXPECT_EQ(view->viewport()->width(), view->widget()->width());
     EXPECT_EQ(form.place().height, 30000);
+}
+
+TEST(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
+    WideForm form;
+    FormWindow window(form);
+    form.show();
+    const auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
+    EXPECT_EQ(view->verticalScrollBar()->maximum(), 0);
+    window.showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.state() == WindowState::Maximized; }));
+    form.sheet.setPlace({150, 150, 1500, 45000});
+    const int bottom = window.findChild<QWidget*>("sheet")->geometry().bottom() + 1;
+    EXPECT_GT(bottom, window.screen()->availableSize().height());
+    EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(), bottom);
 }

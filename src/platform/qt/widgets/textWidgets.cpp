@@ -77,9 +77,10 @@ bool takesEditKeys(const QEvent& event, const TextBox& box) {
     return event.type() == QEvent::ShortcutOverride && box.isLocked();
 }
 
-/// A text as models keep it.
-std::string withLineEnds(QString text) {
-    return text.replace('\n', "\r\n").toStdString();
+/// The text of a box with many lines as models keep it. Its plain text would have blanks for
+/// no-break spaces, which names of files may hold.
+std::string textOf(const QPlainTextEdit& edit) {
+    return edit.document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n").toStdString();
 }
 
 /// The box of a text with many lines.
@@ -90,7 +91,7 @@ QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
     widget->setTabChangesFocus(true);
     keepInStep(widget, box, [widget, &box] {
         const QSignalBlocker blocker(widget);
-        if (withLineEnds(widget->toPlainText()) != box.text()) {
+        if (textOf(*widget) != box.text()) {
             widget->setPlainText(toQt(box.text()));
         }
         widget->setReadOnly(box.isLocked());
@@ -103,7 +104,7 @@ QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
         widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
     }));
     QObject::connect(widget, &QPlainTextEdit::textChanged,
-                     [widget, &box] { box.type(withLineEnds(widget->toPlainText())); });
+                     [widget, &box] { box.type(textOf(*widget)); });
     new EventHook(widget, [&box](QEvent* event) { return takesEditKeys(*event, box); });
     return widget;
 }
