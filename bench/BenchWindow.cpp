@@ -40,7 +40,7 @@ void writeCatalogue(const fs::path& file, int records) {
 }  // namespace
 
 fs::path benchApplication(int records) {
-    const fs::path folder = benchFolder() / ("application-" + std::to_string(records));
+    fs::path folder = benchFolder() / ("application-" + std::to_string(records));
     if (!fs::exists(folder)) {
         fs::create_directories(folder / "images");
         writeCatalogue(folder / "weaps.dat", records);

@@ -82,7 +82,8 @@ public:
         WeapRec record;
         if (name == blank) {
             m_picture = "-size 32x32 xc:white";
-        } else if (m_ship.listWeap(index, record); true) {
+        } else {
+            m_ship.listWeap(index, record);
             m_picture = "images/" + std::string(record.icon);
         }
         return picture;
@@ -158,7 +159,7 @@ void sheets(benchmark::State& state, unsigned threads) {
 /// The size of a bitmap as Qt encodes it.
 std::size_t bareBitmap(const Raster& sheet) {
     QByteArray bytes;
-    bytes.reserve(3 * sheet.width() * sheet.height());
+    bytes.reserve(qsizetype{3} * sheet.width() * sheet.height());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter(&buffer, "bmp").write(toImage(sheet));
