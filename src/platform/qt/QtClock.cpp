@@ -12,7 +12,10 @@ std::int32_t QtClock::tickCount() {
 
 void QtClock::sleep(int milliseconds) {
     QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    QTimer alarm;
+    alarm.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&alarm, &QTimer::timeout, &loop, &QEventLoop::quit);
+    alarm.start(milliseconds);
     loop.exec();
 }
 
