@@ -34,9 +34,10 @@ bool isPicture(const fs::path& file) {
 PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth depth)
     : m_folder(folder), m_pictures(pictures), m_depth(depth) {
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, error)) {
         if (entry.is_regular_file(error)) {
-            m_entries[toCapitals(entry.path().filename().string())] = {.file = entry.path()};
+            const std::string name = entry.path().lexically_relative(folder).generic_string();
+            m_entries[toCapitals(name)] = {.file = entry.path()};
         }
     }
 }
@@ -88,7 +89,14 @@ std::vector<Fault> PictureCheck::checkCatalogue(std::string_view text) {
     std::string_view line;
     while (lines.next(line)) {
         const std::string icon(cutCatalogueLine(line).icon);
-        if (isCatalogueComment(line) || icon.empty()) {
+        if (isCatalogueComment(line)) {
+            continue;
+        }
+        if (icon.empty()) {
+            // The rest of the check says so itself; the start cannot do without.
+            if (m_depth == Start) {
+                faults.push_back({lines.lineNumber(), "no picture"});
+            }
             continue;
         }
         const Entry* const entry = find(icon);

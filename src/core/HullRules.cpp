@@ -94,7 +94,7 @@ std::int32_t roundUp(double x) {
 
 HullFigures hullFigures(const HullDesign& design) {
     const std::int32_t mass = design.mass;
-    HullFigures figures;
+    HullFigures figures{.design = design};
     if (design.hullType >= Warship && design.hullType <= QSpaceStation) {
         const bool isStrong = hasStrongHull(design.hullType);
         const double base = isStrong ? 2.0 : 1.5;

@@ -39,6 +39,7 @@ struct HullDesign {
 
 /// What follows from a hull alone. Costs in points, masses in mass units.
 struct HullFigures {
+    HullDesign design;  ///< the hull
     std::int32_t hullCost = 0;
     std::int32_t ftlCost = 0;
     std::int32_t thrustCost = 0;

@@ -114,6 +114,10 @@ public:
     std::int32_t previewWeapCost(std::string_view in_sWeapName, std::int32_t amount);
     /// Mass of so many pieces on this ship as it is; 0 for an unknown name.
     std::int32_t previewWeapMass(std::string_view in_sWeapName, std::int32_t amount);
+    // The same as they count in the figures. A file can bring a thrust that no recalculation has
+    // taken up yet.
+    std::int32_t countedCost(std::string_view name, std::int32_t amount);
+    std::int32_t countedMass(std::string_view name, std::int32_t amount);
 
     // Names by mass.
     std::string_view Class() const;
@@ -175,7 +179,7 @@ private:
     std::int32_t evaluate(std::string_view& text, const HullDesign& hull, std::int32_t hullCost,
                           std::int32_t amount);
     std::int32_t preview(std::string_view name, std::int32_t amount,
-                         std::string_view WeapRec::*formula);
+                         std::string_view WeapRec::*formula, const HullDesign& hull);
     bool cloakRuleRefuses(std::string_view name) const;
     std::int32_t& amountOf(std::size_t record);
 

@@ -47,12 +47,12 @@ bool ShipClass::saveShip(std::string& in_sFileName) {
     try {
         saveFile(nativePath(in_sFileName), shipFile());
         takeFileName(in_sFileName);
+        g_bSaved = true;
+        ShipSaved.raise();
     } catch (const std::exception& error) {
         m_fileFault = Fault{0, error.what()};
         return false;
     }
-    g_bSaved = true;
-    ShipSaved.raise();
     return true;
 }
 
@@ -152,12 +152,12 @@ void ShipClass::readShipLine(std::string& line, int lineNumber) {
 
 void ShipClass::takeFileName(const std::string& fileName) {
     constexpr char separator = static_cast<char>(std::filesystem::path::preferred_separator);
+    g_sSaveName = fileName;
     std::string reversed = strReverse(fileName);
     const std::string name = strReverse(strTok(reversed, std::string("\\") + separator, true));
     if (characterCount(name) < extension.size()) {
         throw Error("file name is too short");
     }
-    g_sSaveName = fileName;
     g_sTrimmedFileName = withoutLastCharacters(name, extension.size());
 }
 

@@ -89,22 +89,30 @@ std::int32_t ShipClass::weapNameToIndex(std::string_view in_sName) const {
 }
 
 std::int32_t ShipClass::preview(std::string_view name, std::int32_t amount,
-                                std::string_view WeapRec::*formula) {
+                                std::string_view WeapRec::*formula, const HullDesign& hull) {
     const std::int32_t index = weapNameToIndex(name);
     if (index == -1) {
         WeaponNotFound.raise();
         return 0;
     }
     WeapRec& record = m_catalogue.records()[static_cast<std::size_t>(index)];
-    return evaluate(record.*formula, m_hull, m_hullFigures.hullCost, amount);
+    return evaluate(record.*formula, hull, m_hullFigures.hullCost, amount);
 }
 
 std::int32_t ShipClass::previewWeapCost(std::string_view in_sWeapName, std::int32_t amount) {
-    return preview(in_sWeapName, amount, &WeapRec::costform);
+    return preview(in_sWeapName, amount, &WeapRec::costform, m_hull);
 }
 
 std::int32_t ShipClass::previewWeapMass(std::string_view in_sWeapName, std::int32_t amount) {
-    return preview(in_sWeapName, amount, &WeapRec::massform);
+    return preview(in_sWeapName, amount, &WeapRec::massform, m_hull);
+}
+
+std::int32_t ShipClass::countedCost(std::string_view name, std::int32_t amount) {
+    return preview(name, amount, &WeapRec::costform, m_hullFigures.design);
+}
+
+std::int32_t ShipClass::countedMass(std::string_view name, std::int32_t amount) {
+    return preview(name, amount, &WeapRec::massform, m_hullFigures.design);
 }
 
 }  // namespace fleetwright

@@ -15,25 +15,25 @@ std::string wordOf(const std::string& line) {
     return colon == std::string::npos ? line : line.substr(colon + 2);
 }
 
-std::string describeHull(const ShipClass& ship) {
+std::string describeHull(const HullDesign& hull) {
     std::string text =
-        wordOf(hullLine(ship.Hull())) + " hull of mass " + std::to_string(ship.mass());
-    if (ship.Armor() != 0) {
-        text += ", armor level " + std::to_string(ship.Armor());
+        wordOf(hullLine(hull.hullType)) + " hull of mass " + std::to_string(hull.mass);
+    if (const std::int32_t armor = levelOf(hull.armor); armor != 0) {
+        text += ", armor level " + std::to_string(armor);
     }
-    if (ship.Streamline() != 0) {
-        text += ship.Streamline() == 1 ? ", partial streamlining" : ", full streamlining";
+    if (const std::int32_t streamline = levelOf(hull.streamline); streamline != 0) {
+        text += streamline == 1 ? ", partial streamlining" : ", full streamlining";
     }
     return text;
 }
 
-/// One term for each system aboard; `preview` gives its mass or cost.
-template <typename Preview>
+/// One term for each system aboard; `counted` gives its mass or cost.
+template <typename Counted>
 void appendSystems(std::vector<Explanation::Term>& terms, const std::vector<WeapRec>& systems,
-                   Preview preview) {
+                   Counted counted) {
     for (const WeapRec& record : systems) {
         terms.push_back(
-            {preview(record), std::to_string(record.amount) + " x " + std::string(record.name)});
+            {counted(record), std::to_string(record.amount) + " x " + std::string(record.name)});
     }
 }
 
@@ -70,23 +70,24 @@ std::string describeSystem(ShipClass& ship, std::string_view name, std::int32_t 
 }
 
 std::vector<Explanation> explainShip(ShipClass& ship) {
-    const HullFigures& hull = ship.hullFigures();
+    const HullFigures hull = ship.hullFigures();
+    const std::string hullText = describeHull(hull.design);
     const std::vector<WeapRec> systems = ship.systemsAboard();
     Explanation cost{.figure = "Cost", .terms = {}, .sum = ship.g_lCost};
-    cost.terms.push_back({hull.hullCost, describeHull(ship)});
-    cost.terms.push_back({hull.ftlCost, "FTL drive: " + wordOf(ftlLine(ship.FTL()))});
-    cost.terms.push_back({hull.thrustCost, "Thrust " + std::to_string(ship.hullDesign().thrust)});
+    cost.terms.push_back({hull.hullCost, hullText});
+    cost.terms.push_back({hull.ftlCost, "FTL drive: " + wordOf(ftlLine(hull.design.ftl))});
+    cost.terms.push_back({hull.thrustCost, "Thrust " + std::to_string(hull.design.thrust)});
     appendSystems(cost.terms, systems, [&](const WeapRec& record) {
-        return std::int64_t{ship.previewWeapCost(record.name, record.amount)};
+        return std::int64_t{ship.countedCost(record.name, record.amount)};
     });
 
     Explanation damagePoints{.figure = "Damage points", .terms = {}, .sum = ship.g_iDP};
-    damagePoints.terms.push_back({hull.damagePoints, describeHull(ship)});
+    damagePoints.terms.push_back({hull.damagePoints, hullText});
 
     Explanation massLeft{.figure = "Mass left", .terms = {}, .sum = ship.g_iMassLeft};
-    massLeft.terms.push_back({hull.freeMass, "Free mass of the " + describeHull(ship)});
+    massLeft.terms.push_back({hull.freeMass, "Free mass of the " + hullText});
     appendSystems(massLeft.terms, systems, [&](const WeapRec& record) {
-        return -std::int64_t{ship.previewWeapMass(record.name, record.amount)};
+        return -std::int64_t{ship.countedMass(record.name, record.amount)};
     });
     return {std::move(cost), std::move(damagePoints), std::move(massLeft)};
 }

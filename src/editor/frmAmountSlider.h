@@ -16,8 +16,8 @@ public:
     frmAmountSlider();
 
     std::int32_t iOriginal = 0;  ///< the count when the dialog opens
-    std::int16_t iX = 0;         ///< left edge of the window, in twips of the screen
-    std::int16_t iY = 0;         ///< upper edge of the window, in twips of the screen
+    std::int16_t iX = 0;         ///< left edge of the window, in twips of the owner
+    std::int16_t iY = 0;         ///< upper edge of the window, in twips of the owner
 
     /// So many pieces are to go; at least 1.
     Signal<std::int32_t> CountChanged;

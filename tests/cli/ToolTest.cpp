@@ -119,6 +119,21 @@ TEST_F(Tool, ExplainSaysWhereTheFiguresComeFrom) {
     const ToolRun explained = run({"explain", "--app", ".", "good.shp"});
     EXPECT_TRUE(explained.output.starts_with("\"Né\"\n     100  Warship hull of mass 50\n"));
     EXPECT_TRUE(explained.output.ends_with("      -6  3 x Gun\n      19  = Mass left\n"));
+    // No button stands for this thrust, and so the figures are still those of the one before.
+    m_folder.write("weaps.dat", "Motor,thrust,thrust * 10,BEAM,BEAM,F,x.gif\n");
+    m_folder.write("fast.shp", "System: Motor, 1\nThrust: 12\n");
+    EXPECT_EQ(all(run({"explain", "--app", ".", "fast.shp"})),
+              "0|Generic\n"
+              "       4  Warship hull of mass 2\n"
+              "       2  FTL drive: Normal\n"
+              "       1  Thrust 2\n"
+              "      20  1 x Motor\n"
+              "      27  = Cost\n"
+              "       1  Warship hull of mass 2\n"
+              "       1  = Damage points\n"
+              "       1  Free mass of the Warship hull of mass 2\n"
+              "      -2  1 x Motor\n"
+              "      -1  = Mass left\n|");
 }
 
 TEST_F(Tool, EvalWorksOutAFormulaWithItsDefaults) {

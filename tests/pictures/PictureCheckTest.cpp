@@ -60,6 +60,14 @@ TEST_F(PictureCheckTest, NamesTheLineOfAPictureThatIsMissingOrFaulty) {
     EXPECT_EQ(PictureCheck(m_folder.path(), m_pictures).checkCatalogue(catalogue), expected);
 }
 
+TEST_F(PictureCheckTest, FindsFoldersInsideAndAtTheStartWhatHasNone) {
+    m_folder.write("guns/Maw-F.gif", renderedCatalogue().at("maw-f.gif"));
+    const std::string text = "Gun,1,1,BEAM,GUNS,F,guns/maw-f.gif\nBare,1,1,BEAM,GUNS,F,\n";
+    EXPECT_EQ(PictureCheck(m_folder.path(), m_pictures).checkCatalogue(text), std::vector<Fault>());
+    EXPECT_EQ(PictureCheck(m_folder.path(), m_pictures, PictureCheck::Start).checkCatalogue(text),
+              (std::vector<Fault>{{2, "no picture"}}));
+}
+
 TEST_F(PictureCheckTest, NamesWhatSheetsMissAndWhatNothingUses) {
     writeAllSystems();
     writeAllOfSheets();

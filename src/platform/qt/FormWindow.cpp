@@ -274,11 +274,16 @@ void FormWindow::updateSize() {
     }
 }
 
+/// Where a form stands is counted in its twips, or in those of its owner, which has put it there.
+const Scale& FormWindow::placeScale() const {
+    const auto* const owner = dynamic_cast<const FormWindow*>(parentWidget());
+    return owner == nullptr ? m_scale : owner->m_scale;
+}
+
 void FormWindow::updatePlace() {
     if (const QPoint place(m_form.left(), m_form.top()); place != m_formPlace) {
         m_formPlace = place;
-        const Scale screenScale;
-        move(screenScale.pixels(place.x()), screenScale.pixels(place.y()));
+        move(placeScale().pixels(place.x()), placeScale().pixels(place.y()));
     }
     if (m_form.border() == Border::None && !isVisible()) {
         QRect centred(QPoint(), m_inside->size());
@@ -367,9 +372,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 void FormWindow::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     // The user has moved the window; the form learns it without moving anything itself.
-    const Scale screenScale;
-    m_formPlace = {static_cast<int>(screenScale.twips(pos().x())),
-                   static_cast<int>(screenScale.twips(pos().y()))};
+    m_formPlace = {static_cast<int>(placeScale().twips(pos().x())),
+                   static_cast<int>(placeScale().twips(pos().y()))};
     m_form.moveTo(m_formPlace.x(), m_formPlace.y());
 }
 

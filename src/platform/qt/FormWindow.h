@@ -39,6 +39,7 @@ private:
     void update();
     QSize fitting(const QSize& inside) const;
     QSize formSize() const;
+    const Scale& placeScale() const;
     void resizeInside();
     void updateSize();
     void updatePlace();
@@ -52,7 +53,7 @@ private:
     Scale m_scale;
     QWidget* m_inside;
     std::vector<Connection> m_connections;
-    /// Where the form was last known to be, in twips of the screen.
+    /// Where the form was last known to be, in twips.
     QPoint m_formPlace;
     bool m_isTopmost = false;
     // The size that the desktop has offered last.

@@ -15,8 +15,7 @@ Scale::Scale(int formWidth, int formHeight) {
     constexpr double frameAndMenu = 80.0;  // what a window needs around its inside
     const double lineHeight = QFontMetrics(QApplication::font()).height();
     m_pixelsPerTwip = std::max(1.0, lineHeight / drawnLineHeight) / twipsPerPixel;
-    if (const QScreen* const screen = QApplication::primaryScreen();
-        screen != nullptr && formWidth > 0 && formHeight > 0) {
+    if (const QScreen* const screen = QApplication::primaryScreen(); screen != nullptr) {
         const QSize available = screen->availableSize();
         m_pixelsPerTwip = std::min({m_pixelsPerTwip, available.width() / double(formWidth),
                                     (available.height() - frameAndMenu) / formHeight});

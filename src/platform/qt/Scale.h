@@ -11,8 +11,6 @@ namespace fleetwright {
 /// off with a larger font; but never so large that a form leaves the screen.
 class Scale {
 public:
-    /// The scale for places on the screen, which is the same for all forms.
-    Scale() : Scale(0, 0) {}
     /// The scale for a form of this inner size in twips.
     Scale(int formWidth, int formHeight);
 

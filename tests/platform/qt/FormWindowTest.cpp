@@ -384,6 +384,17 @@ TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
     QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, {1, 0});
 }
 
+TEST_F(FormWindowTest, ARowChosenByTheRightButtonCountsAsClicked) {
+    form.list.add("a", "a", "1");
+    form.list.onClick = [&] { form.log += "row "; };
+    QWidget* const rows = find<QTreeWidget>("list")->viewport();
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, {},
+                      rows->mapTo(&window, QPoint(5, 5)));
+    EXPECT_EQ(takeLog(), "row ");
+    QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {},
+                        rows->mapTo(&window, QPoint(5, 5)));
+}
+
 TEST_F(FormWindowTest, NoTimerRunsIntoRulesThatPaint) {
     form.ticks = 0;
     QTest::qSleep(30);

@@ -97,3 +97,17 @@ TEST(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
     EXPECT_GT(bottom, window.screen()->availableSize().height());
     EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(), bottom);
 }
+
+TEST(SizableWindow, AnOwnedFormStandsWhereItsOwnerPutsIt) {
+    Form owner({.name = "frmLarge", .caption = "Larger than screens", .height = 45000});
+    PictureBox part(owner, {.name = "part", .place = {6000, 9000, 1500, 1500}});
+    FormWindow window(owner);
+    owner.show();
+    window.move(40, 30);
+    Form dialog({.name = "frmDialog", .caption = "Dialog", .width = 3000, .height = 1500});
+    FormWindow inFront(dialog, &window);
+    dialog.moveTo(owner.left() + 6000, owner.top() + 9000);
+    const QPoint place = window.findChild<QWidget*>("part")->pos();
+    EXPECT_NEAR(inFront.x() - window.x(), place.x(), 1);
+    EXPECT_NEAR(inFront.y() - window.y(), place.y(), 1);
+}

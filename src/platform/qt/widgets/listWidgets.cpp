@@ -39,7 +39,8 @@ public:
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
-                if (QApplication::mouseButtons() == Qt::NoButton) {
+                // The left button's click is still to come.
+                if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
                     m_list.click();
                 }
             }

@@ -35,7 +35,8 @@ public:
         connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
             if (item != nullptr) {
                 m_tree.select(nodeOf(item));
-                if (QApplication::mouseButtons() == Qt::NoButton) {
+                // The left button's click is still to come.
+                if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
                     m_tree.click();
                 }
             }
