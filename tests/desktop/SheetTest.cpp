@@ -36,9 +36,10 @@ void drawOn(const std::string& map, const MainWindow& window, const TemporaryFol
     EXPECT_TRUE(folder.read("ssds/sheet.bmp") == folder.read("expected.bmp"));
 }
 
-/// A picture of which every pixel is the mark of a fire control.
+/// A picture of which every pixel is the mark of a fire control: on the busiest machine its scan
+/// lasts until somebody cancels it.
 std::string manyMarks() {
-    constexpr int width = 300, height = 600;
+    constexpr int width = 900, height = 800;
     std::string picture = "P6\n" + std::to_string(width) + ' ' + std::to_string(height) + "\n255\n";
     for (int i = 0; i < width * height; ++i) {
         picture.append("\xFF\0\0", 3);
