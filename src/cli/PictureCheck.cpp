@@ -34,7 +34,9 @@ bool isPicture(const fs::path& file) {
 PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth depth)
     : m_folder(folder), m_pictures(pictures), m_depth(depth) {
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder, error)) {
+    constexpr auto options = fs::directory_options::skip_permission_denied;
+    for (const fs::directory_entry& entry :
+         fs::recursive_directory_iterator(folder, options, error)) {
         if (entry.is_regular_file(error)) {
             const std::string name = entry.path().lexically_relative(folder).generic_string();
             m_entries[toCapitals(name)] = {.file = entry.path()};
