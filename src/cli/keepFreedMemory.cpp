@@ -3,14 +3,43 @@
 #if __has_include(<malloc.h>)
 #include <malloc.h>
 #endif
+#if __has_include(<sys/mman.h>)
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
+#include <cstdint>
+#include <cstdlib>
 
 namespace fleetwright {
 
+namespace {
+
+constexpr int mebibyte = 1024 * 1024;
+
+/// Lets the heap grow by the memory of a sheet, in large pages: fetched one by one, the usual ones
+/// take a third of the time of a process that draws one sheet.
+void fetchLargePages() {
+#if defined(M_TOP_PAD) && defined(MADV_HUGEPAGE)
+    constexpr int sheetMemory = 16 * mebibyte;
+    constexpr std::uintptr_t page = 4096;
+    mallopt(M_TOP_PAD, sheetMemory);
+    void* volatile growth = std::malloc(mebibyte);  // volatile, so that it is not left out
+    std::free(growth);
+    mallopt(M_TOP_PAD, mebibyte);
+    const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0)) / page * page;
+    // Where there are no large pages, the usual ones do as well.
+    madvise(reinterpret_cast<void*>(end - sheetMemory), sheetMemory, MADV_HUGEPAGE);
+#endif
+}
+
+}  // namespace
+
 void keepFreedMemory() {
 #if defined(M_MMAP_THRESHOLD) && defined(M_TRIM_THRESHOLD)
-    constexpr int mebibyte = 1024 * 1024;
     mallopt(M_MMAP_THRESHOLD, 32 * mebibyte);
     mallopt(M_TRIM_THRESHOLD, 256 * mebibyte);
+    fetchLargePages();
 #endif
 }
 
