@@ -18,7 +18,7 @@ namespace {
 constexpr int mebibyte = 1024 * 1024;
 
 /// Lets the heap grow by the memory of a sheet, in large pages: fetched one by one, the usual ones
-/// take a third of the time of a process that draws one sheet.
+/// Lets the heap grow at once by the memory of a sheet, in large pages where there are some.
 void fetchLargePages() {
 #if defined(M_TOP_PAD) && defined(MADV_HUGEPAGE)
     constexpr int sheetMemory = 16 * mebibyte;
@@ -28,7 +28,6 @@ void fetchLargePages() {
     std::free(growth);
     mallopt(M_TOP_PAD, mebibyte);
     const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0)) / page * page;
-    // Where there are no large pages, the usual ones do as well.
     madvise(reinterpret_cast<void*>(end - sheetMemory), sheetMemory, MADV_HUGEPAGE);
 #endif
 }
