@@ -17,7 +17,6 @@ namespace {
 
 constexpr int mebibyte = 1024 * 1024;
 
-/// Lets the heap grow by the memory of a sheet, in large pages: fetched one by one, the usual ones
 /// Lets the heap grow at once by the memory of a sheet, in large pages where there are some.
 void fetchLargePages() {
 #if defined(M_TOP_PAD) && defined(MADV_HUGEPAGE)
