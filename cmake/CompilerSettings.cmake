@@ -20,6 +20,10 @@ else()
     # GCC 12 raises false alarms about std::string's own copying.
     add_compile_options(-Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
   endif()
+  if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Its sources are included, which makes them look like headers.
+    add_compile_options(-Wno-subobject-linkage)
+  endif()
   # Figures must not depend on the compiler's taste in contracting a * b + c.
   add_compile_options(-ffp-contract=off)
 endif()

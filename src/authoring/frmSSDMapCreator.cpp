@@ -22,7 +22,7 @@ namespace fleetwright {
 
 namespace {
 
-constexpr int firstWidth = 5790, firstHeight = 5565;
+constexpr int creatorWidth = 5790, creatorHeight = 5565;
 
 constexpr std::string_view mapExtension = ".map";
 
@@ -43,8 +43,8 @@ std::int32_t between(std::int32_t before, std::int32_t now) {
 frmSSDMapCreator::frmSSDMapCreator(Services services)
     : Form({.name = "frmSSDMapCreator",
             .caption = "SSD Map Creator",
-            .width = firstWidth,
-            .height = firstHeight}),
+            .width = creatorWidth,
+            .height = creatorHeight}),
       m_services(std::move(services)) {}
 
 void frmSSDMapCreator::Form_Load() {
@@ -57,7 +57,7 @@ void frmSSDMapCreator::Form_Load() {
     picImage.setPlace(pictureBox);
     txtOutput.setPlace(textBox);
     txtOutput.setText("");
-    resize(firstWidth + frameWidth, firstHeight + frameHeight);
+    resize(creatorWidth + frameWidth, creatorHeight + frameHeight);
     show();
 }
 

@@ -8,15 +8,15 @@ namespace fleetwright {
 
 namespace {
 
-constexpr int firstWidth = 3045, firstHeight = 825;
+constexpr int emptyWidth = 3045, emptyHeight = 825;
 
 }  // namespace
 
 frmSSDView::frmSSDView(Services services)
     : Form({.name = "frmSSDView",
             .caption = "View SSD",
-            .width = firstWidth,
-            .height = firstHeight,
+            .width = emptyWidth,
+            .height = emptyHeight,
             .border = Border::Sizable}),
       m_services(std::move(services)) {}
 
@@ -27,7 +27,7 @@ void frmSSDView::Form_Load() {
     picImage.setPicture({});
     picImage.setPlace(emptyBox);
     picImage.setToolTip("");
-    resize(firstWidth + frameWidth, firstHeight + frameHeight);
+    resize(emptyWidth + frameWidth, emptyHeight + frameHeight);
     fitWindow();
 }
 

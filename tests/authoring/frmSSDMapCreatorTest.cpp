@@ -12,7 +12,7 @@ using namespace fleetwright;
 
 namespace {
 
-const std::string large = "C:\\outlines\\large.gif", small = "ship.gif";
+const std::string largeOutline = "C:\\outlines\\large.gif", small = "ship.gif";
 
 class MapCreator : public testing::Test {
 protected:
@@ -20,7 +20,7 @@ protected:
         Raster picture(1000, 400);
         picture.pixel(10, 0) = Red;
         picture.pixel(10, 399) = Blue;
-        pictures.files[large] = picture;
+        pictures.files[largeOutline] = picture;
         pictures.files[small] = Raster(2, 1);
         pictures.files[small].pixel(0, 0) = Cyan;
         pictures.files["wide.gif"] = Raster(32768, 1);
@@ -69,7 +69,7 @@ protected:
 
 TEST_F(MapCreator, AScanGivesTheMapAndTheCleanPicture) {
     EXPECT_TRUE(window.isVisible() && window.cmdDoit.isEnabled());
-    select(large);
+    select(largeOutline);
     EXPECT_EQ(desktop.asked.initialFolder, folder.path() / "shipimages");
     EXPECT_EQ(desktop.asked.filterIndex, 2);
     window.txtOutput.type("old");
@@ -85,7 +85,7 @@ TEST_F(MapCreator, AScanGivesTheMapAndTheCleanPicture) {
 TEST_F(MapCreator, TheWindowTakesThePicturesSize) {
     const Form& form = window;
     EXPECT_EQ(form.place(), Place({0, 0, 5790, 5565}));
-    select(large);
+    select(largeOutline);
     const Place image = window.picImage.place(), text = window.txtOutput.place();
     EXPECT_EQ(image.width, 15000);
     EXPECT_EQ(image.height, 6000);
@@ -99,7 +99,7 @@ TEST_F(MapCreator, TheWindowTakesThePicturesSize) {
 }
 
 TEST_F(MapCreator, DuringAScanOnlyCancelAnswers) {
-    select(large);
+    select(largeOutline);
     clock.step = 20;
     int grown = 0, seen = 0;
     turn = [&] {
@@ -131,7 +131,7 @@ TEST_F(MapCreator, DuringAScanOnlyCancelAnswers) {
 }
 
 TEST_F(MapCreator, TurnsComeByTheClockAndLastNoLongerThanTheScan) {
-    select(large);
+    select(largeOutline);
     window.cmdDoit.press();
     EXPECT_EQ(turns, 2) << "23 looks at the clock, 1 ms apart";
     turns = 0;
@@ -141,7 +141,7 @@ TEST_F(MapCreator, TurnsComeByTheClockAndLastNoLongerThanTheScan) {
 }
 
 TEST_F(MapCreator, ClosingDuringAScanCancelsFirst) {
-    select(large);
+    select(largeOutline);
     clock.step = 20;
     turn = [&] { EXPECT_FALSE(window.unload()); };
     window.cmdDoit.press();
@@ -200,7 +200,7 @@ TEST_F(MapCreator, WithoutAPictureTheEmptyBoxIsScanned) {
     EXPECT_GT(window.txtOutput.place().height, 4000);
     EXPECT_TRUE(window.cmdDoit.isEnabled());
     // A picture whose file goes in the middle of a scan.
-    select(large);
+    select(largeOutline);
     turn = [&] { pictures.files.clear(); };
     window.cmdDoit.press();
     EXPECT_TRUE(window.txtOutput.text().ends_with("DCP: (10,399)\r\n"));

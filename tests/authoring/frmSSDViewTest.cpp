@@ -32,17 +32,17 @@ protected:
 };
 
 // The picture with its border, and what the window has around it.
-const std::pair large(105 + 404 * 15 + 200, 735 + 304 * 15 + 500);
+const std::pair largeWindow(105 + 404 * 15 + 200, 735 + 304 * 15 + 500);
 
 TEST_F(Viewer, GrowsWithThePictureAndNeverShrinks) {
     EXPECT_EQ(size(), std::pair(3165, 1295));
     select("small.bmp");
     EXPECT_EQ(size(), std::pair(3165, 735 + 54 * 15 + 500));
     select("large.bmp");
-    EXPECT_EQ(size(), large);
+    EXPECT_EQ(size(), largeWindow);
     EXPECT_EQ(desktop.asked.initialFolder, "/app/ssds");
     select("small.bmp");
-    EXPECT_EQ(size(), large);
+    EXPECT_EQ(size(), largeWindow);
     // The user can make it larger, and smaller only as far as the picture lets him.
     window.resize(9000, 9000);
     EXPECT_EQ(size(), std::pair(9000, 9000));
@@ -50,7 +50,7 @@ TEST_F(Viewer, GrowsWithThePictureAndNeverShrinks) {
     EXPECT_EQ(size(), std::pair(105 + 2745 + 200, 9000));
     select("large.bmp");
     window.resize(1, 1);
-    EXPECT_EQ(size(), large);
+    EXPECT_EQ(size(), largeWindow);
 }
 
 TEST_F(Viewer, FitsOnlyInItsNormalState) {
@@ -63,7 +63,7 @@ TEST_F(Viewer, FitsOnlyInItsNormalState) {
         window.paint();
         EXPECT_EQ(size(), before);
         window.setState(WindowState::Normal);
-        EXPECT_EQ(size(), large);
+        EXPECT_EQ(size(), largeWindow);
     }
 }
 

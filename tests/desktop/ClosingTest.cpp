@@ -8,12 +8,6 @@
 
 using namespace fleetwright;
 
-namespace {
-
-constexpr const char* question = "Ship not saved!";
-
-}  // namespace
-
 TEST(ClosingTest, UnsavedShipIsAskedAboutAndNoKeepsIt) {
     RunningProgram program;
     program.start();
@@ -21,14 +15,14 @@ TEST(ClosingTest, UnsavedShipIsAskedAboutAndNoKeepsIt) {
     window.click("check box", "Thrust 4");
     window.waitFor({.thrust = 4});
     clickToClose(MainWindow::title);
-    Window(question).get("label", "Ship not saved, continue with exit?");
-    Window(question).click("push button", "No");
+    Window(MainWindow::notSaved).get("label", "Ship not saved, continue with exit?");
+    Window(MainWindow::notSaved).click("push button", "No");
     window.click("check box", "Thrust 5");
     window.waitFor({.thrust = 5});
     clickToClose(MainWindow::title);
-    waitForKeyboard(question);
+    waitForKeyboard(MainWindow::notSaved);
     press({"Escape"});  // the same as No
     clickToClose(MainWindow::title);
-    Window(question).click("push button", "Yes");
+    Window(MainWindow::notSaved).click("push button", "Yes");
     EXPECT_EQ(program.waitForEnd(), 0);
 }

@@ -10,8 +10,6 @@ using namespace fleetwright;
 
 namespace {
 
-constexpr const char* question = "Ship not saved!";
-
 class FilesTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -58,7 +56,7 @@ TEST_F(FilesTest, SavedAndLoadedAgain) {
 
     setThrust(6);
     press({"ctrl+n"});
-    Window(question).click("push button", "Yes");
+    Window(MainWindow::notSaved).click("push button", "Yes");
     window->waitFor(Design());
     window->choose("File", file.stem());
     window->waitForShip(file);

@@ -33,6 +33,8 @@ Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass = false)
 class MainWindow : public Window {
 public:
     static constexpr const char* title = "Fleet Wright";
+    /// The title of the question before a ship that is not saved goes.
+    static constexpr const char* notSaved = "Ship not saved!";
 
     MainWindow() : Window(title) {}
 

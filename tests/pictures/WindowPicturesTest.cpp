@@ -36,11 +36,11 @@ TEST(WindowPictures, ButtonsAndFacesComeInTwoResolutions) {
 }
 
 TEST(WindowPictures, TheIconComesInAllSizes) {
-    for (const int side : {16, 24, 32, 48, 64, 256}) {
-        const QImage icon = windowPicture("icon-" + std::to_string(side) + ".png", "png");
-        EXPECT_EQ(icon.size(), QSize(side, side));
+    for (const int edge : {16, 24, 32, 48, 64, 256}) {
+        const QImage icon = windowPicture("icon-" + std::to_string(edge) + ".png", "png");
+        EXPECT_EQ(icon.size(), QSize(edge, edge));
         EXPECT_EQ(qAlpha(icon.pixel(0, 0)), 0) << "the corner is not transparent";
-        EXPECT_EQ(qAlpha(icon.pixel(side / 2, side / 2)), 255);
+        EXPECT_EQ(qAlpha(icon.pixel(edge / 2, edge / 2)), 255);
     }
     EXPECT_EQ(windowPicture("tray.png", "png").size(), QSize(16, 16));
     EXPECT_FALSE(windowPicture("icon.svg", "svg").isNull());

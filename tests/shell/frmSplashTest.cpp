@@ -17,11 +17,11 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A machine that writes down what the start asks of it.
-class Machine : public NoDesktop,
-                public Clock,
-                public Sounds,
-                public PictureFiles,
-                public Programs {
+class StartingMachine : public NoDesktop,
+                        public Clock,
+                        public Sounds,
+                        public PictureFiles,
+                        public Programs {
 public:
     std::string log;
     std::int32_t ticks = 0;
@@ -110,7 +110,7 @@ protected:
     }
 
     TemporaryFolder folder;
-    Machine machine;
+    StartingMachine machine;
     MemorySettings settings;
     Globals globals;
     std::string faults;

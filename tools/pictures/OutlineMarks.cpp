@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "SheetPictures.h"
 #include "TextFile.h"
+#include "drawing.h"
 #include "mapMarks.h"
 
 #include <QStringList>
@@ -49,7 +50,7 @@ void nameKind(OutlineMark& mark, const std::string& word) {
 /// Whether something is pasted in this size.
 bool isPasted(const OutlineMark& mark) {
     if (mark.kind != trackKey) {
-        return mark.box.size() == QSize(systemPictureSize, systemPictureSize);
+        return mark.box.size() == systemSize;
     }
     return std::any_of(std::begin(trackSizes), std::end(trackSizes), [&](TrackSize size) {
         const PictureSize room = trackPictureSize(size);

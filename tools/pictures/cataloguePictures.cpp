@@ -2,7 +2,6 @@
 #include "Catalogue.h"
 #include "Error.h"
 #include "PictureSet.h"
-#include "SheetPictures.h"
 #include "drawing.h"
 #include "pictureFiles.h"
 
@@ -13,7 +12,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr QSize size(systemPictureSize, systemPictureSize);
 constexpr std::string_view categoryPrefix = "cat-";
 
 /// The part of a name behind its last hyphen, or nothing.
@@ -27,7 +25,7 @@ void dropEnding(std::string& name) {
 }
 
 QImage drawCategory(const Artwork& artwork, const std::string& name) {
-    return drawInk({artwork.svg("categories/" + name), artwork.svg("category-frame")}, size);
+    return drawInk({artwork.svg("categories/" + name), artwork.svg("category-frame")}, systemSize);
 }
 
 QImage drawSystem(const Artwork& artwork, const PictureName& name) {
@@ -36,7 +34,7 @@ QImage drawSystem(const Artwork& artwork, const PictureName& name) {
     if (!name.arc.empty()) {
         layers.push_back(artwork.svg("arc-mark", variant));
     }
-    return drawInk(layers, size);
+    return drawInk(layers, systemSize);
 }
 
 }  // namespace

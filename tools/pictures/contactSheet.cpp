@@ -11,10 +11,10 @@ namespace fleetwright {
 
 namespace {
 
-constexpr int pageWidth = 1800, gap = 10, nameHeight = 22, enlargement = 4;
+constexpr int pageWidth = 1800, cellGap = 10, nameHeight = 22, enlargement = 4;
 
 /// The largest picture that is shown enlarged; splash pictures are large enough.
-constexpr int largestSmall = 150;
+constexpr int widestEnlarged = 150;
 
 void drawName(QPainter& painter, QPoint place, const std::string& name,
               const Lettering& lettering) {
@@ -31,18 +31,18 @@ struct Cell {
 };
 
 Cell cellOf(const std::string& name, const QImage& image) {
-    const bool isSmall = image.width() <= largestSmall;
-    const int width = isSmall ? image.width() * (enlargement + 1) + gap : image.width();
+    const bool isSmall = image.width() <= widestEnlarged;
+    const int width = isSmall ? image.width() * (enlargement + 1) + cellGap : image.width();
     const int height = isSmall ? image.height() * enlargement : image.height();
-    return {&name, image, {std::max(width, 210) + 2 * gap, height + nameHeight + gap}};
+    return {&name, image, {std::max(width, 210) + 2 * cellGap, height + nameHeight + cellGap}};
 }
 
 void drawCell(QPainter& painter, QPoint place, const Cell& cell, const Lettering& lettering) {
     drawName(painter, place, *cell.name, lettering);
     const QPoint at = place + QPoint(0, nameHeight);
     painter.drawImage(at, cell.image);
-    if (cell.image.width() <= largestSmall) {
-        painter.drawImage(at + QPoint(cell.image.width() + gap, 0),
+    if (cell.image.width() <= widestEnlarged) {
+        painter.drawImage(at + QPoint(cell.image.width() + cellGap, 0),
                           cell.image.scaled(cell.image.size() * enlargement));
     }
 }
@@ -51,13 +51,13 @@ void drawCell(QPainter& painter, QPoint place, const Cell& cell, const Lettering
 
 QImage contactSheet(const PictureSet& pictures, const Lettering& lettering) {
     std::vector<std::pair<QPoint, Cell>> cells;
-    QPoint place(gap, gap);
+    QPoint place(cellGap, cellGap);
     int rowHeight = 0;
     for (const auto& [name, bytes] : pictures) {
         const QImage image = QImage::fromData(QByteArray::fromStdString(bytes));
         const Cell cell = cellOf(name, image);
-        if (place.x() > gap && place.x() + cell.size.width() > pageWidth) {
-            place = {gap, place.y() + rowHeight};
+        if (place.x() > cellGap && place.x() + cell.size.width() > pageWidth) {
+            place = {cellGap, place.y() + rowHeight};
             rowHeight = 0;
         }
         cells.emplace_back(place, cell);

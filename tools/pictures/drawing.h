@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SheetPictures.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
@@ -7,6 +9,9 @@
 #include <vector>
 
 namespace fleetwright {
+
+/// The size of a system's picture, in pixels.
+inline constexpr QSize systemSize(systemPictureSize, systemPictureSize);
 
 /// SVG layers over each other in pure black on pure white, as an image of two colours: 0 is white
 /// and 1 is black. A pixel is black if more than half of it is covered, so that curves and

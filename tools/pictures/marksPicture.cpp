@@ -16,7 +16,7 @@ namespace fleetwright {
 namespace {
 
 constexpr const char* shownOutline = "Escort Warship - Kestrel";
-constexpr int enlargement = 6, gap = 12;
+constexpr int zoom = 6, margin = 12;
 
 /// The parts of the outline that are shown: fore weapons with the fire control, and the track.
 constexpr std::array<QRect, 2> parts = {{{134, 104, 92, 88}, {134, 442, 92, 46}}};
@@ -49,31 +49,31 @@ QImage marksPicture(const Artwork& artwork) {
     const QImage outline = QImage::fromData(QByteArray::fromStdString(bytes));
     const OutlineLayout layout =
         readOutlineLayout(artwork.file(std::string("outlines/") + shownOutline + ".svg"));
-    int height = gap;
+    int height = margin;
     for (const QRect& part : parts) {
-        height += part.height() * enlargement + gap;
+        height += part.height() * zoom + margin;
     }
-    QImage page(parts[0].width() * enlargement + 2 * gap, height, QImage::Format_RGB32);
+    QImage page(parts[0].width() * zoom + 2 * margin, height, QImage::Format_RGB32);
     page.fill(QColor(225, 228, 232));
     QPainter painter(&page);
-    int top = gap;
+    int top = margin;
     for (const QRect& part : parts) {
-        painter.drawImage(gap, top, outline.copy(part).scaled(part.size() * enlargement));
+        painter.drawImage(margin, top, outline.copy(part).scaled(part.size() * zoom));
         for (const OutlineMark& mark : layout.marks) {
             if (!part.contains(mark.box)) {
                 continue;
             }
             const QPoint corner =
-                (mark.box.topLeft() - part.topLeft()) * enlargement + QPoint(gap, top);
+                (mark.box.topLeft() - part.topLeft()) * zoom + QPoint(margin, top);
             painter.setPen(QPen(QColor(150, 170, 190), 1, Qt::DashLine));
-            painter.drawRect(QRect(corner, mark.box.size() * enlargement));
+            painter.drawRect(QRect(corner, mark.box.size() * zoom));
             QPoint line = corner + QPoint(10, 40);
             for (const std::string& text : linesOf(mark)) {
                 writeLine(painter, line, text, artwork.lettering());
                 line.ry() += 30;
             }
         }
-        top += part.height() * enlargement + gap;
+        top += part.height() * zoom + margin;
     }
     return page;
 }

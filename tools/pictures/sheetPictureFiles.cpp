@@ -11,8 +11,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr QSize systemSize(systemPictureSize, systemPictureSize);
-
 /// The outline of a box whose upper left corner is at (x, y).
 void drawBox(QImage& image, int x, int y, int side) {
     for (int i = 0; i < side; ++i) {

@@ -1,5 +1,6 @@
 #include "FormulaReader.h"
 
+#include "powersOfTen.h"
 #include "roundUp.h"
 
 #include <algorithm>
@@ -90,9 +91,6 @@ constexpr bool isLetter(char c) {
 constexpr bool isWordCharacter(char c) {
     return isLetter(c) || isDigit(c) || c == '_';
 }
-
-constexpr std::array<double, 16> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 /// A number of more digits than a double holds exactly, which is between `begin` and `end`.
 double longNumber(const char* begin, const char* end) {

@@ -18,9 +18,9 @@ using namespace fleetwright;
 namespace {
 
 /// A form with a button for the keyboard, and with a menu.
-class Page : public Form {
+class PageWithMenu : public Form {
 public:
-    Page() : Form({.name = "page", .width = 4500, .height = 3000}) {}
+    PageWithMenu() : Form({.name = "page", .width = 4500, .height = 3000}) {}
 
     Button button{
         *this, {.name = "button", .place = {1500, 900, 900, 300}, .caption = "OK"}, [] {}};
@@ -52,15 +52,15 @@ TEST(QtDesktop, TheFiltersOfFileDialogsShowToTheLetter) {
 }
 
 TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
-    Page form;
-    Page other;
+    PageWithMenu form;
+    PageWithMenu other;
     QtDesktop desktop;
     desktop.present(form);
     desktop.present(other);
     form.show();
     other.show();
     other.button.setFocus();
-    const auto placeOf = [&](Page& owner) {
+    const auto placeOf = [&](PageWithMenu& owner) {
         QPoint place;
         QTimer::singleShot(0, [&] {
             QWidget* const menu = QApplication::activePopupWidget();
