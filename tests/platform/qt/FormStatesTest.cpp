@@ -88,6 +88,18 @@ TEST_F(FormStates, AKeyGoesToItsBoxFirstAndThenToTheForm) {
     }
 }
 
+TEST_F(FormStates, ATextThatIsOnlyShownIsShownWhole) {
+    auto& name = widget<QLineEdit>("name");
+    const auto textWidth = [&] { return name.fontMetrics().horizontalAdvance(name.text()); };
+    while (textWidth() < name.width()) {
+        page.name.setText(page.name.text() + 'n');
+    }
+    page.name.setLocked(true);
+    EXPECT_LT(textWidth(), name.width());
+    page.name.setLocked(false);
+    EXPECT_GE(textWidth(), name.width()) << "what is typed stands in plain letters";
+}
+
 TEST_F(FormStates, TheWindowFollowsTheFormAndTheFormTheWindow) {
     takeLog();
     page.resize(6000 + Form::frameWidth, 4500 + Form::frameHeight);

@@ -83,6 +83,26 @@ std::string textOf(const QPlainTextEdit& edit) {
     return edit.document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n").toStdString();
 }
 
+constexpr int plainStretch = 100;  // percent
+
+void setStretch(QLineEdit& line, int stretch) {
+    QFont font = line.font();
+    font.setStretch(stretch);
+    if (font != line.font()) {
+        line.setFont(font);
+    }
+}
+
+/// Sets the text of a line in narrower letters if it is too long for the line, else in plain ones.
+void narrowToFit(QLineEdit& line) {
+    constexpr int narrowest = 70, step = 5, edges = 10;
+    QFont font = line.font();
+    font.setStretch(plainStretch);
+    const int needed = QFontMetrics(font).horizontalAdvance(line.text()) + edges;
+    const int fitting = plainStretch * line.width() / needed / step * step;
+    setStretch(line, std::clamp(fitting, narrowest, plainStretch));
+}
+
 /// The box of a text with many lines.
 QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
     auto* const widget = new QPlainTextEdit(parent);
@@ -124,6 +144,12 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
             widget->setCursorPosition(0);
         }
         widget->setReadOnly(box.isLocked());
+        // What is typed stands in plain letters, what is only shown is shown whole.
+        if (box.isLocked()) {
+            narrowToFit(*widget);
+        } else {
+            setStretch(*widget, plainStretch);
+        }
         QPalette palette = widget->parentWidget()->palette();
         if (box.isLocked() || box.design().isFlat) {
             palette.setColor(QPalette::Base, palette.color(QPalette::Window));
@@ -182,23 +208,6 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     });
     return widget;
 }
-
-namespace {
-
-/// Sets the text of a line in narrower letters if it is too long for the line, else in plain ones.
-void narrowToFit(QLineEdit& line) {
-    constexpr int narrowest = 70, step = 5, plain = 100, edges = 8;
-    QFont font = line.font();
-    font.setStretch(plain);
-    const int needed = QFontMetrics(font).horizontalAdvance(line.text()) + edges;
-    const int fitting = plain * line.width() / needed / step * step;
-    font.setStretch(std::clamp(fitting, narrowest, plain));
-    if (font != line.font()) {
-        line.setFont(font);
-    }
-}
-
-}  // namespace
 
 QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
     auto* const widget = new QComboBox(parent);
