@@ -26,8 +26,9 @@ void fetchLargePages() {
     void* volatile growth = std::malloc(mebibyte);  // volatile, so that it is not left out
     std::free(growth);
     mallopt(M_TOP_PAD, mebibyte);
-    const auto end = reinterpret_cast<std::uintptr_t>(sbrk(0)) / page * page;
-    madvise(reinterpret_cast<void*>(end - sheetMemory), sheetMemory, MADV_HUGEPAGE);
+    char* const end = static_cast<char*>(sbrk(0));
+    madvise(end - reinterpret_cast<std::uintptr_t>(end) % page - sheetMemory, sheetMemory,
+            MADV_HUGEPAGE);
 #endif
 }
 
