@@ -128,7 +128,7 @@ TEST_F(SheetTool, DrawsEachShipIntoAFolderAndSaysWhatItCannot) {
     std::vector<std::string> ships = {"good.shp", "plain.shp", "bad.shp", "large.shp"};
     fs::create_directory(m_folder.path() / "more");
     fs::copy(m_folder.path() / "plain.shp", m_folder.path() / "more" / "good.shp");
-    ships.push_back("more/good.shp");
+    ships.emplace_back("more/good.shp");
     ships.insert(ships.end(), {"-o", "sheets/here"});
     EXPECT_EQ(sheet(ships), "1|plain.shp:2: unknown system \"Laser\"\n"
                             "bad.shp:1: \"fast\" is no number\n"

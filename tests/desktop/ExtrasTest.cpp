@@ -17,7 +17,7 @@ Window openPage(const MainWindow& window) {
     waitFor("the keyboard to come to the menus",
             [&] { return window.get("menu item", "File").is(ATSPI_STATE_FOCUSED); });
     press({"Right", "Right", "Down", "Return"});
-    const Window page("Extras");
+    Window page("Extras");
     waitFor("the keyboard to be the designer's",
             [&] { return page.get("text", "Designer").is(ATSPI_STATE_FOCUSED); });
     return page;
