@@ -83,24 +83,29 @@ std::string textOf(const QPlainTextEdit& edit) {
     return edit.document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n").toStdString();
 }
 
-constexpr int plainStretch = 100;  // percent
-
-void setStretch(QLineEdit& line, int stretch) {
+/// The font of a line in letters of plain width.
+QFont plainFont(const QLineEdit& line) {
     QFont font = line.font();
-    font.setStretch(stretch);
+    font.setStretch(line.parentWidget()->font().stretch());
+    return font;
+}
+
+/// The same in narrower letters, if its text is too long for the line.
+QFont fittingFont(const QLineEdit& line) {
+    constexpr int narrowest = 70, step = 5, plain = 100, edges = 10;
+    QFont font = plainFont(line);
+    const int needed = QFontMetrics(font).horizontalAdvance(line.text()) + edges;
+    if (needed > line.width()) {
+        font.setStretch(std::max(plain * line.width() / needed / step * step, narrowest));
+    }
+    return font;
+}
+
+/// Each font that is set is looked up anew, which takes long.
+void changeFont(QLineEdit& line, const QFont& font) {
     if (font != line.font()) {
         line.setFont(font);
     }
-}
-
-/// Sets the text of a line in narrower letters if it is too long for the line, else in plain ones.
-void narrowToFit(QLineEdit& line) {
-    constexpr int narrowest = 70, step = 5, edges = 10;
-    QFont font = line.font();
-    font.setStretch(plainStretch);
-    const int needed = QFontMetrics(font).horizontalAdvance(line.text()) + edges;
-    const int fitting = plainStretch * line.width() / needed / step * step;
-    setStretch(line, std::clamp(fitting, narrowest, plainStretch));
 }
 
 /// The box of a text with many lines.
@@ -145,11 +150,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
         }
         widget->setReadOnly(box.isLocked());
         // What is typed stands in plain letters, what is only shown is shown whole.
-        if (box.isLocked()) {
-            narrowToFit(*widget);
-        } else {
-            setStretch(*widget, plainStretch);
-        }
+        changeFont(*widget, box.isLocked() ? fittingFont(*widget) : plainFont(*widget));
         QPalette palette = widget->parentWidget()->palette();
         if (box.isLocked() || box.design().isFlat) {
             palette.setColor(QPalette::Base, palette.color(QPalette::Window));
@@ -233,7 +234,7 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
         if (widget->currentText() != text) {
             widget->setEditText(text);
         }
-        narrowToFit(*widget->lineEdit());
+        changeFont(*widget->lineEdit(), fittingFont(*widget->lineEdit()));
         widget->lineEdit()->setToolTip(text);  // which may be longer than the box still
     });
     widget->view()->setTextElideMode(Qt::ElideNone);
