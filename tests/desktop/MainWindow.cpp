@@ -50,7 +50,7 @@ std::string toText(const nlohmann::json& value) {
 std::string toText(const Shown& shown) {
     std::string text;
     for (const auto& [name, value] : shown) {
-        text += "  " + name + ": " + value + '\n';
+        text.append("  ").append(name).append(": ").append(value).append("\n");
     }
     return text;
 }
