@@ -67,6 +67,7 @@ public:
     }
     Run(const Run&) = delete;
     Run& operator=(const Run&) = delete;
+    ~Run() = default;
 
     bool hasEnded() const { return m_hasEnded; }
 
@@ -187,17 +188,13 @@ private:
 
     /// The windows that the user can act on.
     std::vector<Form*> reachableForms() {
-        std::vector<Form*> forms;
-        bool isMainFree = true;
-        for (auto form = m_inFront.rbegin(); form != m_inFront.rend(); ++form) {
-            if (*form == nullptr) {
-                return forms;
-            }
-            forms.push_back(*form);
-            isMainFree = false;
+        const auto box = std::find(m_inFront.rbegin(), m_inFront.rend(), nullptr);
+        std::vector<Form*> forms(m_inFront.rbegin(), box);
+        if (box != m_inFront.rend()) {
+            return forms;
         }
-        if (isMainFree) {
-            forms.insert(forms.end(), 4, &m_main);
+        if (forms.empty()) {
+            forms.assign(4, &m_main);
         }
         forms.insert(forms.end(), m_others.begin(), m_others.end());
         std::erase_if(forms, [](const Form* form) { return !form->isVisible(); });

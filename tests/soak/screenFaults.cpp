@@ -95,7 +95,7 @@ private:
         const auto text = [](const auto& systems) {
             std::string all;
             for (const auto& [name, count] : systems) {
-                all += name + ' ' + count + ", ";
+                all.append(name).append(" ").append(count).append(", ");
             }
             return all;
         };

@@ -38,7 +38,7 @@ TEST(QtPrinter, PrintsLinesThatCanBeReadBackAndBreaksLongOnes) {
     EXPECT_TRUE(text.starts_with("Ship Name: Né\n\n    3   Gun\nxxx")) << text.substr(0, 80);
     EXPECT_EQ(text.find(std::string(120, 'x')), std::string::npos);
     EXPECT_NE(text.find("xend\n"), std::string::npos);
-    EXPECT_NE(text.find("\f"), std::string::npos) << "more than one page";
+    EXPECT_NE(text.find('\f'), std::string::npos) << "more than one page";
     EXPECT_NE(text.find("line 100\n"), std::string::npos);
 }
 
