@@ -25,7 +25,7 @@ void fetchLargePages() {
     mallopt(M_TOP_PAD, sheetMemory);
     void* volatile growth = std::malloc(mebibyte);  // volatile, so that it is not left out
     std::free(growth);
-    mallopt(M_TOP_PAD, mebibyte);
+    mallopt(M_TOP_PAD, mebibyte);  // from here on it grows by what is needed
     char* const end = static_cast<char*>(sbrk(0));
     madvise(end - reinterpret_cast<std::uintptr_t>(end) % page - sheetMemory, sheetMemory,
             MADV_HUGEPAGE);
