@@ -54,14 +54,14 @@ void checkPlaces(const SSDMap& map, const MapPlaces& places) {
     std::int16_t controls = 0;
     for (const MapPlace& place : places.places) {
         bool isSame = true;
-        if (place.key == weaponKey) {
+        if (place.keyword == MapKeyword::Weap) {
             isSame = place.x == map.getWeapPntX(weapons) && place.y == map.getWeapPntY(weapons) &&
                      place.arc == map.getWeapPntArc(weapons);
             ++weapons;
-        } else if (place.key == partyKey) {
+        } else if (place.keyword == MapKeyword::Dcp) {
             isSame = place.x == map.getDCPPntX(parties) && place.y == map.getDCPPntY(parties);
             ++parties;
-        } else if (place.key == fireControlKey) {
+        } else if (place.keyword == MapKeyword::FireCon) {
             isSame =
                 place.x == map.getFIRECONPntX(controls) && place.y == map.getFIRECONPntY(controls);
             ++controls;

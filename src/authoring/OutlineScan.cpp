@@ -11,8 +11,9 @@ namespace {
 
 constexpr std::string_view lineEnd = "\r\n";
 
-std::string number(int value) {
-    return std::to_string(value);
+/// Begins a line of a map.
+std::string& beginLine(std::string& text, MapKeyword keyword) {
+    return text.append(mapWord(keyword)).append(": ");
 }
 
 constexpr auto longestRun = std::numeric_limits<std::int16_t>::max();
@@ -44,7 +45,7 @@ OutlineScan::OutlineScan(const Raster& picture, std::string_view imageFile) : m_
     narrow<std::int16_t>(picture.width());
     narrow<std::int16_t>(picture.height());
     const std::string_view name = imageFile.substr(imageFile.find_last_of("\\/") + 1);
-    m_text.append("IMAGE: ").append(name).append(lineEnd);
+    beginLine(m_text, MapKeyword::Image).append(name).append(lineEnd);
 }
 
 int OutlineScan::plainPixels(int iCol, int iRow) const {
@@ -79,15 +80,15 @@ void OutlineScan::measure(std::uint32_t colour) {
     }
     for (const TrackLength& track : trackLengths) {
         if (m_iRunLength == track.blackPixels + 1) {  // the mark itself counts too
-            m_text.append("SIZE: ").append(number(track.size)).append(lineEnd);
+            beginLine(m_text, MapKeyword::Size).append(std::to_string(track.size)).append(lineEnd);
         }
     }
     m_isMeasuring = false;
 }
 
 void OutlineScan::takeMark(std::uint32_t colour, int iCol, int iRow) {
-    m_text.append(markKey(colour)).append(": (");
-    m_text.append(number(iCol)).append(",").append(number(iRow));
+    beginLine(m_text, markKeyword(colour)).append("(").append(std::to_string(iCol));
+    m_text.append(",").append(std::to_string(iRow));
     if (colour == Yellow) {
         m_text.append(",").append(1, weapArc(m_picture, iCol, iRow));
     }

@@ -1,11 +1,11 @@
 #include "checkMapPlaces.h"
 
+#include "Error.h"
 #include "HullRules.h"
 #include "SheetPictures.h"
 #include "mapMarks.h"
 
 #include <algorithm>
-#include <array>
 
 namespace fleetwright {
 
@@ -27,13 +27,30 @@ struct Box {
         return place->x < other.right() && other.place->x < right() && place->y < other.bottom() &&
                other.place->y < bottom();
     }
-    std::string name() const { return place->key + " box at " + at(place->x, place->y); }
+    std::string name() const {
+        return std::string(mapWord(place->keyword)) + " box at " + at(place->x, place->y);
+    }
 };
 
-bool isArc(std::string_view arc) {
-    return std::any_of(arcMarks.begin(), arcMarks.end(), [&](const ArcMark& known) {
-        return arc == std::string_view(&known.arc, 1);
-    });
+bool isWeaponOfNoArc(const MapPlace& place) {
+    return place.keyword == MapKeyword::Weap && !isMapArc(place.arc);
+}
+
+/// Whether something is pasted over a pixel of the outline, row by row.
+std::vector<bool> coveredPixels(const std::vector<Box>& boxes, const Raster& outline) {
+    const auto width = static_cast<std::size_t>(outline.width());
+    std::vector<bool> covered(width * static_cast<std::size_t>(outline.height()));
+    for (const Box& box : boxes) {
+        const int left = std::max(box.place->x, 0);
+        const int right = std::min(box.right(), outline.width());
+        const int bottom = std::min(box.bottom(), outline.height());
+        for (int y = std::max(box.place->y, 0); y < bottom; ++y) {
+            for (int x = left; x < right; ++x) {
+                covered[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)] = true;
+            }
+        }
+    }
+    return covered;
 }
 
 class PlaceCheck {
@@ -62,28 +79,24 @@ private:
 
     bool hasTrack() const { return m_map.size <= capitalMass; }
 
-    /// Of the keys that name one place only the last line counts.
-    bool isOverridden(const MapPlace& place) const {
-        return (place.key == trackKey || place.key == driveKey || place.key == thrustKey) &&
-               &place != last(place.key);
-    }
-
-    const MapPlace* last(std::string_view key) const {
-        const auto found = std::find_if(m_map.places.rbegin(), m_map.places.rend(),
-                                        [&](const MapPlace& place) { return place.key == key; });
+    const MapPlace* last(MapKeyword keyword) const {
+        const auto found =
+            std::find_if(m_map.places.rbegin(), m_map.places.rend(),
+                         [&](const MapPlace& place) { return place.keyword == keyword; });
         return found == m_map.places.rend() ? nullptr : &*found;
     }
 
     /// How many lines of a key there are whose place is not known.
-    std::ptrdiff_t unread(std::string_view key) const {
-        return std::count(m_map.unread.begin(), m_map.unread.end(), key);
+    std::ptrdiff_t unread(MapKeyword keyword) const {
+        return std::count(m_map.unread.begin(), m_map.unread.end(), keyword);
     }
 
     void addBox(const MapPlace& place) {
-        if (isOverridden(place) || (place.key == weaponKey && !isArc(place.arc))) {
+        const bool isOverridden = !isAppending(place.keyword) && &place != last(place.keyword);
+        if (isOverridden || isWeaponOfNoArc(place)) {
             return;
         }
-        if (place.key != trackKey) {
+        if (place.keyword != MapKeyword::DamRow) {
             m_boxes.push_back({&place, systemPictureSize, systemPictureSize});
         } else if (hasTrack()) {
             const PictureSize track = trackPictureSize(trackSize(m_map.size));
@@ -99,11 +112,11 @@ private:
             complain(m_map.sizeLine,
                      "above SIZE " + std::to_string(capitalMass) + " no damage track is drawn");
         }
-        for (const auto& [key, what] : {std::pair{trackKey, "damage track"},
-                                        {driveKey, "FTL drive"},
-                                        {thrustKey, "thrust drive"}}) {
-            if (last(key) == nullptr && unread(key) == 0) {
-                complain(0, "no " + std::string(key) + " line, so that the " + what +
+        for (const auto& [keyword, what] : {std::pair{MapKeyword::DamRow, "damage track"},
+                                            {MapKeyword::Ftl, "FTL drive"},
+                                            {MapKeyword::Thrust, "thrust drive"}}) {
+            if (last(keyword) == nullptr && unread(keyword) == 0) {
+                complain(0, "no " + std::string(mapWord(keyword)) + " line, so that the " + what +
                                 " is drawn at (0,0)");
             }
         }
@@ -111,21 +124,21 @@ private:
 
     void checkArcs() {
         std::string missing;
-        for (const ArcMark& mark : arcMarks) {
+        for (const char arc : mapArcs) {
             const bool isThere =
                 std::any_of(m_map.places.begin(), m_map.places.end(), [&](const MapPlace& place) {
-                    return place.key == weaponKey && place.arc == std::string(1, mark.arc);
+                    return place.keyword == MapKeyword::Weap && place.arc == std::string(1, arc);
                 });
             if (!isThere) {
                 missing += missing.empty() ? "" : ", ";
-                missing += mark.arc;
+                missing += arc;
             }
         }
         if (!missing.empty()) {
             complain(0, "no weapon point for the arc " + missing);
         }
         for (const MapPlace& place : m_map.places) {
-            if (place.key == weaponKey && !isArc(place.arc)) {
+            if (isWeaponOfNoArc(place)) {
                 complain(place.line, "unknown arc \"" + place.arc +
                                          "\", so that the point is neither used nor covered");
             }
@@ -142,15 +155,16 @@ private:
             most.damageControlParties =
                 std::max(most.damageControlParties, figures.damageControlParties);
         }
-        checkCount(fireControlKey, "fire controls", most.fireControls);
-        checkCount(partyKey, "damage control parties", most.damageControlParties);
+        checkCount(MapKeyword::FireCon, "fire controls", most.fireControls);
+        checkCount(MapKeyword::Dcp, "damage control parties", most.damageControlParties);
     }
 
-    void checkCount(std::string_view key, const char* what, int most) {
-        const auto count = std::count_if(m_map.places.begin(), m_map.places.end(),
-                                         [&](const MapPlace& place) { return place.key == key; });
-        if (m_map.sizeLine != 0 && count + unread(key) < most) {
-            complain(m_map.sizeLine, std::to_string(count) + " " + std::string(key) +
+    void checkCount(MapKeyword keyword, const char* what, int most) {
+        const auto count =
+            std::count_if(m_map.places.begin(), m_map.places.end(),
+                          [&](const MapPlace& place) { return place.keyword == keyword; });
+        if (m_map.sizeLine != 0 && count + unread(keyword) < most) {
+            complain(m_map.sizeLine, std::to_string(count) + " " + std::string(mapWord(keyword)) +
                                          " points, but ships of this SIZE have up to " +
                                          std::to_string(most) + " " + what);
         }
@@ -178,27 +192,9 @@ private:
         }
     }
 
-    /// Whether something is pasted over a pixel.
-    std::vector<bool> coveredPixels() const {
-        const auto width = static_cast<std::size_t>(m_outline.width());
-        std::vector<bool> covered(width * static_cast<std::size_t>(m_outline.height()));
-        for (const Box& box : m_boxes) {
-            const int left = std::max(box.place->x, 0);
-            const int right = std::min(box.right(), m_outline.width());
-            const int bottom = std::min(box.bottom(), m_outline.height());
-            for (int y = std::max(box.place->y, 0); y < bottom; ++y) {
-                for (int x = left; x < right; ++x) {
-                    covered[static_cast<std::size_t>(y) * width + static_cast<std::size_t>(x)] =
-                        true;
-                }
-            }
-        }
-        return covered;
-    }
-
     void checkMarks() {
         constexpr int mostNamed = 10;
-        const std::vector<bool> covered = coveredPixels();
+        const std::vector<bool> covered = coveredPixels(m_boxes, m_outline);
         int bare = 0;
         auto pixel = covered.begin();
         for (int y = 0; y < m_outline.height(); ++y) {
@@ -218,7 +214,7 @@ private:
     void checkTrackMark() {
         for (const Box& box : m_boxes) {
             const int y = box.place->y;
-            if (box.place->key != trackKey || box.place->x < 0 || y < 0 ||
+            if (box.place->keyword != MapKeyword::DamRow || box.place->x < 0 || y < 0 ||
                 box.place->x >= m_outline.width() || y >= m_outline.height() ||
                 m_outline.pixel(box.place->x, y) != Magenta) {
                 continue;
@@ -241,7 +237,45 @@ private:
     std::vector<Fault> m_faults;
 };
 
+void readPlaces(MapPlaces& map, const SSDMapLine& line) {
+    switch (line.keyword) {
+    case MapKeyword::Unknown:
+        return;
+    case MapKeyword::Size:
+        map.sizeLine = line.number;
+        map.size = mapNumber(line.value);
+        return;
+    case MapKeyword::Image:
+        map.imageLine = line.number;
+        map.image = line.value;
+        return;
+    default:
+        const SSDPoint point = mapPoint(line);
+        map.places.push_back({.keyword = line.keyword,
+                              .x = point.iPntX,
+                              .y = point.iPntY,
+                              .arc = point.sArc,
+                              .line = line.number});
+    }
+}
+
 }  // namespace
+
+MapPlaces readMapPlaces(std::string_view text) {
+    MapPlaces map;
+    SSDMapLines lines(text);
+    SSDMapLine line;
+    while (lines.next(line)) {
+        try {
+            readPlaces(map, line);
+        } catch (const Error&) {
+            if (line.keyword != MapKeyword::Size) {
+                map.unread.push_back(line.keyword);
+            }
+        }
+    }
+    return map;
+}
 
 std::vector<Fault> checkMapPlaces(const MapPlaces& map, const Raster& outline) {
     return PlaceCheck(map, outline).run();

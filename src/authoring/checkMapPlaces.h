@@ -2,6 +2,7 @@
 
 #include "Fault.h"
 #include "Raster.h"
+#include "SSDMapLine.h"
 
 #include <string>
 #include <string_view>
@@ -11,8 +12,8 @@ namespace fleetwright {
 
 /// A line of a map that says where something is pasted on the outline.
 struct MapPlace {
-    std::string key;  ///< "WEAP", "FIRECON", "DCP", "DAMROW", "FTL" or "THRUST"
-    int x = 0;        ///< upper left corner of what is pasted, in pixels
+    MapKeyword keyword = MapKeyword::Unknown;
+    int x = 0;  ///< upper left corner of what is pasted, in pixels
     int y = 0;
     std::string arc;  ///< of a weapon; as the map says it, in capitals
     int line = 0;     ///< from 1
@@ -20,12 +21,12 @@ struct MapPlace {
 
 /// What a map says about the places on its outline.
 struct MapPlaces {
-    int size = 0;                     ///< the largest ship mass; 0 without a SIZE line
-    int sizeLine = 0;                 ///< line of SIZE; 0 without one
-    int imageLine = 0;                ///< line of IMAGE; 0 without one
-    std::string image = {};           ///< the outline that it names
-    std::vector<MapPlace> places;     ///< in the order of the map
-    std::vector<std::string> unread;  ///< keys of the lines whose place cannot be read
+    int size = 0;                    ///< the largest ship mass; 0 without a SIZE line
+    int sizeLine = 0;                ///< line of SIZE; 0 without one
+    int imageLine = 0;               ///< line of IMAGE; 0 without one
+    std::string image = {};          ///< the outline that it names
+    std::vector<MapPlace> places;    ///< in the order of the map
+    std::vector<MapKeyword> unread;  ///< of the lines whose place cannot be read
 };
 
 /// What the text of a map file says about the places. What is wrong with its lines is passed over.

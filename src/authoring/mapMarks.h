@@ -3,9 +3,10 @@
 // The marks that an author paints on a ship outline, one pixel each in a pure colour. Whoever
 // paints, scans or explains marks takes their colours from here.
 
+#include "SSDMapLine.h"
+
 #include <array>
 #include <cstdint>
-#include <string_view>
 
 namespace fleetwright {
 
@@ -20,21 +21,18 @@ enum MarkColour : std::uint32_t {
     Yellow = 0xFFFF00
 };
 
-/// A mark and the key of the line that it makes in a map.
+/// A mark and what the line is about that it makes in a map.
 struct MapMark {
     std::uint32_t colour;
-    std::string_view key;
+    MapKeyword keyword;
 };
 
-inline constexpr std::string_view weaponKey = "WEAP", fireControlKey = "FIRECON", partyKey = "DCP",
-                                  trackKey = "DAMROW", driveKey = "FTL", thrustKey = "THRUST";
-
-inline constexpr std::array<MapMark, 6> mapMarks = {{{Red, fireControlKey},
-                                                     {Green, thrustKey},
-                                                     {Yellow, weaponKey},
-                                                     {Blue, partyKey},
-                                                     {Magenta, trackKey},
-                                                     {Cyan, driveKey}}};
+inline constexpr std::array<MapMark, 6> mapMarks = {{{Red, MapKeyword::FireCon},
+                                                     {Green, MapKeyword::Thrust},
+                                                     {Yellow, MapKeyword::Weap},
+                                                     {Blue, MapKeyword::Dcp},
+                                                     {Magenta, MapKeyword::DamRow},
+                                                     {Cyan, MapKeyword::Ftl}}};
 
 /// The pixel at the right of a weapon mark that says the weapon's arc.
 struct ArcMark {
@@ -60,7 +58,14 @@ constexpr bool isMark(std::uint32_t colour) {
     return (full == colour) & (colour != Black) & (colour != white);  // without branches: quicker
 }
 
-/// The key of the line that a mark makes. The colour is that of a mark.
-std::string_view markKey(std::uint32_t colour);
+/// What the line is about that a mark of this colour makes; `Unknown` if it is no mark's.
+constexpr MapKeyword markKeyword(std::uint32_t colour) {
+    for (const MapMark& mark : mapMarks) {
+        if (mark.colour == colour) {
+            return mark.keyword;
+        }
+    }
+    return MapKeyword::Unknown;
+}
 
 }  // namespace fleetwright

@@ -57,16 +57,13 @@ bool SSDMap::loadMap(const std::string& in_sFileName) {
     const std::string text = readMapFile(m_appFolder, in_sFileName);
     sDisplayName = in_sFileName;
 
-    LineReader lines(text);
-    std::string_view line;
+    SSDMapLines lines(text);
+    SSDMapLine line;
     while (lines.next(line)) {
-        if (isMapComment(line)) {
-            continue;
-        }
         try {
-            readLine(cutMapLine(line));
+            readLine(line);
         } catch (const Error& error) {
-            m_fileFault = {lines.lineNumber(), error.what()};
+            m_fileFault = {line.number, error.what()};
             throw;
         }
     }
@@ -74,29 +71,29 @@ bool SSDMap::loadMap(const std::string& in_sFileName) {
 }
 
 void SSDMap::readLine(const SSDMapLine& line) {
-    switch (line.key) {
-    case MapKey::Size:
+    switch (line.keyword) {
+    case MapKeyword::Size:
         iMaxMass = mapNumber(line.value);
         return;
-    case MapKey::Image:
+    case MapKeyword::Image:
         sImgFile = outlinePath(m_appFolder, line.value);
         return;
-    case MapKey::Weap:
-        return append(m_aWeapPnts, iWeapNDX, parseWeapPoint(line.value));
-    case MapKey::FireCon:
-        return append(m_aFireconPnts, iFIRECONNDX, parsePoint(line.value));
-    case MapKey::Dcp:
-        return append(m_aDCPPnts, iDCPNDX, parsePoint(line.value));
-    case MapKey::DamRow:
-        m_ptDam = parsePoint(line.value);
+    case MapKeyword::Weap:
+        return append(m_aWeapPnts, iWeapNDX, mapPoint(line));
+    case MapKeyword::FireCon:
+        return append(m_aFireconPnts, iFIRECONNDX, mapPoint(line));
+    case MapKeyword::Dcp:
+        return append(m_aDCPPnts, iDCPNDX, mapPoint(line));
+    case MapKeyword::DamRow:
+        m_ptDam = mapPoint(line);
         return;
-    case MapKey::Ftl:
-        m_ptFTL = parsePoint(line.value);
+    case MapKeyword::Ftl:
+        m_ptFTL = mapPoint(line);
         return;
-    case MapKey::Thrust:
-        m_ptThrust = parsePoint(line.value);
+    case MapKeyword::Thrust:
+        m_ptThrust = mapPoint(line);
         return;
-    case MapKey::Unknown:
+    case MapKeyword::Unknown:
         return;
     }
 }

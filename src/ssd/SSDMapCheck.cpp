@@ -2,7 +2,6 @@
 
 #include "Error.h"
 #include "SSDMap.h"
-#include "TextFile.h"
 #include "folders.h"
 
 #include <algorithm>
@@ -16,10 +15,6 @@ namespace fleetwright {
 namespace fs = std::filesystem;
 
 namespace {
-
-bool isAppending(MapKey key) {
-    return key == MapKey::Weap || key == MapKey::FireCon || key == MapKey::Dcp;
-}
 
 class MapChecker {
 public:
@@ -39,38 +34,36 @@ private:
 
     fs::path m_appFolder;
     std::vector<Fault> m_faults;
-    std::map<MapKey, int> m_lastLines;
-    std::map<MapKey, int> m_counts;
+    std::map<MapKeyword, int> m_lastLines;
+    std::map<MapKeyword, int> m_counts;
     int m_line = 0;
 };
 
 std::vector<Fault> MapChecker::check(std::string_view text) {
-    LineReader lines(text);
-    std::string_view line;
+    SSDMapLines lines(text);
+    SSDMapLine line;
     while (lines.next(line)) {
-        m_line = lines.lineNumber();
-        if (!isMapComment(line)) {
-            checkLine(cutMapLine(line));
-        }
+        m_line = line.number;
+        checkLine(line);
     }
-    if (!m_lastLines.contains(MapKey::Image)) {
+    if (!m_lastLines.contains(MapKeyword::Image)) {
         m_line = 0;
-        complain("no line \"IMAGE\"");
+        complain("no line " + quote(mapWord(MapKeyword::Image)));
     }
     return std::move(m_faults);
 }
 
 void MapChecker::checkLine(const SSDMapLine& line) {
-    if (line.key == MapKey::Unknown) {
-        complain("nobody reads the key " + quote(line.keyText));
+    if (line.keyword == MapKeyword::Unknown) {
+        complain("nobody reads the key " + quote(line.word));
         return;
     }
     countLine(line);
     try {
-        switch (line.key) {
-        case MapKey::Size:
+        switch (line.keyword) {
+        case MapKeyword::Size:
             return checkSize(line.value);
-        case MapKey::Image:
+        case MapKeyword::Image:
             return checkImage(line.value);
         default:
             return checkPoint(line);
@@ -81,15 +74,15 @@ void MapChecker::checkLine(const SSDMapLine& line) {
 }
 
 void MapChecker::countLine(const SSDMapLine& line) {
-    const auto [earlier, isFirst] = m_lastLines.try_emplace(line.key, m_line);
-    if (!isFirst && !isAppending(line.key)) {
-        complain("a second line " + quote(line.keyText) + ": also line " +
+    const auto [earlier, isFirst] = m_lastLines.try_emplace(line.keyword, m_line);
+    if (!isFirst && !isAppending(line.keyword)) {
+        complain("a second line " + quote(line.word) + ": also line " +
                  std::to_string(earlier->second));
         earlier->second = m_line;
     }
     constexpr int most = std::numeric_limits<std::int16_t>::max();
-    if (++m_counts[line.key] == most + 1 && isAppending(line.key)) {
-        complain("more than " + std::to_string(most) + " lines " + quote(line.keyText));
+    if (++m_counts[line.keyword] == most + 1 && isAppending(line.keyword)) {
+        complain("more than " + std::to_string(most) + " lines " + quote(line.word));
     }
 }
 
@@ -107,11 +100,7 @@ void MapChecker::checkImage(std::string_view value) {
 }
 
 void MapChecker::checkPoint(const SSDMapLine& line) {
-    if (line.key == MapKey::Weap) {
-        parseWeapPoint(line.value);
-    } else {
-        parsePoint(line.value);
-    }
+    mapPoint(line);
     if (!line.value.starts_with('(') || !line.value.ends_with(')')) {
         complain("no parentheses around " + quote(line.value) + ", which is read as " +
                  quote(withoutEnds(line.value)));
@@ -136,7 +125,7 @@ void MapChecker::checkFields(const SSDMapLine& line) {
         inside.remove_prefix(comma + 1);
     }
     constexpr int weaponFields = 3;
-    if (line.key == MapKey::Weap && fields > weaponFields) {
+    if (line.keyword == MapKeyword::Weap && fields > weaponFields) {
         complain("what stands behind the third comma is lost");
     }
 }

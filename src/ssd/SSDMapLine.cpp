@@ -8,8 +8,6 @@
 #include "wholeNumber.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
 
 namespace fleetwright {
 
@@ -21,55 +19,6 @@ bool isInCapitals(std::string_view text, std::string_view word) {
     return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char a, char b) {
         return a == b || (a >= 'a' && a <= 'z' && a - 'a' + 'A' == b);
     });
-}
-
-MapKey mapKeyOf(std::string_view text) {
-    static constexpr std::array<std::pair<std::string_view, MapKey>, 8> keys = {{
-        {"WEAP", MapKey::Weap},
-        {"DCP", MapKey::Dcp},
-        {"FIRECON", MapKey::FireCon},
-        {"SIZE", MapKey::Size},
-        {"IMAGE", MapKey::Image},
-        {"DAMROW", MapKey::DamRow},
-        {"FTL", MapKey::Ftl},
-        {"THRUST", MapKey::Thrust},
-    }};
-    for (const auto& [word, key] : keys) {
-        if (isInCapitals(text, word)) {
-            return key;
-        }
-    }
-    return MapKey::Unknown;
-}
-
-}  // namespace
-
-bool isMapComment(std::string_view line) {
-    return line.empty() || line.front() == '#';
-}
-
-SSDMapLine cutMapLine(std::string_view line) {
-    const std::size_t colon = line.find(':');
-    SSDMapLine cut;
-    cut.keyText = trimmed(line.substr(0, colon));
-    cut.key = mapKeyOf(cut.keyText);
-    if (colon != std::string_view::npos) {
-        cut.value = trimmed(line.substr(colon + 1));
-    }
-    return cut;
-}
-
-std::int16_t mapNumber(std::string_view text) {
-    return narrow<std::int16_t>(wholeNumber(text));
-}
-
-std::string_view withoutEnds(std::string_view value) {
-    if (value.empty() || characterLength(value) == value.size()) {
-        throw Error('"' + std::string(value) + "\" is too short for a point");
-    }
-    value.remove_prefix(characterLength(value));
-    value.remove_suffix(lastCharacter(value).size());
-    return value;
 }
 
 SSDPoint parsePoint(std::string_view value) {
@@ -87,6 +36,50 @@ SSDPoint parseWeapPoint(std::string_view value) {
     point.iPntY = mapNumber(cutter.next(','));
     point.sArc = toCapitals(trimmed(cutter.next(',')));
     return point;
+}
+
+}  // namespace
+
+MapKeyword mapKeyword(std::string_view text) {
+    for (const auto& [keyword, word] : mapKeywords) {
+        if (isInCapitals(text, word)) {
+            return keyword;
+        }
+    }
+    return MapKeyword::Unknown;
+}
+
+bool SSDMapLines::next(SSDMapLine& line) {
+    std::string_view text;
+    do {
+        if (!m_lines.next(text)) {
+            return false;
+        }
+    } while (text.empty() || text.front() == '#');
+    const std::size_t colon = text.find(':');
+    line.word = trimmed(text.substr(0, colon));
+    line.keyword = mapKeyword(line.word);
+    line.value =
+        colon == std::string_view::npos ? std::string_view() : trimmed(text.substr(colon + 1));
+    line.number = m_lines.lineNumber();
+    return true;
+}
+
+SSDPoint mapPoint(const SSDMapLine& line) {
+    return line.keyword == MapKeyword::Weap ? parseWeapPoint(line.value) : parsePoint(line.value);
+}
+
+std::int16_t mapNumber(std::string_view text) {
+    return narrow<std::int16_t>(wholeNumber(text));
+}
+
+std::string_view withoutEnds(std::string_view value) {
+    if (value.empty() || characterLength(value) == value.size()) {
+        throw Error('"' + std::string(value) + "\" is too short for a point");
+    }
+    value.remove_prefix(characterLength(value));
+    value.remove_suffix(lastCharacter(value).size());
+    return value;
 }
 
 }  // namespace fleetwright

@@ -37,7 +37,7 @@ void SheetLists::fillPoints(const SSDMap& map) {
     }
     for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
         const std::string& arc = map.getWeapPntArc(i);
-        if (arc.size() == 1 && mapArcs.find(arc) != std::string_view::npos) {
+        if (isMapArc(arc)) {
             weaponsIn(arc.front())->push_back(i);
         }
     }

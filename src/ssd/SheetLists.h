@@ -44,7 +44,6 @@ struct SheetLists {
     /// arcs that has any, and point 0 if there is none.
     std::int16_t pickWeapPoint(const ShipClass& ship, std::string_view name);
 
-private:
     /// The list of an arc; nullptr for another letter.
     PointList* weaponsIn(char arc);
 };

@@ -24,14 +24,16 @@ protected:
         setSize(18, 1);
     }
 
-    MapPlace& add(const char* key, int x, int y, const char* arc = "") {
+    MapPlace& add(const char* word, int x, int y, const char* arc = "") {
         const int line = m_map.places.empty() ? 2 : m_map.places.back().line + 1;
-        m_map.places.push_back({.key = key, .x = x, .y = y, .arc = arc, .line = line});
+        m_map.places.push_back(
+            {.keyword = mapKeyword(word), .x = x, .y = y, .arc = arc, .line = line});
         return m_map.places.back();
     }
 
     void remove(const std::string& key) {
-        std::erase_if(m_map.places, [&](const MapPlace& place) { return place.key == key; });
+        std::erase_if(m_map.places,
+                      [&](const MapPlace& place) { return place.keyword == mapKeyword(key); });
     }
 
     void setSize(int size, int line) {
@@ -62,7 +64,7 @@ TEST_F(MapPlacesCheck, BoxesMayTouchEachOtherAndTheEdges) {
 
 TEST_F(MapPlacesCheck, NamesBoxesThatOverlapOrLeaveTheOutline) {
     m_map.places[1].x -= 1;
-    m_map.places[7] = {.key = "FTL", .x = 169, .y = 119, .arc = {}, .line = 9};
+    m_map.places[7] = {.keyword = MapKeyword::Ftl, .x = 169, .y = 119, .arc = {}, .line = 9};
     add("DCP", -1, 80);
     add("DCP", 63, 121);
     EXPECT_EQ(faults(),
@@ -139,11 +141,11 @@ TEST(ReadMapPlaces, TakesWhatTheLinesSayAndPassesOverWhatIsWrong) {
     EXPECT_EQ(map.sizeLine, 9);
     EXPECT_EQ(map.image, "a.gif");
     EXPECT_EQ(map.imageLine, 2);
-    EXPECT_EQ(map.unread, std::vector<std::string>{"DCP"});
+    EXPECT_EQ(map.unread, std::vector{MapKeyword::Dcp});
     std::string places;
     for (const MapPlace& place : map.places) {
-        places += std::to_string(place.line) + place.key + std::to_string(place.x) + ',' +
-                  std::to_string(place.y) + place.arc + ' ';
+        places += std::to_string(place.line) + std::string(mapWord(place.keyword)) +
+                  std::to_string(place.x) + ',' + std::to_string(place.y) + place.arc + ' ';
     }
     EXPECT_EQ(places, "4WEAP1,2F 6WEAP3,44 8FTL5,6 10DAMROW-1,0 ");
 }

@@ -25,9 +25,9 @@ struct Outline {
     Raster picture;
     MapPlaces map;
 
-    std::ptrdiff_t count(const std::string& key, const std::string& arc = "") const {
+    std::ptrdiff_t count(MapKeyword keyword, const std::string& arc = "") const {
         return std::ranges::count_if(map.places, [&](const MapPlace& place) {
-            return place.key == key && (arc.empty() || place.arc == arc);
+            return place.keyword == keyword && (arc.empty() || place.arc == arc);
         });
     }
 };
@@ -61,6 +61,10 @@ int inkUnder(const QRect& box, const Raster& picture) {
     return ink;
 }
 
+std::string placeText(MapKeyword keyword, int x, int y) {
+    return std::string(mapWord(keyword)) + std::to_string(x) + ',' + std::to_string(y);
+}
+
 }  // namespace
 
 TEST(Outlines, HaveTheMapsOfTheirMarksWhichStandOnWhite) {
@@ -68,15 +72,13 @@ TEST(Outlines, HaveTheMapsOfTheirMarksWhichStandOnWhite) {
     for (const Outline& outline : outlines()) {
         std::multiset<std::string> meant, scanned;
         for (const OutlineMark& mark : outline.marks) {
-            const std::string place =
-                std::to_string(mark.box.x()) + ',' + std::to_string(mark.box.y());
-            meant.insert(mark.kind + place + (mark.arc == 0 ? "" : std::string(1, mark.arc)));
+            const std::string place = placeText(mark.keyword, mark.box.x(), mark.box.y());
+            meant.insert(place + (mark.arc == 0 ? "" : std::string(1, mark.arc)));
             // What a ship does not use is covered in white, and must not cut into the drawing.
             EXPECT_EQ(inkUnder(mark.box, outline.picture), 0) << outline.name << " at " << place;
         }
         for (const MapPlace& place : outline.map.places) {
-            scanned.insert(place.key + std::to_string(place.x) + ',' + std::to_string(place.y) +
-                           place.arc);
+            scanned.insert(placeText(place.keyword, place.x, place.y) + place.arc);
         }
         EXPECT_EQ(scanned, meant) << outline.name;
     }
@@ -91,13 +93,13 @@ TEST(Outlines, OfferPointsEnough) {
         const int size = outline.map.size;
         ++ofSize[size];
         const int fewest = fewestWeapons.at(size);
-        EXPECT_GE(outline.count("WEAP"), fewest);
+        EXPECT_GE(outline.count(MapKeyword::Weap), fewest);
         for (const char* const arc : {"F", "P", "S", "A", "B"}) {
-            EXPECT_GE(outline.count("WEAP", arc), fewest / 8) << arc;
+            EXPECT_GE(outline.count(MapKeyword::Weap, arc), fewest / 8) << arc;
         }
-        EXPECT_EQ(outline.count("WEAP", "P"), outline.count("WEAP", "S"));
+        EXPECT_EQ(outline.count(MapKeyword::Weap, "P"), outline.count(MapKeyword::Weap, "S"));
         const HullFigures largest = hullFigures({.mass = size, .hullType = Warship});
-        EXPECT_GE(outline.count("DCP"), largest.damageControlParties + 3);
+        EXPECT_GE(outline.count(MapKeyword::Dcp), largest.damageControlParties + 3);
         EXPECT_GE(outline.picture.width(), 320) << "names below the outline would be cut";
     }
     for (const auto& [size, fewest] : fewestWeapons) {
@@ -120,9 +122,9 @@ TEST(Outlines, EverySampleShipFindsOne) {
                     std::ranges::any_of(outlines(),
                                         [&](const Outline& each) {
                                             return ship.mass() <= each.map.size &&
-                                                   systems <= each.count("WEAP") &&
-                                                   parties <= each.count("DCP") &&
-                                                   ship.g_iFCS <= each.count("FIRECON");
+                                                   systems <= each.count(MapKeyword::Weap) &&
+                                                   parties <= each.count(MapKeyword::Dcp) &&
+                                                   ship.g_iFCS <= each.count(MapKeyword::FireCon);
                                         }))
             << file << ": " << systems << " systems";
     }

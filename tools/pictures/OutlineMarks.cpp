@@ -4,7 +4,6 @@
 #include "SheetPictures.h"
 #include "TextFile.h"
 #include "drawing.h"
-#include "mapMarks.h"
 
 #include <QStringList>
 #include <QXmlStreamReader>
@@ -34,22 +33,24 @@ QSize sizeOf(const QXmlStreamAttributes& attributes) {
     return {pixels(viewBox[2]), pixels(viewBox[3])};
 }
 
-void nameKind(OutlineMark& mark, const std::string& word) {
-    const auto isArc = [&](const ArcMark& arc) { return word == std::string(1, arc.arc); };
-    const auto isKey = [&](const MapMark& known) { return known.key == word; };
-    if (std::any_of(arcMarks.begin(), arcMarks.end(), isArc)) {
-        mark.kind = weaponKey;
+void nameKeyword(OutlineMark& mark, const std::string& word) {
+    if (isMapArc(word)) {
+        mark.keyword = MapKeyword::Weap;
         mark.arc = word.front();
-    } else if (word != weaponKey && std::any_of(mapMarks.begin(), mapMarks.end(), isKey)) {
-        mark.kind = word;
-    } else {
-        throw Error("unknown mark \"" + word + '"');
+        return;
     }
+    for (const MapMark& known : mapMarks) {
+        if (known.keyword != MapKeyword::Weap && mapWord(known.keyword) == word) {
+            mark.keyword = known.keyword;
+            return;
+        }
+    }
+    throw Error("unknown mark \"" + word + '"');
 }
 
 /// Whether something is pasted in this size.
 bool isPasted(const OutlineMark& mark) {
-    if (mark.kind != trackKey) {
+    if (mark.keyword != MapKeyword::DamRow) {
         return mark.box.size() == systemSize;
     }
     return std::any_of(std::begin(trackSizes), std::end(trackSizes), [&](TrackSize size) {
@@ -60,7 +61,7 @@ bool isPasted(const OutlineMark& mark) {
 
 OutlineMark readMark(const QXmlStreamAttributes& attributes) {
     OutlineMark mark;
-    nameKind(mark, attributes.value("data-mark").toString().toStdString());
+    nameKeyword(mark, attributes.value("data-mark").toString().toStdString());
     const auto number = [&](const char* name) { return pixels(attributes.value(name).toString()); };
     mark.box = {number("x"), number("y"), number("width"), number("height")};
     if (!isPasted(mark)) {

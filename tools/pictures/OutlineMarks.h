@@ -1,18 +1,19 @@
 #pragma once
 
+#include "mapMarks.h"
+
 #include <QRect>
 
 #include <filesystem>
-#include <string>
 #include <vector>
 
 namespace fleetwright {
 
 /// A place on a ship outline where something will be pasted.
 struct OutlineMark {
-    std::string kind;  ///< key of the line in a map, such as "WEAP"
-    char arc = 0;      ///< of a weapon
-    QRect box;         ///< what is pasted covers this, in pixels
+    MapKeyword keyword = MapKeyword::Unknown;  ///< of the line in a map
+    char arc = 0;                              ///< of a weapon
+    QRect box;                                 ///< what is pasted covers this, in pixels
 };
 
 /// What the source of an outline says about its size and its places.

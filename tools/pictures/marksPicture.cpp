@@ -33,10 +33,11 @@ void writeLine(QPainter& painter, QPoint place, const std::string& text,
 std::vector<std::string> linesOf(const OutlineMark& mark) {
     std::string place = '(' + std::to_string(mark.box.x()) + ',' + std::to_string(mark.box.y());
     place += mark.arc == 0 ? ")" : std::string(",") + mark.arc + ')';
-    std::vector<std::string> lines = {mark.kind + ": " + place};
+    std::vector<std::string> lines = {std::string(mapWord(mark.keyword)) + ": " + place};
     for (const TrackLength& track : trackLengths) {
-        if (mark.kind == trackKey && mark.box.width() == track.blackPixels + 1) {
-            lines.push_back("SIZE: " + std::to_string(track.size));
+        if (mark.keyword == MapKeyword::DamRow && mark.box.width() == track.blackPixels + 1) {
+            lines.push_back(std::string(mapWord(MapKeyword::Size)) + ": " +
+                            std::to_string(track.size));
         }
     }
     return lines;

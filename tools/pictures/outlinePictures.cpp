@@ -51,7 +51,7 @@ QImage drawShades(const QByteArray& svg, QSize size) {
 void setMark(QImage& image, const OutlineMark& mark) {
     const QPoint place = mark.box.topLeft();
     for (const MapMark& known : mapMarks) {
-        if (known.key == mark.kind) {
+        if (known.keyword == mark.keyword) {
             image.setPixel(place, indexOf(image, known.colour));
         }
     }
@@ -60,7 +60,7 @@ void setMark(QImage& image, const OutlineMark& mark) {
             image.setPixel(place + QPoint(1, 0), indexOf(image, arc.colour));
         }
     }
-    if (mark.kind == trackKey) {
+    if (mark.keyword == MapKeyword::DamRow) {
         for (int i = 1; i < mark.box.width(); ++i) {
             image.setPixel(place + QPoint(i, 0), indexOf(image, Black));
         }
