@@ -2,12 +2,12 @@
 // a sheet, against ImageMagick.
 
 #include "BenchFolder.h"
-#include "CatalogueImages.h"
 #include "GoalTable.h"
 #include "PictureCache.h"
 #include "QtPictureFiles.h"
 #include "RasterSheet.h"
 #include "SSDMaps.h"
+#include "SheetImages.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "drawnSheet.h"
@@ -67,26 +67,28 @@ private:
 };
 
 /// Writes down which picture is pasted where, as ImageMagick wants to hear it.
-class NotedPastes : public RasterSheet, public CatalogueImages {
+class NotedPastes : public RasterSheet {
 public:
-    NotedPastes(Raster& raster, PictureFiles& pictures, const ShipClass& ship)
-        : RasterSheet(raster), CatalogueImages(startedFolder(), pictures, ship), m_ship(ship) {}
+    NotedPastes(Raster& raster, const ShipClass& ship) : RasterSheet(raster), m_ship(ship) {}
 
-    Raster file(std::string_view name) override {
-        m_picture = "images/" + std::string(name);
-        return CatalogueImages::file(name);
-    }
-    const Raster& system(std::string_view name) override {
-        const Raster& picture = CatalogueImages::system(name);
-        std::int32_t index = m_ship.weapNameToIndex(name);
-        WeapRec record;
-        if (name == blank) {
-            m_picture = "-size 32x32 xc:white";
-        } else {
-            m_ship.listWeap(index, record);
-            m_picture = "images/" + std::string(record.icon);
-        }
-        return picture;
+    /// Gives these pictures out, and takes down what the next paste will be of.
+    SheetImages noting(const SheetImages& images) {
+        return {.file =
+                    [this, images](std::string_view name) {
+                        m_picture = "images/" + std::string(name);
+                        return images.file(name);
+                    },
+                .system = [this, images](std::string_view name) -> const Raster& {
+                    std::int32_t index = m_ship.weapNameToIndex(name);
+                    WeapRec record;
+                    if (name == SheetImages::blank) {
+                        m_picture = "-size 32x32 xc:white";
+                    } else {
+                        m_ship.listWeap(index, record);
+                        m_picture = "images/" + std::string(record.icon);
+                    }
+                    return images.system(name);
+                }};
     }
     void paint(const Raster& picture, int x, int y) override {
         RasterSheet::paint(picture, x, y);
@@ -196,8 +198,10 @@ std::string pasteCommand(const std::string& out) {
     lists.fillPoints(*map);
     QtPictureFiles files;
     Raster raster = files.load(outlineFile(*map));
-    NotedPastes pastes(raster, files, screen.ship());
-    drawSSD(pastes, pastes, *map, lists, sheetShip(screen.window()));
+    NotedPastes pastes(raster, screen.ship());
+    const SheetImages images =
+        pastes.noting(catalogueImages(startedFolder(), files, screen.ship()));
+    drawSSD(pastes, images, *map, lists, sheetShip(screen.window()));
     return "cd '" + startedFolder().string() + "' && convert '" + outlineFile(*map).string() + "'" +
            pastes.words + " BMP3:'" + out + "'";
 }

@@ -29,20 +29,18 @@ constexpr const char* catalogue = "CATEGORY,0,0,BEAM,GUNS,O,guns.gif\r\n"
                                   "Cloaking Field,1,1,SPECIAL,SPECIAL,6,cloak.gif\r\n"
                                   "Damage Control Party,amount,1,SYSTEMS,SYSTEMS,O,party.gif\r\n";
 
-/// Black pictures of the size that all have.
-class Images : public SheetImages {
-public:
-    Raster file(std::string_view name) override {
-        static const std::vector<std::string> files = sheetPictures();
-        require(std::find(files.begin(), files.end(), name) != files.end(),
-                "a sheet asks for delivered pictures only");
-        return m_picture;
-    }
-    const Raster& system(std::string_view) override { return m_picture; }
-
-private:
-    Raster m_picture{systemPictureSize, systemPictureSize};
-};
+/// White pictures of the size that all have.
+SheetImages whiteImages() {
+    static const Raster picture{systemPictureSize, systemPictureSize};
+    return {.file =
+                [](std::string_view name) {
+                    static const std::vector<std::string> files = sheetPictures();
+                    require(std::find(files.begin(), files.end(), name) != files.end(),
+                            "a sheet asks for delivered pictures only");
+                    return picture;
+                },
+            .system = [](std::string_view) -> const Raster& { return picture; }};
+}
 
 /// The other reader, which passes over what it cannot read, must see the same in a map that loads.
 void checkPlaces(const SSDMap& map, const MapPlaces& places) {
@@ -82,9 +80,8 @@ void drawSheet(const SSDMap& map, ShipClass& ship, const Raster& outline) {
     }
     Raster picture = outline;
     RasterSheet sheet(picture);
-    Images images;
     try {
-        drawSSD(sheet, images, map, lists,
+        drawSSD(sheet, whiteImages(), map, lists,
                 {.txtDP = std::to_string(ship.g_iDP),
                  .txtDCP = std::to_string(ship.g_iDCP),
                  .txtFireCon = std::to_string(ship.g_iFCS),

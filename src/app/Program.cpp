@@ -3,7 +3,6 @@
 #include "Error.h"
 #include "Globals.h"
 #include "PictureCache.h"
-#include "ProgramImages.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
@@ -94,7 +93,7 @@ public:
                        m_main.CMRUList->clearList();
                        m_main.fillMRU();
                    }}),
-          m_images(m_appFolder, m_pictures, m_main.ilWeapons),
+          m_images(programImages(m_appFolder, m_pictures, m_main.ilWeapons)),
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
@@ -173,7 +172,7 @@ private:
     frmSplash m_splash;
     frmMain m_main;
     frmExtras m_extras;
-    ProgramImages m_images;
+    SheetImages m_images;
     frmMapper m_mapper;
     frmAbout m_about;
     frmSSDMapCreator m_mapCreator;

@@ -10,7 +10,6 @@
 #include "TextFile.h"
 #include "checkedArithmetic.h"
 #include "folders.h"
-#include "pictureDialog.h"
 #include "saveFile.h"
 #include "wholeNumber.h"
 

@@ -1,8 +1,8 @@
 #include "frmSSDView.h"
 
+#include "Desktop.h"
 #include "PictureFiles.h"
 #include "TextFile.h"
-#include "pictureDialog.h"
 
 namespace fleetwright {
 

@@ -1,6 +1,5 @@
 #include "drawnSheet.h"
 
-#include "CatalogueImages.h"
 #include "Error.h"
 #include "NoDesktop.h"
 #include "ShipOnScreen.h"
@@ -28,7 +27,7 @@ public:
 Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std::string& mapName) {
     const frmMain& main = screen.window();
     SilentDesktop desktop;
-    CatalogueImages images(tools.appFolder, tools.pictures, *main.g_Ship);
+    const SheetImages images = catalogueImages(tools.appFolder, tools.pictures, *main.g_Ship);
     frmMapper mapper({.appFolder = tools.appFolder,
                       .desktop = desktop,
                       .pictures = tools.pictures,

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace fleetwright {
 
@@ -23,6 +24,14 @@ struct FileDialog {
     /// What the rules add to a name that lacks it. The desktop asks before that file is replaced.
     std::string extension = {};
 };
+
+/// The dialog in which a picture is chosen, which opens in this folder.
+inline FileDialog pictureDialog(std::filesystem::path folder) {
+    return {.filter = "All Files (*.*)|*.*|Bitmaps(*.bmp)|*.bmp|Gif Files (*.gif)|*.gif|"
+                      "Jpeg Files (*.jpg)|*.jpg",
+            .filterIndex = 2,
+            .initialFolder = std::move(folder)};
+}
 
 /// What the rules ask of the desktop around their windows.
 class Desktop {

@@ -2,22 +2,38 @@
 
 #include "Raster.h"
 
+#include <filesystem>
+#include <functional>
 #include <string_view>
 
 namespace fleetwright {
 
-/// The pictures that a sheet is pasted together from.
-class SheetImages {
-public:
+class ImageList;
+class PictureFiles;
+class ShipClass;
+
+/// Finds the pictures that a sheet is pasted together from.
+struct SheetImages {
     /// Key of the white picture that free points are covered with.
     static constexpr std::string_view blank = "BLANK";
 
-    virtual ~SheetImages() = default;
-
     /// A file of the folder of pictures. Throws FileError.
-    virtual Raster file(std::string_view name) = 0;
-    /// The picture of a system, by its name, or `blank`. Throws Error if there is none.
-    virtual const Raster& system(std::string_view name) = 0;
+    std::function<Raster(std::string_view name)> file;
+    /// The picture of a system, by its name, or `blank`. Throws Error if there is none. It stays
+    /// as it is for as long as this finder is there.
+    std::function<const Raster&(std::string_view name)> system;
 };
+
+/// The pictures as the program with its windows has them: the files of the application folder,
+/// whatever the case of their names, and for systems the main window's list. All of it outlives
+/// what is returned.
+SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
+                          const ImageList& ilWeapons);
+
+/// The pictures as a program without a window has them: those of systems are loaded when a sheet
+/// first needs them, from the files that the ship's catalogue names. `pictures` and `ship` outlive
+/// what is returned.
+SheetImages catalogueImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
+                            const ShipClass& ship);
 
 }  // namespace fleetwright

@@ -21,7 +21,7 @@ std::int16_t number(std::string_view text) {
 
 class SheetDrawing {
 public:
-    SheetDrawing(Sheet& sheet, SheetImages& images, const SSDMap& map, SheetLists& lists,
+    SheetDrawing(Sheet& sheet, const SheetImages& images, const SSDMap& map, SheetLists& lists,
                  const SheetShip& ship)
         : m_sheet(sheet), m_images(images), m_map(map), m_lists(lists), m_figures(ship),
           m_ship(ship.ship) {}
@@ -62,7 +62,7 @@ private:
     }
 
     Sheet& m_sheet;
-    SheetImages& m_images;
+    const SheetImages& m_images;
     const SSDMap& m_map;
     SheetLists& m_lists;
     const SheetShip& m_figures;
@@ -137,11 +137,10 @@ void SheetDrawing::paintDrives() {
 }
 
 void SheetDrawing::coverWhatIsLeft() {
-    PointList* const arcs[] = {&m_lists.lstWeaponsF, &m_lists.lstWeaponsP, &m_lists.lstWeaponsS,
-                               &m_lists.lstWeaponsA, &m_lists.lstWeaponsB};
-    for (PointList* const list : arcs) {
-        for (; !list->empty(); list->pop_back()) {
-            paintAtWeapon(m_images.system(SheetImages::blank), list->back());
+    for (const char arc : mapArcs) {
+        PointList& list = *m_lists.weaponsIn(arc);
+        for (; !list.empty(); list.pop_back()) {
+            paintAtWeapon(m_images.system(SheetImages::blank), list.back());
         }
     }
     for (; !m_lists.lstDCP.empty(); m_lists.lstDCP.pop_back()) {
@@ -186,7 +185,7 @@ void SheetDrawing::trim() {
 
 }  // namespace
 
-void drawSSD(Sheet& sheet, SheetImages& images, const SSDMap& map, SheetLists& lists,
+void drawSSD(Sheet& sheet, const SheetImages& images, const SSDMap& map, SheetLists& lists,
              const SheetShip& ship) {
     SheetDrawing(sheet, images, map, lists, ship).draw();
 }

@@ -8,7 +8,7 @@ namespace fleetwright {
 
 class SSDMap;
 class Sheet;
-class SheetImages;
+struct SheetImages;
 class ShipClass;
 
 /// What a drawing reads of the ship: its figures as the controls of the main window show them at
@@ -29,7 +29,7 @@ struct SheetShip {
 ///
 /// Throws Error: a picture is missing, the map has too few points for the damage control parties
 /// or fire controls, a figure is no 16-bit number. The sheet and the lists are then left half done.
-void drawSSD(Sheet& sheet, SheetImages& images, const SSDMap& map, SheetLists& lists,
+void drawSSD(Sheet& sheet, const SheetImages& images, const SSDMap& map, SheetLists& lists,
              const SheetShip& ship);
 
 }  // namespace fleetwright

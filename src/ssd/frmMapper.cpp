@@ -6,10 +6,19 @@
 #include "RasterSheet.h"
 #include "ShipClass.h"
 #include "TextFile.h"
+#include "checkedArithmetic.h"
 #include "folders.h"
 #include "saveFile.h"
 
+#include <algorithm>
+
 namespace fleetwright {
+
+namespace {
+
+constexpr int roomBeside = 200;  // twips
+
+}  // namespace
 
 frmMapper::frmMapper(Services services)
     : Form({.name = "frmMapper",
@@ -141,18 +150,21 @@ void frmMapper::cmdSave_Click() {
     unload();
 }
 
-MapperMeasures frmMapper::measures() const {
-    return {.sheetTop = picSSD.place().top,
-            .sheetWidth = picSSD.place().width,
-            .sheetHeight = picSSD.place().height,
-            .frameLeft = fraControls.place().left,
-            .frameWidth = fraControls.place().width};
+std::int16_t frmMapper::largerOf(std::int16_t a, std::int16_t b) {
+    return std::max(a, b);
 }
 
+/// Gives the window the size that shows sheet and frame. Throws OverflowError if one of them is
+/// wider than 16 bits hold.
 void frmMapper::fitToSheet() {
-    const WindowSize size = fleetwright::fitToSheet(measures());
+    constexpr int roomAbove = 100;
+    constexpr int roomBelow = 100;
+    const Place& sheet = picSSD.place();
+    const Place& frame = fraControls.place();
+    const std::int16_t widest =
+        largerOf(narrow<std::int16_t>(sheet.width), narrow<std::int16_t>(frame.width));
     if (state() == WindowState::Normal) {
-        resize(size.width, size.height);
+        resize(widest + frame.left + roomBeside, sheet.top + roomAbove + sheet.height + roomBelow);
     }
 }
 
@@ -163,8 +175,11 @@ void frmMapper::keepMinimumSize(bool& isInside) {
         return;
     }
     isInside = true;
-    const WindowSize size = fleetwright::keepMinimumSize(measures(), {width(), height()});
-    resize(size.width, size.height);
+    constexpr int roomBelow = 500;
+    const Place& sheet = picSSD.place();
+    const Place& frame = fraControls.place();
+    resize(std::max(width(), frame.left + frame.width + roomBeside),
+           std::max(height(), sheet.top + sheet.height + roomBelow));
     isInside = false;
 }
 

@@ -6,10 +6,11 @@
 #include "Frame.h"
 #include "PictureBox.h"
 #include "SSDMaps.h"
+#include "SheetImages.h"
 #include "SheetLists.h"
 #include "drawSSD.h"
-#include "mapperSizes.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -19,7 +20,6 @@ namespace fleetwright {
 class Desktop;
 class PictureEncoder;
 class PictureFiles;
-class SheetImages;
 
 /// The window in which a ship's sheet is drawn and saved. Each time it is loaded it begins anew
 /// with the ship as it then stands.
@@ -31,7 +31,7 @@ public:
         Desktop& desktop;
         PictureFiles& pictures;  ///< read outlines
         PictureEncoder& encoder;
-        SheetImages& images;
+        const SheetImages& images;
         const SSDMaps& g_colSSDMaps;
         const ListView& lvCurrentWeapons;  ///< the main window's list of systems aboard
         /// The current ship and its figures as the main window shows them.
@@ -73,7 +73,7 @@ private:
     bool showOutline();
     void drawSheet();
     void fail(const std::string& text, const std::string& title, const std::exception& cause);
-    MapperMeasures measures() const;
+    static std::int16_t largerOf(std::int16_t a, std::int16_t b);
     void fitToSheet();
     void keepMinimumSize(bool& isInside);
 

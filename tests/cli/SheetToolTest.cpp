@@ -1,5 +1,4 @@
 #include "PictureCache.h"
-#include "ProgramImages.h"
 #include "QtPictureFiles.h"
 #include "SheetPictures.h"
 #include "ShipOnScreen.h"
@@ -84,7 +83,7 @@ std::string SheetTool::savedByWindow(const std::string& ship) const {
     ilWeapons.add("Gun", pictures.load(m_folder.path() / "images/gun.gif"));
     ilWeapons.add("Damage Control Party", pictures.load(m_folder.path() / "images/party.gif"));
     ilWeapons.add("BLANK", Raster(32, 32));
-    ProgramImages images(m_folder.path(), pictures, ilWeapons);
+    const SheetImages images = programImages(m_folder.path(), pictures, ilWeapons);
     ChoosingDesktop desktop;
     desktop.choice = (m_folder.path() / "window.bmp").string();
     const SSDMaps maps = loadMaps(m_folder.path());

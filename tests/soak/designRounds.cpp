@@ -4,7 +4,6 @@
 //     soak-designs [ROUNDS]     100000 if it is not said
 
 #include "PictureCache.h"
-#include "ProgramImages.h"
 #include "SSDMaps.h"
 #include "TextFile.h"
 #include "ToolPictures.h"
@@ -47,7 +46,7 @@ class SheetWindow {
 public:
     SheetWindow(const TestWindow& test, const frmMain& main)
         : m_app(test.folder().path()), m_file(m_app / "sheet.bmp"),
-          m_images(m_app, m_pictures, main.ilWeapons), m_maps(loadMaps(m_app)),
+          m_images(programImages(m_app, m_pictures, main.ilWeapons)), m_maps(loadMaps(m_app)),
           m_window({.appFolder = m_app,
                     .desktop = m_desktop,
                     .pictures = m_pictures,
@@ -81,7 +80,7 @@ private:
     ChoosingDesktop m_desktop;
     ToolPictures m_decoder{APP_FOLDER};
     PictureCache m_pictures{m_decoder};
-    ProgramImages m_images;
+    SheetImages m_images;
     SSDMaps m_maps;
     frmMapper m_window;
 };

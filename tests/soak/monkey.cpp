@@ -9,7 +9,6 @@
 #include "ComboBox.h"
 #include "Dice.h"
 #include "Error.h"
-#include "ProgramImages.h"
 #include "Slider.h"
 #include "fakeServices.h"
 #include "frmMapper.h"
@@ -392,7 +391,7 @@ private:
     fs::path m_app = m_test.folder().path();
     Pictures m_pictures;
     SteppingClock m_clock;
-    ProgramImages m_images{m_app, m_pictures, m_main.ilWeapons};
+    SheetImages m_images = programImages(m_app, m_pictures, m_main.ilWeapons);
     frmMapper m_mapper{{.appFolder = m_app,
                         .desktop = m_test.desktop(),
                         .pictures = m_pictures,

@@ -59,19 +59,18 @@ void expectGolden(const Raster& raster, const std::string& name) {
 }
 
 /// Pictures in colours of their own, small enough for small goldens.
-class ColouredImages : public SheetImages {
-public:
-    Raster file(std::string_view name) override {
-        return box(name.starts_with("escort") ? 20 : 6, 4, name.front() == 's' ? 18 : 5);
-    }
-    const Raster& system(std::string_view name) override {
-        return name == blank ? m_blank : m_system;
-    }
-
-private:
-    Raster m_blank = box(5, 5, Sheet::white);
-    Raster m_system = box(5, 5, 22);
-};
+SheetImages colouredImages() {
+    static const Raster blank = box(5, 5, Sheet::white);
+    static const Raster coloured = box(5, 5, 22);
+    return {.file =
+                [](std::string_view name) {
+                    return box(name.starts_with("escort") ? 20 : 6, 4,
+                               name.front() == 's' ? 18 : 5);
+                },
+            .system = [](std::string_view name) -> const Raster& {
+                return name == SheetImages::blank ? blank : coloured;
+            }};
+}
 
 }  // namespace
 
@@ -132,11 +131,10 @@ TEST(RasterSheet, ShowsAShipAsItsPicturesStand) {
     Raster raster;
     RasterSheet sheet(raster, [&refreshes] { ++refreshes; });
     sheet.setPicture(box(120, 24, 14));
-    ColouredImages images;
     SheetLists lists;
     lists.fillShipWeap(rows({{"FP", "2"}, {"Listed", "1"}}));
     lists.fillPoints(map);
-    drawSSD(sheet, images, map, lists,
+    drawSSD(sheet, colouredImages(), map, lists,
             {"5", "0", "1", "Magpie", "Åsa", std::to_string(ship->g_lCost), *ship});
     expectGolden(raster, "ship.txt");
     EXPECT_EQ(refreshes, 3);

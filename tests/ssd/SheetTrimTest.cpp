@@ -17,19 +17,12 @@ namespace {
 
 constexpr int sheetWidth = 400;
 
-class WhiteImages : public SheetImages {
-public:
-    Raster file(std::string_view) override { return m_white; }
-    const Raster& system(std::string_view) override { return m_white; }
-
-private:
-    Raster m_white{1, 1};
-};
-
 /// The sheet of a new ship whose text ends with the name of this system.
 Raster sheetOf(const ShipClass& ship, const std::string& lastLine) {
     static const SSDMap map = MapFolder().map("SIZE: 10");
-    WhiteImages images;
+    static const Raster white{1, 1};
+    const SheetImages images{[](std::string_view) { return white; },
+                             [](std::string_view) -> const Raster& { return white; }};
     Raster raster(sheetWidth, 20);
     RasterSheet sheet(raster);
     SheetLists lists;

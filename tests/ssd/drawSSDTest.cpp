@@ -15,12 +15,14 @@ using namespace fleetwright;
 namespace {
 
 /// Pictures of one pixel, whose colour tells the recording sheet their names.
-class NamedImages : public SheetImages {
+class NamedImages {
 public:
-    Raster file(std::string_view name) override { return picture(std::string(name)); }
-    const Raster& system(std::string_view name) override {
-        m_last = picture('[' + std::string(name) + ']');
-        return m_last;
+    SheetImages finder() {
+        return {.file = [this](std::string_view name) { return picture(std::string(name)); },
+                .system = [this](std::string_view name) -> const Raster& {
+                    m_last = picture('[' + std::string(name) + ']');
+                    return m_last;
+                }};
     }
 
     const std::string& nameOf(const Raster& picture) const { return m_names[picture.pixel(0, 0)]; }
@@ -111,7 +113,7 @@ struct Drawing {
         const auto ship = yard.loaded(shipFile);
         lists.fillShipWeap(systems);
         lists.fillPoints(map);
-        drawSSD(sheet, images, map, lists,
+        drawSSD(sheet, images.finder(), map, lists,
                 {.txtDP = damagePoints,
                  .txtDCP = parties,
                  .txtFireCon = fireControls,

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The window on a desktop that writes down what is shown, with outlines and pictures in memory.
-class Mapper : public testing::Test, protected PictureEncoder, protected SheetImages {
+class Mapper : public testing::Test, protected PictureEncoder {
 protected:
     Mapper() {
         carry({{"F", "1"}});
@@ -27,7 +27,7 @@ protected:
         outline("WIDE") = Raster(2185, 50);
         maps = loadMaps(folder.path());
         window = std::make_unique<frmMapper>(frmMapper::Services{
-            folder.path(), desktop, pictures, *this, *this, maps, systems,
+            folder.path(), desktop, pictures, *this, images, maps, systems,
             [this]() -> SheetShip { return {"5", parties, "1", "Magpie", "Åsa", "99", *ship}; }});
     }
 
@@ -64,14 +64,6 @@ protected:
         return format + ' ' + std::to_string(picture.width()) + 'x' +
                std::to_string(picture.height());
     }
-    // SheetImages
-    Raster file(std::string_view name) override {
-        if (name == lacking) {
-            throw FileError(fs::path(name), "is missing");
-        }
-        return {8, 8};
-    }
-    const Raster& system(std::string_view) override { return systemPicture; }
 
     MapFolder folder;
     ShipYard yard{arcCatalogue};
@@ -83,7 +75,12 @@ protected:
     ChoosingDesktop desktop;
     PicturesByName pictures;
     std::string_view lacking;
-    const Raster systemPicture{8, 8};
+    const Raster small{8, 8};
+    const SheetImages images{[this](std::string_view name) {
+                                 return name == lacking ? throw FileError(name, "is missing")
+                                                        : small;
+                             },
+                             [this](std::string_view) -> const Raster& { return small; }};
     std::unique_ptr<frmMapper> window;
 };
 

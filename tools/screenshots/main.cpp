@@ -5,7 +5,6 @@
 #include "Error.h"
 #include "FormWindow.h"
 #include "PictureCache.h"
-#include "ProgramImages.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
 #include "QtPrograms.h"
@@ -138,7 +137,7 @@ void showShip(frmMain& window, const fs::path& ship, const std::string& system) 
 /// The window of sheets before and after the ship of the main window is drawn.
 void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& appFolder) {
     QtPictureFiles files;
-    ProgramImages images(appFolder, files, form.ilWeapons);
+    const SheetImages images = programImages(appFolder, files, form.ilWeapons);
     const SSDMaps maps = loadMaps(appFolder);
     frmMapper mapper({.appFolder = appFolder,
                       .desktop = desktop,
