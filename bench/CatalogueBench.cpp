@@ -31,10 +31,10 @@ std::filesystem::path catalogueOf(int records) {
 }
 
 void newShip(benchmark::State& state, int records) {
-    const ShipServices services = {
-        .catalogueFile = catalogueOf(records), .formula = formula_calculate, .eventLoopTurn = {}};
+    const std::filesystem::path file = catalogueOf(records);
     for ([[maybe_unused]] auto _ : state) {
-        const ShipClass ship(services);
+        const ShipClass ship(
+            {.catalogueFile = file, .formula = formula_calculate, .eventLoopTurn = {}});
         benchmark::DoNotOptimize(ship.g_lWeapCount);
     }
 }

@@ -6,7 +6,6 @@
 #include "Catalogue.h"
 #include "FormWindow.h"
 #include "GoalTable.h"
-#include "TextFile.h"
 
 #include <QToolButton>
 
@@ -93,12 +92,9 @@ std::string description() {
         }
     }
     std::vector<std::string> pictures;
-    const std::string catalogue = readTextFile(appFolder / "weaps.dat");
-    LineReader lines(catalogue);
-    for (std::string_view line; lines.next(line);) {
-        if (!isCatalogueComment(line)) {
-            pictures.push_back((appFolder / "images" / cutCatalogueLine(line).icon).string());
-        }
+    const auto catalogue = CatalogueFile(appFolder / "weaps.dat").read();
+    for (const CatalogueLine& line : catalogue->lines()) {
+        pictures.push_back((appFolder / "images" / line.icon).string());
     }
     std::size_t next = 0;
     for (const TreeView::Node& node : window.form().tvWeapons.nodes()) {

@@ -55,21 +55,23 @@ public:
               {.ownMark = m_runs.own(),
                .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
               currentTime),
-          m_splash({.appFolder = m_appFolder,
-                    .desktop = desktop,
-                    .settings = m_settings,
-                    .clock = m_clock,
-                    .sounds = m_sounds,
-                    .pictures = m_pictures,
-                    .programs = m_programs,
-                    .globals = m_globals,
-                    .catalogueFaults = [this] { return catalogueFaults(m_appFolder, &m_pictures); },
-                    .mainWindow = [this]() -> Form& { return m_main; },
-                    .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
+          m_splash(
+              {.appFolder = m_appFolder,
+               .desktop = desktop,
+               .settings = m_settings,
+               .clock = m_clock,
+               .sounds = m_sounds,
+               .pictures = m_pictures,
+               .programs = m_programs,
+               .globals = m_globals,
+               .catalogueFaults = [this] { return catalogueFaults(m_catalogueFile, &m_pictures); },
+               .mainWindow = [this]() -> Form& { return m_main; },
+               .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
           m_main({.appFolder = m_appFolder,
+                  .catalogueFile = m_catalogueFile,
                   .eventLoopTurn = [] { QApplication::processEvents(); },
                   .freeFormulaLibrary = [this] { freeFormulaLibrary(); },
-                  .catalogueFaults = [this] { return catalogueFaults(m_appFolder); },
+                  .catalogueFaults = [this] { return catalogueFaults(m_catalogueFile); },
                   .desktop = desktop,
                   .pictures = m_pictures,
                   .progress = m_splash,
@@ -157,6 +159,7 @@ private:
     }
 
     std::filesystem::path m_appFolder;
+    CatalogueFile m_catalogueFile{m_appFolder / "weaps.dat"};  // read once, by whoever asks first
     QtDesktop& m_desktop;
     QtSettingsStore m_settings;
     QtClock m_clock;

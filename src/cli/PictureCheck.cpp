@@ -1,6 +1,6 @@
 #include "PictureCheck.h"
 
-#include "Catalogue.h"
+#include "CatalogueFile.h"
 #include "Error.h"
 #include "PictureFiles.h"
 #include "SheetPictures.h"
@@ -85,26 +85,21 @@ std::optional<std::string> PictureCheck::systemPictureFault(const fs::path& file
     }
 }
 
-std::vector<Fault> PictureCheck::checkCatalogue(std::string_view text) {
+std::vector<Fault> PictureCheck::checkCatalogue(const CatalogueText& catalogue) {
     std::vector<Fault> faults;
-    LineReader lines(text);
-    std::string_view line;
-    while (lines.next(line)) {
-        const std::string icon(cutCatalogueLine(line).icon);
-        if (isCatalogueComment(line)) {
-            continue;
-        }
+    for (const CatalogueLine& line : catalogue.lines()) {
+        const std::string icon(line.icon);
         if (icon.empty()) {
             // The rest of the check says so itself; the start cannot do without.
             if (m_depth == Start) {
-                faults.push_back({lines.lineNumber(), "no picture"});
+                faults.push_back({line.number, "no picture"});
             }
             continue;
         }
         const Entry* const entry = find(icon);
         const auto fault = entry == nullptr ? "is missing" : systemPictureFault(entry->file);
         if (fault) {
-            faults.push_back({lines.lineNumber(), "picture \"" + icon + "\" " + *fault});
+            faults.push_back({line.number, "picture \"" + icon + "\" " + *fault});
         }
     }
     return faults;

@@ -12,6 +12,7 @@
 
 namespace fleetwright {
 
+class CatalogueText;
 class PictureFiles;
 
 /// What is wrong with a file of the folder of pictures.
@@ -34,7 +35,7 @@ public:
 
     /// The pictures that the records of a catalogue name, each with the line of its record: those
     /// that are missing, that cannot be read or that have another size than systems have.
-    std::vector<Fault> checkCatalogue(std::string_view text);
+    std::vector<Fault> checkCatalogue(const CatalogueText& catalogue);
 
     /// The pictures that sheets need besides those, and the pictures that neither they nor the
     /// catalogues checked before make use of.

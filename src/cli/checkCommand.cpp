@@ -35,13 +35,13 @@ std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file)
 
 /// The faults of a catalogue, those of its pictures included where the folder beside it is there.
 std::vector<Fault> checkCatalogueFile(const Options& options, const fs::path& file) {
-    const std::string text = readTextFile(file);
-    std::vector<Fault> faults = checkCatalogue(text);
+    const CatalogueText catalogue = readTextFile(file);
+    std::vector<Fault> faults = checkCatalogue(catalogue);
     const fs::path images = file.parent_path() / "images";
     if (fs::is_directory(images)) {
         ToolPictures pictures(options.programFolder);
         PictureCheck check(images, pictures);
-        for (Fault& fault : check.checkCatalogue(text)) {
+        for (Fault& fault : check.checkCatalogue(catalogue)) {
             faults.push_back(std::move(fault));
         }
         sortByLine(faults);

@@ -1,12 +1,12 @@
 #pragma once
 
-// The catalogue file `weaps.dat`: every system that a ship can carry, one record a line. Its
-// format is described in docs/catalogue.md.
+// The systems that a ship can carry, and how many of each it does.
 
-#include <array>
+#include "CatalogueFile.h"
+
 #include <cstdint>
-#include <filesystem>
 #include <forward_list>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,30 +24,7 @@ struct WeapRec {
     std::int32_t amount = 0;    ///< how many of this system the ship carries
 };
 
-/// Keys of the top-level nodes under which all categories and systems stand, in their order.
-inline constexpr std::array<std::string_view, 7> catalogueRoots = {
-    "BEAM", "DEFENSE", "HEAVY", "SYSTEMS", "HANGAR", "SPECIAL", "ALIEN"};
-
-/// The seven fields of a catalogue line, as they stand in it.
-struct CatalogueLine {
-    std::string_view name;
-    std::string_view massform;
-    std::string_view costform;
-    std::string_view parentKey;    ///< of a category record
-    std::string_view categoryKey;  ///< a category's own key, or the key that a system stands under
-    std::string_view arclist;
-    std::string_view icon;  ///< all the rest of the line
-
-    bool isCategory() const { return name == "CATEGORY"; }
-};
-
-/// Whether a line of the catalogue file is passed over: an empty line or a comment.
-bool isCatalogueComment(std::string_view line);
-
-/// Cuts a line into its fields. A line with too few of them repeats its last piece.
-CatalogueLine cutCatalogueLine(std::string_view line);
-
-/// The records of a catalogue file and the text that they point into. Each ship has its own.
+/// The records of a catalogue file. Each ship has its own.
 class Catalogue {
 public:
     /// The record that the cloak rule is about.
@@ -60,8 +37,8 @@ public:
     Catalogue& operator=(const Catalogue&) = delete;
     ~Catalogue() = default;
 
-    /// Reads the file. Throws FileError.
-    void loadWeaps(const std::filesystem::path& file);
+    /// Takes the records that the file has now, none of them aboard. Throws FileError.
+    void loadWeaps(const CatalogueFile& file);
 
     /// The records in the order of the file.
     std::vector<WeapRec>& records() { return m_records; }
@@ -74,7 +51,7 @@ public:
     std::string_view keep(std::string_view text) { return m_keptTexts.emplace_front(text); }
 
 private:
-    std::string m_text;
+    std::shared_ptr<const CatalogueText> m_text;
     std::forward_list<std::string> m_keptTexts;
     std::vector<WeapRec> m_records;
     std::int32_t m_cloakIndex = 0;

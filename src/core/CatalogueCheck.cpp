@@ -1,7 +1,6 @@
 #include "CatalogueCheck.h"
 
 #include "Catalogue.h"
-#include "TextFile.h"
 #include "capitals.h"
 #include "formulaFault.h"
 #include "wholeNumber.h"
@@ -19,7 +18,7 @@ class CatalogueChecker {
 public:
     explicit CatalogueChecker(CatalogueCheck purpose) : m_purpose(purpose) {}
 
-    std::vector<Fault> check(std::string_view text);
+    std::vector<Fault> check(const CatalogueText& catalogue);
 
 private:
     /// A key of the tree: whose it is, and whether anything stands under it.
@@ -29,7 +28,7 @@ private:
         bool hasChild = false;
     };
 
-    void checkRecord(std::string_view line);
+    void checkRecord(const CatalogueLine& record);
     void checkName(std::string_view name);
     void checkFormula(std::string_view which, std::string_view formula);
     void checkArcs(std::string_view arcs);
@@ -49,35 +48,30 @@ private:
     int m_line = 0;
 };
 
-std::vector<Fault> CatalogueChecker::check(std::string_view text) {
+std::vector<Fault> CatalogueChecker::check(const CatalogueText& catalogue) {
     for (const std::string_view root : catalogueRoots) {
         m_nodes[std::string(root)] = {.isCategory = true};
     }
     // Not in the tree, but among its pictures, which have the same keys.
     m_nodes["BLANK"] = {.hasChild = true};
 
-    LineReader lines(text);
-    std::string_view line;
-    while (lines.next(line)) {
-        m_line = lines.lineNumber();
-        if (!isCatalogueComment(line)) {
-            checkRecord(line);
-        }
+    for (const CatalogueLine& record : catalogue.lines()) {
+        m_line = record.number;
+        checkRecord(record);
     }
     checkWhole();
     return std::move(m_faults);
 }
 
-void CatalogueChecker::checkRecord(std::string_view line) {
+void CatalogueChecker::checkRecord(const CatalogueLine& record) {
     constexpr auto neededFields = 7;
-    const auto fields = std::count(line.begin(), line.end(), ',') + 1;
+    const auto fields = std::count(record.whole.begin(), record.whole.end(), ',') + 1;
     if (fields < neededFields) {
         remark("too few fields: " + std::to_string(fields) + " of seven");
         if (m_purpose == CatalogueCheck::All) {
             return;  // the rest would only follow from this
         }
     }
-    const CatalogueLine record = cutCatalogueLine(line);
     const std::string categoryKey = toCapitals(record.categoryKey);
     if (record.isCategory()) {
         addNode(categoryKey, toCapitals(record.parentKey), true);
@@ -165,8 +159,8 @@ void CatalogueChecker::checkWhole() {
 
 }  // namespace
 
-std::vector<Fault> checkCatalogue(std::string_view text, CatalogueCheck purpose) {
-    return CatalogueChecker(purpose).check(text);
+std::vector<Fault> checkCatalogue(const CatalogueText& catalogue, CatalogueCheck purpose) {
+    return CatalogueChecker(purpose).check(catalogue);
 }
 
 }  // namespace fleetwright

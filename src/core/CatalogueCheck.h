@@ -1,8 +1,8 @@
 #pragma once
 
+#include "CatalogueFile.h"
 #include "Fault.h"
 
-#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -13,9 +13,9 @@ enum class CatalogueCheck {
     Start,  ///< only what leaves the tree of systems or a price in pieces
 };
 
-/// What is wrong with the text of a catalogue file, by line; faults of the catalogue as a whole
+/// What is wrong with a catalogue, by line; faults of the catalogue as a whole
 /// come last.
-std::vector<Fault> checkCatalogue(std::string_view text,
+std::vector<Fault> checkCatalogue(const CatalogueText& catalogue,
                                   CatalogueCheck purpose = CatalogueCheck::All);
 
 }  // namespace fleetwright

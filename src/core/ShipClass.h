@@ -36,8 +36,8 @@ struct RefusedLine {
 
 /// What a ship needs of the world around it.
 struct ShipServices {
-    /// The catalogue file `weaps.dat`.
-    std::filesystem::path catalogueFile;
+    /// The catalogue file `weaps.dat`. Ships that are given the same object share what it has read.
+    CatalogueFile catalogueFile;
     /// Evaluates mass and cost formulas.
     FormulaFunction formula = nullptr;
     /// Lets pending events of the user interface run; AutoMass calls it. May be empty.
@@ -47,7 +47,7 @@ struct ShipServices {
 class ShipClass {
 public:
     /// A new design: a warship of mass 2 with a normal drive and thrust 2, without systems.
-    /// Reads the catalogue; throws FileError when that fails.
+    /// Has the catalogue as it is now; throws FileError when it cannot be read.
     explicit ShipClass(ShipServices services);
     ShipClass(const ShipClass&) = delete;
     ShipClass& operator=(const ShipClass&) = delete;

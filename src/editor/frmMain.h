@@ -6,6 +6,7 @@
 // enter itself until both agree.
 
 #include "Button.h"
+#include "CatalogueFile.h"
 #include "DragImage.h"
 #include "Frame.h"
 #include "ImageList.h"
@@ -41,6 +42,7 @@ struct Globals;
 /// What the main window needs of the world around it. All of it outlives the window.
 struct MainWindowServices {
     std::filesystem::path appFolder;
+    CatalogueFile catalogueFile{appFolder / "weaps.dat"};
     std::function<void()> eventLoopTurn;  ///< lets pending events run
     std::function<void()> freeFormulaLibrary;
     /// What keeps the catalogue from being used, as a text to show; empty if nothing does.

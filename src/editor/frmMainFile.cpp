@@ -45,10 +45,9 @@ private:
 
 void frmMain::replaceShip() {
     assert(!g_Ship || !g_Ship->isBusy());  // whoever comes in between waits with whenIdle
-    auto ship = std::make_unique<ShipClass>(
-        ShipServices{.catalogueFile = m_services.appFolder / "weaps.dat",
-                     .formula = m_services.globals.formula,
-                     .eventLoopTurn = [this] { giveTurn(); }});
+    auto ship = std::make_unique<ShipClass>(ShipServices{.catalogueFile = m_services.catalogueFile,
+                                                         .formula = m_services.globals.formula,
+                                                         .eventLoopTurn = [this] { giveTurn(); }});
     m_shipEvents.clear();
     g_Ship = std::move(ship);
     const auto listen = [this](Signal<>& event, void (frmMain::*handler)()) {

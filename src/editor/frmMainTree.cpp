@@ -47,14 +47,8 @@ void frmMain::addOwnPictures() {
 }
 
 void frmMain::LoadWeaponTree() {
-    const std::string text = readTextFile(m_services.appFolder / "weaps.dat");
-    LineReader lines(text);
-    std::string_view line;
-    while (lines.next(line)) {
-        if (isCatalogueComment(line)) {
-            continue;
-        }
-        const CatalogueLine fields = cutCatalogueLine(line);
+    const std::shared_ptr<const CatalogueText> catalogue = m_services.catalogueFile.read();
+    for (const CatalogueLine& fields : catalogue->lines()) {
         if (!fields.isCategory()) {
             m_services.progress.setText("Loading: " + std::string(fields.name));
             m_services.progress.repaint();

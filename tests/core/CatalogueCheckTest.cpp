@@ -63,19 +63,20 @@ TEST(CatalogueCheck, NamesEachFaultWithItsLine) {
 }
 
 TEST(CatalogueCheck, ForTheStartNamesOnlyWhatTheProgramCannotLiveWith) {
-    const std::vector<Fault> faults =
-        checkCatalogue("CATEGORY,0,0,BEAM,EMPTY,O,e.gif\na:b,1,1,x,BEAM,X,\n c ,1,1,x,BEAM,,g.gif\n"
-                       "d,1,foo,x,BEAM,F,d.gif\nd,1,1,x,BEAM,F,d.gif\ne,1,1,x,NOWHERE,F,e.gif\n",
-                       CatalogueCheck::Start);
+    const std::vector<Fault> faults = checkCatalogue(
+        std::string("CATEGORY,0,0,BEAM,EMPTY,O,e.gif\na:b,1,1,x,BEAM,X,\n c ,1,1,x,BEAM,,g.gif\n"
+                    "d,1,foo,x,BEAM,F,d.gif\nd,1,1,x,BEAM,F,d.gif\ne,1,1,x,NOWHERE,F,e.gif\n"),
+        CatalogueCheck::Start);
     ASSERT_EQ(faults.size(), 3U);
     EXPECT_EQ(faults[0], (Fault{4, "cost formula, column 1: unknown name \"foo\""}));
     EXPECT_EQ(faults[1], (Fault{5, "double key \"d\": also in line 4"}));
     EXPECT_EQ(faults[2].line, 6);
-    EXPECT_TRUE(checkCatalogue("Gun,1,BEAM,1,BEAM,F\n", CatalogueCheck::Start).size() == 1);
+    EXPECT_TRUE(
+        checkCatalogue(std::string("Gun,1,BEAM,1,BEAM,F\n"), CatalogueCheck::Start).size() == 1);
 }
 
 TEST(CatalogueCheck, NamesWhatIsMissingAltogether) {
-    const std::vector<Fault> faults = checkCatalogue("x,1,1,x,BEAM,F,x.gif");
+    const std::vector<Fault> faults = checkCatalogue(std::string("x,1,1,x,BEAM,F,x.gif"));
     ASSERT_EQ(faults.size(), 8U);
     EXPECT_EQ(faults[0], (Fault{0, "nothing stands under \"ALIEN\""}));
     EXPECT_EQ(faults[6], (Fault{0, "no system \"Cloaking Field\""}));

@@ -1,6 +1,11 @@
+#include "CatalogueFile.h"
+
+#include "Error.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>
+
+#include <chrono>
 
 using namespace fleetwright;
 
@@ -61,4 +66,30 @@ TEST(Catalogue, CountsExactlyAndFindsTheLastCloak) {
     ship->Hull(Merchant);
     EXPECT_TRUE(ship->addWeap("Cloaking Field", 1));
     EXPECT_TRUE(ship->addWeap("Gun", 1));
+}
+
+TEST(CatalogueFile, IsReadOnceUntilItChanges) {
+    const TemporaryFolder folder;
+    const std::filesystem::path path = folder.path() / "weaps.dat";
+    const CatalogueFile file(path);
+    EXPECT_THROW(file.read(), FileError);
+    const auto old = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+    const auto write = [&](const char* text, bool isOld) {
+        folder.write("weaps.dat", text);
+        if (isOld) {
+            std::filesystem::last_write_time(path, old);
+        }
+        return file.read();
+    };
+    const auto first = write("a", true);
+    EXPECT_EQ(first->lines().at(0).name, "a");
+    EXPECT_EQ(CatalogueFile(file).read(), first);
+    // Neither the size nor the time tells these from what was there before.
+    EXPECT_EQ(write("b", true)->text(), "b");
+    for (const char* text : {"c", "d", "e"}) {
+        EXPECT_EQ(write(text, false)->text(), text);
+    }
+    std::filesystem::remove(path);
+    EXPECT_THROW(file.read(), FileError);
+    EXPECT_EQ(first->lines().at(0).icon, "a");
 }

@@ -54,7 +54,7 @@ TEST(PictureCheck, NamesWhatSheetsMissAndWhatNothingUses) {
     folder.write("notes.txt", "no picture and none of our business");
     QtPictureFiles pictures;
     PictureCheck check(folder.path(), pictures);
-    EXPECT_EQ(textOf(check.checkCatalogue("Gun,1,1,BEAM,GUNS,F,Maw-F.gif\n")), "");
+    EXPECT_EQ(textOf(check.checkCatalogue(std::string("Gun,1,1,BEAM,GUNS,F,Maw-F.gif\n"))), "");
     std::string found;
     for (const PictureFault& fault : check.checkRest()) {
         found += fault.file.filename().string() + ": " + fault.fault.text + '\n';
