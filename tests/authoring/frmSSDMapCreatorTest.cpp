@@ -4,7 +4,9 @@
 #include "SSDMaps.h"
 #include "TemporaryFolder.h"
 #include "fakeServices.h"
+#include "formText.h"
 #include "mapMarks.h"
+#include "outlines.h"
 
 #include <gtest/gtest.h>
 
@@ -12,17 +14,15 @@ using namespace fleetwright;
 
 namespace {
 
-const std::string largeOutline = "C:\\outlines\\large.gif", small = "ship.gif";
+const std::string large = "C:\\outlines\\large.gif", small = "ship.gif";
+const std::string largeMap = "IMAGE: large.gif\r\nFIRECON: (10,0)\r\nDCP: (10,399)\r\n",
+                  smallMap = "IMAGE: ship.gif\r\nFTL: (0,0)\r\n";
 
 class MapCreator : public testing::Test {
 protected:
     MapCreator() {
-        Raster picture(1000, 400);
-        picture.pixel(10, 0) = Red;
-        picture.pixel(10, 399) = Blue;
-        pictures.files[largeOutline] = picture;
-        pictures.files[small] = Raster(2, 1);
-        pictures.files[small].pixel(0, 0) = Cyan;
+        pictures.files[large] = outlineOf("10.R989.\n398*.\n10.B\n");
+        pictures.files[small] = outlineOf("C.");
         pictures.files["wide.gif"] = Raster(32768, 1);
         window.load();
     }
@@ -31,12 +31,26 @@ protected:
         desktop.choice = file;
         window.cmdSelect.press();
     }
-
-    void saveAs(const std::string& file) {
-        desktop.choice = file;
+    /// The text of a scan of what is selected.
+    std::string scanned() {
+        window.cmdDoit.press();
+        EXPECT_FALSE(window.isTopmost() || window.chkCancel.isTicked());
+        return window.txtOutput.text();
+    }
+    void save(const std::string& text, const std::string& file) {
+        window.txtOutput.type(text);
+        desktop.choice = (folder.path() / file).string();
         window.cmdSaveIt.press();
     }
-
+    /// How often the event loop gets its turn in a scan, if a look at the clock and a turn take so
+    /// many milliseconds.
+    int turnsWith(int look, int turnLength) {
+        clock.step = look;
+        turn = [this, turnLength] { clock.now += turnLength; };
+        turns = 0;
+        window.cmdDoit.press();
+        return turns;
+    }
     int blackPixels() const {
         int count = 0;
         const Raster& picture = window.picImage.picture();
@@ -69,48 +83,55 @@ protected:
 
 TEST_F(MapCreator, AScanGivesTheMapAndTheCleanPicture) {
     EXPECT_TRUE(window.isVisible() && window.cmdDoit.isEnabled());
-    select(largeOutline);
+    select(large);
     EXPECT_EQ(desktop.asked.initialFolder, folder.path() / "shipimages");
-    EXPECT_EQ(desktop.asked.filterIndex, 2);
     window.txtOutput.type("old");
-    window.cmdDoit.press();
-    EXPECT_EQ(window.txtOutput.text(), "IMAGE: large.gif\r\nFIRECON: (10,0)\r\nDCP: (10,399)\r\n");
+    EXPECT_EQ(scanned(), largeMap);
     EXPECT_EQ(blackPixels(), 0);
-    EXPECT_FALSE(window.isTopmost());
     select(small);
-    window.cmdDoit.press();
-    EXPECT_EQ(window.txtOutput.text(), "IMAGE: ship.gif\r\nFTL: (0,0)\r\n");
+    window.chkCancel.press();  // without a scan it cancels nothing
+    EXPECT_EQ(scanned(), smallMap);
 }
 
-TEST_F(MapCreator, TheWindowTakesThePicturesSize) {
-    const Form& form = window;
-    EXPECT_EQ(form.place(), Place({0, 0, 5790, 5565}));
-    select(largeOutline);
-    const Place image = window.picImage.place(), text = window.txtOutput.place();
-    EXPECT_EQ(image.width, 15000);
-    EXPECT_EQ(image.height, 6000);
-    EXPECT_EQ(text.height, 6000);
-    EXPECT_EQ(text.left, 15000 + image.left + 100);
-    EXPECT_EQ(form.height(), 6000 + image.top + 500);
-    EXPECT_EQ(form.width(), text.width + 500 + 15000 + 100);
+TEST_F(MapCreator, TakesThePicturesSizeAndOpensAnew) {
+    const auto layout = [this] {
+        return formText(window) + std::to_string(static_cast<const Form&>(window).width()) + 'x' +
+               std::to_string(static_cast<const Form&>(window).height());
+    };
+    const std::string first = layout();
+    EXPECT_EQ(first, "frmSSDMapCreator 0,0 5790x5565 \"SSD Map Creator\", border fixed\n"
+                     "  cmdSelect 105,105 1050x435 \"Select File\"\n"
+                     "  cmdDoit 1245,105 1050x435 \"Do It\" \"No picture is selected yet\"\n"
+                     "  chkCancel 2385,105 1050x435 \"Cancel\" \"Ends the scan\" graphical\n"
+                     "  cmdSaveIt 3525,105 1050x435 \"Save It\"\n"
+                     "  picImage 105,645 1275x4815 \"No picture is selected yet\" \"Outline\"\n"
+                     "  txtOutput 1480,645 4200x4815 \"Map\" multiline\n"
+                     "5910x5970");
+    select(large);
+    EXPECT_EQ(window.picImage.place(), Place({105, 645, 15000, 6000}));
+    EXPECT_EQ(window.txtOutput.place(), Place({15205, 645, 4200, 6000}));
+    EXPECT_TRUE(layout().ends_with("\n19800x7145"));
     select(small);
-    const Place& save = window.cmdSaveIt.place();
-    EXPECT_LT(save.left + save.width, form.place().width) << "no button is cut off";
+    const Place& last = window.cmdSaveIt.place();
+    EXPECT_LT(last.left + last.width, static_cast<const Form&>(window).place().width)
+        << "no button is cut off";
+    window.chkCancel.press();
+    window.unload();
+    window.show();
+    EXPECT_EQ(layout(), first);
+    EXPECT_TRUE(window.picImage.picture().isEmpty() && !window.chkCancel.isTicked());
 }
 
 TEST_F(MapCreator, DuringAScanOnlyCancelAnswers) {
-    select(largeOutline);
+    select(large);
     clock.step = 20;
     int grown = 0, seen = 0;
     turn = [&] {
-        EXPECT_TRUE(window.isTopmost());
-        for (const Control* const control : {static_cast<const Control*>(&window.cmdDoit),
-                                             {&window.cmdSelect},
-                                             {&window.cmdSaveIt},
-                                             {&window.txtOutput}}) {
+        EXPECT_TRUE(window.isTopmost() && window.chkCancel.takesActs());
+        for (const Control* const control : std::initializer_list<const Control*>{
+                 &window.cmdDoit, &window.cmdSelect, &window.cmdSaveIt, &window.txtOutput}) {
             EXPECT_FALSE(control->takesActs()) << control->name();
         }
-        EXPECT_TRUE(window.chkCancel.takesActs());
         grown += blackPixels() > seen ? 1 : 0;
         seen = blackPixels();
         if (turns == 3) {
@@ -118,30 +139,29 @@ TEST_F(MapCreator, DuringAScanOnlyCancelAnswers) {
             window.chkCancel.press();
         }
     };
-    window.cmdDoit.press();
+    EXPECT_EQ(scanned(), "Operation Cancelled");
     EXPECT_EQ(turns, 3);
     EXPECT_EQ(grown, 2);
-    EXPECT_EQ(window.txtOutput.text(), "Operation Cancelled");
     EXPECT_EQ(blackPixels(), 0);
-    EXPECT_FALSE(window.chkCancel.isTicked() || window.isTopmost());
     turn = [] {};
-    saveAs("maps/x.map");
-    window.cmdDoit.press();
-    EXPECT_TRUE(window.txtOutput.text().ends_with("DCP: (10,399)\r\n"));
+    EXPECT_EQ(scanned(), largeMap);
 }
 
 TEST_F(MapCreator, TurnsComeByTheClockAndLastNoLongerThanTheScan) {
-    select(largeOutline);
-    window.cmdDoit.press();
-    EXPECT_EQ(turns, 2) << "23 looks at the clock, 1 ms apart";
-    turns = 0;
-    clock.step = 100;  // also what a turn takes
-    window.cmdDoit.press();
-    EXPECT_EQ(turns, 24) << "a slow desktop must not keep Cancel waiting";
+    select(large);  // 24 times as many pixels as there are between two looks at the clock
+    EXPECT_EQ(turnsWith(1, 0), 2);
+    EXPECT_EQ(turnsWith(10, 0), 12);
+    EXPECT_EQ(turnsWith(10, 40), 5);
+    EXPECT_EQ(turnsWith(10, 400), 4);
+    EXPECT_EQ(turnsWith(100, 0), 24) << "a slow desktop must not keep Cancel waiting";
+    pictures.files[small] = outlineOf("100*100R");
+    select(small);
+    EXPECT_EQ(turnsWith(0, 0), 6) << "much text is shown at once";
+    EXPECT_EQ(window.txtOutput.text().size(), 178'017U);
 }
 
 TEST_F(MapCreator, ClosingDuringAScanCancelsFirst) {
-    select(largeOutline);
+    select(large);
     clock.step = 20;
     turn = [&] { EXPECT_FALSE(window.unload()); };
     window.cmdDoit.press();
@@ -150,98 +170,88 @@ TEST_F(MapCreator, ClosingDuringAScanCancelsFirst) {
     EXPECT_EQ(window.txtOutput.text(), "Operation Cancelled");
     window.show();
     EXPECT_EQ(window.txtOutput.text(), "");
-    EXPECT_TRUE(window.picImage.picture().isEmpty() && window.cmdDoit.takesActs());
     turn = [] {};
     select(small);
-    window.cmdDoit.press();
+    EXPECT_EQ(scanned(), smallMap);
     EXPECT_TRUE(window.isLoaded());
 }
 
-TEST_F(MapCreator, CancelWithoutAScanCancelsNothing) {
-    select(small);
-    window.chkCancel.press();
-    window.cmdDoit.press();
-    EXPECT_EQ(window.txtOutput.text(), "IMAGE: ship.gif\r\nFTL: (0,0)\r\n");
-    EXPECT_FALSE(window.chkCancel.isTicked());
-}
-
 TEST_F(MapCreator, WhatCannotBeLoadedSelectsNothingAndSaysSoWithoutAMessage) {
-    const auto tip = [&] { return window.cmdDoit.toolTip(); };
-    for (const std::optional<std::string>& file :
-         {std::optional<std::string>("none.gif"), {"wide.gif"}, {""}, {}}) {
+    const auto expectNothing = [this](const std::string& why) {
+        EXPECT_FALSE(window.cmdDoit.isEnabled());
+        EXPECT_EQ(window.cmdDoit.toolTip(), "No picture is selected" + why);
+        EXPECT_EQ(window.picImage.toolTip(), window.cmdDoit.toolTip());
+        EXPECT_EQ(window.picImage.picture().width(), 2) << "the picture on show stays";
+    };
+    for (const auto& [file, why] :
+         std::initializer_list<std::pair<std::optional<std::string>, std::string>>{
+             {"none.gif", ": \"none.gif\" cannot be read"},
+             {"wide.gif", ": \"wide.gif\" is too large for a map"},
+             {"", ""},
+             {std::nullopt, ""}}) {
         select(small);
         EXPECT_TRUE(window.cmdDoit.isEnabled());
-        EXPECT_EQ(tip(), "Makes the map of ship.gif");
+        EXPECT_EQ(window.cmdDoit.toolTip(), "Makes the map of ship.gif");
+        EXPECT_EQ(window.picImage.toolTip(), "ship.gif");
         select(file);
-        EXPECT_FALSE(window.cmdDoit.isEnabled());
-        EXPECT_TRUE(tip().starts_with("No picture is selected")) << tip();
-        EXPECT_EQ(window.picImage.toolTip(), tip());
-        EXPECT_EQ(window.picImage.picture().width(), 2) << "the picture on show stays";
+        expectNothing(why);
     }
-    select("wide.gif");
-    EXPECT_EQ(tip(), "No picture is selected: \"wide.gif\" is too large for a map");
     select(small);
     pictures.files.erase(small);
     window.txtOutput.type("mine");
-    window.cmdDoit.press();
-    EXPECT_FALSE(window.cmdDoit.isEnabled());
-    EXPECT_EQ(window.txtOutput.text(), "mine");
+    EXPECT_EQ(scanned(), "mine");
+    expectNothing(": \"ship.gif\" cannot be read");
+    select(large);
+    turn = [&] { pictures.files.clear(); };
+    EXPECT_EQ(scanned(), largeMap);
+    EXPECT_FALSE(window.cmdDoit.isEnabled()) << "there is no clean picture any more";
     EXPECT_EQ(desktop.log, "");
 }
 
 TEST_F(MapCreator, WithoutAPictureTheEmptyBoxIsScanned) {
-    int most = 0;
-    clock.step = 20;
-    turn = [&] { most = std::max(most, blackPixels()); };
-    window.cmdDoit.press();
-    EXPECT_EQ(window.txtOutput.text(), "IMAGE: \r\n");
-    EXPECT_GT(most, 0);
-    EXPECT_TRUE(window.picImage.picture().isEmpty());
-    EXPECT_GT(window.txtOutput.place().height, 4000);
-    EXPECT_TRUE(window.cmdDoit.isEnabled());
-    // A picture whose file goes in the middle of a scan.
-    select(largeOutline);
-    turn = [&] { pictures.files.clear(); };
-    window.cmdDoit.press();
-    EXPECT_TRUE(window.txtOutput.text().ends_with("DCP: (10,399)\r\n"));
-    EXPECT_FALSE(window.cmdDoit.isEnabled()) << "there is no clean picture any more";
+    std::string size;
+    turn = [&] {
+        const Raster& box = window.picImage.picture();
+        size = std::to_string(box.width()) + 'x' + std::to_string(box.height());
+    };
+    EXPECT_EQ(scanned(), "IMAGE: \r\n");
+    EXPECT_EQ(size, "85x321");
+    EXPECT_TRUE(window.picImage.picture().isEmpty() && window.cmdDoit.isEnabled());
 }
 
 TEST_F(MapCreator, ANewMapIsOfferedAtOnceAndAKnownOneAtTheNextStart) {
     folder.write("maps/readme", "");
-    window.txtOutput.type("SIZE: 18\r\nDCP: (1,2)");
-    const std::string file = (folder.path() / "maps" / " New .map").string();
-    saveAs(file);
+    save("SIZE: 18\r\nDCP: (1,2)", "maps/ New .map");
     EXPECT_EQ(desktop.asked.initialFolder, folder.path() / "maps");
+    EXPECT_EQ(desktop.asked.filter, "All Files (*.*)|*.*|SSD Maps(*.map)|*.map");
+    EXPECT_EQ(desktop.asked.filterIndex, 2);
+    EXPECT_EQ(desktop.asked.extension, ".map");
     EXPECT_EQ(folder.read("maps/ New .map"), "SIZE: 18\r\nDCP: (1,2)\r\n");
     EXPECT_TRUE(maps.all().empty()) << "it is looked for without the blanks";
-    saveAs((folder.path() / "maps" / "New").string());
+    save("SIZE: 18\r\nDCP: (1,2)", "maps/New");
     ASSERT_EQ(maps.all().size(), 1U);
     EXPECT_EQ(maps.at("new")->iDCPNDX, 1);
-    const SSDMaps::Map known = maps.at("New");
-    window.txtOutput.type("SIZE: 36\r\n");
-    saveAs((folder.path() / "maps" / "New.map").string());
+    save("SIZE: 36\r\n", "maps/New.map");
     EXPECT_EQ(folder.read("maps/New.map"), "SIZE: 36\r\n\r\n");
-    EXPECT_EQ(maps.at("New"), known);
-    EXPECT_EQ(known->iMaxMass, 18);
-    EXPECT_EQ(desktop.log, "");
+    EXPECT_EQ(maps.at("New")->iMaxMass, 18);
 }
 
 TEST_F(MapCreator, SavingAddsTheExtensionAndFailsWithoutAMessage) {
-    window.txtOutput.type("words");
-    saveAs((folder.path() / "a.MAP").string());
+    save("words", "a.MAP");
     EXPECT_EQ(folder.read("a.MAP.map"), "words\r\n");
-    EXPECT_TRUE(maps.all().empty()) << "it lies outside the folder of maps";
+    EXPECT_EQ(window.cmdSaveIt.toolTip(), "Saved as " + folder.path().string() + "/a.MAP.map");
     folder.write("maps/bad.map", "");
-    window.txtOutput.type("SIZE: x");
-    saveAs((folder.path() / "maps" / "bad.map").string());
+    save("SIZE: x", "maps/bad.map");
     EXPECT_EQ(folder.read("maps/bad.map"), "SIZE: x\r\n");
-    EXPECT_TRUE(maps.all().empty());
-    saveAs((folder.path() / "nowhere" / "x.map").string());
-    EXPECT_TRUE(window.cmdSaveIt.toolTip().starts_with("Not saved: "))
-        << window.cmdSaveIt.toolTip();
-    desktop.choice.reset();
-    window.cmdSaveIt.press();
+    EXPECT_TRUE(maps.all().empty()) << "one lies elsewhere, and one is no map";
+    save("words", "nowhere/x.map");
+    const std::string failed = window.cmdSaveIt.toolTip();
+    EXPECT_TRUE(failed.starts_with("Not saved: \"" + folder.path().string() + "/nowhere/x.map\" "));
+    for (const std::optional<std::string>& none : {std::optional<std::string>(""), {}}) {
+        desktop.choice = none;
+        window.cmdSaveIt.press();
+        EXPECT_EQ(window.cmdSaveIt.toolTip(), failed);
+    }
     EXPECT_EQ(desktop.log, "");
 }
 

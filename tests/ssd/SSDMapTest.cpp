@@ -1,124 +1,106 @@
+// Map files: how they are read, what is said of their faults, and which maps are offered.
+
 #include "SSDMap.h"
 
+#include "SSDMapCheck.h"
+#include "SSDMaps.h"
+#include "caseFile.h"
+#include "faults.h"
 #include "sheetWorld.h"
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using namespace fleetwright;
+namespace fs = std::filesystem;
 
 namespace {
 
-/// "x,y,arc" of each weapon point.
-std::string weaponPoints(const SSDMap& map) {
-    std::string text;
-    for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
-        text += std::to_string(map.getWeapPntX(i)) + ',' + std::to_string(map.getWeapPntY(i)) +
-                ',' + map.getWeapPntArc(i) + ' ';
-    }
-    return text;
+std::string pointText(int x, int y) {
+    return ' ' + std::to_string(x) + ',' + std::to_string(y);
 }
 
-/// Why a map does not load: "line: fault", or nothing.
-std::string faultOf(std::string_view text) {
+/// All that a map says.
+std::string textOf(const SSDMap& map) {
+    std::string text = map.sDisplayName + ' ' + std::to_string(map.iMaxMass) +
+                       (map.sImgFile.empty() ? "" : " on ") +
+                       fs::path(map.sImgFile).filename().string() + "\ntrack" +
+                       pointText(map.getDAMPntX(), map.getDAMPntY()) + " ftl" +
+                       pointText(map.getFTLPntX(), map.getFTLPntY()) + " thrust" +
+                       pointText(map.getThrustPntX(), map.getThrustPntY()) + "\nweapons";
+    for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
+        text += pointText(map.getWeapPntX(i), map.getWeapPntY(i)) + ',' + map.getWeapPntArc(i);
+    }
+    text += "\nparties";
+    for (std::int16_t i = 0; i < map.iDCPNDX; ++i) {
+        text += pointText(map.getDCPPntX(i), map.getDCPPntY(i));
+    }
+    text += "\nfire controls";
+    for (std::int16_t i = 0; i < map.iFIRECONNDX; ++i) {
+        text += pointText(map.getFIRECONPntX(i), map.getFIRECONPntY(i));
+    }
+    return text + '\n';
+}
+
+/// What a map's file says, or why it does not load, and what an author is told of it.
+std::string readAndChecked(std::string_view file) {
     const MapFolder folder;
-    folder.write("x", text);
+    folder.writeFile("shipimages/Ship.gif", "");
+    folder.write("test", file);
     SSDMap map(folder.path());
+    std::string text;
     try {
-        map.ImageFile("x");
-        return "";
+        map.ImageFile("test");
+        EXPECT_FALSE(map.fileFault());
+        text = textOf(map);
     } catch (const Error& error) {
         EXPECT_EQ(map.fileFault()->text, error.what());
-        return std::to_string(map.fileFault()->line) + ": " + map.fileFault()->text;
+        text = "refused: " + textOf(std::vector{map.fileFault().value()});
     }
+    return text + textOf(checkMapFile(file, folder.path()));
 }
+
+/// The maps of a folder as a start finds them, and which of them a ship fits on.
+struct Scan {
+    explicit Scan(const MapFolder& folder) {
+        scanMaps(folder.path(), maps, largest,
+                 [this](const std::string& text) { shown += text + '\n'; });
+    }
+
+    std::string fitting(std::int32_t mass, std::int32_t systems) const {
+        std::string names;
+        for (const std::string& name : fittingMaps(maps, mass, systems)) {
+            names += name + ' ';
+        }
+        return names;
+    }
+
+    SSDMaps maps;
+    std::int16_t largest = 0;
+    std::string shown;
+};
 
 }  // namespace
 
-TEST(SSDMap, ReadsEveryKindOfLine) {
-    const MapFolder folder;
-    const SSDMap map = folder.map("# hull outline\r\nIMAGE: outline1.gif\r\nSIZE: 18\r"
-                                  "WEAP: (120,340,F)\nWEAP: (168,340,P)\r\n\r\nDCP: (20,60)\r\n"
-                                  "FIRECON: (21,100)\r\nFIRECON: (22,101)\r\nDAMROW: (10,400)\r\n"
-                                  "FTL: (200,40)\r\nTHRUST: (201,90)");
-    EXPECT_EQ(map.sDisplayName, "test");
-    EXPECT_EQ(map.sImgFile, folder.path().string() + "/shipimages/OUTLINE1.GIF");
-    EXPECT_EQ(map.iMaxMass, 18);
-    EXPECT_EQ(weaponPoints(map), "120,340,F 168,340,P ");
-    EXPECT_EQ(map.iDCPNDX, 1);
-    EXPECT_EQ(map.getDCPPntX(0), 20);
-    EXPECT_EQ(map.getDCPPntY(0), 60);
-    EXPECT_EQ(map.iFIRECONNDX, 2);
-    EXPECT_EQ(map.getFIRECONPntX(1), 22);
-    EXPECT_EQ(map.getFIRECONPntY(0), 100);
-    EXPECT_EQ(map.getDAMPntX(), 10);
-    EXPECT_EQ(map.getDAMPntY(), 400);
-    EXPECT_EQ(map.getFTLPntX(), 200);
-    EXPECT_EQ(map.getFTLPntY(), 40);
-    EXPECT_EQ(map.getThrustPntX(), 201);
-    EXPECT_EQ(map.getThrustPntY(), 90);
+TEST(SSDMap, IsReadAndCheckedLineByLine) {
+    expectCases("ssd/golden/maps.txt",
+                [](const Case& given) { return readAndChecked(given["map"]); });
 }
 
-TEST(SSDMap, HasNothingThatItsFileDoesNotSay) {
-    const MapFolder folder;
-    const SSDMap map = folder.map("# nothing\n\n # size: 3\nABC: 1\nno colon\n#SIZE: 9\n");
-    EXPECT_EQ(map.iMaxMass, 0);
-    EXPECT_EQ(map.sImgFile, "");
-    EXPECT_EQ(map.iWeapNDX + map.iDCPNDX + map.iFIRECONNDX, 0);
-    EXPECT_EQ(map.getDAMPntX(), 0);
-    EXPECT_THROW(map.getWeapPntX(0), Error);
-    EXPECT_THROW(map.getWeapPntArc(-1), Error);
-    EXPECT_THROW(map.getDCPPntY(0), Error);
-    EXPECT_THROW(map.getFIRECONPntX(0), Error);
-}
-
-TEST(SSDMap, ReadsLooselyWrittenLines) {
-    const MapFolder folder;
-    const auto weapons = [&folder](const char* text) { return weaponPoints(folder.map(text)); };
-    EXPECT_EQ(folder.map("  sIzE  :36  ").iMaxMass, 36);
-    EXPECT_EQ(folder.map("SIZE: 18\nSIZE: +19.5").iMaxMass, 20);
-    EXPECT_EQ(folder.map("SIZE: 18.5").iMaxMass, 18);
-    EXPECT_EQ(folder.map("SIZE: -32768").iMaxMass, -32768);
-    EXPECT_EQ(folder.map("\tSIZE: 3").iMaxMass, 0);
-    EXPECT_EQ(weapons("weap: (1,2,f)"), "1,2,F ");
-    EXPECT_EQ(weapons("WEAP: ( -1 , 2.5 ,  a )"), "-1,2,A ");
-    EXPECT_EQ(weapons("WEAP: (1,2)"), "1,2,2 ");
-    EXPECT_EQ(weapons("WEAP: (7)"), "7,7,7 ");
-    EXPECT_EQ(weapons("WEAP: (1,2,)"), "1,2, ");
-    EXPECT_EQ(weapons("WEAP: (1,2,F,S)"), "1,2,F ");
-    EXPECT_EQ(weapons("WEAP: (1,2,é:è)"), "1,2,É:È ");
-    EXPECT_EQ(weapons("WEAP: 10,20,FA"), "0,20,F ");
-    const SSDMap bare = folder.map("DCP: 10,20\nDCP: é1,2ü\nDAMROW: (1,1)\nDAMROW: (2,3)");
-    EXPECT_EQ(bare.getDCPPntX(0), 0);
-    EXPECT_EQ(bare.getDCPPntY(0), 2);
-    EXPECT_EQ(bare.getDCPPntX(1), 1);
-    EXPECT_EQ(bare.getDAMPntY(), 3);
-}
-
-TEST(SSDMap, SaysWhyAndWhereAFileDoesNotLoad) {
-    EXPECT_EQ(faultOf("SIZE: 3\n\nSIZE"), "3: \"\" is no number");
-    EXPECT_EQ(faultOf("SIZE: 32768"), "1: number too large");
-    EXPECT_EQ(faultOf("SIZE: 32767.5"), "1: number too large");
-    EXPECT_EQ(faultOf("SIZE: 1e1"), "1: \"1e1\" is no number");
-    EXPECT_EQ(faultOf("DCP:"), "1: \"\" is too short for a point");
-    EXPECT_EQ(faultOf("DCP: é"), "1: \"é\" is too short for a point");
-    EXPECT_EQ(faultOf("DCP: ()"), "1: \"\" is no number");
-    EXPECT_EQ(faultOf("DCP: (1)"), "1: \"\" is no number");
-    EXPECT_EQ(faultOf("DCP: (1,2)\nFTL: (1,2,3)"), "2: \"2,3\" is no number");
-    EXPECT_EQ(faultOf("WEAP: (1,x,F)"), "1: \"x\" is no number");
-    EXPECT_EQ(faultOf("WEAP: (1,,F)"), "1: \"\" is no number");
-    EXPECT_EQ(faultOf("THRUST: (1,-32769)"), "1: number too large");
-
-    std::string lines;
+TEST(SSDMap, HoldsAsManyPointsAsItsCounts) {
+    std::string most;
     for (int i = 0; i < 32'767; ++i) {
-        lines += "DCP:(1,2)\n";
+        most += "DCP:(1,2)\n";
     }
-    EXPECT_EQ(faultOf(lines), "");
-    EXPECT_EQ(faultOf(lines + "DCP:(1,2)"), "32768: number too large");
-
-    SSDMap map("nowhere");
-    EXPECT_THROW(map.ImageFile("x"), FileError);
-    EXPECT_EQ(map.fileFault()->text, "cannot be read: No such file or directory");
-    EXPECT_STREQ(InvalidMapError().what(), "Not a valid Map file!!!");
+    const SSDMap map = MapFolder().map(most);
+    EXPECT_EQ(map.getDCPPntY(32'766), 2);
+    EXPECT_THROW(map.getDCPPntX(32'767), Error);
+    EXPECT_THROW(map.getWeapPntArc(0), Error);
+    EXPECT_THROW(map.getFIRECONPntX(-1), Error);
+    EXPECT_EQ(readAndChecked(most + "DCP:(1,2)\nDCP:(1,2)"),
+              "refused: 32768: number too large\n32768: more than 32767 lines \"DCP\"\n"
+              "0: no line \"IMAGE\"\n");
 }
 
 TEST(SSDMap, FindsFilesWhateverTheCaseOfTheirNames) {
@@ -127,8 +109,46 @@ TEST(SSDMap, FindsFilesWhateverTheCaseOfTheirNames) {
     folder.writeFile("shipimages/Sub/Long.gif", "");
     SSDMap map(folder.path());
     map.ImageFile("Long Ship");
-    EXPECT_EQ(map.iMaxMass, 7);
-    EXPECT_EQ(outlineFile(map), folder.path() / "shipimages" / "Sub" / "Long.gif");
-    map = folder.map("IMAGE: none.gif");
-    EXPECT_EQ(outlineFile(map), folder.path() / "shipimages" / "NONE.GIF");
+    EXPECT_EQ(map.sImgFile, folder.path().string() + "/shipimages/SUB/LONG.GIF");
+    EXPECT_EQ(outlineFile(map), folder.path() / "shipimages/Sub/Long.gif");
+    EXPECT_THROW(map.ImageFile("Long"), FileError);
+    EXPECT_EQ(map.fileFault()->text, "cannot be read: No such file or directory");
+    EXPECT_EQ(map.fileFault()->line, 0);
+}
+
+TEST(SSDMaps, AreScannedByNameAndFaultyOnesPassedOver) {
+    const MapFolder folder;
+    folder.write("beta", "SIZE: 36");
+    folder.write("Alpha", "SIZE: 18");
+    folder.write("broken", "SIZE: big");
+    folder.write("garbled", std::string("SIZE\0:\xFF\x1B\nDCP: \xFE\n", 16));
+    folder.write("Éclair", "SIZE: 5");
+    folder.write("éclair", "SIZE: 37");
+    for (const char* const name : {"Gamma.MAP", "notes.txt", "x.mapx", "folder.map/x"}) {
+        folder.writeFile(std::string("maps/") + name, "SIZE: 90");
+    }
+    fs::create_symlink("nowhere", folder.path() / "maps/link.map");
+    ASSERT_EQ(mkfifo((folder.path() / "maps/pipe.map").c_str(), 0600), 0);
+    Scan scan(folder);
+    EXPECT_EQ(scan.shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n"
+                          "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n");
+    EXPECT_EQ(scan.fitting(0, 0), "Alpha beta Gamma Éclair ");
+    EXPECT_EQ(scan.largest, 90);
+    EXPECT_EQ(scan.maps.at("éCLAIR")->iMaxMass, 5);
+    EXPECT_THROW(scan.maps.at("Eclair"), Error);
+    EXPECT_THROW(scan.maps.add(scan.maps.at("éclair")), Error);
+    EXPECT_EQ(Scan(MapFolder()).largest, 0);
+}
+
+TEST(SSDMaps, AreOfferedToShipsThatTheyHaveRoomFor) {
+    const MapFolder folder;
+    folder.write("b", "SIZE: 101\nWEAP: (1,2,F)\nWEAP: (1,2,X)");
+    folder.write("a", "SIZE: 120\nWEAP: (1,2,F)");
+    const Scan scan(folder);
+    EXPECT_EQ(scan.largest, 100);
+    EXPECT_EQ(scan.fitting(101, 1), "a b ");
+    EXPECT_EQ(scan.fitting(102, 1), "a ");
+    EXPECT_EQ(scan.fitting(101, 2), "b ");
+    EXPECT_EQ(scan.fitting(101, 3), "");
+    EXPECT_EQ(scan.fitting(121, 0), "");
 }

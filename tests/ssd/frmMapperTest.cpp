@@ -1,13 +1,11 @@
 #include "frmMapper.h"
 
 #include "Error.h"
-#include "SheetImages.h"
 #include "fakeServices.h"
+#include "formText.h"
 #include "sheetWorld.h"
 
 #include <gtest/gtest.h>
-
-#include <map>
 
 using namespace fleetwright;
 namespace fs = std::filesystem;
@@ -23,12 +21,10 @@ protected:
                               "FIRECON: (5,6)\n");
         folder.write("Wide", "SIZE: 100\nIMAGE: WIDE.BMP\nWEAP: (1,2,F)\nWEAP: (9,2,P)\n");
         folder.write("Light", "SIZE: 4\nIMAGE: ship.bmp\nWEAP: (1,2,F)\n");
+        folder.write("Bare", "SIZE: 10\nWEAP: (1,2,F)\n");
         outline("SHIP") = Raster(400, 100);
         outline("WIDE") = Raster(2185, 50);
         maps = loadMaps(folder.path());
-        window = std::make_unique<frmMapper>(frmMapper::Services{
-            folder.path(), desktop, pictures, *this, images, maps, systems,
-            [this]() -> SheetShip { return {"5", parties, "1", "Magpie", "Åsa", "99", *ship}; }});
     }
 
     void carry(std::initializer_list<std::pair<const char*, const char*>> aboard) {
@@ -38,28 +34,24 @@ protected:
         }
     }
     void drawOn(const std::string& map) {
-        window->cboMapSelection.type(map);
-        window->cmdDrawIt.press();
+        window.cboMapSelection.type(map);
+        window.cmdDrawIt.press();
     }
-    /// Which buttons can be pressed: "draw save".
-    std::string buttons() const {
-        return std::string(window->cmdDrawIt.isEnabled() ? "draw " : "") +
-               (window->cmdSave.isEnabled() ? "save" : "");
-    }
-    /// Size of the sheet, of its box and of the window.
-    std::string sizes() const {
-        const Raster& picture = window->picSSD.picture();
-        const Place& box = window->picSSD.place();
-        return std::to_string(picture.width()) + 'x' + std::to_string(picture.height()) + ' ' +
+    /// What the window shows: sizes of the sheet, of its box and of the window, what can be
+    /// pressed, and the messages since the last look.
+    std::string look() {
+        const Raster& sheet = window.picSSD.picture();
+        const Place& box = window.picSSD.place();
+        return std::to_string(sheet.width()) + 'x' + std::to_string(sheet.height()) + ' ' +
                std::to_string(box.width) + 'x' + std::to_string(box.height) + ' ' +
-               std::to_string(window->width()) + 'x' + std::to_string(window->height());
+               std::to_string(window.width()) + 'x' + std::to_string(window.height()) +
+               (window.cmdDrawIt.isEnabled() ? " draw" : "") +
+               (window.cmdSave.isEnabled() ? " save " : " ") + std::exchange(desktop.log, {});
     }
     Raster& outline(const std::string& name) {
         return pictures.files[(folder.path() / "shipimages" / (name + ".BMP")).string()];
     }
-    std::string takeLog() { return std::exchange(desktop.log, {}); }
 
-    // PictureEncoder
     std::string encode(const Raster& picture, const std::string& format) override {
         return format + ' ' + std::to_string(picture.width()) + 'x' +
                std::to_string(picture.height());
@@ -81,152 +73,161 @@ protected:
                                                         : small;
                              },
                              [this](std::string_view) -> const Raster& { return small; }};
-    std::unique_ptr<frmMapper> window;
+    frmMapper window{{.appFolder = folder.path(),
+                      .desktop = desktop,
+                      .pictures = pictures,
+                      .encoder = *this,
+                      .images = images,
+                      .g_colSSDMaps = maps,
+                      .lvCurrentWeapons = systems,
+                      .ship = [this]() -> SheetShip {
+                          return {"5", parties, "1", "Magpie", "Åsa", "99", *ship};
+                      }}};
 };
 
-constexpr const char* drawnSizes = "400x171 6000x2565 6305x3800";
+const std::string firstLook = "0x0 4635x120 5055x1335 draw save ";
+const std::string emptyLook = "0x0 4635x120 5055x1355 draw save ";
+const std::string drawnLook = "400x171 6000x2565 6305x3800 save ";
 
-}  // namespace
+TEST_F(Mapper, HasItsControlsInTheirPlaces) {
+    EXPECT_EQ(formText(window), "frmMapper 0,0 4935x930 \"Create SSD\" hidden, border sizable\n"
+                                "  fraControls 105,0 4635x645\n"
+                                "    cboMapSelection 105,210 2115x315 \"Selection\" \"Map\"\n"
+                                "    cmdDrawIt 2310,210 1065x330 \"Draw It!\"\n"
+                                "    cmdSave 3465,210 1065x330 \"Save It!\"\n"
+                                "  picSSD 105,735 4635x120 \"Sheet\"\n");
+}
 
-TEST_F(Mapper, OffersTheMapsThatFitAndBeginsEmpty) {
-    window->show();
-    EXPECT_EQ(window->cboMapSelection.items(), (std::vector<std::string>{"Small", "Wide"}));
-    EXPECT_EQ(window->cboMapSelection.text(), "");
-    EXPECT_EQ(buttons(), "draw save");
-    window->cmdDrawIt.press();
-    EXPECT_EQ(sizes(), "0x0 4635x120 5055x1335");
-    EXPECT_EQ(takeLog(), "");
-    window->paint();  // the strip and its margin are higher than the window was drawn
-    EXPECT_EQ(sizes(), "0x0 4635x120 5055x1355");
+TEST_F(Mapper, OffersTheMapsThatFitAndBeginsAnewEachTime) {
+    window.show();
+    EXPECT_EQ(window.cboMapSelection.items(), (std::vector<std::string>{"Bare", "Small", "Wide"}));
+    EXPECT_EQ(window.cboMapSelection.text(), "");
+    window.cmdDrawIt.press();
+    EXPECT_EQ(look(), firstLook);
+    window.paint();  // the strip and its margin are higher than the window was drawn
+    EXPECT_EQ(look(), emptyLook);
+    drawOn("small");
+    window.setState(WindowState::Maximized);
+    window.unload();
+    carry({{"Damage Control Party", "9"}});
+    window.show();
+    EXPECT_EQ(look(), emptyLook);
+    EXPECT_EQ(window.state(), WindowState::Normal);
+    EXPECT_EQ(window.cboMapSelection.text(), "");
+    carry({{"F", "9"}});
+    window.show();  // open already: it only comes to the front
+    EXPECT_EQ(window.cboMapSelection.items().size(), 3U);
+    window.unload();
+    carry({{"F", "32768"}});
+    window.show();
+    EXPECT_EQ(look(), emptyLook + "The ship has too many systems for a sheet!!!/SSD Creation Error "
+                                  "critical; ");
+    EXPECT_TRUE(window.cboMapSelection.items().empty());
 }
 
 TEST_F(Mapper, DrawsAndShowsEachSystemAsItComes) {
     carry({{"F", "1"}, {"Listed", "2"}});
-    window->show();
-    std::vector<int> seen;
-    const Connection connection =
-        window->RepaintWanted.connect([&] { seen.push_back(window->picSSD.picture().height()); });
+    window.show();
+    std::string seen;
+    const Connection repainted = window.RepaintWanted.connect(
+        [&] { seen += std::to_string(window.picSSD.picture().height()) + ' '; });
+    const Connection painted = window.picSSD.Painted.connect(
+        [&](int first, int end) { seen += std::to_string(end - first) + ' '; });
     drawOn("small");
-    EXPECT_EQ(takeLog(), "");
-    EXPECT_EQ(seen, (std::vector<int>{100, 100, 100}));
-    EXPECT_EQ(buttons(), "save");
-    EXPECT_GT(window->picSSD.picture().height(), 171);  // the two that are listed
-    EXPECT_EQ(window->picSSD.place().height, window->picSSD.picture().height() * 15);
+    EXPECT_EQ(seen, "100 100 100 100 100 100 240 ") << "the two that are listed have their lines";
+    EXPECT_EQ(look(), "400x240 6000x3600 6305x4835 save ");
 }
 
 TEST_F(Mapper, TakesItsSizeFromTheSheetAndKeepsIt) {
-    window->show();
+    window.show();
     drawOn("Small");
-    EXPECT_EQ(sizes(), drawnSizes);
-    window->resize(300, 5000);
-    EXPECT_EQ(sizes(), "400x171 6000x2565 4940x5000");
-    window->resize(9000, 300);
-    EXPECT_EQ(sizes(), "400x171 6000x2565 9000x3800");
-    window->setState(WindowState::Maximized);
-    window->resize(300, 405);
-    EXPECT_EQ(sizes(), "400x171 6000x2565 300x405");
-    window->setState(WindowState::Normal);
-    EXPECT_EQ(sizes(), "400x171 6000x2565 4940x3800");
-
+    EXPECT_EQ(look(), drawnLook);
+    window.resize(300, 5000);
+    EXPECT_EQ(look(), "400x171 6000x2565 4940x5000 save ");
+    window.resize(9000, 300);
+    EXPECT_EQ(look(), "400x171 6000x2565 9000x3800 save ");
+    window.setState(WindowState::Maximized);
+    window.resize(300, 405);
+    window.paint();
+    EXPECT_EQ(look(), "400x171 6000x2565 300x405 save ");
+    window.setState(WindowState::Normal);
+    EXPECT_EQ(look(), "400x171 6000x2565 4940x3800 save ");
+    window.unload();
     outline("SHIP") = Raster(10, 100);  // narrower than the frame
-    window->unload();
-    window->show();
-    EXPECT_EQ(sizes(), "0x0 4635x120 5055x1355");
+    window.show();
+    window.setState(WindowState::Maximized);
     drawOn("Small");
-    EXPECT_EQ(sizes(), "10x171 150x2565 4940x3800");
+    EXPECT_EQ(look(), "10x171 150x2565 5055x1355 save ");
+    window.setState(WindowState::Normal);
+    EXPECT_EQ(look(), "10x171 150x2565 5055x3800 save ");
 }
 
 TEST_F(Mapper, SaysWhichStepHasFailed) {
-    window->show();
+    const std::string noOutline = "Couldn't load image file!!!/Error loading image file critical; ";
+    window.show();
     drawOn("Smal");
-    EXPECT_EQ(takeLog(), "Invalid map file!!!/Error in map file critical; ");
-    pictures.files.erase((folder.path() / "shipimages/SHIP.BMP").string());
+    EXPECT_EQ(look(), firstLook + "Invalid map file!!!/Error in map file critical; ");
+    drawOn("Bare");
+    EXPECT_EQ(look(), firstLook + noOutline);
+    EXPECT_EQ(window.lastFault(), "the map names no outline");
+    const auto kept = std::exchange(pictures.files, {});
     drawOn("Small");
-    EXPECT_EQ(takeLog(), "Couldn't load image file!!!/Error loading image file critical; ");
-    EXPECT_NE(window->lastFault().find("SHIP.BMP: cannot be read"), std::string::npos);
+    EXPECT_EQ(look(), firstLook + noOutline);
+    EXPECT_EQ(window.lastFault(), folder.path().string() + "/shipimages/SHIP.BMP: cannot be read");
+    pictures.files = kept;
     drawOn("Wide");  // 32775 twips
-    EXPECT_EQ(takeLog(), "Couldn't load image file!!!/Error loading image file critical; ");
-    EXPECT_EQ(buttons(), "draw save");
-
-    // A second click does not meet what the first one has left in the lists.
-    outline("SHIP") = Raster(400, 100);
-    outline("WIDE") = Raster(400, 100);
+    EXPECT_EQ(look(), "2185x50 32775x750 5055x1335 draw save " + noOutline);
     drawOn("Small");
-    EXPECT_EQ(takeLog(), "");
-    EXPECT_EQ(sizes(), drawnSizes);
+    EXPECT_EQ(look(), drawnLook);
 }
 
 TEST_F(Mapper, ShowsTheOutlineAgainWhenTheDrawingFails) {
     outline("SHIP").pixel(4, 5) = 0x123456;
-    const auto expectFailure = [&](const char* cause) {
-        window->show();
+    const auto expectFailure = [&](const std::string& cause) {
+        window.show();
         drawOn("Small");
-        EXPECT_EQ(takeLog(), "Could not create the SSD!/SSD Creation Error critical; ");
-        EXPECT_NE(window->lastFault().find(cause), std::string::npos) << window->lastFault();
-        EXPECT_EQ(buttons(), "save");
-        EXPECT_EQ(sizes(), "400x100 6000x1500 6305x2735");
-        EXPECT_EQ(window->picSSD.picture().pixel(4, 5), 0x123456U);
-        window->unload();
+        EXPECT_EQ(look(), "400x100 6000x1500 6305x2735 save "
+                          "Could not create the SSD!/SSD Creation Error critical; ");
+        EXPECT_EQ(window.lastFault(), cause);
+        const Raster& sheet = window.picSSD.picture();
+        EXPECT_EQ(sheet.pixel(4, 5), pictures.files.empty() ? 0xFFFFFFU : 0x123456U);
+        window.unload();
     };
     lacking = "escort5.gif";
-    expectFailure("escort5.gif");
+    expectFailure("escort5.gif: is missing");
     lacking = "";
-    parties = "2";
-    expectFailure("damage control parties");
     parties = "many";
-    expectFailure("many");
+    expectFailure("\"many\" is no number");
+    parties = "2";
+    const Connection gone = window.RepaintWanted.connect([this] { pictures.files.clear(); });
+    expectFailure("the map has too few points for the ship's damage control parties");
 }
 
-TEST_F(Mapper, RefusesCountsThatNoSheetHolds) {
-    carry({{"F", "32768"}});
-    window->show();
-    EXPECT_EQ(takeLog(),
-              "The ship has too many systems for a sheet!!!/SSD Creation Error critical; ");
-    EXPECT_TRUE(window->cboMapSelection.items().empty());
-}
-
-TEST_F(Mapper, SavesUnderANameThatEndsInBmp) {
-    const std::map<std::string, std::string> names = {
-        {"a.bmp", "a.bmp"}, {"b", "b.bmp"}, {"c.BMP", "c.BMP.bmp"}, {"é.png", "é.png.bmp"}};
-    for (const auto& [typed, written] : names) {
-        window->show();
+TEST_F(Mapper, SavesUnderANameThatEndsInBmpAndStaysOpenOtherwise) {
+    for (const auto& [typed, written] : {std::pair("a.bmp", "a.bmp"),
+                                         {"b", "b.bmp"},
+                                         {"c.BMP", "c.BMP.bmp"},
+                                         {"é.png", "é.png.bmp"}}) {
+        window.show();
         drawOn("Small");
+        desktop.choice.reset();
+        window.cmdSave.press();
+        desktop.choice = (folder.path() / "none" / "a").string();
+        window.cmdSave.press();
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(look(), drawnLook);
         desktop.choice = (folder.path() / typed).string();
-        window->cmdSave.press();
+        window.cmdSave.press();
         EXPECT_EQ(folder.read(written), "bmp 400x171") << typed;
-        EXPECT_FALSE(window->isLoaded());
+        EXPECT_FALSE(window.isLoaded());
     }
-}
-
-TEST_F(Mapper, StaysOpenWhenNothingIsSaved) {
-    window->show();
-    drawOn("Small");
-    window->cmdSave.press();
     EXPECT_EQ(desktop.asked.filter, "All Files (*.*)|*.*|BitMap Files");
     EXPECT_EQ(desktop.asked.filterIndex, 2);
     EXPECT_EQ(desktop.asked.initialFolder, folder.path() / "ssds");
-    desktop.choice = (folder.path() / "none" / "a").string();
-    window->cmdSave.press();
-    EXPECT_EQ(takeLog(), "");
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(sizes(), drawnSizes);
+    EXPECT_EQ(desktop.asked.extension, ".bmp");
+    window.show();  // nothing is drawn yet
+    window.cmdSave.press();
+    EXPECT_EQ(folder.read("é.png.bmp"), "bmp 309x8");
 }
 
-TEST_F(Mapper, BeginsAnewEachTimeAndSavesTheEmptyStrip) {
-    window->show();
-    drawOn("Small");
-    window->setState(WindowState::Maximized);
-    window->unload();
-    carry({});
-    window->show();
-    EXPECT_EQ(buttons(), "draw save");
-    EXPECT_EQ(window->cboMapSelection.text(), "");
-    EXPECT_EQ(sizes(), "0x0 4635x120 5055x1355");
-    EXPECT_EQ(window->state(), WindowState::Normal);
-    carry({{"F", "9"}});
-    window->show();  // open already: it only comes to the front
-    EXPECT_EQ(window->cboMapSelection.items().size(), 2U);
-    desktop.choice = (folder.path() / "strip").string();
-    window->cmdSave.press();
-    EXPECT_EQ(folder.read("strip.bmp"), "bmp 309x8");
-}
+}  // namespace

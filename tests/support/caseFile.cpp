@@ -1,0 +1,65 @@
+#include "caseFile.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr const char* result = "makes";
+
+std::string withoutLastEnds(std::string text) {
+    text.erase(text.find_last_not_of('\n') + 1);
+    return text;
+}
+
+std::vector<Case> readCases(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::vector<Case> cases;
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with("=== ")) {
+            cases.push_back({.title = line.substr(4), .texts = {}});
+        } else if (line.starts_with("--- ")) {
+            cases.back().texts.emplace_back(line.substr(4), "");
+        } else if (!cases.back().texts.empty()) {
+            cases.back().texts.back().second += line + '\n';
+        }
+    }
+    return cases;
+}
+
+}  // namespace
+
+std::string Case::operator[](const std::string& name) const {
+    for (const auto& [known, text] : texts) {
+        if (known == name) {
+            return withoutLastEnds(text);
+        }
+    }
+    return {};
+}
+
+void expectCases(const std::string& file, const std::function<std::string(const Case&)>& act) {
+    const std::filesystem::path path = SOURCE_FOLDER "/tests/" + file;
+    const std::vector<Case> cases = readCases(path);
+    EXPECT_FALSE(cases.empty()) << path << " holds no case";
+    std::string renewed;
+    for (const Case& each : cases) {
+        const std::string made = withoutLastEnds(act(each));
+        EXPECT_EQ(made, each[result]) << file << ": " << each.title;
+        renewed += "=== " + each.title + '\n';
+        for (const auto& [name, text] : each.texts) {
+            renewed += "--- " + name + '\n' + (name == result ? made + "\n\n" : text);
+        }
+    }
+    if (testing::Test::HasFailure()) {
+        const std::string kept = testing::TempDir() + path.filename().string();
+        std::ofstream(kept, std::ios::binary) << renewed.substr(0, renewed.size() - 1);
+        ADD_FAILURE() << "what " << file << " would be now stands in " << kept;
+    }
+}
+
+}  // namespace fleetwright
