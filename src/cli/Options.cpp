@@ -1,285 +1,223 @@
 #include "Options.h"
 
+#include "CommandRow.h"
 #include "TextFile.h"
 #include "applicationFolder.h"
-#include "capitals.h"
 #include "executableFolder.h"
+#include "helpText.h"
 
-#include <array>
-#include <charconv>
-#include <functional>
-#include <limits>
-#include <string_view>
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
 
 namespace fleetwright {
 
 namespace {
 
-constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
-
-/// A command and the words that it takes besides its options.
-struct CommandRow {
-    std::string_view name;
-    Command command;
-    std::string_view words;
-    std::size_t least;
-    std::size_t most;
-    std::string_view help;
+/// What ends the reading where help or version are asked for.
+struct Answer {
+    std::string text;
 };
 
-constexpr auto commandTable = std::to_array<CommandRow>({
-    {"report", Command::Report, "SHIP...", 1, any, "Print the report of ships"},
-    {"figures", Command::Figures, "SHIP... [--auto-mass]", 1, any,
-     "Print the figures of ships, one JSON object a line"},
-    {"explain", Command::Explain, "SHIP...", 1, any,
-     "Say what cost, damage points and mass left are made of"},
-    {"save", Command::Save, "SHIP OUT", 2, 2, "Load a ship and save it as OUT"},
-    {"eval", Command::Eval, "FORMULA [NUMBERS]", 1, 1,
-     "Work out a mass or cost formula of the catalogue"},
-    {"maps", Command::Maps, "[SHIP]", 0, 1,
-     "List all maps for sheets, or those that a ship fits on"},
-    {"sheet", Command::Sheet, "SHIP... [--map NAME] [-o OUT]", 1, any,
-     "Draw the sheets of ships: OUT is a .bmp, .png or .pdf file, or a folder"},
-    {"scan", Command::Scan, "OUTLINE... [-o OUT]", 1, any,
-     "Make maps from marked outlines; OUT is a file or, for several, a folder"},
-    {"check", Command::Check, "[FILE...]", 0, any,
-     "Say what is wrong with .dat, .shp and .map files, or with all of the folder"},
-    {"unpack", Command::Unpack, "", 0, 0, "Unpack the pictures into the application folder"},
-    {"recovered", Command::Recovered, "[NAME OUT]", 0, 2,
-     "List designs that were put aside, or write one as OUT"},
-});
-
-/// A number that a formula can name, and the option that sets it.
-struct NumberRow {
-    std::string_view option;
-    std::int32_t EvalArguments::*number;
-    std::string_view help;
-};
-
-constexpr std::array<NumberRow, 6> numberTable = {{
-    {"--mass", &EvalArguments::mass, "hull mass"},
-    {"--hull", &EvalArguments::hull, "hull type code"},
-    {"--ftl", &EvalArguments::ftl, "FTL code"},
-    {"--thrust", &EvalArguments::thrust, "thrust"},
-    {"--hull-cost", &EvalArguments::hullCost, "cost of the hull"},
-    {"--amount", &EvalArguments::amount, "pieces"},
-}};
-
-std::string padded(std::string text, std::size_t width) {
-    text.resize(std::max(text.size() + 2, width), ' ');
-    return text;
+/// CLI11 takes "--name=" for "--name". So an empty value is handed to it as a NUL, which no word of
+/// a command line can hold.
+std::string withMark(std::string word) {
+    const bool isEmptyValue = word.starts_with("--") && word.find('=') == word.size() - 1;
+    return isEmptyValue ? word + '\0' : word;
 }
 
-std::string helpText() {
-    std::string text = "Works on FleetWright starship designs without a window.\n"
-                       "Usage: fleetwright-cli [--app DIR] COMMAND ...\n\nCommands:\n";
-    for (const CommandRow& row : commandTable) {
-        text += padded("  " + std::string(row.name) + ' ' + std::string(row.words), 32) +
-                std::string(row.help) + '\n';
+std::string withoutMark(std::string word) {
+    if (word.ends_with('\0')) {
+        word.pop_back();
     }
-    text += "\nOptions, before or behind the files; \"--\" ends them:\n" +
-            padded("  --app DIR", 32) + "The application folder, by default that of the program\n" +
-            padded("  --auto-mass", 32) + "Fit the hull mass to the systems\n" +
-            padded("  --help, --version", 32) + "Show this help, or the version\n" +
-            padded("  --map NAME", 32) + "The map to draw on, by default the first that fits\n" +
-            padded("  -o OUT", 32) +
-            "Where to write; by default sheets to SHIP.bmp here, maps to standard output\n" +
-            padded("  --paper A4|Letter", 32) + "The paper of a .pdf, by default A4\n" +
-            "\nNumbers of eval, with what they are if not given:\n";
-    for (const NumberRow& row : numberTable) {
-        text += padded("  " + std::string(row.option) + " N", 32) + std::string(row.help) + ", " +
-                std::to_string(EvalArguments().*row.number) + '\n';
-    }
-    return text;
+    return word;
 }
 
-std::int32_t numberOf(std::string_view option, std::string_view text) {
-    std::int32_t number = 0;
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    if (result.ec != std::errc() || result.ptr != end) {
-        throw UsageError(std::string(option) + ": \"" + std::string(text) +
-                         "\" is no whole number of 32 bits");
-    }
-    return number;
-}
-
-/// Goes through the command line from left to right.
-class Parser {
+/// Reads words with CLI11, from left to right, and keeps its ways from showing: whatever is wrong
+/// is said in our words, and the first of several faults is.
+class WordReader {
 public:
-    Parser(int argc, const char* const* argv) : m_words(argv + 1, argv + argc) {}
+    /// Without a command, what stands behind the first word that is no option is left as it is.
+    WordReader(std::vector<std::string> words, const CommandRow* command)
+        : m_words(std::move(words)), m_left(m_words.rbegin(), m_words.rend()), m_command(command) {
+        m_app.set_help_flag();
+        m_app.allow_windows_style_options(false);
+        m_app.allow_extras();
+        m_app.prefix_command(command == nullptr);
+    }
 
-    Options parse(const char* argv0) {
-        while (m_next < m_words.size() && m_options.answer.empty()) {
-            const std::string_view word = m_words[m_next++];
-            if (m_isBehindMark || !isOption(word)) {
-                takeWord(word);
-            } else if (word == "--") {
-                m_isBehindMark = true;
-            } else {
-                takeOption(word);
+    bool isOption(std::string_view word) const {
+        const bool isSigned = m_command != nullptr && m_command->takesSigned;
+        return word.size() > 1 && word.starts_with(isSigned ? "--" : "-");
+    }
+
+    void addFlag(const std::string& name, const std::function<void()>& given) {
+        add(name, [this, name, given](const std::string&) {
+            if (lastWord() != name) {
+                throw unknown(lastWord());  // such as --name=value
             }
+            given();
+        })->expected(0);
+    }
+
+    void addOption(const std::string& name, const std::function<void(const std::string&)>& given) {
+        add(name, [this, name, given](const std::string& value) {
+            const bool isAttached = name.size() == 2 && lastWord() == name + value;
+            if (isAttached && !value.starts_with('=')) {
+                throw unknown(lastWord());
+            }
+            given(isAttached ? value.substr(1) : withoutMark(value));
+        });
+    }
+
+    /// Reads all; returns the words that are no options, still marked, and "--" where it is.
+    std::vector<std::string> read() {
+        try {
+            m_app.parse(m_left);
+        } catch (const CLI::ArgumentMismatch&) {
+            throw UsageError(lastWord() + " needs a value");
         }
-        if (!m_options.answer.empty()) {
-            m_options.command = Command::None;
-            return m_options;
-        }
-        finish();
-        m_options.programFolder = executableFolder(argv0);
-        if (m_options.appFolder.empty()) {
-            m_options.appFolder = applicationFolder(m_options.programFolder);
-        }
-        return m_options;
+        refuseUnknown();
+        return m_app.remaining();
     }
 
 private:
-    /// A formula may begin with a sign, so that only two of them make an option of eval.
-    bool isOption(std::string_view word) const {
-        if (m_options.command == Command::Eval) {
-            return word.starts_with("--");
-        }
-        return word.size() > 1 && word.starts_with('-');
+    CLI::Option* add(const std::string& name, const std::function<void(const std::string&)>& take) {
+        return m_app
+            .add_option(name,
+                        [this, take](const CLI::results_t& values) {
+                            refuseUnknown();
+                            take(values.back());
+                            return true;
+                        })
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast)
+            ->trigger_on_parse();
     }
 
-    void takeWord(std::string_view word) {
-        if (m_row != nullptr) {
-            m_options.files.emplace_back(word);
-            return;
-        }
-        for (const CommandRow& row : commandTable) {
-            if (row.name == word) {
-                m_row = &row;
-                m_options.command = row.command;
+    /// The last of the words that CLI11 has taken so far.
+    std::string lastWord() const { return m_words[m_words.size() - m_left.size() - 1]; }
+
+    static UsageError unknown(const std::string& word) {
+        return UsageError("unknown option " + withoutMark(word));
+    }
+
+    void refuseUnknown() const {
+        for (const std::string& word : m_app.remaining()) {
+            if (word == "--" || (m_command == nullptr && !isOption(word))) {
                 return;
             }
-        }
-        throw UsageError("no command \"" + std::string(word) + '"');
-    }
-
-    void takeOption(std::string_view word) {
-        const std::size_t equals = word.find('=');
-        const std::string_view name = word.substr(0, equals);
-        const auto value = [&]() -> std::string_view {
-            if (equals != std::string_view::npos) {
-                return word.substr(equals + 1);
+            if (isOption(word)) {
+                throw unknown(word);
             }
-            if (m_next == m_words.size()) {
-                throw UsageError(std::string(name) + " needs a value");
-            }
-            return m_words[m_next++];
-        };
-        if (name == "--app") {
-            m_options.appFolder = nativePath(value());
-            if (m_options.appFolder.empty()) {
-                throw UsageError("--app needs a folder");
-            }
-            return;
-        }
-        if (name == "-o" &&
-            (m_options.command == Command::Scan || m_options.command == Command::Sheet)) {
-            m_options.output = value();
-            if (m_options.output.empty()) {
-                throw UsageError("-o needs a file or a folder");
-            }
-            return;
-        }
-        for (const NumberRow& row : numberTable) {
-            if (m_options.command == Command::Eval && row.option == name) {
-                m_options.evalArguments.*row.number = numberOf(name, value());
-                return;
-            }
-        }
-        if (m_options.command == Command::Sheet && takeSheetOption(name, value)) {
-            return;
-        }
-        if (word == "--auto-mass" && m_options.command == Command::Figures) {
-            m_options.autoMass = true;
-        } else if (word == "--help" || word == "-h") {
-            m_options.answer = helpText();
-        } else if (word == "--version") {
-            m_options.answer = "FleetWright " FLEETWRIGHT_VERSION "\n";
-        } else {
-            throw UsageError("unknown option " + std::string(word));
         }
     }
 
-    bool takeSheetOption(std::string_view name, const std::function<std::string_view()>& value) {
-        if (name == "--map") {
-            m_options.mapName = value();
-        } else if (name == "--paper") {
-            const std::string paper = toCapitals(value());
-            if (paper != "A4" && paper != "LETTER") {
-                throw UsageError("--paper is A4 or Letter");
-            }
-            m_options.paper = paper == "A4" ? Paper::A4 : Paper::Letter;
-        } else {
-            return false;
-        }
-        return true;
-    }
-
-    /// What `-o` names: an ending says that it is a file, unless there is a folder of that name.
-    void finishSheet() {
-        const std::filesystem::path out = nativePath(m_options.output);
-        std::error_code ignored;
-        if (!out.has_extension() || std::filesystem::is_directory(out, ignored)) {
-            return;
-        }
-        const std::optional<std::string> format = sheetFormat(m_options.output);
-        if (!format) {
-            throw UsageError("-o: a sheet is a .bmp, .png or .pdf file: " + m_options.output);
-        }
-        m_options.sheetOut = format == "pdf" ? SheetOut::Document : SheetOut::Picture;
-        if (m_options.sheetOut == SheetOut::Picture && m_options.files.size() > 1) {
-            throw UsageError("-o: several sheets need a folder or a .pdf file");
-        }
-    }
-
-    void finish() {
-        if (m_row == nullptr) {
-            throw UsageError("no command");
-        }
-        if (m_options.files.size() < m_row->least) {
-            throw UsageError("too few words for " + std::string(m_row->name) + ' ' +
-                             std::string(m_row->words));
-        }
-        if (m_options.files.size() > m_row->most) {
-            throw UsageError("one too many: " + m_options.files[m_row->most]);
-        }
-        if (m_options.command == Command::Sheet) {
-            finishSheet();
-        } else if (m_options.command == Command::Eval) {
-            m_options.formula = m_options.files.front();
-            m_options.files.clear();
-        } else if (m_options.command == Command::Recovered && m_options.files.size() == 1) {
-            throw UsageError("recovered needs a NAME and an OUT");
-        } else if (m_options.files.size() == 2 && (m_options.command == Command::Save ||
-                                                   m_options.command == Command::Recovered)) {
-            m_options.saveName = m_options.files.back();
-            m_options.files.pop_back();
-        }
-    }
-
-    std::vector<std::string_view> m_words;
-    std::size_t m_next = 0;
-    bool m_isBehindMark = false;
-    const CommandRow* m_row = nullptr;
-    Options m_options;
+    CLI::App m_app;
+    std::vector<std::string> m_words;
+    std::vector<std::string> m_left;  // backwards, as CLI11 wants them
+    const CommandRow* m_command;
 };
+
+/// Adds the options that stand before the command or behind it.
+void addGeneralOptions(WordReader& reader, Options& options,
+                       const std::function<std::string()>& help) {
+    reader.addOption("--app", [&options](const std::string& folder) {
+        options.appFolder = nativePath(folder);
+        if (options.appFolder.empty()) {
+            throw UsageError("--app needs a folder");
+        }
+    });
+    for (const char* const name : {"--help", "-h"}) {
+        if (reader.isOption(name)) {
+            reader.addFlag(name, [help] { throw Answer{help()}; });
+        }
+    }
+    reader.addFlag("--version", [] { throw Answer{"FleetWright " FLEETWRIGHT_VERSION "\n"}; });
+}
+
+/// Reads up to the command, and returns the words behind it.
+std::vector<std::string> readCommand(CommandRows commands, std::vector<std::string> words,
+                                     Options& options) {
+    WordReader reader(std::move(words), nullptr);
+    addGeneralOptions(reader, options, [commands] { return helpText(commands); });
+    std::vector<std::string> rest = reader.read();
+    const auto name = rest.begin() + (!rest.empty() && rest.front() == "--" ? 1 : 0);
+    if (name == rest.end()) {
+        throw NoCommandError();
+    }
+    const auto row =
+        std::ranges::find_if(commands, [&](const CommandRow* each) { return each->name == *name; });
+    if (row == commands.end()) {
+        throw UsageError("no command \"" + withoutMark(*name) + '"');
+    }
+    options.command = *row;
+    rest.erase(name);
+    return rest;
+}
+
+void readWords(std::vector<std::string> words, Options& options) {
+    const CommandRow& row = *options.command;
+    WordReader reader(std::move(words), &row);
+    addGeneralOptions(reader, options, [&row] { return helpText(row); });
+    for (const OptionRow& option : row.options) {
+        const auto take = [&](const std::string& value) {
+            if (option.check != nullptr) {
+                option.check(option.name, value);
+            }
+            options.values[std::string(option.name)] = value;
+        };
+        if (option.value.empty()) {
+            reader.addFlag(std::string(option.name), [take] { take({}); });
+        } else {
+            reader.addOption(std::string(option.name), take);
+        }
+    }
+    bool isBehindMark = false;
+    for (const std::string& word : reader.read()) {
+        if (word == "--" && !isBehindMark) {
+            isBehindMark = true;
+        } else {
+            options.words.push_back(withoutMark(word));
+        }
+    }
+    if (options.words.size() < row.least) {
+        throw UsageError("too few words for " + std::string(row.name) + ' ' +
+                         std::string(row.words));
+    }
+    if (options.words.size() > row.most) {
+        throw UsageError("one too many: " + options.words[row.most]);
+    }
+    if (row.check != nullptr) {
+        row.check(options);
+    }
+}
 
 }  // namespace
 
-std::optional<std::string> sheetFormat(std::string_view file) {
-    for (const char* const format : {"bmp", "png", "pdf"}) {
-        if (toCapitals(file).ends_with('.' + toCapitals(format))) {
-            return format;
-        }
+std::string Options::value(std::string_view option) const {
+    if (const auto given = values.find(option); given != values.end()) {
+        return given->second;
     }
-    return std::nullopt;
+    const auto row = std::ranges::find(command->options, option, &OptionRow::name);
+    return row == command->options.end() ? std::string() : std::string(row->byDefault);
 }
 
-Options readOptions(int argc, const char* const* argv) {
-    return Parser(argc, argv).parse(argv[0]);
+Options readOptions(CommandRows commands, int argc, const char* const* argv) {
+    Options options;
+    try {
+        std::vector<std::string> words(argv + 1, argv + argc);
+        std::ranges::transform(words, words.begin(), withMark);
+        readWords(readCommand(commands, std::move(words), options), options);
+    } catch (const Answer& answer) {
+        options.command = nullptr;
+        options.answer = answer.text;
+        return options;
+    }
+    options.programFolder = executableFolder(argv[0]);
+    if (options.appFolder.empty()) {
+        options.appFolder = applicationFolder(options.programFolder);
+    }
+    return options;
 }
 
 }  // namespace fleetwright

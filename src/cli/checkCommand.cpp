@@ -108,15 +108,13 @@ std::vector<Fault> checkFile(const Options& options, const std::string& file) {
     }
 }
 
-}  // namespace
-
 int runCheck(const Options& options) {
     int status = Done;
     const auto complain = [&status](const std::string& file, const Fault& fault) {
         std::printf("%s\n", complaint(file, fault).c_str());
         status = SomeRefused;
     };
-    std::vector<std::string> files = options.files;
+    std::vector<std::string> files = options.words;
     if (files.empty()) {
         files.push_back((options.appFolder / "weaps.dat").string());
         for (const auto& [folder, ending] : {std::pair("ships", ".shp"), {"maps", ".map"}}) {
@@ -139,5 +137,18 @@ int runCheck(const Options& options) {
     }
     return status;
 }
+
+}  // namespace
+
+extern const CommandRow checkCommand = {
+    .name = "check",
+    .words = "[FILE...]",
+    .most = CommandRow::any,
+    .help = "Say what is wrong with .dat, .shp and .map files, or with all of the folder",
+    .details =
+        "These are catalogues, ships and maps. Without a FILE, all of the application folder is "
+        "looked through, its pictures included.",
+    .run = runCheck,
+};
 
 }  // namespace fleetwright

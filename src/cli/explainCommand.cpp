@@ -5,6 +5,8 @@
 
 namespace fleetwright {
 
+namespace {
+
 int runExplain(const Options& options) {
     return forEachShip(options, RefusedLines::AsComplaints, [](std::size_t, ShipOnScreen& screen) {
         std::string text = screen.ship().g_sShipName + '\n';
@@ -14,5 +16,17 @@ int runExplain(const Options& options) {
         return text;
     });
 }
+
+}  // namespace
+
+extern const CommandRow explainCommand = {
+    .name = "explain",
+    .words = "SHIP...",
+    .least = 1,
+    .most = CommandRow::any,
+    .help = "Say what cost, damage points and mass left are made of",
+    .details = "Each has a line for each of its parts, and their sum.",
+    .run = runExplain,
+};
 
 }  // namespace fleetwright

@@ -21,6 +21,16 @@ Json systemsOf(ShipClass& ship) {
     return systems;
 }
 
+int runFigures(const Options& options) {
+    return forEachShip(options, RefusedLines::InOutput,
+                       [&options](std::size_t index, ShipOnScreen& screen) {
+                           if (options.has("--auto-mass")) {
+                               screen.switchAutoMassOn();
+                           }
+                           return figuresOf(options.words[index], screen.ship()) + '\n';
+                       });
+}
+
 }  // namespace
 
 std::string figuresOf(const std::string& file, ShipClass& ship) {
@@ -51,14 +61,19 @@ std::string figuresOf(const std::string& file, ShipClass& ship) {
     return figures.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-int runFigures(const Options& options) {
-    return forEachShip(options, RefusedLines::InOutput,
-                       [&options](std::size_t index, ShipOnScreen& screen) {
-                           if (options.autoMass) {
-                               screen.switchAutoMassOn();
-                           }
-                           return figuresOf(options.files[index], screen.ship()) + '\n';
-                       });
-}
+constexpr OptionRow figuresOptions[] = {
+    {.name = "--auto-mass", .help = "Fit the hull mass to the systems"},
+};
+
+extern const CommandRow figuresCommand = {
+    .name = "figures",
+    .words = "SHIP... [--auto-mass]",
+    .least = 1,
+    .most = CommandRow::any,
+    .options = figuresOptions,
+    .help = "Print the figures of ships, one JSON object a line",
+    .details = "With --auto-mass, the mass of the hull is fitted to the systems first.",
+    .run = runFigures,
+};
 
 }  // namespace fleetwright

@@ -1,7 +1,7 @@
+#include "CommandRow.h"
 #include "Error.h"
-#include "Options.h"
-#include "commands.h"
 #include "fileSizeLimit.h"
+#include "helpText.h"
 
 #include <cstdio>
 #include <exception>
@@ -10,35 +10,17 @@ namespace {
 
 using namespace fleetwright;
 
-int run(const Options& options) {
-    switch (options.command) {
-    case Command::Report:
-        return runReport(options);
-    case Command::Figures:
-        return runFigures(options);
-    case Command::Explain:
-        return runExplain(options);
-    case Command::Save:
-        return runSave(options);
-    case Command::Eval:
-        return runEval(options);
-    case Command::Maps:
-        return runMaps(options);
-    case Command::Scan:
-        return runScan(options);
-    case Command::Sheet:
-        return runSheet(options);
-    case Command::Check:
-        return runCheck(options);
-    case Command::Unpack:
-        return runUnpack(options);
-    case Command::Recovered:
-        return runRecovered(options);
-    case Command::None:
-        break;
+int run(int argc, char** argv) {
+    const Options options = readOptions(commandRows(), argc, argv);
+    if (options.command != nullptr) {
+        return options.command->run(options);
     }
     std::fputs(options.answer.c_str(), stdout);
     return Done;
+}
+
+void complain(const UsageError& error) {
+    std::fprintf(stderr, "fleetwright-cli: %s (see fleetwright-cli --help)\n", error.what());
 }
 
 }  // namespace
@@ -47,9 +29,13 @@ int main(int argc, char** argv) {
     letFileSizeLimitFail();
     int status = SomeRefused;
     try {
-        status = run(readOptions(argc, argv));
+        status = run(argc, argv);
+    } catch (const NoCommandError& error) {
+        complain(error);
+        std::fputs(helpText(commandRows()).c_str(), stderr);
+        return WrongUsage;
     } catch (const UsageError& error) {
-        std::fprintf(stderr, "fleetwright-cli: %s (see fleetwright-cli --help)\n", error.what());
+        complain(error);
         return WrongUsage;
     } catch (const FileError& error) {
         std::fprintf(stderr, "%s: %s\n", error.file().string().c_str(), error.what());

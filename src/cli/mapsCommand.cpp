@@ -21,11 +21,9 @@ std::string mapsFor(const SSDMaps& maps, ShipOnScreen& screen) {
     return names;
 }
 
-}  // namespace
-
 int runMaps(const Options& options) {
     const SSDMaps maps = loadMaps(options.appFolder);
-    if (!options.files.empty()) {
+    if (!options.words.empty()) {
         return forEachShip(
             options, RefusedLines::AsComplaints,
             [&maps](std::size_t, ShipOnScreen& screen) { return mapsFor(maps, screen); });
@@ -35,5 +33,16 @@ int runMaps(const Options& options) {
     }
     return Done;
 }
+
+}  // namespace
+
+extern const CommandRow mapsCommand = {
+    .name = "maps",
+    .words = "[SHIP]",
+    .most = 1,
+    .help = "List all maps for sheets, or those that a ship fits on",
+    .details = "Maps that do not load are not listed.",
+    .run = runMaps,
+};
 
 }  // namespace fleetwright

@@ -7,20 +7,28 @@
 
 namespace fleetwright {
 
+namespace {
+
+void checkRecovered(const Options& options) {
+    if (options.words.size() == 1) {
+        throw UsageError("recovered needs a NAME and an OUT");
+    }
+}
+
 int runRecovered(const Options& options) {
     const std::vector<RecoveryFolder::Design> designs =
         RecoveryFolder::list(RecoveryFolder::ofUser());
-    if (options.saveName.empty()) {
+    if (options.words.empty()) {
         for (const RecoveryFolder::Design& design : designs) {
             std::printf("%s\n", design.name.c_str());
         }
         return Done;
     }
-    const std::string& name = options.files.front();
+    const std::string& name = options.words.front();
+    const std::string& out = options.words.back();
     for (const RecoveryFolder::Design& design : designs) {
         if (design.name == name) {
-            const bool isNamed = options.saveName.ends_with(".shp");
-            saveFile(nativePath(options.saveName + (isNamed ? "" : ".shp")),
+            saveFile(nativePath(out.ends_with(".shp") ? out : out + ".shp"),
                      readTextFile(design.file));
             return Done;
         }
@@ -29,5 +37,17 @@ int runRecovered(const Options& options) {
                  complaint(name, {0, "no design of this name was put aside"}).c_str());
     return SomeRefused;
 }
+
+}  // namespace
+
+extern const CommandRow recoveredCommand = {
+    .name = "recovered",
+    .words = "[NAME OUT]",
+    .most = 2,
+    .help = "List designs that were put aside, or write one as OUT",
+    .details = "Designs are put aside because they were never saved. OUT is a ship file.",
+    .check = checkRecovered,
+    .run = runRecovered,
+};
 
 }  // namespace fleetwright

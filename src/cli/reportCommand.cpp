@@ -22,8 +22,6 @@ private:
     std::string m_text;
 };
 
-}  // namespace
-
 int runReport(const Options& options) {
     return forEachShip(options, RefusedLines::AsComplaints, [](std::size_t, ShipOnScreen& screen) {
         TextPrinter printer;
@@ -31,5 +29,17 @@ int runReport(const Options& options) {
         return printer.text();
     });
 }
+
+}  // namespace
+
+extern const CommandRow reportCommand = {
+    .name = "report",
+    .words = "SHIP...",
+    .least = 1,
+    .most = CommandRow::any,
+    .help = "Print the report of ships",
+    .details = "The report is the one that the program prints on paper.",
+    .run = runReport,
+};
 
 }  // namespace fleetwright

@@ -6,11 +6,15 @@
 
 namespace fleetwright {
 
+namespace {
+
 int runSave(const Options& options) {
+    Options ship = options;
+    ship.words.pop_back();
     std::string complaints;
     const int status =
-        forEachShip(options, RefusedLines::AsComplaints, [&](std::size_t, ShipOnScreen& screen) {
-            std::string name = options.saveName;
+        forEachShip(ship, RefusedLines::AsComplaints, [&](std::size_t, ShipOnScreen& screen) {
+            std::string name = options.words.back();
             if (!screen.ship().saveShip(name)) {
                 complaints = complaint(name, *screen.ship().fileFault());
             }
@@ -22,5 +26,16 @@ int runSave(const Options& options) {
     std::fprintf(stderr, "%s\n", complaints.c_str());
     return SomeRefused;
 }
+
+}  // namespace
+
+extern const CommandRow saveCommand = {
+    .name = "save",
+    .words = "SHIP OUT",
+    .least = 2,
+    .most = 2,
+    .help = "Load a ship and save it as OUT",
+    .run = runSave,
+};
 
 }  // namespace fleetwright

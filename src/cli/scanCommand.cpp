@@ -35,8 +35,8 @@ Result scanFile(PictureFiles& pictures, const std::string& file) {
 class MapWriter {
 public:
     explicit MapWriter(const Options& options)
-        : m_output(nativePath(options.output)),
-          m_isFolder(!m_output.empty() && (options.files.size() > 1 || !m_output.has_filename() ||
+        : m_output(nativePath(options.value(outOption.name))),
+          m_isFolder(!m_output.empty() && (options.words.size() > 1 || !m_output.has_filename() ||
                                            fs::is_directory(m_output))) {
         if (m_isFolder) {
             makeFolder(m_output);
@@ -67,8 +67,6 @@ private:
     std::map<std::string, std::string> m_made;  // outlines by the names of their maps
 };
 
-}  // namespace
-
 int runScan(const Options& options) {
     ToolPictures pictures(options.programFolder);
     int status = Done;
@@ -78,7 +76,7 @@ int runScan(const Options& options) {
         status = SomeRefused;
     };
     const auto take = [&](std::size_t index, const Result& result) {
-        const std::string& outline = options.files[index];
+        const std::string& outline = options.words[index];
         for (const std::string& line : result.complaints) {
             complain(line);
         }
@@ -94,9 +92,24 @@ int runScan(const Options& options) {
         }
     };
     inOrder(
-        options.files.size(), std::thread::hardware_concurrency(),
-        [&](std::size_t index) { return scanFile(pictures, options.files[index]); }, take);
+        options.words.size(), std::thread::hardware_concurrency(),
+        [&](std::size_t index) { return scanFile(pictures, options.words[index]); }, take);
     return status;
 }
+
+}  // namespace
+
+constexpr OptionRow scanOptions[] = {outOption};
+
+extern const CommandRow scanCommand = {
+    .name = "scan",
+    .words = "OUTLINE... [-o OUT]",
+    .least = 1,
+    .most = CommandRow::any,
+    .options = scanOptions,
+    .help = "Make maps from marked outlines; OUT is a file or, for several, a folder",
+    .details = "Without -o the maps are printed.",
+    .run = runScan,
+};
 
 }  // namespace fleetwright

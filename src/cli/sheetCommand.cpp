@@ -6,6 +6,7 @@
 #include "ShipOnScreen.h"
 #include "TextFile.h"
 #include "ToolPictures.h"
+#include "capitals.h"
 #include "drawnSheet.h"
 #include "folders.h"
 #include "keepFreedMemory.h"
@@ -13,6 +14,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -22,18 +24,70 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Where sheets go: a file each in a folder, one picture file, one document for all of them.
+enum class SheetOut { Folder, Picture, Document };
+
+/// The format that the ending of a sheet's file means, or nothing.
+std::optional<std::string> sheetFormat(std::string_view file) {
+    for (const char* const format : {"bmp", "png", "pdf"}) {
+        if (toCapitals(file).ends_with('.' + toCapitals(format))) {
+            return format;
+        }
+    }
+    return std::nullopt;
+}
+
+/// What `-o` names: an ending says that it is a file, unless there is a folder of that name.
+SheetOut sheetOut(const Options& options) {
+    const std::string output = options.value(outOption.name);
+    const fs::path out = nativePath(output);
+    std::error_code ignored;
+    if (!out.has_extension() || fs::is_directory(out, ignored)) {
+        return SheetOut::Folder;
+    }
+    const std::optional<std::string> format = sheetFormat(output);
+    if (!format) {
+        throw UsageError("-o: a sheet is a .bmp, .png or .pdf file: " + output);
+    }
+    if (format == "pdf") {
+        return SheetOut::Document;
+    }
+    if (options.words.size() > 1) {
+        throw UsageError("-o: several sheets need a folder or a .pdf file");
+    }
+    return SheetOut::Picture;
+}
+
+void checkSheet(const Options& options) {
+    sheetOut(options);
+}
+
+Paper paperOf(const std::string& name) {
+    if (toCapitals(name) == "A4") {
+        return Paper::A4;
+    }
+    if (toCapitals(name) == "LETTER") {
+        return Paper::Letter;
+    }
+    throw UsageError("--paper is A4 or Letter");
+}
+
+void checkPaper(std::string_view, const std::string& name) {
+    paperOf(name);
+}
+
 /// Where the sheet of each ship goes.
 class SheetFiles {
 public:
-    explicit SheetFiles(const Options& options) : m_out(nativePath(options.output)) {
-        if (options.sheetOut == SheetOut::Picture) {
+    explicit SheetFiles(const Options& options) : m_out(nativePath(options.value(outOption.name))) {
+        if (sheetOut(options) == SheetOut::Picture) {
             m_files.push_back(m_out);
             return;
         }
         if (!m_out.empty()) {
             makeFolder(m_out);
         }
-        for (const std::string& ship : options.files) {
+        for (const std::string& ship : options.words) {
             m_files.push_back(m_out / nativePath(ship).stem().concat(".bmp"));
             m_firstShips.try_emplace(m_files.back(), m_files.size() - 1);
         }
@@ -72,19 +126,19 @@ int drawFiles(const Options& options, const SheetTools& tools) {
     return forEachShip(
         options, RefusedLines::AsComplaints, [&](std::size_t index, ShipOnScreen& screen) {
             const fs::path& file = files.of(index);
-            save(file,
-                 tools.encoder.encode(drawnSheet(screen, tools, options.mapName), formatOf(file)));
+            save(file, tools.encoder.encode(drawnSheet(screen, tools, options.value("--map")),
+                                            formatOf(file)));
             return std::string();
         });
 }
 
 int drawDocument(const Options& options, const SheetTools& tools, Pages& pages) {
-    std::vector<Raster> sheets(options.files.size());  // until their pages are made
+    std::vector<Raster> sheets(options.words.size());  // until their pages are made
     bool isEmpty = true;
     const int status = forEachShip(
         options, RefusedLines::AsComplaints,
         [&](std::size_t index, ShipOnScreen& screen) {
-            sheets[index] = drawnSheet(screen, tools, options.mapName);
+            sheets[index] = drawnSheet(screen, tools, options.value("--map"));
             return std::string();
         },
         [&](std::size_t index) {
@@ -94,12 +148,10 @@ int drawDocument(const Options& options, const SheetTools& tools, Pages& pages) 
             }
         });
     if (!isEmpty) {
-        saveFile(nativePath(options.output), pages.finish());
+        saveFile(nativePath(options.value(outOption.name)), pages.finish());
     }
     return status;
 }
-
-}  // namespace
 
 int runSheet(const Options& options) {
     const fs::path images = options.appFolder / "images";
@@ -111,11 +163,42 @@ int runSheet(const Options& options) {
     PictureCache cache(pictures);
     const SSDMaps maps = loadMaps(options.appFolder);
     const SheetTools tools{options.appFolder, cache, pictures, maps};
-    if (options.sheetOut == SheetOut::Document) {
-        const std::unique_ptr<Pages> pages = pictures.newPages(options.paper);
+    if (sheetOut(options) == SheetOut::Document) {
+        const std::unique_ptr<Pages> pages = pictures.newPages(paperOf(options.value("--paper")));
         return drawDocument(options, tools, *pages);
     }
     return drawFiles(options, tools);
 }
+
+}  // namespace
+
+constexpr OptionRow sheetOptions[] = {
+    {.name = "--map",
+     .value = "NAME",
+     .help = "The map to draw on, by default the first that fits"},
+    outOption,
+    {.name = "--paper",
+     .value = "A4|Letter",
+     .help = "The paper of a .pdf",
+     .byDefault = "A4",
+     .check = checkPaper},
+};
+
+extern const CommandRow sheetCommand = {
+    .name = "sheet",
+    .words = "SHIP... [--map NAME] [-o OUT]",
+    .least = 1,
+    .most = CommandRow::any,
+    .options = sheetOptions,
+    .help = "Draw the sheets of ships: OUT is a .bmp, .png or .pdf file, or a folder",
+    .details =
+        "The sheet is drawn on the outline of the map NAME, or else of the first one that is "
+        "offered for the ship. A folder is made if it is not there, and gets a .bmp file "
+        "each, named after the ship files. A .pdf takes any number of ships, a page each; "
+        "the sheets have their natural size or are shrunk to the margins of the paper. The "
+        "pictures must have been unpacked.",
+    .check = checkSheet,
+    .run = runSheet,
+};
 
 }  // namespace fleetwright

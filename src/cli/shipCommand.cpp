@@ -58,9 +58,9 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t)>& taken) {
     int status = Done;
-    Progress progress(options.files.size());
+    Progress progress(options.words.size());
     const auto load = [&](std::size_t index) {
-        const std::string& file = options.files[index];
+        const std::string& file = options.words[index];
         ShipOnScreen screen(options.appFolder);
         Result result;
         if (const auto fault = screen.load(file)) {
@@ -92,7 +92,7 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
         }
         progress.show(index + 1);
     };
-    inOrder(options.files.size(), std::thread::hardware_concurrency(), load, print);
+    inOrder(options.words.size(), std::thread::hardware_concurrency(), load, print);
     return status;
 }
 

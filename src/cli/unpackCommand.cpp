@@ -19,8 +19,6 @@ bool runHere(const fs::path& archive, const fs::path& folder) {
     return status == 0;
 }
 
-}  // namespace
-
 int runUnpack(const Options& options) {
     const fs::path appFolder = fs::absolute(options.appFolder);
     if (fs::is_directory(appFolder / "images")) {
@@ -30,5 +28,14 @@ int runUnpack(const Options& options) {
     }
     return Done;
 }
+
+}  // namespace
+
+extern const CommandRow unpackCommand = {
+    .name = "unpack",
+    .help = "Unpack the pictures into the application folder",
+    .details = "They replace those that are there.",
+    .run = runUnpack,
+};
 
 }  // namespace fleetwright

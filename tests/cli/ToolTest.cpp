@@ -235,7 +235,6 @@ TEST_F(Tool, WithoutACatalogueNothingCanBeSaid) {
 
 TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
     const std::vector<std::vector<std::string>> wrong = {
-        {},
         {"nonsense"},
         {"figures"},
         {"report", "good.shp", "--auto-mass"},
@@ -260,7 +259,10 @@ TEST_F(Tool, WrongCommandLinesSayWhatIsWrong) {
         EXPECT_EQ(refused.errors.substr(0, 17), "fleetwright-cli: ");
     }
     EXPECT_EQ(run({"--help"}).status, 0);
-    EXPECT_EQ(run({"figures", "-h"}).output, run({"--help"}).output);
+    EXPECT_EQ(run({"--help", "figures"}).output, run({"-h"}).output);
+    EXPECT_EQ(all(run({})), "2||fleetwright-cli: no command (see fleetwright-cli --help)\n" +
+                                run({"--help"}).output);
+    EXPECT_EQ(run({"figures", "-h"}).output, run({"figures", "--help"}).output);
     EXPECT_EQ(all(run({"--version"})), "0|FleetWright 2.0.5\n|");
 }
 
