@@ -16,21 +16,21 @@ namespace {
 
 /// A ship with a gun or two of each kind.
 void fitSystems(frmMain& form) {
-    form.updwnMass_5.pressUp();
+    form.mass.updwnMass_5.pressUp();
     int fitted = 0;
-    for (const TreeView::Node& node : form.tvWeapons.nodes()) {
+    for (const TreeView::Node& node : form.tree.tvWeapons.nodes()) {
         constexpr int wanted = 20;
         if (node.children.empty() && node.key != "Cloaking Field" && fitted < wanted) {
-            form.tvWeapons.select(node);
-            form.tvWeapons.doubleClick();
+            form.tree.tvWeapons.select(node);
+            form.tree.tvWeapons.doubleClick();
             ++fitted;
         }
     }
-    form.lvCurrentWeapons.select(1);
+    form.aboard.lvCurrentWeapons.select(1);
 }
 
 void clickThrust(frmMain& form) {
-    form.optThrust[form.optThrust[3].isOn() ? 4 : 3].choose();
+    form.hull.optThrust[form.hull.optThrust[3].isOn() ? 4 : 3].choose();
 }
 
 void rules(benchmark::State& state, int records) {

@@ -192,7 +192,7 @@ std::string pasteCommand(const std::string& out) {
     ShipOnScreen screen(startedFolder());
     screen.load(processShip);
     SheetLists lists;
-    const std::int32_t count = lists.fillShipWeap(screen.window().lvCurrentWeapons.rows());
+    const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
     const SSDMaps& maps = world().maps;
     const SSDMaps::Map map = maps.at(fittingMaps(maps, screen.ship().mass(), count).at(0));
     lists.fillPoints(*map);

@@ -97,7 +97,7 @@ std::string description() {
         pictures.push_back((appFolder / "images" / line.icon).string());
     }
     std::size_t next = 0;
-    for (const TreeView::Node& node : window.form().tvWeapons.nodes()) {
+    for (const TreeView::Node& node : window.form().tree.tvWeapons.nodes()) {
         int depth = 0;
         for (const TreeView::Node* above = node.parent; above != nullptr; above = above->parent) {
             ++depth;

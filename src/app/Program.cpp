@@ -84,25 +84,26 @@ public:
                   .showViewer = [this] { bringUp(m_viewer); },
                   .showMapCreator = [this] { bringUp(m_mapCreator); },
                   .recovery = &m_recovery}),
-          m_extras(
-              {.desktop = desktop,
-               .globals = m_globals,
-               .settings = m_settings,
-               .nameShip = [this](const std::string& designer,
-                                  const std::string& ship) { m_main.nameShip(designer, ship); },
-               .clearRecentFiles =
-                   [this] {
-                       m_main.CMRUList->clearList();
-                       m_main.fillMRU();
-                   }}),
-          m_images(programImages(m_appFolder, m_pictures, m_main.ilWeapons)),
+          m_extras({.desktop = desktop,
+                    .globals = m_globals,
+                    .settings = m_settings,
+                    .nameShip =
+                        [this](const std::string& designer, const std::string& ship) {
+                            m_main.names.nameShip(designer, ship);
+                        },
+                    .clearRecentFiles =
+                        [this] {
+                            m_main.CMRUList->clearList();
+                            m_main.fillMRU();
+                        }}),
+          m_images(programImages(m_appFolder, m_pictures, m_main.tree.ilWeapons)),
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
                     .encoder = m_pictureFiles,
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
-                    .lvCurrentWeapons = m_main.lvCurrentWeapons,
+                    .lvCurrentWeapons = m_main.aboard.lvCurrentWeapons,
                     .ship = [this] { return sheetShip(m_main); }}),
           m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}),
           m_mapCreator({.appFolder = m_appFolder,

@@ -46,15 +46,15 @@ std::optional<Fault> ShipOnScreen::load(const std::string& file) {
         Catalogue().loadWeaps(m_appFolder / "weaps.dat");  // throws what the window has not said
         throw;
     }
-    if (!window.loadFile(file)) {
-        return window.fileFault;
+    if (!window.files.loadFile(file)) {
+        return window.files.fileFault;
     }
     window.tmrRefreshScreen.tick();
     return std::nullopt;
 }
 
 void ShipOnScreen::switchAutoMassOn() {
-    m_program->window.mnuAutoMass.choose();
+    m_program->window.mass.mnuAutoMass.choose();
 }
 
 ShipClass& ShipOnScreen::ship() {

@@ -34,7 +34,7 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
                       .encoder = tools.encoder,
                       .images = images,
                       .g_colSSDMaps = tools.maps,
-                      .lvCurrentWeapons = main.lvCurrentWeapons,
+                      .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
                       .ship = [&] { return sheetShip(main); }});
     mapper.show();
     if (!mapName.empty()) {

@@ -13,7 +13,7 @@ namespace {
 
 std::string mapsFor(const SSDMaps& maps, ShipOnScreen& screen) {
     SheetLists lists;
-    const std::int32_t count = lists.fillShipWeap(screen.window().lvCurrentWeapons.rows());
+    const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
     std::string names;
     for (const std::string& name : fittingMaps(maps, screen.ship().mass(), count)) {
         names += name + '\n';

@@ -5,12 +5,12 @@
 namespace fleetwright {
 
 SheetShip sheetShip(const frmMain& window) {
-    return {.txtDP = window.txtDP.text(),
-            .txtDCP = window.txtDCP.text(),
-            .txtFireCon = window.txtFireCon.text(),
-            .txtShipName = window.txtShipName.text(),
-            .txtDesigner = window.txtDesigner.text(),
-            .txtCost = window.txtCost.text(),
+    return {.txtDP = window.figures.txtDP.text(),
+            .txtDCP = window.figures.txtDCP.text(),
+            .txtFireCon = window.figures.txtFireCon.text(),
+            .txtShipName = window.names.txtShipName.text(),
+            .txtDesigner = window.names.txtDesigner.text(),
+            .txtCost = window.figures.txtCost.text(),
             .ship = *window.g_Ship};
 }
 

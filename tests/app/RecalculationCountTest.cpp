@@ -22,7 +22,7 @@ struct Act {
 
 void fit(TestWindow& test, const char* system) {
     test.selectNode(system);
-    test.window().tvWeapons.doubleClick();
+    test.window().tree.tvWeapons.doubleClick();
 }
 
 void fitGun(TestWindow& test) {
@@ -31,9 +31,9 @@ void fitGun(TestWindow& test) {
 
 void startAutoMass(TestWindow& test) {
     for (int i = 0; i < 3; ++i) {
-        test.window().updwnMass_10.pressUp();
+        test.window().mass.updwnMass_10.pressUp();
     }
-    test.window().mnuAutoMass.choose();
+    test.window().mass.mnuAutoMass.choose();
 }
 
 void loadFile(TestWindow& test) {
@@ -47,22 +47,22 @@ void loadFile(TestWindow& test) {
 }
 
 const std::vector<Act> acts = {
-    {"thrust", 1, [](TestWindow& test) { test.window().optThrust[4].choose(); }},
-    {"armor", 1, [](TestWindow& test) { test.window().optNoArmor[1].choose(); }},
-    {"streamlining", 1, [](TestWindow& test) { test.window().optFullStreamling.choose(); }},
-    {"drive", 1, [](TestWindow& test) { test.window().optTug.choose(); }},
-    {"hull of a ship", 1, [](TestWindow& test) { test.window().optMerchant.choose(); }},
-    {"hull of a base", 5, [](TestWindow& test) { test.window().optStarBase.choose(); }},
-    {"mass arrow", 1, [](TestWindow& test) { test.window().updwnMass_10.pressUp(); }},
+    {"thrust", 1, [](TestWindow& test) { test.window().hull.optThrust[4].choose(); }},
+    {"armor", 1, [](TestWindow& test) { test.window().hull.optNoArmor[1].choose(); }},
+    {"streamlining", 1, [](TestWindow& test) { test.window().hull.optFullStreamling.choose(); }},
+    {"drive", 1, [](TestWindow& test) { test.window().hull.optTug.choose(); }},
+    {"hull of a ship", 1, [](TestWindow& test) { test.window().hull.optMerchant.choose(); }},
+    {"hull of a base", 5, [](TestWindow& test) { test.window().hull.optStarBase.choose(); }},
+    {"mass arrow", 1, [](TestWindow& test) { test.window().mass.updwnMass_10.pressUp(); }},
     {"one system more", 1, fitGun},
     {"one system less", 1,
      [](TestWindow& test) {
-         test.window().lvCurrentWeapons.select(0);
-         test.window().lvCurrentWeapons.doubleClick();
+         test.window().aboard.lvCurrentWeapons.select(0);
+         test.window().aboard.lvCurrentWeapons.doubleClick();
      },
      fitGun},
-    {"AutoMass on", 4, [](TestWindow& test) { test.window().mnuAutoMass.choose(); },
-     [](TestWindow& test) { test.window().updwnMass_5.pressUp(); }},
+    {"AutoMass on", 4, [](TestWindow& test) { test.window().mass.mnuAutoMass.choose(); },
+     [](TestWindow& test) { test.window().mass.updwnMass_5.pressUp(); }},
     {"one system more, with AutoMass", 3, fitGun, startAutoMass},
     {"load of a file", 7, loadFile},
     {"refresh by the timer", 0, [](TestWindow& test) { test.window().tmrRefreshScreen.tick(); }},

@@ -93,7 +93,7 @@ std::string SheetTool::savedByWindow(const std::string& ship) const {
                       .encoder = pictures,
                       .images = images,
                       .g_colSSDMaps = maps,
-                      .lvCurrentWeapons = screen.window().lvCurrentWeapons,
+                      .lvCurrentWeapons = screen.window().aboard.lvCurrentWeapons,
                       .ship = [&] { return sheetShip(screen.window()); }});
     window.show();
     window.cboMapSelection.choose(0);

@@ -18,8 +18,8 @@ protected:
 
     /// "caption caption" of the entries of recent files that show; "|" for the separator.
     std::string recent() {
-        std::string text = window.mnuMRUSep.isVisible() ? "|" : "";
-        for (const MenuEntry& entry : window.mnuMRUFile) {
+        std::string text = window.files.mnuMRUSep.isVisible() ? "|" : "";
+        for (const MenuEntry& entry : window.files.mnuMRUFile) {
             text += entry.isVisible() ? ' ' + entry.caption() : "";
         }
         return text;
@@ -35,7 +35,7 @@ protected:
     }
 
     void change() {
-        window.optThrust[test.ship().THRUST() == 4 ? 5 : 4].choose();
+        window.hull.optThrust[test.ship().THRUST() == 4 ? 5 : 4].choose();
         ASSERT_FALSE(test.ship().g_bSaved);
     }
 
@@ -44,56 +44,56 @@ protected:
 
 TEST_F(Files, NewAsksForAnUnsavedShipAndLeavesASavedOne) {
     change();
-    window.mnuAutoMass.choose();
+    window.mass.mnuAutoMass.choose();
     test.takeLog();
-    window.mnuNew.choose();
+    window.files.mnuNew.choose();
     EXPECT_EQ(test.takeLog(), "box: Ship not saved, delete? / Ship not saved! yes-no info; ");
     EXPECT_EQ(test.ship().THRUST(), 4) << "answered with No";
-    EXPECT_TRUE(window.mnuAutoMass.isChecked());
+    EXPECT_TRUE(window.mass.mnuAutoMass.isChecked());
 
     test.answer = Answer::Yes;
-    window.mnuNew.choose();
+    window.files.mnuNew.choose();
     EXPECT_EQ(test.ship().THRUST(), 2);
     EXPECT_TRUE(test.ship().g_bSaved) << "whatever the buttons have clicked";
     EXPECT_EQ(test.ship().g_sDesignerName, "Nils's Iron Vector Creator");
-    EXPECT_FALSE(window.mnuAutoMass.isChecked());
-    EXPECT_TRUE(window.fraMassSpinner.isVisible());
-    EXPECT_FALSE(window.mnuSave.isEnabled());
+    EXPECT_FALSE(window.mass.mnuAutoMass.isChecked());
+    EXPECT_TRUE(window.mass.fraMassSpinner.isVisible());
+    EXPECT_FALSE(window.files.mnuSave.isEnabled());
     test.takeLog();
-    window.mnuNew.choose();
+    window.files.mnuNew.choose();
     EXPECT_EQ(test.takeLog(), "") << "a saved ship goes without a question";
 }
 
 TEST_F(Files, LoadAsksNothingAndFillsTheList) {
     change();
-    window.mnuAutoMass.choose();
-    window.mnuLoad.choose();
+    window.mass.mnuAutoMass.choose();
+    window.files.mnuLoad.choose();
     EXPECT_EQ(test.ship().THRUST(), 4) << "cancelled";
 
     test.file = ship;
     test.takeLog();
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     EXPECT_EQ(test.takeLog(), "");
     EXPECT_EQ(test.list(), "Gun 2");
-    EXPECT_TRUE(window.optMerchant.isOn());
+    EXPECT_TRUE(window.hull.optMerchant.isOn());
     EXPECT_TRUE(test.ship().g_bSaved);
     EXPECT_EQ(recent(), "| Wasp");
-    EXPECT_TRUE(window.mnuAutoMass.isChecked()) << "the entry stays, the new ship has none";
+    EXPECT_TRUE(window.mass.mnuAutoMass.isChecked()) << "the entry stays, the new ship has none";
     EXPECT_FALSE(test.ship().g_bAutoMass);
-    EXPECT_FALSE(window.fraMassSpinner.isVisible());
+    EXPECT_FALSE(window.mass.fraMassSpinner.isVisible());
     window.tmrRefreshScreen.tick();
-    EXPECT_TRUE(window.mnuSave.isEnabled());
+    EXPECT_TRUE(window.files.mnuSave.isEnabled());
 
     const std::string half = "Type: Merchant\nThrust: 4\nSystem: Gun, 1\nMass: many\n";
     for (const std::string& file :
          {std::string("missing.shp"), test.folder().write("half.shp", half)}) {
         test.file = file;
-        window.mnuLoad.choose();
+        window.files.mnuLoad.choose();
         EXPECT_EQ(test.takeLog(), "");
         EXPECT_EQ(test.list(), "");
-        EXPECT_TRUE(window.optWarship.isOn()) << "the new ship is seen at once";
+        EXPECT_TRUE(window.hull.optWarship.isOn()) << "the new ship is seen at once";
         EXPECT_TRUE(test.ship().g_bSaved) << file;
-        EXPECT_FALSE(window.mnuSave.isEnabled());
+        EXPECT_FALSE(window.files.mnuSave.isEnabled());
         EXPECT_EQ(test.ship().g_sSaveName, "");
         EXPECT_EQ(recent(), "| Wasp");
     }
@@ -107,7 +107,8 @@ TEST_F(Files, ACatalogueThatCannotBeUsedLeavesTheShipAtHand) {
     test.answer = Answer::Yes;
     fs::remove(test.folder().path() / "weaps.dat");
     for (const std::string fault : {"weaps.dat: cannot be read", "weaps.dat:3: double key"}) {
-        for (MenuEntry* const entry : {&window.mnuLoad, &window.mnuNew, &window.mnuMRUFile[0]}) {
+        for (MenuEntry* const entry :
+             {&window.files.mnuLoad, &window.files.mnuNew, &window.files.mnuMRUFile[0]}) {
             test.takeLog();
             entry->choose();
             EXPECT_TRUE(test.takeLog().find(fault) != std::string::npos) << fault;
@@ -123,39 +124,39 @@ TEST_F(Files, AnotherCatalogueIsThatOfTheNextShip) {
                         "Gun,1,1,BEAM,guns,F,gun.gif\nRaft,1,9,x,SYSTEMS,O,raft.gif\n");
     test.file = test.folder().write("raft.shp", "Mass: 20\nSystem: Raft, 2\nSystem: Ballast, 1\n");
     test.selectNode("Ballast");
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Ballast 1") << "this ship keeps its own";
     test.selectNode("SYSTEMS");
     test.takeLog();
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     EXPECT_EQ(test.takeLog(), "box: Couldn 't find the weapon; ");
     test.selectNode("Ballast");
     test.inMessage = [&] { window.tmrRefreshScreen.tick(); };
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Raft 2");
     EXPECT_EQ(amountOf(test.ship(), "Raft"), 2);
 }
 
 TEST_F(Files, SavingNamesTheShipAndTheRecentFile) {
     change();
-    window.mnuSaveAs.choose();
+    window.files.mnuSaveAs.choose();
     EXPECT_EQ(window.sbStatus.text(), "") << "cancelled";
     test.file = (test.folder().path() / "Hornet").string();
-    window.mnuSaveAs.choose();
+    window.files.mnuSaveAs.choose();
     EXPECT_TRUE(fs::exists(*test.file + ".shp"));
     EXPECT_EQ(window.sbStatus.text(), "Saved...");
     EXPECT_TRUE(test.ship().g_bSaved);
-    EXPECT_TRUE(window.mnuSave.isEnabled());
+    EXPECT_TRUE(window.files.mnuSave.isEnabled());
     EXPECT_EQ(recent(), "| Hornet");
 
     change();
     test.file.reset();
-    window.mnuSave.choose();
+    window.files.mnuSave.choose();
     EXPECT_TRUE(test.ship().g_bSaved);
 
     change();
     test.file = (test.folder().path() / "none" / "Hornet").string();
-    window.mnuSaveAs.choose();
+    window.files.mnuSaveAs.choose();
     EXPECT_EQ(window.sbStatus.text(), "Saving...");
     EXPECT_FALSE(test.ship().g_bSaved);
     EXPECT_EQ(recent(), "| Hornet");
@@ -163,55 +164,56 @@ TEST_F(Files, SavingNamesTheShipAndTheRecentFile) {
 
 TEST_F(Files, ARecentFileIsLookedForAmongTheShips) {
     test.file = ship;
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     test.file = (test.folder().path() / "Elsewhere").string();
-    window.mnuSaveAs.choose();
+    window.files.mnuSaveAs.choose();
     EXPECT_EQ(recent(), "| Elsewhere Wasp");
-    window.mnuMRUFile[1].choose();
+    window.files.mnuMRUFile[1].choose();
     EXPECT_EQ(recent(), "| Wasp Elsewhere");
     EXPECT_EQ(test.ship().g_sShipName, "Wasp");
-    window.mnuMRUFile[1].choose();
+    window.files.mnuMRUFile[1].choose();
     EXPECT_EQ(test.ship().g_sSaveName, "") << "it was saved outside that folder";
     EXPECT_EQ(recent(), "| Wasp Elsewhere");
 }
 
 TEST_F(Files, PrintsEachCopyInItsFont) {
-    window.mnuPrint.choose();
+    window.files.mnuPrint.choose();
     EXPECT_EQ(test.takeLog(), "") << "cancelled";
     test.copies = 2;
-    window.mnuPrint.choose();
+    window.files.mnuPrint.choose();
     const std::string copy = "font Courier New; size 10; 17 lines; ";
     EXPECT_EQ(test.takeLog(), copy + copy + "size 12; font Sans; ");
     test.printerFails = true;
-    window.mnuPrint.choose();
+    window.files.mnuPrint.choose();
     EXPECT_EQ(test.takeLog(), "font Courier New; size 10; ");
 }
 
 TEST_F(Files, ANameIsOpenedAndCommitted) {
-    EXPECT_TRUE(window.txtShipName.isLocked());
-    window.txtShipName.type("Ignored");
-    window.txtShipName.doubleClick();
-    window.txtShipName.type("Mayfly");
+    EXPECT_TRUE(window.names.txtShipName.isLocked());
+    window.names.txtShipName.type("Ignored");
+    window.names.txtShipName.doubleClick();
+    window.names.txtShipName.type("Mayfly");
     window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.txtShipName.text(), "Generic") << "not committed: the ship's own name is back";
-    window.txtShipName.type("Mayfly");
-    window.txtShipName.pressKey('x');
-    EXPECT_FALSE(window.txtShipName.isLocked());
-    window.txtShipName.pressKey(EnterKey);
-    EXPECT_TRUE(window.txtShipName.isLocked());
+    EXPECT_EQ(window.names.txtShipName.text(), "Generic")
+        << "not committed: the ship's own name is back";
+    window.names.txtShipName.type("Mayfly");
+    window.names.txtShipName.pressKey('x');
+    EXPECT_FALSE(window.names.txtShipName.isLocked());
+    window.names.txtShipName.pressKey(EnterKey);
+    EXPECT_TRUE(window.names.txtShipName.isLocked());
     EXPECT_EQ(test.ship().g_sShipName, "Mayfly");
     EXPECT_TRUE(test.ship().g_bSaved);
 
-    window.txtDesigner.doubleClick();
-    window.txtDesigner.type("Me");
-    window.txtDesigner.doubleClick();
+    window.names.txtDesigner.doubleClick();
+    window.names.txtDesigner.type("Me");
+    window.names.txtDesigner.doubleClick();
     EXPECT_EQ(test.ship().g_sDesignerName, "Me");
-    EXPECT_TRUE(window.txtDesigner.isLocked());
+    EXPECT_TRUE(window.names.txtDesigner.isLocked());
 }
 
 TEST_F(Files, TheExtrasPageShowsTheShipsNamesAndGivesThemBack) {
     test.file = ship;
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     window.tmrRefreshScreen.tick();
     test.inDialog = [&](Form& form) {
         auto& page = dynamic_cast<frmExtras&>(form);
@@ -220,30 +222,30 @@ TEST_F(Files, TheExtrasPageShowsTheShipsNamesAndGivesThemBack) {
         page.cmdClearMRU.press();
         page.cmdOK.press();
     };
-    window.mnuExtrasPage.choose();
-    EXPECT_EQ(window.txtShipName.text(), "Bee");
+    window.windows.mnuExtrasPage.choose();
+    EXPECT_EQ(window.names.txtShipName.text(), "Bee");
     EXPECT_TRUE(test.ship().g_bSaved);
     EXPECT_EQ(recent(), "");
 }
 
 TEST_F(Files, ADesignThatGoesUnsavedIsKept) {
-    window.tmrRecovery.tick();
+    window.recovery.tmrRecovery.tick();
     EXPECT_EQ(aside(), "") << "nothing has changed";
     change();
-    window.tmrRecovery.tick();
+    window.recovery.tmrRecovery.tick();
     EXPECT_EQ(aside(), "Generic time 1.shp~1 ");
     test.file = (test.folder().path() / "Hornet").string();
-    window.mnuSaveAs.choose();
+    window.files.mnuSaveAs.choose();
     EXPECT_EQ(aside(), "") << "saved";
 
-    window.optThrust[5].choose();
+    window.hull.optThrust[5].choose();
     test.file = ship;
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     EXPECT_EQ(aside(), "Generic time 2.shp ") << "replaced within two seconds";
-    window.txtShipName.doubleClick();
-    window.txtShipName.type("Bee");
-    window.txtShipName.doubleClick();
-    window.tmrRecovery.tick();
+    window.names.txtShipName.doubleClick();
+    window.names.txtShipName.type("Bee");
+    window.names.txtShipName.doubleClick();
+    window.recovery.tmrRecovery.tick();
     EXPECT_TRUE(aside().find("Bee time 3.shp~1 ") != std::string::npos) << "a name is work, too";
     window.unload();
     EXPECT_TRUE(aside().find("Bee time 3.shp ") != std::string::npos);
@@ -275,88 +277,88 @@ TEST_F(Files, AFileThatDoesNotFitLeavesANewShip) {
     for (const char* const line : {"Thrust: 100000\n", "Mass: 2147483647\n", "Mass: x\n"}) {
         test.file =
             test.folder().write("bad.shp", std::string("Ship Name: Bad\nSystem: Gun, 1\n") + line);
-        window.mnuLoad.choose();
+        window.files.mnuLoad.choose();
         window.tmrRefreshScreen.tick();
-        EXPECT_EQ(window.txtShipName.text() + test.list(), "Generic") << line;
-        EXPECT_EQ(window.txtCost.text(), "7");
-        EXPECT_TRUE(window.fileFault);
+        EXPECT_EQ(window.names.txtShipName.text() + test.list(), "Generic") << line;
+        EXPECT_EQ(window.figures.txtCost.text(), "7");
+        EXPECT_TRUE(window.files.fileFault);
     }
 }
 
 TEST_F(Files, ADesignThatCannotBePutAsideGoesOnlyIfThePlayerSaysSo) {
     test.folder().write("recovered", "in the way");
     change();
-    window.tmrRecovery.tick();
+    window.recovery.tmrRecovery.tick();
     EXPECT_TRUE(window.sbStatus.text().starts_with("The design cannot be put aside: "));
     test.file = ship;
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     EXPECT_TRUE(
         test.takeLog().starts_with("box: The design is not saved and cannot be put aside: "));
     EXPECT_EQ(test.ship().THRUST(), 4);
     test.globals.g_bConfirmExit = false;
     EXPECT_FALSE(window.unload());
     test.answer = Answer::Yes;
-    window.mnuLoad.choose();
+    window.files.mnuLoad.choose();
     EXPECT_EQ(test.ship().g_sShipName, "Wasp");
 }
 
 TEST_F(Files, StandardHullsSetHullAndMass) {
-    window.optStarBase.choose();
-    window.mnuFrigate.choose();
-    EXPECT_EQ(window.txtMass.text() + ' ' + window.txtRelSize.text(), "10 Frigate");
-    EXPECT_TRUE(window.optWarship.isOn() && window.optThrust[3].takesActs());
+    window.hull.optStarBase.choose();
+    window.mass.mnuFrigate.choose();
+    EXPECT_EQ(window.mass.txtMass.text() + ' ' + window.figures.txtRelSize.text(), "10 Frigate");
+    EXPECT_TRUE(window.hull.optWarship.isOn() && window.hull.optThrust[3].takesActs());
     EXPECT_EQ(test.ship().THRUST(), 0);
-    window.mnuTAnker.choose();
-    EXPECT_TRUE(window.optMerchant.isOn());
+    window.mass.mnuTAnker.choose();
+    EXPECT_TRUE(window.hull.optMerchant.isOn());
     EXPECT_EQ(test.ship().mass(), 100);
     test.ship().g_bSaved = true;
-    window.mnuTAnker.choose();
+    window.mass.mnuTAnker.choose();
     EXPECT_TRUE(test.ship().g_bSaved);
     test.takeLog();
-    window.txtMass.pressMouse({.button = MiddleButton});
+    window.mass.txtMass.pressMouse({.button = MiddleButton});
     EXPECT_EQ(test.takeLog(), "menu: mnuStdHulls; ");
 }
 
 TEST_F(Files, ASystemIsDraggedToTheList) {
     int drags = 0;
-    const Connection dragged = window.imgDrag.DragWanted.connect([&] { ++drags; });
+    const Connection dragged = window.drag.imgDrag.DragWanted.connect([&] { ++drags; });
     test.selectNode("BEAM");
-    window.tvWeapons.moveMouse({.button = LeftButton});
+    window.tree.tvWeapons.moveMouse({.button = LeftButton});
     test.selectNode("Gun");
-    window.tvWeapons.moveMouse({.button = LeftButton | RightButton});
-    window.tvWeapons.moveMouse({.button = RightButton});
+    window.tree.tvWeapons.moveMouse({.button = LeftButton | RightButton});
+    window.tree.tvWeapons.moveMouse({.button = RightButton});
     EXPECT_EQ(drags, 0);
-    window.tvWeapons.moveMouse({.button = LeftButton, .x = 30, .y = 45});
+    window.tree.tvWeapons.moveMouse({.button = LeftButton, .x = 30, .y = 45});
     EXPECT_EQ(drags, 1);
-    EXPECT_TRUE(window.imgDrag.isVisible());
-    EXPECT_EQ(window.imgDrag.place().left, 6825 + 30);
-    window.lvCurrentWeapons.drop(window.txtCost);
+    EXPECT_TRUE(window.drag.imgDrag.isVisible());
+    EXPECT_EQ(window.drag.imgDrag.place().left, 6825 + 30);
+    window.aboard.lvCurrentWeapons.drop(window.figures.txtCost);
     EXPECT_EQ(test.list(), "");
-    window.lvCurrentWeapons.drop(window.imgDrag);
-    window.lvCurrentWeapons.drop(window.imgDrag);
+    window.aboard.lvCurrentWeapons.drop(window.drag.imgDrag);
+    window.aboard.lvCurrentWeapons.drop(window.drag.imgDrag);
     EXPECT_EQ(test.list(), "Gun 2");
-    window.tvWeapons.releaseMouse({.button = LeftButton});
-    EXPECT_FALSE(window.imgDrag.isVisible());
+    window.tree.tvWeapons.releaseMouse({.button = LeftButton});
+    EXPECT_FALSE(window.drag.imgDrag.isVisible());
 }
 
 TEST_F(Files, AMinimizedWindowHidesOnlyWhereATrayKeepsIt) {
     bool hasTray = false;
-    window.tray1.askAvailable = [&] { return hasTray; };
+    window.tray.tray1.askAvailable = [&] { return hasTray; };
     window.setState(WindowState::Minimized);
-    EXPECT_TRUE(window.isVisible() && window.tray1.isOn()) << "no tray";
+    EXPECT_TRUE(window.isVisible() && window.tray.tray1.isOn()) << "no tray";
     window.setState(WindowState::Normal);
-    EXPECT_FALSE(window.tray1.isOn());
+    EXPECT_FALSE(window.tray.tray1.isOn());
 
     hasTray = true;
     test.globals.g_bHide = false;
     window.setState(WindowState::Minimized);
     EXPECT_TRUE(window.isVisible()) << "not to be hidden";
-    window.mnuRestore.choose();
+    window.tray.mnuRestore.choose();
     test.globals.g_bHide = true;
     window.setState(WindowState::Minimized);
     EXPECT_FALSE(window.isVisible());
-    raise(window.tray1.onLeftClick);
-    EXPECT_TRUE(window.isVisible() && !window.tray1.isOn());
+    raise(window.tray.tray1.onLeftClick);
+    EXPECT_TRUE(window.isVisible() && !window.tray.tray1.isOn());
 
     window.setState(WindowState::Minimized);
     hasTray = false;
@@ -364,7 +366,7 @@ TEST_F(Files, AMinimizedWindowHidesOnlyWhereATrayKeepsIt) {
     EXPECT_TRUE(window.isVisible()) << "the tray has gone";
     hasTray = true;
     change();
-    window.mnuExitTask.choose();
+    window.tray.mnuExitTask.choose();
     EXPECT_TRUE(window.isLoaded()) << "the question was answered with No";
 }
 

@@ -5,41 +5,41 @@ using namespace fleetwright;
 using SystemList = ShownWindow;
 
 TEST_F(SystemList, GrowsThroughTheTree) {
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     test.selectNode("GUNS");
-    window.tvWeapons.doubleClick();
-    window.tvWeapons.pressMouse({.button = RightButton});
+    window.tree.tvWeapons.doubleClick();
+    window.tree.tvWeapons.pressMouse({.button = RightButton});
     EXPECT_EQ(test.list(), "");
     test.takeLog();
     test.selectNode("Gun");
-    window.tvWeapons.doubleClick();
-    window.tvWeapons.doubleClick();
-    window.tvWeapons.pressMouse({.button = LeftButton});
+    window.tree.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
+    window.tree.tvWeapons.pressMouse({.button = LeftButton});
     EXPECT_EQ(test.takeLog(), "");
-    window.tvWeapons.pressMouse({.button = RightButton});
+    window.tree.tvWeapons.pressMouse({.button = RightButton});
     EXPECT_EQ(test.takeLog(), "menu: mnuAddWeaps; ");
-    window.mnuAddWeap[9].choose();
-    window.mnuAddWeapEx[2].choose();
+    window.tree.mnuAddWeap[9].choose();
+    window.tree.mnuAddWeapEx[2].choose();
     EXPECT_EQ(test.list(), "Gun 112");
     EXPECT_EQ(amountOf(test.ship(), "Gun"), 112);
-    EXPECT_EQ(window.mnuAddWeap[0].caption() + window.mnuAddWeapEx[0].caption(), "X1X20");
+    EXPECT_EQ(window.tree.mnuAddWeap[0].caption() + window.tree.mnuAddWeapEx[0].caption(), "X1X20");
 }
 
 TEST_F(SystemList, ShrinksByDoubleClick) {
     test.selectNode("Gun");
-    window.mnuAddWeap[1].choose();
+    window.tree.mnuAddWeap[1].choose();
     test.selectNode("Ballast");
-    window.tvWeapons.doubleClick();
-    window.lvCurrentWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
+    window.aboard.lvCurrentWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Gun 2, Ballast 1");
-    window.lvCurrentWeapons.select(0);
-    window.lvCurrentWeapons.doubleClick();
+    window.aboard.lvCurrentWeapons.select(0);
+    window.aboard.lvCurrentWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Gun 1*, Ballast 1");
-    window.lvCurrentWeapons.doubleClick();
+    window.aboard.lvCurrentWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Ballast 1");
     EXPECT_EQ(amountOf(test.ship(), "Gun"), 0);
-    window.lvCurrentWeapons.select(0);
-    window.lvCurrentWeapons.doubleClick();
+    window.aboard.lvCurrentWeapons.select(0);
+    window.aboard.lvCurrentWeapons.doubleClick();
     EXPECT_EQ(test.list(), "");
     EXPECT_EQ(test.previews(), "1 0 |  ");
 }
@@ -47,13 +47,13 @@ TEST_F(SystemList, ShrinksByDoubleClick) {
 TEST_F(SystemList, AmountDialogTakesAnyNumberAway) {
     window.moveTo(1000, 2000);
     test.selectNode("Gun");
-    window.mnuAddWeapEx[0].choose();
-    window.mnuAddWeap[4].choose();
+    window.tree.mnuAddWeapEx[0].choose();
+    window.tree.mnuAddWeap[4].choose();
     test.takeLog();
-    window.lvCurrentWeapons.pressMouse({.button = RightButton});
+    window.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
     EXPECT_EQ(test.takeLog(), "");
-    window.lvCurrentWeapons.select(0);
-    window.lvCurrentWeapons.pressMouse({.button = LeftButton});
+    window.aboard.lvCurrentWeapons.select(0);
+    window.aboard.lvCurrentWeapons.pressMouse({.button = LeftButton});
     EXPECT_EQ(test.takeLog(), "");
 
     const auto open = [&](std::int32_t remaining, bool isTaken) {
@@ -64,12 +64,12 @@ TEST_F(SystemList, AmountDialogTakesAnyNumberAway) {
             (isTaken ? dialog.cmdOK : dialog.cmdCancel).press();
             EXPECT_FALSE(dialog.isVisible());
         };
-        window.lvCurrentWeapons.pressMouse({.button = RightButton, .x = 10.5, .y = 20.5});
+        window.aboard.lvCurrentWeapons.pressMouse({.button = RightButton, .x = 10.5, .y = 20.5});
     };
     open(24, false);
     EXPECT_EQ(test.takeLog(), "dialog: frmAmountSlider of frmMain; ");
     EXPECT_EQ(test.list(), "Gun 25*");
-    const frmAmountSlider& dialog = *window.frmSld;
+    const frmAmountSlider& dialog = *window.aboard.frmSld;
     EXPECT_EQ(dialog.left(), 3636);
     EXPECT_EQ(dialog.top(), 6010);
     EXPECT_EQ(dialog.sliCount.max(), 25);
@@ -85,13 +85,13 @@ TEST_F(SystemList, AmountDialogTakesAnyNumberAway) {
     open(0, true);
     EXPECT_EQ(test.list(), "");
     EXPECT_EQ(amountOf(test.ship(), "Gun"), 0);
-    EXPECT_EQ(window.frmSld->sliCount.tickFrequency(), 1);
+    EXPECT_EQ(window.aboard.frmSld->sliCount.tickFrequency(), 1);
 }
 
 TEST_F(SystemList, RefusalsLeaveListAndShipInStep) {
-    window.optMerchant.choose();
+    window.hull.optMerchant.choose();
     test.selectNode("Cloaking Field");
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     const auto refuses = [&](const std::function<void()>& act) {
         window.sbStatus.setText("");
         act();
@@ -100,41 +100,41 @@ TEST_F(SystemList, RefusalsLeaveListAndShipInStep) {
         EXPECT_EQ(test.list().substr(0, 16), "Cloaking Field 1");
         EXPECT_EQ(amountOf(test.ship(), "Cloaking Field"), 1);
     };
-    refuses([&] { window.tvWeapons.doubleClick(); });
+    refuses([&] { window.tree.tvWeapons.doubleClick(); });
     test.selectNode("Gun");
-    refuses([&] { window.tvWeapons.doubleClick(); });
-    window.lvCurrentWeapons.select(0);
-    refuses([&] { window.lvCurrentWeapons.doubleClick(); });
+    refuses([&] { window.tree.tvWeapons.doubleClick(); });
+    window.aboard.lvCurrentWeapons.select(0);
+    refuses([&] { window.aboard.lvCurrentWeapons.doubleClick(); });
     EXPECT_EQ(test.list(), "Cloaking Field 1*");
 
     // A category without systems is no system: one box, and no row.
     test.takeLog();
     test.selectNode("ALIEN");
     test.takeLog();
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Cloaking Field 1*");
 
-    window.optWarship.choose();
+    window.hull.optWarship.choose();
     test.selectNode("Giant");
-    window.tvWeapons.doubleClick();
-    window.updwnMass_5.pressUp();
+    window.tree.tvWeapons.doubleClick();
+    window.mass.updwnMass_5.pressUp();
     const std::string before = test.list();
     test.selectNode("Gun");
     for (int i = 0; i < 3; ++i) {
-        window.mnuAddWeapEx[2].choose();
+        window.tree.mnuAddWeapEx[2].choose();
     }
     EXPECT_EQ(test.list(), before + ", Gun 300");
 }
 
 TEST_F(SystemList, LoadedShipsFillItInTheOrderOfTheCatalogue) {
     test.selectNode("Ballast");
-    window.tvWeapons.doubleClick();
-    EXPECT_TRUE(window.loadFile(test.folder().write(
+    window.tree.tvWeapons.doubleClick();
+    EXPECT_TRUE(window.files.loadFile(test.folder().write(
         "a.shp",
         "Mass: 90\nSystem: Giant, 1\nSystem: Gun, 2\nSystem: Nothing, 1\nSystem: Gun, 1")));
     EXPECT_EQ(test.list(), "Gun 3, Giant 1");
     EXPECT_TRUE(test.ship().g_bSaved);
-    EXPECT_FALSE(window.loadFile(test.folder().write("b.shp", "Mass: x")));
+    EXPECT_FALSE(window.files.loadFile(test.folder().write("b.shp", "Mass: x")));
     EXPECT_EQ(test.list(), "");
     EXPECT_EQ(test.ship().mass(), 2);
 }

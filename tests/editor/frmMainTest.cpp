@@ -14,17 +14,17 @@ TEST(FrmMain, LoadsInOrderAndShowsASavedShip) {
     EXPECT_FALSE(test.window().isVisible());
     EXPECT_EQ(test.ship().g_sDesignerName, "Somebody");
     EXPECT_TRUE(test.ship().g_bSaved);
-    EXPECT_EQ(test.window().txtMass.text() + test.window().txtCost.text() +
-                  test.window().lblMassLeft.caption() + test.window().txtClass.text() +
-                  test.window().txtDesigner.text(),
+    EXPECT_EQ(test.window().mass.txtMass.text() + test.window().figures.txtCost.text() +
+                  test.window().mass.lblMassLeft.caption() + test.window().figures.txtClass.text() +
+                  test.window().names.txtDesigner.text(),
               "271EscortSomebody");
     std::string nodes;
-    for (const TreeView::Node& node : test.window().tvWeapons.nodes()) {
+    for (const TreeView::Node& node : test.window().tree.tvWeapons.nodes()) {
         nodes += node.key + (node.parent == nullptr ? "" : '<' + node.parent->key) + ' ';
     }
     EXPECT_EQ(nodes, "BEAM DEFENSE HEAVY SYSTEMS HANGAR SPECIAL ALIEN GUNS<BEAM Gun<GUNS ");
-    EXPECT_EQ(test.window().lvCurrentWeapons.columns()[0].width, 2055);
-    EXPECT_EQ(test.window().lvCurrentWeapons.columns()[1].width, 1370);
+    EXPECT_EQ(test.window().aboard.lvCurrentWeapons.columns()[0].width, 2055);
+    EXPECT_EQ(test.window().aboard.lvCurrentWeapons.columns()[1].width, 1370);
 }
 
 TEST(FrmMain, FindsPicturesWhateverTheCaseOfTheirNames) {
@@ -61,98 +61,100 @@ TEST_F(MainWindow, ATickBehindABoxInALoadIsAnActOfItsOwn) {
         window.tmrRefreshScreen.tick();
         EXPECT_EQ(window.sbStatus.text(), "Number too large");
     };
-    EXPECT_FALSE(
-        window.loadFile(test.folder().write("big.shp", "Mass: 2000000000\nSystem: Nothing, 1\n")));
+    EXPECT_FALSE(window.files.loadFile(
+        test.folder().write("big.shp", "Mass: 2000000000\nSystem: Nothing, 1\n")));
     for (int tick = 0; tick < 2; ++tick) {
         window.tmrRefreshScreen.tick();
     }
-    EXPECT_EQ(window.sbStatus.text() + window.txtMass.text(), "2");
+    EXPECT_EQ(window.sbStatus.text() + window.mass.txtMass.text(), "2");
 }
 
 TEST_F(MainWindow, TickShowsWhatWasWrittenWithoutARecalculation) {
     test.ship().g_sShipName = "Renamed";
     window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.txtShipName.text(), "Renamed");
-    window.txtCost.type("9999");
+    EXPECT_EQ(window.names.txtShipName.text(), "Renamed");
+    window.figures.txtCost.type("9999");
     window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.txtCost.text(), "7");
+    EXPECT_EQ(window.figures.txtCost.text(), "7");
     EXPECT_TRUE(test.ship().g_bSaved);
 }
 
 TEST_F(MainWindow, PreviewsEndSilentlyWhereNothingIsSelected) {
-    window.optThrust[4].choose();
+    window.hull.optThrust[4].choose();
     EXPECT_EQ(test.previews(), "  |  ");
     test.selectNode("Screen");
-    window.tvWeapons.click();
+    window.tree.tvWeapons.click();
     EXPECT_EQ(test.previews(), "1 6 |  ");
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     EXPECT_EQ(test.previews(), "1 6 |  ");
-    window.lvCurrentWeapons.select(0);
-    window.lvCurrentWeapons.click();
+    window.aboard.lvCurrentWeapons.select(0);
+    window.aboard.lvCurrentWeapons.click();
     EXPECT_EQ(test.previews(), "1 6 | 1 6");
-    window.tvWeapons.doubleClick();
-    window.updwnMass_5.pressUp();
+    window.tree.tvWeapons.doubleClick();
+    window.mass.updwnMass_5.pressUp();
     EXPECT_EQ(test.previews(), "6 156 | 12 312");
     test.selectNode("DEFENSE");
-    window.tvWeapons.click();
+    window.tree.tvWeapons.click();
     EXPECT_EQ(test.previews(), "6 156 | 12 312");
     window.tmrRefreshScreen.tick();
     EXPECT_EQ(test.previews(), "  | 12 312");
-    window.cmdCollapseAll.press();
+    window.tree.cmdCollapseAll.press();
     // A category without systems counts as one, and no ship knows it.
     test.takeLog();
     test.selectNode("ALIEN");
-    window.tvWeapons.click();
+    window.tree.tvWeapons.click();
     EXPECT_EQ(test.takeLog(), "box: Couldn 't find the weapon; box: Couldn 't find the weapon; ");
     EXPECT_EQ(test.previews(), "0 0 | 12 312");
 }
 
 TEST_F(MainWindow, PointingAtAFigureOrASystemExplainsIt) {
-    EXPECT_EQ(window.txtCost.toolTip(), "       4  Warship hull of mass 2\n"
-                                        "       2  FTL drive: Normal\n"
-                                        "       1  Thrust 2\n"
-                                        "       7  = Cost");
+    EXPECT_EQ(window.figures.txtCost.toolTip(), "       4  Warship hull of mass 2\n"
+                                                "       2  FTL drive: Normal\n"
+                                                "       1  Thrust 2\n"
+                                                "       7  = Cost");
     test.selectNode("Gun");
-    window.mnuAddWeap[1].choose();
-    EXPECT_EQ(window.lblMassLeft.toolTip(), "       1  Free mass of the Warship hull of mass 2\n"
-                                            "      -4  2 x Gun\n"
-                                            "      -3  = Mass left");
-    EXPECT_EQ(window.txtDP.toolTip(), "       1  Warship hull of mass 2\n"
-                                      "       1  = Damage points");
-    const std::string gun = window.tvWeapons.nodeToolTip(*window.tvWeapons.find("Gun"));
+    window.tree.mnuAddWeap[1].choose();
+    EXPECT_EQ(window.mass.lblMassLeft.toolTip(),
+              "       1  Free mass of the Warship hull of mass 2\n"
+              "      -4  2 x Gun\n"
+              "      -3  = Mass left");
+    EXPECT_EQ(window.figures.txtDP.toolTip(), "       1  Warship hull of mass 2\n"
+                                              "       1  = Damage points");
+    const std::string gun = window.tree.tvWeapons.nodeToolTip(*window.tree.tvWeapons.find("Gun"));
     EXPECT_EQ(gun.substr(0, gun.find("\n\n")),
               "1 x Gun\nMass: 2 = 2 * amount\nCost: 6 = 6 * amount\nArcs: FPS");
-    const std::string row = window.lvCurrentWeapons.rowToolTip(window.lvCurrentWeapons.rows()[0]);
+    const std::string row =
+        window.aboard.lvCurrentWeapons.rowToolTip(window.aboard.lvCurrentWeapons.rows()[0]);
     EXPECT_EQ(row.substr(0, row.find("\n\n")),
               "2 x Gun\nMass: 4 = 2 * amount\nCost: 12 = 6 * amount\nArcs: FPS");
-    EXPECT_EQ(window.tvWeapons.nodeToolTip(*window.tvWeapons.find("BEAM")), "");
+    EXPECT_EQ(window.tree.tvWeapons.nodeToolTip(*window.tree.tvWeapons.find("BEAM")), "");
     // Pointing at a category without systems is no act, and says nothing of unknown weapons.
     test.takeLog();
-    EXPECT_EQ(window.tvWeapons.nodeToolTip(*window.tvWeapons.find("ALIEN")), "");
+    EXPECT_EQ(window.tree.tvWeapons.nodeToolTip(*window.tree.tvWeapons.find("ALIEN")), "");
     EXPECT_EQ(test.takeLog(), "");
 }
 
 TEST_F(MainWindow, CategoryButtonsOpenOneAndCloseTheRest) {
     const auto open = [&] {
         std::string text;
-        for (const TreeView::Node& node : window.tvWeapons.nodes()) {
+        for (const TreeView::Node& node : window.tree.tvWeapons.nodes()) {
             text += node.isExpanded ? node.key + ' ' : "";
         }
         return text;
     };
-    window.cmdBeams.press();
+    window.tree.cmdBeams.press();
     EXPECT_EQ(open(), "BEAM ");
-    window.cmdSystems.press();
+    window.tree.cmdSystems.press();
     EXPECT_EQ(open(), "SYSTEMS ");
-    window.cmdSystems.press();
+    window.tree.cmdSystems.press();
     EXPECT_EQ(open(), "");
-    window.cmdExpandAll.press();
-    window.cmdBeams.press();
+    window.tree.cmdExpandAll.press();
+    window.tree.cmdBeams.press();
     EXPECT_EQ(open(), "");
     const std::pair<Button*, const char*> buttons[] = {
-        {&window.cmdDefense, "DEFENSE "}, {&window.cmdHeavy, "HEAVY "},
-        {&window.cmdHangars, "HANGAR "},  {&window.cmdSpecial, "SPECIAL "},
-        {&window.cmdAlien, "ALIEN "},
+        {&window.tree.cmdDefense, "DEFENSE "}, {&window.tree.cmdHeavy, "HEAVY "},
+        {&window.tree.cmdHangars, "HANGAR "},  {&window.tree.cmdSpecial, "SPECIAL "},
+        {&window.tree.cmdAlien, "ALIEN "},
     };
     for (const auto& [button, expected] : buttons) {
         button->press();

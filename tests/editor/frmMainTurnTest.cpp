@@ -14,10 +14,10 @@ class Turns : public testing::Test {
 protected:
     Turns() {
         window.show();
-        window.updwnMass_5.pressUp();
+        window.mass.updwnMass_5.pressUp();
         test.selectNode("Gun");
-        window.mnuAddWeap[2].choose();
-        window.mnuAutoMass.choose();
+        window.tree.mnuAddWeap[2].choose();
+        window.mass.mnuAutoMass.choose();
     }
 
     TestWindow test;
@@ -32,66 +32,66 @@ TEST_F(Turns, ARefusalKeepsTheRowsOfActsInBetween) {
         test.inTurn = [&] {
             test.inTurn = [&] {
                 test.selectNode("Ballast");
-                window.tvWeapons.doubleClick();
+                window.tree.tvWeapons.doubleClick();
                 test.selectNode("ALIEN");
             };
         };
     };
-    window.tvWeapons.doubleClick();
+    window.tree.tvWeapons.doubleClick();
     EXPECT_EQ(test.list(), "Gun 3, Ballast 1");
     EXPECT_EQ(amountOf(test.ship(), "Ballast"), 1);
 }
 
 TEST_F(Turns, ASaveWaitsForAutoMass) {
     test.file = (test.folder().path() / "a.shp").string();
-    test.inTurn = [&] { window.mnuSaveAs.choose(); };
-    window.optMerchant.choose();
+    test.inTurn = [&] { window.files.mnuSaveAs.choose(); };
+    window.hull.optMerchant.choose();
     EXPECT_EQ(test.folder().read("a.shp"), test.ship().shipFile());
     EXPECT_TRUE(test.ship().g_bSaved);
-    EXPECT_TRUE(window.mnuSave.isEnabled());
+    EXPECT_TRUE(window.files.mnuSave.isEnabled());
 }
 
 TEST_F(Turns, APrintWaitsForAutoMass) {
     test.copies = 1;
     test.takeLog();
     test.inTurn = [&] {
-        window.mnuPrint.choose();
+        window.files.mnuPrint.choose();
         EXPECT_EQ(test.takeLog(), "");
     };
-    window.optMerchant.choose();
+    window.hull.optMerchant.choose();
     EXPECT_TRUE(test.takeLog().starts_with("font Courier New; "));
 }
 
 TEST_F(Turns, TheAmountDialogTakesOneAnswer) {
-    window.lvCurrentWeapons.select(0);
+    window.aboard.lvCurrentWeapons.select(0);
     test.inTurn = [&] {
-        window.frmSld->cmdOK.press();
-        window.frmSld->cmdCancel.press();
-        EXPECT_TRUE(window.frmSld->isLoaded()) << "it has not ended its work";
+        window.aboard.frmSld->cmdOK.press();
+        window.aboard.frmSld->cmdCancel.press();
+        EXPECT_TRUE(window.aboard.frmSld->isLoaded()) << "it has not ended its work";
     };
     test.inDialog = [&](Form&) {
-        window.frmSld->sliCount.slide(1);
-        window.frmSld->cmdOK.press();
+        window.aboard.frmSld->sliCount.slide(1);
+        window.aboard.frmSld->cmdOK.press();
     };
-    window.lvCurrentWeapons.pressMouse({.button = RightButton});
+    window.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
     EXPECT_EQ(test.list(), "Gun 1*");
-    EXPECT_FALSE(window.frmSld->isLoaded());
+    EXPECT_FALSE(window.aboard.frmSld->isLoaded());
 }
 
 TEST_F(Turns, TheGroupsAreThoseOfTheHull) {
     for (int turn = 0; turn < 8; ++turn) {
-        window.optWarship.choose();
-        window.optNormal.choose();
-        window.optThrust[4].choose();
+        window.hull.optWarship.choose();
+        window.hull.optNormal.choose();
+        window.hull.optThrust[4].choose();
         int turns = 0;
         test.inEachTurn = [&] {
             if (turns++ == turn) {
-                window.optWarship.choose();
+                window.hull.optWarship.choose();
             }
         };
-        window.optQstation.choose();
+        window.hull.optQstation.choose();
         test.inEachTurn = {};
-        EXPECT_EQ(window.fraThrust.isEnabled(), !isBase(test.ship().Hull())) << turn;
+        EXPECT_EQ(window.hull.fraThrust.isEnabled(), !isBase(test.ship().Hull())) << turn;
     }
 }
 
@@ -100,7 +100,7 @@ TEST_F(Turns, ATickThatClosesTheWindowDoesNotOpenItAgain) {
     test.selectNode("ALIEN");
     window.setState(WindowState::Minimized);
     window.hide();
-    test.inMessage = [&] { window.mnuExit.choose(); };
+    test.inMessage = [&] { window.files.mnuExit.choose(); };
     window.tmrRefreshScreen.tick();
     EXPECT_EQ(window.g_Ship, nullptr);
     EXPECT_FALSE(window.isLoaded());
@@ -113,8 +113,8 @@ TEST(FrmMainTurns, AnEndBehindTheBoxOfASaveOrOfANewShipWaitsForItAndComes) {
         window.show();
         test.file = (test.folder().path() / "a.shp").string();
         test.selectNode("ALIEN");
-        test.inMessage = [&] { window.mnuExit.choose(); };
-        (isSave ? window.mnuSaveAs : window.mnuNew).choose();
+        test.inMessage = [&] { window.files.mnuExit.choose(); };
+        (isSave ? window.files.mnuSaveAs : window.files.mnuNew).choose();
         EXPECT_EQ(window.g_Ship, nullptr);
         EXPECT_EQ(test.folder().read("a.shp").empty(), !isSave);
     }
@@ -128,15 +128,15 @@ TEST(FrmMainTurns, ALoadShowsTheShipWhateverWasOnTheScreen) {
     const std::string base = test.folder().write("b.shp", "Type: Starbase\nThrust: 4\nMass: 60\n");
     std::string first;
     for (int time = 0; time < 2; ++time) {
-        ASSERT_TRUE(window.loadFile(ship));
-        EXPECT_EQ(window.txtMass.text() + ' ' + window.txtShipName.text(), "60 A");
-        EXPECT_EQ(window.txtCost.text(), std::to_string(test.ship().g_lCost));
-        EXPECT_TRUE(window.mnuSave.isEnabled() && test.ship().g_bSaved);
+        ASSERT_TRUE(window.files.loadFile(ship));
+        EXPECT_EQ(window.mass.txtMass.text() + ' ' + window.names.txtShipName.text(), "60 A");
+        EXPECT_EQ(window.figures.txtCost.text(), std::to_string(test.ship().g_lCost));
+        EXPECT_TRUE(window.files.mnuSave.isEnabled() && test.ship().g_bSaved);
         first = time == 0 ? figures(test.ship()) : first;
         EXPECT_EQ(figures(test.ship()), first);
     }
     for (int time = 0; time < 2; ++time) {
-        ASSERT_TRUE(window.loadFile(base));
+        ASSERT_TRUE(window.files.loadFile(base));
         EXPECT_EQ(test.ship().THRUST(), 0);
         EXPECT_TRUE(test.ship().g_bSaved);
     }

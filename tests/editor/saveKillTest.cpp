@@ -37,8 +37,8 @@ TEST(SaveKill, CostsNothingAtAnyMoment) {
     frmMain& window = test.window();
     window.show();
     test.file = (test.folder().path() / "ship.shp").string();
-    window.mnuSaveAs.choose();
-    window.optThrust[5].choose();
+    window.files.mnuSaveAs.choose();
+    window.hull.optThrust[5].choose();
     const std::string changed = test.ship().shipFile();
     const std::string old = test.folder().read("ship.shp");
     microseconds wholeSave{1};
@@ -47,9 +47,9 @@ TEST(SaveKill, CostsNothingAtAnyMoment) {
         const Pipe progress;
         const pid_t child = fork();
         if (child == 0) {
-            window.tmrRecovery.tick();
+            window.recovery.tmrRecovery.tick();
             static_cast<void>(write(progress.ends[1], "a", 1));
-            window.mnuSave.choose();
+            window.files.mnuSave.choose();
             static_cast<void>(write(progress.ends[1], "b", 1));
             pause();
         }

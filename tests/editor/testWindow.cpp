@@ -123,16 +123,17 @@ private:
 TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
       m_progress(std::make_unique<Progress>(*this)), m_paper(std::make_unique<Paper>(*this)),
-      m_extras({.desktop = *m_desk,
-                .globals = globals,
-                .settings = m_settings,
-                .nameShip = [this](const std::string& designer,
-                                   const std::string& ship) { window().nameShip(designer, ship); },
-                .clearRecentFiles =
-                    [this] {
-                        window().CMRUList->clearList();
-                        window().fillMRU();
-                    }}),
+      m_extras(
+          {.desktop = *m_desk,
+           .globals = globals,
+           .settings = m_settings,
+           .nameShip = [this](const std::string& designer,
+                              const std::string& ship) { window().names.nameShip(designer, ship); },
+           .clearRecentFiles =
+               [this] {
+                   window().CMRUList->clearList();
+                   window().fillMRU();
+               }}),
       m_recovery(m_folder.path() / "recovered",
                  {.ownMark = "1", .isRunning = [](const std::string&) { return false; }},
                  [this] { return "time " + std::to_string(++m_time); }) {
@@ -186,12 +187,12 @@ std::string TestWindow::takeLog() {
 }
 
 void TestWindow::selectNode(std::string_view key) {
-    window().tvWeapons.select(*window().tvWeapons.find(key));
+    window().tree.tvWeapons.select(*window().tree.tvWeapons.find(key));
 }
 
 std::string TestWindow::list() {
     std::string text;
-    const ListView& list = window().lvCurrentWeapons;
+    const ListView& list = window().aboard.lvCurrentWeapons;
     for (std::size_t row = 0; row < list.rows().size(); ++row) {
         text += (row == 0 ? "" : ", ") + list.rows()[row].text + ' ' + list.rows()[row].subItem +
                 (list.selected() == row ? "*" : "");
@@ -200,8 +201,10 @@ std::string TestWindow::list() {
 }
 
 std::string TestWindow::previews() {
-    return window().lblWeapMass[0].caption() + ' ' + window().lblWeapCost[0].caption() + " | " +
-           window().lblWeapMass[1].caption() + ' ' + window().lblWeapCost[1].caption();
+    return window().previews.lblWeapMass[0].caption() + ' ' +
+           window().previews.lblWeapCost[0].caption() + " | " +
+           window().previews.lblWeapMass[1].caption() + ' ' +
+           window().previews.lblWeapCost[1].caption();
 }
 
 }  // namespace fleetwright

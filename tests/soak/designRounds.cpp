@@ -46,14 +46,14 @@ class SheetWindow {
 public:
     SheetWindow(const TestWindow& test, const frmMain& main)
         : m_app(test.folder().path()), m_file(m_app / "sheet.bmp"),
-          m_images(programImages(m_app, m_pictures, main.ilWeapons)), m_maps(loadMaps(m_app)),
+          m_images(programImages(m_app, m_pictures, main.tree.ilWeapons)), m_maps(loadMaps(m_app)),
           m_window({.appFolder = m_app,
                     .desktop = m_desktop,
                     .pictures = m_pictures,
                     .encoder = m_decoder,
                     .images = m_images,
                     .g_colSSDMaps = m_maps,
-                    .lvCurrentWeapons = main.lvCurrentWeapons,
+                    .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
                     .ship = [&main] { return sheetShip(main); }}) {
         m_desktop.choice = m_file;
     }
@@ -95,7 +95,7 @@ public:
         fs::create_directory_symlink(fs::path(PICTURES_FOLDER) / "images", app / "images");
         m_window.show();
         m_sheets.emplace(m_test, m_window);
-        for (const TreeView::Node& node : m_window.tvWeapons.nodes()) {
+        for (const TreeView::Node& node : m_window.tree.tvWeapons.nodes()) {
             if (node.children.empty()) {
                 m_systems.push_back(node.key);
             }
@@ -108,24 +108,24 @@ public:
         do {
             load(m_ships[m_nextShip++ % m_ships.size()]);
         } while (isForSheet && !m_sheets->draw());
-        m_window.optThrust[number % 2 + 3].choose();
-        m_window.mnuAutoMass.choose();
+        m_window.hull.optThrust[number % 2 + 3].choose();
+        m_window.mass.mnuAutoMass.choose();
         m_test.selectNode(m_systems[number % m_systems.size()]);
-        m_window.tvWeapons.doubleClick();
-        m_window.mnuAddWeap[1].choose();
-        if (!m_window.lvCurrentWeapons.rows().empty()) {
-            m_window.lvCurrentWeapons.select(0);
-            m_window.lvCurrentWeapons.doubleClick();
+        m_window.tree.tvWeapons.doubleClick();
+        m_window.tree.mnuAddWeap[1].choose();
+        if (!m_window.aboard.lvCurrentWeapons.rows().empty()) {
+            m_window.aboard.lvCurrentWeapons.select(0);
+            m_window.aboard.lvCurrentWeapons.doubleClick();
         }
-        m_window.mnuAutoMass.choose();
+        m_window.mass.mnuAutoMass.choose();
         m_window.tmrRefreshScreen.tick();
-        m_window.tmrRecovery.tick();
+        m_window.recovery.tmrRecovery.tick();
         if (round % 3 == 0) {
             return;  // the next load keeps it among those put aside
         }
         m_test.file = (m_test.folder().path() / ("ship" + std::to_string(round % 8))).string();
         const std::string shipFile = m_test.ship().shipFile();
-        m_window.mnuSaveAs.choose();
+        m_window.files.mnuSaveAs.choose();
         check(m_test.ship().g_bSaved &&
                   m_test.folder().read("ship" + std::to_string(round % 8) + ".shp") == shipFile,
               "a ship was not saved");
@@ -137,8 +137,8 @@ public:
 private:
     void load(const std::string& file) {
         m_test.file = file;
-        m_window.mnuLoad.choose();
-        check(!m_window.fileFault, "a ship was not loaded");
+        m_window.files.mnuLoad.choose();
+        check(!m_window.files.fileFault, "a ship was not loaded");
     }
 
     TestWindow m_test{readTextFile(fs::path(APP_FOLDER) / "weaps.dat")};

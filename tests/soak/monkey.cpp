@@ -55,13 +55,13 @@ public:
                 }
             }
         };
-        m_dragged = m_main.imgDrag.DragWanted.connect([this] {
+        m_dragged = m_main.drag.imgDrag.DragWanted.connect([this] {
             while_("drag", nullptr, [this] { actMeanwhile(); });
             if (!m_hasEnded && m_dice.oneIn(2)) {
-                m_main.lvCurrentWeapons.drop(m_main.imgDrag);
+                m_main.aboard.lvCurrentWeapons.drop(m_main.drag.imgDrag);
             }
         });
-        m_main.tray1.askAvailable = [this] { return !m_dice.oneIn(8); };
+        m_main.tray.tray1.askAvailable = [this] { return !m_dice.oneIn(8); };
         m_main.show();
     }
     Run(const Run&) = delete;
@@ -229,10 +229,10 @@ private:
             m_main.tmrRefreshScreen.tick();
         } else if (kind < 6) {
             note("tick of the recovery");
-            m_main.tmrRecovery.tick();
-        } else if (m_main.tray1.isOn()) {
+            m_main.recovery.tmrRecovery.tick();
+        } else if (m_main.tray.tray1.isOn()) {
             note("tray");
-            raise(kind == 6 ? m_main.tray1.onLeftClick : m_main.tray1.onRightClick);
+            raise(kind == 6 ? m_main.tray.tray1.onLeftClick : m_main.tray.tray1.onRightClick);
         }
     }
 
@@ -283,7 +283,7 @@ private:
     void actOn(Control& control) {
         note(control.name());
         if (auto* const button = dynamic_cast<Button*>(&control)) {
-            m_stale.isNodePreview = m_stale.isNodePreview || button == &m_main.cmdCollapseAll;
+            m_stale.isNodePreview = m_stale.isNodePreview || button == &m_main.tree.cmdCollapseAll;
             button->press();
         } else if (auto* const box = dynamic_cast<CheckBox*>(&control)) {
             box->press();
@@ -291,7 +291,7 @@ private:
             option->choose();
         } else if (auto* const entry = dynamic_cast<MenuEntry*>(&control)) {
             // Else no run would be long.
-            if (entry != &m_main.mnuExit || m_dice.oneIn(20)) {
+            if (entry != &m_main.files.mnuExit || m_dice.oneIn(20)) {
                 entry->choose();
             }
         } else if (auto* const arrows = dynamic_cast<UpDown*>(&control)) {
@@ -391,14 +391,14 @@ private:
     fs::path m_app = m_test.folder().path();
     Pictures m_pictures;
     SteppingClock m_clock;
-    SheetImages m_images = programImages(m_app, m_pictures, m_main.ilWeapons);
+    SheetImages m_images = programImages(m_app, m_pictures, m_main.tree.ilWeapons);
     frmMapper m_mapper{{.appFolder = m_app,
                         .desktop = m_test.desktop(),
                         .pictures = m_pictures,
                         .encoder = m_pictures,
                         .images = m_images,
                         .g_colSSDMaps = m_test.globals.g_colSSDMaps,
-                        .lvCurrentWeapons = m_main.lvCurrentWeapons,
+                        .lvCurrentWeapons = m_main.aboard.lvCurrentWeapons,
                         .ship = [this] { return sheetShip(m_main); }}};
     frmSSDMapCreator m_mapCreator{{.appFolder = m_app,
                                    .desktop = m_test.desktop(),

@@ -45,17 +45,17 @@ private:
     }
 
     void lookAtFigures() {
-        expectFigure(m_window.txtCost, std::to_string(m_ship.g_lCost));
-        expectFigure(m_window.txtDP, std::to_string(m_ship.g_iDP));
-        expectFigure(m_window.txtDamRows, std::to_string(m_ship.g_iDamRows));
-        expectFigure(m_window.txtDCP, std::to_string(m_ship.g_iDCP));
-        expectFigure(m_window.txtFireCon, std::to_string(m_ship.g_iFCS));
-        expectFigure(m_window.txtMass, std::to_string(m_ship.mass()));
-        expectFigure(m_window.txtClass, std::string(m_ship.Class()));
-        expectFigure(m_window.txtRelSize, std::string(m_ship.relSize()));
-        expectFigure(m_window.txtShipName, m_ship.g_sShipName);
-        expectFigure(m_window.txtDesigner, m_ship.g_sDesignerName);
-        expectText("lblMassLeft", m_window.lblMassLeft.caption(),
+        expectFigure(m_window.figures.txtCost, std::to_string(m_ship.g_lCost));
+        expectFigure(m_window.figures.txtDP, std::to_string(m_ship.g_iDP));
+        expectFigure(m_window.figures.txtDamRows, std::to_string(m_ship.g_iDamRows));
+        expectFigure(m_window.figures.txtDCP, std::to_string(m_ship.g_iDCP));
+        expectFigure(m_window.figures.txtFireCon, std::to_string(m_ship.g_iFCS));
+        expectFigure(m_window.mass.txtMass, std::to_string(m_ship.mass()));
+        expectFigure(m_window.figures.txtClass, std::string(m_ship.Class()));
+        expectFigure(m_window.figures.txtRelSize, std::string(m_ship.relSize()));
+        expectFigure(m_window.names.txtShipName, m_ship.g_sShipName);
+        expectFigure(m_window.names.txtDesigner, m_ship.g_sDesignerName);
+        expectText("lblMassLeft", m_window.mass.lblMassLeft.caption(),
                    std::to_string(m_ship.g_iMassLeft));
     }
 
@@ -70,15 +70,15 @@ private:
                 }
             }
         };
-        expectOn(m_window.fraHull, static_cast<std::size_t>(m_ship.Hull() - 1));
-        expectOn(m_window.fraStreamling, static_cast<std::size_t>(m_ship.Streamline()));
-        expectOn(m_window.fraArmor, static_cast<std::size_t>(m_ship.Armor()));
-        expectOn(m_window.fraFTL, static_cast<std::size_t>(std::min(m_ship.FTL(), 2)));
+        expectOn(m_window.hull.fraHull, static_cast<std::size_t>(m_ship.Hull() - 1));
+        expectOn(m_window.hull.fraStreamling, static_cast<std::size_t>(m_ship.Streamline()));
+        expectOn(m_window.hull.fraArmor, static_cast<std::size_t>(m_ship.Armor()));
+        expectOn(m_window.hull.fraFTL, static_cast<std::size_t>(std::min(m_ship.FTL(), 2)));
         if (m_ship.THRUST() >= 0 && m_ship.THRUST() <= mostThrust) {
-            expectOn(m_window.fraThrust, static_cast<std::size_t>(m_ship.THRUST()));
+            expectOn(m_window.hull.fraThrust, static_cast<std::size_t>(m_ship.THRUST()));
         }
         for (const Control* const group :
-             {&m_window.fraStreamling, &m_window.fraFTL, &m_window.fraThrust}) {
+             {&m_window.hull.fraStreamling, &m_window.hull.fraFTL, &m_window.hull.fraThrust}) {
             expect(group->isEnabled() != isBase(m_ship.Hull()), group->name() + " is open or not");
         }
     }
@@ -86,7 +86,7 @@ private:
     void lookAtList() {
         std::map<std::string, std::string> shown;
         std::map<std::string, std::string> aboard;
-        for (const ListView::Row& row : m_window.lvCurrentWeapons.rows()) {
+        for (const ListView::Row& row : m_window.aboard.lvCurrentWeapons.rows()) {
             expect(shown.emplace(row.key, row.subItem).second, row.key + " stands twice");
         }
         for (const WeapRec& system : m_ship.systemsAboard()) {
@@ -100,15 +100,15 @@ private:
             return all;
         };
         expectText("the list", text(shown), text(aboard));
-        const auto selected = m_window.lvCurrentWeapons.selected();
-        expect(!selected || *selected < m_window.lvCurrentWeapons.rows().size(),
+        const auto selected = m_window.aboard.lvCurrentWeapons.selected();
+        expect(!selected || *selected < m_window.aboard.lvCurrentWeapons.rows().size(),
                "the selected row is none");
     }
 
     /// What the labels under tree or list show of so many pieces of a system.
     void expectPreview(std::size_t labels, bool& isStale, const std::string& name, int amount) {
-        const std::string shown =
-            m_window.lblWeapMass[labels].caption() + ' ' + m_window.lblWeapCost[labels].caption();
+        const std::string shown = m_window.previews.lblWeapMass[labels].caption() + ' ' +
+                                  m_window.previews.lblWeapCost[labels].caption();
         const std::string meant = amount == 0
                                       ? " "
                                       : std::to_string(m_ship.previewWeapMass(name, amount)) + ' ' +
@@ -120,19 +120,20 @@ private:
     }
 
     void lookAtPreviews() {
-        const TreeView::Node* const node = m_window.tvWeapons.selected();
+        const TreeView::Node* const node = m_window.tree.tvWeapons.selected();
         if (node == nullptr) {
             m_stale.isRowPreview = true;  // no refresh gets that far
             return;
         }
         if (node->children.empty() && m_ship.weapNameToIndex(node->key) == -1) {
-            expect(m_stale.isNodePreview || m_window.lblWeapMass[0].caption() == "0",
+            expect(m_stale.isNodePreview || m_window.previews.lblWeapMass[0].caption() == "0",
                    "the preview of nothing is not 0");
         } else {
             expectPreview(0, m_stale.isNodePreview, node->key, node->children.empty() ? 1 : 0);
         }
-        const auto& rows = m_window.lvCurrentWeapons.rows();
-        if (const auto row = m_window.lvCurrentWeapons.selected(); row && *row < rows.size()) {
+        const auto& rows = m_window.aboard.lvCurrentWeapons.rows();
+        if (const auto row = m_window.aboard.lvCurrentWeapons.selected();
+            row && *row < rows.size()) {
             expectPreview(1, m_stale.isRowPreview, rows[*row].key, wholeNumber(rows[*row].subItem));
         } else if (rows.empty()) {
             expectPreview(1, m_stale.isRowPreview, "no row", 0);
@@ -141,14 +142,17 @@ private:
 
     void lookAtMenus() {
         expectText("the title", m_window.caption(), "Fleet Wright");
-        expect(m_window.mnuSave.isEnabled() != m_ship.g_sSaveName.empty(), "Save is open or not");
-        expect(m_window.mnuSSD.isEnabled() == (m_ship.mass() <= m_test.globals.g_iLargestSSD),
+        expect(m_window.files.mnuSave.isEnabled() != m_ship.g_sSaveName.empty(),
+               "Save is open or not");
+        expect(m_window.windows.mnuSSD.isEnabled() ==
+                   (m_ship.mass() <= m_test.globals.g_iLargestSSD),
                "Create SSD is open or not");
-        expect(m_window.mnuAutoMass.isChecked() || !m_ship.g_bAutoMass, "AutoMass goes unseen");
-        expect(m_window.mnuAutoMass.isChecked() != m_window.fraMassSpinner.isVisible(),
+        expect(m_window.mass.mnuAutoMass.isChecked() || !m_ship.g_bAutoMass,
+               "AutoMass goes unseen");
+        expect(m_window.mass.mnuAutoMass.isChecked() != m_window.mass.fraMassSpinner.isVisible(),
                "the arrows of the mass are there or not");
         for (std::int16_t index = 1; index <= m_window.CMRUList->MaxFiles(); ++index) {
-            const MenuEntry& entry = m_window.mnuMRUFile[static_cast<std::size_t>(index - 1)];
+            const MenuEntry& entry = m_window.files.mnuMRUFile[static_cast<std::size_t>(index - 1)];
             const std::string file = m_window.CMRUList->getFile(index);
             expectText(entry.name(), entry.isVisible() ? entry.caption() : "", file);
         }
@@ -210,7 +214,7 @@ private:
         const bool isSafe =
             isInFile ||
             (isDesigned && (m_ship.g_sSaveName.empty() || m_ship.g_sShipName == safe->g_sShipName));
-        if (!isSafe && !m_window.tmrRecovery.isEnabled()) {
+        if (!isSafe && !m_window.recovery.tmrRecovery.isEnabled()) {
             const auto aside = RecoveryFolder::list(m_test.folder().path() / "recovered");
             expect(std::any_of(aside.begin(), aside.end(),
                                [&](const auto& each) { return readTextFile(each.file) == file; }),

@@ -79,7 +79,7 @@ std::string mapFor(const SSDMaps& maps, const ShipOnScreen& screen, const ShipCl
     static constexpr std::array<const char*, 6> kinds = {"Warship",  "Merchant", "Q-Ship",
                                                          "Starbase", "Station",  "Station"};
     SheetLists lists;
-    const std::int32_t count = lists.fillShipWeap(screen.window().lvCurrentWeapons.rows());
+    const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
     SSDMaps::Map best;
     const auto suits = [&](const SSDMaps::Map& map) {
         const char* const kind = kinds.at(static_cast<std::size_t>(ship.Hull() - 1));
@@ -122,22 +122,22 @@ void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path
 
 /// Shows a ship with a system of it selected in the tree.
 void showShip(frmMain& window, const fs::path& ship, const std::string& system) {
-    if (!window.loadFile(ship.string())) {
+    if (!window.files.loadFile(ship.string())) {
         throw FileError(ship, "does not load");
     }
-    TreeView::Node* const node = window.tvWeapons.find(system);
+    TreeView::Node* const node = window.tree.tvWeapons.find(system);
     for (TreeView::Node* above = node->parent; above != nullptr; above = above->parent) {
-        window.tvWeapons.setExpanded(*above, true);
+        window.tree.tvWeapons.setExpanded(*above, true);
     }
-    window.tvWeapons.select(*node);
-    window.lvCurrentWeapons.select(1);
+    window.tree.tvWeapons.select(*node);
+    window.aboard.lvCurrentWeapons.select(1);
     window.tmrRefreshScreen.tick();
 }
 
 /// The window of sheets before and after the ship of the main window is drawn.
 void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& appFolder) {
     QtPictureFiles files;
-    const SheetImages images = programImages(appFolder, files, form.ilWeapons);
+    const SheetImages images = programImages(appFolder, files, form.tree.ilWeapons);
     const SSDMaps maps = loadMaps(appFolder);
     frmMapper mapper({.appFolder = appFolder,
                       .desktop = desktop,
@@ -145,7 +145,7 @@ void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& ap
                       .encoder = files,
                       .images = images,
                       .g_colSSDMaps = maps,
-                      .lvCurrentWeapons = form.lvCurrentWeapons,
+                      .lvCurrentWeapons = form.aboard.lvCurrentWeapons,
                       .ship = [&form] { return sheetShip(form); }});
     mapper.load();
     FormWindow window(mapper);
@@ -235,8 +235,8 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     take("main-new");
     showShip(form, data / "ships" / "Provost.shp", "Pulse Cannon III (FPS)");
     take("main");
-    form.lvCurrentWeapons.pressMouse({.button = RightButton});
-    form.mnuExtrasPage.choose();
+    form.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
+    form.windows.mnuExtrasPage.choose();
     frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
     desktop.showModal(about, form);
     takeAuthoring(pictures, desktop, "");
@@ -250,8 +250,8 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     QApplication::setFont(large);
     take("main-large-font");
     takeAuthoring(pictures, desktop, "-large-font");
-    form.optStarBase.choose();
-    form.mnuAutoMass.choose();
+    form.hull.optStarBase.choose();
+    form.mass.mnuAutoMass.choose();
     take("main-base");
 }
 

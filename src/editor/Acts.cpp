@@ -1,0 +1,85 @@
+#include "Acts.h"
+
+#include "Error.h"
+
+#include <utility>
+
+namespace fleetwright {
+
+/// Marks that something is under way, which lets acts in or does not.
+class Acts::Scope {
+public:
+    Scope(Acts& acts, bool letsActsIn)
+        : m_acts(acts), m_didLetActsIn(std::exchange(acts.m_letsActsIn, letsActsIn)) {
+        ++m_acts.m_depth;
+    }
+    Scope(const Scope&) = delete;
+    Scope& operator=(const Scope&) = delete;
+    ~Scope() {
+        --m_acts.m_depth;
+        m_acts.m_letsActsIn = m_didLetActsIn;
+    }
+
+private:
+    Acts& m_acts;
+    bool m_didLetActsIn;
+};
+
+Acts::Acts(Subject subject) : m_subject(std::move(subject)) {}
+
+void Acts::act(const Work& change) {
+    if (!m_subject.isThere()) {
+        return;
+    }
+    if (m_depth > 0 && !m_letsActsIn) {
+        change();
+        return;
+    }
+    {
+        const Scope scope(*this, false);
+        const ShipClass::State before = m_subject.state();
+        try {
+            change();
+        } catch (const OverflowError&) {
+            m_subject.undo(before);
+        }
+    }
+    runWaiting();
+}
+
+void Acts::letActsIn(const Work& turn) {
+    {
+        const Scope scope(*this, true);
+        turn();
+    }
+    runWaiting();
+}
+
+void Acts::whenIdle(Work work) {
+    m_waiting.push_back(std::move(work));
+    runWaiting();
+}
+
+void Acts::endWhenIdle(Work end) {
+    m_end = std::move(end);
+    runWaiting();
+}
+
+void Acts::runWaiting() {
+    while (m_depth == 0 && m_subject.isThere() && (m_end || !m_waiting.empty())) {
+        if (m_waiting.empty()) {
+            std::exchange(m_end, {})();
+            continue;
+        }
+        const Work work = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        const Scope scope(*this, true);
+        work();
+    }
+    if (!m_subject.isThere()) {
+        m_waiting.clear();
+        m_end = {};
+    }
+}
+
+}  // namespace fleetwright

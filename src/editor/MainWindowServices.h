@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CatalogueFile.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace fleetwright {
+
+class Desktop;
+class PictureFiles;
+class Printer;
+class RecoveryFolder;
+class SettingsStore;
+class StartUpProgress;
+class frmExtras;
+struct Globals;
+
+/// What the main window needs of the world around it. All of it outlives the window.
+struct MainWindowServices {
+    std::filesystem::path appFolder;
+    CatalogueFile catalogueFile{appFolder / "weaps.dat"};
+    std::function<void()> eventLoopTurn;  ///< lets pending events run
+    std::function<void()> freeFormulaLibrary;
+    /// What keeps the catalogue from being used, as a text to show; empty if nothing does.
+    std::function<std::string()> catalogueFaults = [] { return std::string(); };
+    Desktop& desktop;
+    PictureFiles& pictures;
+    StartUpProgress& progress;
+    Globals& globals;
+    SettingsStore& settings;
+    Printer& printer;
+    /// The windows that the menus open; the first one is shown above this window.
+    std::function<frmExtras&()> extras;
+    std::function<void()> showAbout;
+    std::function<void()> showMapper;
+    std::function<void()> showViewer;
+    std::function<void()> showMapCreator;
+    /// Where designs are put aside; null if they are not.
+    RecoveryFolder* recovery = nullptr;
+    /// Without a screen nobody sees the tree, and it is not built.
+    bool hasScreen = true;
+};
+
+}  // namespace fleetwright

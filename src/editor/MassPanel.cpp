@@ -1,0 +1,96 @@
+#include "MassPanel.h"
+
+#include "Desktop.h"
+#include "checkedArithmetic.h"
+#include "wholeNumber.h"
+
+namespace fleetwright {
+
+MassPanel::MassPanel(const PanelContext& context, MenuEntry& mnuStdHulls, MenuEntry& mnuExtras,
+                     std::function<void(bool isMerchant)> chooseHull)
+    : Panel(context), m_stdHulls(mnuStdHulls), m_extras(mnuExtras),
+      m_chooseHull(std::move(chooseHull)) {
+    txtMass.onLostFocus = [this] { txtMass_LostFocus(); };
+    txtMass.onMouseDown = [this](const MousePress&) { txtMass_MouseDown(); };
+}
+
+UpDown MassPanel::arrows(const std::string& name, int left, std::int32_t step) {
+    const std::string spoken = "Mass in steps of " + std::to_string(step);
+    return UpDown(
+        fraMassSpinner,
+        {.name = name, .place = {left, 288, 192, 396}, .toolTip = spoken, .accessibleName = spoken},
+        {.upClick = [this, step] { stepMass(step); },
+         .downClick =
+             [this, step] {
+                 stepMass(-step);
+                 raiseMassToSmallest();
+             },
+         .change = [this] { raiseMassToSmallest(); }});
+}
+
+MenuEntry MassPanel::warship(const std::string& name, const std::string& caption,
+                             std::int32_t mass) {
+    return MenuEntry(mnuMilitary, {.name = name, .caption = caption},
+                     [this, mass] { mnuStdHull_Click(false, mass); });
+}
+
+MenuEntry MassPanel::merchant(const std::string& name, const std::string& caption,
+                              std::int32_t mass) {
+    return MenuEntry(mnuCivilian, {.name = name, .caption = caption},
+                     [this, mass] { mnuStdHull_Click(true, mass); });
+}
+
+void MassPanel::show() {
+    lblMassLeft.setCaption(std::to_string(ship().g_iMassLeft));
+    txtMass.setText(std::to_string(ship().mass()));
+}
+
+void MassPanel::clearAutoMass() {
+    mnuAutoMass.setChecked(false);
+    fraMassSpinner.setVisible(true);
+}
+
+void MassPanel::stepMass(std::int32_t step) {
+    act([&] { txtMass.setText(std::to_string(checkedAdd(wholeNumber(txtMass.text()), step))); });
+}
+
+void MassPanel::raiseMassToSmallest() {
+    if (window().g_Ship && wholeNumber(txtMass.text()) < smallestMass) {
+        txtMass.setText(std::to_string(smallestMass));
+    }
+}
+
+void MassPanel::txtMass_Change() {
+    if (!txtMass.text().empty()) {
+        act([&] { ship().mass(wholeNumber(txtMass.text())); });
+    }
+}
+
+void MassPanel::txtMass_LostFocus() {
+    raiseMassToSmallest();
+}
+
+void MassPanel::txtMass_MouseDown() {
+    // A box that was out for a moment has dropped whatever it was doing with the press.
+    txtMass.setEnabled(false);
+    txtMass.setEnabled(true);
+    services().desktop.popUp(m_stdHulls);
+}
+
+void MassPanel::mnuStdHull_Click(bool isMerchant, std::int32_t mass) {
+    act([&] {
+        m_chooseHull(isMerchant);
+        txtMass.setText(std::to_string(mass));
+    });
+}
+
+void MassPanel::mnuAutoMass_Click() {
+    act([&] {
+        mnuAutoMass.setChecked(!mnuAutoMass.isChecked());
+        ship().g_bAutoMass = mnuAutoMass.isChecked();
+        fraMassSpinner.setVisible(!mnuAutoMass.isChecked());
+        ship().weapChange();
+    });
+}
+
+}  // namespace fleetwright

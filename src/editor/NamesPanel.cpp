@@ -1,0 +1,46 @@
+#include "NamesPanel.h"
+
+namespace fleetwright {
+
+NamesPanel::NamesPanel(const PanelContext& context, Container& fraInfo, Handler changed)
+    : Panel(context), m_fraInfo(fraInfo), m_changed(std::move(changed)) {
+    txtShipName.onDblClick = [this] { txtShipName_DblClick(); };
+    txtShipName.onKeyPress = [this](int key) { return txtShipName_KeyPress(key); };
+    txtDesigner.onDblClick = [this] { txtDesigner_DblClick(); };
+    txtDesigner.onKeyPress = [this](int key) { return txtDesigner_KeyPress(key); };
+}
+
+void NamesPanel::show() {
+    txtShipName.setText(ship().g_sShipName);
+    txtDesigner.setText(ship().g_sDesignerName);
+}
+
+void NamesPanel::nameShip(const std::string& designer, const std::string& shipName) {
+    ship().g_sDesignerName = designer;
+    ship().g_sShipName = shipName;
+}
+
+void NamesPanel::openOrCommit(const Name& name) {
+    if (name.isEditing) {
+        commit(name);
+    } else {
+        name.box.setLocked(false);
+        name.isEditing = true;
+    }
+}
+
+bool NamesPanel::commitOnEnter(const Name& name, int KeyAscii) {
+    if (KeyAscii == EnterKey && name.isEditing) {
+        commit(name);
+    }
+    return false;
+}
+
+void NamesPanel::commit(const Name& name) {
+    name.box.setLocked(true);
+    ship().*name.name = name.box.text();
+    name.isEditing = false;
+    m_changed();
+}
+
+}  // namespace fleetwright

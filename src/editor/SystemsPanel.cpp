@@ -1,0 +1,118 @@
+#include "SystemsPanel.h"
+
+#include "Desktop.h"
+#include "checkedArithmetic.h"
+#include "explainShip.h"
+#include "wholeNumber.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace fleetwright {
+
+SystemsPanel::SystemsPanel(const PanelContext& context) : Panel(context) {
+    lvCurrentWeapons.onDblClick = [this] { lvCurrentWeapons_DblClick(); };
+    lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
+        lvCurrentWeapons_MouseDown(press);
+    };
+    lvCurrentWeapons.rowToolTip = [this](const ListView::Row& row) {
+        return describeSystem(ship(), row.key, wholeNumber(row.subItem)) +
+               "\n\nDouble-click, or press Delete, to take one away; right-click for more";
+    };
+}
+
+void SystemsPanel::addColumns() {
+    const int width = lvCurrentWeapons.place().width;
+    lvCurrentWeapons.addColumn("Weapon Name", width / 2);
+    lvCurrentWeapons.addColumn("Count", width / 3);
+}
+
+void SystemsPanel::show() {
+    const std::vector<WeapRec> aboard = ship().systemsAboard();
+    for (std::size_t row = lvCurrentWeapons.rows().size(); row-- > 0;) {
+        const std::string& key = lvCurrentWeapons.rows()[row].key;
+        if (std::none_of(aboard.begin(), aboard.end(),
+                         [&](const WeapRec& system) { return system.name == key; })) {
+            lvCurrentWeapons.remove(row);
+        }
+    }
+    for (const WeapRec& system : aboard) {
+        const std::string count = std::to_string(system.amount);
+        if (const auto row = lvCurrentWeapons.find(system.name)) {
+            lvCurrentWeapons.setSubItem(*row, count);
+        } else {
+            lvCurrentWeapons.add(std::string(system.name), std::string(system.name), count);
+        }
+    }
+}
+
+void SystemsPanel::AddWeaponRow(const std::string& name, std::int32_t amount) {
+    const std::optional<std::size_t> row = lvCurrentWeapons.find(name);
+    if (!row) {
+        lvCurrentWeapons.add(name, name, std::to_string(amount));
+        return;
+    }
+    const std::int32_t count =
+        checkedAdd(wholeNumber(lvCurrentWeapons.rows()[*row].subItem), amount);
+    if (count == 0) {
+        lvCurrentWeapons.remove(*row);
+    } else {
+        lvCurrentWeapons.setSubItem(*row, std::to_string(count));
+    }
+}
+
+/// The row changes first, since the ship's recalculation ends in a refresh that reads it. The name
+/// is a copy: its row may go.
+void SystemsPanel::changeAmount(const std::string name, std::int32_t change) {
+    act([&] {
+        const ListView::Content before = lvCurrentWeapons.content();
+        bool isTaken = false;
+        try {
+            AddWeaponRow(name, change);
+            isTaken = ship().addWeap(name, change);
+        } catch (...) {
+            lvCurrentWeapons.setContent(before);
+            throw;
+        }
+        if (!isTaken) {
+            lvCurrentWeapons.setContent(before);
+            show();  // AutoMass may have let other acts in
+        }
+    });
+}
+
+void SystemsPanel::lvCurrentWeapons_DblClick() {
+    if (const auto row = lvCurrentWeapons.selected()) {
+        changeAmount(lvCurrentWeapons.rows()[*row].key, -1);
+    }
+}
+
+void SystemsPanel::lvCurrentWeapons_MouseDown(const MousePress& press) {
+    const auto row = lvCurrentWeapons.selected();
+    if (press.button != RightButton || !row) {
+        return;
+    }
+    frmSld = std::make_unique<frmAmountSlider>();
+    frmSld->iOriginal = wholeNumber(lvCurrentWeapons.rows()[*row].subItem);
+    // The fields end at 32767 twips, which a wide screen does not; there the dialog opens as near
+    // as they reach.
+    const auto place = [](double twips) {
+        using Limits = std::numeric_limits<std::int16_t>;
+        return static_cast<std::int16_t>(
+            std::clamp(std::nearbyint(twips), double{Limits::min()}, double{Limits::max()}));
+    };
+    frmSld->iX = place(lvCurrentWeapons.place().left + form().left() + press.x);
+    frmSld->iY = place(lvCurrentWeapons.place().top + form().top() + press.y);
+    m_countChanged =
+        frmSld->CountChanged.connect([this](std::int32_t amount) { frmSld_CountChanged(amount); });
+    services().desktop.showModal(*frmSld, form());
+}
+
+void SystemsPanel::frmSld_CountChanged(std::int32_t amount) {
+    if (const auto row = lvCurrentWeapons.selected()) {
+        changeAmount(lvCurrentWeapons.rows()[*row].key, -amount);
+    }
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,134 @@
+#include "TreePanel.h"
+
+#include "Desktop.h"
+#include "PictureFiles.h"
+#include "StartUpProgress.h"
+#include "SystemsPanel.h"
+#include "TextFile.h"
+#include "capitals.h"
+#include "explainShip.h"
+#include "folders.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace fleetwright {
+
+namespace {
+
+/// A root's key as it stands in the names of its pictures.
+std::string smallLetters(std::string_view key) {
+    std::string small(key);
+    std::transform(small.begin(), small.end(), small.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return small;
+}
+
+}  // namespace
+
+TreePanel::TreePanel(const PanelContext& context, MenuEntry& mnuAddWeaps, SystemsPanel& aboard,
+                     Handler collapsed)
+    : Panel(context), m_addWeaps(mnuAddWeaps), m_aboard(aboard), m_collapsed(std::move(collapsed)) {
+    tvWeapons.onDblClick = [this] { tvWeapons_DblClick(); };
+    tvWeapons.onMouseDown = [this](const MousePress& press) { tvWeapons_MouseDown(press); };
+    tvWeapons.nodeToolTip = [this](const TreeView::Node& node) {
+        const std::string system =
+            node.children.empty() ? describeSystem(ship(), node.key, 1) : std::string();
+        return system.empty()
+                   ? system
+                   : system + "\n\nDouble-click, press Enter or drag it to the list to fit one";
+    };
+}
+
+Button TreePanel::button(const std::string& name, const std::string& root,
+                         const std::string& spoken, int left, int top) {
+    return Button(form(),
+                  {.name = name,
+                   .place = {left, top, 645, 540},
+                   .picture = "button-" + smallLetters(root),
+                   .toolTip = spoken,
+                   .accessibleName = spoken},
+                  [this, root] { toggleCategory(root); });
+}
+
+MenuEntry TreePanel::addEntry(MenuEntry& menu, const std::string& name, std::int32_t amount) {
+    const std::string number = std::to_string(amount);
+    return MenuEntry(menu, {.name = name + number, .caption = "X" + number},
+                     [this, amount] { mnuAddWeap_Click(amount); });
+}
+
+void TreePanel::addRoots() {
+    for (const std::string_view root : catalogueRoots) {
+        tvWeapons.add("", std::string(root));
+    }
+}
+
+void TreePanel::LoadWeaponTree() {
+    PictureFiles& pictures = services().pictures;
+    for (const std::string_view root : catalogueRoots) {
+        ilWeapons.add(std::string(root), pictures.builtIn("root-" + smallLetters(root) + ".gif"));
+    }
+    ilWeapons.add("BLANK", pictures.builtIn("root-blank.gif"));  // sheets are covered with it
+    const std::shared_ptr<const CatalogueText> catalogue = services().catalogueFile.read();
+    for (const CatalogueLine& fields : catalogue->lines()) {
+        if (!fields.isCategory()) {
+            services().progress.setText("Loading: " + std::string(fields.name));
+            services().progress.repaint();
+        }
+        Raster picture =
+            pictures.load(findFile(services().appFolder / "images" / nativePath(fields.icon)));
+        const std::string categoryKey = toCapitals(fields.categoryKey);
+        const std::string key = fields.isCategory() ? categoryKey : std::string(fields.name);
+        ilWeapons.add(key, std::move(picture));
+        tvWeapons.add(fields.isCategory() ? toCapitals(fields.parentKey) : categoryKey, key);
+    }
+}
+
+const TreeView::Node* TreePanel::selectedSystem() const {
+    const TreeView::Node* const node = tvWeapons.selected();
+    return node != nullptr && node->children.empty() ? node : nullptr;
+}
+
+void TreePanel::AddSelectedWeapon(std::int32_t amount) {
+    if (const TreeView::Node* const system = selectedSystem()) {
+        m_aboard.changeAmount(system->key, amount);
+    }
+}
+
+/// Opens or closes one category and closes everything else.
+void TreePanel::toggleCategory(const std::string& root) {
+    for (TreeView::Node& node : tvWeapons.nodes()) {
+        tvWeapons.setExpanded(node, node.key == root && !node.isExpanded);
+    }
+}
+
+void TreePanel::expandAll(bool isExpanded) {
+    for (TreeView::Node& node : tvWeapons.nodes()) {
+        tvWeapons.setExpanded(node, isExpanded);
+    }
+}
+
+void TreePanel::cmdExpandAll_Click() {
+    expandAll(true);
+}
+
+void TreePanel::cmdCollapseAll_Click() {
+    expandAll(false);
+    m_collapsed();
+}
+
+void TreePanel::tvWeapons_DblClick() {
+    AddSelectedWeapon(1);
+}
+
+void TreePanel::tvWeapons_MouseDown(const MousePress& press) {
+    if (press.button == RightButton && selectedSystem() != nullptr) {
+        services().desktop.popUp(m_addWeaps);
+    }
+}
+
+void TreePanel::mnuAddWeap_Click(std::int32_t amount) {
+    AddSelectedWeapon(amount);
+}
+
+}  // namespace fleetwright
