@@ -1,64 +1,124 @@
-// Ships in files: what is saved is what is loaded, and what the command line tool finds there.
+// What the program reads and writes: its start, ship files, settings, designs put aside, paper.
 
-#include "Hands.h"
-#include "MainWindow.h"
-#include "RunningProgram.h"
+#include "DesktopTest.h"
 
-#include <gtest/gtest.h>
+#include <regex>
 
 using namespace fleetwright;
+namespace fs = std::filesystem;
 
-namespace {
+TEST_F(DesktopTest, BrokenCatalogueEndsTheStartWithOneMessageThatNamesFileAndLine) {
+    const std::string file =
+        program.folder().write("weaps.dat", "# One, two\n"
+                                            "Gun,1,1,BEAM,NOWHERE,F,gun.gif\n");
+    program.start();
+    waitForKeyboard("FleetWright");
+    const auto names = [&](const Element& label) {
+        return label.name().starts_with(file + ":2: ") &&
+               label.name().find("NOWHERE") != std::string::npos;
+    };
+    EXPECT_TRUE(windowOnScreen("FleetWright")->find("label", names));
+    press("Return");
+    EXPECT_EQ(program.waitForEnd(), 1);
+}
 
-class FilesTest : public testing::Test {
-protected:
-    void SetUp() override {
-        program.start();
-        window.emplace();
-    }
-
-    void setThrust(int thrust) {
-        window->click("check box", "Thrust " + std::to_string(thrust));
-        design.thrust = thrust;
-        window->waitFor(design);
-    }
-    /// Waits for a ship file to hold the design.
-    void waitForSaved(const std::string& name) {
-        const std::string line = "Thrust: " + std::to_string(design.thrust);
-        waitFor(name + " to be saved",
-                [&] { return program.folder().read(name).find(line) != std::string::npos; });
-        EXPECT_EQ(expectedOf(program.folder().path() / name), expectedOf(design));
-    }
-
-    RunningProgram program;
-    std::optional<MainWindow> window;
-    Design design;
-};
-
-}  // namespace
-
-TEST_F(FilesTest, SavedAndLoadedAgain) {
+TEST_F(DesktopTest, ShipIsSavedLoadedAndAskedAbout) {
     const std::string name = "ships/Kept Ship.shp";
-    const std::filesystem::path file = program.folder().path() / name;
-    window->click("push button", "Mass in steps of 50, up");
-    design.mass = 52;
-    setThrust(4);
-    press({"ctrl+a"});
-    chooseFile("Save As", file.parent_path() / file.stem());  // the program adds the extension
-    waitForSaved(name);
-    setThrust(5);
-    press({"ctrl+s"});
-    waitForSaved(name);
+    start();
+    setThrust("4");
+    press("ctrl+a");
+    chooseFile("Save As", path("ships/Kept Ship"));  // the program adds the extension
+    waitForFile(name, "Thrust: 4");
+    setThrust("5");
+    press("ctrl+s");
+    waitForFile(name, "Thrust: 5");
+    EXPECT_EQ(expectedOf(path(name)), expectedOf(design));
+    press("ctrl+n");
+    window->waitFor(expectedOf(newDesign()));
+    window->load(path(name));
 
-    press({"ctrl+n"});
-    window->waitFor(Design());
-    window->load(file);
-
-    setThrust(6);
-    press({"ctrl+n"});
+    setThrust("6");
+    press("ctrl+n");
     Window(MainWindow::notSaved).click("push button", "Yes");
-    window->waitFor(Design());
-    window->choose("File", file.stem());
-    window->waitForShip(file);
-    EXPECT_EQ(expectedOf(file).at("Mass"), "52");
+    window->waitFor(expectedOf(newDesign()));
+    window->choose("File", "Kept Ship");
+    window->waitFor(expectedOf(path(name)));
+
+    setThrust("4");
+    close(MainWindow::title);
+    Window(MainWindow::notSaved).get("label", "Ship not saved, continue with exit?");
+    Window(MainWindow::notSaved).click("push button", "No");
+    setThrust("5");
+    close(MainWindow::title);
+    waitForKeyboard(MainWindow::notSaved);
+    press("Escape");  // the same as No
+    close(MainWindow::title);
+    Window(MainWindow::notSaved).click("push button", "Yes");
+    EXPECT_EQ(program.waitForEnd(), 0);
+}
+
+TEST_F(DesktopTest, SettingsWithTheKeyboardAlone) {
+    start();
+    press("Alt_L");
+    window->waitUntil("menu item", "File", ATSPI_STATE_FOCUSED);
+    press("Right Right Down Return");
+    const Window page("Extras");
+    const auto write = [&](const char* box, const char* text) {
+        page.waitUntil("text", box, ATSPI_STATE_FOCUSED);
+        press("ctrl+a");
+        type(text);
+        page.waitForText("text", box, text);
+    };
+    write("Designer", "A. Smith");
+    press("Return");
+    write("Ship Name", "Rook II");
+    page.tabTo("check box", "Play Sounds");
+    press("space");
+    page.tabTo("push button", "Save Settings");
+    press("space");
+    waitForFile("settings/FleetWright/FleetWright.conf", "Designer=A. Smith\n");
+    waitForFile("settings/FleetWright/FleetWright.conf", "Sounds=False\n");
+    page.tabTo("push button", "OK");
+    press("Return");
+    page.waitUntilGone();
+    window->waitForText("text", "Ship name", "Rook II");
+    window->waitForText("text", "Designer", "A. Smith");
+}
+
+TEST_F(DesktopTest, DesignOutlivesACrash) {
+    start();
+    window->click("push button", "Mass in steps of 50, up");
+    waitToShow("Mass", "52");
+    waitFor("the design to be put aside", [&] { return !tool({"recovered"}).empty(); });
+    program.crash();
+    waitFor("the window to go", [] { return !windowOnScreen(MainWindow::title); });
+
+    const Design crashed = design;
+    start();
+    const std::string status = "Recovered design: ";
+    const fs::path file = window->waitForStatus(status).substr(status.size());
+    EXPECT_EQ(tool({"recovered"}), file.stem().string() + '\n');
+    tool({"recovered", file.stem(), "back.shp"});
+    EXPECT_EQ(expectedOf(path("back.shp")), expectedOf(crashed));
+}
+
+TEST_F(DesktopTest, ReportReachesThePaper) {
+    const std::string ship = path("ships/Provost.shp"), pdf = path("report.pdf");
+    start();
+    window->load(ship);
+    window->waitUntilActive();
+    press("ctrl+p");
+    const Window dialog("Print");
+    dialog.click("text", "Output file:");
+    press("ctrl+a");
+    type(pdf);
+    dialog.waitForText("text", "Output file:", pdf);
+    dialog.click("push button", "Print");
+    dialog.waitUntilGone();
+    waitForFile("report.pdf", "%%EOF\n");
+    const auto oneBlank = [](const std::string& text) {
+        return std::regex_replace(text, std::regex("\\s+"), " ");
+    };
+    EXPECT_EQ(oneBlank(outputOf("pdftotext -layout " + pdf + " -")),
+              oneBlank(tool({"report", ship})));
 }

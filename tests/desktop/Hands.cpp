@@ -1,109 +1,71 @@
 #include "Hands.h"
 
+#include "runCommand.h"
+
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 
 namespace fleetwright {
 
 namespace {
 
-void xdotool(const std::string& arguments) {
-    if (std::system(("xdotool " + arguments).c_str()) != 0) {
-        throw std::runtime_error("xdotool " + arguments + " has failed");
-    }
-}
-
-/// The title of the window that the window manager gives the keyboard to.
-std::string activeTitle() {
-    const std::string title = outputOf("xdotool getactivewindow getwindowname");
-    return title.substr(0, title.find('\n'));
-}
-
-/// How many windows there are for the screen, which counts a dragged picture as one.
-auto windowCount() {
-    const std::string windows = outputOf("xdotool search --onlyvisible --class FleetWright");
-    return std::count(windows.begin(), windows.end(), '\n');
-}
+constexpr const char* outOfTheWay = " mousemove 0 0";
 
 std::string moveTo(int x, int y) {
     return "mousemove " + std::to_string(x) + ' ' + std::to_string(y) + ' ';
 }
 
-constexpr const char* outOfTheWay = " mousemove 0 0";
-
-Point middleOf(const Element& element) {
-    const Rectangle place = restingPlace(element);
-    return {place.left + place.width / 2, place.top + place.height / 2};
-}
-
-std::string moveTo(const Element& element) {
-    const Point middle = middleOf(element);
-    return moveTo(middle.x, middle.y);
-}
-
-}  // namespace
-
-std::string outputOf(const std::string& command) {
-    std::FILE* const pipe = popen((command + " 2>/dev/null").c_str(), "r");
-    char buffer[2000] = {};
-    const std::size_t count = std::fread(buffer, 1, sizeof buffer, pipe);
-    pclose(pipe);
-    return {buffer, count};
-}
-
-Rectangle restingPlace(const Element& element) {
+/// Moves to the middle of an element that has come to rest, or somewhere beside it: a window is
+/// still on its way when the program shows it already.
+std::string moveTo(const Element& element, int beside = 0) {
     Rectangle place;
     waitFor("\"" + element.name() + "\" to have its place", [&] {
         const Rectangle before = place;
         place = element.place();
         return place == before && place.width > 0 && element.is(ATSPI_STATE_SHOWING);
     });
-    return place;
+    return moveTo(place.left + place.width / 2 + beside, place.top + place.height / 2 + beside);
 }
 
-void click(const Element& element) {
-    xdotool(moveTo(element) + "click 1" + outOfTheWay);
+/// How many windows there are for the screen, which counts a dragged picture as one.
+auto windowCount() {
+    const std::string windows = outputOf("xdotool search --onlyvisible --class FleetWright");
+    return std::ranges::count(windows, '\n');
 }
 
-void rightClick(const Element& element) {
-    xdotool(moveTo(element) + "click 3" + outOfTheWay);
+}  // namespace
+
+std::string outputOf(const std::string& command) {
+    return runCommand("(exec 2>/dev/null; " + command + ')').output;
 }
 
-void doubleClick(const Element& element) {
-    xdotool(moveTo(element) + "click --repeat 2 --delay 10 1" + outOfTheWay);
+void xdotool(const std::string& arguments) {
+    if (const CommandResult result = runCommand("xdotool " + arguments); result.status != 0) {
+        throw std::runtime_error("xdotool " + arguments + ": " + result.output);
+    }
+}
+
+void click(const Element& element, const char* how) {
+    xdotool(moveTo(element) + "click " + how + outOfTheWay);
 }
 
 void pointAt(const Element& element) {
-    const Point middle = middleOf(element);
-    xdotool(moveTo(middle.x - 1, middle.y) + moveTo(middle.x, middle.y));
-}
-
-void clickToClose(const std::string& title) {
-    waitForKeyboard(title);
-    const Rectangle window = restingPlace(*windowOnScreen(title));
-    // The title is the window manager's, which puts this button into its right end.
-    constexpr int fromRight = 9, above = 10;
-    xdotool(moveTo(window.left + window.width - fromRight, window.top - above) + "click 1" +
-            outOfTheWay);
-}
-
-void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone) {
-    xdotool(moveTo(from.x, from.y) + "mousedown 1 " + moveTo(to.x, to.y));
-    waitFor(what, isDone);
-    xdotool(std::string("mouseup 1") + outOfTheWay);
+    xdotool(moveTo(element, -1) + moveTo(element));
 }
 
 void dragOnto(const Element& from, const Element& to) {
-    const Point start = middleOf(from), end = middleOf(to);
+    const std::string end = moveTo(to);
     const auto before = windowCount();
     constexpr int farEnough = 20;
-    xdotool(moveTo(start.x, start.y) + "mousedown 1 " +
-            moveTo(start.x + farEnough, start.y + farEnough));
+    xdotool(moveTo(from) + "mousedown 1 " + moveTo(from, farEnough));
     waitFor("the picture of what is dragged", [&] { return windowCount() > before; });
-    xdotool(moveTo(end.x, end.y) + "mouseup 1" + outOfTheWay);
+    xdotool(end + "mouseup 1" + outOfTheWay);
     waitFor("that picture to go", [&] { return windowCount() == before; });
+}
+
+std::string activeTitle() {
+    const std::string title = outputOf("xdotool getactivewindow getwindowname");
+    return title.substr(0, title.find('\n'));
 }
 
 void waitForKeyboard(const std::string& title) {
@@ -113,16 +75,17 @@ void waitForKeyboard(const std::string& title) {
     });
 }
 
-void press(const std::vector<std::string>& keys) {
-    std::string arguments = "key";
-    for (const std::string& key : keys) {
-        arguments += ' ' + key;
-    }
-    xdotool(arguments);
+void press(const std::string& keys) {
+    xdotool("key " + keys);
 }
 
 void type(const std::string& text) {
     xdotool("type --delay 1 '" + text + '\'');
+}
+
+void close(const std::string& title) {
+    waitForKeyboard(title);
+    press("alt+F4");
 }
 
 void chooseFile(const std::string& title, const std::filesystem::path& file) {
@@ -133,7 +96,7 @@ void chooseFile(const std::string& title, const std::filesystem::path& file) {
         const auto box = dialog ? dialog->find("text", "File name:") : std::nullopt;
         return box && box->text() == file.string();
     });
-    press({"Return"});
+    press("Return");
     waitFor('"' + title + "\" to go", [&] { return !windowOnScreen(title); });
 }
 

@@ -6,40 +6,35 @@
 
 #include <filesystem>
 #include <string>
-#include <vector>
 
 namespace fleetwright {
 
-/// Pixels of the screen.
-struct Point {
-    int x;
-    int y;
-};
-
-/// The place of an element that has come to rest: a window is still on its way when the program
-/// shows it already.
-Rectangle restingPlace(const Element& element);
-
-/// Acts on the middle of an element. Clicks take the pointer out of the way again, so that no tool
-/// tip comes up in front of the next thing.
-void click(const Element& element);
-void rightClick(const Element& element);
-void doubleClick(const Element& element);
-void pointAt(const Element& element);
-/// Clicks on the button in a window's title that closes it.
-void clickToClose(const std::string& title);
-/// Moves with the left button held down, and lets it go when what was wanted has come about.
-void drag(Point from, Point to, const std::string& what, const std::function<bool()>& isDone);
-/// Drags what an element stands for onto another element.
-void dragOnto(const Element& from, const Element& to);
 /// What a command prints that looks at the screen or acts on it.
 std::string outputOf(const std::string& command);
+/// Has xdotool act. Throws if it fails.
+void xdotool(const std::string& arguments);
+
+/// How the mouse is pressed.
+inline constexpr const char* leftOnce = "1";
+inline constexpr const char* leftTwice = "--repeat 2 --delay 10 1";
+inline constexpr const char* rightOnce = "3";
+
+/// Clicks on the middle of an element once it has come to rest, and takes the pointer out of the
+/// way again, so that no tool tip comes up in front of the next thing.
+void click(const Element& element, const char* how = leftOnce);
+void pointAt(const Element& element);
+/// Drags what an element stands for onto another element.
+void dragOnto(const Element& from, const Element& to);
+
+/// The title of the window that the window manager gives the keyboard to.
+std::string activeTitle();
 /// Waits until the keyboard is a window's, for the program and for the window manager.
 void waitForKeyboard(const std::string& title);
-/// Presses keys, one after the other, by their names as X knows them.
-void press(const std::vector<std::string>& keys);
-/// Types a text.
+/// Presses keys, one after the other, by their names as X knows them, with blanks between.
+void press(const std::string& keys);
 void type(const std::string& text);
+/// Has the window manager close a window once it has the keyboard.
+void close(const std::string& title);
 /// Types the path of a file into the dialog with this title, and takes it.
 void chooseFile(const std::string& title, const std::filesystem::path& file);
 

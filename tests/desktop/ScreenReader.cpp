@@ -34,21 +34,18 @@ bool mayHold(std::string_view whole, std::string_view part) {
                                : true;
 }
 
-void describe(const Element& element, int depth, std::string& text) {
-    const Rectangle place = element.place();
-    const std::string held = element.text();
-    text += std::string(static_cast<std::size_t>(2 * depth), ' ') + element.role() + " \"" +
-            element.name() + '"' + (held.empty() ? "" : " holds \"" + held + '"') + " at " +
-            std::to_string(place.left) + ',' + std::to_string(place.top) + ' ' +
-            std::to_string(place.width) + 'x' + std::to_string(place.height) +
-            (element.is(ATSPI_STATE_SHOWING) ? "" : " hidden") +
-            (element.is(ATSPI_STATE_FOCUSED) ? " focused" : "") +
-            (element.is(ATSPI_STATE_ACTIVE) ? " active" : "") +
-            (element.is(ATSPI_STATE_CHECKED) ? " checked" : "") +
-            (element.is(ATSPI_STATE_SELECTED) ? " selected" : "") +
-            (element.is(ATSPI_STATE_ENABLED) ? "" : " disabled") + '\n';
+void describe(const Element& element, const std::string& indent, std::string& text) {
+    constexpr std::pair<AtspiStateType, const char*> states[] = {
+        {ATSPI_STATE_SHOWING, "showing"}, {ATSPI_STATE_FOCUSED, "focused"},
+        {ATSPI_STATE_ACTIVE, "active"},   {ATSPI_STATE_CHECKED, "checked"},
+        {ATSPI_STATE_ENABLED, "enabled"}, {ATSPI_STATE_SELECTED, "selected"}};
+    text += indent + element.role() + " \"" + element.name() + "\" holds \"" + element.text() + '"';
+    for (const auto& [state, word] : states) {
+        text.append(element.is(state) ? " " : " not ").append(word);
+    }
+    text += '\n';
     for (const Element& child : element.children()) {
-        describe(child, depth + 1, text);
+        describe(child, indent + "  ", text);
     }
 }
 
@@ -109,20 +106,24 @@ std::vector<Element> Element::children() const {
     return all;
 }
 
-std::optional<Element> Element::find(std::string_view role, std::string_view name) const {
+std::optional<Element> Element::find(std::string_view role,
+                                     const std::function<bool(const Element&)>& isMeant) const {
     for (const Element& child : children()) {
         const std::string kind = child.role();
-        if (kind == role && (name.empty() || child.name() == name)) {
+        if (kind == role && isMeant(child)) {
             return child;
         }
-        if (!mayHold(kind, role)) {
-            continue;
-        }
-        if (std::optional<Element> found = child.find(role, name)) {
-            return found;
+        if (mayHold(kind, role)) {
+            if (std::optional<Element> found = child.find(role, isMeant)) {
+                return found;
+            }
         }
     }
     return std::nullopt;
+}
+
+std::optional<Element> Element::find(std::string_view role, std::string_view name) const {
+    return find(role, [&](const Element& each) { return each.name() == name; });
 }
 
 std::vector<std::string> Element::names(std::string_view role) const {
@@ -156,7 +157,7 @@ std::optional<Element> windowOnScreen(std::string_view title) {
 
 std::string describeScreen() {
     std::string text;
-    describe(desktop(), 0, text);
+    describe(desktop(), "", text);
     return text;
 }
 

@@ -36,8 +36,11 @@ public:
     bool is(AtspiStateType state) const;
     Rectangle place() const;
     std::vector<Element> children() const;
-    /// The first element inside this one with such a role and, unless empty, such a name.
-    std::optional<Element> find(std::string_view role, std::string_view name = {}) const;
+    /// The first element inside this one with such a role, and of which this is true or which has
+    /// this name.
+    std::optional<Element> find(std::string_view role,
+                                const std::function<bool(const Element&)>& isMeant) const;
+    std::optional<Element> find(std::string_view role, std::string_view name) const;
     /// The names of all elements with such a role right inside this one.
     std::vector<std::string> names(std::string_view role) const;
 

@@ -1,11 +1,6 @@
 // Sheets, from the list of maps to the file and back onto the screen, and a map of the user's own.
 
-#include "Hands.h"
-#include "MainWindow.h"
-#include "RunningProgram.h"
-#include "runTool.h"
-
-#include <gtest/gtest.h>
+#include "DesktopTest.h"
 
 #include <algorithm>
 
@@ -13,109 +8,83 @@ using namespace fleetwright;
 
 namespace {
 
-/// Draws the ship at hand on a map, saves that as "ssds/sheet.bmp", and holds it against what the
-/// command line tool draws of the ship's file.
-void drawOn(const std::string& map, const MainWindow& window, const TemporaryFolder& folder,
-            const std::string& ship) {
-    window.choose("Extras", "Create SSD");
-    const Window mapper("Create SSD");
-    mapper.tabTo("combo box", "Map");
-    press({"ctrl+a"});
-    type(map);
-    mapper.click("push button", "Draw It!");
-    waitFor("the sheet to be drawn",
-            [&] { return !mapper.get("push button", "Draw It!").is(ATSPI_STATE_ENABLED); });
-    mapper.click("push button", "Save It!");
-    chooseFile("Save As", folder.path() / "ssds" / "sheet");
-    mapper.waitUntilGone();
-    const std::string expected = folder.path() / "expected.bmp";
-    const ToolRun run = runTool(
-        folder.path(), {"--app", folder.path(), "sheet", ship, "--map", map, "-o", expected});
-    ASSERT_EQ(run.status, 0) << run.errors;
-    EXPECT_EQ(folder.read("ssds/sheet.bmp").substr(0, 2), "BM");
-    EXPECT_TRUE(folder.read("ssds/sheet.bmp") == folder.read("expected.bmp"));
-}
-
-/// A picture of which every pixel is the mark of a fire control: on the busiest machine its scan
-/// lasts until somebody cancels it.
-std::string manyMarks() {
-    constexpr int width = 900, height = 800;
-    std::string picture = "P6\n" + std::to_string(width) + ' ' + std::to_string(height) + "\n255\n";
-    for (int i = 0; i < width * height; ++i) {
-        picture.append("\xFF\0\0", 3);
+class SheetTest : public DesktopTest {
+protected:
+    void load() {
+        start();
+        window->load(ship);
     }
-    return picture;
-}
 
-std::string withoutReturns(std::string text) {
-    std::erase(text, '\r');
-    return text;
-}
+    /// Draws the ship on a map and saves that as "ssds/sheet.bmp"; the tool has to draw the same.
+    void drawOn(const std::string& map) {
+        window->choose("Extras", "Create SSD");
+        const Window mapper("Create SSD");
+        mapper.tabTo("combo box", "Map");
+        press("ctrl+a");
+        type(map);
+        mapper.click("push button", "Draw It!");
+        mapper.waitUntil("push button", "Draw It!", ATSPI_STATE_ENABLED, false);
+        mapper.click("push button", "Save It!");
+        chooseFile("Save As", path("ssds/sheet"));
+        mapper.waitUntilGone();
+        tool({"sheet", ship, "--map", map, "-o", path("expected.bmp")});
+        EXPECT_TRUE(program.folder().read("ssds/sheet.bmp").starts_with("BM"));
+        EXPECT_TRUE(program.folder().read("ssds/sheet.bmp") ==
+                    program.folder().read("expected.bmp"));
+    }
+
+    const std::string ship = path("ships/Provost.shp");
+};
 
 }  // namespace
 
-TEST(SheetTest, DrawnSavedAndViewed) {
-    RunningProgram program;
-    const TemporaryFolder& folder = program.folder();
-    const std::string ship = folder.path() / "ships" / "Provost.shp";
-    program.start();
-    const MainWindow window;
-    window.load(ship);
+TEST_F(SheetTest, DrawnSavedAndViewed) {
+    load();
+    const std::string maps = tool({"maps", ship});
+    drawOn(maps.substr(0, maps.find('\n')));
 
-    const std::string maps = runTool(folder.path(), {"--app", folder.path(), "maps", ship}).output;
-    const std::string map = maps.substr(0, maps.find('\n'));
-    ASSERT_FALSE(map.empty());
-    drawOn(map, window, folder, ship);
-
-    window.choose("Extras", "View SSD");
+    window->choose("Extras", "View SSD");
     const Window viewer("View SSD");
     const int emptyWidth = viewer.get("frame", "Sheet").place().width;
     viewer.click("push button", "Select File");
-    chooseFile("Open", folder.path() / "ssds" / "sheet.bmp");
-    waitFor("the sheet to be shown", [&] {
-        const Rectangle place = viewer.get("frame", "Sheet").place();
-        return place.width > emptyWidth;
-    });
+    chooseFile("Open", path("ssds/sheet.bmp"));
+    waitFor("the sheet to be shown",
+            [&] { return viewer.get("frame", "Sheet").place().width > emptyWidth; });
 }
 
-TEST(SheetTest, NewMapIsDrawnOnWithoutANewStart) {
-    RunningProgram program;
-    const TemporaryFolder& folder = program.folder();
-    const std::string many = folder.write("shipimages/many.ppm", manyMarks());
-    const std::string outline = folder.path() / "shipimages" / "Capital Carrier - Aerie.gif";
-    const std::string ship = folder.path() / "ships" / "Provost.shp";
-    program.start();
-    const MainWindow window;
-    window.load(ship);
-    window.choose("Extras", "Create SSD Map");
+TEST_F(SheetTest, NewMapIsDrawnOnWithoutANewStart) {
+    // Every pixel is the mark of a fire control: on the busiest machine its scan lasts until
+    // somebody cancels it.
+    std::string picture = "P6\n900 800\n255\n";
+    for (int i = 0; i < 900 * 800; ++i) {
+        picture.append("\xFF\0\0", 3);
+    }
+    program.folder().write("shipimages/many.ppm", picture);
+    const std::string outline = path("shipimages/Capital Carrier - Aerie.gif");
+    load();
+    window->choose("Extras", "Create SSD Map");
     const Window creator("SSD Map Creator");
-    const auto select = [&](const std::string& file) {
+    const auto scan = [&](const std::string& file) {
         creator.click("push button", "Select File");
         chooseFile("Open", file);
+        creator.click("push button", "Do It");
     };
-    const auto isReady = [&] {
-        return creator.get("push button", "Select File").is(ATSPI_STATE_ENABLED);
-    };
-    const auto waitForMap = [&](const std::string& text) {
-        waitFor("the map", [&] { return isReady() && creator.get("text", "Map").text() == text; });
-    };
-
-    select(many);
-    creator.click("push button", "Do It");
-    waitFor("the scan to be under way", [&] { return !isReady(); });
+    scan(path("shipimages/many.ppm"));
+    creator.waitUntil("push button", "Select File", ATSPI_STATE_ENABLED, false);
     creator.click("check box", "Cancel");
-    waitForMap("Operation Cancelled");
+    creator.waitForText("text", "Map", "Operation Cancelled");
+    creator.waitUntil("push button", "Select File", ATSPI_STATE_ENABLED);
 
-    select(outline);
-    creator.click("push button", "Do It");
-    const ToolRun scanned = runTool(folder.path(), {"scan", outline});
-    ASSERT_EQ(scanned.status, 0) << scanned.errors;
-    waitForMap(withoutReturns(scanned.output));
+    scan(outline);
+    std::string map = tool({"scan", outline});
+    std::erase(map, '\r');
+    creator.waitForText("text", "Map", map);
+    creator.waitUntil("push button", "Select File", ATSPI_STATE_ENABLED);
     creator.click("push button", "Save It");
-    chooseFile("Save As", folder.path() / "maps" / "0 New");
-    waitFor("the map to be saved", [&] { return !folder.read("maps/0 New.map").empty(); });
+    chooseFile("Save As", path("maps/0 New"));
+    waitForFile("maps/0 New.map", "IMAGE");
 
-    clickToClose("SSD Map Creator");
+    close("SSD Map Creator");
     creator.waitUntilGone();
-    drawOn("0 New", window, folder, ship);
+    drawOn("0 New");
 }

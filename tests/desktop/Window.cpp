@@ -1,6 +1,13 @@
 #include "Window.h"
 
 #include "Hands.h"
+#include "TemporaryFolder.h"
+#include "runTool.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <stdexcept>
 
 namespace fleetwright {
 
@@ -16,9 +23,31 @@ Element Window::get(const std::string& role, const std::string& name) const {
     return waitForElement(role + " \"" + name + '"', [&] { return window().find(role, name); });
 }
 
+Element Window::getIn(const std::string& part, const std::string& role,
+                      const std::string& name) const {
+    return waitForElement(role + " \"" + name + "\" in \"" + part + '"', [&] {
+        const Element all = window();
+        const auto panel = all.find("panel", part);
+        const auto whole = panel ? panel : all.find("tree", part);
+        return whole ? whole->find(role, name) : std::nullopt;
+    });
+}
+
 void Window::click(const std::string& role, const std::string& name) const {
     waitUntilActive();
     fleetwright::click(get(role, name));
+}
+
+void Window::waitUntil(const std::string& role, const std::string& name, AtspiStateType state,
+                       bool isSo) const {
+    fleetwright::waitFor(role + " \"" + name + "\" to change its state",
+                         [&] { return get(role, name).is(state) == isSo; });
+}
+
+void Window::waitForText(const std::string& role, const std::string& name,
+                         const std::string& text) const {
+    fleetwright::waitFor('"' + name + "\" to hold " + text,
+                         [&] { return get(role, name).text() == text; });
 }
 
 void Window::waitUntilActive() const {
@@ -26,16 +55,132 @@ void Window::waitUntilActive() const {
 }
 
 void Window::waitUntilGone() const {
-    waitFor('"' + m_title + "\" to go", [this] { return !windowOnScreen(m_title); });
+    fleetwright::waitFor('"' + m_title + "\" to go", [this] { return !windowOnScreen(m_title); });
 }
 
 void Window::tabTo(const std::string& role, const std::string& name) const {
-    const auto isThere = [&] { return get(role, name).is(ATSPI_STATE_FOCUSED); };
     constexpr int mostStops = 60;
-    for (int i = 0; i < mostStops && !isThere(); ++i) {
-        press({"Tab"});
+    for (int i = 0; i < mostStops && !get(role, name).is(ATSPI_STATE_FOCUSED); ++i) {
+        press("Tab");
     }
-    waitFor("the keyboard to come to \"" + name + '"', isThere);
+    waitUntil(role, name, ATSPI_STATE_FOCUSED);
+}
+
+namespace {
+
+/// The figures as the window calls them, and as the tool does.
+const std::map<std::string, std::string> figureNames = {
+    {"Mass", "mass"},
+    {"Cost", "cost"},
+    {"Damage points", "dp"},
+    {"Damage rows", "damRows"},
+    {"Damage control parties", "dcp"},
+    {"Fire controls", "fcs"},
+    {"Class", "class"},
+    {"Designation", "relSize"},
+};
+
+constexpr const char* massLeft = "Mass Left";
+
+std::string toText(const nlohmann::json& value) {
+    return value.is_string() ? value.get<std::string>() : value.dump();
+}
+
+std::string toText(const Shown& shown) {
+    std::string text;
+    for (const auto& [name, value] : shown) {
+        text.append("  ").append(name).append(": ").append(value).append("\n");
+    }
+    return text;
+}
+
+}  // namespace
+
+Design newDesign() {
+    return {{"Mass", "2"}, {"Thrust", "2"}, {"Type", "Warship"}, {"FTL", "Normal"}};
+}
+
+Shown expectedOf(const Design& design, bool isAutoMass) {
+    std::string text;
+    for (const auto& [name, value] : design) {
+        text.append(name).append(name.starts_with("System") ? ", " : ": ");
+        text.append(value).append("\n");
+    }
+    const TemporaryFolder folder;
+    return expectedOf(std::filesystem::path(folder.write("ship.shp", text)), isAutoMass);
+}
+
+Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass) {
+    std::vector<std::string> arguments = {"figures", shipFile};
+    if (isAutoMass) {
+        arguments.emplace_back("--auto-mass");
+    }
+    const ToolRun run = runTool("/", arguments);
+    if (run.status != 0) {
+        throw std::runtime_error("the tool: " + run.errors);
+    }
+    const nlohmann::json figures = nlohmann::json::parse(run.output);
+    Shown shown = {{massLeft, toText(figures.at("massLeft"))}};
+    for (const auto& [name, key] : figureNames) {
+        shown[name] = toText(figures.at(key));
+    }
+    for (const nlohmann::json& system : figures.at("systems")) {
+        shown["aboard: " + toText(system.at("name"))] = toText(system.at("amount"));
+    }
+    return shown;
+}
+
+Shown MainWindow::shown() const {
+    const Element all = window();
+    Shown shown;
+    for (const auto& [name, key] : figureNames) {
+        const auto figure = all.find("text", name);
+        shown[name] = figure ? figure->text() : "";
+    }
+    if (const auto mass = all.find("panel", "Mass")) {
+        // The number stands in the label behind the one that names it.
+        const std::vector<std::string> labels = mass->names("label");
+        const auto found = std::ranges::find(labels, massLeft);
+        shown[massLeft] = labels.end() - found < 2 ? "" : *(found + 1);
+    }
+    if (const auto rows = all.find("tree", "Systems aboard")) {
+        const std::vector<std::string> cells = rows->names("table cell");
+        for (std::size_t i = 0; i + 1 < cells.size(); i += 2) {
+            shown["aboard: " + cells[i]] = cells[i + 1];
+        }
+    }
+    return shown;
+}
+
+void MainWindow::waitFor(const Shown& expected) const {
+    try {
+        fleetwright::waitFor("the figures of the design", [&] { return shown() == expected; });
+    } catch (const std::exception& error) {
+        throw std::runtime_error("wanted:\n" + toText(expected) + "shown:\n" + toText(shown()) +
+                                 error.what());
+    }
+}
+
+void MainWindow::load(const std::filesystem::path& file) const {
+    waitUntilActive();
+    press("ctrl+l");
+    chooseFile("Open", file);
+    waitFor(expectedOf(file));
+}
+
+std::string MainWindow::waitForStatus(const std::string& begin) const {
+    return waitForElement("the status \"" + begin + '"',
+                          [&] {
+                              return window().find("label", [&](const Element& label) {
+                                  return label.name().starts_with(begin);
+                              });
+                          })
+        .name();
+}
+
+void MainWindow::choose(const std::string& menu, const std::string& entry) const {
+    click("menu item", menu);
+    fleetwright::click(get("menu item", entry));
 }
 
 }  // namespace fleetwright

@@ -6,9 +6,9 @@
 
 #include "Dice.h"
 #include "Hands.h"
-#include "MainWindow.h"
 #include "RunningProgram.h"
 #include "TextFile.h"
+#include "Window.h"
 
 #include <chrono>
 #include <cstdio>
@@ -68,7 +68,7 @@ private:
         return found;
     }
 
-    void xdotool(const std::string& arguments) {
+    void use(const std::string& arguments) {
         constexpr std::size_t longest = 60;
         m_trail.push_back(arguments);
         if (m_trail.size() > longest) {
@@ -84,7 +84,7 @@ private:
 
     void act() {
         if (m_dice.oneIn(4)) {
-            xdotool("key " + m_dice.pick(keys));
+            use("key " + m_dice.pick(keys));
             return;
         }
         std::vector<Element> windows = windowsOnScreen();
@@ -95,27 +95,26 @@ private:
         const Element& window = m_dice.pick(windows);
         const Rectangle place = window.place();
         if (window.find("text", "File name:") && m_dice.oneIn(2)) {
-            xdotool("type --delay 1 '" + (m_program.folder().path() / anyFile()).string() + "\n'");
+            use("type --delay 1 '" + (m_program.folder().path() / anyFile()).string() + "\n'");
             return;
         }
         const std::string somewhere = anywhereIn(place);
         switch (m_dice.below(8)) {
         case 0:
-            xdotool(somewhere + "click 3");
+            use(somewhere + "click 3");
             break;
         case 1:
-            xdotool(somewhere + "mousedown 1 " + anywhereIn(place) + anywhereIn(place) +
-                    "mouseup 1");
+            use(somewhere + "mousedown 1 " + anywhereIn(place) + anywhereIn(place) + "mouseup 1");
             break;
         case 2:
-            xdotool(somewhere + "click --repeat 3 " + (m_dice.oneIn(2) ? "4" : "5"));
+            use(somewhere + "click --repeat 3 " + (m_dice.oneIn(2) ? "4" : "5"));
             break;
         case 3:
         case 4:
-            xdotool(somewhere + "click --repeat 2 --delay 10 1");
+            use(somewhere + "click --repeat 2 --delay 10 1");
             break;
         default:
-            xdotool(somewhere + "click 1");
+            use(somewhere + "click 1");
         }
     }
 
@@ -128,7 +127,7 @@ private:
     /// Closes what is in front of the main window; false if the program has ended, which it has to
     /// do well, and is started anew.
     bool clearTheScreen() {
-        xdotool("mouseup 1 key Escape key Escape key Escape");
+        use("mouseup 1 key Escape key Escape key Escape");
         constexpr int mostWindows = 40;
         for (int i = 0; i < mostWindows; ++i) {
             if (!m_program.isRunning()) {
@@ -146,21 +145,15 @@ private:
                 return true;
             }
             // The window on top closes with one of these, or the one below it does.
-            xdotool("key Escape");
+            use("key Escape");
             for (const std::string& title : others) {
-                if (const auto window = windowOnScreen(title)) {
-                    closeByTitle(*window);
+                use("search --name '^" + title + "$' windowactivate");
+                if (activeTitle() != MainWindow::title) {
+                    use("key alt+F4");
                 }
             }
         }
         throw std::runtime_error("windows do not close:\n" + describeScreen());
-    }
-
-    void closeByTitle(const Element& window) {
-        const Rectangle place = window.place();
-        constexpr int fromRight = 9, above = 10;
-        xdotool("mousemove " + std::to_string(place.left + place.width - fromRight) + ' ' +
-                std::to_string(place.top - above) + " click 1 mousemove 0 0");
     }
 
     void look() {
@@ -174,7 +167,7 @@ private:
         const bool isRefused = design.find("Cloaking Field") != std::string::npos &&
                                design.find("Type: Warship") == std::string::npos;
         if (!isRefused) {
-            window.waitForShip(file);
+            window.waitFor(expectedOf(file));
         }
         const std::string name = window.get("text", "Ship name").text();
         if (!design.starts_with("Ship Name: " + name + "\r\n")) {
