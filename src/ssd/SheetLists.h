@@ -32,6 +32,8 @@ struct SheetLists {
     PointList lstFirecons;
     PointList lstDCP;
 
+    friend bool operator==(const SheetLists&, const SheetLists&) = default;
+
     /// Fills `lstShipWeap` from the list of systems aboard: the key of a row is the system's name,
     /// the second column the count. Returns how many pieces are no damage control parties. Throws
     /// NotANumberError or OverflowError for a count that is no 16-bit number.

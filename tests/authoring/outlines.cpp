@@ -1,8 +1,9 @@
 #include "outlines.h"
 
+#include "caseFile.h"
+
 #include <algorithm>
-#include <map>
-#include <sstream>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -10,17 +11,17 @@ namespace fleetwright {
 namespace {
 
 std::vector<std::uint32_t> rowOf(std::string_view letters) {
-    static const std::map<char, std::uint32_t> colours = {
-        {'R', 0xFF0000}, {'G', 0x00FF00}, {'B', 0x0000FF}, {'C', 0x00FFFF}, {'M', 0xFF00FF},
-        {'Y', 0xFFFF00}, {'#', 0x000000}, {'.', 0xFFFFFF}, {'r', 0xFE0000}, {'g', 0x01FF00},
-        {'b', 0x0001FF}, {'c', 0x00FFFE}, {'m', 0xFF01FF}, {'y', 0xFFFF01}, {'k', 0x000001}};
+    static constexpr std::string_view known = "RGBCMY#.rgbcmyk";
+    static constexpr std::uint32_t colours[] = {0xFF0000, 0x00FF00, 0x0000FF, 0x00FFFF, 0xFF00FF,
+                                                0xFFFF00, 0x000000, 0xFFFFFF, 0xFE0000, 0x01FF00,
+                                                0x0001FF, 0x00FFFE, 0xFF01FF, 0xFFFF01, 0x000001};
     std::vector<std::uint32_t> row;
     std::size_t count = 0;
     for (const char letter : letters) {
         if (letter >= '0' && letter <= '9') {
             count = 10 * count + static_cast<std::size_t>(letter - '0');
         } else {
-            row.insert(row.end(), std::max<std::size_t>(count, 1), colours.at(letter));
+            row.insert(row.end(), std::max<std::size_t>(count, 1), colours[known.find(letter)]);
             count = 0;
         }
     }
@@ -29,14 +30,13 @@ std::vector<std::uint32_t> rowOf(std::string_view letters) {
 
 }  // namespace
 
-Raster outlineOf(std::string_view rows) {
-    std::istringstream lines{std::string(rows)};
+Raster outlineOf(const std::string& rows) {
     std::vector<std::vector<std::uint32_t>> pixels;
     std::size_t width = 0;
-    for (std::string line; std::getline(lines, line);) {
+    for (const std::string& line : linesOf(rows)) {
         const std::size_t star = line.find('*');
         const std::size_t count = star == std::string::npos ? 1 : std::stoul(line);
-        pixels.insert(pixels.end(), count, rowOf(line.substr(star + 1)));
+        pixels.insert(pixels.end(), count, rowOf(std::string_view(line).substr(star + 1)));
         width = std::max(width, pixels.back().size());
     }
     Raster picture(static_cast<int>(width), static_cast<int>(pixels.size()));

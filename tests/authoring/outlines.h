@@ -3,7 +3,6 @@
 #include "Raster.h"
 
 #include <string>
-#include <string_view>
 
 namespace fleetwright {
 
@@ -11,6 +10,6 @@ namespace fleetwright {
 /// white, and a small letter is a mark's colour, or k black, one off in a channel. A number in
 /// front of a letter repeats the pixel, and one with * in front of a row repeats the row. Short
 /// rows end white.
-Raster outlineOf(std::string_view rows);
+Raster outlineOf(const std::string& rows);
 
 }  // namespace fleetwright

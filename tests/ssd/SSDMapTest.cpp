@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include <sys/stat.h>
 
 using namespace fleetwright;
@@ -17,37 +19,27 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string pointText(int x, int y) {
-    return ' ' + std::to_string(x) + ',' + std::to_string(y);
-}
-
-/// All that a map says.
+/// What a map says; the golden sheets hold its other points.
 std::string textOf(const SSDMap& map) {
-    std::string text = map.sDisplayName + ' ' + std::to_string(map.iMaxMass) +
-                       (map.sImgFile.empty() ? "" : " on ") +
-                       fs::path(map.sImgFile).filename().string() + "\ntrack" +
-                       pointText(map.getDAMPntX(), map.getDAMPntY()) + " ftl" +
-                       pointText(map.getFTLPntX(), map.getFTLPntY()) + " thrust" +
-                       pointText(map.getThrustPntX(), map.getThrustPntY()) + "\nweapons";
+    std::ostringstream text;
+    text << map.sDisplayName << ' ' << map.iMaxMass << ' '
+         << fs::path(map.sImgFile).filename().string() << "\ntrack " << map.getDAMPntX() << ','
+         << map.getDAMPntY() << "\nftl " << map.getFTLPntX() << ',' << map.getFTLPntY() << '\n';
     for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
-        text += pointText(map.getWeapPntX(i), map.getWeapPntY(i)) + ',' + map.getWeapPntArc(i);
+        text << "weapon " << map.getWeapPntX(i) << ',' << map.getWeapPntY(i) << ','
+             << map.getWeapPntArc(i) << '\n';
     }
-    text += "\nparties";
     for (std::int16_t i = 0; i < map.iDCPNDX; ++i) {
-        text += pointText(map.getDCPPntX(i), map.getDCPPntY(i));
+        text << "party " << map.getDCPPntX(i) << ',' << map.getDCPPntY(i) << '\n';
     }
-    text += "\nfire controls";
-    for (std::int16_t i = 0; i < map.iFIRECONNDX; ++i) {
-        text += pointText(map.getFIRECONPntX(i), map.getFIRECONPntY(i));
-    }
-    return text + '\n';
+    return text.str();
 }
 
 /// What a map's file says, or why it does not load, and what an author is told of it.
 std::string readAndChecked(std::string_view file) {
-    const MapFolder folder;
-    folder.writeFile("shipimages/Ship.gif", "");
-    folder.write("test", file);
+    const TemporaryFolder folder;
+    folder.write("shipimages/Ship.gif", "");
+    folder.write("maps/test.map", file);
     SSDMap map(folder.path());
     std::string text;
     try {
@@ -61,26 +53,6 @@ std::string readAndChecked(std::string_view file) {
     return text + textOf(checkMapFile(file, folder.path()));
 }
 
-/// The maps of a folder as a start finds them, and which of them a ship fits on.
-struct Scan {
-    explicit Scan(const MapFolder& folder) {
-        scanMaps(folder.path(), maps, largest,
-                 [this](const std::string& text) { shown += text + '\n'; });
-    }
-
-    std::string fitting(std::int32_t mass, std::int32_t systems) const {
-        std::string names;
-        for (const std::string& name : fittingMaps(maps, mass, systems)) {
-            names += name + ' ';
-        }
-        return names;
-    }
-
-    SSDMaps maps;
-    std::int16_t largest = 0;
-    std::string shown;
-};
-
 }  // namespace
 
 TEST(SSDMap, IsReadAndCheckedLineByLine) {
@@ -93,7 +65,7 @@ TEST(SSDMap, HoldsAsManyPointsAsItsCounts) {
     for (int i = 0; i < 32'767; ++i) {
         most += "DCP:(1,2)\n";
     }
-    const SSDMap map = MapFolder().map(most);
+    const SSDMap map = mapOf(most);
     EXPECT_EQ(map.getDCPPntY(32'766), 2);
     EXPECT_THROW(map.getDCPPntX(32'767), Error);
     EXPECT_THROW(map.getWeapPntArc(0), Error);
@@ -104,9 +76,9 @@ TEST(SSDMap, HoldsAsManyPointsAsItsCounts) {
 }
 
 TEST(SSDMap, FindsFilesWhateverTheCaseOfTheirNames) {
-    const MapFolder folder;
-    folder.writeFile("maps/Long Ship.MAP", "IMAGE: sub\\long.GIF\nSIZE: 7");
-    folder.writeFile("shipimages/Sub/Long.gif", "");
+    const TemporaryFolder folder;
+    folder.write("maps/Long Ship.MAP", "IMAGE: sub\\long.GIF\nSIZE: 7");
+    folder.write("shipimages/Sub/Long.gif", "");
     SSDMap map(folder.path());
     map.ImageFile("Long Ship");
     EXPECT_EQ(map.sImgFile, folder.path().string() + "/shipimages/SUB/LONG.GIF");
@@ -116,39 +88,46 @@ TEST(SSDMap, FindsFilesWhateverTheCaseOfTheirNames) {
     EXPECT_EQ(map.fileFault()->line, 0);
 }
 
-TEST(SSDMaps, AreScannedByNameAndFaultyOnesPassedOver) {
-    const MapFolder folder;
-    folder.write("beta", "SIZE: 36");
-    folder.write("Alpha", "SIZE: 18");
-    folder.write("broken", "SIZE: big");
-    folder.write("garbled", std::string("SIZE\0:\xFF\x1B\nDCP: \xFE\n", 16));
-    folder.write("Éclair", "SIZE: 5");
-    folder.write("éclair", "SIZE: 37");
-    for (const char* const name : {"Gamma.MAP", "notes.txt", "x.mapx", "folder.map/x"}) {
-        folder.writeFile(std::string("maps/") + name, "SIZE: 90");
+TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
+    const TemporaryFolder folder;
+    folder.write("maps/beta.map", "SIZE: 101\nWEAP: (1,2,F)\nWEAP: (1,2,X)");
+    folder.write("maps/Alpha.map", "SIZE: 120\nWEAP: (1,2,F)");
+    folder.write("maps/broken.map", "SIZE: big");
+    folder.write("maps/garbled.map", std::string("SIZE\0:\xFF\x1B\nDCP: \xFE\n", 16));
+    folder.write("maps/Éclair.map", "SIZE: 5");
+    for (const char* const name : {"éclair.map", "Gamma.MAP", "notes.txt", "x.mapx", "y.map/x"}) {
+        folder.write(std::string("maps/") + name, "SIZE: 7");
     }
     fs::create_symlink("nowhere", folder.path() / "maps/link.map");
     ASSERT_EQ(mkfifo((folder.path() / "maps/pipe.map").c_str(), 0600), 0);
-    Scan scan(folder);
-    EXPECT_EQ(scan.shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n"
-                          "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n");
-    EXPECT_EQ(scan.fitting(0, 0), "Alpha beta Gamma Éclair ");
-    EXPECT_EQ(scan.largest, 90);
-    EXPECT_EQ(scan.maps.at("éCLAIR")->iMaxMass, 5);
-    EXPECT_THROW(scan.maps.at("Eclair"), Error);
-    EXPECT_THROW(scan.maps.add(scan.maps.at("éclair")), Error);
-    EXPECT_EQ(Scan(MapFolder()).largest, 0);
-}
+    SSDMaps maps;
+    std::int16_t largest = 0;
+    std::string shown;
+    scanMaps(folder.path(), maps, largest, [&](const std::string& text) { shown += text + '\n'; });
+    EXPECT_EQ(shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n"
+                     "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n");
+    EXPECT_EQ(largest, 100);
+    const auto fitting = [&maps](std::int32_t mass, std::int32_t systems) {
+        std::string names;
+        for (const std::string& name : fittingMaps(maps, mass, systems)) {
+            names += name + ' ';
+        }
+        return names;
+    };
+    EXPECT_EQ(fitting(5, 0), "Alpha beta Gamma Éclair ");
+    EXPECT_EQ(fitting(101, 1), "Alpha beta ");
+    EXPECT_EQ(fitting(102, 1), "Alpha ");
+    EXPECT_EQ(fitting(101, 2), "beta ");
+    EXPECT_EQ(fitting(101, 3) + fitting(121, 0), "");
+    EXPECT_EQ(maps.at("éCLAIR")->iMaxMass, 5);
+    EXPECT_THROW(maps.at("Eclair"), Error);
+    EXPECT_THROW(maps.add(maps.at("éclair")), Error);
 
-TEST(SSDMaps, AreOfferedToShipsThatTheyHaveRoomFor) {
-    const MapFolder folder;
-    folder.write("b", "SIZE: 101\nWEAP: (1,2,F)\nWEAP: (1,2,X)");
-    folder.write("a", "SIZE: 120\nWEAP: (1,2,F)");
-    const Scan scan(folder);
-    EXPECT_EQ(scan.largest, 100);
-    EXPECT_EQ(scan.fitting(101, 1), "a b ");
-    EXPECT_EQ(scan.fitting(102, 1), "a ");
-    EXPECT_EQ(scan.fitting(101, 2), "b ");
-    EXPECT_EQ(scan.fitting(101, 3), "");
-    EXPECT_EQ(scan.fitting(121, 0), "");
+    const TemporaryFolder small;
+    small.write("maps/a.map", "SIZE: 36");
+    small.write("maps/b.map", "SIZE: 18");
+    largest = 0;
+    scanMaps(small.path(), maps, largest, [](const std::string&) {});
+    EXPECT_EQ(largest, 36);
+    EXPECT_TRUE(loadMaps(TemporaryFolder().path()).all().empty());
 }

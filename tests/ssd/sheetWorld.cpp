@@ -1,5 +1,11 @@
 #include "sheetWorld.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
 namespace fleetwright {
 
 const std::string_view arcCatalogue = "F,1,1,x,BEAM,F,f.gif\nFP,1,1,x,BEAM,FP,fp.gif\n"
@@ -9,20 +15,43 @@ const std::string_view arcCatalogue = "F,1,1,x,BEAM,F,f.gif\nFP,1,1,x,BEAM,FP,fp
                                       "Listed,1,1,x,BEAM,OF,listed.gif\n"
                                       "Damage Control Party,1,1,x,SYSTEMS,O,party.gif\n";
 
-SSDMap MapFolder::map(std::string_view text) const {
-    write("test", text);
-    SSDMap map(path());
+SSDMap mapOf(std::string_view text) {
+    const TemporaryFolder folder;
+    folder.write("maps/test.map", text);
+    SSDMap map(folder.path());
     map.ImageFile("test");
     return map;
 }
 
-std::vector<ListView::Row>
-rows(std::initializer_list<std::pair<const char*, const char*>> systems) {
-    std::vector<ListView::Row> rows;
-    for (const auto& [name, count] : systems) {
-        rows.push_back({.key = name, .text = name, .subItem = count});
+Raster box(int width, int height, std::uint32_t colour) {
+    Raster raster(width, height);
+    for (int y = 0; y < height; ++y) {
+        std::fill(raster.row(y).begin(), raster.row(y).end(), colour);
     }
-    return rows;
+    return raster;
+}
+
+std::string pictureOf(const Raster& raster) {
+    std::string text;
+    for (int y = 0; y < raster.height(); ++y) {
+        for (const std::uint32_t colour : raster.row(y)) {
+            text += colour == 0               ? '#'
+                    : colour == Raster::white ? '.'
+                                              : static_cast<char>('a' + colour % 26);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+void expectGolden(const Raster& raster, const std::string& name) {
+    const std::string actual = pictureOf(raster);
+    std::ifstream file(SOURCE_FOLDER "/tests/ssd/golden/" + name, std::ios::binary);
+    if (actual != std::string{std::istreambuf_iterator<char>(file), {}}) {
+        const std::string kept = testing::TempDir() + name;
+        std::ofstream(kept, std::ios::binary) << actual;
+        ADD_FAILURE() << name << " has changed; the new one is " << kept;
+    }
 }
 
 }  // namespace fleetwright

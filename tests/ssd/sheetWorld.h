@@ -1,43 +1,30 @@
 #pragma once
 
 #include "SSDMap.h"
+#include "SheetImages.h"
 #include "SheetLists.h"
 #include "TemporaryFolder.h"
-#include "drawSSD.h"
 #include "testShip.h"
 
-#include <initializer_list>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace fleetwright {
 
-/// An application folder with maps.
-class MapFolder {
-public:
-    const std::filesystem::path& path() const { return m_folder.path(); }
-    /// Writes the map file of this name, without its ending.
-    void write(const std::string& name, std::string_view text) const {
-        m_folder.write("maps/" + name + ".map", text);
-    }
-    void writeFile(const std::string& name, std::string_view text) const {
-        m_folder.write(name, text);
-    }
-    std::string read(const std::string& name) const { return m_folder.read(name); }
-    /// A map with this text, loaded.
-    SSDMap map(std::string_view text) const;
-
-private:
-    TemporaryFolder m_folder;
-};
+/// A map with this text, loaded.
+SSDMap mapOf(std::string_view text);
 
 /// A catalogue in which the name of a system is its arcs, "Hidden" and "Listed" are not painted,
 /// and there is a "Damage Control Party".
 extern const std::string_view arcCatalogue;
 
-/// Rows of the list of systems aboard.
-std::vector<ListView::Row> rows(std::initializer_list<std::pair<const char*, const char*>> systems);
+/// A picture of one colour.
+Raster box(int width, int height, std::uint32_t colour);
+
+/// A raster in letters: black '#', white '.', other colours a letter each.
+std::string pictureOf(const Raster& raster);
+
+/// Holds a picture against the one of this name in golden/.
+void expectGolden(const Raster& raster, const std::string& name);
 
 }  // namespace fleetwright

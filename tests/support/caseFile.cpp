@@ -4,6 +4,8 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <sstream>
 
 namespace fleetwright {
 
@@ -19,7 +21,7 @@ std::string withoutLastEnds(std::string text) {
 std::vector<Case> readCases(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     std::vector<Case> cases;
-    for (std::string line; std::getline(file, line);) {
+    for (const std::string& line : linesOf({std::istreambuf_iterator<char>(file), {}})) {
         if (line.starts_with("=== ")) {
             cases.push_back({.title = line.substr(4), .texts = {}});
         } else if (line.starts_with("--- ")) {
@@ -32,6 +34,15 @@ std::vector<Case> readCases(const std::filesystem::path& path) {
 }
 
 }  // namespace
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
 
 std::string Case::operator[](const std::string& name) const {
     for (const auto& [known, text] : texts) {

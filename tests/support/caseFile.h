@@ -16,6 +16,9 @@ struct Case {
     std::string operator[](const std::string& name) const;
 };
 
+/// The lines of a text.
+std::vector<std::string> linesOf(const std::string& text);
+
 /// Holds each case of a file below tests/ against what `act` makes of its texts:
 ///
 ///     === the title of a case
