@@ -11,10 +11,9 @@
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "drawnSheet.h"
-#include "folders.h"
 #include "frmMain.h"
 #include "inOrder.h"
-#include "keepFreedMemory.h"
+#include "paths.h"
 #include "qtImage.h"
 #include "sheetShip.h"
 
@@ -107,7 +106,6 @@ private:
 /// sheets are made of.
 struct SheetWorld {
     SheetWorld() {
-        keepFreedMemory();
         QtPictureFiles encoder;
         std::vector<std::string> drawable;
         for (const fs::path& ship : listFolder(startedFolder() / "ships", ".shp")) {

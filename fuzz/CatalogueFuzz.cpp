@@ -5,9 +5,10 @@
 #include "Error.h"
 #include "ShipClass.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
+#include "files.h"
 #include "require.h"
 #include "shipWords.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -5,7 +5,7 @@
 #include "formula_calculate.h"
 #include "require.h"
 #include "roundUpByText.h"
-#include "utf8.h"
+#include "text.h"
 
 #include <algorithm>
 #include <array>

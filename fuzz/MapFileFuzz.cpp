@@ -8,9 +8,9 @@
 #include "SheetPictures.h"
 #include "ShipClass.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
 #include "checkMapPlaces.h"
 #include "drawSSD.h"
+#include "files.h"
 #include "mapMarks.h"
 #include "require.h"
 

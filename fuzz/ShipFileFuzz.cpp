@@ -4,10 +4,10 @@
 #include "ShipClass.h"
 #include "ShipFileCheck.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
+#include "files.h"
 #include "require.h"
 #include "shipWords.h"
-#include "wholeNumber.h"
+#include "text.h"
 
 #include <cstdint>
 #include <map>

@@ -2,9 +2,10 @@
 
 #include "Error.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
 #include "explainShip.h"
+#include "files.h"
 #include "require.h"
+#include "text.h"
 
 #include <algorithm>
 #include <numeric>

@@ -7,11 +7,10 @@
 #include "PictureFiles.h"
 #include "SSDMap.h"
 #include "SSDMaps.h"
-#include "TextFile.h"
 #include "checkedArithmetic.h"
-#include "folders.h"
-#include "saveFile.h"
-#include "wholeNumber.h"
+#include "files.h"
+#include "paths.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cmath>

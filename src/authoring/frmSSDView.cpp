@@ -2,7 +2,7 @@
 
 #include "Desktop.h"
 #include "PictureFiles.h"
-#include "TextFile.h"
+#include "paths.h"
 
 namespace fleetwright {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Fault.h"
+#include "text.h"
 
 #include <filesystem>
 #include <stdexcept>

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -28,17 +27,6 @@ inline void sortByLine(std::vector<Fault>& faults) {
 inline std::string complaint(const std::string& file, const Fault& fault) {
     const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
     return file + ":" + line + " " + fault.text;
-}
-
-/// A piece of a file as the texts of faults show it: U+FFFD stands for a control character, for a
-/// NUL would cut the text off, and a terminal would obey the others.
-inline std::string quote(std::string_view piece) {
-    std::string text = "\"";
-    for (const char c : piece) {
-        const bool isControl = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
-        text += isControl ? "\xEF\xBF\xBD" : std::string(1, c);
-    }
-    return text + '"';
 }
 
 }  // namespace fleetwright

@@ -1,6 +1,7 @@
 #include "wholeNumber.h"
 
 #include "checkedArithmetic.h"
+#include "text.h"
 
 #include <algorithm>
 #include <limits>
@@ -33,14 +34,6 @@ bool roundsAwayFromZero(std::int64_t whole, std::string_view fraction) {
 }
 
 }  // namespace
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 std::int32_t wholeNumber(std::string_view text) {
     std::string_view rest = trimmed(text);

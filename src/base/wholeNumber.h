@@ -5,9 +5,6 @@
 
 namespace fleetwright {
 
-/// `text` without the blanks at both of its ends. Only the blank itself counts, no tab.
-std::string_view trimmed(std::string_view text);
-
 /// The whole number that `text` says: blanks around it, an optional sign, decimal digits with an
 /// optional fraction ("5.", ".5"), rounded to the nearest, ties to even. Exponents, separators
 /// and hexadecimal digits are no numbers. Independent of the locale.

@@ -1,7 +1,7 @@
 #include "ToolPictures.h"
 
-#include "TextFile.h"
 #include "bmpFile.h"
+#include "files.h"
 #include "loadPictures.h"
 #include "plainGif.h"
 

@@ -8,11 +8,11 @@
 #include "SSDMapCheck.h"
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
-#include "TextFile.h"
 #include "ToolPictures.h"
-#include "capitals.h"
 #include "checkMapPlaces.h"
-#include "folders.h"
+#include "files.h"
+#include "paths.h"
+#include "text.h"
 
 #include <cstdio>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "drawnSheet.h"
 
+#include "Desktop.h"
 #include "Error.h"
-#include "NoDesktop.h"
 #include "ShipOnScreen.h"
 #include "frmMain.h"
 #include "frmMapper.h"

@@ -1,7 +1,7 @@
 #include "RecoveryFolder.h"
-#include "TextFile.h"
 #include "commands.h"
-#include "saveFile.h"
+#include "files.h"
+#include "paths.h"
 
 #include <cstdio>
 

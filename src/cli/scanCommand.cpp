@@ -3,12 +3,11 @@
 #include "Error.h"
 #include "OutlineScan.h"
 #include "PictureFiles.h"
-#include "TextFile.h"
 #include "ToolPictures.h"
-#include "capitals.h"
-#include "folders.h"
+#include "files.h"
 #include "inOrder.h"
-#include "saveFile.h"
+#include "paths.h"
+#include "text.h"
 
 #include <cstdio>
 #include <map>

@@ -4,13 +4,11 @@
 #include "PictureCache.h"
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
-#include "TextFile.h"
 #include "ToolPictures.h"
 #include "capitals.h"
 #include "drawnSheet.h"
-#include "folders.h"
-#include "keepFreedMemory.h"
-#include "saveFile.h"
+#include "files.h"
+#include "paths.h"
 
 #include <map>
 #include <memory>
@@ -158,7 +156,6 @@ int runSheet(const Options& options) {
     if (!fs::is_directory(findFile(images))) {
         throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
     }
-    keepFreedMemory();
     ToolPictures pictures(options.programFolder);
     PictureCache cache(pictures);
     const SSDMaps maps = loadMaps(options.appFolder);

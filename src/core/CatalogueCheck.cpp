@@ -1,9 +1,8 @@
 #include "CatalogueCheck.h"
 
 #include "Catalogue.h"
-#include "capitals.h"
 #include "formulaFault.h"
-#include "wholeNumber.h"
+#include "text.h"
 
 #include <algorithm>
 #include <map>

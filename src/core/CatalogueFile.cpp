@@ -1,8 +1,9 @@
 #include "CatalogueFile.h"
 
 #include "FileStamp.h"
-#include "TextFile.h"
+#include "files.h"
 #include "strfcns.h"
+#include "text.h"
 
 #include <mutex>
 #include <optional>

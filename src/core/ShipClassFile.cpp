@@ -3,11 +3,11 @@
 #include "Error.h"
 #include "ShipFileFaults.h"
 #include "ShipFileLine.h"
-#include "TextFile.h"
 #include "designWords.h"
-#include "saveFile.h"
+#include "files.h"
+#include "paths.h"
 #include "strfcns.h"
-#include "utf8.h"
+#include "text.h"
 #include "wholeNumber.h"
 
 #include <algorithm>

@@ -4,8 +4,8 @@
 #include "ShipClass.h"
 #include "ShipFileFaults.h"
 #include "ShipFileLine.h"
-#include "TextFile.h"
 #include "designWords.h"
+#include "text.h"
 #include "wholeNumber.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 // Faults of ship files that more than one reader finds, in the words of all of them.
 
 #include "Fault.h"
+#include "text.h"
 
 #include <string>
 #include <string_view>

@@ -1,8 +1,7 @@
 #include "ShipFileLine.h"
 
 #include "strfcns.h"
-#include "utf8.h"
-#include "wholeNumber.h"
+#include "text.h"
 
 #include <array>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "designWords.h"
 
 #include "HullRules.h"
-#include "capitals.h"
+#include "text.h"
 
 #include <array>
 

@@ -1,7 +1,6 @@
 #include "strfcns.h"
 
-#include "capitals.h"
-#include "utf8.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,10 +1,9 @@
 #include "RecoveryFolder.h"
 
 #include "Error.h"
-#include "folders.h"
-#include "saveFile.h"
-#include "userDataFolder.h"
-#include "utf8.h"
+#include "files.h"
+#include "paths.h"
+#include "text.h"
 
 #include <algorithm>
 #include <string_view>

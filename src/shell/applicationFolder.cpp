@@ -1,7 +1,7 @@
 #include "applicationFolder.h"
 
+#include "paths.h"
 #include "refreshUserFolder.h"
-#include "userDataFolder.h"
 
 namespace fleetwright {
 

@@ -4,7 +4,7 @@
 #include "Globals.h"
 #include "Programs.h"
 #include "Registry.h"
-#include "TextFile.h"
+#include "paths.h"
 
 #include <cstdio>
 #include <exception>

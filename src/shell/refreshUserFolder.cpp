@@ -1,8 +1,8 @@
 #include "refreshUserFolder.h"
 
 #include "Error.h"
-#include "TextFile.h"
-#include "saveFile.h"
+#include "files.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstdint>

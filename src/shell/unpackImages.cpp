@@ -2,8 +2,7 @@
 
 #include "Error.h"
 #include "SheetPictures.h"
-#include "TextFile.h"
-#include "saveFile.h"
+#include "files.h"
 
 #include <chrono>
 #include <random>

@@ -2,7 +2,7 @@
 
 #include "Error.h"
 #include "SheetFont.h"
-#include "utf8.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "SSDMap.h"
 
-#include "TextFile.h"
-#include "capitals.h"
 #include "checkedArithmetic.h"
-#include "folders.h"
+#include "files.h"
+#include "paths.h"
+#include "text.h"
 
 #include <algorithm>
 

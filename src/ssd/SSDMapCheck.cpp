@@ -2,7 +2,8 @@
 
 #include "Error.h"
 #include "SSDMap.h"
-#include "folders.h"
+#include "paths.h"
+#include "text.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,10 +1,9 @@
 #include "SSDMapLine.h"
 
 #include "Error.h"
-#include "capitals.h"
 #include "checkedArithmetic.h"
 #include "strfcns.h"
-#include "utf8.h"
+#include "text.h"
 #include "wholeNumber.h"
 
 #include <algorithm>

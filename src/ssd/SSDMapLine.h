@@ -2,7 +2,7 @@
 
 // The lines of a map file: the one place that knows its key words and how a line is taken apart.
 
-#include "TextFile.h"
+#include "text.h"
 
 #include <array>
 #include <cstdint>

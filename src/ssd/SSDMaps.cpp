@@ -1,8 +1,8 @@
 #include "SSDMaps.h"
 
 #include "HullRules.h"
-#include "capitals.h"
-#include "folders.h"
+#include "paths.h"
+#include "text.h"
 
 #include <algorithm>
 

@@ -5,8 +5,7 @@
 #include "PictureFiles.h"
 #include "SheetPictures.h"
 #include "ShipClass.h"
-#include "TextFile.h"
-#include "folders.h"
+#include "paths.h"
 
 #include <map>
 #include <string>

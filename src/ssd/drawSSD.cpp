@@ -6,6 +6,7 @@
 #include "SheetPictures.h"
 #include "ShipClass.h"
 #include "checkedArithmetic.h"
+#include "text.h"
 #include "wholeNumber.h"
 
 #include <cstddef>

@@ -5,10 +5,9 @@
 #include "PictureFiles.h"
 #include "RasterSheet.h"
 #include "ShipClass.h"
-#include "TextFile.h"
 #include "checkedArithmetic.h"
-#include "folders.h"
-#include "saveFile.h"
+#include "files.h"
+#include "paths.h"
 
 #include <algorithm>
 

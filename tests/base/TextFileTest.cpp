@@ -1,9 +1,8 @@
-#include "TextFile.h"
+#include "files.h"
+#include "text.h"
 
 #include "Error.h"
 #include "TemporaryFolder.h"
-#include "capitals.h"
-#include "utf8.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "saveFile.h"
+#include "files.h"
 
 #include "Error.h"
 #include "TemporaryFolder.h"

@@ -1,7 +1,7 @@
 #include "CatalogueCheck.h"
 
-#include "TextFile.h"
 #include "faults.h"
+#include "files.h"
 
 #include <gtest/gtest.h>
 

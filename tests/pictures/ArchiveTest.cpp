@@ -1,9 +1,8 @@
 // The archive of the pictures, and the commands that unpack it and look at what it unpacks.
 
 #include "TemporaryFolder.h"
-#include "TextFile.h"
 #include "faults.h"
-#include "folders.h"
+#include "files.h"
 #include "runCommand.h"
 #include "unpackFiles.h"
 

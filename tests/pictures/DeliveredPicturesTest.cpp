@@ -4,8 +4,8 @@
 #include "HullRules.h"
 #include "SheetPictures.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
-#include "folders.h"
+#include "files.h"
+#include "paths.h"
 #include "runCommand.h"
 
 #include <QImageReader>

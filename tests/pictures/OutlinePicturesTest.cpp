@@ -4,9 +4,9 @@
 #include "OutlineMarks.h"
 #include "QtPictureFiles.h"
 #include "ShipClass.h"
-#include "TextFile.h"
 #include "checkMapPlaces.h"
-#include "folders.h"
+#include "files.h"
+#include "paths.h"
 
 #include <gtest/gtest.h>
 

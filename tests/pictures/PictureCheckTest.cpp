@@ -3,8 +3,8 @@
 #include "QtPictureFiles.h"
 #include "SheetPictures.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
 #include "faults.h"
+#include "files.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "QtPictureFiles.h"
 #include "TemporaryFolder.h"
-#include "TextFile.h"
 #include "bmpFile.h"
-#include "folders.h"
+#include "files.h"
+#include "paths.h"
 #include "plainGif.h"
 #include "qtImage.h"
 

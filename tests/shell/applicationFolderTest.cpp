@@ -3,7 +3,7 @@
 #include "Error.h"
 #include "TemporaryFolder.h"
 #include "faults.h"
-#include "userDataFolder.h"
+#include "paths.h"
 
 #include <gtest/gtest.h>
 

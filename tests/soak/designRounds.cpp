@@ -5,10 +5,10 @@
 
 #include "PictureCache.h"
 #include "SSDMaps.h"
-#include "TextFile.h"
 #include "ToolPictures.h"
-#include "folders.h"
+#include "files.h"
 #include "frmMapper.h"
+#include "paths.h"
 #include "sheetShip.h"
 #include "testWindow.h"
 

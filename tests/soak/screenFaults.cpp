@@ -1,7 +1,7 @@
 #include "screenFaults.h"
 
 #include "Error.h"
-#include "TextFile.h"
+#include "files.h"
 #include "wholeNumber.h"
 
 #include <algorithm>

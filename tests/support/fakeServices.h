@@ -3,8 +3,8 @@
 // Services of a desktop that exist in memory only. Whoever includes this links `platform`.
 
 #include "Clock.h"
+#include "Desktop.h"
 #include "Error.h"
-#include "NoDesktop.h"
 #include "PictureFiles.h"
 #include "SettingsStore.h"
 

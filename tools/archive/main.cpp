@@ -2,7 +2,7 @@
 // current folder.
 
 #include "Error.h"
-#include "fileSizeLimit.h"
+#include "files.h"
 #include "unpackFiles.h"
 
 #include <cstdio>

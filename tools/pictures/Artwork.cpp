@@ -1,7 +1,7 @@
 #include "Artwork.h"
 
 #include "Error.h"
-#include "TextFile.h"
+#include "files.h"
 
 #include <QStringList>
 #include <QSvgRenderer>

@@ -1,7 +1,8 @@
 #include "Lettering.h"
 
 #include "Error.h"
-#include "TextFile.h"
+#include "files.h"
+#include "text.h"
 
 #include <cctype>
 #include <cstring>

@@ -2,8 +2,8 @@
 
 #include "Error.h"
 #include "SheetPictures.h"
-#include "TextFile.h"
 #include "drawing.h"
+#include "files.h"
 
 #include <QStringList>
 #include <QXmlStreamReader>

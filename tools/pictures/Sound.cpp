@@ -1,7 +1,8 @@
 #include "Sound.h"
 
 #include "Error.h"
-#include "TextFile.h"
+#include "files.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cmath>

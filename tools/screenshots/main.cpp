@@ -13,14 +13,14 @@
 #include "ShipOnScreen.h"
 #include "SilentServices.h"
 #include "drawnSheet.h"
-#include "folders.h"
+#include "files.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "frmMapper.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
-#include "saveFile.h"
+#include "paths.h"
 #include "sheetShip.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "formulaFault.h"
 
 #include "FormulaReader.h"
-#include "utf8.h"
+#include "text.h"
 
 #include <algorithm>
 

@@ -1,9 +1,21 @@
 #pragma once
 
+// Reading and saving whole files.
+
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace fleetwright {
+
+/// The contents of a file, byte for byte. Throws FileError, also for a file so large that it is
+/// none of ours.
+std::string readBytes(const std::filesystem::path& file);
+
+/// The contents of a text file as UTF-8. A byte order mark is passed over, and a file that is
+/// not valid UTF-8 is taken as Windows-1252, so that old files keep their accents.
+/// Throws FileError as `readBytes` does.
+std::string readTextFile(const std::filesystem::path& file);
 
 /// Writes `contents` to `target`: the one way in which this program saves a file.
 ///
@@ -17,5 +29,9 @@ namespace fleetwright {
 ///
 /// Throws FileError, with the target as it was.
 void saveFile(const std::filesystem::path& target, std::string_view contents);
+
+/// Makes a write beyond the user's limit on the size of files fail as one on a full disk does. Else
+/// it would end the program. For the beginning of `main`.
+void letFileSizeLimitFail();
 
 }  // namespace fleetwright

@@ -1,6 +1,6 @@
 #include "PictureCache.h"
 
-#include "folders.h"
+#include "paths.h"
 
 #include <system_error>
 

@@ -4,8 +4,8 @@
 #include "Error.h"
 #include "PictureFiles.h"
 #include "SheetPictures.h"
-#include "TextFile.h"
-#include "capitals.h"
+#include "files.h"
+#include "text.h"
 
 #include <algorithm>
 #include <array>

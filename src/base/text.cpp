@@ -1,5 +1,6 @@
-#include "utf8.h"
+#include "text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -59,6 +60,46 @@ constexpr std::array<std::uint16_t, 32> windows1252 = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+/// A letter of Windows-1252 that is not of ASCII.
+struct Letter {
+    std::string_view small;
+    std::string_view capital;
+};
+
+constexpr std::array<Letter, 34> letters = {{
+    {"à", "À"}, {"á", "Á"}, {"â", "Â"}, {"ã", "Ã"}, {"ä", "Ä"}, {"å", "Å"}, {"æ", "Æ"},
+    {"ç", "Ç"}, {"è", "È"}, {"é", "É"}, {"ê", "Ê"}, {"ë", "Ë"}, {"ì", "Ì"}, {"í", "Í"},
+    {"î", "Î"}, {"ï", "Ï"}, {"ð", "Ð"}, {"ñ", "Ñ"}, {"ò", "Ò"}, {"ó", "Ó"}, {"ô", "Ô"},
+    {"õ", "Õ"}, {"ö", "Ö"}, {"ø", "Ø"}, {"ù", "Ù"}, {"ú", "Ú"}, {"û", "Û"}, {"ü", "Ü"},
+    {"ý", "Ý"}, {"þ", "Þ"}, {"ÿ", "Ÿ"}, {"š", "Š"}, {"œ", "Œ"}, {"ž", "Ž"},
+}};
+
+/// `text` with letters of one case as they are in the other. `firstOfAscii` is the "a" of the
+/// former.
+std::string changeCase(std::string_view text, char firstOfAscii, std::string_view Letter::*from,
+                       std::string_view Letter::*to) {
+    constexpr unsigned char caseBit = 0x20;
+    std::string changed;
+    changed.reserve(text.size());
+    while (!text.empty()) {
+        std::string_view character = text.substr(0, characterLength(text));
+        text.remove_prefix(character.size());
+        const char lead = character.front();
+        if (lead >= firstOfAscii && lead <= firstOfAscii + ('z' - 'a')) {
+            changed += static_cast<char>(lead ^ caseBit);
+            continue;
+        }
+        if (character.size() == 2) {
+            const auto found =
+                std::find_if(letters.begin(), letters.end(),
+                             [&](const Letter& letter) { return letter.*from == character; });
+            character = found == letters.end() ? character : (*found).*to;
+        }
+        changed += character;
+    }
+    return changed;
+}
 
 }  // namespace
 
@@ -140,6 +181,52 @@ std::string windows1252ToUtf8(std::string_view bytes) {
         appendCharacter(text, isTabled ? windows1252[code - 0x80U] : code);
     }
     return text;
+}
+
+std::string toCapitals(std::string_view text) {
+    return changeCase(text, 'a', &Letter::small, &Letter::capital);
+}
+
+std::string toSmallLetters(std::string_view text) {
+    return changeCase(text, 'A', &Letter::capital, &Letter::small);
+}
+
+std::string_view trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string quote(std::string_view piece) {
+    std::string text = "\"";
+    for (const char c : piece) {
+        const bool isControl = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+        text += isControl ? "\xEF\xBF\xBD" : std::string(1, c);
+    }
+    return text + '"';
+}
+
+bool LineReader::next(std::string_view& line) {
+    if (m_at == m_text.size()) {
+        return false;
+    }
+    // Each kind of end is looked for once and remembered until the reading has passed it, so that
+    // a text without one of them is not searched for it at every line.
+    const auto find = [this](char end, std::size_t& place) {
+        if (m_lineNumber == 0 || place < m_at) {
+            place = std::min(m_text.find(end, m_at), m_text.size());
+        }
+    };
+    find('\n', m_lineFeed);
+    find('\r', m_carriageReturn);
+    ++m_lineNumber;
+    const std::size_t end = std::min(m_lineFeed, m_carriageReturn);
+    line = m_text.substr(m_at, end - m_at);
+    const bool isCrLf = m_lineFeed == end + 1 && m_carriageReturn == end;
+    m_at = std::min(end + (isCrLf ? 2 : 1), m_text.size());
+    return true;
 }
 
 }  // namespace fleetwright

@@ -1,11 +1,17 @@
-#include "folders.h"
+#include "paths.h"
 
 #include "Error.h"
-#include "capitals.h"
+#include "text.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <system_error>
 #include <utility>
+
+#if __has_include(<pwd.h>)
+#include <pwd.h>
+#include <unistd.h>
+#endif
 
 namespace fleetwright {
 
@@ -32,11 +38,34 @@ fs::path findEntry(const fs::path& folder, const fs::path& name) {
     return found.empty() ? found : folder / found;
 }
 
+fs::path variable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? fs::path() : fs::path(value);
+}
+
+fs::path homeFolder() {
+    fs::path home = variable("HOME");
+#if __has_include(<pwd.h>)
+    if (home.empty()) {
+        const passwd* const user = getpwuid(getuid());
+        home = user == nullptr ? fs::path() : fs::path(user->pw_dir);
+    }
+#endif
+    if (home.empty()) {
+        throw FileError("~", "the user has no home folder");
+    }
+    return home;
+}
+
 }  // namespace
 
 std::string pathText(const fs::path& path) {
     const std::u8string text = path.u8string();
     return {text.begin(), text.end()};
+}
+
+fs::path nativePath(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending) {
@@ -87,6 +116,22 @@ fs::path findFile(const fs::path& file) {
         }
     }
     return found;
+}
+
+fs::path userDataFolder() {
+    constexpr const char* ours = "FleetWright";
+    const fs::path dataHome = variable("XDG_DATA_HOME");
+    // The desktop's rule: a relative path there counts for nothing.
+    return dataHome.is_absolute() ? dataHome / ours : homeFolder() / ".local" / "share" / ours;
+}
+
+fs::path executableFolder(const char* argv0) {
+    std::error_code error;
+    fs::path executable = fs::read_symlink("/proc/self/exe", error);
+    if (error) {
+        executable = fs::absolute(argv0, error);
+    }
+    return executable.parent_path();
 }
 
 }  // namespace fleetwright

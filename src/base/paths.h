@@ -1,7 +1,7 @@
 #pragma once
 
-// File names as the program's formats take them: they count without regard to case, also where
-// the file system tells cases apart.
+// Paths, and the folders that the program knows. File names count without regard to case, also
+// where the file system tells cases apart.
 
 #include <filesystem>
 #include <string>
@@ -12,6 +12,9 @@ namespace fleetwright {
 
 /// A path as the program keeps paths in texts: in UTF-8.
 std::string pathText(const std::filesystem::path& path);
+
+/// The path that such a text means.
+std::filesystem::path nativePath(std::string_view utf8);
 
 /// The files of a folder, but no folders, whose names end in `ending` without regard to case; by
 /// name without regard to case. A folder that is not there has none. Throws FileError if it cannot
@@ -25,5 +28,14 @@ void makeFolder(const std::filesystem::path& folder);
 /// What stands under this path: the path itself if there is such an entry, else the first one by
 /// name whose path differs from it only in case. The path itself if there is none at all.
 std::filesystem::path findFile(const std::filesystem::path& file);
+
+/// Where the program keeps what belongs to the user: the folder "FleetWright" in the desktop's
+/// folder for such data, which is $XDG_DATA_HOME or else "~/.local/share". It need not exist yet.
+/// Throws FileError if the user has no home.
+std::filesystem::path userDataFolder();
+
+/// The folder of the running program. `argv0`, the name that it was called by, serves where the
+/// system does not tell.
+std::filesystem::path executableFolder(const char* argv0);
 
 }  // namespace fleetwright

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Desktop.h"
 #include "Globals.h"
-#include "NoDesktop.h"
 #include "Printer.h"
 #include "SettingsStore.h"
 #include "StartUpProgress.h"
