@@ -1,10 +1,9 @@
 #include "Options.h"
 
 #include "CommandRow.h"
-#include "TextFile.h"
 #include "applicationFolder.h"
-#include "executableFolder.h"
 #include "helpText.h"
+#include "paths.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,6 +1,6 @@
 #include "CommandRow.h"
 #include "Error.h"
-#include "fileSizeLimit.h"
+#include "files.h"
 #include "helpText.h"
 
 #include <cstdio>

@@ -4,8 +4,8 @@
 //     cli-texts completion TEMPLATE FILE   what lets bash complete the words of a command line
 
 #include "CommandRow.h"
-#include "TextFile.h"
-#include "saveFile.h"
+#include "files.h"
+#include "paths.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -5,10 +5,10 @@
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
-#include "capitals.h"
 #include "drawnSheet.h"
 #include "files.h"
 #include "paths.h"
+#include "text.h"
 
 #include <map>
 #include <memory>

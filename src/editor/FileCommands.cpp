@@ -5,8 +5,8 @@
 #include "Printer.h"
 #include "RecoveryPanel.h"
 #include "ReportPrinter.h"
-#include "TextFile.h"
 #include "clsMRUFiles.h"
+#include "paths.h"
 #include "showFileError.h"
 
 namespace fleetwright {

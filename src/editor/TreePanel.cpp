@@ -4,27 +4,11 @@
 #include "PictureFiles.h"
 #include "StartUpProgress.h"
 #include "SystemsPanel.h"
-#include "TextFile.h"
-#include "capitals.h"
 #include "explainShip.h"
-#include "folders.h"
-
-#include <algorithm>
-#include <cctype>
+#include "paths.h"
+#include "text.h"
 
 namespace fleetwright {
-
-namespace {
-
-/// A root's key as it stands in the names of its pictures.
-std::string smallLetters(std::string_view key) {
-    std::string small(key);
-    std::transform(small.begin(), small.end(), small.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return small;
-}
-
-}  // namespace
 
 TreePanel::TreePanel(const PanelContext& context, MenuEntry& mnuAddWeaps, SystemsPanel& aboard,
                      Handler collapsed)
@@ -45,7 +29,7 @@ Button TreePanel::button(const std::string& name, const std::string& root,
     return Button(form(),
                   {.name = name,
                    .place = {left, top, 645, 540},
-                   .picture = "button-" + smallLetters(root),
+                   .picture = "button-" + toSmallLetters(root),
                    .toolTip = spoken,
                    .accessibleName = spoken},
                   [this, root] { toggleCategory(root); });
@@ -66,7 +50,7 @@ void TreePanel::addRoots() {
 void TreePanel::LoadWeaponTree() {
     PictureFiles& pictures = services().pictures;
     for (const std::string_view root : catalogueRoots) {
-        ilWeapons.add(std::string(root), pictures.builtIn("root-" + smallLetters(root) + ".gif"));
+        ilWeapons.add(std::string(root), pictures.builtIn("root-" + toSmallLetters(root) + ".gif"));
     }
     ilWeapons.add("BLANK", pictures.builtIn("root-blank.gif"));  // sheets are covered with it
     const std::shared_ptr<const CatalogueText> catalogue = services().catalogueFile.read();

@@ -7,8 +7,8 @@
 #include "Dice.h"
 #include "Hands.h"
 #include "RunningProgram.h"
-#include "TextFile.h"
 #include "Window.h"
+#include "files.h"
 
 #include <chrono>
 #include <cstdio>
