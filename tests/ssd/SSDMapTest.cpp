@@ -22,7 +22,7 @@ namespace {
 /// What a map says; the golden sheets hold its other points.
 std::string textOf(const SSDMap& map) {
     std::ostringstream text;
-    text << map.sDisplayName << ' ' << map.iMaxMass << ' '
+    text << map.sDisplayName << ' ' << map.iMaxMass << ':'
          << fs::path(map.sImgFile).filename().string() << "\ntrack " << map.getDAMPntX() << ','
          << map.getDAMPntY() << "\nftl " << map.getFTLPntX() << ',' << map.getFTLPntY() << '\n';
     for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
