@@ -122,12 +122,5 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
     EXPECT_EQ(maps.at("éCLAIR")->iMaxMass, 5);
     EXPECT_THROW(maps.at("Eclair"), Error);
     EXPECT_THROW(maps.add(maps.at("éclair")), Error);
-
-    const TemporaryFolder small;
-    small.write("maps/a.map", "SIZE: 36");
-    small.write("maps/b.map", "SIZE: 18");
-    largest = 0;
-    scanMaps(small.path(), maps, largest, [](const std::string&) {});
-    EXPECT_EQ(largest, 36);
     EXPECT_TRUE(loadMaps(TemporaryFolder().path()).all().empty());
 }

@@ -31,10 +31,8 @@ public:
 
     /// Hands out pictures that the log calls by their names, those of systems in brackets.
     SheetImages images() {
-        return {.file = [this](std::string_view name) { return find(std::string(name)); },
-                .system = [this](std::string_view name) -> const Raster& {
-                    return find('[' + std::string(name) + ']');
-                }};
+        return {[this](auto name) { return find(std::string(name)); },
+                [this](auto name) -> const Raster& { return find('[' + std::string(name) + ']'); }};
     }
 
     void setPicture(const Raster&) override { log << "picture\n"; }
