@@ -21,7 +21,7 @@ DesignModel DesignModel::of(const ShipClass& ship) {
 
 std::optional<std::string> DesignModel::figures(const ShipServices& services) const {
     ShipClass ship(services);
-    ShipClass::State state = ship.state();
+    ShipState state = ship.state();
     state.hull = hull;
     for (std::size_t record = 0; record < amounts.size(); ++record) {
         const std::int64_t amount = amounts[record];

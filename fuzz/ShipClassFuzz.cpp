@@ -95,7 +95,7 @@ private:
     std::unique_ptr<ShipClass> m_ship;
     std::vector<Connection> m_listeners;
     std::vector<WeapRec> m_records;
-    std::optional<ShipClass::State> m_kept;
+    std::optional<ShipState> m_kept;
     std::string m_keptText;
     Events m_events{};
 };
@@ -267,11 +267,11 @@ void Course::setPart() {
     const bool isLevel = code >= 0 && code <= 2;
     switch (m_data.ConsumeIntegralInRange(0, 6)) {
     case 0:
-        hull.armor = isLevel ? code / 2.0 : hull.armor;
+        hull.armor = isLevel ? code : hull.armor;
         set(hull, [&] { m_ship->Armor(code); });
         break;
     case 1:
-        hull.streamline = isLevel ? code / 2.0 : hull.streamline;
+        hull.streamline = isLevel ? code : hull.streamline;
         set(hull, [&] { m_ship->Streamline(code); });
         break;
     case 2:
@@ -353,7 +353,7 @@ void Course::keepOrGoBack() {
     m_events = {};
     m_ship->restore(*m_kept);
     requireSame(hullAndSystems(), m_keptText, "a ship goes back to what it was");
-    require(m_events.recalculating == 0 && m_ship->g_bSaved == m_kept->isSaved,
+    require(m_events.recalculating == 0 && m_ship->g_bSaved == m_kept->g_bSaved,
             "and says nothing of it");
 }
 

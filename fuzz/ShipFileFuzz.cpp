@@ -100,7 +100,7 @@ void checkSystems(std::string_view text, const ShipClass& ship) {
 
 /// What was loaded, brought in order as the window does, can be shown, saved and loaded again.
 void checkRoundTrip(ShipClass& ship, const ShipServices& services, const TemporaryFolder& folder) {
-    ShipClass::State shown = ship.state();
+    ShipState shown = ship.state();
     shown.hull = inOrder(shown.hull);
     ship.restore(shown);
     ship.weapChange();  // would throw where a figure does not fit

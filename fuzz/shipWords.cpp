@@ -62,7 +62,7 @@ HullDesign inOrder(HullDesign hull) {
     if (isBase(hull.hullType)) {
         hull.ftl = NoDrive;
         hull.thrust = 0;
-        hull.streamline = 0.0;
+        hull.streamline = 0;
     }
     return hull;
 }
@@ -75,9 +75,9 @@ bool breaksCloakRule(const ShipClass& ship) {
 }
 
 bool overflowsOnTheWay(const ShipClass& ship, const ShipServices& services) {
-    const ShipClass::State whole = ship.state();
+    const ShipState whole = ship.state();
     ShipClass part(services);
-    ShipClass::State state = part.state();
+    ShipState state = part.state();
     state.hull = whole.hull;
     for (const auto& system : whole.amounts) {
         state.amounts.push_back(system);

@@ -1,11 +1,23 @@
 #include "HullRules.h"
 
 #include "checkedArithmetic.h"
-#include "roundUp.h"
+#include "decimals.h"
+
+#include <array>
+#include <cstddef>
 
 namespace fleetwright {
 
 namespace {
+
+/// What each level adds to the cost of every mass unit of the hull.
+constexpr std::array<double, mostArmor + 1> armorPrices = {0.0, 0.5, 1.0};
+constexpr std::array<double, mostStreamline + 1> streamlinePrices = {0.0, 0.5, 1.0};
+
+template <std::size_t Levels>
+double priceOf(const std::array<double, Levels>& prices, std::int32_t level) {
+    return prices.at(static_cast<std::size_t>(level));
+}
 
 std::int32_t stepsAboveCapital(std::int32_t mass) {
     return (mass - capitalMass) / 50;
@@ -98,7 +110,9 @@ HullFigures hullFigures(const HullDesign& design) {
     if (design.hullType >= Warship && design.hullType <= QSpaceStation) {
         const bool isStrong = hasStrongHull(design.hullType);
         const double base = isStrong ? 2.0 : 1.5;
-        figures.hullCost = roundUp((design.armor + base + design.streamline) * mass);
+        figures.hullCost = roundUp((priceOf(armorPrices, design.armor) + base +
+                                    priceOf(streamlinePrices, design.streamline)) *
+                                   mass);
         figures.damagePoints = roundUp(mass / (isStrong ? 2.0 : 4.0));
         figures.damageControlParties = crewFigure(design.hullType, mass, 0);
         figures.fireControls = crewFigure(design.hullType, mass, 1);

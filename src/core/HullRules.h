@@ -23,6 +23,9 @@ enum FtlDrive : std::int32_t { NoDrive = 0, NormalDrive = 1, TugDrive = 3 };
 /// Bounds that the program holds a design to; AutoMass and ship files can go beyond them.
 inline constexpr std::int32_t smallestMass = 2, mostThrust = 8;
 
+/// The highest levels of armor and of streamlining, from 0 on.
+inline constexpr std::int32_t mostArmor = 2, mostStreamline = 2;
+
 /// The largest masses of the first two ship classes and of the third; above that, every 50 mass
 /// units from 100 on count.
 inline constexpr std::int32_t escortMass = 18, cruiserMass = 36, capitalMass = 100;
@@ -31,10 +34,12 @@ inline constexpr std::int32_t escortMass = 18, cruiserMass = 36, capitalMass = 1
 struct HullDesign {
     std::int32_t mass = smallestMass;  ///< mass units
     std::int32_t hullType = Warship;
-    double armor = 0.0;       ///< factor: 0.0, 0.5 or 1.0
-    double streamline = 0.0;  ///< factor: 0.0, 0.5 or 1.0
+    std::int32_t armor = 0;       ///< level 0 to 2
+    std::int32_t streamline = 0;  ///< level: 0 none, 1 partial, 2 full
     std::int32_t ftl = NormalDrive;
     std::int32_t thrust = 2;  ///< 0 to 8; ship files can bring others
+
+    friend bool operator==(const HullDesign&, const HullDesign&) = default;
 };
 
 /// What follows from a hull alone. Costs in points, masses in mass units.
@@ -49,6 +54,8 @@ struct HullFigures {
     std::int32_t damageRows = 0;
     std::int32_t damageControlParties = 0;
     std::int32_t fireControls = 0;
+
+    friend bool operator==(const HullFigures&, const HullFigures&) = default;
 };
 
 /// Works the figures of a hull out. An unknown hull type has no hull cost, damage points or

@@ -1,9 +1,7 @@
 #include "ShipClass.h"
 
-#include "ShipClassRollback.h"
 #include "checkedArithmetic.h"
 #include "designWords.h"
-#include "sizeNames.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,64 +16,60 @@ ShipClass::ShipClass(ShipServices services) : m_services(std::move(services)) {
 }
 
 void ShipClass::mass(std::int32_t i_iArg) {
-    const Rollback rollback(*this);
-    m_hull.mass = std::max(i_iArg, smallestMass);
-    recalcShip();
-}
-
-std::int32_t ShipClass::Armor() const {
-    return levelOf(m_hull.armor);
+    change(hull.mass, std::max(i_iArg, smallestMass));
 }
 
 void ShipClass::Armor(std::int32_t i_iArg) {
-    const Rollback rollback(*this);
-    m_hull.armor = factorOf(i_iArg).value_or(m_hull.armor);
-    recalcShip();
+    change(hull.armor, i_iArg >= 0 && i_iArg <= mostArmor ? i_iArg : hull.armor);
 }
 
 std::int16_t ShipClass::Streamline() const {
-    return static_cast<std::int16_t>(levelOf(m_hull.streamline));
+    return narrow<std::int16_t>(hull.streamline);
 }
 
 void ShipClass::Streamline(std::int16_t i_iArg) {
-    const Rollback rollback(*this);
-    m_hull.streamline = factorOf(i_iArg).value_or(m_hull.streamline);
-    recalcShip();
+    change(hull.streamline, i_iArg >= 0 && i_iArg <= mostStreamline ? i_iArg : hull.streamline);
 }
 
 void ShipClass::Hull(std::int32_t i_htArg) {
-    const Rollback rollback(*this);
-    m_hull.hullType = i_htArg;
-    recalcShip();
+    change(hull.hullType, i_htArg);
 }
 
 void ShipClass::FTL(std::int32_t i_ftArg) {
-    const Rollback rollback(*this);
-    m_hull.ftl = i_ftArg;
-    recalcShip();
+    change(hull.ftl, i_ftArg);
 }
 
 std::int16_t ShipClass::THRUST() const {
-    return narrow<std::int16_t>(m_hull.thrust);
+    return narrow<std::int16_t>(hull.thrust);
 }
 
 void ShipClass::THRUST(std::int16_t i_iArg) {
-    const Rollback rollback(*this);
-    m_hull.thrust = std::clamp(i_iArg, std::int16_t{0}, std::int16_t{mostThrust});
-    recalcShip();
+    change(hull.thrust, std::clamp(std::int32_t{i_iArg}, 0, mostThrust));
 }
 
 void ShipClass::weapChange() {
-    const Rollback rollback(*this);
-    recalcShip();
+    change(hull.mass, hull.mass);
+}
+
+/// Sets one field of the design and recalculates. If that fails, nothing of it has happened.
+void ShipClass::change(std::int32_t& field, std::int32_t value) {
+    const ShipNumbers before = numbers();
+    const std::int32_t valueBefore = std::exchange(field, value);
+    try {
+        recalcShip();
+    } catch (...) {
+        field = valueBefore;  // of a system it is none of the numbers
+        numbers() = before;
+        throw;
+    }
 }
 
 std::string_view ShipClass::Class() const {
-    return classOf(m_hull.mass);
+    return classOf(hull.mass);
 }
 
 std::string_view ShipClass::relSize() const {
-    return designationOf(m_hull.mass);
+    return designationOf(hull.mass);
 }
 
 }  // namespace fleetwright

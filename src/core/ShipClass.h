@@ -12,6 +12,8 @@
 #include "Catalogue.h"
 #include "Fault.h"
 #include "HullRules.h"
+#include "ShipFileLine.h"
+#include "ShipState.h"
 #include "Signal.h"
 #include "formula_calculate.h"
 
@@ -28,12 +30,6 @@ namespace fleetwright {
 
 class ReportPrinter;
 
-/// A line of a ship file whose system the ship did not take.
-struct RefusedLine {
-    std::string text;  ///< the line as it stands in the file
-    Fault fault;
-};
-
 /// What a ship needs of the world around it.
 struct ShipServices {
     /// The catalogue file `weaps.dat`. Ships that are given the same object share what it has read.
@@ -44,7 +40,7 @@ struct ShipServices {
     std::function<void()> eventLoopTurn;
 };
 
-class ShipClass {
+class ShipClass : public ShipNames, private ShipNumbers {
 public:
     /// A new design: a warship of mass 2 with a normal drive and thrust 2, without systems.
     /// Has the catalogue as it is now; throws FileError when it cannot be read.
@@ -53,45 +49,42 @@ public:
     ShipClass& operator=(const ShipClass&) = delete;
     ~ShipClass() = default;
 
-    // Writing one of these does nothing else: no recalculation, no event.
-    std::string g_sShipName = "Generic";
-    std::string g_sDesignerName = "Nils's Iron Vector Creator";
-    bool g_bAutoMass = false;        ///< recalculations fit the hull mass to the systems
-    std::int32_t g_iDCP = 0;         ///< damage control parties
-    std::int32_t g_iFCS = 0;         ///< fire control systems
-    std::int32_t g_iDamRows = 0;     ///< damage rows
-    std::int32_t g_iDP = 0;          ///< damage points
-    std::int32_t g_lCost = 0;        ///< cost of the whole ship
-    std::int32_t g_iMassLeft = 0;    ///< mass left for systems; negative when overloaded
-    bool g_bSaved = true;            ///< nothing has changed since the last save or load
-    std::string g_sSaveName;         ///< path of the ship file; empty without one
-    std::string g_sTrimmedFileName;  ///< name of the ship file, without folder and extension
-    std::int32_t g_lWeapCount = 0;   ///< number of catalogue records
+    // What ShipState.h says of them. Writing one of these, or one of the names, does nothing else:
+    // no recalculation, no event.
+    using ShipNumbers::g_bAutoMass;
+    using ShipNumbers::g_bSaved;
+    using ShipNumbers::g_iDamRows;
+    using ShipNumbers::g_iDCP;
+    using ShipNumbers::g_iDP;
+    using ShipNumbers::g_iFCS;
+    using ShipNumbers::g_iMassLeft;
+    using ShipNumbers::g_lCost;
+    std::int32_t g_lWeapCount = 0;  ///< number of catalogue records
 
     Signal<> Recalculated;      ///< the figures are new
-    Signal<> Recalculating;     ///< the figures are about to be worked out
+    Signal<> Recalculating;     ///< they are about to be worked out; given, but nobody here listens
     Signal<> WeaponNotFound;    ///< a name is in no catalogue record
     Signal<> CloakAndMerchant;  ///< the cloak rule has refused a system
-    Signal<> ShipSaved;
+    Signal<> ShipSaved;         ///< what a listener throws is dropped: the file is written
     Signal<> ShipLoaded;
     Signal<> AutoMassUnsettled;  ///< AutoMass found no fitting mass; the ship has its old one
 
     // The design. Each write recalculates.
-    std::int32_t mass() const { return m_hull.mass; }
-    void mass(std::int32_t i_iArg);        ///< at least 2
-    std::int32_t Armor() const;            ///< level 0 to 2
-    void Armor(std::int32_t i_iArg);       ///< another level than 0 to 2 leaves it
-    std::int16_t Streamline() const;       ///< level 0 to 2
-    void Streamline(std::int16_t i_iArg);  ///< another level than 0 to 2 leaves it
-    std::int32_t Hull() const { return m_hull.hullType; }
+    std::int32_t mass() const { return hull.mass; }
+    void mass(std::int32_t i_iArg);                    ///< at least 2
+    std::int32_t Armor() const { return hull.armor; }  ///< level 0 to 2
+    void Armor(std::int32_t i_iArg);                   ///< another level than 0 to 2 leaves it
+    std::int16_t Streamline() const;                   ///< level 0 to 2
+    void Streamline(std::int16_t i_iArg);              ///< another level than 0 to 2 leaves it
+    std::int32_t Hull() const { return hull.hullType; }
     void Hull(std::int32_t i_htArg);  ///< a HullType; unchecked
-    std::int32_t FTL() const { return m_hull.ftl; }
+    std::int32_t FTL() const { return hull.ftl; }
     void FTL(std::int32_t i_ftArg);  ///< a FtlDrive; unchecked
     /// Throws OverflowError if a ship file has brought a thrust that 16 bits do not hold.
     std::int16_t THRUST() const;
     void THRUST(std::int16_t i_iArg);  ///< held to 0 to 8
 
-    /// The value of a formula for one piece on this ship.
+    /// The value of a formula for one piece on this ship. Given, but nobody here asks.
     std::int32_t weapCalc(std::string& in_arg);
     /// Recalculates.
     void weapChange();
@@ -123,7 +116,7 @@ public:
     std::string_view Class() const;
     std::string_view relSize() const;
 
-    // The ship file. Both return false on a failure, and `fileFault` then says why.
+    // The ship file. Where these fail they return false, and `fileFault` says why.
 
     /// Saves the design; the name gets the extension ".shp" if it lacks it.
     bool saveShip(std::string& in_sFileName);
@@ -146,43 +139,33 @@ public:
     /// The system's arc letters; nothing for an unknown name.
     std::string_view GimmeWeapArc(std::string_view in_sWeapName) const;
 
-    /// What a pass works out, before any of it is shown.
-    struct Figures {
-        HullFigures hull;
-        std::int32_t cost = 0;
-        std::int32_t massLeft = 0;
-    };
-    /// All that a design holds but its names and files, to go back to.
-    struct State {
-        HullDesign hull;
-        Figures figures;
-        std::vector<std::pair<std::size_t, std::int32_t>> amounts;  ///< by record, without zeros
-        bool isSaved = true;
-    };
-    State state() const;
-    /// Makes the ship what it was, without an event.
-    void restore(const State& state);
+    /// All that the ship is now.
+    ShipState state() const;
+    /// Makes the ship what it was, or what another one with the same catalogue is, without an
+    /// event.
+    void restore(const ShipState& state);
 
     /// The hull as it is designed, and what the last recalculation has made of it.
-    const HullDesign& hullDesign() const { return m_hull; }
-    const HullFigures& hullFigures() const { return m_hullFigures; }
+    const HullDesign& hullDesign() const { return hull; }
+    const HullFigures& hullFigures() const { return lastHull; }
 
 private:
-    class Rollback;
     class Pass;
 
+    ShipNumbers& numbers() { return *this; }
+    void change(std::int32_t& field, std::int32_t value);
     void recalcShip();
-    Figures workOutFigures(const HullDesign& hull);
-    void show(const Figures& figures);
+    ShipNumbers workOut(const HullDesign& design);
     void fitMass();
     void restoreMass(std::int32_t mass);
-    std::int32_t evaluate(std::string_view& text, const HullDesign& hull, std::int32_t hullCost,
+    std::int32_t evaluate(std::string_view& text, const HullDesign& design, std::int32_t hullCost,
                           std::int32_t amount);
     std::int32_t preview(std::string_view name, std::int32_t amount,
-                         std::string_view WeapRec::*formula, const HullDesign& hull);
+                         std::string_view WeapRec::*formula, const HullDesign& design);
     bool cloakRuleRefuses(std::string_view name) const;
     std::int32_t& amountOf(std::size_t record);
 
+    bool succeeds(const std::function<void(int& line)>& fileOperation);
     void readShipFile(const std::string& fileName, int& lineNumber);
     void readShipLine(std::string& line, int lineNumber);
     void takeFileName(const std::string& fileName);
@@ -196,8 +179,6 @@ private:
 
     ShipServices m_services;
     Catalogue m_catalogue;
-    HullDesign m_hull;
-    HullFigures m_hullFigures;
     std::optional<Fault> m_fileFault;
     std::vector<RefusedLine> m_refusedLines;
     std::vector<char> m_formulaBuffer;

@@ -1,7 +1,6 @@
 #include "ShipClass.h"
 
 #include "Error.h"
-#include "ShipFileFaults.h"
 #include "ShipFileLine.h"
 #include "designWords.h"
 #include "files.h"
@@ -25,7 +24,7 @@ HullDesign asShown(HullDesign hull) {
     if (isBase(hull.hullType)) {
         hull.ftl = NoDrive;
         hull.thrust = 0;
-        hull.streamline = 0.0;
+        hull.streamline = 0;
     }
     return hull;
 }
@@ -43,50 +42,60 @@ bool ShipClass::saveShip(std::string& in_sFileName) {
     if (!in_sFileName.ends_with(extension)) {
         in_sFileName += extension;
     }
-    m_fileFault.reset();
-    try {
+    const bool isSaved = succeeds([&](int&) {
         saveFile(nativePath(in_sFileName), shipFile());
         takeFileName(in_sFileName);
         g_bSaved = true;
-        ShipSaved.raise();
-    } catch (const std::exception& error) {
-        m_fileFault = Fault{0, error.what()};
-        return false;
+    });
+    if (isSaved) {
+        try {
+            ShipSaved.raise();
+        } catch (const std::exception&) {
+            // The file is there, whatever a listener makes of the news.
+        }
     }
-    return true;
+    return isSaved;
 }
 
 bool ShipClass::loadShip(const std::string& in_sFileName) {
-    m_fileFault.reset();
     m_refusedLines.clear();
-    int lineNumber = 0;
-    try {
+    return succeeds([&](int& line) {
         g_bAutoMass = false;
-        readShipFile(in_sFileName, lineNumber);
-        lineNumber = 0;
+        readShipFile(in_sFileName, line);
+        line = 0;
         // Without systems nothing has been recalculated yet. A ship whose figures will not fit
         // their fields is refused here, and not when it is first shown.
-        workOutFigures(asShown(m_hull));
+        workOut(asShown(hull));
         takeFileName(in_sFileName);
         ShipLoaded.raise();
+        g_bSaved = true;
+    });
+}
+
+/// Everything here fails by an exception. The given file operations say it in another way: what
+/// ends `fileOperation` becomes the fault of the file, in the line that it has come to.
+bool ShipClass::succeeds(const std::function<void(int& line)>& fileOperation) {
+    m_fileFault.reset();
+    int line = 0;
+    try {
+        fileOperation(line);
+        return true;
     } catch (const std::exception& error) {
-        m_fileFault = Fault{lineNumber, error.what()};
+        m_fileFault = Fault{line, error.what()};
         return false;
     }
-    g_bSaved = true;
-    return true;
 }
 
 std::string ShipClass::shipFile() const {
     std::string text;
     appendLine(text, "Ship Name: " + g_sShipName);
     appendLine(text, "Designer Name: " + g_sDesignerName);
-    appendLine(text, "Mass: " + std::to_string(m_hull.mass));
-    appendLine(text, "Thrust: " + std::to_string(m_hull.thrust));
-    appendLine(text, hullLine(m_hull.hullType));
+    appendLine(text, "Mass: " + std::to_string(hull.mass));
+    appendLine(text, "Thrust: " + std::to_string(hull.thrust));
+    appendLine(text, hullLine(hull.hullType));
     appendLine(text, streamlineLine(Streamline()));
     appendLine(text, armorLine(Armor()));
-    appendLine(text, ftlLine(m_hull.ftl));
+    appendLine(text, ftlLine(hull.ftl));
     for (const WeapRec& record : systemsAboard()) {
         appendLine(text,
                    "System: " + std::string(record.name) + ", " + std::to_string(record.amount));
@@ -115,33 +124,32 @@ void ShipClass::readShipLine(std::string& line, int lineNumber) {
         g_sDesignerName = cut.value;
         break;
     case ShipKey::Mass:
-        m_hull.mass = wholeNumber(cut.value);
+        hull.mass = wholeNumber(cut.value);
         break;
     case ShipKey::Thrust:
-        m_hull.thrust = wholeNumber(cut.value);
+        hull.thrust = wholeNumber(cut.value);
         break;
     case ShipKey::Type:
-        m_hull.hullType = hullTypeOf(cut.value).value_or(m_hull.hullType);
+        hull.hullType = hullTypeOf(cut.value).value_or(hull.hullType);
         break;
     case ShipKey::Streamlining:
-        if (const auto level = streamlineOf(cut.value)) {
-            m_hull.streamline = *factorOf(*level);
-        }
+        hull.streamline = streamlineOf(cut.value).value_or(hull.streamline);
         break;
     case ShipKey::Armor:
         if (const std::int32_t level = wholeNumber(cut.value); level == 1 || level == 2) {
-            m_hull.armor = *factorOf(level);
+            hull.armor = level;
         }
         break;
     case ShipKey::Ftl:
-        m_hull.ftl = ftlOf(cut.value).value_or(m_hull.ftl);
+        hull.ftl = ftlOf(cut.value).value_or(hull.ftl);
         break;
     case ShipKey::System: {
         const std::int32_t amount = wholeNumber(cut.amount);
         if (!addWeap(cut.value, amount)) {
-            const bool isUnknown = weapNameToIndex(cut.value) == -1;
-            const std::string fault = isUnknown ? unknownSystem(cut.value) : std::string(cloakRule);
-            m_refusedLines.push_back({.text = line, .fault = {lineNumber, fault}});
+            const Refusal why =
+                weapNameToIndex(cut.value) == -1 ? Refusal::UnknownSystem : Refusal::CloakRule;
+            m_refusedLines.push_back(
+                {.text = line, .why = why, .fault = {lineNumber, refusalText(why, cut.value)}});
         }
         break;
     }

@@ -42,9 +42,9 @@ void ShipClass::recalcShip() {
         m_autoMassRun = AutoMassRun::GivenUp;
         return;
     }
-    const std::int32_t massBefore = m_hull.mass;
+    const std::int32_t massBefore = hull.mass;
     Recalculating.raise();
-    show(workOutFigures(m_hull));
+    numbers() = workOut(hull);
     if (g_bAutoMass && m_autoMassRun == AutoMassRun::Working) {
         try {
             fitMass();
@@ -62,34 +62,30 @@ void ShipClass::recalcShip() {
     }
 }
 
-ShipClass::Figures ShipClass::workOutFigures(const HullDesign& hull) {
-    Figures figures;
-    figures.hull = fleetwright::hullFigures(hull);
-    const std::int32_t hullCost = figures.hull.hullCost;
+/// The numbers of this ship with another hull, all of them, before any is shown.
+ShipNumbers ShipClass::workOut(const HullDesign& design) {
+    ShipNumbers figures = numbers();
+    figures.hull = design;
+    figures.lastHull = fleetwright::hullFigures(design);
+    const std::int32_t hullCost = figures.lastHull.hullCost;
     std::int32_t systemCost = 0;
     std::int32_t systemMass = 0;
     for (const std::size_t touched : m_touched) {
         WeapRec& record = m_catalogue.records()[touched];
         if (record.amount > 0) {
             systemCost =
-                checkedAdd(systemCost, evaluate(record.costform, hull, hullCost, record.amount));
+                checkedAdd(systemCost, evaluate(record.costform, design, hullCost, record.amount));
             systemMass =
-                checkedAdd(systemMass, evaluate(record.massform, hull, hullCost, record.amount));
+                checkedAdd(systemMass, evaluate(record.massform, design, hullCost, record.amount));
         }
     }
-    figures.cost = checkedAdd(figures.hull.cost, systemCost);
-    figures.massLeft = checkedSubtract(figures.hull.freeMass, systemMass);
+    figures.g_lCost = checkedAdd(figures.lastHull.cost, systemCost);
+    figures.g_iMassLeft = checkedSubtract(figures.lastHull.freeMass, systemMass);
+    figures.g_iDP = figures.lastHull.damagePoints;
+    figures.g_iDCP = figures.lastHull.damageControlParties;
+    figures.g_iFCS = figures.lastHull.fireControls;
+    figures.g_iDamRows = figures.lastHull.damageRows;
     return figures;
-}
-
-void ShipClass::show(const Figures& figures) {
-    m_hullFigures = figures.hull;
-    g_lCost = figures.cost;
-    g_iMassLeft = figures.massLeft;
-    g_iDP = figures.hull.damagePoints;
-    g_iDCP = figures.hull.damageControlParties;
-    g_iFCS = figures.hull.fireControls;
-    g_iDamRows = figures.hull.damageRows;
 }
 
 /// One step of AutoMass: a large difference is closed in one jump, the rest in steps of 2.
@@ -99,17 +95,17 @@ void ShipClass::fitMass() {
         m_services.eventLoopTurn();
     }
     if (g_iMassLeft < -nearby || g_iMassLeft > nearby) {
-        const double difference = g_iMassLeft / freeMassFraction(m_hull.hullType, m_hull.ftl);
-        m_hull.mass = roundToInt32(m_hull.mass - difference);
+        const double difference = g_iMassLeft / freeMassFraction(hull.hullType, hull.ftl);
+        hull.mass = roundToInt32(hull.mass - difference);
         recalcShip();
         return;
     }
     if (g_iMassLeft < 0) {
-        m_hull.mass = checkedAdd(m_hull.mass, step);
+        hull.mass = checkedAdd(hull.mass, step);
         recalcShip();
     }
     if (g_iMassLeft > 1 && m_autoMassRun == AutoMassRun::Working) {
-        m_hull.mass = checkedSubtract(m_hull.mass, step);
+        hull.mass = checkedSubtract(hull.mass, step);
         recalcShip();
     }
 }
@@ -117,8 +113,8 @@ void ShipClass::fitMass() {
 /// The end of an AutoMass that found no fitting mass: the ship shows its old mass again.
 void ShipClass::restoreMass(std::int32_t mass) {
     m_autoMassRun = AutoMassRun::Restoring;
-    m_hull.mass = mass;
-    show(workOutFigures(m_hull));
+    hull.mass = mass;
+    numbers() = workOut(hull);
     g_bSaved = false;
     Recalculated.raise();
     AutoMassUnsettled.raise();
@@ -126,25 +122,23 @@ void ShipClass::restoreMass(std::int32_t mass) {
 
 /// Hands a formula to the evaluator. It gets a private copy of the text; what it writes there
 /// stays in `text`.
-std::int32_t ShipClass::evaluate(std::string_view& text, const HullDesign& hull,
+std::int32_t ShipClass::evaluate(std::string_view& text, const HullDesign& design,
                                  std::int32_t hullCost, std::int32_t amount) {
     // One buffer serves all calls; it only ever grows to the longest formula.
     m_formulaBuffer.resize(std::max(m_formulaBuffer.size(), text.size() + 1));
     std::memcpy(m_formulaBuffer.data(), text.data(), text.size());
     m_formulaBuffer[text.size()] = '\0';
-    const std::int32_t value = m_services.formula(m_formulaBuffer.data(), hull.mass, hull.hullType,
-                                                  hull.ftl, hull.thrust, hullCost, amount);
+    const std::int32_t value =
+        m_services.formula(m_formulaBuffer.data(), design.mass, design.hullType, design.ftl,
+                           design.thrust, hullCost, amount);
     if (std::memcmp(m_formulaBuffer.data(), text.data(), text.size()) != 0) {
         text = m_catalogue.keep(m_formulaBuffer.data());
     }
     return value;
 }
 
-ShipClass::State ShipClass::state() const {
-    State state{.hull = m_hull,
-                .figures = {m_hullFigures, g_lCost, g_iMassLeft},
-                .amounts = {},
-                .isSaved = g_bSaved};
+ShipState ShipClass::state() const {
+    ShipState state{*this, *this, {}};
     for (const std::size_t record : m_touched) {
         if (const std::int32_t amount = m_catalogue.records()[record].amount; amount != 0) {
             state.amounts.emplace_back(record, amount);
@@ -153,21 +147,20 @@ ShipClass::State ShipClass::state() const {
     return state;
 }
 
-void ShipClass::restore(const State& state) {
-    m_hull = state.hull;
+void ShipClass::restore(const ShipState& state) {
+    numbers() = static_cast<const ShipNumbers&>(state);
+    static_cast<ShipNames&>(*this) = static_cast<const ShipNames&>(state);
     for (const std::size_t record : m_touched) {
         m_catalogue.records()[record].amount = 0;
     }
     for (const auto& [record, amount] : state.amounts) {
         amountOf(record) = amount;
     }
-    show(state.figures);
-    g_bSaved = state.isSaved;
 }
 
 std::int32_t ShipClass::weapCalc(std::string& in_arg) {
     std::string_view text = in_arg;
-    const std::int32_t value = evaluate(text, m_hull, m_hullFigures.hullCost, 1);
+    const std::int32_t value = evaluate(text, hull, lastHull.hullCost, 1);
     in_arg = text;
     return value;
 }

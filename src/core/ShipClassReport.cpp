@@ -36,13 +36,13 @@ void ShipClass::printBanner(ReportPrinter& printer) const {
 void ShipClass::printShipInfo(ReportPrinter& printer) const {
     printer.printLine("Ship Name: " + g_sShipName);
     printer.printLine("Designer Name: " + g_sDesignerName);
-    printer.printLine("Mass: " + std::to_string(m_hull.mass));
+    printer.printLine("Mass: " + std::to_string(hull.mass));
     printer.printLine("Cost: " + std::to_string(g_lCost));
-    printer.printLine("Thrust: " + std::to_string(m_hull.thrust));
-    printIfAny(printer, hullLine(m_hull.hullType));
+    printer.printLine("Thrust: " + std::to_string(hull.thrust));
+    printIfAny(printer, hullLine(hull.hullType));
     printIfAny(printer, streamlineLine(Streamline()));
     printIfAny(printer, armorLine(Armor()));
-    printIfAny(printer, ftlLine(m_hull.ftl));
+    printIfAny(printer, ftlLine(hull.ftl));
     printer.printLine("Damage Points: " + std::to_string(g_iDP));
     printer.printLine("Damage Rows: " + std::to_string(g_iDamRows));
     printer.printLine("Mass Left: " + std::to_string(g_iMassLeft));

@@ -1,6 +1,5 @@
 #include "ShipClass.h"
 
-#include "ShipClassRollback.h"
 #include "checkedArithmetic.h"
 
 #include <algorithm>
@@ -19,9 +18,7 @@ bool ShipClass::addWeap(std::string_view name, std::int32_t amount) {
         return false;
     }
     std::int32_t& carried = amountOf(static_cast<std::size_t>(index));
-    const Rollback rollback(*this, &carried);
-    carried = checkedAdd(carried, amount);
-    recalcShip();
+    change(carried, checkedAdd(carried, amount));
     return true;
 }
 
@@ -37,7 +34,7 @@ std::int32_t& ShipClass::amountOf(std::size_t record) {
 /// On a merchant-type hull a cloak can only be alone. The rule looks at names, not at whether
 /// pieces are added or taken away.
 bool ShipClass::cloakRuleRefuses(std::string_view name) const {
-    if (!isMerchantType(m_hull.hullType)) {
+    if (!isMerchantType(hull.hullType)) {
         return false;
     }
     const std::vector<WeapRec>& records = m_catalogue.records();
@@ -89,30 +86,30 @@ std::int32_t ShipClass::weapNameToIndex(std::string_view in_sName) const {
 }
 
 std::int32_t ShipClass::preview(std::string_view name, std::int32_t amount,
-                                std::string_view WeapRec::*formula, const HullDesign& hull) {
+                                std::string_view WeapRec::*formula, const HullDesign& design) {
     const std::int32_t index = weapNameToIndex(name);
     if (index == -1) {
         WeaponNotFound.raise();
         return 0;
     }
     WeapRec& record = m_catalogue.records()[static_cast<std::size_t>(index)];
-    return evaluate(record.*formula, hull, m_hullFigures.hullCost, amount);
+    return evaluate(record.*formula, design, lastHull.hullCost, amount);
 }
 
 std::int32_t ShipClass::previewWeapCost(std::string_view in_sWeapName, std::int32_t amount) {
-    return preview(in_sWeapName, amount, &WeapRec::costform, m_hull);
+    return preview(in_sWeapName, amount, &WeapRec::costform, hull);
 }
 
 std::int32_t ShipClass::previewWeapMass(std::string_view in_sWeapName, std::int32_t amount) {
-    return preview(in_sWeapName, amount, &WeapRec::massform, m_hull);
+    return preview(in_sWeapName, amount, &WeapRec::massform, hull);
 }
 
 std::int32_t ShipClass::countedCost(std::string_view name, std::int32_t amount) {
-    return preview(name, amount, &WeapRec::costform, m_hullFigures.design);
+    return preview(name, amount, &WeapRec::costform, lastHull.design);
 }
 
 std::int32_t ShipClass::countedMass(std::string_view name, std::int32_t amount) {
-    return preview(name, amount, &WeapRec::massform, m_hullFigures.design);
+    return preview(name, amount, &WeapRec::massform, lastHull.design);
 }
 
 }  // namespace fleetwright

@@ -2,7 +2,6 @@
 
 #include "Error.h"
 #include "ShipClass.h"
-#include "ShipFileFaults.h"
 #include "ShipFileLine.h"
 #include "designWords.h"
 #include "text.h"
@@ -36,8 +35,7 @@ private:
     void noteMovement(ShipKey key, bool isMoving);
     void checkHull();
     void checkCloak();
-    void checkShip();
-    void addUnlessKnown(const Fault& fault);
+    void checkLoad();
     std::optional<std::int32_t> number(std::string_view text);
     void complain(std::string text) { complainAt(m_line, std::move(text)); }
     void complainAt(int line, std::string text) { m_faults.push_back({line, std::move(text)}); }
@@ -47,6 +45,8 @@ private:
     std::vector<Fault> m_faults;
     std::map<ShipKey, int> m_linesByKey;  // the last line of each key
     std::set<ShipKey> m_movingKeys;       // those whose value no base can have
+    std::set<int> m_unknownSystems;       // lines that were said to name one
+    std::set<int> m_badNumbers;           // lines that were said to have one
     std::int32_t m_hullType = Warship;
     int m_cloakLine = 0;
     bool m_hasOtherSystems = false;
@@ -62,7 +62,7 @@ std::vector<Fault> ShipFileChecker::check(std::string_view text) {
     }
     checkHull();
     checkCloak();
-    checkShip();
+    checkLoad();
     sortByLine(m_faults);
     return std::move(m_faults);
 }
@@ -161,7 +161,8 @@ void ShipFileChecker::noteMovement(ShipKey key, bool isMoving) {
 
 void ShipFileChecker::checkSystem(const ShipFileLine& line) {
     if (m_ship.weapNameToIndex(line.value) == -1 || line.value == "CATEGORY") {
-        complain(unknownSystem(line.value));
+        complain(refusalText(Refusal::UnknownSystem, line.value));
+        m_unknownSystems.insert(m_line);
     }
     const auto amount = number(line.amount);
     if (!amount) {
@@ -185,6 +186,7 @@ std::optional<std::int32_t> ShipFileChecker::number(std::string_view text) {
         return number;
     } catch (const Error& error) {
         complain(error.what());
+        m_badNumbers.insert(m_line);
         return std::nullopt;
     }
 }
@@ -208,26 +210,23 @@ void ShipFileChecker::checkHull() {
 void ShipFileChecker::checkCloak() {
     const bool isRefused =
         std::any_of(m_ship.refusedLines().begin(), m_ship.refusedLines().end(),
-                    [](const RefusedLine& line) { return line.fault.text == cloakRule; });
+                    [](const RefusedLine& line) { return line.why == Refusal::CloakRule; });
     if (!isRefused && isMerchantType(m_hullType) && m_cloakLine != 0 && m_hasOtherSystems) {
-        complainAt(m_cloakLine, std::string(cloakRule));
+        complainAt(m_cloakLine, refusalText(Refusal::CloakRule, Catalogue::cloakName));
     }
 }
 
-/// Adds what the load itself has found, unless the line's own check has said it already.
-void ShipFileChecker::addUnlessKnown(const Fault& fault) {
-    if (std::find(m_faults.begin(), m_faults.end(), fault) == m_faults.end()) {
-        m_faults.push_back(fault);
-    }
-}
-
-void ShipFileChecker::checkShip() {
+/// What the load itself has found, unless the check of its line has said it already.
+void ShipFileChecker::checkLoad() {
     for (const RefusedLine& line : m_ship.refusedLines()) {
-        addUnlessKnown(line.fault);
+        if (line.why != Refusal::UnknownSystem || !m_unknownSystems.contains(line.fault.line)) {
+            m_faults.push_back(line.fault);
+        }
     }
-    if (m_loadFault) {
-        addUnlessKnown(*m_loadFault);
-    } else if (m_ship.g_iMassLeft < 0) {
+    if (m_loadFault && !m_badNumbers.contains(m_loadFault->line)) {
+        m_faults.push_back(*m_loadFault);
+    }
+    if (!m_loadFault && m_ship.g_iMassLeft < 0) {
         complainAt(0, "overloaded: the systems are " + std::to_string(-m_ship.g_iMassLeft) +
                           " mass units too heavy for the hull");
     }

@@ -37,6 +37,11 @@ std::string nextPiece(std::string_view delims) {
 
 }  // namespace
 
+std::string refusalText(Refusal why, std::string_view system) {
+    return why == Refusal::CloakRule ? "a merchant hull cannot have a cloak and other systems"
+                                     : "unknown system " + quote(system);
+}
+
 ShipFileLine cutShipFileLine(std::string& line) {
     ShipFileLine cut;
     cut.keyText = strTok(line, ":", true);

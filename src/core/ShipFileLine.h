@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Fault.h"
+
 #include <string>
 #include <string_view>
 
@@ -28,6 +30,22 @@ struct ShipFileLine {
     std::string value;
     /// Of a system line the amount.
     std::string amount;
+};
+
+/// Why a ship does not take the system in a line of its file.
+enum class Refusal {
+    UnknownSystem,
+    CloakRule  ///< a merchant hull cannot have a cloak and other systems
+};
+
+/// The same for the author of the file.
+std::string refusalText(Refusal why, std::string_view system);
+
+/// A line of a ship file whose system the ship did not take.
+struct RefusedLine {
+    std::string text;  ///< the line as it stands in the file
+    Refusal why;
+    Fault fault;
 };
 
 /// Cuts a line with `strTok`. An empty `line` becomes what the cutting before has left.

@@ -46,6 +46,22 @@ std::optional<std::int32_t> codeOf(const std::array<CodeWord, Size>& words, Equa
     return std::nullopt;
 }
 
+struct SizeName {
+    std::int32_t largestMass;
+    std::string_view name;
+};
+
+template <std::size_t Size>
+std::string_view nameOf(std::int32_t mass, const std::array<SizeName, Size>& names,
+                        std::string_view nameAbove) {
+    for (const SizeName& entry : names) {
+        if (mass <= entry.largestMass) {
+            return entry.name;
+        }
+    }
+    return nameAbove;
+}
+
 }  // namespace
 
 std::string hullLine(std::int32_t hullType) {
@@ -77,18 +93,27 @@ std::optional<std::int32_t> streamlineOf(std::string_view word) {
     return codeOf(streamlineWords, [&](std::string_view known) { return known == word; });
 }
 
-std::optional<double> factorOf(std::int32_t level) {
-    if (level < 0 || level > 2) {
-        return std::nullopt;
-    }
-    return level * 0.5;
+std::string_view classOf(std::int32_t mass) {
+    static constexpr std::array<SizeName, 3> names = {
+        {{escortMass, "Escort"}, {cruiserMass, "Cruiser"}, {capitalMass, "Capital"}}};
+    return nameOf(mass, names, "Supership");
 }
 
-std::int32_t levelOf(double factor) {
-    if (factor == 0.5) {
-        return 1;
-    }
-    return factor == 1.0 ? 2 : 0;
+std::string_view designationOf(std::int32_t mass) {
+    static constexpr std::array<SizeName, 12> names = {{{4, "Scout"},
+                                                        {6, "Corvette"},
+                                                        {10, "Frigate"},
+                                                        {14, "Destroyer"},
+                                                        {18, "Super Destroyer"},
+                                                        {22, "Light Cruiser"},
+                                                        {26, "Escort Cruiser"},
+                                                        {36, "Heavy Cruiser"},
+                                                        {40, "Battle Cruiser"},
+                                                        {48, "BattleShip"},
+                                                        {70, "BattleDreadnought"},
+                                                        {100, "SuperDreadnought"}}};
+    constexpr std::int32_t courierMass = 2;
+    return mass == courierMass ? "Courier" : nameOf(mass, names, "SuperShip");
 }
 
 }  // namespace fleetwright

@@ -1,7 +1,7 @@
 #pragma once
 
-// The words for the codes of a design. Ship files and the printed report write them alike, as
-// lines "Key: word".
+// The words for a design. Those for its codes stand in ship files and the printed report alike, as
+// lines "Key: word"; those for its size are shown.
 
 #include <cstdint>
 #include <optional>
@@ -31,10 +31,10 @@ std::optional<std::int32_t> ftlOf(std::string_view word);
 /// The level, 1 or 2, of a word for streamlining, exact in its case.
 std::optional<std::int32_t> streamlineOf(std::string_view word);
 
-/// The factor 0.0, 0.5 or 1.0 of an armor or streamlining level 0, 1 or 2.
-std::optional<double> factorOf(std::int32_t level);
+/// The broad class of a ship of this mass: "Escort" to "Supership".
+std::string_view classOf(std::int32_t mass);
 
-/// The level of a factor: 1 for exactly 0.5, 2 for exactly 1.0, else 0.
-std::int32_t levelOf(double factor);
+/// The designation of a ship of this mass: "Courier" to "SuperShip".
+std::string_view designationOf(std::int32_t mass);
 
 }  // namespace fleetwright

@@ -18,11 +18,11 @@ std::string wordOf(const std::string& line) {
 std::string describeHull(const HullDesign& hull) {
     std::string text =
         wordOf(hullLine(hull.hullType)) + " hull of mass " + std::to_string(hull.mass);
-    if (const std::int32_t armor = levelOf(hull.armor); armor != 0) {
-        text += ", armor level " + std::to_string(armor);
+    if (hull.armor != 0) {
+        text += ", armor level " + std::to_string(hull.armor);
     }
-    if (const std::int32_t streamline = levelOf(hull.streamline); streamline != 0) {
-        text += streamline == 1 ? ", partial streamlining" : ", full streamlining";
+    if (hull.streamline != 0) {
+        text += hull.streamline == 1 ? ", partial streamlining" : ", full streamlining";
     }
     return text;
 }

@@ -37,7 +37,7 @@ void Acts::act(const Work& change) {
     }
     {
         const Scope scope(*this, false);
-        const ShipClass::State before = m_subject.state();
+        const ShipState before = m_subject.state();
         try {
             change();
         } catch (const OverflowError&) {

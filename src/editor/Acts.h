@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ShipClass.h"
+#include "ShipState.h"
 
 #include <deque>
 #include <functional>
@@ -25,10 +25,10 @@ class Acts {
 public:
     /// What the acts work on.
     struct Subject {
-        std::function<bool()> isThere;            ///< not before the load or behind the end
-        std::function<ShipClass::State()> state;  ///< what an act begins with
+        std::function<bool()> isThere;     ///< not before the load or behind the end
+        std::function<ShipState()> state;  ///< what an act begins with
         /// Goes back to that state, shows it and says why: a number became too large.
-        std::function<void(const ShipClass::State&)> undo;
+        std::function<void(const ShipState&)> undo;
     };
     using Work = std::function<void()>;
 

@@ -45,9 +45,9 @@ void MassPanel::show() {
     txtMass.setText(std::to_string(ship().mass()));
 }
 
-void MassPanel::clearAutoMass() {
-    mnuAutoMass.setChecked(false);
-    fraMassSpinner.setVisible(true);
+void MassPanel::markAutoMass(bool isOn) {
+    mnuAutoMass.setChecked(isOn);
+    fraMassSpinner.setVisible(!isOn);
 }
 
 void MassPanel::stepMass(std::int32_t step) {
@@ -86,9 +86,8 @@ void MassPanel::mnuStdHull_Click(bool isMerchant, std::int32_t mass) {
 
 void MassPanel::mnuAutoMass_Click() {
     act([&] {
-        mnuAutoMass.setChecked(!mnuAutoMass.isChecked());
+        markAutoMass(!mnuAutoMass.isChecked());
         ship().g_bAutoMass = mnuAutoMass.isChecked();
-        fraMassSpinner.setVisible(!mnuAutoMass.isChecked());
         ship().weapChange();
     });
 }

@@ -21,8 +21,8 @@ public:
               std::function<void(bool isMerchant)> chooseHull);
 
     void show();
-    /// Takes the mark of AutoMass away: a new ship has none.
-    void clearAutoMass();
+    /// Puts the mark of AutoMass on or takes it away, and with it the arrows away or on.
+    void markAutoMass(bool isOn);
 
 private:
     MenuEntry& m_stdHulls;

@@ -20,7 +20,7 @@ frmMain::frmMain(MainWindowServices services)
       m_services(std::move(services)),
       m_acts({.isThere = [this] { return g_Ship != nullptr; },
               .state = [this] { return g_Ship->state(); },
-              .undo = [this](const ShipClass::State& before) { undoAct(before); }}),
+              .undo = [this](const ShipState& before) { undoAct(before); }}),
       m_context{.form = *this,
                 .g_Ship = g_Ship,
                 .acts = m_acts,
@@ -105,15 +105,19 @@ void frmMain::RefreshScreen() {
     previews.show(row);
 }
 
-void frmMain::undoAct(const ShipClass::State& before) {
+void frmMain::undoAct(const ShipState& before) {
+    const bool isAutoMassOther = g_Ship->g_bAutoMass != before.g_bAutoMass;
     g_Ship->restore(before);
+    if (isAutoMassOther) {  // where it is not, a load may have left the mark on
+        mass.markAutoMass(before.g_bAutoMass);
+    }
     aboard.show();
     try {
         RefreshScreen();
     } catch (const OverflowError&) {
         // A ship that a file has brought out of range is shown as far as it goes.
     }
-    g_Ship->g_bSaved = before.isSaved;
+    g_Ship->g_bSaved = before.g_bSaved;
     sbStatus.setText("Number too large");
 }
 

@@ -81,7 +81,7 @@ public:
                                 replaceShip();
                                 aboard.lvCurrentWeapons.clear();
                             },
-                        .clearAutoMass = [this] { mass.clearAutoMass(); }}};
+                        .clearAutoMass = [this] { mass.markAutoMass(false); }}};
 
 protected:
     void Form_Load() override;
@@ -90,7 +90,7 @@ protected:
 
 private:
     void RefreshScreen();
-    void undoAct(const ShipClass::State& before);
+    void undoAct(const ShipState& before);
     void tmrRefreshScreen_Timer();
 
     // The ship and its events.

@@ -1,7 +1,7 @@
 #include "HullRules.h"
 
 #include "Error.h"
-#include "roundUp.h"
+#include "decimals.h"
 #include "roundUpByText.h"
 
 #include <gtest/gtest.h>
@@ -113,12 +113,8 @@ TEST(HullRules, PriceHullAndDriveAndLeaveFreeMass) {
         HullDesign design;
         std::int32_t hullCost, damagePoints, ftlCost, freeMass;
     } cases[] = {
-        {{.mass = 3, .hullType = Warship, .armor = 0.5}, 8, 2, 3, 2},
-        {{.mass = 10, .hullType = Warship, .armor = 1.0, .streamline = 1.0, .ftl = 3},
-         40,
-         5,
-         30,
-         5},
+        {{.mass = 3, .hullType = Warship, .armor = 1}, 8, 2, 3, 2},
+        {{.mass = 10, .hullType = Warship, .armor = 2, .streamline = 2, .ftl = 3}, 40, 5, 30, 5},
         {{.mass = 10, .hullType = Warship, .ftl = 0}, 20, 5, 0, 8},
         {{.mass = 10, .hullType = QShip, .ftl = 0}, 15, 3, 0, 8},
         {{.mass = 30, .hullType = Merchant}, 45, 8, 30, 3},

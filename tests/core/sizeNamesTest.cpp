@@ -1,4 +1,4 @@
-#include "sizeNames.h"
+#include "designWords.h"
 
 #include <gtest/gtest.h>
 

@@ -173,6 +173,22 @@ TEST_F(DesignPanel, AnActInATurnOfAutoMassIsUndoneByItself) {
     EXPECT_EQ(design(test.ship()), "1 0 0 0 0 0");
 }
 
+TEST_F(DesignPanel, AnActThatOverflowsTakesTheMarkOfAutoMassBack) {
+    test.folder().write("weaps.dat", "Gun,1,1,BEAM,BEAM,F,gun.gif\n");
+    window.files.mnuNew.choose();
+    test.selectNode("Giant");
+    test.inMessage = [&] {
+        window.mass.mnuAutoMass.choose();
+        EXPECT_TRUE(test.ship().g_bAutoMass);
+        throw OverflowError();
+    };
+    window.tree.tvWeapons.doubleClick();
+    EXPECT_FALSE(test.ship().g_bAutoMass);
+    EXPECT_FALSE(window.mass.mnuAutoMass.isChecked());
+    EXPECT_TRUE(window.mass.fraMassSpinner.isVisible());
+    EXPECT_EQ(window.sbStatus.text(), "Number too large");
+}
+
 TEST_F(DesignPanel, AnActThatOverflowsIsUndoneAsAWhole) {
     EXPECT_TRUE(window.files.loadFile(test.folder().write(
         "big.shp", "Type: Merchant\nMass: 1100000000\nThrust: 0\nFTL: None\n")));

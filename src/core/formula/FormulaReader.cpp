@@ -1,29 +1,25 @@
 #include "FormulaReader.h"
 
-#include "powersOfTen.h"
-#include "roundUp.h"
+#include "decimals.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
-#include <limits>
 
 namespace fleetwright {
 
+/// The first digit of an operator's number says how tight it binds.
 enum class FormulaReader::Operator : std::uint8_t {
-    None,
-    Or,
-    And,
-    Equal,
+    Or = 0x00,
+    And = 0x10,
+    Equal = 0x20,
     NotEqual,
     Less,
     LessOrEqual,
     Greater,
     GreaterOrEqual,
-    Add,
+    Add = 0x30,
     Subtract,
-    Multiply,
+    Multiply = 0x40,
     Divide,
     Remainder
 };
@@ -53,24 +49,6 @@ private:
 
 namespace {
 
-constexpr int orLevel = 0, andLevel = 1, comparisonLevel = 2, sumLevel = 3, productLevel = 4;
-
-/// How tight each operator binds, in the order of `Operator`.
-constexpr std::array<int, 14> bindingLevels = {-1,
-                                               orLevel,
-                                               andLevel,
-                                               comparisonLevel,
-                                               comparisonLevel,
-                                               comparisonLevel,
-                                               comparisonLevel,
-                                               comparisonLevel,
-                                               comparisonLevel,
-                                               sumLevel,
-                                               sumLevel,
-                                               productLevel,
-                                               productLevel,
-                                               productLevel};
-
 constexpr std::uint64_t key(const char* word) {
     std::uint64_t packed = 0;
     for (; *word != '\0'; ++word) {
@@ -92,18 +70,6 @@ constexpr bool isWordCharacter(char c) {
     return isLetter(c) || isDigit(c) || c == '_';
 }
 
-/// A number of more digits than a double holds exactly, which is between `begin` and `end`.
-double longNumber(const char* begin, const char* end) {
-    double value = 0.0;
-    const auto result = std::from_chars(begin, end, value, std::chars_format::fixed);
-    if (result.ec == std::errc::result_out_of_range) {
-        const bool isHuge =
-            std::any_of(begin, std::find(begin, end, '.'), [](char digit) { return digit != '0'; });
-        value = isHuge ? std::numeric_limits<double>::infinity() : 0.0;
-    }
-    return value;
-}
-
 }  // namespace
 
 double FormulaReader::read() {
@@ -117,7 +83,7 @@ double FormulaReader::read() {
 
 /// condition ? value : value
 double FormulaReader::choice() {
-    const double condition = binary(orLevel);
+    const double condition = binary(0);
     if (*m_at != '?') {
         return condition;
     }
@@ -138,7 +104,7 @@ double FormulaReader::binary(int loosest) {
     double left = sign();
     while (peekOperator()) {
         const Operator op = m_operator;
-        const int binding = bindingLevels[static_cast<std::size_t>(op)];
+        const int binding = static_cast<int>(op) >> 4;
         if (binding < loosest) {
             break;
         }
@@ -270,7 +236,7 @@ double FormulaReader::power() {
 double FormulaReader::operand() {
     skipBlanks();
     if (isDigit(*m_at)) {
-        return number();
+        return readDecimal(m_at);
     }
     if (isLetter(*m_at)) {
         return name(peekWord());
@@ -284,27 +250,6 @@ double FormulaReader::operand() {
     const double value = choice();
     expect(')', Fault::ParenthesisOpen);
     return value;
-}
-
-double FormulaReader::number() {
-    const char* const begin = m_at;
-    std::uint64_t digits = 0;
-    int count = 0;
-    for (; isDigit(*m_at); ++m_at, ++count) {
-        digits = digits * 10 + static_cast<unsigned>(*m_at - '0');
-    }
-    const int whole = count;
-    if (*m_at == '.' && isDigit(m_at[1])) {
-        for (++m_at; isDigit(*m_at); ++m_at, ++count) {
-            digits = digits * 10 + static_cast<unsigned>(*m_at - '0');
-        }
-    }
-    // Up to 15 digits both the digits and the power of ten are exact, and so is their quotient
-    // but for its one rounding.
-    if (count > 15) {
-        return longNumber(begin, m_at);
-    }
-    return static_cast<double>(digits) / powersOfTen[static_cast<std::size_t>(count - whole)];
 }
 
 double FormulaReader::name(const Word& word) {

@@ -55,7 +55,6 @@ private:
     double sign();
     double power();
     double operand();
-    double number();
     double name(const Word& word);
     double call(const Word& word);
     double extreme(double first, bool largest);

@@ -2,6 +2,11 @@
 
 namespace fleetwright {
 
+/// Reads the number at `place`, decimal digits with or without a point and more digits, and moves
+/// `place` behind it. The nearest double, however many digits there are; infinity above all of
+/// them.
+double readDecimal(const char*& place);
+
 /// The rounding of the game's fractions, decided on the decimal text of `x` with at most 15
 /// significant digits: with a point in that text, `x` is cut toward zero and 1 is added; without
 /// one, `x` is rounded to the nearest whole number, ties to even.
