@@ -44,7 +44,6 @@ TEST(PictureFormats, AllThatKeepColoursScanAlike) {
     // What is transparent is white paper, and half a mark is none.
     const std::pair<const char*, QImage> images[] = {
         {"a.png", plain},
-        {"a.bmp", plain},
         {"twice@2x.png", plain},
         {"profile.png", profiled},
         {"palette.png", palette},

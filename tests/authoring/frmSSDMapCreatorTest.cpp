@@ -90,7 +90,6 @@ TEST_F(MapCreator, ScansWhatIsSelectedAndTakesItsSize) {
               Places({{105, 645, 15000, 6000}, {15205, 645, 4200, 6000}, {0, 0, 19680, 6740}}));
     window.txtOutput.type("old");
     EXPECT_EQ(scanned(), largeMap);
-    EXPECT_EQ(blackPixels(), 0);
     select(small);
     window.chkCancel.press();  // without a scan it cancels nothing
     EXPECT_EQ(scanned(), smallMap);
@@ -214,7 +213,6 @@ TEST_F(MapCreator, ANewMapIsOfferedAtOnceAndAKnownOneAtTheNextStart) {
     save("SIZE: 36\r\n", "nowhere/x.map");
     EXPECT_TRUE(window.cmdSaveIt.toolTip().starts_with("Not saved: \"" + folder.path().string() +
                                                        "/nowhere/x.map\" "));
-    EXPECT_EQ(desktop.log, "");
 }
 
 }  // namespace

@@ -59,7 +59,6 @@ TEST(RasterSheet, GrowsWhiteAndIsCutAtTheBottom) {
 TEST(RasterSheet, PrintsLinesThatEndInCr) {
     DrawnSheet sheet(20, 32, 7);
     EXPECT_EQ(sheet.textHeight(""), 0);
-    EXPECT_EQ(sheet.textHeight("a"), 16);
     EXPECT_EQ(sheet.textHeight("\ra\r\r"), 48);
     EXPECT_EQ(sheet.print("1\rI!", {9, 1}).y, 33);
     expectGolden(sheet.raster, "lines.txt");
@@ -70,14 +69,19 @@ TEST(RasterSheet, PrintsCharactersOfAllKinds) {
     // Narrow, accented, put together, wide, a blank, invisible ones, unknown, no UTF-8 at all.
     sheet.print("éß e\u0301Ж漢\t\u200B\n|\U0001F680\xFF", {0, 0});
     expectGolden(sheet.raster, "characters.txt");
-    // What has no picture moves nothing.
-    for (const char* const ends : {"\x01\x1F\x7F", "\u0080\u009F\u00AD", "\u200B\u200F\u2028\u202E",
-                                   "\u2060\u206F\uFE00\uFE0F\uFEFF"}) {
-        DrawnSheet other(8, 16, Sheet::white), plain(8, 16, Sheet::white);
-        other.print(std::string(ends) + "I", {0, 0});
-        plain.print("I", {0, 0});
-        EXPECT_EQ(pictureOf(other.raster), pictureOf(plain.raster));
+    const auto printed = [](const std::string& text) {
+        DrawnSheet other(32, 16, Sheet::white);
+        other.print(text, {0, 0});
+        return pictureOf(other.raster);
+    };
+    EXPECT_EQ(printed("\x01\x1F\x7F\u0080\u009F\u00AD\u200B\u200F\u2028\u202E\u2060\u206F\uFE00"
+                      "\uFE0F\uFEFFI"),
+              printed("I"));
+    for (const char* const some : {" ", "~", "\u00A0", "\u00AC", "\u00AE", "\u200A", "\u2010",
+                                   "\u2027", "\u202F", "\u205F", "\u2070", "\uFE10", "\uFF00"}) {
+        EXPECT_NE(printed(some + std::string("I")), printed("I")) << some;
     }
+    EXPECT_EQ(printed("\uFFFE"), printed("\uFFFD")) << "the font ends in front of it";
 }
 
 TEST(RasterSheet, PrintsEachLineOfASheetWithInkInTheColumnOfTheTrim) {
