@@ -1,6 +1,10 @@
 #include "CatalogueFile.h"
 
+#include "CatalogueCheck.h"
 #include "Error.h"
+#include "caseFile.h"
+#include "faults.h"
+#include "files.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>
@@ -11,64 +15,54 @@ using namespace fleetwright;
 
 namespace {
 
-/// All records of a catalogue, "name|mass|cost|arcs|icon" each.
+/// All records of a catalogue, "name|mass|cost|arcs|icon" each, as a ship has them.
 std::string recordsOf(std::string_view catalogue) {
     const ShipYard yard(catalogue);
     const auto ship = yard.newShip();
     std::string text;
     WeapRec record;
     for (std::int32_t index = 0; index < ship->g_lWeapCount;) {
-        ship->listWeap(index, record);
+        const bool isFollowed = ship->listWeap(index, record);
+        EXPECT_EQ(isFollowed, index < ship->g_lWeapCount);
         EXPECT_EQ(record.amount, 0);
         text += std::string(record.name) + '|' + std::string(record.massform) + '|' +
                 std::string(record.costform) + '|' + std::string(record.arclist) + '|' +
                 std::string(record.icon) + '\n';
     }
+    EXPECT_THROW(ship->listWeap(ship->g_lWeapCount, record), std::out_of_range);
     return text;
 }
 
+/// A catalogue without a fault, to which a case adds one.
+const std::string sound = "CATEGORY,0,0,beam,Guns,O,guns.gif\n"
+                          "Gun,amount,amount,BEAM,GUNS,FPSAB,gun.gif\n"
+                          "a,1,1,x,DEFENSE,6,a.gif\nb,1,1,x,HEAVY,O,b.gif\n"
+                          "c,1,1,x,HANGAR,OX,c.gif\nd,1,1,x,ALIEN,F,d.gif\n"
+                          "Cloaking Field,1,1,x,SPECIAL,O,e.gif\n"
+                          "Damage Control Party,1,1,x,systems,O,f.gif\n";
+
 }  // namespace
 
-TEST(Catalogue, TakesFieldsUntrimmedAndTheSeventhWhole) {
-    EXPECT_EQ(recordsOf("a,b,c,d,e,f,g,h.gif\r\n"), "a|b|c|f|g,h.gif\n");
-    EXPECT_EQ(recordsOf(" a , b ,c,d,e, f , g "), " a | b |c| f | g \n");
-    EXPECT_EQ(recordsOf("a,,,,,,"), "a||||\n");
-    EXPECT_EQ(recordsOf("CATEGORY,1,2,BEAM,KEY,O,k.gif\ncategory,1,2,3,4,5,6"),
-              "CATEGORY|1|2|O|k.gif\ncategory|1|2|5|6\n");
-}
-
-TEST(Catalogue, RepeatsTheLastPieceOfAShortLine) {
-    EXPECT_EQ(recordsOf("word"), "word|word|word|word|word\n");
-    EXPECT_EQ(recordsOf("a,b"), "a|b|b|b|b\n");
-    EXPECT_EQ(recordsOf("a,b,"), "a|b|||\n");
-}
-
-TEST(Catalogue, PassesOverCommentsAndEmptyLines) {
-    EXPECT_EQ(recordsOf("# c\r\n\r\n\n#\r #x,1,2,3,4,5,6\rb,1,2,3,4,5,6\n# end"),
-              " #x|1|2|5|6\nb|1|2|5|6\n");
-    EXPECT_EQ(recordsOf(""), "");
-    EXPECT_EQ(recordsOf("L\xE9ger,1,2,3,4,5,6"), "Léger|1|2|5|6\n");
-}
-
-TEST(Catalogue, CountsExactlyAndFindsTheLastCloak) {
-    for (const int count : {1, 50, 51, 52, 61, 62, 1000}) {
-        std::string catalogue;
-        for (int i = 0; i < count; ++i) {
-            catalogue += "system " + std::to_string(i) + ",1,1,BEAM,BEAM,F,x.gif\n";
-        }
-        const ShipYard yard(catalogue);
-        EXPECT_EQ(yard.newShip()->g_lWeapCount, count);
+TEST(Catalogue, CutsLinesIntoFields) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"a,b,c,d,e,f,g,h.gif\r\n", "a|b|c|f|g,h.gif\n"},
+        {" a , b ,c,d,e, f , g ", " a | b |c| f | g \n"},
+        {"a,,,,,,", "a||||\n"},
+        {"CATEGORY,1,2,BEAM,KEY,O,k.gif", "CATEGORY|1|2|O|k.gif\n"},
+        {"word", "word|word|word|word|word\n"},
+        {"a,b", "a|b|b|b|b\n"},
+        {"a,b,", "a|b|||\n"},
+        {"# c\r\n\r\n\n#\r #x,1,2,3,4,5,6\rb,1,2,3,4,5,6\n# end", " #x|1|2|5|6\nb|1|2|5|6\n"},
+        {"", ""},
+        {"L\xE9ger,1,2,3,4,5,6", "Léger|1|2|5|6\n"}};
+    for (const auto& [catalogue, records] : cases) {
+        EXPECT_EQ(recordsOf(catalogue), records) << catalogue;
     }
-    // Two cloaks: the last one counts for the rule, the first one for its name.
-    const ShipYard yard(
-        "Gun,1,1,B,B,F,a\nCloaking Field,1,1,B,B,F,b\nCloaking Field,1,1,B,B,F,c\n");
-    const auto ship = yard.newShip();
-    ship->Hull(Merchant);
-    EXPECT_TRUE(ship->addWeap("Cloaking Field", 1));
-    EXPECT_TRUE(ship->addWeap("Gun", 1));
+    // An empty first line of a ship file goes on with what the catalogue has left.
+    EXPECT_EQ(ShipYard("a,b,c,d,e,f,Mass:9").loaded("\nFoo: 1")->mass(), 9);
 }
 
-TEST(CatalogueFile, IsReadOnceUntilItChanges) {
+TEST(Catalogue, IsReadOnceUntilItChanges) {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder.path() / "weaps.dat";
     const CatalogueFile file(path);
@@ -92,4 +86,16 @@ TEST(CatalogueFile, IsReadOnceUntilItChanges) {
     std::filesystem::remove(path);
     EXPECT_THROW(file.read(), FileError);
     EXPECT_EQ(first->lines().at(0).icon, "a");
+}
+
+TEST(Catalogue, IsCheckedLineByLine) {
+    EXPECT_EQ(textOf(checkCatalogue(sound)), "");
+    EXPECT_EQ(textOf(checkCatalogue(readTextFile(SOURCE_FOLDER "/data/weaps.dat"))), "");
+    expectCases("core/golden/catalogues.txt", [](const Case& given) {
+        const CatalogueText whole = given["whole"];
+        const CatalogueText added = sound + given["added"];
+        const bool isWhole = !whole.text().empty();
+        return textOf(checkCatalogue(isWhole ? whole : added)) + "start\n" +
+               textOf(checkCatalogue(isWhole ? whole : added, CatalogueCheck::Start));
+    });
 }

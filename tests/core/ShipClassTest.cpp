@@ -1,46 +1,78 @@
-#include "testShip.h"
+// What others see of a ship while it works, and what they can do to it.
 
 #include "Error.h"
+#include "designWords.h"
+#include "testShip.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 using namespace fleetwright;
 
 using ShipClassTest = NewShip;
 
-TEST_F(ShipClassTest, WorksOutTheFiguresOfKnownDesigns) {
-    const auto design = [&](std::int32_t hull, std::int32_t mass, std::int16_t thrust,
-                            std::int32_t ftl, std::int32_t armor, std::int16_t streamline) {
-        ship->Hull(hull);
-        ship->mass(mass);
-        ship->THRUST(thrust);
-        ship->FTL(ftl);
-        ship->Armor(armor);
-        ship->Streamline(streamline);
-        return std::to_string(ship->hullFigures().hullCost) + ": " + figures(*ship);
-    };
-    EXPECT_EQ(design(1, 50, 4, 1, 2, 1), "175: 425 25 4 3 3 25");
-    EXPECT_EQ(design(3, 150, 3, 0, 0, 0), "225: 1125 38 6 4 4 113");
-    EXPECT_EQ(design(2, 30, 1, 1, 0, 0), "45: 105 8 3 1 1 3");
-    EXPECT_EQ(design(4, 7, 0, 0, 0, 0), "14: 14 4 2 1 1 4");
+namespace {
+
+std::string g_evaluated;
+
+/// Says what it was asked, and answers 1.
+std::int32_t recordCall(char* text, std::int32_t mass, std::int32_t hull, std::int32_t ftl,
+                        std::int32_t thrust, std::int32_t hullCost, std::int32_t amount) {
+    for (const std::int32_t number : {mass, hull, ftl, thrust, hullCost, amount}) {
+        g_evaluated += std::to_string(number) + ' ';
+    }
+    g_evaluated += std::string(text) + '|';
+    return 1;
 }
 
-TEST_F(ShipClassTest, EachWriteRecalculatesOnceAndMarksTheShip) {
+/// Writes into the text that it is given.
+std::int32_t writeIntoText(char* text, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
+                           std::int32_t, std::int32_t) {
+    std::copy_n("42", 3, text);
+    return 0;
+}
+
+ShipServices with(ShipServices services, FormulaFunction formula) {
+    services.formula = formula;
+    return services;
+}
+
+}  // namespace
+
+TEST_F(ShipClassTest, SystemsAreEvaluatedCostFirstForAllPiecesTogether) {
+    ShipClass recorded(with(yard.services(), recordCall));
+    recorded.mass(20);
+    recorded.addWeap("Gun", 3);
+    g_evaluated.clear();
+    recorded.Armor(2);
+    EXPECT_EQ(std::exchange(g_evaluated, {}), "20 1 1 2 60 3 6 * amount|20 1 1 2 60 3 2 * amount|");
+    EXPECT_EQ(recorded.previewWeapCost("Screen", 5), 1);
+    std::string formula = "mass";
+    EXPECT_EQ(recorded.weapCalc(formula), 1);
+    EXPECT_EQ(std::exchange(g_evaluated, {}),
+              "20 1 1 2 60 5 3 * mass * amount|20 1 1 2 60 1 mass|");
+    recorded.addWeap("Gun", -3);
+    recorded.weapChange();
+    EXPECT_EQ(g_evaluated, "");
+}
+
+TEST_F(ShipClassTest, AnEvaluatorMayRewriteTheText) {
+    ShipClass rewritten(with(yard.services(), writeIntoText));
+    rewritten.previewWeapCost("Gun", 1);
+    WeapRec record;
+    std::int32_t index = rewritten.weapNameToIndex("Gun");
+    rewritten.listWeap(index, record);
+    EXPECT_EQ(std::string(record.costform) + ' ' + std::string(record.massform), "42 2 * amount");
+    std::string formula = "thrust";
+    rewritten.weapCalc(formula);
+    EXPECT_EQ(formula, "42");
+}
+
+TEST_F(ShipClassTest, NamesAndMarksAreWrittenWithoutAWord) {
     EventLog events(*ship);
-    const std::vector<std::function<void()>> writes = {
-        [&] { ship->mass(10); },     [&] { ship->Armor(1); }, [&] { ship->Streamline(1); },
-        [&] { ship->Hull(2); },      [&] { ship->FTL(3); },   [&] { ship->THRUST(4); },
-        [&] { ship->weapChange(); }, [&] { ship->Armor(3); }, [&] { ship->Streamline(-1); },
-    };
-    for (const auto& write : writes) {
-        ship->g_bSaved = true;
-        write();
-        EXPECT_EQ(events.take(), "( )");
-        EXPECT_FALSE(ship->g_bSaved);
-    }
-    ship->g_bSaved = true;
     ship->g_sShipName = "Name";
     ship->g_bAutoMass = true;
     EXPECT_EQ(events.take(), "");
@@ -62,66 +94,157 @@ TEST_F(ShipClassTest, ListenersSeeTheMarkThatBelongsToTheEvent) {
     EXPECT_TRUE(ship->g_bSaved);
 }
 
-TEST_F(ShipClassTest, AListenerThatThrowsLeavesTheShipAsItWas) {
+TEST_F(ShipClassTest, ASaveIsDoneWhateverAListenerThrows) {
+    const Connection fault = ship->ShipSaved.connect([] { throw OverflowError(); });
     ship->mass(30);
-    ship->g_bSaved = true;
-    const std::string before = figures(*ship);
-    Connection fault = ship->Recalculated.connect([] { throw std::runtime_error("fault"); });
-    const std::vector<std::function<void()>> writes = {
-        [&] { ship->mass(150); },         [&] { ship->Hull(Merchant); },
-        [&] { ship->FTL(TugDrive); },     [&] { ship->THRUST(8); },
-        [&] { ship->Armor(2); },          [&] { ship->Streamline(2); },
-        [&] { ship->addWeap("Gun", 3); },
-    };
-    for (const auto& write : writes) {
-        EXPECT_THROW(write(), std::runtime_error);
-        EXPECT_EQ(figures(*ship), before);
-        EXPECT_EQ(ship->hullFigures().hullCost, 60);
-        EXPECT_TRUE(ship->g_bSaved);
-        EXPECT_FALSE(ship->isBusy());
-    }
-    fault = Connection();
-    ship->weapChange();
-    EXPECT_EQ(figures(*ship), before);
-}
-
-TEST_F(ShipClassTest, HoldsValuesToTheirBounds) {
-    for (const std::int32_t mass : {1, 0, -7, INT32_MIN}) {
-        ship->mass(mass);
-        EXPECT_EQ(ship->mass(), 2);
-    }
-    ship->THRUST(9);
-    EXPECT_EQ(ship->THRUST(), 8);
-    ship->THRUST(-1);
-    EXPECT_EQ(ship->THRUST(), 0);
-    ship->Armor(2);
-    ship->Armor(3);
-    EXPECT_EQ(ship->Armor(), 2);
-    ship->Streamline(2);
-    ship->Streamline(7);
-    EXPECT_EQ(ship->Streamline(), 2);
-}
-
-TEST_F(ShipClassTest, OverflowLeavesTheShipAsItWas) {
-    ship->mass(150'000'000);
-    ship->g_bSaved = true;
-    const std::string before = figures(*ship);
-    EventLog events(*ship);
-    const std::vector<std::function<void()>> writes = {
-        [&] { ship->mass(2'000'000'000); },
-        [&] { ship->FTL(30); },
-        [&] { ship->THRUST(8); },
-        [&] { ship->addWeap("Giant", 1); },
-        [&] { ship->addWeap("Gun", 250'000'000); },
-    };
-    for (const auto& write : writes) {
-        EXPECT_THROW(write(), OverflowError);
-    }
-    EXPECT_EQ(figures(*ship), before);
-    EXPECT_EQ(ship->mass(), 150'000'000);
-    EXPECT_EQ(ship->FTL(), 1);
+    std::string name = (yard.folder().path() / "done").string();
+    EXPECT_TRUE(ship->saveShip(name));
+    EXPECT_FALSE(ship->fileFault());
     EXPECT_TRUE(ship->g_bSaved);
-    EXPECT_EQ(events.take(), "( ( ( ( (");
-    ship->addWeap("Gun", 1);
-    EXPECT_EQ(ship->g_iMassLeft, 74'999'998);
+    EXPECT_EQ(ship->g_sSaveName, name);
+    EXPECT_EQ(yard.folder().read("done.shp"), ship->shipFile());
+}
+
+TEST_F(ShipClassTest, ASaveTakesTheNameAndAFailureLeavesIt) {
+    EventLog events(*ship);
+    std::string name = (yard.folder().path() / "a.b.SHP").string();
+    ASSERT_TRUE(ship->saveShip(name));
+    EXPECT_EQ(name, (yard.folder().path() / "a.b.SHP.shp").string());
+    EXPECT_EQ(ship->g_sTrimmedFileName, "a.b.SHP");
+    EXPECT_TRUE(yard.folder().read("a.b.SHP.shp").starts_with("Ship Name: Generic\r\nDesigner"));
+    EXPECT_EQ(events.take(), "saved");
+    ship->weapChange();
+    const ShipState before = ship->state();
+    std::string bad = (yard.folder().path() / "missing" / "x.shp").string();
+    EXPECT_FALSE(ship->saveShip(bad));
+    EXPECT_EQ(ship->fileFault(), (Fault{0, "cannot be saved: No such file or directory"}));
+    EXPECT_EQ(ship->state(), before);
+    EXPECT_EQ(events.take(), "( )");
+}
+
+TEST_F(ShipClassTest, FileNamesAreCutAtEitherSeparator) {
+    const std::pair<const char*, const char*> names[] = {
+        {"C:\\ships\\abc.txt", "abc"}, {"naïveté", "naï"}, {"x.shp", "x"}, {".shp", ""}};
+    for (const auto& [file, trimmed] : names) {
+        EXPECT_TRUE(
+            ship->loadShip(yard.folder().write(file, "Armor: Level 2\r\n\r\nMass: 9\rFTL: Tug")));
+        EXPECT_EQ(ship->g_sTrimmedFileName, trimmed);
+        EXPECT_EQ(ship->mass() + ship->Armor() + ship->FTL(), 14);
+    }
+    EXPECT_FALSE(ship->loadShip(yard.folder().write("abc", "Mass: 7")));
+    EXPECT_EQ(ship->fileFault(), (Fault{0, "file name is too short"}));
+    EXPECT_EQ(ship->mass(), 7);
+    EXPECT_FALSE(ship->loadShip((yard.folder().path() / "none.shp").string()));
+    EXPECT_EQ(ship->fileFault(), (Fault{0, "cannot be read: No such file or directory"}));
+    EXPECT_EQ(yard.loaded("Armor: Level 1 ")->fileFault(), (Fault{1, "\"\" is no number"}));
+}
+
+TEST_F(ShipClassTest, AutoMassRunsOnePassInsideTheOther) {
+    ship->mass(50);
+    ship->addWeap("Ballast", 35);
+    EventLog events(*ship);
+    ship->g_bAutoMass = true;
+    ship->weapChange();
+    EXPECT_EQ(events.take(), "( ( ( ( ( ( ( ( ( ( ( ) ) ) ) ) ) ) ) ) ) )");
+}
+
+TEST_F(ShipClassTest, ListenersMayChangeTheShipWhileAutoMassGivesUp) {
+    ship->mass(50);
+    ship->addWeap("Wobble", 1);
+    int writes = 0;
+    int unsettled = 0;
+    const Connection unsettledEvent = ship->AutoMassUnsettled.connect([&] { ++unsettled; });
+    // A window that writes back whatever mass it is shown.
+    const Connection window = ship->Recalculated.connect([&] {
+        if (++writes < 5) {
+            ship->mass(ship->mass());
+        }
+    });
+    ship->g_bAutoMass = true;
+    ship->weapChange();
+    EXPECT_EQ(ship->mass(), 50);
+    EXPECT_EQ(unsettled, 1);
+    EXPECT_LE(writes, 6);
+}
+
+TEST_F(ShipClassTest, WritesOfListenersSettleTogetherWithAutoMass) {
+    ship->FTL(NoDrive);
+    std::string shown = "2";
+    // As the window does: it shows the mass, and what it shows it writes.
+    const Connection window = ship->Recalculated.connect([&] {
+        const std::string mass = std::to_string(ship->mass());
+        if (std::exchange(shown, mass) != mass) {
+            ship->mass(std::stoi(mass));
+        }
+    });
+    ship->mass(40);
+    ship->g_bAutoMass = true;
+    ship->weapChange();
+    EXPECT_EQ(shown, "0");
+    EXPECT_EQ(ship->mass(), 0);
+    ship->addWeap("Sponge", 1);
+    EXPECT_EQ(shown, std::to_string(ship->mass()));
+}
+
+TEST_F(ShipClassTest, ATurnOfTheEventLoopMayChangeTheShip) {
+    ShipServices services = yard.services();
+    int turns = 0;
+    std::function<void()> inTurn;
+    services.eventLoopTurn = [&] {
+        ++turns;
+        if (inTurn) {
+            std::exchange(inTurn, {})();
+        }
+    };
+    ShipClass turning(services);
+    turning.mass(50);
+    turning.addWeap("Ballast", 15);
+    EXPECT_EQ(turns, 0);
+    // What a turn throws ends the act, and the ship is as it was.
+    turning.g_bAutoMass = true;
+    const ShipState before = turning.state();
+    inTurn = [] { throw std::runtime_error("turn"); };
+    EXPECT_THROW(turning.weapChange(), std::runtime_error);
+    EXPECT_EQ(turning.state(), before);
+    EXPECT_FALSE(turning.isBusy());
+    turns = 0;
+    turning.weapChange();
+    EXPECT_EQ(turns, 10);
+    // The user takes all that was to be fitted off the ship.
+    inTurn = [&] {
+        EXPECT_TRUE(turning.isBusy());
+        turning.addWeap("Ballast", -15);
+    };
+    turning.weapChange();
+    EXPECT_EQ(turning.mass(), 0);
+    EXPECT_EQ(turning.g_iMassLeft, 0);
+}
+
+TEST(SizeNames, ChangeAtTheirBounds) {
+    const struct {
+        std::int32_t most;
+        const char *shipClass, *designation;
+    } ranges[] = {{1, "Escort", "Scout"},
+                  {2, "Escort", "Courier"},
+                  {4, "Escort", "Scout"},
+                  {6, "Escort", "Corvette"},
+                  {10, "Escort", "Frigate"},
+                  {14, "Escort", "Destroyer"},
+                  {18, "Escort", "Super Destroyer"},
+                  {22, "Cruiser", "Light Cruiser"},
+                  {26, "Cruiser", "Escort Cruiser"},
+                  {36, "Cruiser", "Heavy Cruiser"},
+                  {40, "Capital", "Battle Cruiser"},
+                  {48, "Capital", "BattleShip"},
+                  {70, "Capital", "BattleDreadnought"},
+                  {100, "Capital", "SuperDreadnought"},
+                  {2'000'000'000, "Supership", "SuperShip"}};
+    std::int32_t least = -5;
+    for (const auto& [most, shipClass, designation] : ranges) {
+        for (const std::int32_t mass : {least, most}) {
+            EXPECT_EQ(classOf(mass), shipClass) << mass;
+            EXPECT_EQ(designationOf(mass), designation) << mass;
+        }
+        least = most + 1;
+    }
 }
