@@ -37,11 +37,12 @@ void Acts::act(const Work& change) {
     }
     {
         const Scope scope(*this, false);
-        const ShipState before = m_subject.state();
+        const Work goBack = m_subject.remember();
         try {
             change();
         } catch (const OverflowError&) {
-            m_subject.undo(before);
+            goBack();
+            m_subject.overflowed();
         }
     }
     runWaiting();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ShipState.h"
-
 #include <deque>
 #include <functional>
 
@@ -23,14 +21,15 @@ namespace fleetwright {
 /// One thread only. What is thrown besides OverflowError goes through, and leaves this in order.
 class Acts {
 public:
+    using Work = std::function<void()>;
+
     /// What the acts work on.
     struct Subject {
-        std::function<bool()> isThere;     ///< not before the load or behind the end
-        std::function<ShipState()> state;  ///< what an act begins with
-        /// Goes back to that state, shows it and says why: a number became too large.
-        std::function<void(const ShipState&)> undo;
+        std::function<bool()> isThere;  ///< not before the load or behind the end
+        /// Remembers the state as it is: what it returns goes back to that state and shows it.
+        std::function<Work()> remember;
+        Work overflowed;  ///< an act was undone because a number became too large
     };
-    using Work = std::function<void()>;
 
     explicit Acts(Subject subject);
     Acts(const Acts&) = delete;

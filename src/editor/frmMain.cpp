@@ -19,8 +19,8 @@ frmMain::frmMain(MainWindowServices services)
             .border = Border::FixedMin}),
       m_services(std::move(services)),
       m_acts({.isThere = [this] { return g_Ship != nullptr; },
-              .state = [this] { return g_Ship->state(); },
-              .undo = [this](const ShipState& before) { undoAct(before); }}),
+              .remember = [this] { return [this, state = g_Ship->state()] { goBackTo(state); }; },
+              .overflowed = [this] { sbStatus.setText("Number too large"); }}),
       m_context{.form = *this,
                 .g_Ship = g_Ship,
                 .acts = m_acts,
@@ -105,11 +105,11 @@ void frmMain::RefreshScreen() {
     previews.show(row);
 }
 
-void frmMain::undoAct(const ShipState& before) {
-    const bool isAutoMassOther = g_Ship->g_bAutoMass != before.g_bAutoMass;
-    g_Ship->restore(before);
+void frmMain::goBackTo(const ShipState& state) {
+    const bool isAutoMassOther = g_Ship->g_bAutoMass != state.g_bAutoMass;
+    g_Ship->restore(state);
     if (isAutoMassOther) {  // where it is not, a load may have left the mark on
-        mass.markAutoMass(before.g_bAutoMass);
+        mass.markAutoMass(state.g_bAutoMass);
     }
     aboard.show();
     try {
@@ -117,8 +117,7 @@ void frmMain::undoAct(const ShipState& before) {
     } catch (const OverflowError&) {
         // A ship that a file has brought out of range is shown as far as it goes.
     }
-    g_Ship->g_bSaved = before.g_bSaved;
-    sbStatus.setText("Number too large");
+    g_Ship->g_bSaved = state.g_bSaved;  // whatever the buttons have clicked
 }
 
 void frmMain::tmrRefreshScreen_Timer() {

@@ -90,7 +90,7 @@ protected:
 
 private:
     void RefreshScreen();
-    void undoAct(const ShipState& before);
+    void goBackTo(const ShipState& state);
     void tmrRefreshScreen_Timer();
 
     // The ship and its events.

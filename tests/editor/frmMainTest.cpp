@@ -1,188 +1,420 @@
-#include "ShownWindow.h"
+// The main window as its user meets it: what is done, a line each, and what then changes of what
+// can be seen. The lines stand in files of cases.
+
+#include "testWindow.h"
+
+#include "Error.h"
+#include "caseFile.h"
+#include "forSeeds.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <ranges>
+#include <set>
 
 using namespace fleetwright;
 
-using MainWindow = ShownWindow;
+namespace {
 
-TEST(FrmMain, LoadsInOrderAndShowsASavedShip) {
-    TestWindow test("CATEGORY,0,0,BEAM,Guns,O,guns.gif\n# comment\n\nGun,1,1,x,guns,F,gun,1.gif\n");
-    EXPECT_FALSE(test.window().g_bLoaded);
-    test.window().load();
-    EXPECT_EQ(test.takeLog(), "Preparing to load weapons; picture: images/guns.gif; "
-                              "Loading: Gun; paint; picture: images/gun,1.gif; Weapons Loaded; ");
-    EXPECT_TRUE(test.window().g_bLoaded);
-    EXPECT_FALSE(test.window().isVisible());
-    EXPECT_EQ(test.ship().g_sDesignerName, "Somebody");
-    EXPECT_TRUE(test.ship().g_bSaved);
-    EXPECT_EQ(test.window().mass.txtMass.text() + test.window().figures.txtCost.text() +
-                  test.window().mass.lblMassLeft.caption() + test.window().figures.txtClass.text() +
-                  test.window().names.txtDesigner.text(),
-              "271EscortSomebody");
-    std::string nodes;
-    for (const TreeView::Node& node : test.window().tree.tvWeapons.nodes()) {
-        nodes += node.key + (node.parent == nullptr ? "" : '<' + node.parent->key) + ' ';
+namespace fs = std::filesystem;
+
+std::vector<std::string> parts(const std::string& text, const std::string& separator) {
+    std::vector<std::string> found;
+    for (const auto part : std::views::split(text, separator)) {
+        found.emplace_back(part.begin(), part.end());
     }
-    EXPECT_EQ(nodes, "BEAM DEFENSE HEAVY SYSTEMS HANGAR SPECIAL ALIEN GUNS<BEAM Gun<GUNS ");
-    EXPECT_EQ(test.window().aboard.lvCurrentWeapons.columns()[0].width, 2055);
-    EXPECT_EQ(test.window().aboard.lvCurrentWeapons.columns()[1].width, 1370);
+    return found;
 }
 
-TEST(FrmMain, FindsPicturesWhateverTheCaseOfTheirNames) {
-    TestWindow test("Gun,1,1,x,BEAM,F,GUN.gif\nScreen,1,1,x,BEAM,F,Screen.gif\n");
-    test.folder().write("images/Gun.GIF", "");
-    test.window().load();
-    EXPECT_EQ(test.takeLog(),
-              "Preparing to load weapons; Loading: Gun; paint; picture: images/Gun.GIF; "
-              "Loading: Screen; paint; picture: images/Screen.gif; Weapons Loaded; ");
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
+}
+
+using Controls = std::map<std::string, Control*>;
+
+/// Adds what is in a container, at any depth, by its names.
+void collect(const Container& container, Controls& controls) {
+    for (Control* const control : container.controls()) {
+        controls[control->name()] = control;
+        if (const auto* const inside = dynamic_cast<const Container*>(control)) {
+            collect(*inside, controls);
+        }
+    }
+}
+
+/// What changes on a control, as a text.
+std::string stateOf(const Control& control) {
+    const ControlDesign& design = control.design();
+    std::string text;
+    if (const auto* const list = dynamic_cast<const ListView*>(&control)) {
+        for (std::size_t row = 0; row < list->rows().size(); ++row) {
+            text += (row == 0 ? "" : ", ") + list->rows()[row].text + ' ' +
+                    list->rows()[row].subItem + (list->selected() == row ? "*" : "");
+        }
+    } else if (const auto* const tree = dynamic_cast<const TreeView*>(&control)) {
+        for (const TreeView::Node& node : tree->nodes()) {
+            text += node.isExpanded ? node.key + ' ' : "";
+        }
+    } else if (dynamic_cast<const DragImage*>(&control) != nullptr) {
+        text = std::to_string(control.place().left) + ',' + std::to_string(control.place().top);
+    } else if (dynamic_cast<const OptionButton*>(&control) != nullptr) {
+        EXPECT_EQ(control.isEnabled(), control.container()->isEnabled()) << control.name();
+        return design.isOn ? "on" : "off";
+    } else if (dynamic_cast<const Timer*>(&control) == nullptr) {
+        text = design.text + design.caption;
+    } else {
+        return {};
+    }
+    const bool isOpen =
+        dynamic_cast<const TextBox*>(&control) != nullptr && !design.isFlat && !design.isLocked;
+    return text + (design.isOn ? " on" : "") + (isOpen ? " open" : "") +
+           (design.isVisible ? "" : " hidden") + (design.isEnabled ? "" : " disabled");
+}
+
+/// The controls of a container in their order, with what of their designs stays as it is.
+std::string layoutOf(const Container& container, const std::string& indent = {}) {
+    std::string text;
+    for (const Control* const control : container.controls()) {
+        const ControlDesign& design = control->design();
+        const Place& place = design.place;
+        text += indent + design.name;
+        for (const int measure : {place.left, place.top, place.width, place.height}) {
+            text += ' ' + std::to_string(measure);
+        }
+        for (const std::string& words :
+             {design.caption, design.text, design.picture, design.toolTip, design.shortcut,
+              design.accessibleName, design.accessibleDescription}) {
+            text += words.empty() ? "" : " \"" + words + '"';
+        }
+        text += std::string(design.isFlat ? " flat" : "") + (design.isLocked ? " locked" : "") +
+                (design.isGraphical ? " graphical" : "") + (design.isVerbatim ? " verbatim" : "") +
+                (design.isOn ? " on\n" : "\n");
+        if (const auto* const inside = dynamic_cast<const Container*>(control)) {
+            text += layoutOf(*inside, indent + "  ");
+        }
+    }
+    return text;
+}
+
+/// Plays a case: does on a window what its lines say.
+class Play {
+public:
+    /// `before` is done before the window is shown; what that says is left to be seen.
+    explicit Play(const std::string& catalogue, const std::string& before = {})
+        : m_test(catalogue.empty() ? windowCatalogue : catalogue) {
+        collect(m_window, m_controls);
+        fs::create_directory(m_test.folder().path() / "ships");
+        m_window.tray.tray1.askAvailable = [this] { return m_hasTray; };
+        m_dragged = m_window.drag.imgDrag.DragWanted.connect([this] { m_says += "dragged; "; });
+        for (const std::string& line : parts(before, "\n")) {
+            doLine(line);
+        }
+        EXPECT_FALSE(m_window.g_bLoaded);
+        m_window.show();
+        EXPECT_TRUE(m_window.g_bLoaded);
+        m_says = m_window.sbStatus.text() + "; ";
+        if (before.empty()) {
+            m_test.takeLog();
+            m_says.clear();
+        }
+    }
+
+    std::string run(const std::string& acts) {
+        std::string text;
+        std::map<std::string, std::string> before = look();
+        for (const std::string& act : parts(acts, "\n")) {
+            EXPECT_NO_THROW(doLine(act)) << act;
+            std::string changes = m_test.takeLog() + std::exchange(m_says, {});
+            for (const auto& [name, state] : look()) {
+                std::string& old = before[name];
+                changes += old == state ? "" : name + ": " + (state.empty() ? "-" : state) + "; ";
+                old = state;
+            }
+            text += "> " + act + '\n';
+            changes.erase(changes.find_last_not_of(" |;,\n") + 1);
+            if (!changes.empty() && !act.starts_with("write ")) {
+                text += "  " + replaced(changes, "\n", " | ") + '\n';
+            }
+        }
+        return replaced(std::move(text), m_test.folder().path().string(), "APP");
+    }
+
+    /// The design as "write" takes it.
+    std::string shipFile() { return replaced(m_test.ship().shipFile(), "\r\n", "; "); }
+
+    /// What can be seen, by its names.
+    std::map<std::string, std::string> look() {
+        std::map<std::string, std::string> seen;
+        for (const auto& [name, control] : m_controls) {
+            seen[name] = stateOf(*control);
+        }
+        seen["frmMain"] = std::string(m_window.isLoaded() ? "" : "closed ") +
+                          (m_window.isVisible() ? "shown" : "hidden") +
+                          (m_window.state() == WindowState::Minimized ? " minimized" : "");
+        if (const ShipClass* const ship = m_window.g_Ship.get()) {
+            seen["ship"] =
+                std::to_string(ship->Hull()) + ' ' + std::to_string(ship->mass()) + ' ' +
+                std::to_string(ship->THRUST()) + ' ' + std::to_string(ship->FTL()) + ' ' +
+                std::to_string(ship->Armor()) + ' ' + std::to_string(ship->Streamline()) +
+                (ship->g_bAutoMass ? " AutoMass" : "") + (ship->g_bSaved ? " saved" : " changed");
+            std::string aboard;
+            for (const WeapRec& system : ship->systemsAboard()) {
+                EXPECT_EQ(amountInList(system.name), std::to_string(system.amount));
+                aboard += system.name;
+            }
+            EXPECT_EQ(aboard.empty(), m_window.aboard.lvCurrentWeapons.rows().empty());
+            EXPECT_EQ(m_window.hull.fraThrust.isEnabled(), !isBase(ship->Hull()));
+        }
+        for (const auto& file : fs::recursive_directory_iterator(m_test.folder().path())) {
+            if (file.path().filename().string().find(".shp") != std::string::npos) {
+                const std::string name =
+                    file.path().lexically_relative(m_test.folder().path()).string();
+                seen["file " + name] = replaced(m_test.folder().read(name), "\r\n", ", ");
+                m_seenFiles.insert(name);
+            }
+        }
+        for (const std::string& name : m_seenFiles) {
+            seen.emplace("file " + name, "gone");
+        }
+        return seen;
+    }
+
+    void doLine(const std::string& line) {
+        const std::string first = line.substr(0, line.find(' '));
+        const std::string rest = line.substr(std::min(line.size(), first.size() + 1));
+        if (first.empty()) {
+            return;
+        }
+        if (first == "overflow") {
+            throw OverflowError();
+        }
+        if (first == "in") {
+            doLater(rest.substr(0, rest.find(':')), rest.substr(rest.find(": ") + 2));
+        } else if (first == "write") {
+            m_test.folder().write(rest.substr(0, rest.find(' ')),
+                                  replaced(rest.substr(rest.find(' ') + 1), "; ", "\n"));
+        } else if (first == "age") {
+            const fs::path file = m_test.folder().path() / rest;
+            fs::last_write_time(file, fs::last_write_time(file) - std::chrono::seconds(10));
+        } else if (first == "remove") {
+            fs::remove_all(m_test.folder().path() / rest);
+        } else if (first == "cancel") {
+            m_test.file.reset();
+        } else if (first == "choose") {
+            m_test.file = (m_test.folder().path() / rest).string();
+        } else if (first == "set") {
+            set(rest);
+        } else {
+            const Controls& controls = m_dialog.contains(first) ? m_dialog : m_controls;
+            controls.contains(first) ? actOn(*controls.at(first), rest) : actOnForm(rest);
+        }
+    }
+
+private:
+    std::string amountInList(std::string_view name) {
+        const ListView& list = m_window.aboard.lvCurrentWeapons;
+        const auto row = list.find(name);
+        return row ? list.rows()[*row].subItem : "none";
+    }
+
+    void set(const std::string& what) {
+        const std::map<std::string, std::function<void()>> settings = {
+            {"answer yes", [this] { m_test.answer = Answer::Yes; }},
+            {"answer no", [this] { m_test.answer = Answer::No; }},
+            {"no confirmation", [this] { m_test.globals.g_bConfirmExit = false; }},
+            {"no hiding", [this] { m_test.globals.g_bHide = false; }},
+            {"tray", [this] { m_hasTray = true; }},
+            {"no tray", [this] { m_hasTray = false; }},
+            {"copies 2", [this] { m_test.copies = 2; }},
+            {"no paper", [this] { m_test.printerFails = true; }},
+            {"largest 4", [this] { m_test.globals.g_iLargestSSD = 4; }},
+            {"catalogue fault", [this] { m_test.catalogueFaults = "weaps.dat:3: double key\n"; }},
+            {"saved", [this] { m_test.ship().g_bSaved = true; }},
+            {"name", [this] { m_test.ship().g_sShipName = "Renamed"; }},
+            {"status", [this] { m_window.sbStatus.setText("message"); }},
+        };
+        settings.at(what)();
+    }
+
+    /// What is done in the next turn of the event loop, a box's included, or in the next dialog.
+    void doLater(const std::string& where, const std::string& what) {
+        const auto doAll = [this, what] {
+            for (const std::string& act : parts(what, what.starts_with("in ") ? "\n" : " / ")) {
+                doLine(act);
+            }
+        };
+        if (where == "turn") {
+            m_test.inTurn = doAll;
+        } else {
+            m_test.inDialog = [this, doAll](Form& form) {
+                collect(form, m_dialog);
+                doAll();
+                m_says += form.isLoaded() ? "" : form.name() + " closes; ";
+                m_dialog.clear();
+            };
+        }
+    }
+
+    void actOnForm(const std::string& how) {
+        if (how == "minimize") {
+            m_window.setState(WindowState::Minimized);
+        } else if (how == "restore") {
+            m_window.setState(WindowState::Normal);
+        } else if (how == "move") {
+            m_window.moveTo(1000, 2000);
+        } else {
+            m_says += m_window.unload() ? "" : "stays; ";
+        }
+    }
+
+    /// An act that a control of its kind takes.
+    void actOn(Control& control, const std::string& how) {
+        if (how == "point") {
+            m_says += replaced(control.toolTip(), "\n", " | ") + "; ";
+        } else if (how == "look") {
+            m_says += stateOf(control) + "; ";
+        } else if (auto* const button = dynamic_cast<Button*>(&control)) {
+            button->press();
+        } else if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
+            option->choose();
+        } else if (auto* const entry = dynamic_cast<MenuEntry*>(&control)) {
+            entry->choose();
+        } else if (auto* const arrows = dynamic_cast<UpDown*>(&control)) {
+            how == "up" ? arrows->pressUp() : arrows->pressDown();
+        } else if (auto* const timer = dynamic_cast<Timer*>(&control)) {
+            timer->tick();
+        } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
+            raise(how == "left" ? tray->onLeftClick : tray->onRightClick);
+        } else if (auto* const slider = dynamic_cast<Slider*>(&control)) {
+            slider->slide(std::stoi(how));
+            m_says += "of " + std::to_string(slider->max()) + " by " +
+                      std::to_string(slider->tickFrequency()) + ", " +
+                      std::to_string(slider->largeChange()) + " at " +
+                      std::to_string(m_window.aboard.frmSld->left()) + ',' +
+                      std::to_string(m_window.aboard.frmSld->top()) + ": " +
+                      stateOf(*m_dialog.at("lblAmount")) + "; ";
+        } else {
+            actOnPointed(dynamic_cast<PointedControl&>(control), how);
+        }
+    }
+
+    void actOnPointed(PointedControl& control, const std::string& how) {
+        auto* const box = dynamic_cast<TextBox*>(&control);
+        auto* const list = dynamic_cast<ListView*>(&control);
+        const MousePress at = {.button = RightButton, .x = 10.5, .y = 20.5};
+        const std::map<std::string, std::function<void()>> acts = {
+            {"click", [&] { control.click(); }},
+            {"double", [&] { control.doubleClick(); }},
+            {"right", [&] { control.pressMouse(at); }},
+            {"left", [&] { control.pressMouse({.button = LeftButton}); }},
+            {"middle", [&] { control.pressMouse({.button = MiddleButton}); }},
+            {"drag", [&] { control.moveMouse({.button = LeftButton, .x = 30, .y = 45}); }},
+            {"drag right", [&] { control.moveMouse(at); }},
+            {"drag both", [&] { control.moveMouse({.button = LeftButton | RightButton}); }},
+            {"release", [&] { control.releaseMouse({.button = LeftButton}); }},
+            {"release right", [&] { control.releaseMouse({.button = RightButton}); }},
+            {"drop", [&] { control.drop(m_window.drag.imgDrag); }},
+            {"drop another", [&] { control.drop(m_window.figures.txtCost); }},
+            {"enter", [&] { box->pressKey(EnterKey); }},
+            {"key", [&] { box->pressKey('x'); }},
+            {"leave", [&] { box->loseFocus(); }},
+        };
+        if (const auto known = acts.find(how); known != acts.end()) {
+            known->second();
+        } else if (box != nullptr) {
+            box->type(how);
+        } else if (list != nullptr && how == "tip") {
+            m_says += replaced(list->rowToolTip(list->rows()[0]), "\n", " | ") + "; ";
+        } else if (list != nullptr) {
+            list->select(static_cast<std::size_t>(std::stoi(how)));
+        } else if (TreeView& tree = m_window.tree.tvWeapons; how.starts_with("tip ")) {
+            m_says += replaced(tree.nodeToolTip(*tree.find(how.substr(4))), "\n", " | ") + "; ";
+        } else {
+            m_test.selectNode(how);
+        }
+    }
+
+    TestWindow m_test;
+    frmMain& m_window = m_test.window();
+    Controls m_controls;
+    Controls m_dialog;  ///< those of the dialog that is open
+    std::set<std::string> m_seenFiles;
+    bool m_hasTray = false;
+    std::string m_says;
+    Connection m_dragged;
+};
+
+}  // namespace
+
+TEST(FrmMain, ShowsWhatIsDone) {
+    for (const char* const file : {"design", "systems", "files", "acts"}) {
+        expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
+            return Play(each["catalogue"], each["before"]).run(each["acts"]);
+        });
+    }
+}
+
+TEST(FrmMain, IsLaidOutAsItIs) {
+    expectCases("editor/golden/layout.txt",
+                [](const Case&) { return layoutOf(TestWindow().window()); });
+}
+
+// An act that is too large changes nothing, and a file brings back all that was designed.
+TEST(FrmMain, ShowsADesignTheSameHoweverItCameAbout) {
+    const std::string catalogue =
+        std::string(windowCatalogue) + "Titan,2000000000,2000000000,x,HEAVY,F,titan.gif\n";
+    const std::vector<std::string> acts = parts(
+        "optWarship; optMerchant; optQship; optStarBase; optSpaceStation; optQstation; optTug; "
+        "optPartStreamline; optFullStreamling; optNoStreamline; optNoArmor0; optNoArmor1; "
+        "optNoArmor2; optNone; optNormal; optThrust0; optThrust5; optThrust8; mnuFrigate; "
+        "mnuTAnker; mnuFleetCarrier; updwnMass_1 up; updwnMass_1 down; updwnMass_10 up; "
+        "updwnMass_5 up; updwnMass_5 down; tvWeapons Gun; tvWeapons Screen; tvWeapons Sponge; "
+        "tvWeapons Giant; tvWeapons Titan; tvWeapons double; tvWeapons double; mnuAddWeap3; "
+        "mnuAddWeapEx20; lvCurrentWeapons double; lvCurrentWeapons 0",
+        "; ");
+    // What is not of the design: files, what is selected, and the order in which systems came.
+    const auto design = [](Play& play) {
+        auto seen = play.look();
+        std::erase_if(seen, [](const auto& each) {
+            return each.first.find("mnu") == 0 || each.first.find("file") == 0 ||
+                   each.first.find("lblWeap") == 0 || each.first == "sbStatus";
+        });
+        std::vector<std::string> rows =
+            parts(replaced(seen.extract("lvCurrentWeapons").mapped(), "*", ""), ", ");
+        std::sort(rows.begin(), rows.end());
+        return std::pair(seen, rows);
+    };
+    forSeeds([&](std::mt19937& random) {
+        Play play(catalogue);
+        play.doLine("set saved");
+        for (int count = 0; count < 150; ++count) {
+            const auto before = design(play);
+            play.doLine("set status");
+            const int chosen = anyOf(random, 0, static_cast<int>(acts.size()) - 1);
+            play.doLine(acts[static_cast<std::size_t>(chosen)]);
+            if (play.look()["sbStatus"] == "Number too large") {
+                EXPECT_EQ(design(play), before) << acts[static_cast<std::size_t>(chosen)];
+            }
+        }
+        Play other(catalogue);
+        other.doLine("write a.shp " + play.shipFile());
+        other.doLine("choose a.shp");
+        other.doLine("mnuLoad");
+        play.doLine("set saved");
+        EXPECT_EQ(design(play), design(other));
+    });
 }
 
 TEST(FrmMain, WithoutACatalogueSaysSoAndEnds) {
     TestWindow test;
-    std::filesystem::remove(test.folder().path() / "weaps.dat");
+    fs::remove(test.folder().path() / "weaps.dat");
     EXPECT_THROW(test.window().load(), EndOfProgram);
     EXPECT_EQ(test.takeLog(), "box: Error Creating Ship Object; ");
     EXPECT_FALSE(test.window().g_bLoaded);
-}
-
-TEST_F(MainWindow, StatusOutlivesOneTickAndNotTwo) {
-    window.sbStatus.setText("message");
-    window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.sbStatus.text(), "message");
-    window.sbStatus.setText("message");
-    window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.sbStatus.text(), "");
-    window.sbStatus.setText("other");
-    window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.sbStatus.text(), "other");
-}
-
-TEST_F(MainWindow, ATickBehindABoxInALoadIsAnActOfItsOwn) {
-    test.inTurn = [&] {
-        window.tmrRefreshScreen.tick();
-        EXPECT_EQ(window.sbStatus.text(), "Number too large");
-    };
-    EXPECT_FALSE(window.files.loadFile(
-        test.folder().write("big.shp", "Mass: 2000000000\nSystem: Nothing, 1\n")));
-    for (int tick = 0; tick < 2; ++tick) {
-        window.tmrRefreshScreen.tick();
-    }
-    EXPECT_EQ(window.sbStatus.text() + window.mass.txtMass.text(), "2");
-}
-
-TEST_F(MainWindow, TickShowsWhatWasWrittenWithoutARecalculation) {
-    test.ship().g_sShipName = "Renamed";
-    window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.names.txtShipName.text(), "Renamed");
-    window.figures.txtCost.type("9999");
-    window.tmrRefreshScreen.tick();
-    EXPECT_EQ(window.figures.txtCost.text(), "7");
-    EXPECT_TRUE(test.ship().g_bSaved);
-}
-
-TEST_F(MainWindow, PreviewsEndSilentlyWhereNothingIsSelected) {
-    window.hull.optThrust[4].choose();
-    EXPECT_EQ(test.previews(), "  |  ");
-    test.selectNode("Screen");
-    window.tree.tvWeapons.click();
-    EXPECT_EQ(test.previews(), "1 6 |  ");
-    window.tree.tvWeapons.doubleClick();
-    EXPECT_EQ(test.previews(), "1 6 |  ");
-    window.aboard.lvCurrentWeapons.select(0);
-    window.aboard.lvCurrentWeapons.click();
-    EXPECT_EQ(test.previews(), "1 6 | 1 6");
-    window.tree.tvWeapons.doubleClick();
-    window.mass.updwnMass_5.pressUp();
-    EXPECT_EQ(test.previews(), "6 156 | 12 312");
-    test.selectNode("DEFENSE");
-    window.tree.tvWeapons.click();
-    EXPECT_EQ(test.previews(), "6 156 | 12 312");
-    window.tmrRefreshScreen.tick();
-    EXPECT_EQ(test.previews(), "  | 12 312");
-    window.tree.cmdCollapseAll.press();
-    // A category without systems counts as one, and no ship knows it.
-    test.takeLog();
-    test.selectNode("ALIEN");
-    window.tree.tvWeapons.click();
-    EXPECT_EQ(test.takeLog(), "box: Couldn 't find the weapon; box: Couldn 't find the weapon; ");
-    EXPECT_EQ(test.previews(), "0 0 | 12 312");
-}
-
-TEST_F(MainWindow, PointingAtAFigureOrASystemExplainsIt) {
-    EXPECT_EQ(window.figures.txtCost.toolTip(), "       4  Warship hull of mass 2\n"
-                                                "       2  FTL drive: Normal\n"
-                                                "       1  Thrust 2\n"
-                                                "       7  = Cost");
-    test.selectNode("Gun");
-    window.tree.mnuAddWeap[1].choose();
-    EXPECT_EQ(window.mass.lblMassLeft.toolTip(),
-              "       1  Free mass of the Warship hull of mass 2\n"
-              "      -4  2 x Gun\n"
-              "      -3  = Mass left");
-    EXPECT_EQ(window.figures.txtDP.toolTip(), "       1  Warship hull of mass 2\n"
-                                              "       1  = Damage points");
-    const std::string gun = window.tree.tvWeapons.nodeToolTip(*window.tree.tvWeapons.find("Gun"));
-    EXPECT_EQ(gun.substr(0, gun.find("\n\n")),
-              "1 x Gun\nMass: 2 = 2 * amount\nCost: 6 = 6 * amount\nArcs: FPS");
-    const std::string row =
-        window.aboard.lvCurrentWeapons.rowToolTip(window.aboard.lvCurrentWeapons.rows()[0]);
-    EXPECT_EQ(row.substr(0, row.find("\n\n")),
-              "2 x Gun\nMass: 4 = 2 * amount\nCost: 12 = 6 * amount\nArcs: FPS");
-    EXPECT_EQ(window.tree.tvWeapons.nodeToolTip(*window.tree.tvWeapons.find("BEAM")), "");
-    // Pointing at a category without systems is no act, and says nothing of unknown weapons.
-    test.takeLog();
-    EXPECT_EQ(window.tree.tvWeapons.nodeToolTip(*window.tree.tvWeapons.find("ALIEN")), "");
-    EXPECT_EQ(test.takeLog(), "");
-}
-
-TEST_F(MainWindow, CategoryButtonsOpenOneAndCloseTheRest) {
-    const auto open = [&] {
-        std::string text;
-        for (const TreeView::Node& node : window.tree.tvWeapons.nodes()) {
-            text += node.isExpanded ? node.key + ' ' : "";
-        }
-        return text;
-    };
-    window.tree.cmdBeams.press();
-    EXPECT_EQ(open(), "BEAM ");
-    window.tree.cmdSystems.press();
-    EXPECT_EQ(open(), "SYSTEMS ");
-    window.tree.cmdSystems.press();
-    EXPECT_EQ(open(), "");
-    window.tree.cmdExpandAll.press();
-    window.tree.cmdBeams.press();
-    EXPECT_EQ(open(), "");
-    const std::pair<Button*, const char*> buttons[] = {
-        {&window.tree.cmdDefense, "DEFENSE "}, {&window.tree.cmdHeavy, "HEAVY "},
-        {&window.tree.cmdHangars, "HANGAR "},  {&window.tree.cmdSpecial, "SPECIAL "},
-        {&window.tree.cmdAlien, "ALIEN "},
-    };
-    for (const auto& [button, expected] : buttons) {
-        button->press();
-        EXPECT_EQ(open(), expected);
-    }
-}
-
-TEST(FrmMain, ClosingAsksOnlyForAnUnsavedShipAndWhenItShould) {
-    for (const bool confirms : {false, true}) {
-        for (const bool isSaved : {false, true}) {
-            for (const Answer answer : {Answer::Yes, Answer::No}) {
-                TestWindow test;
-                test.window().show();
-                test.globals.g_bConfirmExit = confirms;
-                test.ship().g_bSaved = isSaved;
-                test.answer = answer;
-                test.takeLog();
-                const bool asks = confirms && !isSaved;
-                const bool closes = !asks || answer == Answer::Yes;
-                EXPECT_EQ(test.window().unload(), closes);
-                EXPECT_EQ(test.takeLog(),
-                          std::string(asks ? "box: Ship not saved, continue with exit? / Ship not "
-                                             "saved! yes-no info; "
-                                           : "") +
-                              (closes ? "free library; unload all; " : ""));
-                EXPECT_EQ(test.window().g_Ship == nullptr, closes);
-                EXPECT_EQ(test.window().state() == WindowState::Minimized, closes);
-            }
-        }
-    }
 }

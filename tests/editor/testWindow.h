@@ -35,10 +35,6 @@ public:
     std::string takeLog();
     /// Selects the node of a system in the tree.
     void selectNode(std::string_view key);
-    /// "name count, name count" of the list, with a * behind the selected row.
-    std::string list();
-    /// What the labels under tree and list show: "mass cost | mass cost".
-    std::string previews();
     const TemporaryFolder& folder() const { return m_folder; }
 
     Globals globals;
@@ -56,7 +52,7 @@ public:
     /// The program ends.
     std::function<void()> atEnd;
     /// A window without an owner is to be shown: "mapper", "viewer", "map creator" or "about".
-    std::function<void(const std::string&)> showOther;
+    std::function<void(const std::string&)> showOther = [](const std::string&) {};
     /// What the user chooses in file dialogs, and how many copies in the print dialog; nothing is
     /// Cancel.
     std::optional<std::string> file;
