@@ -77,7 +77,7 @@ void frmSSDMapCreator::cmdSelect_Click() {
         }
         resetImage(loadImage(*file));
     } catch (const std::exception& error) {
-        return selectNothing("No picture is selected: \"" + file.value_or("") + "\" " +
+        return selectNothing("No picture is selected: " + quote(file.value_or("")) + " " +
                              error.what());
     }
     m_sImageFile = *file;
@@ -142,7 +142,7 @@ void frmSSDMapCreator::cmdDoit_Click() {
             picImage.setPicture(emptyBox());
         }
     } catch (const Error& error) {
-        return selectNothing("No picture is selected: \"" + m_sImageFile + "\" " + error.what());
+        return selectNothing("No picture is selected: " + quote(m_sImageFile) + " " + error.what());
     }
     OnTop();
     setScanning(true);
@@ -155,7 +155,7 @@ void frmSSDMapCreator::cmdDoit_Click() {
     try {
         picImage.setPicture(currentImage());
     } catch (const Error& error) {
-        selectNothing("No picture is selected: \"" + m_sImageFile + "\" " + error.what());
+        selectNothing("No picture is selected: " + quote(m_sImageFile) + " " + error.what());
     }
     if (!isWhole) {
         txtOutput.setText("Operation Cancelled");
@@ -235,7 +235,7 @@ void frmSSDMapCreator::cmdSaveIt_Click() {
         }
         saveMap(file);
     } catch (const std::exception& error) {
-        cmdSaveIt.setToolTip("Not saved: \"" + file + "\" " + error.what());
+        cmdSaveIt.setToolTip("Not saved: " + quote(file) + " " + error.what());
     }
 }
 

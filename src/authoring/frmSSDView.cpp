@@ -1,6 +1,7 @@
 #include "frmSSDView.h"
 
 #include "Desktop.h"
+#include "Fault.h"
 #include "PictureFiles.h"
 #include "paths.h"
 
@@ -62,7 +63,7 @@ void frmSSDView::cmdSelect_Click() {
         cmdSelect.setToolTip("");
         fitWindow();
     } catch (const std::exception& error) {
-        cmdSelect.setToolTip("Still the picture before: \"" + file.value_or("") + "\" " +
+        cmdSelect.setToolTip("Still the picture before: " + quote(file.value_or("")) + " " +
                              error.what());
     }
 }

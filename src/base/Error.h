@@ -39,4 +39,9 @@ private:
     std::filesystem::path m_file;
 };
 
+/// Which file failed and why, as one line of text.
+inline std::string complaint(const FileError& error) {
+    return shownText(error.file().string()) + ": " + error.what();
+}
+
 }  // namespace fleetwright

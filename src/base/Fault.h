@@ -1,7 +1,10 @@
 #pragma once
 
+#include "text.h"
+
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -24,9 +27,9 @@ inline void sortByLine(std::vector<Fault>& faults) {
 
 /// A fault as one line of text: "FILE:LINE: what is wrong", or without the line where no single one
 /// is at fault.
-inline std::string complaint(const std::string& file, const Fault& fault) {
+inline std::string complaint(std::string_view file, const Fault& fault) {
     const std::string line = fault.line == 0 ? "" : std::to_string(fault.line) + ":";
-    return file + ":" + line + " " + fault.text;
+    return shownText(file) + ":" + line + " " + fault.text;
 }
 
 }  // namespace fleetwright

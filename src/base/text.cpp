@@ -101,6 +101,23 @@ std::string changeCase(std::string_view text, char firstOfAscii, std::string_vie
     return changed;
 }
 
+std::string replaced(std::string_view text, bool areLines) {
+    std::string shown;
+    shown.reserve(text.size());
+    while (!text.empty()) {
+        const std::string_view character = text.substr(0, characterLength(text));
+        const char32_t code = codePoint(text);
+        const bool isLayout = code == U'\n' || code == U'\t' || text.starts_with("\r\n");
+        if (code == U'\uFFFD' || (!onlyShows(code) && !(areLines && isLayout))) {
+            shown += "\uFFFD";
+        } else {
+            shown += character;
+        }
+        text.remove_prefix(character.size());
+    }
+    return shown;
+}
+
 }  // namespace
 
 std::size_t characterLength(std::string_view text) {
@@ -199,13 +216,36 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::string quote(std::string_view piece) {
-    std::string text = "\"";
-    for (const char c : piece) {
-        const bool isControl = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
-        text += isControl ? "\xEF\xBF\xBD" : std::string(1, c);
+bool onlyShows(char32_t character) {
+    const auto isWithin = [character](char32_t first, char32_t last) {
+        return character >= first && character <= last;
+    };
+    const bool isControl = isWithin(0, 0x1F) || isWithin(0x7F, 0x9F);
+    const bool endsLine = isWithin(0x2028, 0x2029);
+    const bool turns = character == 0x061C || isWithin(0x200E, 0x200F) ||
+                       isWithin(0x202A, 0x202E) || isWithin(0x2066, 0x2069);
+    return !isControl && !endsLine && !turns;
+}
+
+std::string shownText(std::string_view text, std::size_t most) {
+    if (text.size() <= most || characterCount(text) <= most) {
+        return replaced(text, false);
     }
-    return text + '"';
+    const std::size_t atEnd = most / 2;
+    const std::size_t end = withoutLastCharacters(text, atEnd).size();
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i < most - atEnd; ++i) {
+        begin += characterLength(text.substr(begin));
+    }
+    return replaced(text.substr(0, begin), false) + "…" + replaced(text.substr(end), false);
+}
+
+std::string shownLines(std::string_view text) {
+    return replaced(text, true);
+}
+
+std::string quote(std::string_view piece) {
+    return '"' + shownText(piece) + '"';
 }
 
 bool LineReader::next(std::string_view& line) {

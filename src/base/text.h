@@ -42,8 +42,21 @@ std::string toSmallLetters(std::string_view text);
 /// `text` without the blanks at both of its ends. Only the blank itself counts, no tab.
 std::string_view trimmed(std::string_view text);
 
-/// A piece of a file as the texts of faults show it: U+FFFD stands for a control character, for a
-/// NUL would cut the text off, and a terminal would obey the others.
+/// Whether a character does nothing but show: it controls nothing, ends no line and turns no
+/// direction of writing.
+bool onlyShows(char32_t character);
+
+/// A piece of text from outside, such as a name, a file's name or a line, as people get to see it:
+/// in a message, on a terminal, on the status line. U+FFFD stands for each character that does more
+/// than show, and for what is no UTF-8. Of a text of more than `most` characters the middle is
+/// left out, with "…" in its place.
+std::string shownText(std::string_view text, std::size_t most = 200);
+
+/// A whole text of ours that may hold pieces from outside: as above, but its line ends and tabs
+/// stay, and nothing is left out.
+std::string shownLines(std::string_view text);
+
+/// `shownText` between quotation marks.
 std::string quote(std::string_view piece);
 
 /// Takes a text apart into its lines, which end at CR, LF or CR LF. An end of line at the very

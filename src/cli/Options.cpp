@@ -4,6 +4,7 @@
 #include "applicationFolder.h"
 #include "helpText.h"
 #include "paths.h"
+#include "text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -97,7 +98,7 @@ private:
     std::string lastWord() const { return m_words[m_words.size() - m_left.size() - 1]; }
 
     static UsageError unknown(const std::string& word) {
-        return UsageError("unknown option " + withoutMark(word));
+        return UsageError("unknown option " + shownText(withoutMark(word)));
     }
 
     void refuseUnknown() const {
@@ -147,7 +148,7 @@ std::vector<std::string> readCommand(CommandRows commands, std::vector<std::stri
     const auto row =
         std::ranges::find_if(commands, [&](const CommandRow* each) { return each->name == *name; });
     if (row == commands.end()) {
-        throw UsageError("no command \"" + withoutMark(*name) + '"');
+        throw UsageError("no command " + quote(withoutMark(*name)));
     }
     options.command = *row;
     rest.erase(name);
@@ -184,7 +185,7 @@ void readWords(std::vector<std::string> words, Options& options) {
                          std::string(row.words));
     }
     if (options.words.size() > row.most) {
-        throw UsageError("one too many: " + options.words[row.most]);
+        throw UsageError("one too many: " + shownText(options.words[row.most]));
     }
     if (row.check != nullptr) {
         row.check(options);

@@ -10,11 +10,11 @@
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "checkMapPlaces.h"
+#include "console.h"
 #include "files.h"
 #include "paths.h"
 #include "text.h"
 
-#include <cstdio>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -60,8 +60,7 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options) {
         return {};  // said already, and without it every picture would seem unused
     }
     if (!fs::is_directory(images)) {
-        std::fprintf(stderr, "%s: not unpacked yet, so no picture was looked at\n",
-                     images.string().c_str());
+        complain(complaint(images.string(), {0, "not unpacked yet, so no picture was looked at"}));
         return {};
     }
     ToolPictures pictures(options.programFolder);
@@ -104,14 +103,14 @@ std::vector<Fault> checkFile(const Options& options, const std::string& file) {
         return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {
         const bool isOwn = error.file() == nativePath(file);
-        return {{0, (isOwn ? "" : error.file().string() + " ") + error.what()}};
+        return {{0, (isOwn ? "" : shownText(error.file().string()) + " ") + error.what()}};
     }
 }
 
 int runCheck(const Options& options) {
     int status = Done;
-    const auto complain = [&status](const std::string& file, const Fault& fault) {
-        std::printf("%s\n", complaint(file, fault).c_str());
+    const auto report = [&status](const std::string& file, const Fault& fault) {
+        printResults(resultLine(complaint(file, fault)));
         status = SomeRefused;
     };
     std::vector<std::string> files = options.words;
@@ -123,16 +122,16 @@ int runCheck(const Options& options) {
                     files.push_back(file.string());
                 }
             } catch (const FileError& error) {
-                complain(error.file().string(), {0, error.what()});
+                report(error.file().string(), {0, error.what()});
             }
         }
         for (const PictureFault& fault : checkDeliveredPictures(options)) {
-            complain(fault.file.string(), fault.fault);
+            report(fault.file.string(), fault.fault);
         }
     }
     for (const std::string& file : files) {
         for (const Fault& fault : checkFile(options, file)) {
-            complain(file, fault);
+            report(file, fault);
         }
     }
     return status;

@@ -1,10 +1,11 @@
 #include "commands.h"
 
+#include "console.h"
 #include "formulaFault.h"
 
 #include <charconv>
 #include <cstdint>
-#include <cstdio>
+#include <string>
 
 namespace fleetwright {
 
@@ -15,7 +16,8 @@ std::int32_t numberOf(std::string_view option, const std::string& text) {
     const char* const end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, number);
     if (result.ec != std::errc() || result.ptr != end) {
-        throw UsageError(std::string(option) + ": \"" + text + "\" is no whole number of 32 bits");
+        throw UsageError(std::string(option) + ": " + quote(text) +
+                         " is no whole number of 32 bits");
     }
     return number;
 }
@@ -29,11 +31,12 @@ int runEval(const Options& options) {
     const auto number = [&](std::string_view option) {
         return numberOf(option, options.value(option));
     };
-    std::printf("%d\n", formula_calculate(formula.data(), number("--mass"), number("--hull"),
-                                          number("--ftl"), number("--thrust"),
-                                          number("--hull-cost"), number("--amount")));
+    printResults(std::to_string(formula_calculate(
+                     formula.data(), number("--mass"), number("--hull"), number("--ftl"),
+                     number("--thrust"), number("--hull-cost"), number("--amount"))) +
+                 '\n');
     if (const auto fault = formulaFault(formula)) {
-        std::fprintf(stderr, "column %d: %s\n", fault->column, fault->text.c_str());
+        complain("column " + std::to_string(fault->column) + ": " + fault->text);
         return SomeRefused;
     }
     return Done;

@@ -1,8 +1,11 @@
 #include "commands.h"
 
 #include "ShipOnScreen.h"
+#include "text.h"
 
 #include <nlohmann/json.hpp>
+
+#include <cstdio>
 
 namespace fleetwright {
 
@@ -29,6 +32,23 @@ int runFigures(const Options& options) {
                            }
                            return figuresOf(options.words[index], screen.ship()) + '\n';
                        });
+}
+
+/// JSON whose characters all do nothing but show. They stand in its texts, where \u is the same.
+std::string withEscapes(std::string_view json) {
+    std::string text;
+    while (!json.empty()) {
+        const std::size_t length = characterLength(json);
+        if (const char32_t code = codePoint(json); onlyShows(code)) {
+            text += json.substr(0, length);
+        } else {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(code));
+            text += escape;
+        }
+        json.remove_prefix(length);
+    }
+    return text;
 }
 
 }  // namespace
@@ -58,7 +78,7 @@ std::string figuresOf(const std::string& file, ShipClass& ship) {
                           {"systems", systemsOf(ship)},
                           {"refused", std::move(refused)}};
     // A file name can hold bytes that are no text; the object must stay readable all the same.
-    return figures.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return withEscapes(figures.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
 constexpr OptionRow figuresOptions[] = {

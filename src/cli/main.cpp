@@ -1,10 +1,12 @@
 #include "CommandRow.h"
 #include "Error.h"
+#include "console.h"
 #include "files.h"
 #include "helpText.h"
 
 #include <cstdio>
 #include <exception>
+#include <string>
 
 namespace {
 
@@ -19,8 +21,8 @@ int run(int argc, char** argv) {
     return Done;
 }
 
-void complain(const UsageError& error) {
-    std::fprintf(stderr, "fleetwright-cli: %s (see fleetwright-cli --help)\n", error.what());
+void complainOf(const UsageError& error) {
+    complain(std::string("fleetwright-cli: ") + error.what() + " (see fleetwright-cli --help)");
 }
 
 }  // namespace
@@ -31,16 +33,16 @@ int main(int argc, char** argv) {
     try {
         status = run(argc, argv);
     } catch (const NoCommandError& error) {
-        complain(error);
+        complainOf(error);
         std::fputs(helpText(commandRows()).c_str(), stderr);
         return WrongUsage;
     } catch (const UsageError& error) {
-        complain(error);
+        complainOf(error);
         return WrongUsage;
     } catch (const FileError& error) {
-        std::fprintf(stderr, "%s: %s\n", error.file().string().c_str(), error.what());
+        complain(complaint(error));
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "fleetwright-cli: %s\n", error.what());
+        complain(std::string("fleetwright-cli: ") + error.what());
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         std::perror("standard output");

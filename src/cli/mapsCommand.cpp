@@ -3,9 +3,8 @@
 #include "SSDMaps.h"
 #include "SheetLists.h"
 #include "ShipOnScreen.h"
+#include "console.h"
 #include "frmMain.h"
-
-#include <cstdio>
 
 namespace fleetwright {
 
@@ -16,7 +15,7 @@ std::string mapsFor(const SSDMaps& maps, ShipOnScreen& screen) {
     const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
     std::string names;
     for (const std::string& name : fittingMaps(maps, screen.ship().mass(), count)) {
-        names += name + '\n';
+        names += resultLine(name);
     }
     return names;
 }
@@ -29,7 +28,7 @@ int runMaps(const Options& options) {
             [&maps](std::size_t, ShipOnScreen& screen) { return mapsFor(maps, screen); });
     }
     for (const SSDMaps::Map& map : maps.all()) {
-        std::printf("%s\n", map->sDisplayName.c_str());
+        printResults(resultLine(map->sDisplayName));
     }
     return Done;
 }

@@ -1,9 +1,8 @@
 #include "RecoveryFolder.h"
 #include "commands.h"
+#include "console.h"
 #include "files.h"
 #include "paths.h"
-
-#include <cstdio>
 
 namespace fleetwright {
 
@@ -20,7 +19,7 @@ int runRecovered(const Options& options) {
         RecoveryFolder::list(RecoveryFolder::ofUser());
     if (options.words.empty()) {
         for (const RecoveryFolder::Design& design : designs) {
-            std::printf("%s\n", design.name.c_str());
+            printResults(resultLine(design.name));
         }
         return Done;
     }
@@ -33,8 +32,7 @@ int runRecovered(const Options& options) {
             return Done;
         }
     }
-    std::fprintf(stderr, "%s\n",
-                 complaint(name, {0, "no design of this name was put aside"}).c_str());
+    complain(complaint(name, {0, "no design of this name was put aside"}));
     return SomeRefused;
 }
 

@@ -1,8 +1,7 @@
 #include "commands.h"
 
 #include "ShipOnScreen.h"
-
-#include <cstdio>
+#include "console.h"
 
 namespace fleetwright {
 
@@ -23,7 +22,7 @@ int runSave(const Options& options) {
     if (complaints.empty()) {
         return status;
     }
-    std::fprintf(stderr, "%s\n", complaints.c_str());
+    complain(complaints);
     return SomeRefused;
 }
 

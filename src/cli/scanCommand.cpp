@@ -4,12 +4,12 @@
 #include "OutlineScan.h"
 #include "PictureFiles.h"
 #include "ToolPictures.h"
+#include "console.h"
 #include "files.h"
 #include "inOrder.h"
 #include "paths.h"
 #include "text.h"
 
-#include <cstdio>
 #include <map>
 #include <thread>
 
@@ -20,6 +20,10 @@ namespace fs = std::filesystem;
 namespace {
 
 Result scanFile(PictureFiles& pictures, const std::string& file) {
+    if (nativePath(file).filename().string().find_first_of("\r\n") != std::string::npos) {
+        return {.output = {},
+                .complaints = {complaint(file, {0, "no map can name a file with a line break"})}};
+    }
     try {
         return {.output = scanOutline(pictures.load(nativePath(file)), file), .complaints = {}};
     } catch (const FileError& error) {
@@ -45,7 +49,7 @@ public:
     /// Throws Error.
     void write(const std::string& outline, const std::string& text) {
         if (m_output.empty()) {
-            std::fwrite(text.data(), 1, text.size(), stdout);
+            printResults(text);
             return;
         }
         saveFile(m_isFolder ? m_output / mapName(outline) : m_output, mapFileContents(text));
@@ -56,7 +60,8 @@ private:
         fs::path name = nativePath(outline).filename().replace_extension(".map");
         const auto [made, isNew] = m_made.try_emplace(toCapitals(name.string()), outline);
         if (!isNew) {
-            throw Error("the map \"" + name.string() + "\" is already made from " + made->second);
+            throw Error("the map " + quote(name.string()) + " is already made from " +
+                        shownText(made->second));
         }
         return name;
     }
@@ -70,14 +75,14 @@ int runScan(const Options& options) {
     ToolPictures pictures(options.programFolder);
     int status = Done;
     MapWriter writer(options);
-    const auto complain = [&status](const std::string& line) {
-        std::fprintf(stderr, "%s\n", line.c_str());
+    const auto refuse = [&status](const std::string& line) {
+        complain(line);
         status = SomeRefused;
     };
     const auto take = [&](std::size_t index, const Result& result) {
         const std::string& outline = options.words[index];
         for (const std::string& line : result.complaints) {
-            complain(line);
+            refuse(line);
         }
         if (!result.complaints.empty()) {
             return;
@@ -85,9 +90,9 @@ int runScan(const Options& options) {
         try {
             writer.write(outline, result.output);
         } catch (const FileError& error) {
-            complain(complaint(error.file().string(), {0, error.what()}));
+            refuse(complaint(error));
         } catch (const Error& error) {
-            complain(complaint(outline, {0, error.what()}));
+            refuse(complaint(outline, {0, error.what()}));
         }
     };
     inOrder(

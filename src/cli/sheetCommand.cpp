@@ -45,7 +45,7 @@ SheetOut sheetOut(const Options& options) {
     }
     const std::optional<std::string> format = sheetFormat(output);
     if (!format) {
-        throw UsageError("-o: a sheet is a .bmp, .png or .pdf file: " + output);
+        throw UsageError("-o: a sheet is a .bmp, .png or .pdf file: " + shownText(output));
     }
     if (format == "pdf") {
         return SheetOut::Document;
@@ -96,7 +96,7 @@ public:
         const fs::path& file = m_files[index];
         const auto first = m_firstShips.find(file);
         if (first != m_firstShips.end() && first->second != index) {
-            throw Error("another ship's sheet goes to " + pathText(file));
+            throw Error("another ship's sheet goes to " + shownText(pathText(file)));
         }
         return file;
     }
@@ -115,7 +115,7 @@ void save(const fs::path& file, std::string_view bytes) {
     try {
         saveFile(file, bytes);
     } catch (const FileError& error) {
-        throw Error(pathText(file) + ": " + error.what());
+        throw Error(complaint(error));
     }
 }
 

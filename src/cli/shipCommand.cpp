@@ -2,14 +2,11 @@
 
 #include "Error.h"
 #include "ShipOnScreen.h"
+#include "console.h"
 #include "inOrder.h"
 
 #include <cstdio>
 #include <thread>
-
-#if __has_include(<unistd.h>)
-#include <unistd.h>
-#endif
 
 namespace fleetwright {
 
@@ -39,16 +36,8 @@ public:
     }
 
 private:
-    static bool isWanted() {
-#if __has_include(<unistd.h>)
-        return isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
-#else
-        return false;
-#endif
-    }
-
     std::size_t m_count;
-    bool m_isWanted = isWanted();
+    bool m_isWanted = isTerminal(stderr) && !isTerminal(stdout);
     bool m_isShown = false;
 };
 
@@ -81,10 +70,10 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
         return result;
     };
     const auto print = [&](std::size_t index, const Result& result) {
-        std::fwrite(result.output.data(), 1, result.output.size(), stdout);
+        printResults(result.output);
         for (const std::string& line : result.complaints) {
             progress.clear();
-            std::fprintf(stderr, "%s\n", line.c_str());
+            complain(line);
             status = SomeRefused;
         }
         if (taken) {

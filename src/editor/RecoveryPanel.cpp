@@ -72,17 +72,17 @@ void RecoveryPanel::showRecovered() {
     try {
         designs = services().recovery->keepLeftBehind();
     } catch (const FileError& error) {
-        window().say(error.file().string() + ": " + error.what());
+        window().say(complaint(error));
     }
     if (designs.size() == 1) {
-        window().say("Recovered design: " + designs.front().file.string());
+        window().say("Recovered design: " + shownText(designs.front().file.string()));
     } else if (!designs.empty()) {
         std::string names;
         for (const RecoveryFolder::Design& design : designs) {
-            names += (names.empty() ? "" : ", ") + design.name;
+            names += (names.empty() ? "" : ", ") + shownText(design.name);
         }
         window().say("Recovered designs: " + names + " in " +
-                     designs.front().file.parent_path().string());
+                     shownText(designs.front().file.parent_path().string()));
     }
 }
 

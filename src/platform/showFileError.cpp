@@ -6,8 +6,7 @@
 namespace fleetwright {
 
 void showFileError(Desktop& desktop, const FileError& error) {
-    desktop.showMessage(error.file().string() + ": " + error.what(), "", Buttons::Ok,
-                        Icon::Critical);
+    desktop.showMessage(complaint(error), "", Buttons::Ok, Icon::Critical);
 }
 
 }  // namespace fleetwright

@@ -99,7 +99,7 @@ std::vector<Fault> PictureCheck::checkCatalogue(const CatalogueText& catalogue) 
         const Entry* const entry = find(icon);
         const auto fault = entry == nullptr ? "is missing" : systemPictureFault(entry->file);
         if (fault) {
-            faults.push_back({line.number, "picture \"" + icon + "\" " + *fault});
+            faults.push_back({line.number, "picture " + quote(icon) + " " + *fault});
         }
     }
     return faults;

@@ -71,7 +71,7 @@ void frmSplash::unpackOnFirstRun() {
     try {
         unpackImages(appFolder, runArchive);
     } catch (const FileError& error) {
-        fail(error.file().string() + ": " + error.what(), "");
+        fail(complaint(error), "");
     }
 }
 
@@ -83,7 +83,7 @@ void frmSplash::loadFormulaLibrary() {
             m_services.programs.function(globals.g_hFormulaLib, "formula_calculate"));
     }
     if (globals.formula == nullptr) {
-        m_services.desktop.showMessage("Can't Open DLL " + m_services.appFolder.string(),
+        m_services.desktop.showMessage("Can't Open DLL " + shownText(m_services.appFolder.string()),
                                        "File Open Error", Buttons::Ok, Icon::Critical);
         unload();
         throw EndOfProgram();

@@ -74,7 +74,7 @@ std::int16_t mapNumber(std::string_view text) {
 
 std::string_view withoutEnds(std::string_view value) {
     if (value.empty() || characterLength(value) == value.size()) {
-        throw Error('"' + std::string(value) + "\" is too short for a point");
+        throw Error(quote(value) + " is too short for a point");
     }
     value.remove_prefix(characterLength(value));
     value.remove_suffix(lastCharacter(value).size());

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 void SSDMaps::add(Map map) {
     const bool isNew = m_places.try_emplace(toCapitals(map->sDisplayName), m_maps.size()).second;
     if (!isNew) {
-        throw Error("there is a map \"" + map->sDisplayName + "\" already");
+        throw Error("there is a map " + quote(map->sDisplayName) + " already");
     }
     m_maps.push_back(std::move(map));
 }
@@ -21,7 +21,7 @@ void SSDMaps::add(Map map) {
 SSDMaps::Map SSDMaps::at(std::string_view displayName) const {
     const auto place = m_places.find(toCapitals(displayName));
     if (place == m_places.end()) {
-        throw Error("there is no map \"" + std::string(displayName) + '"');
+        throw Error("there is no map " + quote(displayName));
     }
     return m_maps[place->second];
 }

@@ -23,7 +23,7 @@ std::function<Raster(std::string_view)> filesIn(const std::filesystem::path& app
 }
 
 [[noreturn]] void failWithoutPicture(std::string_view system) {
-    throw Error("there is no picture of \"" + std::string(system) + '"');
+    throw Error("there is no picture of " + quote(system));
 }
 
 /// The name of the file that a ship's catalogue has for a system.

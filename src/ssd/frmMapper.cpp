@@ -120,7 +120,7 @@ void frmMapper::fail(const std::string& text, const std::string& title,
                      const std::exception& cause) {
     m_lastFault = cause.what();
     if (const auto* const error = dynamic_cast<const FileError*>(&cause)) {
-        m_lastFault = pathText(error->file()) + ": " + m_lastFault;
+        m_lastFault = complaint(*error);
     }
     m_services.desktop.showMessage(text, title, Buttons::Ok, Icon::Critical);
 }

@@ -1,5 +1,6 @@
 #include "formulaFault.h"
 
+#include "Fault.h"
 #include "FormulaReader.h"
 #include "text.h"
 
@@ -20,7 +21,7 @@ std::string quoted(std::string_view text) {
     };
     const auto wordEnd = std::find_if_not(text.begin(), text.end(), isWord);
     const auto length = static_cast<std::size_t>(wordEnd - text.begin());
-    return '"' + std::string(text.substr(0, length == 0 ? characterLength(text) : length)) + '"';
+    return quote(text.substr(0, length == 0 ? characterLength(text) : length));
 }
 
 std::string describe(FormulaReader::Fault fault, std::string_view rest) {

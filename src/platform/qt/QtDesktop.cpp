@@ -4,6 +4,7 @@
 #include "FormWindow.h"
 #include "Menu.h"
 #include "controlWidgets.h"
+#include "text.h"
 #include "widgetTools.h"
 
 #include <QApplication>
@@ -97,8 +98,9 @@ Answer QtDesktop::showMessage(const std::string& text, const std::string& title,
                               Icon icon) {
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName("messageBox");
-    box.setWindowTitle(title.empty() ? QApplication::applicationName() : toQt(title));
-    box.setText(toQt(text));
+    box.setWindowTitle(title.empty() ? QApplication::applicationName() : toQt(shownText(title)));
+    box.setTextFormat(Qt::PlainText);  // names in it are no markup
+    box.setText(toQt(shownLines(text)));
     switch (icon) {
     case Icon::None:
         break;
