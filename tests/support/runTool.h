@@ -11,9 +11,12 @@ struct ToolRun {
     std::string errors;  ///< what it wrote to standard error
 };
 
+/// What the tool takes for standard output.
+enum class ToolOutput { File, Terminal };
+
 /// Runs the delivered command line tool in `folder`, with nothing in its environment but what is
 /// given, "NAME=value".
 ToolRun runTool(const std::string& folder, std::vector<std::string> arguments,
-                std::string variable = {});
+                std::string variable = {}, ToolOutput kind = ToolOutput::File);
 
 }  // namespace fleetwright

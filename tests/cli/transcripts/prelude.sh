@@ -1,0 +1,37 @@
+# What the commands of the transcripts stand on.
+
+# The tool in an empty environment.
+fleetwright-cli() {
+    env -i "$APP/fleetwright-cli" "$@"
+}
+
+# picture FILE WIDTH HEIGHT [X Y COLOUR]...: a white picture but for these pixels, whose colours are
+# "R,G,B". What is in a picture tells its format, whatever its name.
+picture() {
+    echo "$@" | awk '{
+        for (i = 4; i < NF; i += 3) colours[$i, $(i + 1)] = $(i + 2)
+        print "P3", $2, $3, 255 >$1
+        for (y = 0; y < $3; y++)
+            for (x = 0; x < $2; x++) {
+                colour = ((x, y) in colours) ? colours[x, y] : "255,255,255"
+                gsub(",", " ", colour)
+                print colour >$1
+            }
+    }'
+}
+
+# completed NUMBER WORD...: what bash completes a command line with whose last word is the NUMBERth.
+completed() {
+    bash -c '. "$0"; COMP_CWORD=$1; shift; COMP_WORDS=(fleetwright-cli "$@"); _fleetwright_cli
+             echo "${COMPREPLY[@]}"' "$COMPLETION" "$@"
+}
+
+# A small catalogue and three ships: one sound, one that passes systems over, and one that does not
+# load.
+small_folder() {
+    printf '%s\r\n' 'Gun,2 * amount,6 * amount,BEAM,BEAM,FPS,gun.gif' \
+        'Cloaking Field,1,mass,SPECIAL,SPECIAL,O,cloak.gif' >weaps.dat
+    printf 'Ship Name: "Né"\nMass: 50\nThrust: 4\nSystem: Gun, 3\n' >good.shp
+    printf 'Type: Merchant\nSystem: Laser, 1\nSystem: Cloaking Field, 1\nSystem: Gun, 2\n' >part.shp
+    printf 'Mass: 10\nThrust: fast\n' >bad.shp
+}
