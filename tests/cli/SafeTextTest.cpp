@@ -2,6 +2,7 @@
 // the results, it does nothing but show.
 
 #include "TemporaryFolder.h"
+#include "forSeeds.h"
 #include "runTool.h"
 #include "text.h"
 
@@ -9,13 +10,14 @@
 
 #include <algorithm>
 #include <random>
+#include <sstream>
 
 using namespace fleetwright;
 
 namespace {
 
-std::string shuffled(std::vector<std::string> pieces, unsigned seed) {
-    std::shuffle(pieces.begin(), pieces.end(), std::mt19937(seed));
+std::string shuffled(std::vector<std::string> pieces, std::mt19937& random) {
+    std::ranges::shuffle(pieces, random);
     std::string text;
     for (const std::string& piece : pieces) {
         text += piece;
@@ -40,108 +42,130 @@ std::string faultOf(const std::string& text, bool areResults) {
 }
 
 /// A folder in which all that others write is hostile.
-class SafeText : public testing::TestWithParam<unsigned> {
-protected:
-    SafeText() {
-        m_folder.write("weaps.dat", "Gun" + line + ",2 * amount,amount,BEAM,BEAM,F,x.gif\n");
-        m_folder.write(name + ".shp", "Ship Name: " + line + "\nDesigner Name: " + line +
-                                          "\nSystem: Gun" + line + ", 1\nSystem: " + line +
-                                          longText + ", 1\nType: " + line + "\n" + line + ": 1\n");
-        m_folder.write("ships/bad" + name + ".shp", "Mass: " + line + "\n");
-        m_folder.write("old.shp", "Mass: \x81\x8D\x1B\n");  // Windows-1252
-        m_folder.write("maps/" + name + ".map", "IMAGE: x.gif\nSIZE: 10\nFTL: (1,1)\n");
-        m_folder.write("bad" + name + ".map", "IMAGE: " + line + "\nSIZE: " + line + "\n" + line +
-                                                  ": 1\nWEAP: (" + line + ",1," + line +
-                                                  ")\nDCP: " + line + longText + "\n");
-        m_folder.write("bad" + name + ".dat", "B," + line + ",1 + " + line + "," + line + "," +
-                                                  line + "," + line + "," + line + "\nB," + line +
-                                                  longText + "\n");
-        m_folder.write("images/" + name + ".gif", "none");
-        m_folder.write("FleetWright/recovered/" + name + ".shp", "");
+class HostileFolder {
+public:
+    explicit HostileFolder(std::mt19937& random)
+        : line(shuffled({"\x1B[31m", "\a", "\x7F", "\u009B2J", "\u061C", "\u200F", "\u202E",
+                         "\u2066", "\u2028", "\b", "\u00E9"},
+                        random)),
+          name(line + shuffled({"\nforged", "\r\nforged", "\x9B", "\xFF"}, random)) {
+        write("weaps.dat", "GunLINE,2 * amount,amount,BEAM,BEAM,F,x.gif\n");
+        write("NAME.shp", "Ship Name: LINE\nDesigner Name: LINE\nSystem: GunLINE, 1\n"
+                          "System: LONG, 1\nType: LINE\nLINE: 1\n");
+        write("ships/badNAME.shp", "Mass: LINE\n");
+        write("old.shp", "Mass: \x81\x8D\x1B\n");  // Windows-1252
+        write("maps/NAME.map", "IMAGE: x.gif\nSIZE: 10\nFTL: (1,1)\n");
+        write("badNAME.map", "IMAGE: LINE\nSIZE: LINE\nLINE: 1\nWEAP: (LINE,1,LINE)\nDCP: LONG\n");
+        write("badNAME.dat", "B,LINE,1 + LINE,LINE,LINE,LINE,LINE\nB,LONG\n");
+        write("images/NAME.gif", "none");
+        write("FleetWright/recovered/NAME.shp", "");
     }
 
-    ToolRun run(const std::vector<std::string>& arguments, ToolOutput kind) const {
+    /// Runs the tool with these words in this folder.
+    ToolRun run(const std::string& words, ToolOutput kind) const {
+        std::istringstream stream(words);
+        std::vector<std::string> arguments = {"--app", "."};
+        for (std::string word; stream >> word;) {
+            arguments.push_back(filled(word));
+        }
         const std::string folder = m_folder.path().string();
         return runTool(folder, arguments, "XDG_DATA_HOME=" + folder, kind);
     }
 
-    /// In a line of a file, and in a name or an argument.
-    const std::vector<std::string> pieces = {"\x1B[31m", "\a",     "\x7F",   "\u009B2J",
-                                             "\u061C",   "\u200F", "\u202E", "\u2066",
-                                             "\u2028",   "\b",     "\u00E9"};
-    const std::string line = shuffled(pieces, GetParam());
-    const std::string name =
-        line + shuffled({"\nforged", "\r\nforged", "\x9B", "\xFF"}, GetParam());
-    const std::string longText = std::string(1000, 'A');
+    const std::string line;  ///< for a line of a file
+    const std::string name;  ///< for a name or an argument
+
+private:
+    std::string filled(std::string text) const {
+        for (const auto& [mark, hostile] : {std::pair<std::string, std::string>("NAME", name),
+                                            {"LINE", line},
+                                            {"LONG", line + std::string(1000, 'A')}}) {
+            for (std::size_t at = 0; (at = text.find(mark)) != std::string::npos;) {
+                text.replace(at, mark.size(), hostile);
+            }
+        }
+        return text;
+    }
+
+    void write(const std::string& file, const std::string& contents) const {
+        m_folder.write(filled(file), filled(contents));
+    }
+
     TemporaryFolder m_folder;
 };
 
+constexpr const char* commandLines[] = {"report NAME.shp",
+                                        "explain NAME.shp",
+                                        "figures NAME.shp NAME",
+                                        "maps",
+                                        "maps NAME.shp",
+                                        "save NAME.shp NAME/none",
+                                        "save NAME out",
+                                        "recovered",
+                                        "recovered LONG out",
+                                        "recovered NAME NAME/none",
+                                        "sheet NAME.shp --map LONG",
+                                        "sheet NAME.shp",
+                                        "sheet NAME.shp -o NAME.jpeg",
+                                        "sheet NAME.shp --paper LONG",
+                                        "scan NAME",
+                                        "scan images/NAME.gif",
+                                        "scan weaps.dat -o NAME/none",
+                                        "check",
+                                        "check old.shp NAME.shp NAME",
+                                        "check badNAME.map badNAME.dat",
+                                        "--app NAME check",
+                                        "--app NAME unpack",
+                                        "--app LONG figures NAME.shp",
+                                        "unpack LONG",
+                                        "eval LONG",
+                                        "eval 1+NAME",
+                                        "eval 1 --mass LONG",
+                                        "NAME",
+                                        "LONG",
+                                        "--LONG",
+                                        "eval --LONG=1",
+                                        "maps -LONG"};
+
 }  // namespace
 
-TEST_P(SafeText, NothingFromOutsideDoesMoreThanShow) {
-    const std::string ship = name + ".shp";
-    const std::string argument = name + longText;
-    const std::vector<std::vector<std::string>> commandLines = {
-        {"report", ship},
-        {"explain", ship},
-        {"figures", ship, name},
-        {"maps"},
-        {"maps", ship},
-        {"save", ship, name + "/none"},
-        {"save", name, "out"},
-        {"recovered"},
-        {"recovered", argument, "out"},
-        {"recovered", name, name + "/none"},
-        {"sheet", ship, "--map", argument},
-        {"sheet", ship},
-        {"sheet", ship, "-o", name + ".jpeg"},
-        {"sheet", ship, "--paper", argument},
-        {"scan", name},
-        {"scan", "images/" + name + ".gif"},
-        {"scan", "weaps.dat", "-o", name + "/none"},
-        {"check"},
-        {"check", "old.shp", ship, name},
-        {"check", "bad" + name + ".map", "bad" + name + ".dat"},
-        {"--app", name, "check"},
-        {"--app", name, "unpack"},
-        {"--app", argument, "figures", ship},
-        {"unpack", argument},
-        {"eval", argument},
-        {"eval", "1 + " + argument},
-        {"eval", "1", "--mass", argument},
-        {argument},
-        {"--" + argument},
-        {"eval", "--" + argument + "=1"},
-        {"maps", "-" + argument},
-    };
-    for (const std::vector<std::string>& words : commandLines) {
-        for (const ToolOutput kind : {ToolOutput::File, ToolOutput::Terminal}) {
-            std::vector<std::string> arguments = {"--app", "."};
-            arguments.insert(arguments.end(), words.begin(), words.end());
-            const ToolRun seen = run(arguments, kind);
-            const std::string which = testing::PrintToString(words);
-            EXPECT_EQ(faultOf(seen.errors, false), "") << which << seen.errors;
-            const bool areComplaints = words.front() == "check";
-            if (kind == ToolOutput::Terminal || areComplaints || words.front() == "figures") {
-                EXPECT_EQ(faultOf(seen.output, !areComplaints), "") << which << seen.output;
+TEST(SafeText, NothingFromOutsideDoesMoreThanShow) {
+    forSeeds([](std::mt19937& random) {
+        const HostileFolder folder(random);
+        for (const std::string words : commandLines) {
+            for (const ToolOutput kind : {ToolOutput::File, ToolOutput::Terminal}) {
+                const ToolRun seen = folder.run(words, kind);
+                EXPECT_EQ(faultOf(seen.errors, false), "") << words << '\n' << seen.errors;
+                const bool areComplaints = words.find("check") != std::string::npos;
+                if (kind == ToolOutput::Terminal || areComplaints || words.starts_with("figures")) {
+                    EXPECT_EQ(faultOf(seen.output, !areComplaints), "") << words << '\n'
+                                                                        << seen.output;
+                }
             }
         }
-    }
+    });
 }
 
-TEST_P(SafeText, ResultsKeepTheirBytesInFiles) {
-    const auto output = [this](const std::vector<std::string>& arguments, ToolOutput kind) {
-        return run(arguments, kind).output;
-    };
-    const std::vector<std::string> explain = {"--app", ".", "explain", name + ".shp"};
-    EXPECT_TRUE(output(explain, ToolOutput::File).starts_with(line + '\n'));
-    EXPECT_TRUE(output(explain, ToolOutput::Terminal).starts_with(shownText(line) + '\n'));
-    const std::vector<std::string> maps = {"--app", ".", "maps"};
-    EXPECT_EQ(output(maps, ToolOutput::File), name + '\n');
-    EXPECT_EQ(output(maps, ToolOutput::Terminal), shownText(name) + '\n');
-    const std::vector<std::string> figures = {"--app", ".", "figures", name + ".shp"};
-    EXPECT_EQ(output(figures, ToolOutput::File), output(figures, ToolOutput::Terminal));
-    EXPECT_NE(output(figures, ToolOutput::File).find("\\u202e"), std::string::npos);
+TEST(SafeText, ResultsKeepTheirBytesInFiles) {
+    forSeeds([](std::mt19937& random) {
+        const HostileFolder folder(random);
+        const auto output = [&](const char* words, ToolOutput kind) {
+            return folder.run(words, kind).output;
+        };
+        EXPECT_TRUE(output("explain NAME.shp", ToolOutput::File).starts_with(folder.line + '\n'));
+        EXPECT_TRUE(output("explain NAME.shp", ToolOutput::Terminal)
+                        .starts_with(shownText(folder.line) + '\n'));
+        EXPECT_EQ(output("maps", ToolOutput::File), folder.name + '\n');
+        EXPECT_EQ(output("maps", ToolOutput::Terminal), shownText(folder.name) + '\n');
+        const std::string figures = output("figures NAME.shp", ToolOutput::File);
+        EXPECT_EQ(figures, output("figures NAME.shp", ToolOutput::Terminal));
+        EXPECT_NE(figures.find("\\u202e"), std::string::npos);
+    });
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, SafeText, testing::Values(1U, std::random_device()()));
+TEST(SafeText, ShowsTheBeginningAndTheEndOfWhatIsTooLong) {
+    const std::string whole = "é" + std::string(198, 'b') + "é";
+    EXPECT_EQ(shownText(whole), whole);
+    EXPECT_EQ(shownText(whole + "\x1B"),
+              "é" + std::string(99, 'b') + "…" + std::string(98, 'b') + "é\uFFFD");
+}

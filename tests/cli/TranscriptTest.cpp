@@ -1,8 +1,8 @@
 // Runs the sessions in transcripts/. A line "$ COMMAND" is typed into a shell that knows what
 // prelude.sh says; behind it stands what comes back: "> " from standard output, "! " from standard
 // error, "= " the exit status if it is not 0. All other lines are for the reader.
-//
-// With RENEW in the environment what comes back is written into the transcripts.
+// If something else comes back, the transcript as it would have to be is left in the folder of
+// temporary files.
 
 #include "TemporaryFolder.h"
 #include "files.h"
@@ -80,10 +80,9 @@ TEST_P(Transcript, ComesOutAsItIsWritten) {
     const fs::path file = transcripts / (GetParam() + ".txt");
     const std::string expected = readTextFile(file);
     const std::string text = played(expected);
-    if (std::getenv("RENEW") != nullptr) {
-        saveFile(file, text);
-    } else {
-        EXPECT_EQ(text, expected);
+    EXPECT_EQ(text, expected);
+    if (text != expected) {
+        saveFile(fs::temp_directory_path() / file.filename(), text);
     }
 }
 
