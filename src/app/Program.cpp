@@ -1,8 +1,10 @@
 #include "Program.h"
 
+#include "CatalogueCheck.h"
 #include "Error.h"
 #include "Globals.h"
 #include "PictureCache.h"
+#include "PictureCheck.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
@@ -12,9 +14,7 @@
 #include "QtSettingsStore.h"
 #include "QtSounds.h"
 #include "RecoveryFolder.h"
-#include "RunMarks.h"
 #include "applicationFolder.h"
-#include "catalogueFaults.h"
 #include "files.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
@@ -25,12 +25,12 @@
 #include "frmSplash.h"
 #include "paths.h"
 #include "sheetShip.h"
-#include "showFileError.h"
 
 #include <QApplication>
 #include <QDateTime>
 #include <QIcon>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 
@@ -43,18 +43,42 @@ std::string currentTime() {
     return QDateTime::currentDateTime().toString("yyyy-MM-dd HH.mm.ss").toStdString();
 }
 
+/// What keeps the catalogue in an application folder from being used, and its pictures where they
+/// are given, as one text to show: a line for each fault, up to ten. Empty if nothing does. A
+/// catalogue that cannot be read at all has no faults: the main window has messages of its own for
+/// that.
+std::string catalogueFaults(const CatalogueFile& file, PictureFiles* pictures = nullptr) {
+    constexpr std::size_t most = 10;
+    std::vector<Fault> faults;
+    try {
+        const std::shared_ptr<const CatalogueText> catalogue = file.read();
+        faults = checkCatalogue(*catalogue, CatalogueCheck::Start);
+        if (pictures != nullptr) {
+            PictureCheck check(file.path().parent_path() / "images", *pictures,
+                               PictureCheck::Start);
+            for (Fault& fault : check.checkCatalogue(*catalogue)) {
+                faults.push_back(std::move(fault));
+            }
+        }
+        sortByLine(faults);
+    } catch (const FileError&) {
+        return {};
+    }
+    std::string text;
+    for (std::size_t i = 0; i < std::min(faults.size(), most); ++i) {
+        text += complaint(file.path().string(), faults[i]) + '\n';
+    }
+    return text;
+}
+
 /// The services and the windows of the running program, joined.
 class Program {
 public:
     Program(QtDesktop& desktop, Run run)
         : m_appFolder(
               applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
-          m_desktop(desktop), m_sounds(m_appFolder), m_runs(RecoveryFolder::ofUser()),
-          m_recovery(
-              RecoveryFolder::ofUser(),
-              {.ownMark = m_runs.own(),
-               .isRunning = [this](const std::string& mark) { return m_runs.isRunning(mark); }},
-              currentTime),
+          m_desktop(desktop), m_sounds(m_appFolder),
+          m_recovery(RecoveryFolder::ofUser(), currentTime),
           m_splash(
               {.appFolder = m_appFolder,
                .desktop = desktop,
@@ -170,7 +194,6 @@ private:
     QtPrograms m_programs;
     QtPrinter m_printer;
     QtRegistry m_registry;
-    RunMarks m_runs;
     RecoveryFolder m_recovery;
     Globals m_globals;
     frmSplash m_splash;

@@ -7,13 +7,6 @@
 #include <string>
 #include <string_view>
 
-#if __has_include(<unistd.h>)
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
-
 namespace fleetwright {
 
 namespace fs = std::filesystem;
@@ -36,33 +29,6 @@ std::string newName() {
 
 }  // namespace
 
-#if __has_include(<unistd.h>)
-
-/// The lock of a file. It goes with its program, however that ends.
-class TemporaryFile::Lock {
-public:
-    /// Takes over `file`. One that could not be opened is not locked.
-    explicit Lock(int file) : m_file(file) {
-        if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-            m_fault = errno;
-        }
-    }
-    Lock(const Lock&) = delete;
-    Lock& operator=(const Lock&) = delete;
-    ~Lock() { close(m_file); }
-
-    bool isHeld() const { return m_fault == 0; }
-    /// Whether somebody has taken the file for one left behind, before it was locked.
-    bool isTaken() const {
-        struct stat file {};
-        return m_fault == EWOULDBLOCK || (fstat(m_file, &file) == 0 && file.st_nlink == 0);
-    }
-
-private:
-    int m_file;
-    int m_fault = 0;
-};
-
 void TemporaryFile::takeLeftOnesAway(const fs::path& folder) {
     std::error_code error;
     for (fs::directory_iterator entry(folder.empty() ? "." : folder, error);
@@ -71,25 +37,13 @@ void TemporaryFile::takeLeftOnesAway(const fs::path& folder) {
         if (!name.starts_with(beginning) || !name.ends_with(ending)) {
             continue;
         }
-        const Lock lock(
-            open(entry->path().c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        const FileLock lock(entry->path());
         if (lock.isHeld()) {
             std::error_code gone;
             fs::remove(entry->path(), gone);
         }
     }
 }
-
-#else
-
-class TemporaryFile::Lock {
-public:
-    static bool isTaken() { return false; }
-};
-
-void TemporaryFile::takeLeftOnesAway(const fs::path&) {}
-
-#endif
 
 TemporaryFile::TemporaryFile(const fs::path& beside, std::error_code& error) {
     const fs::path folder = beside.parent_path();
@@ -109,12 +63,8 @@ TemporaryFile::TemporaryFile(const fs::path& beside, std::error_code& error) {
             return;
         }
         m_path = path;
-#if __has_include(<unistd.h>)
-        m_lock = std::make_unique<Lock>(fcntl(fileno(m_stream), F_DUPFD_CLOEXEC, 0));
-#else
-        m_lock = std::make_unique<Lock>();
-#endif
-    } while (m_lock->isTaken());
+        m_lock.emplace(path);
+    } while (m_lock->isLost());
 }
 
 TemporaryFile::~TemporaryFile() {

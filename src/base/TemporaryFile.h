@@ -1,17 +1,18 @@
 #pragma once
 
+#include "FileLock.h"
+
 #include <cstdio>
 #include <filesystem>
-#include <memory>
+#include <optional>
 #include <system_error>
 
 namespace fleetwright {
 
 /// A new file beside another one, gone with this object unless it is renamed.
 ///
-/// Where the system has such locks, its name is locked as long as this object lives. So those that
-/// a kill has left behind are known by being free, and the first one that a program makes in a
-/// folder takes them away.
+/// It is locked as long as this object lives. Those that a kill has left behind are free, and the
+/// first one that a program makes in a folder takes them away.
 class TemporaryFile {
 public:
     /// Makes the file. If that fails, `error` says why.
@@ -27,13 +28,11 @@ public:
     void rename(const std::filesystem::path& target, std::error_code& error);
 
 private:
-    class Lock;
-
     static void takeLeftOnesAway(const std::filesystem::path& folder);
 
     std::filesystem::path m_path;
     std::FILE* m_stream = nullptr;
-    std::unique_ptr<Lock> m_lock;
+    std::optional<FileLock> m_lock;
 };
 
 }  // namespace fleetwright

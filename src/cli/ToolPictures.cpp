@@ -1,13 +1,30 @@
 #include "ToolPictures.h"
 
+#include "Error.h"
 #include "bmpFile.h"
 #include "files.h"
-#include "loadPictures.h"
+#include "modules.h"
+#include "picturesModule.h"
 #include "plainGif.h"
 
 #include <optional>
 
 namespace fleetwright {
+
+namespace {
+
+/// What knows of picture files and documents; it is loaded for as long as the program lives.
+/// Throws FileError.
+const Pictures& loadPictures(const std::filesystem::path& programFolder) {
+    const std::filesystem::path module = programFolder / picturesModule;
+    const auto create = moduleFunction<CreatePictures>(loadModule(module), "createPictures");
+    if (create == nullptr) {
+        throw FileError(module, "cannot be loaded");
+    }
+    return *create();
+}
+
+}  // namespace
 
 Raster ToolPictures::load(const std::filesystem::path& file) {
     if (std::optional<Raster> picture = plainGif(readBytes(file))) {

@@ -7,7 +7,6 @@
 #include "ReportPrinter.h"
 #include "clsMRUFiles.h"
 #include "paths.h"
-#include "showFileError.h"
 
 namespace fleetwright {
 

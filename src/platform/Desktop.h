@@ -7,6 +7,7 @@
 
 namespace fleetwright {
 
+class FileError;
 class Form;
 class MenuEntry;
 
@@ -58,6 +59,9 @@ public:
     /// What the screen has room for, in device-independent pixels.
     virtual ScreenSize screenSize() = 0;
 };
+
+/// Shows which file failed and why, in a message box.
+void showFileError(Desktop& desktop, const FileError& error);
 
 /// A desktop in front of which nobody sits.
 class NoDesktop : public Desktop {

@@ -2,17 +2,7 @@
 
 #include "paths.h"
 
-#include <system_error>
-
 namespace fleetwright {
-
-PictureCache::Stamp PictureCache::stampOf(const std::filesystem::path& file) {
-    std::error_code error;
-    Stamp stamp;
-    stamp.time = std::filesystem::last_write_time(file, error);
-    stamp.size = std::filesystem::file_size(file, error);
-    return stamp;
-}
 
 std::shared_ptr<PictureCache::Entry> PictureCache::entry(Entries& entries, const std::string& key) {
     const std::lock_guard lock(m_mutex);
@@ -27,7 +17,7 @@ Raster PictureCache::load(const std::filesystem::path& file) {
     const std::shared_ptr<Entry> known = entry(m_loaded, pathText(file));
     const std::lock_guard lock(known->mutex);
     // Taken before the decoding, so that a change in the meantime is seen the next time.
-    const Stamp stamp = stampOf(file);
+    const std::optional<FileStamp> stamp = fileStamp(file);
     if (!known->isDecoded || known->stamp != stamp) {
         known->picture = m_files.load(file);
         known->stamp = stamp;

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "FileStamp.h"
 #include "PictureFiles.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 namespace fleetwright {
@@ -26,23 +27,14 @@ public:
     Raster builtIn(const std::string& name) override;
 
 private:
-    /// What tells one state of a file from another.
-    struct Stamp {
-        std::filesystem::file_time_type time;
-        std::uintmax_t size = 0;
-
-        friend bool operator==(const Stamp&, const Stamp&) = default;
-    };
-
     struct Entry {
         std::mutex mutex;  // held while decoding, so that nobody else does it as well
         bool isDecoded = false;
-        Stamp stamp;
+        std::optional<FileStamp> stamp;
         Raster picture;
     };
     using Entries = std::map<std::string, std::shared_ptr<Entry>>;
 
-    static Stamp stampOf(const std::filesystem::path& file);
     std::shared_ptr<Entry> entry(Entries& entries, const std::string& key);
 
     PictureFiles& m_files;

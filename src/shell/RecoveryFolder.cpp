@@ -6,6 +6,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <random>
 #include <string_view>
 #include <system_error>
 
@@ -16,6 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view extension = ".shp";
+constexpr std::string_view lockExtension = ".lock";
 constexpr char beforeMark = '~';
 
 /// A ship's name as the name of a file: without what some file system does not take, and short.
@@ -62,14 +64,48 @@ fs::path RecoveryFolder::ofUser() {
     return userDataFolder() / "recovered";
 }
 
-RecoveryFolder::RecoveryFolder(fs::path folder, Runs runs, std::function<std::string()> now)
-    : m_folder(std::move(folder)), m_runs(std::move(runs)), m_now(std::move(now)) {}
+RecoveryFolder::RecoveryFolder(fs::path folder, std::function<std::string()> now)
+    : m_folder(std::move(folder)), m_now(std::move(now)) {}
+
+RecoveryFolder::~RecoveryFolder() {
+    if (m_lock) {
+        std::error_code ignored;
+        fs::remove(lockOf(m_mark), ignored);
+    }
+}
+
+fs::path RecoveryFolder::lockOf(const std::string& mark) const {
+    return m_folder / (mark + std::string(lockExtension));
+}
+
+/// Gives this run its mark, if it has none yet.
+void RecoveryFolder::takeMark() {
+    while (!m_lock || m_lock->isLost()) {
+        m_mark = std::to_string(std::random_device()());
+        saveFile(lockOf(m_mark), "");
+        m_lock.emplace(lockOf(m_mark));
+    }
+}
+
+/// Whether the run with this mark goes on. The lock of one that does not is taken away.
+bool RecoveryFolder::isRunning(const std::string& mark) const {
+    const fs::path file = lockOf(mark);
+    const FileLock lock(file);
+    if (lock.isHeld()) {
+        std::error_code ignored;
+        fs::remove(file, ignored);
+    }
+    return lock.isWithOthers();
+}
 
 std::vector<RecoveryFolder::Design> RecoveryFolder::keepLeftBehind() {
     std::vector<Design> leftBehind;
+    for (const fs::path& lock : listFolder(m_folder, lockExtension)) {
+        isRunning(lock.stem().string());  // of runs that have left nothing else
+    }
     for (const Design& design : list(m_folder)) {
         const std::string mark = markOf(design.file);
-        if (!mark.empty() && mark != m_runs.ownMark && !m_runs.isRunning(mark)) {
+        if (!mark.empty() && mark != m_mark && !isRunning(mark)) {
             const fs::path kept = keepFile(design.file);
             leftBehind.push_back({kept.stem().string(), kept});
         }
@@ -81,13 +117,14 @@ std::vector<RecoveryFolder::Design> RecoveryFolder::keepLeftBehind() {
 
 void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {
     makeFolder(m_folder);
+    takeMark();
     const std::string ship = fileNameOf(shipName);
     if (!m_ownFile.empty() && ship == m_ownShip) {
         saveFile(m_ownFile, shipFile);
         return;
     }
     const fs::path file =
-        m_folder / (ship + ' ' + m_now() + std::string(extension) + beforeMark + m_runs.ownMark);
+        m_folder / (ship + ' ' + m_now() + std::string(extension) + beforeMark + m_mark);
     saveFile(file, shipFile);
     forget();  // under its old name
     m_ownFile = file;

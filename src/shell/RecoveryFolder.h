@@ -1,7 +1,10 @@
 #pragma once
 
+#include "FileLock.h"
+
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,15 +12,10 @@ namespace fleetwright {
 
 /// Where designs are put aside, so that none is lost: the one at work again and again, as the file
 /// of this run, and every other that was given up without being saved. A file is named by ship and
-/// time, "Provost 2026-05-01 17.03.59.shp". That of a run has the run's mark behind it.
+/// time, "Provost 2026-05-01 17.03.59.shp". That of a run has the run's mark behind it, and there
+/// is a file "MARK.lock", which the run holds locked.
 class RecoveryFolder {
 public:
-    /// What tells runs of the program apart.
-    struct Runs {
-        std::string ownMark;  ///< letters and digits
-        std::function<bool(const std::string& mark)> isRunning;
-    };
-
     /// One design that was put aside.
     struct Design {
         std::string name;  ///< of ship and time
@@ -32,10 +30,10 @@ public:
     static std::filesystem::path ofUser();
 
     /// `now` says the time as it is to stand in the name of a file.
-    RecoveryFolder(std::filesystem::path folder, Runs runs, std::function<std::string()> now);
+    RecoveryFolder(std::filesystem::path folder, std::function<std::string()> now);
     RecoveryFolder(const RecoveryFolder&) = delete;
     RecoveryFolder& operator=(const RecoveryFolder&) = delete;
-    ~RecoveryFolder() = default;
+    ~RecoveryFolder();
 
     /// Keeps what runs that have crashed have left: these designs, the newest first.
     /// Throws FileError as `list` does.
@@ -52,12 +50,16 @@ public:
     static std::vector<Design> list(const std::filesystem::path& folder);
 
 private:
+    void takeMark();
+    std::filesystem::path lockOf(const std::string& mark) const;
+    bool isRunning(const std::string& mark) const;
     std::filesystem::path keepFile(const std::filesystem::path& file);
     void takeOldestAway();
 
     std::filesystem::path m_folder;
-    Runs m_runs;
     std::function<std::string()> m_now;
+    std::string m_mark;  ///< of this run; empty before its first file
+    std::optional<FileLock> m_lock;
     std::filesystem::path m_ownFile;
     std::string m_ownShip;  ///< as it stands in the name of that file
 };

@@ -1,9 +1,9 @@
 #include "frmExtras.h"
 
+#include "Desktop.h"
 #include "Error.h"
 #include "Globals.h"
 #include "SettingsStore.h"
-#include "showFileError.h"
 
 namespace fleetwright {
 

@@ -6,14 +6,32 @@
 #include "Globals.h"
 #include "PictureFiles.h"
 #include "Programs.h"
-#include "playSound.h"
+#include "Sounds.h"
 #include "unpackImages.h"
 
-#include <algorithm>
+#include <exception>
+#include <iterator>
 
 namespace fleetwright {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Plays a wave file to its end, if sounds are wanted and the machine has a device for them. Never
+/// fails.
+void playSound(const fs::path& file, Sounds& sounds, const Globals& globals) {
+    try {
+        // The switch first: asking for devices is not quick.
+        if (globals.g_bSounds && sounds.hasDevice()) {
+            sounds.play(file);
+        }
+    } catch (const std::exception&) {
+        // Nobody misses a sound so much as to be told.
+    }
+}
+
+}  // namespace
 
 frmSplash::frmSplash(StartUpServices services)
     : Form({.name = "frmSplash", .border = Border::None}), m_services(std::move(services)) {}

@@ -1,10 +1,11 @@
 #include "unpackImages.h"
 
 #include "Error.h"
+#include "FileLock.h"
 #include "SheetPictures.h"
 #include "files.h"
 
-#include <chrono>
+#include <optional>
 #include <random>
 #include <string>
 #include <system_error>
@@ -49,12 +50,11 @@ bool unpackInto(const fs::path& folder, const fs::path& archive, const RunArchiv
 const std::string beginning = "images.unpacking-";
 
 /// Takes away what starts that were cut short have left, but not what one that runs is at.
-void takeOldOnesAway(const fs::path& appFolder) {
+void takeLeftOnesAway(const fs::path& appFolder) {
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(appFolder, error)) {
-        const auto age = fs::file_time_type::clock::now() - entry.last_write_time(error);
         if (entry.path().filename().string().starts_with(beginning) &&
-            age > std::chrono::hours(1)) {
+            FileLock(entry.path()).isHeld()) {
             fs::remove_all(entry.path(), error);
         }
     }
@@ -67,11 +67,15 @@ constexpr const char* couldNot = "the pictures could not be unpacked";
 void unpackImages(const fs::path& appFolder, const RunArchive& runArchive) {
     const fs::path archive = archiveOf(appFolder);
     const fs::path images = appFolder / "images";
-    takeOldOnesAway(appFolder);
+    takeLeftOnesAway(appFolder);
     const fs::path folder = appFolder / (beginning + std::to_string(std::random_device()()));
     std::error_code error;
     try {
-        fs::create_directory(folder);
+        std::optional<FileLock> lock;
+        do {
+            fs::create_directory(folder);
+            lock.emplace(folder);
+        } while (lock->isLost());
         if (!unpackInto(folder, archive, runArchive)) {
             throw FileError(images, couldNot);
         }

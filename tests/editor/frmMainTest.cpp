@@ -175,8 +175,10 @@ public:
             if (file.path().filename().string().find(".shp") != std::string::npos) {
                 const std::string name =
                     file.path().lexically_relative(m_test.folder().path()).string();
-                seen["file " + name] = replaced(m_test.folder().read(name), "\r\n", ", ");
-                m_seenFiles.insert(name);
+                const std::string shown =  // without the number of its run
+                    name.substr(0, name.find_first_of("0123456789", name.find('~')));
+                seen["file " + shown] = replaced(m_test.folder().read(name), "\r\n", ", ");
+                m_seenFiles.insert(shown);
             }
         }
         for (const std::string& name : m_seenFiles) {

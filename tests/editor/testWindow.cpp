@@ -130,7 +130,6 @@ TestWindow::TestWindow(std::string_view catalogue)
                    window().fillMRU();
                }}),
       m_recovery(m_folder.path() / "recovered",
-                 {.ownMark = "1", .isRunning = [](const std::string&) { return false; }},
                  [this] { return "time " + std::to_string(++m_time); }) {
     globals.formula = formula_calculate;
     globals.g_sDefaultDesigner = "Somebody";

@@ -1,37 +1,18 @@
 #include "FormWindow.h"
 
-#include "Button.h"
-#include "CheckBox.h"
-#include "ComboBox.h"
-#include "DragImage.h"
 #include "Form.h"
 #include "Frame.h"
-#include "Label.h"
-#include "Line.h"
-#include "ListView.h"
-#include "Menu.h"
-#include "OptionButton.h"
-#include "PictureBox.h"
-#include "Slider.h"
-#include "StatusBar.h"
-#include "TextBox.h"
 #include "Timer.h"
-#include "TrayIcon.h"
-#include "TreeView.h"
-#include "UpDown.h"
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
-#include <QMenuBar>
 #include <QPainter>
-#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QWindow>
@@ -78,20 +59,6 @@ protected:
 /// A window that the rules have just asked to paint waits for the desktop. The rules are in the
 /// middle of their work then, and no timer may run into them.
 bool isAwaitingDesktop = false;
-
-/// Makes the widget of a control that is of the given kind.
-template <typename Kind>
-QWidget* makeIf(Control& control, QWidget* parent, const Scale& scale) {
-    auto* const model = dynamic_cast<Kind*>(&control);
-    return model == nullptr ? nullptr : makeWidget(*model, parent, scale);
-}
-
-template <typename... Kinds>
-QWidget* makeFirst(Control& control, QWidget* parent, const Scale& scale) {
-    QWidget* widget = nullptr;
-    static_cast<void>(((widget = makeIf<Kinds>(control, parent, scale), widget != nullptr) || ...));
-    return widget;
-}
 
 }  // namespace
 
@@ -156,62 +123,27 @@ void FormWindow::addControls(Container& container, QWidget* parent) {
 
 /// The widget of a control, or nothing for those that have none of their own.
 QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
-    if (auto* const menu = dynamic_cast<MenuEntry*>(&control)) {
-        addMenu(*menu, menuBar());
-        return nullptr;
-    }
-    if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
-        addTrayIcon(*tray, this);
-        return nullptr;
-    }
-    if (auto* const image = dynamic_cast<DragImage*>(&control)) {
-        m_connections.push_back(
-            image->DragWanted.connect([this, image] { dragImage(*image, this); }));
-        return nullptr;
-    }
     if (auto* const timer = dynamic_cast<Timer*>(&control)) {
-        auto* const ticking = new QTimer(this);
-        ticking->setInterval(timer->interval());
-        QObject::connect(ticking, &QTimer::timeout, [this, timer] {
-            if (m_form.isLoaded() && !isAwaitingDesktop) {
-                timer->tick();
-            }
-        });
-        m_connections.push_back(timer->Restarted.connect([ticking] { ticking->start(); }));
-        ticking->start();
+        addTimer(*timer);
         return nullptr;
     }
-    addKeys(control);
-    QWidget* const widget =
-        makeFirst<Frame, Label, TextBox, Button, OptionButton, CheckBox, ComboBox, UpDown, TreeView,
-                  ListView, Slider, StatusBar, PictureBox, Line>(control, parent, m_scale);
+    QWidget* const widget = makeWidget(control, parent, m_scale, *this);
     if (auto* const frame = dynamic_cast<Frame*>(&control)) {
         addControls(*frame, widget);
     }
     return widget;
 }
 
-/// The keys that press a form's default button and its cancel button.
-void FormWindow::addKeys(Control& control) {
-    auto* const button = dynamic_cast<Button*>(&control);
-    if (button == nullptr) {
-        return;
-    }
-    if (button->design().isDefault) {
-        const auto press = [this, button] {
-            // Enter belongs to the button that has the keyboard, if one has.
-            if (auto* const focused = qobject_cast<QPushButton*>(focusWidget())) {
-                focused->click();
-            } else {
-                button->press();
-            }
-        };
-        new QShortcut(Qt::Key_Return, this, press);
-        new QShortcut(Qt::Key_Enter, this, press);
-    }
-    if (button->design().isCancel) {
-        new QShortcut(Qt::Key_Escape, this, [button] { button->press(); });
-    }
+void FormWindow::addTimer(Timer& timer) {
+    auto* const ticking = new QTimer(this);
+    ticking->setInterval(timer.interval());
+    QObject::connect(ticking, &QTimer::timeout, [this, &timer] {
+        if (m_form.isLoaded() && !isAwaitingDesktop) {
+            timer.tick();
+        }
+    });
+    m_connections.push_back(timer.Restarted.connect([ticking] { ticking->start(); }));
+    ticking->start();
 }
 
 void FormWindow::update() {

@@ -13,6 +13,7 @@ namespace fleetwright {
 class Container;
 class Control;
 class Form;
+class Timer;
 
 /// The window of a form: one piece of code for all of them. It makes a widget for each control,
 /// keeps both in step, and hands what the user does to the models. It knows no form by name.
@@ -33,7 +34,7 @@ private:
     void setFrame(QWidget* owner);
     void addControls(Container& container, QWidget* parent);
     QWidget* addControl(Control& control, QWidget* parent);
-    void addKeys(Control& control);
+    void addTimer(Timer& timer);
 
     // Bringing the window in step with its form.
     void update();

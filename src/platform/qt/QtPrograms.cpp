@@ -1,14 +1,11 @@
 #include "QtPrograms.h"
 
+#include "modules.h"
+
 #include <QElapsedTimer>
-#include <QLibrary>
 #include <QProcess>
 
 namespace fleetwright {
-
-QtPrograms::QtPrograms() = default;
-
-QtPrograms::~QtPrograms() = default;
 
 bool QtPrograms::run(const std::filesystem::path& program, const std::string& argument,
                      const std::filesystem::path& folder, int milliseconds,
@@ -37,21 +34,15 @@ bool QtPrograms::start(const std::filesystem::path& program) {
 }
 
 void* QtPrograms::loadLibrary(const std::filesystem::path& file) {
-    auto library = std::make_unique<QLibrary>(QString::fromStdString(file.string()));
-    if (!library->load()) {
-        return nullptr;
-    }
-    return m_libraries.emplace_back(std::move(library)).get();
+    return loadModule(file);
 }
 
 void* QtPrograms::function(void* library, const std::string& name) {
-    return reinterpret_cast<void*>(static_cast<QLibrary*>(library)->resolve(name.c_str()));
+    return moduleSymbol(library, name.c_str());
 }
 
 void QtPrograms::freeLibrary(void* library) {
-    std::erase_if(m_libraries, [library](const std::unique_ptr<QLibrary>& loaded) {
-        return loaded.get() == library && (loaded->unload(), true);
-    });
+    freeModule(library);
 }
 
 }  // namespace fleetwright

@@ -1,8 +1,7 @@
 #include "QtSounds.h"
 
+#include "modules.h"
 #include "soundsModule.h"
-
-#include <QLibrary>
 
 namespace fleetwright {
 
@@ -20,8 +19,8 @@ Sounds* QtSounds::module() {
     if (!m_isAsked) {
         m_isAsked = true;
         // It stays loaded: what Qt has registered of it cannot be taken back.
-        QLibrary library(QString::fromStdString((m_appFolder / soundsModule).string()));
-        const auto create = reinterpret_cast<CreateSounds>(library.resolve("createSounds"));
+        const auto create =
+            moduleFunction<CreateSounds>(loadModule(m_appFolder / soundsModule), "createSounds");
         m_module = create == nullptr ? nullptr : create();
     }
     return m_module;

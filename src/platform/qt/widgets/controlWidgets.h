@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+class QMainWindow;
 class QMenuBar;
 
 namespace fleetwright {
@@ -14,6 +15,7 @@ namespace fleetwright {
 class Button;
 class CheckBox;
 class ComboBox;
+class Control;
 class DragImage;
 class Frame;
 class Label;
@@ -43,6 +45,10 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(TreeView& tree, QWidget* parent, const Scale& scale);
 QWidget* makeWidget(UpDown& arrows, QWidget* parent, const Scale& scale);
+
+/// The widget of a control of any kind in this window, with the keys that press it; null for those
+/// that have no place inside it, such as menus, which are added where they belong.
+QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMainWindow& window);
 
 /// Adds a top-level menu to the bar. A hidden one is left out: it is a pop-up.
 void addMenu(MenuEntry& menu, QMenuBar* bar);

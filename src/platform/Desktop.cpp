@@ -1,6 +1,5 @@
-#include "showFileError.h"
-
 #include "Desktop.h"
+
 #include "Error.h"
 
 namespace fleetwright {
