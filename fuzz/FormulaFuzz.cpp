@@ -15,6 +15,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 
 using namespace fleetwright;
 
@@ -112,53 +113,45 @@ void checkAgreement(const std::string& text) {
             "nothing is wrong in front of the fault");
 }
 
-std::string capitals(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
-    return text;
-}
-
 std::string moreBlanks(const std::string& text) {
     std::string spaced = "\t ";
     for (const char c : text) {
-        const bool isBlank = c == ' ' || c == '\t';
-        spaced += isBlank ? std::string(" \t ") : std::string(1, c);
+        spaced += c == ' ' || c == '\t' ? std::string(" \t ") : std::string(1, c);
     }
     return spaced + ' ';
 }
 
-/// What a readable text comes to does not change with what only stands around it.
+/// What stands around a readable text changes its value as it should.
 void checkSurroundings(const std::string& text, const Numbers& ship) {
     const Outcome plain = outcomeOf(text, ship);
     if (!plain.isReadable()) {
         return;
     }
-    const double value = plain.value;
-    const bool divides = plain.dividesByZero;
+    const double v = plain.value;
     const std::string inner = '(' + text + ')';
-    const std::array<std::string, 10> alike = {inner,
-                                               capitals(text),
-                                               moreBlanks(text),
-                                               "1 ? " + inner + " : 1 / 0",
-                                               "0 ? 1 / 0 : " + inner,
-                                               "max(" + text + ';' + text + ')',
-                                               "min(" + text + ')',
-                                               "- -" + inner,
-                                               "+" + inner,
-                                               inner + "^1"};
-    for (const std::string& same : alike) {
-        requireValue(same, ship, value, divides, "surroundings leave a value as it is");
+    const std::pair<std::string, double> values[] = {{inner, v},
+                                                     {toCapitals(text), v},
+                                                     {moreBlanks(text), v},
+                                                     {"1 ? " + inner + " : 1 / 0", v},
+                                                     {"0 ? 1 / 0 : " + inner, v},
+                                                     {"max(" + text + ';' + text + ')', v},
+                                                     {"min(" + text + ')', v},
+                                                     {"- -" + inner, v},
+                                                     {"+" + inner, v},
+                                                     {inner + "^1", v},
+                                                     {"not " + inner, v == 0.0},
+                                                     {"roundup" + inner, roundUpByText(v)},
+                                                     {"floor" + inner, std::floor(v)},
+                                                     {"ceil" + inner, std::ceil(v)},
+                                                     {"round" + inner, std::nearbyint(v)},
+                                                     {"trunc" + inner, std::trunc(v)},
+                                                     {"abs" + inner, std::fabs(v)}};
+    for (const auto& [longer, value] : values) {
+        requireValue(longer, ship, value, plain.dividesByZero,
+                     "a function or bracket has its value");
     }
     requireValue("0 and " + inner, ship, 0.0, false, "what is decided does not count");
     requireValue("1 or " + inner, ship, 1.0, false, "what is decided does not count");
-    requireValue("not " + inner, ship, value == 0.0, divides, "not turns a truth round");
-    requireValue("roundup" + inner, ship, roundUpByText(value), divides,
-                 "fractions are rounded up by their printed digits");
-    requireValue("floor" + inner, ship, std::floor(value), divides, "floor goes down");
-    requireValue("ceil" + inner, ship, std::ceil(value), divides, "ceil goes up");
-    requireValue("round" + inner, ship, std::nearbyint(value), divides, "round takes the nearest");
-    requireValue("trunc" + inner, ship, std::trunc(value), divides, "trunc goes to zero");
-    requireValue("abs" + inner, ship, std::fabs(value), divides, "abs has no sign");
 }
 
 struct Operator {
@@ -168,26 +161,23 @@ struct Operator {
     std::function<double(double, double)> combine;
 };
 
-const std::array<Operator, 15>& operators() {
-    static const std::array<Operator, 15> all = {{
-        {"or", 0, false, [](double a, double b) { return a != 0.0 || b != 0.0 ? 1.0 : 0.0; }},
-        {"and", 1, false, [](double a, double b) { return a != 0.0 && b != 0.0 ? 1.0 : 0.0; }},
-        {"=", 2, false, std::equal_to<double>()},
-        {"==", 2, false, std::equal_to<double>()},
-        {"<>", 2, false, std::not_equal_to<double>()},
-        {"!=", 2, false, std::not_equal_to<double>()},
-        {"<", 2, false, std::less<double>()},
-        {"<=", 2, false, std::less_equal<double>()},
-        {">", 2, false, std::greater<double>()},
-        {">=", 2, false, std::greater_equal<double>()},
-        {"+", 3, false, std::plus<double>()},
-        {"-", 3, false, std::minus<double>()},
-        {"*", 4, false, std::multiplies<double>()},
-        {"/", 4, true, std::divides<double>()},
-        {"%", 4, true, [](double a, double b) { return std::fmod(a, b); }},
-    }};
-    return all;
-}
+const std::array<Operator, 15> operators = {{
+    {"or", 0, false, [](double a, double b) { return a != 0.0 || b != 0.0 ? 1.0 : 0.0; }},
+    {"and", 1, false, [](double a, double b) { return a != 0.0 && b != 0.0 ? 1.0 : 0.0; }},
+    {"=", 2, false, std::equal_to<double>()},
+    {"==", 2, false, std::equal_to<double>()},
+    {"<>", 2, false, std::not_equal_to<double>()},
+    {"!=", 2, false, std::not_equal_to<double>()},
+    {"<", 2, false, std::less<double>()},
+    {"<=", 2, false, std::less_equal<double>()},
+    {">", 2, false, std::greater<double>()},
+    {">=", 2, false, std::greater_equal<double>()},
+    {"+", 3, false, std::plus<double>()},
+    {"-", 3, false, std::minus<double>()},
+    {"*", 4, false, std::multiplies<double>()},
+    {"/", 4, true, std::divides<double>()},
+    {"%", 4, true, [](double a, double b) { return std::fmod(a, b); }},
+}};
 
 /// Operators do what they say, and bind as they should, whatever their operands are.
 void checkOperators(const std::string& a, const std::string& b, const std::string& c,
@@ -203,8 +193,8 @@ void checkOperators(const std::string& a, const std::string& b, const std::strin
     const auto joined = [](const std::string& x, const Operator& op, const std::string& y) {
         return x + ' ' + op.text + ' ' + y;
     };
-    for (std::size_t i = 0; i < operators().size(); ++i) {
-        const Operator& op = operators()[i];
+    for (std::size_t i = 0; i < operators.size(); ++i) {
+        const Operator& op = operators[i];
         const bool isDecided =
             (op.binding == 0 && left.value != 0.0) || (op.binding == 1 && left.value == 0.0);
         const bool divides = left.dividesByZero || (right.dividesByZero && !isDecided) ||
@@ -212,7 +202,7 @@ void checkOperators(const std::string& a, const std::string& b, const std::strin
         requireValue(joined(one, op, two), ship, op.combine(left.value, right.value), divides,
                      "an operator combines its operands");
 
-        const Operator& next = operators()[(i + choice) % operators().size()];
+        const Operator& next = operators[(i + choice) % operators.size()];
         const std::string grouped = next.binding > op.binding
                                         ? joined(one, op, '(' + joined(two, next, three) + ')')
                                         : joined('(' + joined(one, op, two) + ')', next, three);

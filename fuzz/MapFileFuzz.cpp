@@ -6,28 +6,22 @@
 #include "SSDMapCheck.h"
 #include "SheetImages.h"
 #include "SheetPictures.h"
-#include "ShipClass.h"
-#include "TemporaryFolder.h"
 #include "checkMapPlaces.h"
 #include "drawSSD.h"
 #include "files.h"
 #include "mapMarks.h"
 #include "require.h"
+#include "testShip.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
 using namespace fleetwright;
 
 namespace {
-
-constexpr const char* catalogue = "CATEGORY,0,0,BEAM,GUNS,O,guns.gif\r\n"
-                                  "Gun,amount,amount,BEAM,GUNS,FPSAB,gun.gif\r\n"
-                                  "Hold,amount,amount,SYSTEMS,SYSTEMS,O,hold.gif\r\n"
-                                  "Cloaking Field,1,1,SPECIAL,SPECIAL,6,cloak.gif\r\n"
-                                  "Damage Control Party,amount,1,SYSTEMS,SYSTEMS,O,party.gif\r\n";
 
 /// White pictures of the size that all have.
 SheetImages whiteImages() {
@@ -47,27 +41,35 @@ void checkPlaces(const SSDMap& map, const MapPlaces& places) {
     require(places.unread.empty(), "all places of a map that loads can be read");
     require(places.sizeLine == 0 || places.size == map.iMaxMass, "both readers see one SIZE");
     require((places.imageLine == 0) == map.sImgFile.empty(), "both readers see the outline");
-    std::int16_t weapons = 0;
-    std::int16_t parties = 0;
-    std::int16_t controls = 0;
+    std::map<MapKeyword, std::string> seen, loaded;
+    const auto add = [](std::string& all, int x, int y, const std::string& arc = "") {
+        all += std::to_string(x) + ',' + std::to_string(y) + arc + ' ';
+    };
     for (const MapPlace& place : places.places) {
-        bool isSame = true;
-        if (place.keyword == MapKeyword::Weap) {
-            isSame = place.x == map.getWeapPntX(weapons) && place.y == map.getWeapPntY(weapons) &&
-                     place.arc == map.getWeapPntArc(weapons);
-            ++weapons;
-        } else if (place.keyword == MapKeyword::Dcp) {
-            isSame = place.x == map.getDCPPntX(parties) && place.y == map.getDCPPntY(parties);
-            ++parties;
-        } else if (place.keyword == MapKeyword::FireCon) {
-            isSame =
-                place.x == map.getFIRECONPntX(controls) && place.y == map.getFIRECONPntY(controls);
-            ++controls;
+        if (place.keyword == MapKeyword::Weap || place.keyword == MapKeyword::Dcp ||
+            place.keyword == MapKeyword::FireCon) {
+            add(seen[place.keyword], place.x, place.y, place.arc);
         }
-        require(isSame, "both readers see one place");
     }
-    require(weapons == map.iWeapNDX && parties == map.iDCPNDX && controls == map.iFIRECONNDX,
-            "both readers see all places");
+    for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {
+        add(loaded[MapKeyword::Weap], map.getWeapPntX(i), map.getWeapPntY(i), map.getWeapPntArc(i));
+    }
+    for (std::int16_t i = 0; i < map.iDCPNDX; ++i) {
+        add(loaded[MapKeyword::Dcp], map.getDCPPntX(i), map.getDCPPntY(i));
+    }
+    for (std::int16_t i = 0; i < map.iFIRECONNDX; ++i) {
+        add(loaded[MapKeyword::FireCon], map.getFIRECONPntX(i), map.getFIRECONPntY(i));
+    }
+    require(seen == loaded, "both readers see all places");
+}
+
+Raster paintedOutline() {
+    Raster outline(50, 40);
+    outline.pixel(3, 2) = Yellow;
+    outline.pixel(4, 2) = Red;
+    outline.pixel(10, 20) = Magenta;
+    std::fill(outline.row(20).begin() + 11, outline.row(20).end(), std::uint32_t{Black});
+    return outline;
 }
 
 /// A sheet is drawn, or the drawing fails with an error, wherever the points are.
@@ -100,41 +102,23 @@ void drawSheet(const SSDMap& map, ShipClass& ship, const Raster& outline) {
             "a sheet is as wide as its outline");
 }
 
-/// What all inputs share.
-struct World {
-    TemporaryFolder folder;
-    Raster outline{50, 40};
-    ShipClass ship{{.catalogueFile = folder.write("weaps.dat", catalogue),
-                    .formula = formula_calculate,
-                    .eventLoopTurn = {}}};
-
-    World() {
-        folder.write("shipimages/OUTLINE.GIF", "");
-        outline.pixel(3, 2) = Yellow;
-        outline.pixel(4, 2) = Red;
-        outline.pixel(10, 20) = Magenta;
-        std::fill(outline.row(20).begin() + 11, outline.row(20).end(), std::uint32_t{Black});
-        ship.mass(30);
-        ship.addWeap("Gun", 2);
-        ship.addWeap("Hold", 1);
-        ship.addWeap(Catalogue::partyName, 1);
-    }
-};
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static World world;
+    static const ShipYard yard;
+    static const auto ship = yard.loaded("Mass: 30\nSystem: Gun, 2\nSystem: Ballast, 1\n");
+    static const std::string outlineFile = yard.folder().write("shipimages/OUTLINE.GIF", "");
+    static const Raster outline = paintedOutline();
     const std::string text = readTextFile(
-        world.folder.write("maps/input.map", {reinterpret_cast<const char*>(data), size}));
+        yard.folder().write("maps/input.map", {reinterpret_cast<const char*>(data), size}));
     const MapPlaces places = readMapPlaces(text);
-    const std::vector<Fault> faults = checkMapFile(text, world.folder.path());
-    for (const Raster& outline : {world.outline, Raster()}) {
-        for (const Fault& fault : checkMapPlaces(places, outline)) {
+    const std::vector<Fault> faults = checkMapFile(text, yard.folder().path());
+    for (const Raster& picture : {outline, Raster()}) {
+        for (const Fault& fault : checkMapPlaces(places, picture)) {
             require(fault.line >= 0 && !fault.text.empty(), "a fault is put into words");
         }
     }
-    SSDMap map(world.folder.path());
+    SSDMap map(yard.folder().path());
     try {
         map.ImageFile("input");
     } catch (const Error& error) {
@@ -145,6 +129,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     require(!map.fileFault(), "a map that loads has no fault");
     checkPlaces(map, places);
-    drawSheet(map, world.ship, world.outline);
+    drawSheet(map, *ship, outline);
     return 0;
 }

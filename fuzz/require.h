@@ -25,4 +25,16 @@ inline void requireSame(const std::string& got, const std::string& wanted,
     require(got == wanted, promise);
 }
 
+/// Faults have words, and come in the order of the lines of a file; what concerns none comes last.
+template <typename Faults>
+void requireInOrder(const Faults& faults, int lines) {
+    int last = 0;
+    for (const auto& fault : faults) {
+        require(!fault.text.empty(), "a fault is put into words");
+        require(fault.line == 0 || (fault.line >= last && fault.line <= lines),
+                "faults are in the order of their lines");
+        last = fault.line == 0 ? lines : fault.line;
+    }
+}
+
 }  // namespace fleetwright

@@ -4,16 +4,16 @@
 //
 //     in-session soak-window [SECONDS [SEED]]     300 and 1 if they are not said
 
-#include "Dice.h"
+#include "Choices.h"
 #include "Hands.h"
 #include "RunningProgram.h"
 #include "Window.h"
 #include "files.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <deque>
 #include <stdexcept>
 
 using namespace fleetwright;
@@ -25,6 +25,18 @@ const std::vector<std::string> keys = {
     "Right",  "Home",   "End",  "Next",      "Prior",  "Delete", "F2",     "F10",
     "F1",     "F12",    "Menu", "BackSpace", "ctrl+n", "ctrl+l", "ctrl+s", "ctrl+a",
     "ctrl+p", "alt+f",  "a",    "7",         "minus",  "g",      "v"};
+const std::vector<std::string> files = {"ships/Provost.shp", "ships/new", "none.shp",
+                                        "weaps.dat",         "ships",     "ssds/sheet"};
+/// What the mouse does at one place; "AND" is another place in the same window.
+const std::vector<std::string> mouseActs = {"click 1",
+                                            "click 1",
+                                            "click 1",
+                                            "click --repeat 2 --delay 10 1",
+                                            "click --repeat 2 --delay 10 1",
+                                            "click 3",
+                                            "click --repeat 3 4",
+                                            "click --repeat 3 5",
+                                            "mousedown 1 AND AND mouseup 1"};
 
 class WindowRounds {
 public:
@@ -33,6 +45,7 @@ public:
     /// Some acts, and a look at what has come of them.
     void run() {
         constexpr int actsToALook = 30;
+        m_trail.clear();
         for (int acts = 0; acts < actsToALook && m_program.isRunning(); ++acts, ++m_acts) {
             act();
         }
@@ -42,14 +55,8 @@ public:
     }
 
     int acts() const { return m_acts; }
-    int ends() const { return m_ends; }
-    std::string trail() const {
-        std::string all;
-        for (const std::string& act : m_trail) {
-            all += act + '\n';
-        }
-        return all;
-    }
+    /// What was done since the last look.
+    const std::string& trail() const { return m_trail; }
 
 private:
     void start() {
@@ -57,23 +64,15 @@ private:
         const MainWindow window;
     }
 
-    /// The windows on the screen besides the main one.
-    static std::vector<std::string> titles() {
-        std::vector<std::string> found;
-        for (const Element& window : windowsOnScreen()) {
-            if (window.is(ATSPI_STATE_SHOWING) && window.name() != MainWindow::title) {
-                found.push_back(window.name());
-            }
-        }
+    static std::vector<Element> windows() {
+        std::vector<Element> found = windowsOnScreen();
+        std::erase_if(found, [](const Element& each) { return !each.is(ATSPI_STATE_SHOWING); });
         return found;
     }
 
+    /// What fails does so because a window has just gone.
     void use(const std::string& arguments) {
-        constexpr std::size_t longest = 60;
-        m_trail.push_back(arguments);
-        if (m_trail.size() > longest) {
-            m_trail.pop_front();
-        }
+        m_trail += arguments + '\n';
         outputOf("xdotool " + arguments);
     }
 
@@ -83,45 +82,21 @@ private:
     }
 
     void act() {
-        if (m_dice.oneIn(4)) {
-            use("key " + m_dice.pick(keys));
-            return;
+        const std::vector<Element> reachable = windows();
+        if (reachable.empty() || m_dice.oneIn(4)) {
+            return use("key " + m_dice.pick(keys));
         }
-        std::vector<Element> windows = windowsOnScreen();
-        std::erase_if(windows, [](const Element& each) { return !each.is(ATSPI_STATE_SHOWING); });
-        if (windows.empty()) {
-            return;
-        }
-        const Element& window = m_dice.pick(windows);
+        const Element& window = m_dice.pick(reachable);
         const Rectangle place = window.place();
         if (window.find("text", "File name:") && m_dice.oneIn(2)) {
-            use("type --delay 1 '" + (m_program.folder().path() / anyFile()).string() + "\n'");
-            return;
+            const std::string file = m_program.folder().path() / m_dice.pick(files);
+            return use("type --delay 1 '" + file + "\n'");
         }
-        const std::string somewhere = anywhereIn(place);
-        switch (m_dice.below(8)) {
-        case 0:
-            use(somewhere + "click 3");
-            break;
-        case 1:
-            use(somewhere + "mousedown 1 " + anywhereIn(place) + anywhereIn(place) + "mouseup 1");
-            break;
-        case 2:
-            use(somewhere + "click --repeat 3 " + (m_dice.oneIn(2) ? "4" : "5"));
-            break;
-        case 3:
-        case 4:
-            use(somewhere + "click --repeat 2 --delay 10 1");
-            break;
-        default:
-            use(somewhere + "click 1");
+        std::string arguments = anywhereIn(place) + m_dice.pick(mouseActs);
+        for (std::size_t at = 0; (at = arguments.find("AND")) != std::string::npos;) {
+            arguments.replace(at, 3, anywhereIn(place));
         }
-    }
-
-    std::string anyFile() {
-        const std::vector<std::string> files = {"ships/Provost.shp", "ships/new", "none.shp",
-                                                "weaps.dat",         "ships",     "ssds/sheet"};
-        return m_dice.pick(files);
+        use(arguments);
     }
 
     /// Closes what is in front of the main window; false if the program has ended, which it has to
@@ -134,23 +109,21 @@ private:
                 if (const int status = m_program.waitForEnd(); status != 0) {
                     throw std::runtime_error("ended with status " + std::to_string(status));
                 }
-                ++m_ends;
                 start();
                 return false;
             }
-            const std::vector<std::string> others = titles();
-            if (others.empty()) {
-                outputOf("xdotool search --name '^" + std::string(MainWindow::title) +
-                         "$' windowactivate --sync");
+            const std::vector<Element> open = windows();
+            const auto other = std::ranges::find_if(
+                open, [](const Element& each) { return each.name() != MainWindow::title; });
+            use("search --name '^" + (other == open.end() ? MainWindow::title : other->name()) +
+                "$' windowactivate");
+            if (other == open.end()) {
                 return true;
             }
             // The window on top closes with one of these, or the one below it does.
             use("key Escape");
-            for (const std::string& title : others) {
-                use("search --name '^" + title + "$' windowactivate");
-                if (activeTitle() != MainWindow::title) {
-                    use("key alt+F4");
-                }
+            if (activeTitle() != MainWindow::title) {
+                use("key alt+F4");
             }
         }
         throw std::runtime_error("windows do not close:\n" + describeScreen());
@@ -158,29 +131,28 @@ private:
 
     void look() {
         const MainWindow window;
-        const std::filesystem::path file =
-            m_program.folder().path() / ("look" + std::to_string(m_looks++) + ".shp");
+        const std::string name = "look" + std::to_string(m_looks++) + ".shp";
+        const std::filesystem::path file = m_program.folder().path() / name;
         window.choose("File", "Save As");  // the key may be that of an open name
         chooseFile("Save As", file);
         waitFor("the save", [&] { return std::filesystem::exists(file); });
-        const std::string design = readTextFile(file);
+        const std::string design = m_program.folder().read(name);
         const bool isRefused = design.find("Cloaking Field") != std::string::npos &&
                                design.find("Type: Warship") == std::string::npos;
         if (!isRefused) {
             window.waitFor(expectedOf(file));
         }
-        const std::string name = window.get("text", "Ship name").text();
-        if (!design.starts_with("Ship Name: " + name + "\r\n")) {
-            throw std::runtime_error("the name is \"" + name + "\" in front of\n" + design);
+        const std::string shown = window.get("text", "Ship name").text();
+        if (!design.starts_with("Ship Name: " + shown + "\r\n")) {
+            throw std::runtime_error("the name is \"" + shown + "\" in front of\n" + design);
         }
     }
 
     Dice m_dice;
     RunningProgram m_program;
-    std::deque<std::string> m_trail;
+    std::string m_trail;
     int m_acts = 0;
     int m_looks = 0;
-    int m_ends = 0;
 };
 
 }  // namespace
@@ -195,10 +167,10 @@ int main(int argc, char** argv) {
             rounds.run();
         }
     } catch (const std::exception& error) {
-        std::printf("%sseed %llu, act %d: %s\n", rounds.trail().c_str(),
-                    static_cast<unsigned long long>(seed), rounds.acts(), error.what());
+        std::printf("seed %llu, act %d: %s\n", static_cast<unsigned long long>(seed), rounds.acts(),
+                    error.what());
         return 1;
     }
-    std::printf("%d acts, %d ends\n", rounds.acts(), rounds.ends());
+    std::printf("%d acts\n", rounds.acts());
     return 0;
 }

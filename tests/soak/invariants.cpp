@@ -1,10 +1,13 @@
-#include "screenFaults.h"
+// What has to hold of the program whenever it is at rest. A new invariant is a row of the table.
 
+#include "Actor.h"
 #include "Error.h"
 #include "files.h"
 #include "wholeNumber.h"
 
 #include <algorithm>
+#include <numeric>
+#include <set>
 
 namespace fleetwright {
 
@@ -16,20 +19,28 @@ public:
     Look(TestWindow& test, Stale& stale) : m_test(test), m_stale(stale) {}
 
     std::string faults() {
-        lookAtFigures();
-        lookAtButtons();
-        lookAtList();
-        lookAtPreviews();
-        lookAtMenus();
-        lookAtRules();
-        lookAtFiles();
+        struct Invariant {
+            const char* about;
+            void (Look::*look)();
+        };
+        constexpr Invariant invariants[] = {{"figures on the screen", &Look::lookAtFigures},
+                                            {"buttons", &Look::lookAtButtons},
+                                            {"list of systems", &Look::lookAtList},
+                                            {"previews", &Look::lookAtPreviews},
+                                            {"menus", &Look::lookAtMenus},
+                                            {"rules", &Look::lookAtRules},
+                                            {"files", &Look::lookAtFiles}};
+        for (const Invariant& invariant : invariants) {
+            m_about = invariant.about;
+            (this->*invariant.look)();
+        }
         return m_faults;
     }
 
 private:
     void expect(bool isAsMeant, const std::string& fault) {
         if (!isAsMeant) {
-            m_faults += fault + '\n';
+            m_faults += m_about + ": " + fault + '\n';
         }
     }
 
@@ -37,24 +48,25 @@ private:
         expect(shown == meant, what + " is \"" + shown + "\" and not \"" + meant + '"');
     }
 
-    void expectFigure(const TextBox& box, const std::string& meant) {
-        const auto typed = m_stale.typed.find(&box);
-        if (typed == m_stale.typed.end() || box.text() != typed->second) {
-            expectText(box.name(), box.text(), meant);
-        }
-    }
-
     void lookAtFigures() {
-        expectFigure(m_window.figures.txtCost, std::to_string(m_ship.g_lCost));
-        expectFigure(m_window.figures.txtDP, std::to_string(m_ship.g_iDP));
-        expectFigure(m_window.figures.txtDamRows, std::to_string(m_ship.g_iDamRows));
-        expectFigure(m_window.figures.txtDCP, std::to_string(m_ship.g_iDCP));
-        expectFigure(m_window.figures.txtFireCon, std::to_string(m_ship.g_iFCS));
-        expectFigure(m_window.mass.txtMass, std::to_string(m_ship.mass()));
-        expectFigure(m_window.figures.txtClass, std::string(m_ship.Class()));
-        expectFigure(m_window.figures.txtRelSize, std::string(m_ship.relSize()));
-        expectFigure(m_window.names.txtShipName, m_ship.g_sShipName);
-        expectFigure(m_window.names.txtDesigner, m_ship.g_sDesignerName);
+        const FiguresPanel& panel = m_window.figures;
+        const std::pair<const TextBox*, std::string> boxes[] = {
+            {&panel.txtCost, std::to_string(m_ship.g_lCost)},
+            {&panel.txtDP, std::to_string(m_ship.g_iDP)},
+            {&panel.txtDamRows, std::to_string(m_ship.g_iDamRows)},
+            {&panel.txtDCP, std::to_string(m_ship.g_iDCP)},
+            {&panel.txtFireCon, std::to_string(m_ship.g_iFCS)},
+            {&panel.txtClass, std::string(m_ship.Class())},
+            {&panel.txtRelSize, std::string(m_ship.relSize())},
+            {&m_window.mass.txtMass, std::to_string(m_ship.mass())},
+            {&m_window.names.txtShipName, m_ship.g_sShipName},
+            {&m_window.names.txtDesigner, m_ship.g_sDesignerName}};
+        for (const auto& [box, meant] : boxes) {
+            const auto typed = m_stale.typed.find(box);
+            if (typed == m_stale.typed.end() || box->text() != typed->second) {
+                expectText(box->name(), box->text(), meant);
+            }
+        }
         expectText("lblMassLeft", m_window.mass.lblMassLeft.caption(),
                    std::to_string(m_ship.g_iMassLeft));
     }
@@ -84,20 +96,15 @@ private:
     }
 
     void lookAtList() {
-        std::map<std::string, std::string> shown;
-        std::map<std::string, std::string> aboard;
+        std::multiset<std::string> shown, aboard;
         for (const ListView::Row& row : m_window.aboard.lvCurrentWeapons.rows()) {
-            expect(shown.emplace(row.key, row.subItem).second, row.key + " stands twice");
+            shown.insert(row.key + ' ' + row.subItem + ", ");
         }
         for (const WeapRec& system : m_ship.systemsAboard()) {
-            aboard.emplace(system.name, std::to_string(system.amount));
+            aboard.insert(std::string(system.name) + ' ' + std::to_string(system.amount) + ", ");
         }
-        const auto text = [](const auto& systems) {
-            std::string all;
-            for (const auto& [name, count] : systems) {
-                all.append(name).append(" ").append(count).append(", ");
-            }
-            return all;
+        const auto text = [](const std::multiset<std::string>& systems) {
+            return std::accumulate(systems.begin(), systems.end(), std::string());
         };
         expectText("the list", text(shown), text(aboard));
         const auto selected = m_window.aboard.lvCurrentWeapons.selected();
@@ -205,13 +212,14 @@ private:
         const std::string file = m_ship.shipFile();
         // Not all that is in a file comes back from it: a merchant with a cloak besides other
         // systems, a name with a colon.
-        const bool isInFile =
-            !m_ship.g_sSaveName.empty() && readTextFile(m_ship.g_sSaveName) == file;
+        const std::string saved =
+            m_ship.g_sSaveName.empty() ? "" : readTextFile(m_ship.g_sSaveName);
         const auto ship = newShip();
         ship->restore(m_ship.state());
         ship->g_bAutoMass = false;
-        const bool isDesigned =
-            isInFile || withoutNames(inOrder(*ship)) == withoutNames(inOrder(*safe));
+        const bool isInFile = saved == file;
+        const bool isDesigned = withoutNames(saved) == withoutNames(file) ||
+                                withoutNames(inOrder(*ship)) == withoutNames(inOrder(*safe));
         expect(isDesigned || !m_ship.g_bSaved, "the ship counts as saved:\n" + file);
         const bool isSafe =
             isInFile ||
@@ -228,12 +236,13 @@ private:
     Stale& m_stale;
     frmMain& m_window = m_test.window();
     ShipClass& m_ship = m_test.ship();
+    std::string m_about;
     std::string m_faults;
 };
 
 }  // namespace
 
-std::string screenFaults(TestWindow& test, Stale& stale) {
+std::string brokenInvariants(TestWindow& test, Stale& stale) {
     return Look(test, stale).faults();
 }
 

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "Choices.h"
+#include "PictureCache.h"
+#include "fakeServices.h"
+#include "frmMapper.h"
+#include "frmSSDMapCreator.h"
+#include "frmSSDView.h"
+#include "testWindow.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+class Actor;
+
+/// Something that can be done to the controls of one kind; a window is a control, too.
+struct Act {
+    std::string name;
+    int weight;  ///< how often, compared to others
+    std::function<bool(const Control*)> fits;
+    std::function<void(Actor&, Control&)> perform;
+};
+
+/// All acts that the actor knows: a new one is a row here.
+const std::vector<Act>& allActs();
+
+/// What the screen may show that is not, or no longer, so, until a refresh ends it.
+struct Stale {
+    bool isNodePreview = false;                   ///< another node was selected, or all were closed
+    bool isRowPreview = false;                    ///< another row was selected
+    std::map<const Control*, std::string> typed;  ///< the last text that the user has typed
+};
+
+/// What does not agree between the ship, the window that shows it, its file and what was put aside,
+/// with the window at rest; a line for each. Takes back from `stale` what has been refreshed.
+std::string brokenInvariants(TestWindow& test, Stale& stale);
+
+/// Acts at random on the windows of one run of the program, without a screen, and looks after each
+/// act whether what they show agrees. Acts also come while a message box, a dialog or a menu is
+/// open, and in the turns that AutoMass and the scan of an outline give the event loop.
+class Actor {
+public:
+    explicit Actor(Choices& choices);
+
+    /// One act, with all that comes of it. Throws what is wrong then, behind the last acts.
+    void act();
+    bool hasEnded() const { return m_hasEnded; }
+
+    // For the acts.
+    Choices& choices;
+    TestWindow test;
+    frmMain& main = test.window();
+    Stale stale;
+    /// Whether nothing is under way but the act itself.
+    bool isAtRest() const { return m_depth == 0; }
+
+private:
+    /// Small pictures, those of ships with a few marks.
+    class Pictures : public PictureFiles, public PictureEncoder {
+    public:
+        Raster load(const std::filesystem::path& file) override;
+        Raster builtIn(const std::string& name) override { return load(name); }
+        std::string encode(const Raster&, const std::string& format) override { return format; }
+    };
+
+    /// An act on a control, once for each time that its weight counts.
+    struct Chance {
+        Control* control;
+        const Act* act;
+    };
+    using Chances = std::vector<Chance>;
+    /// Something in front of the windows: a form, or what lets no form be reached, which is null.
+    struct Front {
+        Form* form;
+        Chances chances;
+    };
+
+    static Chances chancesOf(Container& container);
+    void listen();
+    void note(const std::string& what);
+    void expect(bool holds, const std::string& fault);
+    void behind(const std::string& what, Form* form, const std::function<void()>& task);
+    void actSomewhere();
+    void perform(const Container& whole, const Chances& chances);
+    void actMeanwhile();
+    void ask(const std::string& what);
+    std::optional<std::string> anyFile();
+    void takeTurn();
+    void end();
+
+    std::filesystem::path m_app = test.folder().path();
+    Pictures m_decoder;
+    PictureCache m_pictures{m_decoder};
+    SteppingClock m_clock;
+    SheetImages m_images = programImages(m_app, m_pictures, main.tree.ilWeapons);
+    frmMapper m_mapper;
+    frmSSDMapCreator m_mapCreator;
+    frmSSDView m_viewer;
+    std::vector<Front> m_windows;  ///< the main window first
+    Chances m_beside;
+    std::vector<Front> m_inFront;
+    Connection m_dragged;
+    std::deque<std::string> m_trail;
+    std::string m_faults;
+    std::size_t m_depth = 0;
+    int m_actsLeft = 0;  ///< in the middle of the act at rest
+    bool m_hasEnded = false;
+};
+
+}  // namespace fleetwright
