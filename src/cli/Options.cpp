@@ -21,7 +21,7 @@ struct Answer {
 
 /// CLI11 takes "--name=" for "--name". So an empty value is handed to it as a NUL, which no word of
 /// a command line can hold.
-std::string withMark(std::string word) {
+std::string withMark(const std::string& word) {
     const bool isEmptyValue = word.starts_with("--") && word.find('=') == word.size() - 1;
     return isEmptyValue ? word + '\0' : word;
 }

@@ -10,6 +10,8 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -49,6 +51,23 @@ TEST(QtDesktop, TheFiltersOfFileDialogsShowToTheLetter) {
     EXPECT_FALSE(file);
     EXPECT_EQ(shown, QStringList({"All Files (*.*)", "Ship Files(*.shp)", "Others"}));
     EXPECT_EQ(first, "Ship Files(*.shp)");
+}
+
+TEST(QtDesktop, MessagesShowWhatTheyHoldAndBringTheAnswer) {
+    QString shown;
+    const auto answer = [&shown](QMessageBox::StandardButton button, Buttons buttons) {
+        QTimer::singleShot(0, [&shown, button] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            shown = box->windowTitle() + '|' + box->text();
+            box->button(button)->click();
+        });
+        return QtDesktop().showMessage("<b>\x1B\nLose it?", "A\u202E", buttons, Icon::None);
+    };
+    EXPECT_EQ(answer(QMessageBox::Ok, Buttons::Ok), Answer::Ok);
+    EXPECT_EQ(shown, "A\uFFFD|<b>\uFFFD\nLose it?");
+    EXPECT_EQ(answer(QMessageBox::Yes, Buttons::YesNo), Answer::Yes);
+    EXPECT_EQ(answer(QMessageBox::No, Buttons::YesNo), Answer::No);
 }
 
 TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
