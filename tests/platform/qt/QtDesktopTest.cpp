@@ -3,6 +3,7 @@
 #include "Button.h"
 #include "Form.h"
 #include "Menu.h"
+#include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,6 @@
 #include <QCursor>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -28,22 +28,55 @@ public:
         *this, {.name = "button", .place = {1500, 900, 900, 300}, .caption = "OK"}, [] {}};
     MenuEntry menu{*this, {.name = "menu", .caption = "Menu"}};
     MenuEntry entry{menu, {.name = "entry", .caption = "Entry"}};
+    bool keeps = false;
+
+protected:
+    void Form_Unload(bool& cancel) override { cancel = keeps; }
 };
+
+/// Does this to each dialog that opens from now on, as many as there are acts.
+void inDialogs(std::vector<std::function<void(QDialog&)>> acts) {
+    QTimer::singleShot(0, [acts = std::move(acts)]() mutable {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        const auto act = std::move(acts.front());
+        acts.erase(acts.begin());
+        if (!acts.empty()) {
+            inDialogs(std::move(acts));
+        }
+        act(*dialog);
+    });
+}
+
+auto choose(const QString& name) {
+    return [name](QDialog& dialog) {
+        dynamic_cast<QFileDialog&>(dialog).selectFile(name);
+        dialog.accept();
+    };
+}
+
+auto answer(QMessageBox::StandardButton button) {
+    return
+        [button](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).button(button)->click(); };
+}
+
+void cancel(QDialog& dialog) {
+    dialog.reject();
+}
 
 }  // namespace
 
 TEST(QtDesktop, TheFiltersOfFileDialogsShowToTheLetter) {
     QStringList shown;
     QString first;
-    QTimer::singleShot(0, [&] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        auto* const filters = dialog->findChild<QComboBox*>("fileTypeCombo");
+    inDialogs({[&](QDialog& dialog) {
+        auto* const filters = dialog.findChild<QComboBox*>("fileTypeCombo");
         first = filters->currentText();
         for (int i = 0; i < filters->count(); ++i) {
             shown += filters->itemText(i);
         }
-        dialog->reject();
-    });
+        dialog.reject();
+    }});
     const auto file = QtDesktop().chooseFileToOpen(
         {.filter = "All Files (*.*)|*.*|Ship Files(*.shp)|*.shp|Others",
          .filterIndex = 2,
@@ -53,21 +86,51 @@ TEST(QtDesktop, TheFiltersOfFileDialogsShowToTheLetter) {
     EXPECT_EQ(first, "Ship Files(*.shp)");
 }
 
-TEST(QtDesktop, MessagesShowWhatTheyHoldAndBringTheAnswer) {
+TEST(QtDesktop, FileDialogsHandOnWhatIsChosenAndAskBeforeAFileIsReplaced) {
+    const TemporaryFolder folder;
+    const std::string wasp = folder.write("Wasp.shp", "");
+    const FileDialog dialog{.filter = "All", .initialFolder = folder.path(), .extension = ".shp"};
+    const std::string bee = (folder.path() / "Bee").string();
+    QtDesktop desktop;
+    inDialogs({choose("Wasp.shp")});
+    EXPECT_EQ(desktop.chooseFileToOpen(dialog), wasp);
+    inDialogs({choose("Wasp"), answer(QMessageBox::No), choose("Bee")});
+    EXPECT_EQ(desktop.chooseFileToSave(dialog), bee);
+    inDialogs({choose("Wasp"), answer(QMessageBox::Yes)});
+    EXPECT_EQ(desktop.chooseFileToSave(dialog), (folder.path() / "Wasp").string());
+    inDialogs({cancel});
+    EXPECT_EQ(desktop.chooseFileToSave(dialog), std::nullopt);
+}
+
+TEST(QtDesktop, MessagesHaveTheirTitleIconAndAnswers) {
+    QtDesktop desktop;
     QString shown;
-    const auto answer = [&shown](QMessageBox::StandardButton button, Buttons buttons) {
-        QTimer::singleShot(0, [&shown, button] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            shown = box->windowTitle() + '|' + box->text();
-            box->button(button)->click();
-        });
-        return QtDesktop().showMessage("<b>\x1B\nLose it?", "A\u202E", buttons, Icon::None);
+    const auto note = [&shown](QMessageBox::StandardButton button) {
+        return [&shown, button](QDialog& dialog) {
+            auto& box = dynamic_cast<QMessageBox&>(dialog);
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            shown = box.windowTitle() + '|' + box.text() + '|' + QString::number(box.icon());
+            button == QMessageBox::NoButton ? box.reject() : box.button(button)->click();
+        };
     };
-    EXPECT_EQ(answer(QMessageBox::Ok, Buttons::Ok), Answer::Ok);
-    EXPECT_EQ(shown, "A\uFFFD|<b>\uFFFD\nLose it?");
-    EXPECT_EQ(answer(QMessageBox::Yes, Buttons::YesNo), Answer::Yes);
-    EXPECT_EQ(answer(QMessageBox::No, Buttons::YesNo), Answer::No);
+    inDialogs({note(QMessageBox::Ok)});
+    EXPECT_EQ(desktop.showMessage("Saved", "", Buttons::Ok, Icon::None), Answer::Ok);
+    EXPECT_EQ(shown, QApplication::applicationName() + "|Saved|0");
+    const struct {
+        QMessageBox::StandardButton button;
+        Icon icon;
+        Answer answer;
+        const char* shown;
+    } cases[] = {
+        {QMessageBox::Yes, Icon::Information, Answer::Yes, "A\uFFFD|<b>\uFFFD\nLose it?|1"},
+        {QMessageBox::No, Icon::Critical, Answer::No, "A\uFFFD|<b>\uFFFD\nLose it?|3"},
+        {QMessageBox::NoButton, Icon::Critical, Answer::No, "A\uFFFD|<b>\uFFFD\nLose it?|3"}};
+    for (const auto& each : cases) {
+        inDialogs({note(each.button)});
+        EXPECT_EQ(desktop.showMessage("<b>\x1B\nLose it?", "A\u202E", Buttons::YesNo, each.icon),
+                  each.answer);
+        EXPECT_EQ(shown, each.shown);
+    }
 }
 
 TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
@@ -94,4 +157,15 @@ TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
     ASSERT_FALSE(focus->underMouse());
     EXPECT_EQ(placeOf(other), focus->mapToGlobal(focus->rect().center()));
     EXPECT_EQ(placeOf(form), QCursor::pos());
+}
+
+TEST(QtDesktop, TheProgramEndsAlthoughAWindowHasSomethingToEndFirst) {
+    PageWithMenu form;
+    form.keeps = true;
+    QtDesktop desktop;
+    desktop.present(form);
+    form.show();
+    QTimer::singleShot(0, [&] { desktop.unloadAllForms(); });
+    QTimer::singleShot(5000, [] { QApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
 }

@@ -5,6 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QDialog>
+#include <QSpinBox>
+#include <QTimer>
+
 #include <cstdlib>
 
 using namespace fleetwright;
@@ -52,6 +57,20 @@ TEST(QtPrinter, SaysThatItDoesNotPrintAndGoesOnWithTheNextFile) {
     printer.printLine("found");
     printer.endDocument();
     EXPECT_TRUE(textOf(folder, pdf).starts_with("found\n"));
+}
+
+TEST(QtPrinter, PrintsAsManyCopiesAsItsDialogSaysOrNone) {
+    QtPrinter printer;
+    const auto choose = [&](bool isAccepted) {
+        QTimer::singleShot(0, [=] {
+            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            dialog->findChild<QSpinBox*>("copies")->setValue(2);
+            isAccepted ? dialog->accept() : dialog->reject();
+        });
+        return printer.choose();
+    };
+    EXPECT_EQ(choose(false), std::nullopt);
+    EXPECT_EQ(choose(true), 2);
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 #include "Form.h"
 #include "FormWindow.h"
 #include "PictureBox.h"
+#include "TrayIcon.h"
 
 #include <gtest/gtest.h>
 
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSystemTrayIcon>
 #include <QTest>
 
 using namespace fleetwright;
@@ -24,6 +26,7 @@ public:
                 .border = Border::Sizable}) {}
 
     PictureBox sheet{*this, {.name = "sheet", .place = {150, 150, 1500, 1500}}};
+    TrayIcon tray{*this, {.name = "tray", .picture = "tray"}, {}};
     int refusals = 0;
 
 protected:
@@ -63,6 +66,24 @@ TEST(SizableWindow, TheFormDecidesHowSmallItGets) {
         window.resize(first.width() / 3, first.height());
     }
     EXPECT_LT(form.refusals, 10);
+}
+
+TEST(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
+    WideForm form;
+    FormWindow window(form);
+    form.show();
+    form.resize(7500 + Form::frameWidth, 4500 + Form::frameHeight);
+    const double scale = window.centralWidget()->width() / 7500.0;
+    EXPECT_NEAR(window.centralWidget()->height(), 4500 * scale, 1);
+    window.resize(window.width() + 40, window.height());
+    EXPECT_NEAR(form.place().width, 7500 + 40 / scale, 15);
+    window.setWindowState(Qt::WindowMinimized);
+    EXPECT_EQ(form.state(), WindowState::Minimized);
+    form.setState(WindowState::Normal);
+    EXPECT_FALSE(window.isMinimized());
+    form.tray.setOn(true);
+    EXPECT_TRUE(window.findChild<QSystemTrayIcon*>("tray")->isVisible());
+    EXPECT_EQ(form.tray.isAvailable(), QSystemTrayIcon::isSystemTrayAvailable());
 }
 
 TEST(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {

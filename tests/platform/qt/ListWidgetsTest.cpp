@@ -1,0 +1,119 @@
+// The mouse and the keyboard on trees and lists.
+
+#include "FormWindowTest.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTest>
+#include <QTreeWidget>
+#include <QWindow>
+
+using namespace fleetwright;
+
+namespace {
+
+/// Keeps the end of a press from all widgets, as a drag does.
+class ReleaseTaker : public QObject {
+public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        return event->type() == QEvent::MouseButtonRelease;
+    }
+};
+
+}  // namespace
+
+TEST_F(FormWindowTest, ClickingWhatIsSelectedIsAClickAndWidthsAreTheUsers) {
+    int clicks = 0;
+    form.tree.onClick = [&] { ++clicks; };
+    auto* const tree = find<QTreeWidget>("tree");
+    const QPoint root = tree->visualItemRect(tree->topLevelItem(0)).center();
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, root);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, root);
+    EXPECT_EQ(clicks, 2);
+    auto* const list = find<QTreeWidget>("list");
+    list->setColumnWidth(0, 123);
+    form.list.add("a", "a", "1");
+    EXPECT_EQ(list->columnWidth(0), 123);
+}
+
+TEST_F(FormWindowTest, TheFirstMoveWithTheButtonDownDragsAndATremblingHandClicks) {
+    QWidget* const tree = find<QTreeWidget>("tree")->viewport();
+    QWindow* const pointed = window.windowHandle();
+    const QPoint from = tree->mapTo(&window, QPoint(9, 9));
+    QPoint to;
+    const auto endDrag = [&] {
+        ReleaseTaker drag;
+        qApp->installEventFilter(&drag);
+        QTest::mouseRelease(pointed, Qt::LeftButton, {}, to);
+    };
+    form.tree.onClick = [&] { form.log += "click "; };
+    form.tree.onMouseMove = [&](const MousePress&) {
+        form.log += "move ";
+        endDrag();
+    };
+    for (const int way : {0, 1, 60}) {
+        QTest::mousePress(pointed, Qt::LeftButton, {}, from);
+        to = from + QPoint(way, 0);
+        QCursor::setPos(window.mapToGlobal(to));
+        QMouseEvent move(QEvent::MouseMove, QPoint(9 + way, 9), window.mapToGlobal(to),
+                         Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(tree, &move);
+        QApplication::processEvents();
+        if (way == 0) {
+            endDrag();
+        }
+    }
+    EXPECT_EQ(takeLog(), "tree1 tree1 move click tree1 move ");
+}
+
+TEST_F(FormWindowTest, NothingIsDraggedByAButtonThatIsUpAgain) {
+    QWidget* const tree = find<QTreeWidget>("tree")->viewport();
+    form.tree.onMouseMove = [&](const MousePress&) { form.log += "move "; };
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {},
+                      tree->mapTo(&window, QPoint(9, 9)));
+    // What has come between is known by the place of the release alone.
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {},
+                        tree->mapTo(&window, QPoint(9, 60)));
+    EXPECT_EQ(takeLog(), "tree1 ");
+}
+
+TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
+    auto* const tree = find<QTreeWidget>("tree");
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "fit none ");
+    tree->setCurrentItem(tree->topLevelItem(0));
+    QTest::keyClick(tree, Qt::Key_Right);
+    EXPECT_TRUE(form.tree.find("ROOT")->isExpanded);
+    QTest::keyClick(tree, Qt::Key_Down);
+    EXPECT_EQ(form.tree.selected()->key, "leaf");
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "fit leaf ");
+    // The right button selects nothing and opens what belongs to the selected node.
+    const QRect root = tree->visualItemRect(tree->topLevelItem(0));
+    QTest::mouseClick(tree->viewport(), Qt::RightButton, {}, root.center());
+    EXPECT_EQ(takeLog(), "tree2 ");
+    EXPECT_EQ(form.tree.selected()->key, "leaf");
+
+    form.list.add("a", "a", "1");
+    auto* const list = find<QTreeWidget>("list");
+    list->setCurrentItem(list->topLevelItem(0));
+    EXPECT_EQ(form.list.selected(), 0U);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(takeLog(), "row0 ");
+    double top = 0;
+    form.list.onMouseDown = [&](const MousePress& press) { top = press.y / 3000; };
+    QTest::mousePress(list->viewport(), Qt::RightButton, {}, {1, 0});
+    EXPECT_NEAR(top * list->height(), list->viewport()->y(), 1.0);
+    QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, {1, 0});
+}
+
+TEST_F(FormWindowTest, ARowChosenByTheRightButtonCountsAsClicked) {
+    form.list.add("a", "a", "1");
+    form.list.onClick = [&] { form.log += "row "; };
+    QWidget* const rows = find<QTreeWidget>("list")->viewport();
+    QTest::mousePress(window.windowHandle(), Qt::RightButton, {},
+                      rows->mapTo(&window, QPoint(5, 5)));
+    EXPECT_EQ(takeLog(), "row ");
+    QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {},
+                        rows->mapTo(&window, QPoint(5, 5)));
+}
