@@ -78,7 +78,7 @@ std::string drawn(const Case& given) {
     const ShipYard yard(arcCatalogue);
     const auto ship = yard.loaded(given["ship"]);
     const std::vector<std::string> figures = linesOf(given["figures"]);
-    const SSDMap map = mapOf(given["map"] + "\nDAMROW: (1,2)\nFTL: (3,4)\nTHRUST: (5,6)");
+    const SSDMap map = mapOf(given["map"] + "\nTHRUST: (5,6)\nFTL: (3,4)\nDAMROW: (1,2)");
     RecordingSheet sheet;
     sheet.missing = given["missing"];
     sheet.inkY = std::atoi(given["ink"].c_str());
