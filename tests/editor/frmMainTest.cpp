@@ -94,7 +94,13 @@ std::string layoutOf(const Container& container, const std::string& indent = {})
         }
         text += std::string(design.isFlat ? " flat" : "") + (design.isLocked ? " locked" : "") +
                 (design.isGraphical ? " graphical" : "") + (design.isVerbatim ? " verbatim" : "") +
-                (design.isOn ? " on\n" : "\n");
+                (design.isOn ? " on" : "");
+        if (const auto* const list = dynamic_cast<const ListView*>(control)) {
+            for (const ListView::Column& column : list->columns()) {
+                text += ' ' + column.title + ' ' + std::to_string(column.width);
+            }
+        }
+        text += '\n';
         if (const auto* const inside = dynamic_cast<const Container*>(control)) {
             text += layoutOf(*inside, indent + "  ");
         }
@@ -363,8 +369,9 @@ TEST(FrmMain, ShowsWhatIsDone) {
 }
 
 TEST(FrmMain, IsLaidOutAsItIs) {
-    expectCases("editor/golden/layout.txt",
-                [](const Case&) { return layoutOf(TestWindow().window()); });
+    TestWindow test;
+    test.window().show();
+    expectCases("editor/golden/layout.txt", [&](const Case&) { return layoutOf(test.window()); });
 }
 
 // An act that is too large changes nothing, and a file brings back all that was designed.
