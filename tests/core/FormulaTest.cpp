@@ -5,13 +5,12 @@
 #include "caseFile.h"
 #include "formulaFault.h"
 #include "formula_calculate.h"
+#include "modules.h"
 #include "runCommand.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include <dlfcn.h>
 
 using namespace fleetwright;
 
@@ -87,13 +86,14 @@ TEST(Formula, AllocatesNothingAndLeavesTheText) {
 }
 
 TEST(FormulaModule, HasTheOneExportUnderItsPlainName) {
-    void* const module = dlopen(APP_FOLDER "/w_dll.dll", RTLD_NOW | RTLD_LOCAL);
-    ASSERT_NE(module, nullptr) << dlerror();
-    const auto calculate = reinterpret_cast<FormulaFunction>(dlsym(module, "formula_calculate"));
+    void* const module = loadModule(APP_FOLDER "/w_dll.dll");
+    const auto calculate = moduleFunction<FormulaFunction>(module, "formula_calculate");
     ASSERT_NE(calculate, nullptr);
     char text[] = "roundup(mass * 0.1) * amount + thrust";
     EXPECT_EQ(calculate(text, 30, 1, 1, 2, 60, 4), 14);
-    dlclose(module);
+    EXPECT_EQ(moduleSymbol(module, "other"), nullptr);
+    freeModule(module);
+    EXPECT_EQ(loadModule(APP_FOLDER "/none.dll"), nullptr);
 
     // What else it might show would be open to clashes with the program that loads it.
     const CommandResult names =

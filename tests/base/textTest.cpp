@@ -1,5 +1,5 @@
-#include "files.h"
 #include "text.h"
+#include "files.h"
 
 #include "Error.h"
 #include "TemporaryFolder.h"
@@ -79,5 +79,6 @@ TEST(Utf8, CountsCharactersNotBytes) {
 }
 
 TEST(Capitals, FoldWhatOldFilesHold) {
-    EXPECT_EQ(toCapitals("q-Ship 7 éñÿœß€я"), "Q-SHIP 7 ÉÑŸŒß€я");
+    EXPECT_EQ(toCapitals("q-Ship 7 @[`{éñÿœß€я"), "Q-SHIP 7 @[`{ÉÑŸŒß€я");
+    EXPECT_EQ(toSmallLetters("AZ az @[`{ÉÑŸŒß€Я"), "az az @[`{éñÿœß€Я");
 }

@@ -1,0 +1,58 @@
+// Settings, programs and time.
+
+#include "QtClock.h"
+#include "QtPrograms.h"
+#include "QtSettingsStore.h"
+
+#include "TemporaryFolder.h"
+#include "faults.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QSettings>
+
+using namespace fleetwright;
+namespace fs = std::filesystem;
+
+TEST(QtSettingsStore, SaysWhatItCannotWrite) {
+    const TemporaryFolder folder;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       QString::fromStdString(folder.path().string()));
+    QtSettingsStore store;
+    store.write("Names", "Designer", "Né, Né");
+    EXPECT_EQ(QtSettingsStore().read("Names", "Designer", ""), "Né, Né");
+
+    const fs::path settings = folder.path() / QApplication::applicationName().toStdString();
+    ASSERT_TRUE(fs::is_directory(settings));
+    fs::remove_all(settings);
+    folder.write(settings.filename().string(), "a file where the folder should be");
+    EXPECT_TRUE(fileFaultOf([&] {
+                    store.write("Names", "Designer", "Me");
+                }).starts_with(settings.string() + '/'));
+}
+
+TEST(QtPrograms, WaitAsLongAsTheyMayForAProgramThatEndsWell) {
+    const TemporaryFolder folder;
+    QtPrograms programs;
+    int waits = 0;
+    const auto run = [&](const char* program, const char* argument, int longest) {
+        return programs.run(program, argument, folder.path(), longest, [&] { ++waits; });
+    };
+    EXPECT_TRUE(run("mkdir", "made", 10000));
+    EXPECT_TRUE(fs::is_directory(folder.path() / "made"));
+    EXPECT_FALSE(run("mkdir", "made", 10000)) << "it has ended with a fault";
+    EXPECT_FALSE(run((folder.path() / "none").c_str(), "", 10000));
+    waits = 0;
+    EXPECT_FALSE(run("sleep", "20", 200));
+    EXPECT_GT(waits, 0);
+    EXPECT_FALSE(programs.start(folder.path() / "none"));
+}
+
+TEST(QtClock, CountsTheMillisecondsThatItSleeps) {
+    QtClock clock;
+    const std::int32_t before = clock.tickCount();
+    clock.sleep(20);
+    const std::int32_t slept = clock.tickCount() - before;
+    EXPECT_TRUE(slept >= 20 && slept < 5000) << slept;
+}
