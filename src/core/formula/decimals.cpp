@@ -13,9 +13,9 @@ namespace fleetwright {
 
 namespace {
 
-/// Those that a double holds exactly as whole numbers of up to 16 digits.
-constexpr std::array<double, 16> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+/// Those that numbers of up to 15 digits need.
+constexpr std::array<double, 15> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
+                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
 
 /// Half a unit of the 15th significant digit, by the number of digits in front of the point.
 constexpr std::array<double, 15> halfUnits = {5e-16, 5e-15, 5e-14, 5e-13, 5e-12, 5e-11, 5e-10, 5e-9,
