@@ -74,7 +74,6 @@ constexpr bool isWordCharacter(char c) {
 
 double FormulaReader::read() {
     const double value = choice();
-    skipBlanks();
     if (*m_at != '\0') {
         fail(Fault::Unexpected, m_at);
     }
