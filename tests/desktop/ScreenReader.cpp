@@ -35,15 +35,11 @@ bool mayHold(std::string_view whole, std::string_view part) {
 }
 
 void describe(const Element& element, const std::string& indent, std::string& text) {
-    constexpr std::pair<AtspiStateType, const char*> states[] = {
-        {ATSPI_STATE_SHOWING, "showing"}, {ATSPI_STATE_FOCUSED, "focused"},
-        {ATSPI_STATE_ACTIVE, "active"},   {ATSPI_STATE_CHECKED, "checked"},
-        {ATSPI_STATE_ENABLED, "enabled"}, {ATSPI_STATE_SELECTED, "selected"}};
-    text += indent + element.role() + " \"" + element.name() + "\" holds \"" + element.text() + '"';
-    for (const auto& [state, word] : states) {
-        text.append(element.is(state) ? " " : " not ").append(word);
-    }
-    text += '\n';
+    text += indent + element.role() + " \"" + element.name() + "\" holds \"" + element.text() +
+            '"' + (element.is(ATSPI_STATE_SHOWING) ? "" : " hidden") +
+            (element.is(ATSPI_STATE_ENABLED) ? "" : " disabled") +
+            (element.is(ATSPI_STATE_FOCUSED) ? " focused" : "") +
+            (element.is(ATSPI_STATE_SELECTED) ? " selected\n" : "\n");
     for (const Element& child : element.children()) {
         describe(child, indent + "  ", text);
     }

