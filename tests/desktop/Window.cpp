@@ -19,15 +19,11 @@ Element Window::window() const {
     return waitForElement(m_title, [this] { return windowOnScreen(m_title); });
 }
 
-Element Window::get(const std::string& role, const std::string& name) const {
-    return waitForElement(role + " \"" + name + '"', [&] { return window().find(role, name); });
-}
-
-Element Window::getIn(const std::string& part, const std::string& role,
-                      const std::string& name) const {
+Element Window::get(const std::string& role, const std::string& name,
+                    const std::string& part) const {
     return waitForElement(role + " \"" + name + "\" in \"" + part + '"', [&] {
         const Element all = window();
-        const auto panel = all.find("panel", part);
+        const auto panel = part.empty() ? std::optional(all) : all.find("panel", part);
         const auto whole = panel ? panel : all.find("tree", part);
         return whole ? whole->find(role, name) : std::nullopt;
     });

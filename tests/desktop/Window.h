@@ -14,9 +14,9 @@ public:
     /// Waits for the window, and for the keyboard to be its own.
     explicit Window(std::string title);
 
-    /// Something in the window, or in a part of it; waits for it.
-    Element get(const std::string& role, const std::string& name) const;
-    Element getIn(const std::string& part, const std::string& role, const std::string& name) const;
+    /// Something in the window, or in a part of it if there is one named; waits for it.
+    Element get(const std::string& role, const std::string& name,
+                const std::string& part = {}) const;
     /// Clicks on something in the window once the keyboard is the window's: as long as a dialog is
     /// about to go, clicks on the window behind it are lost.
     void click(const std::string& role, const std::string& name) const;

@@ -207,10 +207,6 @@ void Actor::note(const std::string& what) {
     }
 }
 
-void Actor::expect(bool holds, const std::string& fault) {
-    m_faults += holds ? "" : fault + '\n';
-}
-
 void Actor::behind(const std::string& what, Form* form, const std::function<void()>& task) {
     if (m_hasEnded) {
         return;
@@ -262,9 +258,9 @@ void Actor::perform(const Container& whole, const Chances& chances) {
     try {
         chance.act->perform(*this, *chance.control);
     } catch (const std::exception& error) {
-        expect(false, std::string("escaped: ") + error.what());
+        m_faults += std::string("escaped: ") + error.what() + '\n';
     } catch (const EndOfProgram&) {
-        expect(false, "escaped: the end of the program");
+        m_faults += "escaped: the end of the program\n";
     }
 }
 

@@ -83,7 +83,6 @@ private:
     static Chances chancesOf(Container& container);
     void listen();
     void note(const std::string& what);
-    void expect(bool holds, const std::string& fault);
     void behind(const std::string& what, Form* form, const std::function<void()>& task);
     void actSomewhere();
     void perform(const Container& whole, const Chances& chances);

@@ -24,13 +24,6 @@ public:
     auto& pick(Things& things) {
         return *std::next(std::begin(things), below(static_cast<int>(std::size(things))));
     }
-    /// Mostly a number that ships have, now and then any of 32 bits.
-    std::int32_t number() {
-        const auto any = static_cast<std::uint32_t>(below(0x10000)) << 16U;
-        return oneIn(6)
-                   ? static_cast<std::int32_t>(any | static_cast<std::uint32_t>(below(0x10000)))
-                   : below(120);
-    }
 };
 
 /// Chance; the same on every machine for the same seed.
