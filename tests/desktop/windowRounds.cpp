@@ -30,11 +30,9 @@ const std::vector<std::string> files = {"ships/Provost.shp", "ships/new", "none.
 /// What the mouse does at one place; "AND" is another place in the same window.
 const std::vector<std::string> mouseActs = {"click 1",
                                             "click 1",
-                                            "click 1",
                                             "click --repeat 2 --delay 10 1",
-                                            "click --repeat 2 --delay 10 1",
-                                            "click 3",
                                             "click --repeat 3 4",
+                                            "click 3",
                                             "click --repeat 3 5",
                                             "mousedown 1 AND AND mouseup 1"};
 
@@ -45,8 +43,8 @@ public:
     /// Some acts, and a look at what has come of them.
     void run() {
         constexpr int actsToALook = 30;
-        m_trail.clear();
-        for (int acts = 0; acts < actsToALook && m_program.isRunning(); ++acts, ++m_acts) {
+        trail.clear();
+        for (int acts = 0; acts < actsToALook && m_program.isRunning(); ++acts) {
             act();
         }
         if (clearTheScreen()) {
@@ -54,9 +52,7 @@ public:
         }
     }
 
-    int acts() const { return m_acts; }
-    /// What was done since the last look.
-    const std::string& trail() const { return m_trail; }
+    std::string trail;  ///< what was done since the last look
 
 private:
     void start() {
@@ -72,7 +68,7 @@ private:
 
     /// What fails does so because a window has just gone.
     void use(const std::string& arguments) {
-        m_trail += arguments + '\n';
+        trail += arguments + '\n';
         outputOf("xdotool " + arguments);
     }
 
@@ -150,8 +146,6 @@ private:
 
     Dice m_dice;
     RunningProgram m_program;
-    std::string m_trail;
-    int m_acts = 0;
     int m_looks = 0;
 };
 
@@ -160,17 +154,17 @@ private:
 int main(int argc, char** argv) {
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + std::chrono::seconds(argc > 1 ? std::atoi(argv[1]) : 300);
-    const std::uint64_t seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
-    WindowRounds rounds(seed);
+    const char* const seed = argc > 2 ? argv[2] : "1";
+    WindowRounds rounds(std::strtoull(seed, nullptr, 10));
+    int count = 0;
     try {
-        while (Clock::now() < end) {
+        for (; Clock::now() < end; ++count) {
             rounds.run();
         }
     } catch (const std::exception& error) {
-        std::printf("seed %llu, act %d: %s\n", static_cast<unsigned long long>(seed), rounds.acts(),
-                    error.what());
+        std::printf("%sseed %s, round %d: %s\n", rounds.trail.c_str(), seed, count, error.what());
         return 1;
     }
-    std::printf("%d acts\n", rounds.acts());
+    std::printf("%d rounds\n", count);
     return 0;
 }
