@@ -245,6 +245,11 @@ private:
             {"catalogue fault", [this] { m_test.catalogueFaults = "weaps.dat:3: double key\n"; }},
             {"saved", [this] { m_test.ship().g_bSaved = true; }},
             {"name", [this] { m_test.ship().g_sShipName = "Renamed"; }},
+            {"no button",
+             [this] {
+                 m_test.ship().FTL(2);
+                 m_test.ship().Hull(7);
+             }},
             {"status", [this] { m_window.sbStatus.setText("message"); }},
         };
         settings.at(what)();
