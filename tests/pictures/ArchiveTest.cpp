@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
@@ -79,21 +81,23 @@ TEST_F(UnpackCommand, MakesAndRenewsTheFolderThatCheckLooksAt) {
     EXPECT_EQ(app.entries(), 3);
 
     fs::remove(app.path() / "images" / "cat-pulse-cannons.gif");
+    fs::remove(app.path() / "images" / "escort4.gif");
     app.write("images/ftl.gif", "spoilt");
-    app.write("images/mine.gif", "mine");
+    app.write("images/mine.JPG", "mine");
+    app.write("images/notes.txt", "no picture and none of our business");
     const CommandResult check = tool("check");
     EXPECT_EQ(check.status, 1);
     for (const char* const fault :
-         {"images/ftl.gif: cannot be read\n", "images/mine.gif: nothing uses this picture\n"}) {
-        EXPECT_NE(check.output.find(inApp(fault)), std::string::npos) << check.output;
+         {"images/ftl.gif: cannot be read\n", "images/mine.JPG: nothing uses this picture\n",
+          "images/escort4.gif: is missing; sheets need it\n",
+          ": picture \"cat-pulse-cannons.gif\" is missing\n"}) {
+        EXPECT_NE(check.output.find(fault), std::string::npos) << check.output;
     }
-    EXPECT_NE(check.output.find(": picture \"cat-pulse-cannons.gif\" is missing\n"),
-              std::string::npos)
-        << check.output;
+    EXPECT_EQ(std::ranges::count(check.output, '\n'), 4) << check.output;
 
     EXPECT_EQ(tool("unpack").status, 0);
     EXPECT_EQ(app.read("images/ftl.gif"), readBytes(pictures / "ftl.gif"));
-    EXPECT_EQ(tool("check").output, inApp("images/mine.gif: nothing uses this picture\n"));
+    EXPECT_EQ(tool("check").output, inApp("images/mine.JPG: nothing uses this picture\n"));
 }
 
 TEST_F(UnpackCommand, AFailureIsNamedAndLeavesEverythingAsItWas) {

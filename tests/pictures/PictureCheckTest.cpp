@@ -1,7 +1,6 @@
 #include "PictureCheck.h"
 
 #include "QtPictureFiles.h"
-#include "SheetPictures.h"
 #include "TemporaryFolder.h"
 #include "faults.h"
 #include "files.h"
@@ -40,26 +39,4 @@ TEST(PictureCheck, NamesTheLinesWhosePicturesAreMissingOrFaulty) {
               missing + "3: picture \"Maw-F.gif\" cannot be read\n" + large);
     // Decoders show what there is of a picture that was cut short, so the program can start.
     EXPECT_EQ(faults(PictureCheck::Start), missing + large + "6: no picture\n");
-}
-
-TEST(PictureCheck, NamesWhatSheetsMissAndWhatNothingUses) {
-    const TemporaryFolder folder;
-    for (const std::string& name : sheetPictures()) {
-        folder.write(name, delivered(name));
-    }
-    std::filesystem::remove(folder.path() / "escort4.gif");
-    folder.write("thrust3.gif", "no picture");
-    folder.write("maw-f.gif", delivered("maw-f.gif"));
-    folder.write("holiday.jpg", "whatever");
-    folder.write("notes.txt", "no picture and none of our business");
-    QtPictureFiles pictures;
-    PictureCheck check(folder.path(), pictures);
-    EXPECT_EQ(textOf(check.checkCatalogue(std::string("Gun,1,1,BEAM,GUNS,F,Maw-F.gif\n"))), "");
-    std::string found;
-    for (const PictureFault& fault : check.checkRest()) {
-        found += fault.file.filename().string() + ": " + fault.fault.text + '\n';
-    }
-    EXPECT_EQ(found, "thrust3.gif: cannot be read\n"
-                     "escort4.gif: is missing; sheets need it\n"
-                     "holiday.jpg: nothing uses this picture\n");
 }

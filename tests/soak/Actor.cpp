@@ -231,13 +231,10 @@ void Actor::actSomewhere() {
         reachable.push_back(&*front);
     }
     if (box == m_inFront.rend()) {
-        for (Front& front : m_windows) {
-            const bool isMain = &front == m_windows.data();
-            reachable.insert(reachable.end(),
-                             isMain && m_inFront.empty() ? 4
-                             : isMain                    ? 0
-                                                         : 1,
-                             &front);
+        // A dialog is in front of the main window only.
+        reachable.insert(reachable.end(), m_inFront.empty() ? 4 : 0, m_windows.data());
+        for (Front& front : std::span(m_windows).subspan(1)) {
+            reachable.push_back(&front);
         }
     }
     std::erase_if(reachable, [](const Front* front) { return !front->form->isVisible(); });
