@@ -12,6 +12,7 @@
 #include "caseFile.h"
 #include "clsMRUFiles.h"
 #include "fakeServices.h"
+#include "formTexts.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmSplash.h"
@@ -112,12 +113,8 @@ public:
                     changes += name + ": " + value + "; ";
                 }
             }
-            for (std::size_t at;
-                 (at = changes.find(folder.path().string())) != std::string::npos;) {
-                changes.replace(at, folder.path().string().size(), "APP");
-            }
+            changes = replaced(replaced(changes, folder.path().string(), "APP"), "\n", "/");
             changes = changes.substr(0, changes.find_last_not_of("; ") + 1);
-            std::replace(changes.begin(), changes.end(), '\n', '/');
             text += "> " + act + '\n' + (changes.empty() ? "" : "  " + changes + '\n');
         }
         return text;

@@ -1,0 +1,101 @@
+#pragma once
+
+// What a form shows, as texts. Whoever includes this links `platform`.
+
+#include "Control.h"
+#include "DragImage.h"
+#include "ListView.h"
+#include "OptionButton.h"
+#include "TextBox.h"
+#include "Timer.h"
+#include "TreeView.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace fleetwright {
+
+/// A text with each of these pieces replaced.
+inline std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
+}
+
+/// Controls by their names.
+using Controls = std::map<std::string, Control*>;
+
+/// Adds what is in a container, at any depth, by its names.
+inline void collect(const Container& container, Controls& controls) {
+    for (Control* const control : container.controls()) {
+        controls[control->name()] = control;
+        if (const auto* const inside = dynamic_cast<const Container*>(control)) {
+            collect(*inside, controls);
+        }
+    }
+}
+
+/// What changes on a control, as a text.
+inline std::string stateOf(const Control& control) {
+    const ControlDesign& design = control.design();
+    std::string text;
+    if (const auto* const list = dynamic_cast<const ListView*>(&control)) {
+        for (std::size_t row = 0; row < list->rows().size(); ++row) {
+            text += (row == 0 ? "" : ", ") + list->rows()[row].text + ' ' +
+                    list->rows()[row].subItem + (list->selected() == row ? "*" : "");
+        }
+    } else if (const auto* const tree = dynamic_cast<const TreeView*>(&control)) {
+        for (const TreeView::Node& node : tree->nodes()) {
+            text += node.isExpanded ? node.key + ' ' : "";
+        }
+    } else if (dynamic_cast<const DragImage*>(&control) != nullptr) {
+        text = std::to_string(control.place().left) + ',' + std::to_string(control.place().top);
+    } else if (dynamic_cast<const OptionButton*>(&control) != nullptr) {
+        EXPECT_EQ(control.isEnabled(), control.container()->isEnabled()) << control.name();
+        return design.isOn ? "on" : "off";
+    } else if (dynamic_cast<const Timer*>(&control) == nullptr) {
+        text = design.text + design.caption;
+    } else {
+        return {};
+    }
+    const bool isOpen =
+        dynamic_cast<const TextBox*>(&control) != nullptr && !design.isFlat && !design.isLocked;
+    return text + (design.isOn ? " on" : "") + (isOpen ? " open" : "") +
+           (design.isVisible ? "" : " hidden") + (design.isEnabled ? "" : " disabled");
+}
+
+/// The controls of a container in their order, with what of their designs stays as it is.
+inline std::string layoutOf(const Container& container, const std::string& indent = {}) {
+    std::string text;
+    for (const Control* const control : container.controls()) {
+        const ControlDesign& design = control->design();
+        const Place& place = design.place;
+        text += indent + design.name;
+        for (const int measure : {place.left, place.top, place.width, place.height}) {
+            text += ' ' + std::to_string(measure);
+        }
+        for (const std::string& words :
+             {design.caption, design.text, design.picture, design.toolTip, design.shortcut,
+              design.accessibleName, design.accessibleDescription}) {
+            text += words.empty() ? "" : " \"" + words + '"';
+        }
+        text += std::string(design.isFlat ? " flat" : "") + (design.isLocked ? " locked" : "") +
+                (design.isGraphical ? " graphical" : "") + (design.isVerbatim ? " verbatim" : "") +
+                (design.isOn ? " on" : "");
+        if (const auto* const list = dynamic_cast<const ListView*>(control)) {
+            for (const ListView::Column& column : list->columns()) {
+                text += ' ' + column.title + ' ' + std::to_string(column.width);
+            }
+        }
+        text += '\n';
+        if (const auto* const inside = dynamic_cast<const Container*>(control)) {
+            text += layoutOf(*inside, indent + "  ");
+        }
+    }
+    return text;
+}
+
+}  // namespace fleetwright
