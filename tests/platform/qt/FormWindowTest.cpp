@@ -213,6 +213,24 @@ TEST_F(FormWindowTest, ATextThatIsOnlyShownIsShownWhole) {
     EXPECT_GE(textWidth(), name.width()) << "what is typed stands in plain letters";
 }
 
+TEST_F(FormWindowTest, ALongTextGetsTheRoomBesideItAndThenNarrowerLetters) {
+    const auto* const label = find<QLabel>("label");
+    const QRect place = label->geometry();
+    const int room = find<QGroupBox>("inner")->x() - place.x();
+    std::string caption = "n";
+    for (int stretch = 0; stretch == 0; caption += 'n') {
+        form.label.setCaption(caption);
+        stretch = label->font().stretch() == QFont().stretch() ? 0 : label->font().stretch();
+        EXPECT_EQ(label->geometry().topLeft(), place.topLeft());
+        EXPECT_TRUE(label->width() >= place.width() && label->width() < room) << caption;
+        EXPECT_LE(label->sizeHint().width(), label->width()) << caption;
+    }
+    EXPECT_GT(label->width(), place.width());
+    form.label.setCaption(std::string(100, 'n'));
+    EXPECT_EQ(label->font().stretch(), 70);
+    EXPECT_LT(label->width(), room);
+}
+
 TEST_F(FormWindowTest, TextsOfManyLines) {
     auto* const lines = find<QPlainTextEdit>("lines");
     ASSERT_NE(lines, nullptr);
@@ -264,6 +282,13 @@ TEST_F(FormWindowTest, MenusTimersAndClosing) {
     entry->trigger();
     EXPECT_FALSE(entry->isChecked());
     EXPECT_EQ(takeLog(), "entry entry ");
+    form.entry.setEnabled(false);
+    EXPECT_FALSE(entry->isEnabled());
+    form.entry.setVisible(false);
+    EXPECT_FALSE(entry->isVisible());
+    const auto* const verbatim = find<QAction>("verbatim");
+    EXPECT_EQ(verbatim->text(), "Rock && Co");
+    EXPECT_EQ(verbatim->shortcut(), QKeySequence("Ctrl+R"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return form.ticks > 1; }));
     form.keeps = true;
     EXPECT_FALSE(window.close());

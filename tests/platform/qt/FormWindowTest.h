@@ -106,6 +106,10 @@ public:
                         entry.setChecked(!entry.isChecked());
                         log += "entry ";
                     }};
+    MenuEntry more{menu, {.name = "more", .caption = "More"}};
+    MenuEntry verbatim{
+        more,
+        {.name = "verbatim", .caption = "Rock & Co", .shortcut = "Ctrl+R", .isVerbatim = true}};
     MenuEntry hiddenMenu{*this, {.name = "hidden", .caption = "Hidden", .isVisible = false}};
     Timer timer{*this, "timer", 10, true, [this] { ++ticks; }};
     ComboBox combo{*this, {.name = "combo", .place = {6450, 150, 1500, 300}}};

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -82,7 +83,17 @@ TEST(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
     form.setState(WindowState::Normal);
     EXPECT_FALSE(window.isMinimized());
     form.tray.setOn(true);
-    EXPECT_TRUE(window.findChild<QSystemTrayIcon*>("tray")->isVisible());
+    auto* const icon = window.findChild<QSystemTrayIcon*>("tray");
+    EXPECT_TRUE(icon->isVisible());
+    std::string clicks;
+    form.tray.onLeftClick = [&] { clicks += "left "; };
+    form.tray.onRightClick = [&] { clicks += "right "; };
+    for (const auto reason : {QSystemTrayIcon::Context, QSystemTrayIcon::Trigger}) {
+        emit icon->activated(reason);
+    }
+    EXPECT_EQ(clicks, "") << "Qt has not done with the click";
+    QApplication::processEvents();
+    EXPECT_EQ(clicks, "right left ");
     EXPECT_EQ(form.tray.isAvailable(), QSystemTrayIcon::isSystemTrayAvailable());
 }
 
