@@ -54,23 +54,11 @@ public:
     }
 
     std::string run(const std::string& acts) {
-        std::string text;
-        std::map<std::string, std::string> before = look();
-        for (const std::string& act : parts(acts, "\n")) {
-            EXPECT_NO_THROW(doLine(act)) << act;
-            std::string changes = m_test.takeLog() + std::exchange(m_says, {});
-            for (const auto& [name, state] : look()) {
-                std::string& old = before[name];
-                changes += old == state ? "" : name + ": " + (state.empty() ? "-" : state) + "; ";
-                old = state;
-            }
-            text += "> " + act + '\n';
-            changes.erase(changes.find_last_not_of(" |;,\n") + 1);
-            if (!changes.empty() && !act.starts_with("write ")) {
-                text += "  " + replaced(changes, "\n", " | ") + '\n';
-            }
-        }
-        return replaced(std::move(text), m_test.folder().path().string(), "APP");
+        return playActs(acts,
+                        {.act = [this](const std::string& act) { doLine(act); },
+                         .takeLog = [this] { return m_test.takeLog() + std::exchange(m_says, {}); },
+                         .look = [this] { return look(); },
+                         .folder = m_test.folder().path().string()});
     }
 
     /// The design as "write" takes it.

@@ -102,22 +102,10 @@ public:
     /// The acts, each with what was asked for and what it has changed.
     std::string run(const Case& each) {
         folder.write("images.exe", "archive");
-        std::string text;
-        for (const std::string& act : linesOf(each["acts"])) {
-            const std::map<std::string, std::string> before = seen();
-            doLine(act);
-            std::string changes = std::exchange(machine.log, {});
-            for (const auto& [name, value] : seen()) {
-                const auto known = before.find(name);
-                if (known == before.end() || known->second != value) {
-                    changes += name + ": " + value + "; ";
-                }
-            }
-            changes = replaced(replaced(changes, folder.path().string(), "APP"), "\n", "/");
-            changes = changes.substr(0, changes.find_last_not_of("; ") + 1);
-            text += "> " + act + '\n' + (changes.empty() ? "" : "  " + changes + '\n');
-        }
-        return text;
+        return playActs(each["acts"], {.act = [this](const std::string& act) { doLine(act); },
+                                       .takeLog = [this] { return std::exchange(machine.log, {}); },
+                                       .look = [this] { return seen(); },
+                                       .folder = folder.path().string()});
     }
 
 private:

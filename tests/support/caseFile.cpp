@@ -73,4 +73,31 @@ void expectCases(const std::string& file, const std::function<std::string(const 
     }
 }
 
+std::string playActs(const std::string& acts, const Stage& stage) {
+    std::string text;
+    std::map<std::string, std::string> before = stage.look();
+    for (const std::string& act : linesOf(acts)) {
+        EXPECT_NO_THROW(stage.act(act)) << act;
+        std::string changes = stage.takeLog();
+        for (const auto& [name, value] : stage.look()) {
+            const auto [old, isNew] = before.try_emplace(name);
+            if (isNew || old->second != value) {
+                changes += name + ": " + (value.empty() ? "-" : value) + "; ";
+                old->second = value;
+            }
+        }
+        changes.erase(changes.find_last_not_of("; \n") + 1);
+        text += "> " + act + '\n';
+        text += changes.empty() ? "" : "  " + replaced(changes, "\n", " | ") + '\n';
+    }
+    return replaced(std::move(text), stage.folder, "APP");
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
+}
+
 }  // namespace fleetwright

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,5 +31,22 @@ std::vector<std::string> linesOf(const std::string& text);
 /// If it makes something else, the test fails, and the file as it would have to be is left in the
 /// folder of temporary files, to be read and put in the place of the old one.
 void expectCases(const std::string& file, const std::function<std::string(const Case&)>& act);
+
+/// What acts are played on.
+struct Stage {
+    std::function<void(const std::string& act)> act;
+    /// What was said since the last call, each with "; " behind it.
+    std::function<std::string()> takeLog;
+    /// What can be seen, by its names.
+    std::function<std::map<std::string, std::string>()> look;
+    std::string folder;  ///< is written as APP
+};
+
+/// Plays acts, a line each: "> act", and below it all that was said because of it and all that
+/// looks different then.
+std::string playActs(const std::string& acts, const Stage& stage);
+
+/// A text with something in it replaced wherever it stands.
+std::string replaced(std::string text, const std::string& what, const std::string& by);
 
 }  // namespace fleetwright

@@ -17,14 +17,6 @@
 
 namespace fleetwright {
 
-/// A text with each of these pieces replaced.
-inline std::string replaced(std::string text, const std::string& what, const std::string& by) {
-    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size()) {
-        text.replace(at, what.size(), by);
-    }
-    return text;
-}
-
 /// Controls by their names.
 using Controls = std::map<std::string, Control*>;
 
