@@ -59,10 +59,9 @@ private:
 /// read again when it has changed. Copies share what was read, in all threads.
 class CatalogueFile {
 public:
-    CatalogueFile() : CatalogueFile(std::filesystem::path()) {}
-    template <std::convertible_to<std::filesystem::path> Path>
-    requires(!std::same_as<std::remove_cvref_t<Path>, CatalogueFile>) CatalogueFile(Path&& path)
-        : m_cache(make(std::forward<Path>(path))) {}
+    template <typename Path>
+    requires std::convertible_to<const Path&, std::filesystem::path> CatalogueFile(const Path& path)
+        : m_cache(make(path)) {}
 
     const std::filesystem::path& path() const;
     /// Throws FileError if the file cannot be read.

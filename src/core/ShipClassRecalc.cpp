@@ -138,7 +138,8 @@ std::int32_t ShipClass::evaluate(std::string_view& text, const HullDesign& desig
 }
 
 ShipState ShipClass::state() const {
-    ShipState state{*this, *this, {}};
+    ShipState state{
+        static_cast<const ShipNumbers&>(*this), static_cast<const ShipNames&>(*this), {}};
     for (const std::size_t record : m_touched) {
         if (const std::int32_t amount = m_catalogue.records()[record].amount; amount != 0) {
             state.amounts.emplace_back(record, amount);
