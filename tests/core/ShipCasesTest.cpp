@@ -102,6 +102,7 @@ private:
         write("thrust", [](ShipClass& ship, int n) { ship.THRUST(static_cast<std::int16_t>(n)); });
         write("streamline",
               [](ShipClass& ship, int n) { ship.Streamline(static_cast<std::int16_t>(n)); });
+        write("saved", [](ShipClass& ship, int n) { ship.g_bSaved = n != 0; });
         write("auto", [](ShipClass& ship, int n) {
             ship.g_bAutoMass = n != 0;
             ship.weapChange();

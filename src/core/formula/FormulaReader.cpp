@@ -153,12 +153,12 @@ double FormulaReader::combine(Operator op, double left, double right) {
     return op == Operator::Divide ? left / right : std::fmod(left, right);
 }
 
-/// Finds out which operator stands at the reading place, behind blanks, without taking it.
+/// Finds out which operator stands at the reading place, which is behind the blanks that follow an
+/// operand, without taking it.
 bool FormulaReader::peekOperator() {
     if (m_behindOperator != nullptr) {
         return true;  // found already, by a level that it was too loose for
     }
-    skipBlanks();
     const char next = *m_at == '\0' ? '\0' : m_at[1];
     const auto found = [this](Operator op, int length) {
         m_operator = op;
