@@ -39,6 +39,7 @@ void describe(const Element& element, const std::string& indent, std::string& te
             '"' + (element.is(ATSPI_STATE_SHOWING) ? "" : " hidden") +
             (element.is(ATSPI_STATE_ENABLED) ? "" : " disabled") +
             (element.is(ATSPI_STATE_FOCUSED) ? " focused" : "") +
+            (element.is(ATSPI_STATE_ACTIVE) ? " active" : "") +
             (element.is(ATSPI_STATE_SELECTED) ? " selected\n" : "\n");
     for (const Element& child : element.children()) {
         describe(child, indent + "  ", text);
