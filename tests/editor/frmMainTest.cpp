@@ -161,6 +161,12 @@ private:
                  m_test.ship().Hull(7);
              }},
             {"status", [this] { m_window.sbStatus.setText("message"); }},
+            {"load", [this] { m_test.ship().loadShip(m_test.folder().path() / "some.shp"); }},
+            {"counting",
+             [this] {
+                 m_counting =
+                     m_test.ship().Recalculated.connect([this] { m_says += "worked out; "; });
+             }},
         };
         settings.at(what)();
     }
@@ -271,6 +277,7 @@ private:
     bool m_hasTray = false;
     std::string m_says;
     Connection m_dragged;
+    Connection m_counting;
 };
 
 }  // namespace
