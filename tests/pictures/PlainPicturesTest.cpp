@@ -19,16 +19,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The bytes of a GIF file, once as they are read without Qt and once as Qt reads them, as bitmaps;
-/// nothing if they are left to Qt.
-std::optional<std::pair<std::string, std::string>> bothReadings(const std::string& bytes) {
+/// Whether the bytes of a GIF file are read without Qt, which has to be as Qt reads them.
+bool isReadWithoutQt(const std::string& bytes) {
     const std::optional<Raster> picture = plainGif(bytes);
-    if (!picture) {
-        return std::nullopt;
+    if (picture) {
+        const TemporaryFolder folder;
+        const Raster byQt = QtPictureFiles().load(folder.write("picture.gif", bytes));
+        EXPECT_TRUE(bmpFile(*picture) == bmpFile(byQt));
     }
-    const TemporaryFolder folder;
-    return std::pair{bmpFile(*picture),
-                     bmpFile(QtPictureFiles().load(folder.write("picture.gif", bytes)))};
+    return picture.has_value();
 }
 
 }  // namespace
@@ -36,23 +35,20 @@ std::optional<std::pair<std::string, std::string>> bothReadings(const std::strin
 TEST(PlainPictures, GifFilesAreReadAsQtReadsThem) {
     for (const char* const folder : {"images", "shipimages"}) {
         for (const fs::path& file : listFolder(fs::path(PICTURES_FOLDER) / folder, ".gif")) {
-            const auto both = bothReadings(readBytes(file));
-            EXPECT_TRUE(both && both->first == both->second) << file;
+            EXPECT_TRUE(isReadWithoutQt(readBytes(file))) << file;
         }
     }
     const std::string bytes = readBytes(PICTURES_FOLDER "/images/ftl.gif");
     std::mt19937 random(1);
     int readCount = 0;
-    for (int i = 0; i < 2000; ++i) {
+    for (int i = 0; i < 2000 && !testing::Test::HasFailure(); ++i) {
+        SCOPED_TRACE(i);
         std::string damaged = bytes;
         damaged[random() % damaged.size()] = static_cast<char>(random());
         if (i % 4 == 0) {
             damaged.resize(random() % damaged.size());
         }
-        if (const auto both = bothReadings(damaged)) {
-            ASSERT_EQ(both->first, both->second) << i;
-            ++readCount;
-        }
+        readCount += isReadWithoutQt(damaged) ? 1 : 0;
     }
     EXPECT_GT(readCount, 100);
 }

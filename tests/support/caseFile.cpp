@@ -7,6 +7,8 @@
 #include <iterator>
 #include <sstream>
 
+#include <unistd.h>
+
 namespace fleetwright {
 
 namespace {
@@ -67,7 +69,9 @@ void expectCases(const std::string& file, const std::function<std::string(const 
         }
     }
     if (testing::Test::HasFailure()) {
-        const std::string kept = testing::TempDir() + path.filename().string();
+        // Of another name in each run, since several may run at once.
+        const std::string kept =
+            testing::TempDir() + std::to_string(getpid()) + '-' + path.filename().string();
         std::ofstream(kept, std::ios::binary) << renewed.substr(0, renewed.size() - 1);
         ADD_FAILURE() << "what " << file << " would be now stands in " << kept;
     }
