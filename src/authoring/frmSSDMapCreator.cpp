@@ -82,8 +82,8 @@ void frmSSDMapCreator::cmdSelect_Click() {
     }
     m_sImageFile = *file;
     cmdDoit.setEnabled(true);
-    picImage.setToolTip(m_sImageFile);
-    cmdDoit.setToolTip("Makes the map of " + m_sImageFile);
+    picImage.setToolTip(shownText(m_sImageFile));
+    cmdDoit.setToolTip("Makes the map of " + shownText(m_sImageFile));
 }
 
 /// The picture on show stays, so that what is said of it has to say that it no longer counts.
@@ -241,7 +241,7 @@ void frmSSDMapCreator::cmdSaveIt_Click() {
 
 void frmSSDMapCreator::saveMap(const std::string& file) {
     saveFile(nativePath(file), mapFileContents(txtOutput.text()));
-    cmdSaveIt.setToolTip("Saved as " + file);
+    cmdSaveIt.setToolTip("Saved as " + shownText(file));
     try {
         auto map = std::make_shared<SSDMap>(m_services.appFolder);
         map->ImageFile(displayName(file));

@@ -4,6 +4,7 @@
 #include "Fault.h"
 #include "PictureFiles.h"
 #include "paths.h"
+#include "text.h"
 
 namespace fleetwright {
 
@@ -59,7 +60,7 @@ void frmSSDView::cmdSelect_Click() {
             return;
         }
         picImage.setPicture(m_services.pictures.load(nativePath(*file)));
-        picImage.setToolTip(*file);
+        picImage.setToolTip(shownText(*file));
         cmdSelect.setToolTip("");
         fitWindow();
     } catch (const std::exception& error) {

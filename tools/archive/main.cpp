@@ -3,6 +3,7 @@
 
 #include "Error.h"
 #include "files.h"
+#include "text.h"
 #include "unpackFiles.h"
 
 #include <cstdio>
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", complaint(error).c_str());
         return 1;
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s: %s\n", argv[0], error.what());
+        std::fprintf(stderr, "%s: %s\n", shownText(argv[0]).c_str(), error.what());
         return 1;
     }
     return 0;

@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
     try {
         run(argv);
     } catch (const FileError& error) {
-        std::fprintf(stderr, "%s: %s\n", error.file().string().c_str(), error.what());
+        std::fprintf(stderr, "%s\n", complaint(error).c_str());
         return 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "render-pictures: %s\n", error.what());

@@ -278,7 +278,7 @@ int main(int argc, char** argv) {
     try {
         takeAll(argv[1], argv[2], argv[3]);
     } catch (const FileError& error) {
-        std::fprintf(stderr, "%s: %s\n", error.file().string().c_str(), error.what());
+        std::fprintf(stderr, "%s\n", complaint(error).c_str());
         return 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "window-screenshots: %s\n", error.what());

@@ -65,10 +65,13 @@ bool mayReplace(const QString& chosen, const QString& extension) {
     if (extension.isEmpty() || chosen.endsWith(extension) || !QFileInfo::exists(file)) {
         return true;
     }
-    return QMessageBox::warning(QApplication::activeWindow(), QApplication::applicationName(),
-                                file + " already exists.\nDo you want to replace it?",
-                                QMessageBox::Yes | QMessageBox::No,
-                                QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Warning, QApplication::applicationName(),
+                    toQt(shownText(file.toStdString())) +
+                        " already exists.\nDo you want to replace it?",
+                    QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);  // the name in it is no markup
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 }  // namespace

@@ -34,6 +34,20 @@ TEST_F(FormWindowTest, WidgetsStandWhereTheFormPutsThem) {
               find<QLabel>("status")->parentWidget()->height());
 }
 
+TEST_F(FormWindowTest, TextsFromOthersDoNothingButShow) {
+    const std::string text = "<b>A</b>\x1B\u202E";
+    form.button.setToolTip(text);
+    form.list.add("a", text, text);
+    form.verbatim.setCaption("A\tB & C");
+    form.status.setText(std::string(200, 'W') + text);
+    const QString tip = "<p>&lt;b&gt;A&lt;/b&gt;\uFFFD\uFFFD</p>";
+    EXPECT_EQ(find<QAbstractButton>("button")->toolTip().remove('\n'), tip);
+    const auto* const row = find<QTreeWidget>("list")->topLevelItem(0);
+    EXPECT_EQ(row->text(0) + row->text(1), QString("<b>A</b>\uFFFD\uFFFD").repeated(2));
+    EXPECT_EQ(window.findChild<QAction*>("verbatim")->text(), "A\uFFFDB && C");
+    EXPECT_TRUE(find<QLabel>("status")->toolTip().contains("&lt;b&gt;A&lt;/b&gt;\uFFFD"));
+}
+
 TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
     form.label.setCaption("New");
     form.second.setOn();

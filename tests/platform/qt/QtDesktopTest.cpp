@@ -95,7 +95,12 @@ TEST(QtDesktop, FileDialogsHandOnWhatIsChosenAndAskBeforeAFileIsReplaced) {
     QtDesktop desktop;
     inDialogs({choose("Wasp.shp")});
     EXPECT_EQ(desktop.chooseFileToOpen(dialog), wasp);
-    inDialogs({choose("Wasp"), answer(QMessageBox::No), choose("Bee")});
+    inDialogs({choose("Wasp"),
+               [](QDialog& question) {
+                   EXPECT_EQ(dynamic_cast<QMessageBox&>(question).textFormat(), Qt::PlainText);
+                   answer(QMessageBox::No)(question);
+               },
+               choose("Bee")});
     EXPECT_EQ(desktop.chooseFileToSave(dialog), bee);
     inDialogs({choose("Wasp"), answer(QMessageBox::Yes)});
     EXPECT_EQ(desktop.chooseFileToSave(dialog), (folder.path() / "Wasp").string());

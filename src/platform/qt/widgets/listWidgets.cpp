@@ -64,8 +64,8 @@ public:
                 addTopLevelItem(new QTreeWidgetItem);
             }
             QTreeWidgetItem* const item = topLevelItem(static_cast<int>(i));
-            item->setText(0, toQt(rows[i].text));
-            item->setText(1, toQt(rows[i].subItem));
+            item->setText(0, toShown(rows[i].text));
+            item->setText(1, toShown(rows[i].subItem));
         }
         if (const auto selected = m_list.selected()) {
             setCurrentItem(topLevelItem(static_cast<int>(*selected)));
@@ -111,7 +111,7 @@ protected:
             const std::string text =
                 row < 0 ? m_list.toolTip()
                         : m_list.rowToolTip(m_list.rows()[static_cast<std::size_t>(row)]);
-            QToolTip::showText(help->globalPos(), toQt(text));
+            QToolTip::showText(help->globalPos(), toToolTip(text));
             return true;
         }
         return QTreeWidget::viewportEvent(event);

@@ -27,8 +27,9 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
         action->setShortcut(QKeySequence(toQt(entry.design().shortcut)));
     }
     keepInStep(menu, entry, [action, &entry] {
-        QString caption = toQt(entry.caption());
-        action->setText(entry.design().isVerbatim ? caption.replace('&', "&&") : caption);
+        action->setText(entry.design().isVerbatim
+                            ? toQt(shownText(entry.caption())).replace('&', "&&")
+                            : toQt(entry.caption()));
         action->setEnabled(entry.isEnabled());
         action->setVisible(entry.isVisible());
         // A mark makes room for itself only in entries that have ever had one.

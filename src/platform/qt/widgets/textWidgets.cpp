@@ -63,10 +63,10 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
         return false;
     });
     keepInStep(widget, bar, [widget, &bar] {
-        const QString text = toQt(bar.text());
-        widget->setText(text);
+        widget->setText(toShown(bar.text()));
         // What the line has no room for can be read all the same.
-        widget->setToolTip(widget->sizeHint().width() > widget->width() ? text : QString());
+        const bool isCutOff = widget->sizeHint().width() > widget->width();
+        widget->setToolTip(isCutOff ? toToolTip(bar.text()) : QString());
     });
     return widget;
 }
@@ -236,7 +236,8 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
             widget->setEditText(text);
         }
         changeFont(*widget->lineEdit(), fittingFont(*widget->lineEdit()));
-        widget->lineEdit()->setToolTip(text);  // which may be longer than the box still
+        // It may be longer than the box still.
+        widget->lineEdit()->setToolTip(toToolTip(box.text()));
     });
     widget->view()->setTextElideMode(Qt::ElideNone);
     QObject::connect(widget, &QComboBox::editTextChanged,

@@ -121,7 +121,8 @@ protected:
             const auto* const help = static_cast<QHelpEvent*>(event);
             QTreeWidgetItem* const item = itemAt(help->pos());
             const std::string text = item == nullptr ? "" : m_tree.nodeToolTip(nodeOf(item));
-            QToolTip::showText(help->globalPos(), toQt(text.empty() ? m_tree.toolTip() : text));
+            QToolTip::showText(help->globalPos(),
+                               toToolTip(text.empty() ? m_tree.toolTip() : text));
             return true;
         }
         return QTreeWidget::viewportEvent(event);
@@ -148,7 +149,7 @@ private:
 
     void addItem(TreeView::Node& node) {
         auto* const item = new QTreeWidgetItem;
-        item->setText(0, toQt(node.key));
+        item->setText(0, toShown(node.key));
         if (node.parent == nullptr) {
             addTopLevelItem(item);
         } else {

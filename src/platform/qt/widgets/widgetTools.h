@@ -5,10 +5,12 @@
 #include "Control.h"
 #include "Scale.h"
 #include "qtImage.h"
+#include "text.h"
 
 #include <QIcon>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QTextDocument>
 #include <QWidget>
 
 #include <algorithm>
@@ -20,6 +22,17 @@ namespace fleetwright {
 
 inline QString toQt(const std::string& text) {
     return QString::fromStdString(text);
+}
+
+/// A text that is only shown: what it holds from outside does nothing else.
+inline QString toShown(const std::string& text) {
+    return toQt(shownLines(text));
+}
+
+/// The same for a tool tip, in which Qt takes for markup whatever looks like it.
+inline QString toToolTip(const std::string& text) {
+    const QString shown = toShown(text);
+    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
 }
 
 /// A face that the program carries in itself, with its picture for twice the resolution.
@@ -73,7 +86,7 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
             widget->setGeometry(scale.rect(*place));
         }
         if (!control.askToolTip) {
-            widget->setToolTip(toQt(control.toolTip()));
+            widget->setToolTip(toToolTip(control.toolTip()));
         }
         widget->setVisible(control.isVisible());
         widget->setEnabled(control.isEnabled());
@@ -82,7 +95,7 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
         // It is worked out for the pointer, and for the keyboard, whose screen reader says it.
         new EventHook(widget, [widget, &control](QEvent* event) {
             if (event->type() == QEvent::ToolTip || event->type() == QEvent::FocusIn) {
-                widget->setToolTip(toQt(control.toolTip()));
+                widget->setToolTip(toToolTip(control.toolTip()));
             }
             return false;
         });
