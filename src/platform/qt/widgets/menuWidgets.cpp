@@ -1,5 +1,6 @@
 #include "Menu.h"
 #include "controlWidgets.h"
+#include "text.h"
 #include "widgetTools.h"
 
 #include <QMenu>

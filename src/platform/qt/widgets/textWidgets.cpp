@@ -109,6 +109,52 @@ void changeFont(QLineEdit& line, const QFont& font) {
     }
 }
 
+/// Hands what is done to a line to its model. Whether the line itself is to do nothing with it.
+bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale) {
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+        if (box.onMouseDown) {
+            box.pressMouse(toPress(static_cast<QMouseEvent&>(event), scale));
+            line.setFocus(Qt::MouseFocusReason);
+            return true;
+        }
+        return false;
+    case QEvent::ContextMenu:
+        if (box.onMouseDown &&
+            static_cast<QContextMenuEvent&>(event).reason() == QContextMenuEvent::Keyboard) {
+            box.pressMouse({.button = RightButton});
+            line.setFocus(Qt::OtherFocusReason);
+        }
+        return static_cast<bool>(box.onMouseDown);
+    case QEvent::ShortcutOverride:
+        return takesEditKeys(event, box);
+    case QEvent::KeyPress: {
+        const auto& key = static_cast<QKeyEvent&>(event);
+        if (key.key() == Qt::Key_F2 && box.onDblClick) {
+            box.doubleClick();  // what the mouse opens and shuts
+            return true;
+        }
+        const QString typed = key.text();
+        return !typed.isEmpty() && box.pressKey(typed.front().unicode());
+    }
+    case QEvent::MouseButtonDblClick:
+        box.doubleClick();
+        return false;
+    case QEvent::FocusOut:
+        switch (static_cast<QFocusEvent&>(event).reason()) {
+        case Qt::ActiveWindowFocusReason:
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            break;  // it comes back by itself
+        default:
+            box.loseFocus();
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
 /// The box of a text with many lines.
 QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
     auto* const widget = new QPlainTextEdit(parent);
@@ -162,51 +208,10 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     QObject::connect(widget, &QLineEdit::textEdited,
                      [&box](const QString& text) { box.type(text.toStdString()); });
     new EventHook(widget, [widget, &box, scale, show](QEvent* event) {
-        switch (event->type()) {
-        case QEvent::MouseButtonPress:
-            if (box.onMouseDown) {
-                box.pressMouse(toPress(*static_cast<QMouseEvent*>(event), scale));
-                widget->setFocus(Qt::MouseFocusReason);
-                return true;
-            }
-            return false;
-        case QEvent::ContextMenu:
-            if (box.onMouseDown &&
-                static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
-                box.pressMouse({.button = RightButton});
-                widget->setFocus(Qt::OtherFocusReason);
-            }
-            return static_cast<bool>(box.onMouseDown);
-        case QEvent::ShortcutOverride:
-            return takesEditKeys(*event, box);
-        case QEvent::KeyPress: {
-            const auto* const key = static_cast<QKeyEvent*>(event);
-            if (key->key() == Qt::Key_F2 && box.onDblClick) {
-                box.doubleClick();  // what the mouse opens and shuts
-                return true;
-            }
-            const QString typed = key->text();
-            return !typed.isEmpty() && box.pressKey(typed.front().unicode());
-        }
-        case QEvent::ApplicationPaletteChange:
+        if (event->type() == QEvent::ApplicationPaletteChange) {
             show();
-            return false;
-        case QEvent::MouseButtonDblClick:
-            box.doubleClick();
-            return false;
-        case QEvent::FocusOut:
-            switch (static_cast<QFocusEvent*>(event)->reason()) {
-            case Qt::ActiveWindowFocusReason:
-            case Qt::PopupFocusReason:
-            case Qt::MenuBarFocusReason:
-                break;  // it comes back by itself
-            default:
-                box.loseFocus();
-            }
-            return false;
-        default:
-            return false;
         }
+        return takeEvent(*event, box, *widget, scale);
     });
     return widget;
 }
