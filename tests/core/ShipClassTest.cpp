@@ -1,7 +1,6 @@
 // What others see of a ship while it works, and what they can do to it.
 
 #include "Error.h"
-#include "designWords.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>
@@ -71,14 +70,6 @@ TEST_F(ShipClassTest, AnEvaluatorMayRewriteTheText) {
     EXPECT_EQ(formula, "42");
 }
 
-TEST_F(ShipClassTest, NamesAndMarksAreWrittenWithoutAWord) {
-    EventLog events(*ship);
-    ship->g_sShipName = "Name";
-    ship->g_bAutoMass = true;
-    EXPECT_EQ(events.take(), "");
-    EXPECT_TRUE(ship->g_bSaved);
-}
-
 TEST_F(ShipClassTest, ListenersSeeTheMarkThatBelongsToTheEvent) {
     std::string seen;
     const auto note = [&] { seen += ship->g_bSaved ? "saved " : "changed "; };
@@ -137,15 +128,6 @@ TEST_F(ShipClassTest, FileNamesAreCutAtEitherSeparator) {
     EXPECT_FALSE(ship->loadShip((yard.folder().path() / "none.shp").string()));
     EXPECT_EQ(ship->fileFault(), (Fault{0, "cannot be read: No such file or directory"}));
     EXPECT_EQ(yard.loaded("Armor: Level 1 ")->fileFault(), (Fault{1, "\"\" is no number"}));
-}
-
-TEST_F(ShipClassTest, AutoMassRunsOnePassInsideTheOther) {
-    ship->mass(50);
-    ship->addWeap("Ballast", 35);
-    EventLog events(*ship);
-    ship->g_bAutoMass = true;
-    ship->weapChange();
-    EXPECT_EQ(events.take(), "( ( ( ( ( ( ( ( ( ( ( ) ) ) ) ) ) ) ) ) ) )");
 }
 
 TEST_F(ShipClassTest, ListenersMayChangeTheShipWhileAutoMassGivesUp) {
@@ -218,33 +200,4 @@ TEST_F(ShipClassTest, ATurnOfTheEventLoopMayChangeTheShip) {
     turning.weapChange();
     EXPECT_EQ(turning.mass(), 0);
     EXPECT_EQ(turning.g_iMassLeft, 0);
-}
-
-TEST(SizeNames, ChangeAtTheirBounds) {
-    const struct {
-        std::int32_t most;
-        const char *shipClass, *designation;
-    } ranges[] = {{1, "Escort", "Scout"},
-                  {2, "Escort", "Courier"},
-                  {4, "Escort", "Scout"},
-                  {6, "Escort", "Corvette"},
-                  {10, "Escort", "Frigate"},
-                  {14, "Escort", "Destroyer"},
-                  {18, "Escort", "Super Destroyer"},
-                  {22, "Cruiser", "Light Cruiser"},
-                  {26, "Cruiser", "Escort Cruiser"},
-                  {36, "Cruiser", "Heavy Cruiser"},
-                  {40, "Capital", "Battle Cruiser"},
-                  {48, "Capital", "BattleShip"},
-                  {70, "Capital", "BattleDreadnought"},
-                  {100, "Capital", "SuperDreadnought"},
-                  {2'000'000'000, "Supership", "SuperShip"}};
-    std::int32_t least = -5;
-    for (const auto& [most, shipClass, designation] : ranges) {
-        for (const std::int32_t mass : {least, most}) {
-            EXPECT_EQ(classOf(mass), shipClass) << mass;
-            EXPECT_EQ(designationOf(mass), designation) << mass;
-        }
-        least = most + 1;
-    }
 }
