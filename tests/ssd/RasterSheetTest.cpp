@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "ImageList.h"
 #include "SheetImages.h"
+#include "caseFile.h"
 #include "fakeServices.h"
 #include "sheetWorld.h"
 
@@ -61,14 +62,14 @@ TEST(RasterSheet, PrintsLinesThatEndInCr) {
     EXPECT_EQ(sheet.textHeight(""), 0);
     EXPECT_EQ(sheet.textHeight("\ra\r\r"), 48);
     EXPECT_EQ(sheet.print("1\rI!", {9, 1}).y, 33);
-    expectGolden(sheet.raster, "lines.txt");
+    expectCases("ssd/golden/lines.txt", [&](const Case&) { return pictureOf(sheet.raster); });
 }
 
 TEST(RasterSheet, PrintsCharactersOfAllKinds) {
     DrawnSheet sheet(110, 16, Sheet::white);
     // Narrow, accented, put together, wide, a blank, invisible ones, unknown, no UTF-8 at all.
     sheet.print("éß e\u0301Ж漢\t\u200B\n|\U0001F680\xFF", {0, 0});
-    expectGolden(sheet.raster, "characters.txt");
+    expectCases("ssd/golden/characters.txt", [&](const Case&) { return pictureOf(sheet.raster); });
     const auto printed = [](const std::string& text) {
         DrawnSheet other(32, 16, Sheet::white);
         other.print(text, {0, 0});

@@ -1,10 +1,6 @@
 #include "sheetWorld.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace fleetwright {
 
@@ -42,16 +38,6 @@ std::string pictureOf(const Raster& raster) {
         text += '\n';
     }
     return text;
-}
-
-void expectGolden(const Raster& raster, const std::string& name) {
-    const std::string actual = pictureOf(raster);
-    std::ifstream file(SOURCE_FOLDER "/tests/ssd/golden/" + name, std::ios::binary);
-    if (actual != std::string{std::istreambuf_iterator<char>(file), {}}) {
-        const std::string kept = testing::TempDir() + name;
-        std::ofstream(kept, std::ios::binary) << actual;
-        ADD_FAILURE() << name << " has changed; the new one is " << kept;
-    }
 }
 
 }  // namespace fleetwright

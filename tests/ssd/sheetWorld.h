@@ -24,7 +24,4 @@ Raster box(int width, int height, std::uint32_t colour);
 /// A raster in letters: black '#', white '.', other colours a letter each.
 std::string pictureOf(const Raster& raster);
 
-/// Holds a picture against the one of this name in golden/.
-void expectGolden(const Raster& raster, const std::string& name);
-
 }  // namespace fleetwright
