@@ -36,7 +36,7 @@ void packFolder(const char* folder, const char* source) {
 
     std::ofstream out(source, std::ios::binary);
     // Octal, since an octal escape ends after three digits whatever follows.
-    out << "#include \"PictureArchive.h\"\n\nnamespace fleetwright {\n\n"
+    out << "#include \"unpackFiles.h\"\n\nnamespace fleetwright {\n\n"
            "static const ArchivedFile pictures[] = {\n"
         << std::oct << std::setfill('0');
     for (const fs::path& file : files) {
