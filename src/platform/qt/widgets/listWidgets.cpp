@@ -1,13 +1,12 @@
 // The list view, and the slider of its dialog.
 
 #include "DragImage.h"
+#include "ItemWidget.h"
 #include "ListView.h"
 #include "Slider.h"
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -16,7 +15,6 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolTip>
-#include <QTreeWidget>
 
 #include <initializer_list>
 
@@ -25,28 +23,16 @@ namespace fleetwright {
 namespace {
 
 /// A list of rows with columns.
-class RowList : public QTreeWidget {
+class RowList : public ItemWidget {
 public:
     RowList(ListView& list, QWidget* parent, const Scale& scale)
-        : QTreeWidget(parent), m_list(list), m_scale(scale) {
+        : ItemWidget(list, parent), m_list(list), m_scale(scale) {
         setRootIsDecorated(false);
-        setUniformRowHeights(true);
         for (QWidget* const part : std::initializer_list<QWidget*>{
                  viewport(), header()->viewport(), horizontalScrollBar(), verticalScrollBar()}) {
             part->setAcceptDrops(true);
             new EventHook(part, [this](QEvent* event) { return takeDrag(*event); });
         }
-        connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
-            if (item != nullptr) {
-                m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
-                // The left button's click is still to come.
-                if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
-                    m_list.click();
-                }
-            }
-        });
-        connect(this, &QTreeWidget::itemClicked, [this] { m_list.click(); });
-        connect(this, &QTreeWidget::itemDoubleClicked, [this] { m_list.doubleClick(); });
     }
 
     /// Brings the items to what the rows are.
@@ -75,6 +61,10 @@ public:
     }
 
 protected:
+    void takeSelected(QTreeWidgetItem* item) override {
+        m_list.select(static_cast<std::size_t>(indexOfTopLevelItem(item)));
+    }
+
     void mousePressEvent(QMouseEvent* event) override {
         QTreeWidget::mousePressEvent(event);
         // The event counts from below the headers, the model from the corner of the list.
@@ -82,18 +72,6 @@ protected:
         press.x += m_scale.twips(viewport()->x());
         press.y += m_scale.twips(viewport()->y());
         m_list.pressMouse(press);
-    }
-
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton) {
-            QTreeWidget::mouseDoubleClickEvent(event);
-        }
-    }
-
-    void contextMenuEvent(QContextMenuEvent* event) override {
-        if (event->reason() == QContextMenuEvent::Keyboard) {
-            m_list.pressMouse({.button = RightButton});
-        }
     }
 
     void keyPressEvent(QKeyEvent* event) override {

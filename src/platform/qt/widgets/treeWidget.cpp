@@ -1,16 +1,15 @@
 #include "ImageList.h"
+#include "ItemWidget.h"
 #include "TreeView.h"
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QToolTip>
-#include <QTreeWidget>
 
 #include <map>
 
@@ -19,30 +18,18 @@ namespace fleetwright {
 namespace {
 
 /// A tree widget and the nodes that its items stand for.
-class NodeTree : public QTreeWidget {
+class NodeTree : public ItemWidget {
 public:
     NodeTree(TreeView& tree, QWidget* parent, const Scale& scale)
-        : QTreeWidget(parent), m_tree(tree), m_scale(scale) {
+        : ItemWidget(tree, parent), m_tree(tree), m_scale(scale) {
         setColumnCount(1);
         header()->hide();
         constexpr int pictureSize = 32;
         setIconSize({pictureSize, pictureSize});
-        setUniformRowHeights(true);
         connect(this, &QTreeWidget::itemExpanded,
                 [this](QTreeWidgetItem* item) { takeExpanded(item, true); });
         connect(this, &QTreeWidget::itemCollapsed,
                 [this](QTreeWidgetItem* item) { takeExpanded(item, false); });
-        connect(this, &QTreeWidget::currentItemChanged, [this](QTreeWidgetItem* item) {
-            if (item != nullptr) {
-                m_tree.select(nodeOf(item));
-                // The left button's click is still to come.
-                if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
-                    m_tree.click();
-                }
-            }
-        });
-        connect(this, &QTreeWidget::itemClicked, [this] { m_tree.click(); });
-        connect(this, &QTreeWidget::itemDoubleClicked, [this] { m_tree.doubleClick(); });
     }
 
     /// Brings the items to what the nodes are.
@@ -67,6 +54,8 @@ public:
     }
 
 protected:
+    void takeSelected(QTreeWidgetItem* item) override { m_tree.select(nodeOf(item)); }
+
     void mousePressEvent(QMouseEvent* event) override {
         m_pressedAt = event->pos();
         // The right button acts on what is selected and selects nothing itself.
@@ -94,18 +83,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override {
         QTreeWidget::mouseReleaseEvent(event);
         m_tree.releaseMouse(toPress(*event, m_scale));
-    }
-
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton) {
-            QTreeWidget::mouseDoubleClickEvent(event);
-        }
-    }
-
-    void contextMenuEvent(QContextMenuEvent* event) override {
-        if (event->reason() == QContextMenuEvent::Keyboard) {
-            m_tree.pressMouse({.button = RightButton});
-        }
     }
 
     void keyPressEvent(QKeyEvent* event) override {
