@@ -3,6 +3,8 @@
 #include "PictureFiles.h"
 #include "SilentServices.h"
 
+#include <utility>
+
 namespace fleetwright {
 
 namespace {
@@ -17,11 +19,13 @@ public:
 
 class ShipOnScreen::Program {
 public:
-    explicit Program(const std::filesystem::path& appFolder)
-        : window(withoutScreen(m_silent.services(appFolder, m_pictures))) {}
+    Program(const std::filesystem::path& appFolder, const CatalogueFile& catalogueFile)
+        : window(withoutScreen(m_silent.services(appFolder, m_pictures), catalogueFile)) {}
 
 private:
-    static MainWindowServices withoutScreen(MainWindowServices services) {
+    static MainWindowServices withoutScreen(MainWindowServices services,
+                                            const CatalogueFile& catalogueFile) {
+        services.catalogueFile = catalogueFile;
         services.hasScreen = false;
         return services;
     }
@@ -33,17 +37,21 @@ public:
     frmMain window;
 };
 
-ShipOnScreen::ShipOnScreen(const std::filesystem::path& appFolder) : m_appFolder(appFolder) {}
+ShipOnScreen::ShipOnScreen(const std::filesystem::path& appFolder)
+    : ShipOnScreen(appFolder, appFolder / "weaps.dat") {}
+
+ShipOnScreen::ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile)
+    : m_appFolder(std::move(appFolder)), m_catalogueFile(std::move(catalogueFile)) {}
 
 ShipOnScreen::~ShipOnScreen() = default;
 
 std::optional<Fault> ShipOnScreen::load(const std::string& file) {
-    m_program = std::make_unique<Program>(m_appFolder);
+    m_program = std::make_unique<Program>(m_appFolder, m_catalogueFile);
     frmMain& window = m_program->window;
     try {
         window.show();
     } catch (const EndOfProgram&) {
-        Catalogue().loadWeaps(m_appFolder / "weaps.dat");  // throws what the window has not said
+        Catalogue().loadWeaps(m_catalogueFile);  // throws what the window has not said
         throw;
     }
     if (!window.files.loadFile(file)) {

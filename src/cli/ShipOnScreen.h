@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CatalogueFile.h"
 #include "ShipClass.h"
 
 #include <filesystem>
@@ -16,6 +17,8 @@ class frmMain;
 class ShipOnScreen {
 public:
     explicit ShipOnScreen(const std::filesystem::path& appFolder);
+    /// The same, with that folder's catalogue, which all who share it read once.
+    ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile);
     ShipOnScreen(const ShipOnScreen&) = delete;
     ShipOnScreen& operator=(const ShipOnScreen&) = delete;
     ~ShipOnScreen();
@@ -37,6 +40,7 @@ private:
     class Program;
 
     std::filesystem::path m_appFolder;
+    CatalogueFile m_catalogueFile;
     std::unique_ptr<Program> m_program;
 };
 

@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include "CatalogueCheck.h"
+#include "CatalogueFile.h"
 #include "Error.h"
 #include "PictureCheck.h"
 #include "PictureFiles.h"
@@ -15,6 +16,7 @@
 #include "paths.h"
 #include "text.h"
 
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -25,9 +27,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::vector<Fault> checkShip(const fs::path& appFolder, const std::string& file) {
+std::vector<Fault> checkShip(const Options& options, const CatalogueFile& catalogueFile,
+                             const std::string& file) {
     const std::string text = readTextFile(nativePath(file));
-    ShipOnScreen screen(appFolder);
+    ShipOnScreen screen(options.appFolder, catalogueFile);
     // Asked here, for the window drops a ship that does not load, and its fault with it.
     const std::optional<Fault> loadFault = screen.load(file);
     return checkShipFile(text, screen.ship(), loadFault);
@@ -50,12 +53,12 @@ std::vector<Fault> checkCatalogueFile(const Options& options, const fs::path& fi
 }
 
 /// What is wrong in the delivered folder of pictures beyond what the catalogue's lines say.
-std::vector<PictureFault> checkDeliveredPictures(const Options& options) {
-    const fs::path& appFolder = options.appFolder;
-    const fs::path images = appFolder / "images";
-    std::string catalogue;
+std::vector<PictureFault> checkDeliveredPictures(const Options& options,
+                                                 const CatalogueFile& catalogueFile) {
+    const fs::path images = options.appFolder / "images";
+    std::shared_ptr<const CatalogueText> catalogue;
     try {
-        catalogue = readTextFile(appFolder / "weaps.dat");
+        catalogue = catalogueFile.read();
     } catch (const FileError&) {
         return {};  // said already, and without it every picture would seem unused
     }
@@ -65,7 +68,7 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options) {
     }
     ToolPictures pictures(options.programFolder);
     PictureCheck check(images, pictures);
-    check.checkCatalogue(catalogue);
+    check.checkCatalogue(*catalogue);
     return check.checkRest();
 }
 
@@ -88,11 +91,12 @@ std::vector<Fault> checkMap(const Options& options, const std::string& text) {
     return faults;
 }
 
-std::vector<Fault> checkFile(const Options& options, const std::string& file) {
+std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalogueFile,
+                             const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
         if (extension == ".SHP") {
-            return checkShip(options.appFolder, file);
+            return checkShip(options, catalogueFile, file);
         }
         if (extension == ".DAT") {
             return checkCatalogueFile(options, nativePath(file));
@@ -113,9 +117,10 @@ int runCheck(const Options& options) {
         printResults(resultLine(complaint(file, fault)));
         status = SomeRefused;
     };
+    const CatalogueFile catalogueFile(options.appFolder / "weaps.dat");
     std::vector<std::string> files = options.words;
     if (files.empty()) {
-        files.push_back((options.appFolder / "weaps.dat").string());
+        files.push_back(catalogueFile.path().string());
         for (const auto& [folder, ending] : {std::pair("ships", ".shp"), {"maps", ".map"}}) {
             try {
                 for (const fs::path& file : listFolder(options.appFolder / folder, ending)) {
@@ -125,12 +130,12 @@ int runCheck(const Options& options) {
                 report(error.file().string(), {0, error.what()});
             }
         }
-        for (const PictureFault& fault : checkDeliveredPictures(options)) {
+        for (const PictureFault& fault : checkDeliveredPictures(options, catalogueFile)) {
             report(fault.file.string(), fault.fault);
         }
     }
     for (const std::string& file : files) {
-        for (const Fault& fault : checkFile(options, file)) {
+        for (const Fault& fault : checkFile(options, catalogueFile, file)) {
             report(file, fault);
         }
     }

@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "CatalogueFile.h"
 #include "Error.h"
 #include "ShipOnScreen.h"
 #include "console.h"
@@ -48,9 +49,10 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<void(std::size_t)>& taken) {
     int status = Done;
     Progress progress(options.words.size());
+    const CatalogueFile catalogueFile(options.appFolder / "weaps.dat");
     const auto load = [&](std::size_t index) {
         const std::string& file = options.words[index];
-        ShipOnScreen screen(options.appFolder);
+        ShipOnScreen screen(options.appFolder, catalogueFile);
         Result result;
         if (const auto fault = screen.load(file)) {
             result.complaints.push_back(complaint(file, *fault));
