@@ -18,12 +18,12 @@ bool QtPrograms::run(const std::filesystem::path& program, const std::string& ar
     waiting.start();
     process.start(QString::fromStdString(program.string()), {QString::fromStdString(argument)});
     while (process.state() != QProcess::NotRunning && !process.waitForFinished(step)) {
+        onWait();
         if (waiting.elapsed() >= milliseconds) {
             process.kill();
             process.waitForFinished();
             return false;
         }
-        onWait();
     }
     return process.error() != QProcess::FailedToStart &&
            process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
