@@ -1,7 +1,8 @@
-// Picture files. An input is a GIF file's bytes; what it shows is written as a bitmap and scanned.
+// Picture files and the scan of what they show. An input is a GIF file's bytes.
 
 #include "OutlineScan.h"
 #include "bmpFile.h"
+#include "checkMapPlaces.h"
 #include "plainGif.h"
 #include "require.h"
 
@@ -10,6 +11,22 @@
 #include <string>
 
 using namespace fleetwright;
+
+namespace {
+
+/// Counts the marks pixel by pixel and without any haste; none stands right behind a weapon.
+std::size_t marksIn(const Raster& picture) {
+    std::size_t marks = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            marks += isMark(picture.pixel(x, y)) ? 1 : 0;
+            x += picture.pixel(x, y) == Yellow ? 1 : 0;
+        }
+    }
+    return marks;
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string bytes(reinterpret_cast<const char*>(data), size);
@@ -24,8 +41,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!picture) {
         return 0;
     }
-    require(scanOutline(*picture, "input.gif").starts_with("IMAGE: input.gif\r\n"),
-            "any picture can be scanned");
+    const MapPlaces map = readMapPlaces(scanOutline(*picture, "input.gif"));
+    require(map.image == "input.gif", "any picture can be scanned");
+    require(map.unread.empty() && map.places.size() == marksIn(*picture),
+            "each mark is a place of the map");
     const std::optional<Raster> again = plainGif(bytes + "behind");
     require(again && bmpFile(*again) == bmpFile(*picture),
             "what stands behind a picture is let be");

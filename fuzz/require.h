@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -25,9 +27,13 @@ inline void requireSame(const std::string& got, const std::string& wanted,
     require(got == wanted, promise);
 }
 
-/// Faults have words, and come in the order of the lines of a file; what concerns none comes last.
+/// Faults have words, and come in the order of the lines of a text; what concerns none comes last.
 template <typename Faults>
-void requireInOrder(const Faults& faults, int lines) {
+void requireInOrder(const Faults& faults, std::string_view text) {
+    LineReader reader(text);
+    for (std::string_view line; reader.next(line);) {
+    }
+    const int lines = reader.lineNumber();
     int last = 0;
     for (const auto& fault : faults) {
         require(!fault.text.empty(), "a fault is put into words");

@@ -18,13 +18,14 @@ std::string moveTo(int x, int y) {
 /// Moves to the middle of an element that has come to rest, or somewhere beside it: a window is
 /// still on its way when the program shows it already.
 std::string moveTo(const Element& element, int beside = 0) {
-    Rectangle place;
+    AtspiRect place = {};
     waitFor("\"" + element.name() + "\" to have its place", [&] {
-        const Rectangle before = place;
+        const AtspiRect before = place;
         place = element.place();
-        return place == before && place.width > 0 && element.is(ATSPI_STATE_SHOWING);
+        return place.x == before.x && place.y == before.y && place.width > 0 &&
+               element.is(ATSPI_STATE_SHOWING);
     });
-    return moveTo(place.left + place.width / 2 + beside, place.top + place.height / 2 + beside);
+    return moveTo(place.x + place.width / 2 + beside, place.y + place.height / 2 + beside);
 }
 
 /// How many windows there are for the screen, which counts a dragged picture as one.
@@ -63,15 +64,11 @@ void dragOnto(const Element& from, const Element& to) {
     waitFor("that picture to go", [&] { return windowCount() == before; });
 }
 
-std::string activeTitle() {
-    const std::string title = outputOf("xdotool getactivewindow getwindowname");
-    return title.substr(0, title.find('\n'));
-}
-
 void waitForKeyboard(const std::string& title) {
     waitFor("\"" + title + "\" to have the keyboard", [&] {
         const auto window = windowOnScreen(title);
-        return window && window->is(ATSPI_STATE_ACTIVE) && activeTitle() == title;
+        return window && window->is(ATSPI_STATE_ACTIVE) &&
+               outputOf("xdotool getactivewindow getwindowname") == title + '\n';
     });
 }
 

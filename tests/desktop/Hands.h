@@ -26,8 +26,6 @@ void pointAt(const Element& element);
 /// Drags what an element stands for onto another element.
 void dragOnto(const Element& from, const Element& to);
 
-/// The title of the window that the window manager gives the keyboard to.
-std::string activeTitle();
 /// Waits until the keyboard is a window's, for the program and for the window manager.
 void waitForKeyboard(const std::string& title);
 /// Presses keys, one after the other, by their names as X knows them, with blanks between.

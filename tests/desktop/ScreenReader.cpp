@@ -39,7 +39,6 @@ void describe(const Element& element, const std::string& indent, std::string& te
             '"' + (element.is(ATSPI_STATE_SHOWING) ? "" : " hidden") +
             (element.is(ATSPI_STATE_ENABLED) ? "" : " disabled") +
             (element.is(ATSPI_STATE_FOCUSED) ? " focused" : "") +
-            (element.is(ATSPI_STATE_ACTIVE) ? " active" : "") +
             (element.is(ATSPI_STATE_SELECTED) ? " selected\n" : "\n");
     for (const Element& child : element.children()) {
         describe(child, indent + "  ", text);
@@ -78,16 +77,14 @@ bool Element::is(AtspiStateType state) const {
     return states != nullptr && atspi_state_set_contains(states.get(), state) != 0;
 }
 
-Rectangle Element::place() const {
+AtspiRect Element::place() const {
     const auto component = takenObject(atspi_accessible_get_component_iface(m_accessible.get()));
     if (component == nullptr) {
         return {};
     }
     const std::unique_ptr<AtspiRect, void (*)(gpointer)> rectangle(
         atspi_component_get_extents(component.get(), ATSPI_COORD_TYPE_SCREEN, nullptr), g_free);
-    return rectangle == nullptr
-               ? Rectangle{}
-               : Rectangle{rectangle->x, rectangle->y, rectangle->width, rectangle->height};
+    return rectangle == nullptr ? AtspiRect{} : *rectangle;
 }
 
 std::vector<Element> Element::children() const {

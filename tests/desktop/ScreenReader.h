@@ -14,16 +14,6 @@
 
 namespace fleetwright {
 
-/// Pixels of the screen.
-struct Rectangle {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-
-    bool operator==(const Rectangle&) const = default;
-};
-
 /// One thing on the screen. It may be gone by the time that it is asked; its texts are empty then.
 class Element {
 public:
@@ -34,7 +24,7 @@ public:
     /// What it holds: the text of a text box, the number of a slider.
     std::string text() const;
     bool is(AtspiStateType state) const;
-    Rectangle place() const;
+    AtspiRect place() const;  ///< in pixels of the screen
     std::vector<Element> children() const;
     /// The first element inside this one with such a role, and of which this is true or which has
     /// this name.

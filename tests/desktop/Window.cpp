@@ -4,6 +4,7 @@
 #include "TemporaryFolder.h"
 #include "runTool.h"
 
+#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -82,14 +83,6 @@ std::string toText(const nlohmann::json& value) {
     return value.is_string() ? value.get<std::string>() : value.dump();
 }
 
-std::string toText(const Shown& shown) {
-    std::string text;
-    for (const auto& [name, value] : shown) {
-        text.append("  ").append(name).append(": ").append(value).append("\n");
-    }
-    return text;
-}
-
 }  // namespace
 
 Design newDesign() {
@@ -152,8 +145,8 @@ void MainWindow::waitFor(const Shown& expected) const {
     try {
         fleetwright::waitFor("the figures of the design", [&] { return shown() == expected; });
     } catch (const std::exception& error) {
-        throw std::runtime_error("wanted:\n" + toText(expected) + "shown:\n" + toText(shown()) +
-                                 error.what());
+        throw std::runtime_error("wanted " + testing::PrintToString(expected) + "\nshown " +
+                                 testing::PrintToString(shown()) + '\n' + error.what());
     }
 }
 
@@ -162,16 +155,6 @@ void MainWindow::load(const std::filesystem::path& file) const {
     press("ctrl+l");
     chooseFile("Open", file);
     waitFor(expectedOf(file));
-}
-
-std::string MainWindow::waitForStatus(const std::string& begin) const {
-    return waitForElement("the status \"" + begin + '"',
-                          [&] {
-                              return window().find("label", [&](const Element& label) {
-                                  return label.name().starts_with(begin);
-                              });
-                          })
-        .name();
 }
 
 void MainWindow::choose(const std::string& menu, const std::string& entry) const {

@@ -67,8 +67,6 @@ public:
     void waitFor(const Shown& expected) const;
     /// Opens a ship file, and waits until it is shown.
     void load(const std::filesystem::path& file) const;
-    /// Waits until the status bar says something that begins like this; all that it says.
-    std::string waitForStatus(const std::string& begin) const;
     /// Chooses an entry of a menu.
     void choose(const std::string& menu, const std::string& entry) const;
 

@@ -173,14 +173,10 @@ void Actor::act() {
     }
     test.takeLog();
     if (m_faults.empty() && !m_hasEnded) {
-        m_faults = brokenInvariants(test, stale);
+        m_faults = brokenInvariants(test, typed);
     }
     if (!m_faults.empty()) {
-        std::string trail;
-        for (const std::string& line : m_trail) {
-            trail += line + '\n';
-        }
-        throw std::runtime_error(trail + m_faults);
+        throw std::runtime_error(m_trail + m_faults);
     }
 }
 
@@ -200,10 +196,10 @@ Actor::Chances Actor::chancesOf(Container& container) {
 }
 
 void Actor::note(const std::string& what) {
-    constexpr std::size_t longest = 60;
-    m_trail.push_back(std::string(2 * m_depth, ' ') + what);
+    constexpr std::size_t longest = 3000;
+    m_trail += std::string(2 * m_depth, ' ') + what + '\n';
     if (m_trail.size() > longest) {
-        m_trail.pop_front();
+        m_trail.erase(0, m_trail.find('\n') + 1);
     }
 }
 
@@ -272,7 +268,6 @@ void Actor::actMeanwhile() {
 /// as with Escape.
 void Actor::ask(const std::string& what) {
     behind(what, nullptr, [this] { actMeanwhile(); });
-    stale.isRowPreview = true;  // the row that it was of may be refused
     test.answer = m_hasEnded || choices.oneIn(2) ? Answer::No : Answer::Yes;
     test.file = anyFile();
 }

@@ -8,7 +8,6 @@
 #include "frmSSDView.h"
 #include "testWindow.h"
 
-#include <deque>
 #include <functional>
 #include <map>
 #include <string>
@@ -29,16 +28,12 @@ struct Act {
 /// All acts that the actor knows: a new one is a row here.
 const std::vector<Act>& allActs();
 
-/// What the screen may show that is not, or no longer, so, until a refresh ends it.
-struct Stale {
-    bool isNodePreview = false;                   ///< another node was selected, or all were closed
-    bool isRowPreview = false;                    ///< another row was selected
-    std::map<const Control*, std::string> typed;  ///< the last text that the user has typed
-};
+/// The last text that the user has typed into a box: it may stand there until a refresh.
+using TypedTexts = std::map<const Control*, std::string>;
 
 /// What does not agree between the ship, the window that shows it, its file and what was put aside,
-/// with the window at rest; a line for each. Takes back from `stale` what has been refreshed.
-std::string brokenInvariants(TestWindow& test, Stale& stale);
+/// with the window at rest; a line for each.
+std::string brokenInvariants(TestWindow& test, const TypedTexts& typed);
 
 /// Acts at random on the windows of one run of the program, without a screen, and looks after each
 /// act whether what they show agrees. Acts also come while a message box, a dialog or a menu is
@@ -55,9 +50,7 @@ public:
     Choices& choices;
     TestWindow test;
     frmMain& main = test.window();
-    Stale stale;
-    /// Whether nothing is under way but the act itself.
-    bool isAtRest() const { return m_depth == 0; }
+    TypedTexts typed;
 
 private:
     /// Small pictures, those of ships with a few marks.
@@ -104,7 +97,7 @@ private:
     Chances m_beside;
     std::vector<Front> m_inFront;
     Connection m_dragged;
-    std::deque<std::string> m_trail;
+    std::string m_trail;  ///< the last acts, a line each
     std::string m_faults;
     std::size_t m_depth = 0;
     int m_actsLeft = 0;  ///< in the middle of the act at rest

@@ -34,12 +34,9 @@ int anyEdge(Actor& me) {
 }
 
 void selectNode(Actor& me, TreeView& tree) {
-    TreeView::Node& node = me.choices.pick(tree.nodes());
-    tree.select(node);
-    me.stale.isNodePreview = true;
+    tree.select(me.choices.pick(tree.nodes()));
     if (!me.choices.oneIn(4)) {
         tree.click();
-        me.stale.isNodePreview = !node.children.empty();
     }
 }
 
@@ -53,10 +50,8 @@ void selectRow(Actor& me, ListView& list) {
         const auto row = me.choices.below(static_cast<int>(list.rows().size()));
         list.rowToolTip(list.rows()[static_cast<std::size_t>(row)]);
         list.select(static_cast<std::size_t>(row));
-        me.stale.isRowPreview = true;
         if (!me.choices.oneIn(4)) {
             list.click();
-            me.stale.isRowPreview = !me.isAtRest();  // it may be refused yet
         }
     }
 }
@@ -82,11 +77,7 @@ const std::vector<Act> acts = {
     on<TrayIcon>("click", 1, [](auto&, auto& icon) { icon.isOn() ? icon.onLeftClick() : void(); }),
     on<TrayIcon>("menu", 1, [](auto&, auto& icon) { icon.isOn() ? icon.onRightClick() : void(); }),
     on<Control>("tool tip", 1, [](auto&, auto& control) { control.toolTip(); }),
-    on<Button>("press", 3,
-               [](auto& me, auto& button) {
-                   me.stale.isNodePreview |= button.name() == "cmdCollapseAll";
-                   button.press();
-               }),
+    on<Button>("press", 3, [](auto&, auto& button) { button.press(); }),
     on<CheckBox>("press", 3, [](auto&, auto& box) { box.press(); }),
     on<OptionButton>("choose", 3, [](auto&, auto& option) { option.choose(); }),
     on<MenuEntry>("choose", 3,
@@ -98,18 +89,18 @@ const std::vector<Act> acts = {
                    slider.slide(slider.min() + me.choices.below(slider.max() - slider.min() + 1));
                }),
     on<ComboBox>("type", 3, [](auto& me, auto& box) { box.type(me.choices.pick(texts)); }),
-    on<ComboBox>("first", 3, [](auto&, auto& box) { box.choose(0); }),
-    on<ComboBox>("second", 3, [](auto&, auto& box) { box.choose(1); }),
+    on<ComboBox>("choose", 6, [](auto& me, auto& box) { box.choose(me.choices.oneIn(2) ? 0 : 1); }),
     on<TextBox>("double-click", 2, [](auto&, auto& box) { box.doubleClick(); }),
     on<TextBox>("Enter", 2, [](auto&, auto& box) { box.pressKey(EnterKey); }),
     on<TextBox>("go on", 2, [](auto&, auto& box) { box.loseFocus(); }),
-    on<TextBox>("press", 1, [](auto&, auto& box) { box.pressMouse({.button = LeftButton}); }),
-    on<TextBox>("right-click", 1,
-                [](auto&, auto& box) { box.pressMouse({.button = RightButton}); }),
+    on<TextBox>("press", 2,
+                [](auto& me, auto& box) {
+                    box.pressMouse({.button = me.choices.oneIn(2) ? LeftButton : RightButton});
+                }),
     on<TextBox>("type", 4,
                 [](auto& me, auto& box) {
                     box.type(me.choices.pick(texts));
-                    me.stale.typed[&box] = box.text();
+                    me.typed[&box] = box.text();
                 }),
     on<TreeView>("open or close", 8,
                  [](auto& me, auto& tree) {
@@ -123,10 +114,11 @@ const std::vector<Act> acts = {
     on<TreeView>("drag", 8, dragNode),
     on<TreeView>("select", 16, selectNode),
     on<ListView>("double-click", 16, [](auto&, auto& list) { list.doubleClick(); }),
-    on<ListView>("right-click", 6,
-                 [](auto&, auto& list) { list.pressMouse({.button = RightButton, .y = 30}); }),
-    on<ListView>("right-click far out", 6,
-                 [](auto&, auto& list) { list.pressMouse({.button = RightButton, .x = 1e9}); }),
+    on<ListView>("right-click", 12,
+                 [](auto& me, auto& list) {
+                     const double x = me.choices.oneIn(2) ? 0 : 1e9;  // or far out
+                     list.pressMouse({.button = RightButton, .x = x, .y = 30});
+                 }),
     on<ListView>("select", 24, selectRow),
 };
 

@@ -3,7 +3,6 @@
 #include "Actor.h"
 #include "Error.h"
 #include "files.h"
-#include "wholeNumber.h"
 
 #include <algorithm>
 #include <set>
@@ -15,7 +14,7 @@ namespace {
 /// Looks at a window and writes down what is wrong with it.
 class Look {
 public:
-    Look(TestWindow& test, Stale& stale) : m_test(test), m_stale(stale) {}
+    Look(TestWindow& test, const TypedTexts& typed) : m_test(test), m_typed(typed) {}
 
     std::string faults() {
         struct Invariant {
@@ -25,7 +24,6 @@ public:
         constexpr Invariant invariants[] = {{"figures on the screen", &Look::lookAtFigures},
                                             {"buttons", &Look::lookAtButtons},
                                             {"list of systems", &Look::lookAtList},
-                                            {"previews", &Look::lookAtPreviews},
                                             {"menus", &Look::lookAtMenus},
                                             {"rules", &Look::lookAtRules},
                                             {"files", &Look::lookAtFiles}};
@@ -61,8 +59,8 @@ private:
             {&m_window.names.txtShipName, m_ship.g_sShipName},
             {&m_window.names.txtDesigner, m_ship.g_sDesignerName}};
         for (const auto& [box, meant] : boxes) {
-            const auto typed = m_stale.typed.find(box);
-            if (typed == m_stale.typed.end() || box->text() != typed->second) {
+            const auto typed = m_typed.find(box);
+            if (typed == m_typed.end() || box->text() != typed->second) {
                 expectText(box->name(), box->text(), meant);
             }
         }
@@ -108,41 +106,6 @@ private:
                "the selected row is none");
     }
 
-    /// What the labels under tree or list show of so many pieces of a system.
-    void expectPreview(std::size_t labels, bool& isStale, const std::string& name, int amount) {
-        const std::string shown = m_window.previews.lblWeapMass[labels].caption() + ' ' +
-                                  m_window.previews.lblWeapCost[labels].caption();
-        const std::string meant = amount == 0
-                                      ? " "
-                                      : std::to_string(m_ship.previewWeapMass(name, amount)) + ' ' +
-                                            std::to_string(m_ship.previewWeapCost(name, amount));
-        isStale = isStale && shown != meant;
-        if (!isStale) {
-            expectText("the preview of " + name, shown, meant);
-        }
-    }
-
-    void lookAtPreviews() {
-        const TreeView::Node* const node = m_window.tree.tvWeapons.selected();
-        if (node == nullptr) {
-            m_stale.isRowPreview = true;  // no refresh gets that far
-            return;
-        }
-        if (node->children.empty() && m_ship.weapNameToIndex(node->key) == -1) {
-            expect(m_stale.isNodePreview || m_window.previews.lblWeapMass[0].caption() == "0",
-                   "the preview of nothing is not 0");
-        } else {
-            expectPreview(0, m_stale.isNodePreview, node->key, node->children.empty() ? 1 : 0);
-        }
-        const auto& rows = m_window.aboard.lvCurrentWeapons.rows();
-        if (const auto row = m_window.aboard.lvCurrentWeapons.selected();
-            row && *row < rows.size()) {
-            expectPreview(1, m_stale.isRowPreview, rows[*row].key, wholeNumber(rows[*row].subItem));
-        } else if (rows.empty()) {
-            expectPreview(1, m_stale.isRowPreview, "no row", 0);
-        }
-    }
-
     void lookAtMenus() {
         expectText("the title", m_window.caption(), "Fleet Wright");
         const MassPanel& mass = m_window.mass;
@@ -182,15 +145,9 @@ private:
         expectText("the figures", figures(m_ship), figures(*ship));
     }
 
-    /// What a ship is when it is loaded: the window brings in order what AutoMass or a file has
-    /// brought out of it, and it is saved all the same.
+    /// What a ship is when it is loaded, and it is saved all the same.
     static std::string inOrder(ShipClass& ship) {
-        if (isBase(ship.Hull())) {
-            ship.FTL(NoDrive);
-            ship.THRUST(0);
-            ship.Streamline(0);
-        }
-        ship.mass(ship.mass());
+        bringInOrder(ship);
         return ship.shipFile();
     }
 
@@ -228,7 +185,7 @@ private:
     }
 
     TestWindow& m_test;
-    Stale& m_stale;
+    const TypedTexts& m_typed;
     frmMain& m_window = m_test.window();
     ShipClass& m_ship = m_test.ship();
     std::string m_about;
@@ -237,8 +194,8 @@ private:
 
 }  // namespace
 
-std::string brokenInvariants(TestWindow& test, Stale& stale) {
-    return Look(test, stale).faults();
+std::string brokenInvariants(TestWindow& test, const TypedTexts& typed) {
+    return Look(test, typed).faults();
 }
 
 }  // namespace fleetwright
