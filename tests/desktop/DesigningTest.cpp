@@ -113,14 +113,6 @@ TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
     dialog.waitForText("slider", "Amount", "4");
     dialog.click("push button", "OK");
     waitForAboard(gun, "4");
-    window->waitUntilActive();
-    press("Menu");
-    dialog.waitUntilActive();
-    press("Home");
-    dialog.waitForText("slider", "Amount", "0");
-    press("Escape");
-    dialog.waitUntilGone();
-    window->waitFor(expectedOf(design));
 
     window->choose("Extras", "AutoMass");
     window->waitFor(expectedOf(design, true));

@@ -46,10 +46,6 @@ TEST_F(DesktopTest, ShipIsSavedLoadedAndAskedAbout) {
     close(MainWindow::title);
     Window(MainWindow::notSaved).get("label", "Ship not saved, continue with exit?");
     Window(MainWindow::notSaved).click("push button", "No");
-    setThrust("5");
-    close(MainWindow::title);
-    waitForKeyboard(MainWindow::notSaved);
-    press("Escape");  // the same as No
     close(MainWindow::title);
     Window(MainWindow::notSaved).click("push button", "Yes");
     EXPECT_EQ(waitForEnd(), 0);

@@ -11,10 +11,6 @@ namespace {
 
 constexpr const char* outOfTheWay = " mousemove 0 0";
 
-std::string moveTo(int x, int y) {
-    return "mousemove " + std::to_string(x) + ' ' + std::to_string(y) + ' ';
-}
-
 /// Moves to the middle of an element that has come to rest, or somewhere beside it: a window is
 /// still on its way when the program shows it already.
 std::string moveTo(const Element& element, int beside = 0) {
@@ -23,9 +19,10 @@ std::string moveTo(const Element& element, int beside = 0) {
         const AtspiRect before = place;
         place = element.place();
         return place.x == before.x && place.y == before.y && place.width > 0 &&
-               element.is(ATSPI_STATE_SHOWING);
+               place.width == before.width && element.is(ATSPI_STATE_SHOWING);
     });
-    return moveTo(place.x + place.width / 2 + beside, place.y + place.height / 2 + beside);
+    return "mousemove " + std::to_string(place.x + place.width / 2 + beside) + ' ' +
+           std::to_string(place.y + place.height / 2 + beside) + ' ';
 }
 
 /// How many windows there are for the screen, which counts a dragged picture as one.

@@ -120,16 +120,6 @@ std::optional<Element> Element::find(std::string_view role, std::string_view nam
     return find(role, [&](const Element& each) { return each.name() == name; });
 }
 
-std::vector<std::string> Element::names(std::string_view role) const {
-    std::vector<std::string> all;
-    for (const Element& child : children()) {
-        if (child.role() == role) {
-            all.push_back(child.name());
-        }
-    }
-    return all;
-}
-
 std::vector<Element> windowsOnScreen() {
     std::vector<Element> all;
     for (const Element& program : desktop().children()) {

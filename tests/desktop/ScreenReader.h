@@ -31,8 +31,6 @@ public:
     std::optional<Element> find(std::string_view role,
                                 const std::function<bool(const Element&)>& isMeant) const;
     std::optional<Element> find(std::string_view role, std::string_view name) const;
-    /// The names of all elements with such a role right inside this one.
-    std::vector<std::string> names(std::string_view role) const;
 
 private:
     std::shared_ptr<AtspiAccessible> m_accessible;

@@ -299,10 +299,8 @@ void Actor::end() {
             front.form->unload();
         }
     }
-    for (const Front& front : m_windows) {
-        if (front.form != &main) {
-            front.form->unload();
-        }
+    for (const Front& front : std::span(m_windows).subspan(1)) {
+        front.form->unload();
     }
 }
 

@@ -34,16 +34,13 @@ long residentMemory() {
 long growthIn(int acts, Dice& dice) {
     std::optional<Actor> actor;
     long firstTenth = 0;
-    int runs = 0;
     for (int done = 0; done < acts; ++done) {
         if (!actor || actor->hasEnded()) {
             actor.emplace(dice);
-            ++runs;
         }
         actor->act();
         if ((done + 1) % std::max(1, acts / 10) == 0) {
-            std::printf("%8d acts in %5d runs: %6ld KiB resident\n", done + 1, runs,
-                        residentMemory());
+            std::printf("%8d acts: %6ld KiB resident\n", done + 1, residentMemory());
             std::fflush(stdout);
             firstTenth = firstTenth == 0 ? residentMemory() : firstTenth;
         }
