@@ -5,8 +5,7 @@
 #include "Error.h"
 #include "PictureSet.h"
 #include "Sound.h"
-#include "contactSheet.h"
-#include "marksPicture.h"
+#include "pages.h"
 #include "pictureFiles.h"
 
 #include <cstdio>
