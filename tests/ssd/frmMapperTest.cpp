@@ -79,11 +79,11 @@ struct Mapper : PictureEncoder {
         };
         const Raster& sheet = window.picSSD.picture();
         const Place& box = window.picSSD.place();
-        // Where the outline is covered by the damage track.
-        const bool isColoured =
-            sheet.width() > 4 && sheet.height() > 5 && sheet.pixel(4, 5) == outlineColour;
+        // Where the damage track covers the outline.
+        const bool isCovered = sheet.width() > 4 && sheet.height() > 5;
         std::map<std::string, std::string> seen = {
-            {"sheet", size(sheet.width(), sheet.height()) + (isColoured ? " coloured" : "")},
+            {"sheet", size(sheet.width(), sheet.height())},
+            {"colour", isCovered ? std::to_string(sheet.pixel(4, 5)) : ""},
             {"box", size(box.width, box.height)},
             {"window", window.isVisible() ? size(window.width(), window.height()) : "closed"},
             {"maximized", window.state() == WindowState::Maximized ? "yes" : "no"},
