@@ -48,113 +48,6 @@ TEST_F(FormWindowTest, TextsFromOthersDoNothingButShow) {
     EXPECT_TRUE(find<QLabel>("status")->toolTip().contains("&lt;b&gt;A&lt;/b&gt;\uFFFD"));
 }
 
-TEST_F(FormWindowTest, ModelsShowOnTheirWidgets) {
-    form.label.setCaption("New");
-    form.second.setOn();
-    form.text.setText("abc");
-    form.text.setLocked(true);
-    form.button.setEnabled(false);
-    form.arrows.setVisible(false);
-    form.slider.setRange(0, 7);
-    form.slider.setValue(5);
-    form.status.setText("Saved...");
-    form.list.add("a", "a", "3");
-    form.list.add("b", "b", "4");
-    form.list.select(1);
-    form.images.add("ROOT", Raster(32, 32));  // a picture may come after its node
-    form.tree.add("ROOT", "late");
-    form.tree.setExpanded(*form.tree.find("ROOT"), true);
-    form.tree.select(*form.tree.find("late"));
-    EXPECT_EQ(find<QLabel>("label")->text(), "New");
-    EXPECT_FALSE(find<QAbstractButton>("first")->isChecked());
-    EXPECT_TRUE(find<QAbstractButton>("second")->isChecked());
-    EXPECT_EQ(find<QLineEdit>("text")->text(), "abc");
-    EXPECT_TRUE(find<QLineEdit>("text")->isReadOnly());
-    EXPECT_FALSE(find<QAbstractButton>("button")->isEnabled());
-    EXPECT_FALSE(find<QWidget>("arrows")->isVisible());
-    EXPECT_EQ(find<QSlider>("slider")->value(), 5);
-    EXPECT_EQ(find<QLabel>("status")->text(), "Saved...");
-    const auto* const list = find<QTreeWidget>("list");
-    EXPECT_EQ(list->topLevelItem(1)->text(1), "4");
-    EXPECT_EQ(list->indexOfTopLevelItem(list->currentItem()), 1);
-    form.list.remove(1);
-    EXPECT_EQ(list->topLevelItemCount(), 1);
-    EXPECT_EQ(list->currentItem(), nullptr);
-    const auto* const tree = find<QTreeWidget>("tree");
-    EXPECT_TRUE(tree->topLevelItem(0)->isExpanded());
-    EXPECT_FALSE(tree->topLevelItem(0)->icon(0).isNull());
-    EXPECT_EQ(tree->currentItem()->text(0), "late");
-    // Showing what the rules have done is no act of the user.
-    EXPECT_EQ(takeLog(), "second text=abc slider=5 ");
-}
-
-TEST_F(FormWindowTest, MouseAndKeysReachTheModels) {
-    QTest::mouseClick(find<QAbstractButton>("second"), Qt::LeftButton, {}, QPoint(5, 5));
-    QTest::mouseClick(find<QAbstractButton>("second"), Qt::LeftButton, {}, QPoint(5, 5));
-    EXPECT_EQ(takeLog(), "second ");
-    QTest::keyClicks(find<QLineEdit>("text"), "7x");
-    EXPECT_EQ(takeLog(), "text=7 text=7x ");
-    QTest::mouseClick(find<QLineEdit>("mass"), Qt::LeftButton);
-    QTest::keyClicks(find<QLineEdit>("mass"), "9");
-    EXPECT_EQ(takeLog(), "mass formkey ");
-    QTest::mouseClick(find<QAbstractButton>("button"), Qt::LeftButton);
-    QTest::mouseClick(find<QAbstractButton>("arrowsUp"), Qt::LeftButton);
-    QTest::mouseClick(find<QAbstractButton>("arrowsDown"), Qt::LeftButton);
-    EXPECT_EQ(takeLog(), "button up down ");
-    form.slider.setRange(0, 7);
-    QTest::keyClick(find<QSlider>("slider"), Qt::Key_Right);
-    EXPECT_EQ(takeLog(), "slider=1 ");
-    EXPECT_TRUE(form.second.isOn());
-}
-
-TEST_F(FormWindowTest, CombosTakeWhatIsTypedAndWhatIsChosen) {
-    form.combo.addItem("Kestrel");
-    form.combo.addItem("Kite");
-    auto* const combo = find<QComboBox>("combo");
-    ASSERT_NE(combo, nullptr);
-    EXPECT_EQ(combo->count(), 2);
-    EXPECT_EQ(combo->currentText(), "");
-    QTest::keyClicks(combo->lineEdit(), "Kes");
-    EXPECT_EQ(form.combo.text(), "Kes");  // and no more than that
-    QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
-    EXPECT_EQ(combo->count(), 2);
-    combo->setFocus();
-    QTest::keyClick(combo, Qt::Key_Down);
-    EXPECT_EQ(form.combo.text(), combo->currentText().toStdString());
-    EXPECT_NE(form.combo.text(), "Kes");
-    form.combo.setText("Heron");
-    EXPECT_EQ(combo->currentText(), "Heron");
-    form.combo.clear();
-    EXPECT_EQ(combo->count(), 0);
-    EXPECT_EQ(combo->currentText(), "");
-}
-
-TEST_F(FormWindowTest, GroupsOfOptionsAreOneStopWithArrowsInside) {
-    auto* const first = find<QAbstractButton>("first");
-    auto* const second = find<QAbstractButton>("second");
-    EXPECT_EQ(first->focusPolicy(), Qt::StrongFocus);
-    EXPECT_EQ(second->focusPolicy(), Qt::ClickFocus);
-    QTest::keyClick(first, Qt::Key_Down);
-    EXPECT_EQ(takeLog(), "second ");
-    QTest::keyClick(second, Qt::Key_Right);
-    QTest::keyClick(first, Qt::Key_Left);
-    EXPECT_EQ(takeLog(), "first second ");
-    EXPECT_EQ(second->focusPolicy(), Qt::StrongFocus);
-    form.first.setEnabled(false);
-    QTest::keyClick(second, Qt::Key_Down);
-    EXPECT_EQ(takeLog(), "");
-}
-
-TEST_F(FormWindowTest, ScreenReadersAreToldWhatThereIs) {
-    const auto nameOf = [this](const char* name) {
-        return QAccessible::queryAccessibleInterface(find<QWidget>(name))->text(QAccessible::Name);
-    };
-    form.status.setText("Saved...");
-    EXPECT_EQ(nameOf("status"), "Saved...");
-    EXPECT_EQ(nameOf("button"), "Spoken");
-    EXPECT_EQ(nameOf("inner"), "Inner");
-}
-
 TEST_F(FormWindowTest, EnterAndEscapeAnswerDialogs) {
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -180,18 +73,6 @@ TEST_F(FormWindowTest, OnlyMovingTheFocusInsideTheWindowLosesIt) {
     EXPECT_EQ(lost, 0);
     QApplication::sendEvent(text, &byTab);
     EXPECT_EQ(lost, 1);
-}
-
-TEST_F(FormWindowTest, CheckBoxesAreTickedFromBothSides) {
-    for (CheckBox* const box : {&form.tick, &form.down}) {
-        auto* const widget = find<QAbstractButton>(box->name().c_str());
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(5, 5));
-        EXPECT_TRUE(widget->isChecked() && box->isTicked());
-        box->setTicked(false);
-        box->setTicked(false);
-        EXPECT_FALSE(widget->isChecked());
-    }
-    EXPECT_EQ(takeLog(), "on off down released ");
 }
 
 TEST_F(FormWindowTest, AKeyGoesToItsBoxFirstAndThenToTheForm) {
@@ -243,28 +124,6 @@ TEST_F(FormWindowTest, ALongTextGetsTheRoomBesideItAndThenNarrowerLetters) {
     form.label.setCaption(std::string(100, 'n'));
     EXPECT_EQ(label->font().stretch(), 70);
     EXPECT_LT(label->width(), room);
-}
-
-TEST_F(FormWindowTest, TextsOfManyLines) {
-    auto* const lines = find<QPlainTextEdit>("lines");
-    ASSERT_NE(lines, nullptr);
-    EXPECT_TRUE(lines->verticalScrollBar()->isVisible());
-    form.lines.setText("a\r\nb\r\n");
-    EXPECT_EQ(lines->toPlainText(), "a\nb\n");
-    form.lines.append("c\r\n");
-    EXPECT_EQ(lines->toPlainText(), "a\nb\nc\n");
-    lines->moveCursor(QTextCursor::End);
-    QTest::keyClicks(lines, "d");
-    QTest::keyClick(lines, Qt::Key_Return);
-    EXPECT_EQ(form.lines.text(), "a\r\nb\r\nc\r\nd\r\n");
-    // What has nothing to do with the text leaves the user's place in it.
-    form.lines.setToolTip("tip");
-    EXPECT_EQ(lines->textCursor().position(), 8);
-    form.lines.setLocked(true);
-    QTest::keyClicks(lines, "x");
-    EXPECT_EQ(form.lines.text(), "a\r\nb\r\nc\r\nd\r\n");
-    form.lines.setEnabled(false);
-    EXPECT_FALSE(lines->isEnabled());
 }
 
 TEST_F(FormWindowTest, PicturesAreAsLargeOnTheScreenAsTheyAre) {

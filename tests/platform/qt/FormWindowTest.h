@@ -94,7 +94,7 @@ public:
                   {.name = "arrows", .place = {4500, 150, 300, 600}},
                   {.upClick = [this] { log += "up "; },
                    .downClick = [this] { log += "down "; },
-                   .change = {}}};
+                   .change = [this] { log += "change "; }}};
     Slider slider{*this, {.name = "slider", .place = {4500, 900, 1500, 300}}, [this] {
                       log += "slider=" + std::to_string(slider.value()) + ' ';
                   }};

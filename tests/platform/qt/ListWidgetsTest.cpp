@@ -77,29 +77,8 @@ TEST_F(FormWindowTest, NothingIsDraggedByAButtonThatIsUpAgain) {
     EXPECT_EQ(takeLog(), "tree1 ");
 }
 
-TEST_F(FormWindowTest, TreeAndListTakeKeysForEachActOfTheMouse) {
-    auto* const tree = find<QTreeWidget>("tree");
-    QTest::keyClick(tree, Qt::Key_Return);
-    EXPECT_EQ(takeLog(), "fit none ");
-    tree->setCurrentItem(tree->topLevelItem(0));
-    QTest::keyClick(tree, Qt::Key_Right);
-    EXPECT_TRUE(form.tree.find("ROOT")->isExpanded);
-    QTest::keyClick(tree, Qt::Key_Down);
-    EXPECT_EQ(form.tree.selected()->key, "leaf");
-    QTest::keyClick(tree, Qt::Key_Return);
-    EXPECT_EQ(takeLog(), "fit leaf ");
-    // The right button selects nothing and opens what belongs to the selected node.
-    const QRect root = tree->visualItemRect(tree->topLevelItem(0));
-    QTest::mouseClick(tree->viewport(), Qt::RightButton, {}, root.center());
-    EXPECT_EQ(takeLog(), "tree2 ");
-    EXPECT_EQ(form.tree.selected()->key, "leaf");
-
-    form.list.add("a", "a", "1");
+TEST_F(FormWindowTest, ThePlaceOfAPressCountsTheHeadingOfTheList) {
     auto* const list = find<QTreeWidget>("list");
-    list->setCurrentItem(list->topLevelItem(0));
-    EXPECT_EQ(form.list.selected(), 0U);
-    QTest::keyClick(list, Qt::Key_Delete);
-    EXPECT_EQ(takeLog(), "row0 ");
     double top = 0;
     form.list.onMouseDown = [&](const MousePress& press) { top = press.y / 3000; };
     QTest::mousePress(list->viewport(), Qt::RightButton, {}, {1, 0});

@@ -1,8 +1,6 @@
 #include "QtDesktop.h"
 
-#include "Button.h"
-#include "Form.h"
-#include "Menu.h"
+#include "FormWindowTest.h"
 #include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -19,21 +17,6 @@
 using namespace fleetwright;
 
 namespace {
-
-/// A form with a button for the keyboard, and with a menu.
-class PageWithMenu : public Form {
-public:
-    PageWithMenu() : Form({.name = "page", .width = 4500, .height = 3000}) {}
-
-    Button button{
-        *this, {.name = "button", .place = {1500, 900, 900, 300}, .caption = "OK"}, [] {}};
-    MenuEntry menu{*this, {.name = "menu", .caption = "Menu"}};
-    MenuEntry entry{menu, {.name = "entry", .caption = "Entry"}};
-    bool keeps = false;
-
-protected:
-    void Form_Unload(bool& cancel) override { cancel = keeps; }
-};
 
 /// Does this to each dialog that opens from now on, as many as there are acts.
 void inDialogs(std::vector<std::function<void(QDialog&)>> acts) {
@@ -140,15 +123,15 @@ TEST(QtDesktop, MessagesHaveTheirTitleIconAndAnswers) {
 }
 
 TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
-    PageWithMenu form;
-    PageWithMenu other;
+    AllKinds form;
+    AllKinds other;
     QtDesktop desktop;
     desktop.present(form);
     desktop.present(other);
     form.show();
     other.show();
     other.button.setFocus();
-    const auto placeOf = [&](PageWithMenu& owner) {
+    const auto placeOf = [&](AllKinds& owner) {
         QPoint place;
         QTimer::singleShot(0, [&] {
             QWidget* const menu = QApplication::activePopupWidget();
@@ -166,7 +149,7 @@ TEST(QtDesktop, MenusOpenAtTheKeyboardOfTheirOwnWindowOrAtThePointer) {
 }
 
 TEST(QtDesktop, TheProgramEndsAlthoughAWindowHasSomethingToEndFirst) {
-    PageWithMenu form;
+    AllKinds form;
     form.keeps = true;
     QtDesktop desktop;
     desktop.present(form);

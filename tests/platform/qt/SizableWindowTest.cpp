@@ -39,12 +39,17 @@ protected:
     }
 };
 
+class SizableWindow : public testing::Test {
+protected:
+    SizableWindow() { form.show(); }
+
+    WideForm form;
+    FormWindow window{form};
+};
+
 }  // namespace
 
-TEST(SizableWindow, TheFormDecidesHowSmallItGets) {
-    WideForm form;
-    FormWindow window(form);
-    form.show();
+TEST_F(SizableWindow, TheFormDecidesHowSmallItGets) {
     const QSize first = window.size();
     EXPECT_NEAR(first.width(), 2.0 * first.height(), 1) << "as the form is";
     window.resize(first.width() + 50, first.height() + 50);
@@ -69,10 +74,7 @@ TEST(SizableWindow, TheFormDecidesHowSmallItGets) {
     EXPECT_LT(form.refusals, 10);
 }
 
-TEST(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
-    WideForm form;
-    FormWindow window(form);
-    form.show();
+TEST_F(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
     form.resize(7500 + Form::frameWidth, 4500 + Form::frameHeight);
     const double scale = window.centralWidget()->width() / 7500.0;
     EXPECT_NEAR(window.centralWidget()->height(), 4500 * scale, 1);
@@ -97,10 +99,7 @@ TEST(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
     EXPECT_EQ(form.tray.isAvailable(), QSystemTrayIcon::isSystemTrayAvailable());
 }
 
-TEST(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
-    WideForm form;
-    FormWindow window(form);
-    form.show();
+TEST_F(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
     form.resize(6000 + Form::frameWidth, 30000 + Form::frameHeight);
     const QSize shown = window.size();
     EXPECT_LT(shown.height(), window.screen()->availableSize().height());
@@ -116,10 +115,7 @@ TEST(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
     EXPECT_EQ(form.place().height, 30000);
 }
 
-TEST(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
-    WideForm form;
-    FormWindow window(form);
-    form.show();
+TEST_F(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
     const auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
     EXPECT_EQ(view->verticalScrollBar()->maximum(), 0);
     window.showMaximized();
@@ -130,7 +126,7 @@ TEST(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
     EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(), bottom);
 }
 
-TEST(SizableWindow, AnOwnedFormStandsWhereItsOwnerPutsIt) {
+TEST(OwnedWindow, StandsWhereItsOwnerPutsIt) {
     Form owner({.name = "frmLarge", .caption = "Larger than screens", .height = 45000});
     PictureBox part(owner, {.name = "part", .place = {6000, 9000, 1500, 1500}});
     FormWindow window(owner);
