@@ -67,7 +67,7 @@ private:
     std::map<std::string, std::string> look() {
         std::map<std::string, std::string> seen;
         for (const auto& [name, control] : m_controls) {
-            seen[name] = stateOf(*control) + " / ";
+            seen[name] = replaced(stateOf(*control), "\r\n", "+") + " / ";
             if (auto* const widget = m_window.findChild<QWidget*>(name.c_str())) {
                 seen[name] += shownBy(*widget);
             } else if (auto* const entry = m_window.findChild<QAction*>(name.c_str())) {
@@ -100,7 +100,7 @@ private:
                  QTest::keyClick(widget, keys[0].key(), keys[0].keyboardModifiers());
              }},
             {"trigger", [&] { m_window.findChild<QAction*>(name.c_str())->trigger(); }},
-            {"set", [&] { set(*control, replaced(rest, "|", "\r\n")); }},
+            {"set", [&] { set(*control, replaced(rest, "+", "\r\n")); }},
             {"append", [&] { m_form.lines.append(rest + "\r\n"); }},
             {"add", [&] { add(*control, rest); }},
             {"select", [&] { m_form.list.select(std::stoul(rest)); }},
