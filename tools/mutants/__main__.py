@@ -22,6 +22,8 @@ from programs import Runner, in_order
 from slips import slips_of
 
 HEADER_WEIGHT = 0.5
+# What building one test program again may take.
+MOST_BUILD_SECONDS = 900
 
 
 def main():
@@ -132,13 +134,16 @@ def try_slip(copy, runner, programs, name, slip):
     """Makes one change in the copy, tests it, and takes it back."""
     path = copy.folder / name
     path.write_text(slip.applied_to(path.read_text("utf-8")), "utf-8")
+    is_source = path.suffix == ".cpp"
     try:
-        if path.suffix == ".cpp" and not copy.make(f"{path}^"):
+        if is_source and not copy.make(f"{path}^"):
             return {"outcome": "does not compile"}
         differs = False
         for program in in_order(programs, name):
-            if not copy.make(*program.targets):
-                return {"outcome": "does not compile"}
+            if not copy.make(*program.targets, seconds=MOST_BUILD_SECONDS):
+                # A source that compiles has broken a program that the build runs.
+                return {"outcome": "caught", "by": "the build"} if is_source else {
+                    "outcome": "does not compile"}
             if runner.key(program) == program.key:
                 continue
             differs = True

@@ -52,11 +52,17 @@ class Copy:
         subprocess.run(["cmake", "--preset", "mutants"], cwd=self.folder, check=True,
                        stdout=subprocess.DEVNULL)
 
-    def make(self, *targets, quietly=True):
-        """Builds targets, all of them without any; says whether that went well."""
+    def make(self, *targets, quietly=True, seconds=None):
+        """Builds targets, all of them without any; says whether that went well, within the time."""
         output = subprocess.DEVNULL if quietly else None
-        return subprocess.run(["ninja", "-C", self.build, *targets], stdout=output,
-                              stderr=output).returncode == 0
+        ninja = subprocess.Popen(["ninja", "-C", self.build, *targets], stdout=output,
+                                 stderr=output)
+        try:
+            return ninja.wait(seconds) == 0
+        except subprocess.TimeoutExpired:
+            ninja.terminate()  # and with it what it has started
+            ninja.wait()
+            return False
 
     def keep_delivered(self):
         """Notes the application folder, but for what is linked into it."""
