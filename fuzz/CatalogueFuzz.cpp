@@ -6,7 +6,6 @@
 #include "TemporaryFolder.h"
 #include "files.h"
 #include "require.h"
-#include "text.h"
 
 #include <algorithm>
 #include <cstdint>
