@@ -1,7 +1,6 @@
 // The language of formulas. An input is formulas, a line each.
 
 #include "FormulaReader.h"
-#include "decimals.h"
 #include "formulaFault.h"
 #include "formula_calculate.h"
 #include "require.h"

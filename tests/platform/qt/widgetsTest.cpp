@@ -93,6 +93,11 @@ private:
             {"tip", [&] { control->setToolTip(rest); }},
             {"focus", [&] { widget->setFocus(); }},
             {"click", [&] { QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(5, 5)); }},
+            {"right",
+             [&] {
+                 auto& rows = dynamic_cast<QTreeWidget&>(*widget);
+                 QTest::mouseClick(rows.viewport(), Qt::RightButton, {}, QPoint(5, 5));
+             }},
             {"type", [&] { QTest::keyClicks(widget, QString::fromStdString(rest)); }},
             {"key",
              [&] {
