@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <new>
 #include <string>
 
 using namespace fleetwright;
@@ -33,9 +34,17 @@ std::string repeat(const std::string& text, int times) {
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Both, since one way to free serves both.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     ++g_allocations;
     return std::malloc(size);
+}
+
+void* operator new(std::size_t size) {
+    if (void* const memory = operator new(size, std::nothrow)) {
+        return memory;
+    }
+    throw std::bad_alloc();
 }
 
 void operator delete(void* memory) noexcept {
