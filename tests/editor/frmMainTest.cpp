@@ -14,7 +14,6 @@
 #include <chrono>
 #include <map>
 #include <ranges>
-#include <set>
 
 using namespace fleetwright;
 
@@ -94,11 +93,7 @@ public:
                 const std::string shown =  // without the number of its run
                     name.substr(0, name.find_first_of("0123456789", name.find('~')));
                 seen["file " + shown] = replaced(m_test.folder().read(name), "\r\n", ", ");
-                m_seenFiles.insert(shown);
             }
-        }
-        for (const std::string& name : m_seenFiles) {
-            seen.emplace("file " + name, "gone");
         }
         return seen;
     }
@@ -273,7 +268,6 @@ private:
     frmMain& m_window = m_test.window();
     Controls m_controls;
     Controls m_dialog;  ///< those of the dialog that is open
-    std::set<std::string> m_seenFiles;
     bool m_hasTray = false;
     std::string m_says;
     Connection m_dragged;

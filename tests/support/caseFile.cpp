@@ -83,7 +83,11 @@ std::string playActs(const std::string& acts, const Stage& stage) {
     for (const std::string& act : linesOf(acts)) {
         EXPECT_NO_THROW(stage.act(act)) << act;
         std::string changes = stage.takeLog();
-        for (const auto& [name, value] : stage.look()) {
+        std::map<std::string, std::string> seen = stage.look();
+        for (const auto& [name, value] : before) {
+            seen.emplace(name, "gone");
+        }
+        for (const auto& [name, value] : seen) {
             const auto [old, isNew] = before.try_emplace(name);
             if (isNew || old->second != value) {
                 changes += name + ": " + (value.empty() ? "-" : value) + "; ";

@@ -37,7 +37,7 @@ struct Stage {
     std::function<void(const std::string& act)> act;
     /// What was said since the last call, each with "; " behind it.
     std::function<std::string()> takeLog;
-    /// What can be seen, by its names.
+    /// What can be seen, by its names; what no longer can is "gone".
     std::function<std::map<std::string, std::string>()> look;
     std::string folder;  ///< is written as APP
 };

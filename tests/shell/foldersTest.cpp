@@ -1,0 +1,155 @@
+// The user's folder and the designs put aside in it: files of acts of packages, of the user and of
+// runs of the program, each with all files that look different then.
+
+#include "Error.h"
+#include "RecoveryFolder.h"
+#include "TemporaryFolder.h"
+#include "applicationFolder.h"
+#include "caseFile.h"
+#include "paths.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <regex>
+#include <sstream>
+
+#include <pwd.h>
+#include <unistd.h>
+
+using namespace fleetwright;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An installation and a user, as a package leaves them.
+class Folders {
+public:
+    Folders() {
+        setenv("XDG_DATA_HOME", m_root.path().c_str(), 1);
+        m_root.write("lib/w_dll.dll", "module 1");
+        fs::create_directory_symlink("../share", m_root.path() / "lib/delivered");
+        fs::create_directories(m_root.path() / "share/ssds");
+        fs::create_symlink("../lib/w_dll.dll", m_root.path() / "share/w_dll.dll");
+    }
+    Folders(const Folders&) = delete;
+    Folders& operator=(const Folders&) = delete;
+    ~Folders() {
+        setenv("HOME", m_home.c_str(), 1);
+        unsetenv("XDG_DATA_HOME");
+    }
+
+    std::string run(const std::string& acts) {
+        return playActs(acts, {.act = [this](const std::string& act) { doLine(act); },
+                               .takeLog = [this] { return std::exchange(m_log, {}); },
+                               .look = [this] { return look(); },
+                               .folder = m_root.path().string()});
+    }
+
+private:
+    /// The files of the user's folder, without what differs from run to run.
+    std::map<std::string, std::string> look() {
+        std::map<std::string, std::string> seen;
+        int locks = 0;
+        const fs::path users = m_root.path() / "FleetWright";
+        for (const auto& entry : fs::recursive_directory_iterator(m_root.path())) {
+            const fs::path& file = entry.path();
+            const std::string name = file.lexically_relative(users).string();
+            if (file.extension() == ".lock") {
+                ++locks;
+            } else if (!name.starts_with("..") && file != m_record) {
+                seen[std::regex_replace(name, std::regex("~[0-9]+$"), "~MARK")] =
+                    (fs::is_symlink(file) ? "link to " : "") +
+                    (fs::is_directory(file) ? "folder" : m_root.read("FleetWright/" + name));
+            }
+        }
+        seen["locks"] = std::to_string(locks);
+        return seen;
+    }
+
+    void doLine(const std::string& line) {
+        std::istringstream words(line);
+        std::string act;
+        std::string name;
+        std::string text;
+        words >> act >> name;
+        std::getline(words >> std::ws, text);
+        try {
+            perform(act, name, text);
+        } catch (const FileError& error) {
+            m_log += error.file().string() + ": " + error.what() + "; ";
+        }
+    }
+
+    void perform(const std::string& act, const std::string& name, const std::string& text) {
+        const fs::path file = m_root.path() / name;
+        const auto run = [&]() -> RecoveryFolder& {
+            const auto now = [this] { return "t" + std::to_string(++m_now); };
+            return m_runs.try_emplace(name, RecoveryFolder::ofUser(), now).first->second;
+        };
+        const auto list = [this](const std::vector<RecoveryFolder::Design>& designs) {
+            for (const RecoveryFolder::Design& design : designs) {
+                m_log += design.name + "; ";
+            }
+        };
+        const std::map<std::string, std::function<void()>> acts = {
+            {"deliver", [&] { deliver(name, text); }},
+            {"start", [&] { start(); }},
+            {"write", [&] { m_root.write(name, text); }},
+            {"remove", [&] { fs::remove_all(file); }},
+            {"protect", [&] { fs::permissions(file, fs::perms::owner_read); }},
+            {"mislead",
+             [&] {
+                 fs::remove(file);
+                 fs::create_symlink("gone", file);
+             }},
+            {"age",
+             [&] { fs::last_write_time(RecoveryFolder::ofUser() / (name + ' ' + text), m_old); }},
+            {"set", [&] { setenv(name.c_str(), text.c_str(), 1); }},
+            {"unset", [&] { unsetenv(name.c_str()); }},
+            {"ask", [&] { m_log += replaced(userDataFolder(), m_passwd, "PASSWD"); }},
+            {"put", [&] { run().put(text, "design " + std::to_string(++m_designs)); }},
+            {"keep", [&] { run().keep(); }},
+            {"forget", [&] { run().forget(); }},
+            {"find", [&] { list(run().keepLeftBehind()); }},
+            {"crash", [&] { m_runs.erase(name); }},
+            {"now", [&] { m_now = std::stoi(name); }},
+            {"list", [&] { list(RecoveryFolder::list(RecoveryFolder::ofUser())); }}};
+        acts.at(act)();
+    }
+
+    /// Each version's files have a time of their own, as those of a package have.
+    void deliver(const std::string& name, const std::string& contents) {
+        m_root.write("share/" + name, contents);
+        m_time += std::chrono::seconds(2);
+        fs::last_write_time(m_root.path() / "share" / name, m_time);
+    }
+
+    /// Says where the files are, and whether it has noted anew what was given.
+    void start() {
+        std::error_code isFirst;
+        fs::last_write_time(m_record, m_old, isFirst);
+        m_log += applicationFolder(m_root.path() / "lib").string();
+        m_log += fs::last_write_time(m_record, isFirst) == m_old ? "; " : " noted; ";
+    }
+
+    TemporaryFolder m_root;
+    const fs::path m_record = m_root.path() / "FleetWright/.delivered";
+    const fs::file_time_type m_old = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    fs::file_time_type m_time = m_old;
+    const std::string m_home = getenv("HOME");
+    const std::string m_passwd = getpwuid(getuid())->pw_dir;
+    std::map<std::string, RecoveryFolder> m_runs;
+    int m_now = 0;
+    int m_designs = 0;
+    std::string m_log;
+};
+
+}  // namespace
+
+TEST(Folders, HoldWhatPackagesUsersAndRunsLeaveInThem) {
+    expectCases("shell/golden/folders.txt",
+                [](const Case& each) { return Folders().run(each["acts"]); });
+}
