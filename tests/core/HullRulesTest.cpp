@@ -34,6 +34,15 @@ double roundUpByText(double x) {
     return hasFraction ? std::trunc(x) + 1 : std::nearbyint(x);
 }
 
+void writeFigures(std::ostream& text, const HullDesign& design) {
+    const HullFigures figures = hullFigures(design);
+    EXPECT_EQ(figures.design, design);
+    text << figures.hullCost << " + " << figures.ftlCost << " + " << figures.thrustCost << " = "
+         << figures.cost << ", free " << figures.freeMass << ", points " << figures.damagePoints
+         << ", rows " << figures.damageRows << ", parties " << figures.damageControlParties
+         << ", controls " << figures.fireControls << '\n';
+}
+
 }  // namespace
 
 TEST(RoundUp, GoesByTheDecimalText) {
@@ -75,27 +84,15 @@ TEST(HullRules, PriceAHullByItsMassAndParts) {
         HullDesign design;
         hull >> design.hullType >> design.ftl >> design.thrust >> design.armor >> design.streamline;
         std::ostringstream text;
-        for (const std::int32_t mass :
-             {-4, 0, 3, 6, 7, 18, 19, 36, 37, 100, 101, 149, 150, 199, 1000}) {
-            design.mass = mass;
-            const HullFigures figures = hullFigures(design);
-            EXPECT_EQ(figures.design, design);
-            text << "mass " << mass << ": " << figures.hullCost << " + " << figures.ftlCost << " + "
-                 << figures.thrustCost << " = " << figures.cost << ", free " << figures.freeMass
-                 << ", points " << figures.damagePoints << ", rows " << figures.damageRows
-                 << ", parties " << figures.damageControlParties << ", controls "
-                 << figures.fireControls << '\n';
+        std::istringstream masses(given["masses"]);
+        while (masses >> design.mass) {
+            text << "mass " << design.mass << ": ";
+            try {
+                writeFigures(text, design);
+            } catch (const OverflowError& error) {
+                text << error.what() << '\n';
+            }
         }
         return text.str();
     });
-}
-
-TEST(HullRules, OverflowIsAnErrorInEachProductAndSum) {
-    EXPECT_THROW(hullFigures({.mass = 1'073'741'824}), OverflowError);
-    EXPECT_THROW(hullFigures({.mass = 800'000'000, .hullType = SpaceStation, .ftl = TugDrive}),
-                 OverflowError);
-    EXPECT_THROW(hullFigures({.mass = 200'000'000, .hullType = Merchant, .thrust = 8}),
-                 OverflowError);
-    EXPECT_THROW(hullFigures({.mass = 750'000'000, .thrust = 0}), OverflowError);
-    EXPECT_EQ(hullFigures({.mass = 700'000'000, .ftl = NoDrive, .thrust = 0}).cost, 1'400'000'000);
 }

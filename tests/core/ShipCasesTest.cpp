@@ -58,6 +58,7 @@ public:
         : m_yard(given["catalogue"].empty() ? std::string(testCatalogue) : given["catalogue"]) {
         addWrites();
         addLooks();
+        addFiles();
         renew();
         for (const std::string& line : linesOf(given["acts"])) {
             perform(line);
@@ -151,6 +152,31 @@ private:
             return text;
         };
         m_acts["sheet"] = [this](const std::string&) { return sheet(); };
+    }
+
+    /// Acts with files below a folder of their own; in what is put there, / ends a line.
+    void addFiles() {
+        m_acts["put"] = [this](const std::string& words) {
+            const std::size_t blank = words.find(' ');
+            m_yard.folder().write(words.substr(0, blank),
+                                  replaced(words.substr(blank + 1), "/", "\r"));
+            return std::string();
+        };
+        m_acts["load"] = [this](const std::string& name) {
+            return named(m_ship->loadShip((m_yard.folder().path() / name).string()));
+        };
+        m_acts["save"] = [this](const std::string& name) {
+            const ShipState before = m_ship->state();
+            std::string file = (m_yard.folder().path() / name).string();
+            const bool isDone = m_ship->saveShip(file);
+            EXPECT_TRUE(isDone ? file == m_ship->g_sSaveName : m_ship->state() == before);
+            return named(isDone);
+        };
+    }
+    std::string named(bool isDone) const {
+        const std::string name = m_ship->g_sTrimmedFileName + " of " + m_ship->g_sSaveName;
+        return isDone ? replaced(name, m_yard.folder().path().string(), "APP")
+                      : textOf({*m_ship->fileFault()});
     }
 
     /// What a sheet asks the ship.

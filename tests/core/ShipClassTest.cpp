@@ -96,40 +96,6 @@ TEST_F(ShipClassTest, ASaveIsDoneWhateverAListenerThrows) {
     EXPECT_EQ(yard.folder().read("done.shp"), ship->shipFile());
 }
 
-TEST_F(ShipClassTest, ASaveTakesTheNameAndAFailureLeavesIt) {
-    EventLog events(*ship);
-    std::string name = (yard.folder().path() / "a.b.SHP").string();
-    ASSERT_TRUE(ship->saveShip(name));
-    EXPECT_EQ(name, (yard.folder().path() / "a.b.SHP.shp").string());
-    EXPECT_EQ(ship->g_sTrimmedFileName, "a.b.SHP");
-    EXPECT_TRUE(yard.folder().read("a.b.SHP.shp").starts_with("Ship Name: Generic\r\nDesigner"));
-    EXPECT_EQ(events.take(), "saved");
-    ship->weapChange();
-    const ShipState before = ship->state();
-    std::string bad = (yard.folder().path() / "missing" / "x.shp").string();
-    EXPECT_FALSE(ship->saveShip(bad));
-    EXPECT_EQ(ship->fileFault(), (Fault{0, "cannot be saved: No such file or directory"}));
-    EXPECT_EQ(ship->state(), before);
-    EXPECT_EQ(events.take(), "( )");
-}
-
-TEST_F(ShipClassTest, FileNamesAreCutAtEitherSeparator) {
-    const std::pair<const char*, const char*> names[] = {
-        {"C:\\ships\\abc.txt", "abc"}, {"naïveté", "naï"}, {"x.shp", "x"}, {".shp", ""}};
-    for (const auto& [file, trimmed] : names) {
-        EXPECT_TRUE(
-            ship->loadShip(yard.folder().write(file, "Armor: Level 2\r\n\r\nMass: 9\rFTL: Tug")));
-        EXPECT_EQ(ship->g_sTrimmedFileName, trimmed);
-        EXPECT_EQ(ship->mass() + ship->Armor() + ship->FTL(), 14);
-    }
-    EXPECT_FALSE(ship->loadShip(yard.folder().write("abc", "Mass: 7")));
-    EXPECT_EQ(ship->fileFault(), (Fault{0, "file name is too short"}));
-    EXPECT_EQ(ship->mass(), 7);
-    EXPECT_FALSE(ship->loadShip((yard.folder().path() / "none.shp").string()));
-    EXPECT_EQ(ship->fileFault(), (Fault{0, "cannot be read: No such file or directory"}));
-    EXPECT_EQ(yard.loaded("Armor: Level 1 ")->fileFault(), (Fault{1, "\"\" is no number"}));
-}
-
 TEST_F(ShipClassTest, ListenersMayChangeTheShipWhileAutoMassGivesUp) {
     ship->mass(50);
     ship->addWeap("Wobble", 1);
