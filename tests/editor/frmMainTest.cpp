@@ -245,8 +245,8 @@ private:
             {"release right", [&] { control.releaseMouse({.button = RightButton}); }},
             {"drop", [&] { control.drop(m_window.drag.imgDrag); }},
             {"drop another", [&] { control.drop(m_window.figures.txtCost); }},
-            {"enter", [&] { box->pressKey(EnterKey); }},
-            {"key", [&] { box->pressKey('x'); }},
+            {"enter", [&] { m_says += box->pressKey(EnterKey) ? "taken; " : ""; }},
+            {"key", [&] { m_says += box->pressKey('x') ? "taken; " : ""; }},
             {"leave", [&] { box->loseFocus(); }},
         };
         if (const auto known = acts.find(how); known != acts.end()) {

@@ -131,17 +131,12 @@ private:
                          (globals.g_bHide ? " hide" : "") +
                          (globals.g_bConfirmExit ? " confirm" : "") +
                          (globals.formula == &formula_calculate ? " formula" : "");
-        std::set<std::string> names;
         for (const auto& entry : fs::directory_iterator(folder.path())) {
-            const std::string name = entry.path().filename().string();
-            names.insert(entry.is_directory() ? name + '(' +
-                                                    std::to_string(std::distance(
-                                                        fs::directory_iterator(entry.path()), {})) +
-                                                    ')'
-                                              : name);
-        }
-        for (const std::string& name : names) {
-            all["files"] += ' ' + name;
+            const fs::path& file = entry.path();
+            all["file " + file.filename().string()] =
+                entry.is_directory()
+                    ? std::to_string(std::distance(fs::directory_iterator(file), {}))
+                    : "";
         }
         std::string& recent = all["recent"];
         for (std::int16_t i = 0; i <= 6; ++i) {

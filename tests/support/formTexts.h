@@ -74,7 +74,7 @@ inline std::string layoutOf(const Container& container, const std::string& inden
         }
         text += std::string(design.isFlat ? " flat" : "") + (design.isLocked ? " locked" : "") +
                 (design.isGraphical ? " graphical" : "") + (design.isVerbatim ? " verbatim" : "") +
-                (design.isOn ? " on" : "");
+                (design.isOn ? " on" : "") + (design.isVisible ? "" : " hidden");
         if (const auto* const list = dynamic_cast<const ListView*>(control)) {
             for (const ListView::Column& column : list->columns()) {
                 text += ' ' + column.title + ' ' + std::to_string(column.width);

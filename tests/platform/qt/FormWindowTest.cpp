@@ -22,9 +22,13 @@ TEST_F(FormWindowTest, WidgetsStandWhereTheFormPutsThem) {
     EXPECT_GE(scale, 1.0);
     EXPECT_NEAR(find<QTreeWidget>("list")->x(), 3300 / 15.0 * scale, 1.0);
     EXPECT_EQ(window.windowTitle(), "All kinds");
+    form.setCaption("Renamed");
+    EXPECT_EQ(window.windowTitle(), "Renamed");
     EXPECT_EQ(window.minimumSize(), window.maximumSize());
-    const auto* const button = find<QAbstractButton>("button");
-    EXPECT_EQ(button->toolTip(), "Tip");
+    EXPECT_EQ(find<QAbstractButton>("button")->toolTip(), "Tip");
+    EXPECT_EQ(find<QAbstractButton>("arrowsDown")->toolTip(), "Spin");
+    form.slider.setSteps(3, 4);
+    EXPECT_EQ(find<QSlider>("slider")->tickInterval(), 3);
     EXPECT_EQ(find<QLabel>("status")->geometry().bottom() + 1,
               find<QLabel>("status")->parentWidget()->height());
 }

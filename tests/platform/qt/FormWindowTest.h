@@ -91,7 +91,7 @@ public:
         {.name = "cancel", .place = {3300, 1400, 900, 300}, .caption = "Cancel", .isCancel = true},
         [this] { log += "cancel "; }};
     UpDown arrows{*this,
-                  {.name = "arrows", .place = {4500, 150, 300, 600}},
+                  {.name = "arrows", .place = {4500, 150, 300, 600}, .toolTip = "Spin"},
                   {.upClick = [this] { log += "up "; },
                    .downClick = [this] { log += "down "; },
                    .change = [this] { log += "change "; }}};
