@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "TemporaryFolder.h"
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -10,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <functional>
@@ -74,6 +76,18 @@ TEST(SaveFile, FollowsLinksAndKeepsThem) {
     EXPECT_TRUE(fs::is_symlink(folder.path() / "link.shp"));
     EXPECT_EQ(folder.read("ships/real.shp"), "new");
     EXPECT_EQ(folder.read("ships/new.shp"), "made");
+}
+
+TEST(SaveFile, WritesIntoAPipeAndLeavesItOne) {
+    const TemporaryFolder folder;
+    const fs::path pipe = folder.path() / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    saveFile(pipe, "ship");
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    std::array<char, 9> read{};
+    EXPECT_EQ(::read(reader, read.data(), read.size()), 4);
+    close(reader);
 }
 
 TEST(SaveFile, RefusesWhatCannotBeSavedAndLeavesItAsItWas) {
