@@ -19,12 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The first word of a text, and what stands behind it.
-std::pair<std::string, std::string> cut(const std::string& text) {
-    const std::size_t end = std::min(text.find(' '), text.size());
-    return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
-}
-
 std::string sizeText(int width, int height) {
     return std::to_string(width) + 'x' + std::to_string(height);
 }

@@ -99,8 +99,7 @@ public:
     }
 
     void doLine(const std::string& line) {
-        const std::string first = line.substr(0, line.find(' '));
-        const std::string rest = line.substr(std::min(line.size(), first.size() + 1));
+        const auto [first, rest] = cut(line);
         if (first.empty()) {
             return;
         }
@@ -110,8 +109,7 @@ public:
         if (first == "in") {
             doLater(rest.substr(0, rest.find(':')), rest.substr(rest.find(": ") + 2));
         } else if (first == "write") {
-            m_test.folder().write(rest.substr(0, rest.find(' ')),
-                                  replaced(rest.substr(rest.find(' ') + 1), "; ", "\n"));
+            m_test.folder().write(cut(rest).first, replaced(cut(rest).second, "; ", "\n"));
         } else if (first == "age") {
             const fs::path file = m_test.folder().path() / rest;
             fs::last_write_time(file, fs::last_write_time(file) - std::chrono::seconds(10));

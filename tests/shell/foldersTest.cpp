@@ -13,7 +13,6 @@
 #include <chrono>
 #include <cstdlib>
 #include <regex>
-#include <sstream>
 
 #include <pwd.h>
 #include <unistd.h>
@@ -70,14 +69,9 @@ private:
     }
 
     void doLine(const std::string& line) {
-        std::istringstream words(line);
-        std::string act;
-        std::string name;
-        std::string text;
-        words >> act >> name;
-        std::getline(words >> std::ws, text);
         try {
-            perform(act, name, text);
+            const auto [act, rest] = cut(line);
+            perform(act, cut(rest).first, cut(rest).second);
         } catch (const FileError& error) {
             m_log += error.file().string() + ": " + error.what() + "; ";
         }

@@ -146,14 +146,11 @@ private:
     }
 
     void doLine(const std::string& line) {
-        const std::size_t blank = line.find(' ');
-        const std::string act = line.substr(0, blank);
-        const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
-        const std::size_t next = rest.find(' ');
-        const std::string name = rest.substr(0, next);
-        const std::string text = next == std::string::npos ? "" : rest.substr(next + 1);
-        const auto form = std::find_if(forms.begin(), forms.end(),
-                                       [&](const Form* each) { return each->name() == name; });
+        const auto [act, rest] = cut(line);
+        const auto [name, text] = cut(rest);
+        const auto form =
+            std::find_if(forms.begin(), forms.end(),
+                         [&name = name](const Form* each) { return each->name() == name; });
         Control* const control = m_controls.contains(name) ? m_controls[name] : nullptr;
         try {
             if (form != forms.end()) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -99,6 +100,11 @@ std::string playActs(const std::string& acts, const Stage& stage) {
         text += changes.empty() ? "" : "  " + replaced(changes, "\n", " | ") + '\n';
     }
     return replaced(std::move(text), stage.folder, "APP");
+}
+
+std::pair<std::string, std::string> cut(const std::string& text) {
+    const std::size_t end = std::min(text.find(' '), text.size());
+    return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
 }
 
 std::string replaced(std::string text, const std::string& what, const std::string& by) {

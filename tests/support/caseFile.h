@@ -46,6 +46,9 @@ struct Stage {
 /// looks different then.
 std::string playActs(const std::string& acts, const Stage& stage);
 
+/// The first word of a text, and what stands behind it.
+std::pair<std::string, std::string> cut(const std::string& text);
+
 /// A text with something in it replaced wherever it stands.
 std::string replaced(std::string text, const std::string& what, const std::string& by);
 

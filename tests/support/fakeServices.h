@@ -32,8 +32,7 @@ public:
         return choice;
     }
     std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override {
-        asked = dialog;
-        return choice;
+        return chooseFileToOpen(dialog);
     }
 };
 

@@ -78,10 +78,8 @@ private:
     }
 
     void doLine(const std::string& line) {
-        const std::vector<std::string> words = linesOf(replaced(line, " ", "\n"));
-        const std::string& name = words.at(1);
-        const std::size_t start = words[0].size() + name.size() + 2;
-        const std::string rest = line.substr(std::min(start, line.size()));
+        const std::string name = cut(cut(line).second).first;
+        const std::string rest = cut(cut(line).second).second;
         const auto found = m_controls.find(name);
         Control* const control = found == m_controls.end() ? nullptr : found->second;
         auto* const widget = m_window.findChild<QWidget*>(name.c_str());
@@ -115,7 +113,7 @@ private:
             {"node", [&] { m_form.tree.select(*m_form.tree.find(rest)); }},
             {"clear", [&] { m_form.combo.clear(); }},
         };
-        acts.at(words.at(0))();
+        acts.at(cut(line).first)();
     }
 
     static void set(Control& control, const std::string& value) {
