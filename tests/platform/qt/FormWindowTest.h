@@ -39,7 +39,9 @@ public:
             log += "tree" + std::to_string(press.button) + ' ';
         };
         list.onDblClick = [this] { log += "row" + std::to_string(*list.selected()) + ' '; };
-        mass.onMouseDown = [this](const MousePress&) { log += "mass "; };
+        mass.onMouseDown = [this](const MousePress& press) {
+            log += "mass" + std::to_string(press.button) + ' ';
+        };
         name.onKeyPress = [this](int key) {
             log += "key" + std::to_string(key) + ' ';
             return key == EnterKey;

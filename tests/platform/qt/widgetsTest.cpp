@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QTest>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -38,7 +39,8 @@ std::string shownBy(QWidget& widget) {
     const QAccessible::State state = told->state();
     return text.toStdString() + (state.checked ? " on" : "") + (state.disabled ? " disabled" : "") +
            (state.invisible ? " hidden" : "") + (state.readOnly ? " locked" : "") +
-           ((widget.focusPolicy() & Qt::TabFocus) != 0 ? " stop" : "");
+           ((widget.focusPolicy() & Qt::TabFocus) != 0 ? " stop" : "") +
+           (widget.window()->focusWidget() == &widget ? " focus" : "");
 }
 
 std::string shownBy(const QAction& entry) {
@@ -95,6 +97,11 @@ private:
              [&] {
                  auto& rows = dynamic_cast<QTreeWidget&>(*widget);
                  QTest::mouseClick(rows.viewport(), Qt::RightButton, {}, QPoint(5, 5));
+             }},
+            {"menu",
+             [&] {
+                 QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
+                 QApplication::sendEvent(widget, &asked);
              }},
             {"type", [&] { QTest::keyClicks(widget, QString::fromStdString(rest)); }},
             {"key",
