@@ -20,7 +20,7 @@ public:
     ~QtPrinter() override;
 
     std::optional<int> choose() override;
-    /// Prints into this file from now on, without a dialog.
+    /// Prints into this file from now on, without a dialog; only tests do that.
     void chooseFile(const std::string& pdf);
 
     std::string fontName() const override;
