@@ -4,7 +4,7 @@
 #include "Error.h"
 #include "ShipClass.h"
 #include "TemporaryFolder.h"
-#include "files.h"
+#include "readFile.h"
 #include "require.h"
 
 #include <algorithm>

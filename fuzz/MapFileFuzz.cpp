@@ -8,8 +8,8 @@
 #include "SheetPictures.h"
 #include "checkMapPlaces.h"
 #include "drawSSD.h"
-#include "files.h"
 #include "mapMarks.h"
+#include "readFile.h"
 #include "require.h"
 #include "testShip.h"
 

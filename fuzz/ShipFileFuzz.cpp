@@ -2,7 +2,7 @@
 
 #include "Error.h"
 #include "ShipFileCheck.h"
-#include "files.h"
+#include "readFile.h"
 #include "require.h"
 #include "testShip.h"
 

@@ -15,7 +15,6 @@
 #include "QtSounds.h"
 #include "RecoveryFolder.h"
 #include "applicationFolder.h"
-#include "files.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
@@ -24,6 +23,7 @@
 #include "frmSSDView.h"
 #include "frmSplash.h"
 #include "paths.h"
+#include "saveFile.h"
 #include "sheetShip.h"
 
 #include <QApplication>

@@ -8,8 +8,8 @@
 #include "SSDMap.h"
 #include "SSDMaps.h"
 #include "checkedArithmetic.h"
-#include "files.h"
 #include "paths.h"
+#include "saveFile.h"
 #include "text.h"
 
 #include <algorithm>

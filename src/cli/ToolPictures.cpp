@@ -2,10 +2,10 @@
 
 #include "Error.h"
 #include "bmpFile.h"
-#include "files.h"
 #include "modules.h"
 #include "picturesModule.h"
 #include "plainGif.h"
+#include "readFile.h"
 
 #include <optional>
 

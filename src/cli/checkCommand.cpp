@@ -12,8 +12,8 @@
 #include "ToolPictures.h"
 #include "checkMapPlaces.h"
 #include "console.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
 #include "text.h"
 
 #include <memory>

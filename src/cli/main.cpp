@@ -1,8 +1,8 @@
 #include "CommandRow.h"
 #include "Error.h"
 #include "console.h"
-#include "files.h"
 #include "helpText.h"
+#include "saveFile.h"
 
 #include <cstdio>
 #include <exception>

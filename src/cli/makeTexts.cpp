@@ -4,8 +4,9 @@
 //     cli-texts completion TEMPLATE FILE   what lets bash complete the words of a command line
 
 #include "CommandRow.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
+#include "saveFile.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,8 +1,9 @@
 #include "RecoveryFolder.h"
 #include "commands.h"
 #include "console.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
+#include "saveFile.h"
 
 namespace fleetwright {
 

@@ -5,9 +5,9 @@
 #include "PictureFiles.h"
 #include "ToolPictures.h"
 #include "console.h"
-#include "files.h"
 #include "inOrder.h"
 #include "paths.h"
+#include "saveFile.h"
 #include "text.h"
 
 #include <map>

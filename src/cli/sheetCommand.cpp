@@ -6,8 +6,8 @@
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "drawnSheet.h"
-#include "files.h"
 #include "paths.h"
+#include "saveFile.h"
 #include "text.h"
 
 #include <map>

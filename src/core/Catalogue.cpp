@@ -1,7 +1,6 @@
 #include "Catalogue.h"
 
 #include "checkedArithmetic.h"
-#include "files.h"
 #include "strfcns.h"
 #include "text.h"
 

@@ -1,7 +1,7 @@
 #include "CatalogueFile.h"
 
 #include "FileStamp.h"
-#include "files.h"
+#include "readFile.h"
 #include "strfcns.h"
 #include "text.h"
 

@@ -4,7 +4,7 @@
 #include "Error.h"
 #include "PictureFiles.h"
 #include "SheetPictures.h"
-#include "files.h"
+#include "readFile.h"
 #include "text.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "RecoveryFolder.h"
 
 #include "Error.h"
-#include "files.h"
 #include "paths.h"
+#include "saveFile.h"
 #include "text.h"
 
 #include <algorithm>

@@ -1,8 +1,9 @@
 #include "applicationFolder.h"
 
 #include "Error.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
+#include "saveFile.h"
 #include "text.h"
 
 #include <algorithm>

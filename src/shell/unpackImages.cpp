@@ -3,7 +3,8 @@
 #include "Error.h"
 #include "FileLock.h"
 #include "SheetPictures.h"
-#include "files.h"
+#include "readFile.h"
+#include "saveFile.h"
 
 #include <optional>
 #include <random>

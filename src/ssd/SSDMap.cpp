@@ -1,8 +1,8 @@
 #include "SSDMap.h"
 
 #include "checkedArithmetic.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
 #include "text.h"
 
 #include <algorithm>

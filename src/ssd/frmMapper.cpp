@@ -6,8 +6,8 @@
 #include "RasterSheet.h"
 #include "ShipClass.h"
 #include "checkedArithmetic.h"
-#include "files.h"
 #include "paths.h"
+#include "saveFile.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 #include "text.h"
-#include "files.h"
+#include "readFile.h"
 
 #include "Error.h"
 #include "TemporaryFolder.h"

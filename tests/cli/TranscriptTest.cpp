@@ -5,7 +5,8 @@
 // temporary files.
 
 #include "TemporaryFolder.h"
-#include "files.h"
+#include "readFile.h"
+#include "saveFile.h"
 #include "text.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "Error.h"
 #include "caseFile.h"
 #include "faults.h"
-#include "files.h"
+#include "readFile.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>

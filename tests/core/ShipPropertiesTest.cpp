@@ -3,8 +3,8 @@
 
 #include "Error.h"
 #include "explainShip.h"
-#include "files.h"
 #include "forSeeds.h"
+#include "readFile.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>

@@ -7,7 +7,7 @@
 #include "TemporaryFolder.h"
 #include "caseFile.h"
 #include "faults.h"
-#include "files.h"
+#include "readFile.h"
 #include "runCommand.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,8 @@
 #include "Catalogue.h"
 #include "SheetPictures.h"
 #include "TemporaryFolder.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
 #include "runCommand.h"
 
 #include <QImageReader>

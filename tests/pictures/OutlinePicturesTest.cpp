@@ -4,8 +4,8 @@
 #include "OutlineMarks.h"
 #include "QtPictureFiles.h"
 #include "checkMapPlaces.h"
-#include "files.h"
 #include "paths.h"
+#include "readFile.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "QtPictureFiles.h"
 #include "TemporaryFolder.h"
 #include "bmpFile.h"
-#include "files.h"
 #include "paths.h"
 #include "plainGif.h"
 #include "qtImage.h"
+#include "readFile.h"
 
 #include <QBuffer>
 #include <QImageWriter>

@@ -2,7 +2,7 @@
 
 #include "Actor.h"
 #include "Error.h"
-#include "files.h"
+#include "readFile.h"
 
 #include <algorithm>
 #include <set>

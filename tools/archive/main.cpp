@@ -2,7 +2,7 @@
 // current folder.
 
 #include "Error.h"
-#include "files.h"
+#include "saveFile.h"
 #include "text.h"
 #include "unpackFiles.h"
 

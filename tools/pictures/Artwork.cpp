@@ -1,7 +1,7 @@
 #include "Artwork.h"
 
 #include "Error.h"
-#include "files.h"
+#include "readFile.h"
 
 #include <QStringList>
 #include <QSvgRenderer>

@@ -1,7 +1,7 @@
 #include "Lettering.h"
 
 #include "Error.h"
-#include "files.h"
+#include "readFile.h"
 #include "text.h"
 
 #include <cctype>

@@ -3,7 +3,7 @@
 #include "Error.h"
 #include "SheetPictures.h"
 #include "drawing.h"
-#include "files.h"
+#include "readFile.h"
 
 #include <QStringList>
 #include <QXmlStreamReader>

@@ -1,7 +1,7 @@
 #include "Sound.h"
 
 #include "Error.h"
-#include "files.h"
+#include "readFile.h"
 #include "text.h"
 
 #include <algorithm>

@@ -13,7 +13,6 @@
 #include "ShipOnScreen.h"
 #include "SilentServices.h"
 #include "drawnSheet.h"
-#include "files.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
@@ -21,6 +20,7 @@
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
 #include "paths.h"
+#include "saveFile.h"
 #include "sheetShip.h"
 
 #include <QApplication>

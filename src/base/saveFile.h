@@ -1,21 +1,11 @@
 #pragma once
 
-// Reading and saving whole files.
+// Saving whole files.
 
 #include <filesystem>
-#include <string>
 #include <string_view>
 
 namespace fleetwright {
-
-/// The contents of a file, byte for byte. Throws FileError, also for a file so large that it is
-/// none of ours.
-std::string readBytes(const std::filesystem::path& file);
-
-/// The contents of a text file as UTF-8. A byte order mark is passed over, and a file that is
-/// not valid UTF-8 is taken as Windows-1252, so that old files keep their accents.
-/// Throws FileError as `readBytes` does.
-std::string readTextFile(const std::filesystem::path& file);
 
 /// Writes `contents` to `target`: the one way in which this program saves a file.
 ///

@@ -1,4 +1,4 @@
-#include "files.h"
+#include "saveFile.h"
 
 #include "Error.h"
 #include "TemporaryFolder.h"
