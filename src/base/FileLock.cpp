@@ -1,5 +1,7 @@
 #include "FileLock.h"
 
+#include "fileCalls.h"
+
 #if __has_include(<unistd.h>)
 #include <fcntl.h>
 #include <sys/file.h>
@@ -13,12 +15,29 @@ namespace fleetwright {
 
 #if __has_include(<unistd.h>)
 
-FileLock::FileLock(const std::filesystem::path& path)
-    : m_file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)) {
+namespace {
+
+/// Locks an open file. An answer to a signal does not end the waiting.
+bool isLocked(int file, FileLock::IfTaken ifTaken) {
+    const int how = LOCK_EX | (ifTaken == FileLock::IfTaken::Wait ? 0 : LOCK_NB);
+    int result = flock(file, how);
+    while (result != 0 && errno == EINTR) {
+        result = flock(file, how);
+    }
+    return result == 0;
+}
+
+}  // namespace
+
+FileLock::FileLock(const std::filesystem::path& path, IfTaken ifTaken) {
+    if (objection(FileCall::Lock, path)) {
+        return;
+    }
+    m_file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     struct stat file {};
     if (m_file < 0) {
         m_state = errno == ENOENT ? State::Gone : State::Unknown;
-    } else if (flock(m_file, LOCK_EX | LOCK_NB) != 0) {
+    } else if (!isLocked(m_file, ifTaken)) {
         m_state = errno == EWOULDBLOCK ? State::WithOthers : State::Unknown;
     } else if (fstat(m_file, &file) == 0) {
         m_state = file.st_nlink == 0 ? State::Gone : State::Held;
@@ -33,7 +52,7 @@ FileLock::~FileLock() {
 
 #else
 
-FileLock::FileLock(const std::filesystem::path&) {}
+FileLock::FileLock(const std::filesystem::path&, IfTaken) {}
 
 FileLock::~FileLock() = default;
 

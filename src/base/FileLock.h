@@ -9,8 +9,11 @@ namespace fleetwright {
 /// being free. Where there are no such locks, nothing is ever held by anybody.
 class FileLock {
 public:
-    /// Tries to lock the file or folder that stands there, without waiting.
-    explicit FileLock(const std::filesystem::path& path);
+    enum class IfTaken { GiveUp, Wait };
+
+    /// Locks the file or folder that stands there: at once or not at all, or else after as long as
+    /// others work on it.
+    explicit FileLock(const std::filesystem::path& path, IfTaken ifTaken = IfTaken::GiveUp);
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
     ~FileLock();

@@ -1,9 +1,8 @@
 #include "TemporaryFile.h"
 
-#include <cerrno>
-#include <mutex>
+#include "fileCalls.h"
+
 #include <random>
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -30,55 +29,50 @@ std::string newName() {
 }  // namespace
 
 void TemporaryFile::takeLeftOnesAway(const fs::path& folder) {
-    std::error_code error;
-    for (fs::directory_iterator entry(folder.empty() ? "." : folder, error);
-         !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
+    std::error_code unread;
+    for (const fs::directory_entry& entry : folderEntries(folder, unread)) {
+        const std::string name = entry.path().filename().string();
         if (!name.starts_with(beginning) || !name.ends_with(ending)) {
             continue;
         }
-        const FileLock lock(entry->path());
+        const FileLock lock(entry.path());
         if (lock.isHeld()) {
-            std::error_code gone;
-            fs::remove(entry->path(), gone);
+            removeFile(entry.path());
         }
     }
 }
 
 TemporaryFile::TemporaryFile(const fs::path& beside, std::error_code& error) {
-    const fs::path folder = beside.parent_path();
-    static std::mutex mutex;
-    static std::set<fs::path> tidied;
-    if (const std::lock_guard lock(mutex); tidied.insert(folder).second) {
-        takeLeftOnesAway(folder);
-    }
     do {
-        if (m_stream != nullptr) {
-            std::fclose(m_stream);
-        }
-        const fs::path path = folder / newName();
-        m_stream = std::fopen(path.string().c_str(), "wbx");
-        if (m_stream == nullptr) {
-            error = {errno, std::generic_category()};
+        m_path = beside.parent_path() / newName();
+        m_file.emplace(m_path, OpenFile::Use::Create, error);
+        if (error) {
+            m_path.clear();
             return;
         }
-        m_path = path;
-        m_lock.emplace(path);
+        m_lock.emplace(m_path);
     } while (m_lock->isLost());
 }
 
 TemporaryFile::~TemporaryFile() {
     if (!m_path.empty()) {
-        std::error_code ignored;
-        fs::remove(m_path, ignored);
+        removeFile(m_path);
     }
 }
 
-void TemporaryFile::rename(const fs::path& target, std::error_code& error) {
-    fs::rename(m_path, target, error);
-    if (!error) {
-        m_path.clear();
+std::error_code TemporaryFile::write(std::string_view contents) {
+    std::error_code error = m_file->write(contents);
+    error = error ? error : m_file->sync();
+    const std::error_code notClosed = m_file->close();
+    return error ? error : notClosed;
+}
+
+std::error_code TemporaryFile::rename(const fs::path& target) {
+    if (const std::error_code error = renameFile(m_path, target)) {
+        return error;
     }
+    m_path.clear();
+    return syncFolder(target.parent_path());
 }
 
 }  // namespace fleetwright

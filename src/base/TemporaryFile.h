@@ -1,20 +1,25 @@
 #pragma once
 
 #include "FileLock.h"
+#include "OpenFile.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <optional>
+#include <string_view>
 #include <system_error>
 
 namespace fleetwright {
 
-/// A new file beside another one, gone with this object unless it is renamed.
+/// A new file beside another one, gone with this object unless it is renamed. None of its functions
+/// throws; the error is empty where all went well.
 ///
-/// It is locked as long as this object lives. Those that a kill has left behind are free, and the
-/// first one that a program makes in a folder takes them away.
+/// It is locked as long as this object lives. Those that a kill has left behind are free, and are
+/// known by that.
 class TemporaryFile {
 public:
+    /// Takes those away that killed runs have left in a folder, but none that a run works on.
+    static void takeLeftOnesAway(const std::filesystem::path& folder);
+
     /// Makes the file. If that fails, `error` says why.
     TemporaryFile(const std::filesystem::path& beside, std::error_code& error);
     TemporaryFile(const TemporaryFile&) = delete;
@@ -22,16 +27,17 @@ public:
     ~TemporaryFile();
 
     const std::filesystem::path& path() const { return m_path; }
-    /// The empty file, open for writing, for whoever closes it.
-    std::FILE* stream() const { return m_stream; }
-    /// Puts it in the place of another file, where it stays.
-    void rename(const std::filesystem::path& target, std::error_code& error);
+    /// The empty file, open for writing.
+    OpenFile& file() { return *m_file; }
+    /// Writes all that is to be in it, so that it outlasts a power cut, and closes it.
+    std::error_code write(std::string_view contents);
+    /// Puts it in the place of another file, where it stays, in the same folder for good. An error
+    /// may mean that it is there, but not for sure.
+    std::error_code rename(const std::filesystem::path& target);
 
 private:
-    static void takeLeftOnesAway(const std::filesystem::path& folder);
-
     std::filesystem::path m_path;
-    std::FILE* m_stream = nullptr;
+    std::optional<OpenFile> m_file;
     std::optional<FileLock> m_lock;
 };
 

@@ -1,6 +1,7 @@
 #include "paths.h"
 
 #include "Error.h"
+#include "fileCalls.h"
 #include "text.h"
 
 #include <algorithm>
@@ -28,14 +29,32 @@ fs::path findEntry(const fs::path& folder, const fs::path& name) {
     }
     const std::string wanted = toCapitals(pathText(name));
     fs::path found;
-    for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
-         !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        const fs::path other = entry->path().filename();
+    for (const fs::directory_entry& entry : folderEntries(folder, error)) {
+        const fs::path other = entry.path().filename();
         if (toCapitals(pathText(other)) == wanted && (found.empty() || other < found)) {
             found = other;
         }
     }
     return found.empty() ? found : folder / found;
+}
+
+/// Makes a folder and those that it stands in, so that they outlast a power cut.
+std::error_code makeIfMissing(const fs::path& folder) {
+    std::error_code unknown;
+    const fs::file_status status = fs::status(folder, unknown);
+    if (folder.empty() || fs::is_directory(status)) {
+        return {};
+    }
+    if (fs::exists(status)) {
+        return std::make_error_code(std::errc::not_a_directory);
+    }
+    std::error_code error = makeIfMissing(folder.parent_path());
+    if (error || !folder.has_filename()) {
+        return error;
+    }
+    error = makeNewFolder(folder);
+    // Another run may have been quicker.
+    return error && !fs::is_directory(folder, unknown) ? error : syncFolder(folder.parent_path());
 }
 
 fs::path variable(const char* name) {
@@ -72,15 +91,14 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
     const std::string wanted = toCapitals(ending);
     std::vector<std::pair<std::string, fs::path>> files;  // by name in capitals
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-         entry.increment(error)) {
-        std::string name = toCapitals(pathText(entry->path().filename()));
+    for (const fs::directory_entry& entry : folderEntries(folder, error)) {
+        std::string name = toCapitals(pathText(entry.path().filename()));
         std::error_code unknown;
         // A link to nothing counts, so that whoever opens it says so; a pipe would be waited for.
-        const bool isFile = entry->is_regular_file(unknown) ||
-                            (entry->is_symlink(unknown) && !entry->exists(unknown));
+        const bool isFile =
+            entry.is_regular_file(unknown) || (entry.is_symlink(unknown) && !entry.exists(unknown));
         if (name.ends_with(wanted) && isFile) {
-            files.emplace_back(std::move(name), entry->path());
+            files.emplace_back(std::move(name), entry.path());
         }
     }
     if (error && error != std::errc::no_such_file_or_directory) {
@@ -96,9 +114,7 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
 }
 
 void makeFolder(const fs::path& folder) {
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (error) {
+    if (const std::error_code error = makeIfMissing(folder)) {
         throw FileError(folder, "cannot be made: " + error.message());
     }
 }

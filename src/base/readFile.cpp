@@ -1,11 +1,10 @@
 #include "readFile.h"
 
 #include "Error.h"
+#include "OpenFile.h"
 #include "text.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <memory>
+#include <algorithm>
 #include <string_view>
 #include <system_error>
 
@@ -17,46 +16,36 @@ namespace {
 
 constexpr std::size_t largestFile = std::size_t{256} * 1024 * 1024;
 
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
 }  // namespace
 
 std::string readBytes(const fs::path& path) {
-    const auto fail = [&path](int code) {
-        throw FileError(path, "cannot be read: " + std::generic_category().message(code));
-    };
-    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.string().c_str(), "rb"));
-    if (!file) {
-        fail(errno);
-    }
-    // Its own buffer would only be one more copy: the file is read in one go.
-    std::setvbuf(file.get(), nullptr, _IONBF, 0);
-
-    constexpr std::size_t firstTry = 16'384;
-    std::error_code noSize;
-    const std::uintmax_t size = fs::file_size(path, noSize);
-    if (!noSize && size > largestFile) {
-        fail(EFBIG);
-    }
-    std::string bytes(noSize ? firstTry : static_cast<std::size_t>(size) + 1, '\0');
-    std::size_t filled = 0;
-    while (true) {
-        const std::size_t got =
-            std::fread(bytes.data() + filled, 1, bytes.size() - filled, file.get());
-        filled += got;
-        if (std::ferror(file.get()) != 0) {
-            fail(errno);
+    std::error_code error;
+    const auto failOnError = [&path, &error] {
+        if (error) {
+            throw FileError(path, "cannot be read: " + error.message());
         }
-        if (filled < bytes.size()) {
+    };
+    OpenFile file(path, OpenFile::Use::Read, error);
+    const std::uintmax_t size = file.size();
+    if (size > largestFile) {
+        error = std::make_error_code(std::errc::file_too_large);
+    }
+    failOnError();
+
+    constexpr std::size_t leastMore = 16'384;
+    std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
+    std::size_t filled = 0;
+    while (const std::size_t got = file.read(bytes.data() + filled, bytes.size() - filled, error)) {
+        filled += got;
+        if (filled > largestFile) {
+            error = std::make_error_code(std::errc::file_too_large);
             break;
         }
-        if (filled > largestFile) {
-            fail(EFBIG);
+        if (filled == bytes.size()) {
+            bytes.resize(std::max(bytes.size() * 2, leastMore));
         }
-        bytes.resize(bytes.size() * 2);
     }
+    failOnError();
     bytes.resize(filled);
     return bytes;
 }

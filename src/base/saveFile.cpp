@@ -2,10 +2,11 @@
 
 #include "Error.h"
 #include "TemporaryFile.h"
+#include "fileCalls.h"
 
-#include <cerrno>
 #include <csignal>
-#include <cstdio>
+#include <mutex>
+#include <set>
 #include <system_error>
 
 #if __has_include(<unistd.h>)
@@ -21,20 +22,6 @@ namespace {
 
 [[noreturn]] void fail(const fs::path& target, const std::error_code& why) {
     throw FileError(target, "cannot be saved: " + why.message());
-}
-
-std::error_code lastError() {
-    return {errno, std::generic_category()};
-}
-
-/// Makes sure that what was written survives a power cut, where the system can do that.
-bool flushToDisk([[maybe_unused]] std::FILE* file) {
-#if __has_include(<unistd.h>)
-    // A device or a pipe has nothing to sync and says so with EINVAL.
-    return fsync(fileno(file)) == 0 || errno == EINVAL;
-#else
-    return true;
-#endif
 }
 
 /// Why an existing file may not be written to, if that is so.
@@ -64,19 +51,14 @@ void takeOwner([[maybe_unused]] const fs::path& file, [[maybe_unused]] const fs:
 #endif
 }
 
-/// Writes everything and closes the file; the error, if there was one.
-std::error_code writeAndClose(std::FILE* file, std::string_view contents) {
-    std::error_code error;
-    const bool isWritten =
-        std::fwrite(contents.data(), 1, contents.size(), file) == contents.size() &&
-        std::fflush(file) == 0 && flushToDisk(file);
-    if (!isWritten) {
-        error = lastError();
+/// Takes away what killed saves have left in a folder, when this run saves there for the first
+/// time.
+void tidyOnce(const fs::path& folder) {
+    static std::mutex mutex;
+    static std::set<fs::path> tidied;
+    if (const std::lock_guard lock(mutex); tidied.insert(folder).second) {
+        TemporaryFile::takeLeftOnesAway(folder);
     }
-    if (std::fclose(file) != 0 && !error) {
-        error = lastError();
-    }
-    return error;
 }
 
 /// The file that a chain of links ends at, also where that file does not exist yet. A chain
@@ -103,19 +85,8 @@ void saveFile(const fs::path& target, std::string_view contents) {
         fail(target, std::make_error_code(std::errc::too_many_symbolic_link_levels));
     }
     const fs::file_status status = fs::status(file, ignored);
-    if (fs::is_directory(status)) {
-        fail(target, std::make_error_code(std::errc::is_a_directory));
-    }
-
-    if (fs::exists(status) && !fs::is_regular_file(status)) {
-        std::FILE* device = std::fopen(file.string().c_str(), "wb");
-        if (device == nullptr) {
-            fail(target, lastError());
-        }
-        if (const std::error_code error = writeAndClose(device, contents)) {
-            fail(target, error);
-        }
-        return;
+    if (const std::error_code noFile = whyNoFile(status)) {
+        fail(target, noFile);
     }
 
     // The rename would replace a write-protected file without a question.
@@ -125,6 +96,7 @@ void saveFile(const fs::path& target, std::string_view contents) {
         }
     }
 
+    tidyOnce(file.parent_path());
     std::error_code error;
     TemporaryFile temporary(file, error);
     if (error) {
@@ -133,13 +105,10 @@ void saveFile(const fs::path& target, std::string_view contents) {
     // Before there is anything in it that others should not read.
     if (fs::exists(status)) {
         takeOwner(temporary.path(), file);
-        fs::permissions(temporary.path(), status.permissions(), error);
+        error = temporary.file().setMode(status.permissions());
     }
-    const std::error_code writeError = writeAndClose(temporary.stream(), contents);
-    error = error ? error : writeError;
-    if (!error) {
-        temporary.rename(file, error);
-    }
+    error = error ? error : temporary.write(contents);
+    error = error ? error : temporary.rename(file);
     if (error) {
         fail(target, error);
     }

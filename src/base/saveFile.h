@@ -15,9 +15,11 @@ namespace fleetwright {
 /// under a name that begins with ".fleetwright-"; the next program that saves into that folder
 /// takes it away. A symbolic link is followed and stays a link; a
 /// hard link parts from its twins. Permissions and, where allowed, the owner of an existing file
-/// are kept. A target that is no plain file, such as a device, is written to directly.
+/// are kept. A target that is no plain file, such as a folder, a pipe or a device, is refused as
+/// `whyNoFile` says.
 ///
-/// Throws FileError, with the target as it was.
+/// Throws FileError, with the target as it was; or with the new contents, if all that failed was to
+/// make sure that they outlast a power cut.
 void saveFile(const std::filesystem::path& target, std::string_view contents);
 
 /// Makes a write beyond the user's limit on the size of files fail as one on a full disk does. Else

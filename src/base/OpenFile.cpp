@@ -1,0 +1,209 @@
+#include "OpenFile.h"
+
+#include "fileCalls.h"
+
+#include <cerrno>
+#include <utility>
+
+#if __has_include(<unistd.h>)
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#else
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#endif
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+#if __has_include(<unistd.h>)
+
+namespace {
+
+int openPlain(const fs::path& file, OpenFile::Use use) {
+    constexpr int always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    switch (use) {
+    case OpenFile::Use::Read:
+        return open(file.c_str(), O_RDONLY | always);
+    case OpenFile::Use::Write:
+        return open(file.c_str(), O_WRONLY | always);
+    case OpenFile::Use::Create:
+        return open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | always, 0666);
+    }
+    return -1;
+}
+
+fs::file_type typeOf(int descriptor) {
+    struct stat status {};
+    if (fstat(descriptor, &status) != 0) {
+        return fs::file_type::unknown;
+    }
+    return S_ISREG(status.st_mode)   ? fs::file_type::regular
+           : S_ISDIR(status.st_mode) ? fs::file_type::directory
+                                     : fs::file_type::unknown;
+}
+
+auto readSome(int descriptor, char* bytes, std::size_t most) {
+    return ::read(descriptor, bytes, most);
+}
+
+auto writeSome(int descriptor, std::string_view bytes) {
+    return ::write(descriptor, bytes.data(), bytes.size());
+}
+
+bool resizeTo(int descriptor, std::uintmax_t size) {
+    return ftruncate(descriptor, static_cast<off_t>(size)) == 0;
+}
+
+bool syncToDisk(int descriptor) {
+    return fsync(descriptor) == 0;
+}
+
+bool changeMode(int descriptor, fs::perms mode) {
+    return fchmod(descriptor, static_cast<mode_t>(mode & fs::perms::mask)) == 0;
+}
+
+}  // namespace
+
+std::uintmax_t OpenFile::size() const {
+    struct stat status {};
+    return isOpen() && fstat(m_descriptor, &status) == 0
+               ? static_cast<std::uintmax_t>(status.st_size)
+               : 0;
+}
+
+#else
+
+namespace {
+
+int openPlain(const fs::path& file, OpenFile::Use use) {
+    constexpr int always = _O_BINARY | _O_NOINHERIT;
+    switch (use) {
+    case OpenFile::Use::Read:
+        return _wopen(file.c_str(), _O_RDONLY | always);
+    case OpenFile::Use::Write:
+        return _wopen(file.c_str(), _O_WRONLY | always);
+    case OpenFile::Use::Create:
+        return _wopen(file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | always, _S_IREAD | _S_IWRITE);
+    }
+    return -1;
+}
+
+fs::file_type typeOf(int) {
+    return fs::file_type::regular;
+}
+
+/// The system counts in 32 bits.
+constexpr std::size_t mostAtOnce = 1 << 30;
+
+auto readSome(int descriptor, char* bytes, std::size_t most) {
+    return _read(descriptor, bytes, static_cast<unsigned>(std::min(most, mostAtOnce)));
+}
+
+auto writeSome(int descriptor, std::string_view bytes) {
+    return _write(descriptor, bytes.data(),
+                  static_cast<unsigned>(std::min(bytes.size(), mostAtOnce)));
+}
+
+bool resizeTo(int descriptor, std::uintmax_t size) {
+    return _chsize_s(descriptor, static_cast<long long>(size)) == 0;
+}
+
+bool syncToDisk(int descriptor) {
+    return _commit(descriptor) == 0;
+}
+
+bool changeMode(int, fs::perms) {
+    return true;
+}
+
+}  // namespace
+
+std::uintmax_t OpenFile::size() const {
+    return static_cast<std::uintmax_t>(std::max(_filelengthi64(m_descriptor), 0LL));
+}
+
+#endif
+
+OpenFile::OpenFile(fs::path file, Use use, std::error_code& error) : m_path(std::move(file)) {
+    error = objection(use == Use::Create ? FileCall::Create : FileCall::Open, m_path);
+    std::error_code unknown;
+    if (!error && use != Use::Create) {
+        // Before it is opened, since that alone may already move a device.
+        error = whyNoFile(fs::status(m_path, unknown));
+    }
+    if (error) {
+        return;
+    }
+    m_descriptor = openPlain(m_path, use);
+    if (!isOpen()) {
+        error = lastError();
+    } else if ((error = whyNoFile(fs::file_status(typeOf(m_descriptor))))) {
+        ::close(std::exchange(m_descriptor, -1));
+    }
+}
+
+OpenFile::~OpenFile() {
+    if (isOpen()) {
+        ::close(m_descriptor);
+    }
+}
+
+std::size_t OpenFile::read(char* bytes, std::size_t most, std::error_code& error) {
+    if ((error = objection(FileCall::Read, m_path))) {
+        return 0;
+    }
+    while (true) {
+        const auto count = readSome(m_descriptor, bytes, most);
+        if (count >= 0) {
+            return static_cast<std::size_t>(count);
+        }
+        if (errno != EINTR) {
+            error = lastError();
+            return 0;
+        }
+    }
+}
+
+std::error_code OpenFile::write(std::string_view bytes) {
+    if (const std::error_code error = objection(FileCall::Write, m_path)) {
+        return error;
+    }
+    while (!bytes.empty()) {
+        const auto count = writeSome(m_descriptor, bytes);
+        if (count >= 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        } else if (errno != EINTR) {
+            return lastError();
+        }
+    }
+    return {};
+}
+
+std::error_code OpenFile::resize(std::uintmax_t size) {
+    const std::error_code error = objection(FileCall::Resize, m_path);
+    return error || resizeTo(m_descriptor, size) ? error : lastError();
+}
+
+std::error_code OpenFile::setMode(fs::perms mode) {
+    const std::error_code error = objection(FileCall::SetMode, m_path);
+    return error || changeMode(m_descriptor, mode) ? error : lastError();
+}
+
+std::error_code OpenFile::sync() {
+    const std::error_code error = objection(FileCall::Sync, m_path);
+    return error || syncToDisk(m_descriptor) ? error : lastError();
+}
+
+std::error_code OpenFile::close() {
+    const std::error_code error = objection(FileCall::Close, m_path);
+    // Closed in any case, the system's failure included: none can close it once more.
+    return ::close(std::exchange(m_descriptor, -1)) == 0 || error ? error : lastError();
+}
+
+}  // namespace fleetwright
