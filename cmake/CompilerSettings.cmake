@@ -28,6 +28,10 @@ else()
   add_compile_options(-ffp-contract=off)
 endif()
 
+if(FLEETWRIGHT_HARDENING AND NOT MSVC)
+  include(Hardening)
+endif()
+
 if(FLEETWRIGHT_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
