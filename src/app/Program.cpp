@@ -22,6 +22,7 @@
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
 #include "frmSplash.h"
+#include "leftovers.h"
 #include "paths.h"
 #include "saveFile.h"
 #include "sheetShip.h"
@@ -137,6 +138,7 @@ public:
                         .eventLoopTurn = [] { QApplication::processEvents(); },
                         .g_colSSDMaps = m_globals.g_colSSDMaps}),
           m_viewer({.appFolder = m_appFolder, .desktop = desktop, .pictures = m_pictures}) {
+        takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {
             if (form != &m_splash || run == Run::Whole) {
                 desktop.present(*form);

@@ -233,7 +233,9 @@ void frmSSDMapCreator::cmdSaveIt_Click() {
         if (!file.ends_with(mapExtension)) {
             file += mapExtension;
         }
-        saveMap(file);
+        if (maySave(m_services.desktop, nativePath(file))) {
+            saveMap(file);
+        }
     } catch (const std::exception& error) {
         cmdSaveIt.setToolTip("Not saved: " + quote(file) + " " + error.what());
     }

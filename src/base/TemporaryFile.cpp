@@ -68,11 +68,20 @@ std::error_code TemporaryFile::write(std::string_view contents) {
 }
 
 std::error_code TemporaryFile::rename(const fs::path& target) {
-    if (const std::error_code error = renameFile(m_path, target)) {
-        return error;
+    return noteRenamed(renameForGood(m_path, target));
+}
+
+std::error_code TemporaryFile::renameToNew(const fs::path& target) {
+    return noteRenamed(fleetwright::renameToNew(m_path, target));
+}
+
+std::error_code TemporaryFile::noteRenamed(std::error_code error) {
+    std::error_code unknown;
+    m_isRenamed = !error || fs::symlink_status(m_path, unknown).type() == fs::file_type::not_found;
+    if (m_isRenamed) {
+        m_path.clear();
     }
-    m_path.clear();
-    return syncFolder(target.parent_path());
+    return error;
 }
 
 }  // namespace fleetwright

@@ -34,11 +34,18 @@ public:
     /// Puts it in the place of another file, where it stays, in the same folder for good. An error
     /// may mean that it is there, but not for sure.
     std::error_code rename(const std::filesystem::path& target);
+    /// The same, but never in the place of anything: fails with `file_exists`.
+    std::error_code renameToNew(const std::filesystem::path& target);
+    /// Whether it stands there.
+    bool isRenamed() const { return m_isRenamed; }
 
 private:
+    std::error_code noteRenamed(std::error_code error);
+
     std::filesystem::path m_path;
     std::optional<OpenFile> m_file;
     std::optional<FileLock> m_lock;
+    bool m_isRenamed = false;
 };
 
 }  // namespace fleetwright

@@ -141,6 +141,10 @@ fs::path userDataFolder() {
     return dataHome.is_absolute() ? dataHome / ours : homeFolder() / ".local" / "share" / ours;
 }
 
+fs::path putAsideFolder() {
+    return userDataFolder() / "recovered";
+}
+
 fs::path executableFolder(const char* argv0) {
     std::error_code error;
     fs::path executable = fs::read_symlink("/proc/self/exe", error);

@@ -34,6 +34,9 @@ std::filesystem::path findFile(const std::filesystem::path& file);
 /// Throws FileError if the user has no home.
 std::filesystem::path userDataFolder();
 
+/// The folder in there for what is put aside, so that it is not lost. Throws as above.
+std::filesystem::path putAsideFolder();
+
 /// The folder of the running program. `argv0`, the name that it was called by, serves where the
 /// system does not tell.
 std::filesystem::path executableFolder(const char* argv0);

@@ -3,14 +3,19 @@
 #include "Error.h"
 #include "TemporaryFile.h"
 #include "fileCalls.h"
+#include "fileTraits.h"
+#include "overwriteFile.h"
+#include "paths.h"
+#include "text.h"
 
+#include <algorithm>
 #include <csignal>
+#include <initializer_list>
 #include <mutex>
 #include <set>
 #include <system_error>
 
 #if __has_include(<unistd.h>)
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -20,8 +25,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void fail(const fs::path& target, const std::error_code& why) {
-    throw FileError(target, "cannot be saved: " + why.message());
+[[noreturn]] void fail(const fs::path& target, const std::string& why) {
+    throw FileError(target, "cannot be saved: " + why);
+}
+
+void failOn(const std::error_code& error, const fs::path& target) {
+    if (error) {
+        fail(target, error.message());
+    }
 }
 
 /// Why an existing file may not be written to, if that is so.
@@ -41,24 +52,63 @@ std::error_code writeProtection([[maybe_unused]] const fs::path& file,
     return {};
 }
 
-/// Gives `file` the owner of `other`, as far as that is allowed.
-void takeOwner([[maybe_unused]] const fs::path& file, [[maybe_unused]] const fs::path& other) {
-#if __has_include(<unistd.h>)
-    struct stat owner {};
-    if (stat(other.c_str(), &owner) == 0) {
-        [[maybe_unused]] const int notAllowed = chown(file.c_str(), owner.st_uid, owner.st_gid);
+bool isPutAsideFolder(const fs::path& folder) {
+    try {
+        std::error_code notThere;
+        return fs::equivalent(folder, putAsideFolder(), notThere);
+    } catch (const FileError&) {
+        return false;  // for a user without a home there is no such folder
     }
-#endif
 }
 
 /// Takes away what killed saves have left in a folder, when this run saves there for the first
-/// time.
+/// time. What they have left among designs put aside may be one, and is not for a save to judge.
 void tidyOnce(const fs::path& folder) {
     static std::mutex mutex;
     static std::set<fs::path> tidied;
-    if (const std::lock_guard lock(mutex); tidied.insert(folder).second) {
+    const std::lock_guard lock(mutex);
+    if (tidied.insert(folder).second && !isPutAsideFolder(folder)) {
         TemporaryFile::takeLeftOnesAway(folder);
     }
+}
+
+bool isOneOf(const std::error_code& error, std::initializer_list<std::errc> reasons) {
+    return std::find(reasons.begin(), reasons.end(), error) != reasons.end();
+}
+
+/// Whether a folder does not let a file in it be replaced, which may be written to all the same.
+bool isForbidden(const std::error_code& error) {
+    return isOneOf(error, {std::errc::permission_denied, std::errc::operation_not_permitted,
+                           std::errc::read_only_file_system, std::errc::device_or_resource_busy});
+}
+
+/// Whether a new file cannot have what an old one has, by right or for lack of a place for it.
+bool isUnattainable(const std::error_code& error) {
+    return isForbidden(error) ||
+           isOneOf(error, {std::errc::not_supported, std::errc::no_space_on_device});
+}
+
+/// Puts a new file in the place of one, or where there is none yet. `isHindered` says that it has
+/// failed by what a new file cannot be or may not do, and not by its contents.
+std::error_code replaceFile(const fs::path& file, bool isThere, std::string_view contents,
+                            bool& isHindered) {
+    std::error_code error;
+    TemporaryFile temporary(file, error);
+    isHindered = isForbidden(error);
+    if (!error && isThere) {
+        // Before there is anything in it that others should not read.
+        error = copyTraits(file, temporary.file());
+        isHindered = isUnattainable(error);
+    }
+    if (error) {
+        return error;
+    }
+    error = temporary.write(contents);
+    if (!error) {
+        error = temporary.rename(file);
+        isHindered = !temporary.isRenamed() && isForbidden(error);
+    }
+    return error;
 }
 
 /// The file that a chain of links ends at, also where that file does not exist yet. A chain
@@ -76,42 +126,60 @@ fs::path linkTarget(fs::path path) {
     return path;
 }
 
+std::uintmax_t otherNames(const fs::path& target) {
+    std::error_code error;
+    const fs::path file = linkTarget(target);
+    const bool isFile = fs::is_regular_file(file, error);
+    const std::uintmax_t names = isFile ? fs::hard_link_count(file, error) : 0;
+    return names == 0 || error ? 0 : names - 1;
+}
+
 }  // namespace
 
 void saveFile(const fs::path& target, std::string_view contents) {
     const fs::path file = linkTarget(target);
     std::error_code ignored;
     if (fs::is_symlink(file, ignored)) {
-        fail(target, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+        failOn(std::make_error_code(std::errc::too_many_symbolic_link_levels), target);
     }
     const fs::file_status status = fs::status(file, ignored);
-    if (const std::error_code noFile = whyNoFile(status)) {
-        fail(target, noFile);
-    }
-
-    // The rename would replace a write-protected file without a question.
-    if (fs::exists(status)) {
-        if (const std::error_code protection = writeProtection(file, status)) {
-            fail(target, protection);
-        }
+    const bool isThere = fs::exists(status);
+    failOn(whyNoFile(status), target);
+    if (isThere) {
+        // The rename would replace a write-protected file without a question.
+        failOn(writeProtection(file, status), target);
     }
 
     tidyOnce(file.parent_path());
-    std::error_code error;
-    TemporaryFile temporary(file, error);
-    if (error) {
-        fail(target, error);
+    bool isHindered = false;
+    const std::error_code error = replaceFile(file, isThere, contents, isHindered);
+    if (!isThere || !isHindered) {
+        failOn(error, target);
+        return;
     }
-    // Before there is anything in it that others should not read.
-    if (fs::exists(status)) {
-        takeOwner(temporary.path(), file);
-        error = temporary.file().setMode(status.permissions());
+    if (otherNames(file) > 0) {
+        fail(target,
+             error.message() + "; if it were overwritten, its other names would change, too");
     }
-    error = error ? error : temporary.write(contents);
-    error = error ? error : temporary.rename(file);
-    if (error) {
-        fail(target, error);
+    try {
+        overwriteFile(file, contents);
+    } catch (const FileError& failure) {
+        // A new file would have been the better way, so why there is none is said first.
+        fail(target, failure.file() == file ? failure.what()
+                                            : error.message() + "; nor can it be overwritten (" +
+                                                  complaint(failure) + ')');
     }
+}
+
+std::string otherNamesNotice(const fs::path& target) {
+    const std::uintmax_t names = otherNames(target);
+    if (names == 0) {
+        return {};
+    }
+    return shownText(pathText(target)) + ": has " +
+           (names == 1 ? "another name (a hard link), which keeps"
+                       : std::to_string(names) + " other names (hard links), which keep") +
+           " the old contents";
 }
 
 void letFileSizeLimitFail() {

@@ -1,9 +1,10 @@
 #include "RecoveryFolder.h"
+#include "ShipClass.h"
 #include "commands.h"
 #include "console.h"
 #include "paths.h"
 #include "readFile.h"
-#include "saveFile.h"
+#include "saveResult.h"
 
 namespace fleetwright {
 
@@ -28,8 +29,7 @@ int runRecovered(const Options& options) {
     const std::string& out = options.words.back();
     for (const RecoveryFolder::Design& design : designs) {
         if (design.name == name) {
-            saveFile(nativePath(out.ends_with(".shp") ? out : out + ".shp"),
-                     readTextFile(design.file));
+            saveResult(nativePath(ShipClass::withExtension(out)), readTextFile(design.file));
             return Done;
         }
     }

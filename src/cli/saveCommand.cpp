@@ -2,6 +2,8 @@
 
 #include "ShipOnScreen.h"
 #include "console.h"
+#include "paths.h"
+#include "saveResult.h"
 
 namespace fleetwright {
 
@@ -14,6 +16,7 @@ int runSave(const Options& options) {
     const int status =
         forEachShip(ship, RefusedLines::AsComplaints, [&](std::size_t, ShipOnScreen& screen) {
             std::string name = options.words.back();
+            announceSave(nativePath(ShipClass::withExtension(name)));
             if (!screen.ship().saveShip(name)) {
                 complaints = complaint(name, *screen.ship().fileFault());
             }

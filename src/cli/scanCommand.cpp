@@ -7,7 +7,7 @@
 #include "console.h"
 #include "inOrder.h"
 #include "paths.h"
-#include "saveFile.h"
+#include "saveResult.h"
 #include "text.h"
 
 #include <map>
@@ -52,7 +52,7 @@ public:
             printResults(text);
             return;
         }
-        saveFile(m_isFolder ? m_output / mapName(outline) : m_output, mapFileContents(text));
+        saveResult(m_isFolder ? m_output / mapName(outline) : m_output, mapFileContents(text));
     }
 
 private:

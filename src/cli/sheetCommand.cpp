@@ -7,7 +7,7 @@
 #include "ToolPictures.h"
 #include "drawnSheet.h"
 #include "paths.h"
-#include "saveFile.h"
+#include "saveResult.h"
 #include "text.h"
 
 #include <map>
@@ -113,7 +113,7 @@ std::string formatOf(const fs::path& file) {
 
 void save(const fs::path& file, std::string_view bytes) {
     try {
-        saveFile(file, bytes);
+        saveResult(file, bytes);
     } catch (const FileError& error) {
         throw Error(complaint(error));
     }
@@ -146,7 +146,7 @@ int drawDocument(const Options& options, const SheetTools& tools, Pages& pages) 
             }
         });
     if (!isEmpty) {
-        saveFile(nativePath(options.value(outOption.name)), pages.finish());
+        saveResult(nativePath(options.value(outOption.name)), pages.finish());
     }
     return status;
 }

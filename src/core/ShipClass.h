@@ -118,6 +118,8 @@ public:
 
     // The ship file. Where these fail they return false, and `fileFault` says why.
 
+    /// The name of a ship file: with the extension ".shp", also if it lacks it.
+    static std::string withExtension(std::string fileName);
     /// Saves the design; the name gets the extension ".shp" if it lacks it.
     bool saveShip(std::string& in_sFileName);
     /// Loads a design into this ship, which should be new. After a failure the ship holds what

@@ -39,10 +39,12 @@ void appendLine(std::string& text, std::string_view line) {
 
 }  // namespace
 
+std::string ShipClass::withExtension(std::string fileName) {
+    return fileName.ends_with(extension) ? fileName : fileName.append(extension);
+}
+
 bool ShipClass::saveShip(std::string& in_sFileName) {
-    if (!in_sFileName.ends_with(extension)) {
-        in_sFileName += extension;
-    }
+    in_sFileName = withExtension(in_sFileName);
     const bool isSaved = succeeds([&](int&) {
         saveFile(nativePath(in_sFileName), shipFile());
         takeFileName(in_sFileName);

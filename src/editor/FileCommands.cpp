@@ -137,6 +137,9 @@ void FileCommands::mnuSave_Click() {
 }
 
 void FileCommands::saveAs(std::string fileName) {
+    if (!maySave(services().desktop, nativePath(ShipClass::withExtension(fileName)))) {
+        return;
+    }
     window().say("Saving...");
     bool isSaved = false;
     act([&] { isSaved = ship().saveShip(fileName); });

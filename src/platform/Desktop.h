@@ -63,6 +63,10 @@ public:
 /// Shows which file failed and why, in a message box.
 void showFileError(Desktop& desktop, const FileError& error);
 
+/// Asks the user whether a file may be saved that parts from its other names by that. True, without
+/// a question, if it has none.
+bool maySave(Desktop& desktop, const std::filesystem::path& file);
+
 /// A desktop in front of which nobody sits.
 class NoDesktop : public Desktop {
 public:

@@ -138,6 +138,9 @@ void frmMapper::cmdSave_Click() {
     if (!name->ends_with(extension)) {
         *name += extension;
     }
+    if (!maySave(m_services.desktop, nativePath(*name))) {
+        return;
+    }
     try {
         const Raster empty(m_emptySheet.width / PictureBox::twipsPerPixel,
                            m_emptySheet.height / PictureBox::twipsPerPixel);

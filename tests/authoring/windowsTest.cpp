@@ -67,6 +67,8 @@ struct AuthorsWindows {
             {"type", [&] { creator.txtOutput.type(replaced(what, "/", "\r\n")); }},
             {"cancel", [&] { creator.chkCancel.press(); }},
             {"save", [&] { creator.cmdSaveIt.press(); }},
+            {"link", [&] { fs::create_hard_link(first, rest); }},
+            {"answer", [&] { desktop.answer = what == "no" ? Answer::No : Answer::Yes; }},
             {"scan", [&] { scan(); }},
             {"view", [&] { viewer.show(); }},
             {"pick", [&] { viewer.cmdSelect.press(); }},

@@ -1,17 +1,24 @@
 #include "saveFile.h"
 
 #include "Error.h"
+#include "FileFaults.h"
+#include "FileLock.h"
 #include "TemporaryFolder.h"
 
+#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <csignal>
+#include <cstdint>
+#include <cstdlib>
 #include <functional>
 #include <thread>
 #include <vector>
@@ -21,12 +28,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr uid_t nobody = 65534;
+constexpr gid_t shared = 2000;  // a group that nobody belongs to
+
 /// Runs `act` as a user without rights of his own, since nothing is forbidden to root.
 int asNobody(const std::function<bool()>& act) {
     const pid_t child = fork();
     if (child == 0) {
-        constexpr uid_t nobody = 65534;
-        const bool hasChanged = getuid() != 0 || setuid(nobody) == 0;
+        const bool hasChanged = getuid() != 0 || (setgroups(1, &shared) == 0 &&
+                                                  setgid(nobody) == 0 && setuid(nobody) == 0);
         _exit(hasChanged && act() ? 0 : 1);
     }
     int status = 0;
@@ -43,6 +53,64 @@ std::string faultOf(const fs::path& target, std::string_view contents) {
     return {};
 }
 
+/// Owner, group, mode and number of a file, in one text.
+std::string identityOf(const fs::path& file) {
+    struct stat status {};
+    stat(file.c_str(), &status);
+    return std::to_string(status.st_uid) + ' ' + std::to_string(status.st_gid) + ' ' +
+           std::to_string(status.st_mode) + ' ' + std::to_string(status.st_ino);
+}
+
+std::string attributeOf(const fs::path& file, const char* name) {
+    std::array<char, 100> value{};
+    const ssize_t size = getxattr(file.c_str(), name, value.data(), value.size());
+    return size < 0 ? "none" : std::string(value.data(), static_cast<std::size_t>(size));
+}
+
+/// A list of access rights as it stands in an attribute: one more user may read.
+std::string accessList() {
+    const std::uint16_t entries[][4] = {{1, 6, 0xffff, 0xffff},
+                                        {2, 4, 1234, 0},
+                                        {4, 4, 0xffff, 0xffff},
+                                        {16, 4, 0xffff, 0xffff},
+                                        {32, 0, 0xffff, 0xffff}};
+    return std::string("\2\0\0\0", 4) +
+           std::string(reinterpret_cast<const char*>(entries), sizeof entries);
+}
+
+bool setAttribute(const fs::path& file, const char* name, const std::string& value) {
+    return setxattr(file.c_str(), name, value.data(), value.size(), 0) == 0;
+}
+
+/// A folder for all, with one of theirs that is where users have what is put aside.
+struct SharedFolder : TemporaryFolder {
+    SharedFolder() {
+        fs::create_directory(path() / "home");
+        for (const fs::path& each : {path(), path() / "home"}) {
+            fs::permissions(each, fs::perms::all);
+        }
+        setenv("XDG_DATA_HOME", (path() / "home").c_str(), 1);
+    }
+    SharedFolder(const SharedFolder&) = delete;
+    SharedFolder& operator=(const SharedFolder&) = delete;
+    ~SharedFolder() { unsetenv("XDG_DATA_HOME"); }
+
+    /// A file of root's in a folder of these rights, which everybody may write to.
+    fs::path writable(const std::string& name, mode_t folderMode) const {
+        const fs::path file = write(name, "old");
+        fs::permissions(file, fs::perms(0666));
+        fs::permissions(file.parent_path(), fs::perms(folderMode));
+        return file;
+    }
+    /// What was put aside and is still there.
+    int copies() const {
+        const fs::path recovered = path() / "home/FleetWright/recovered";
+        return fs::exists(recovered)
+                   ? static_cast<int>(std::distance(fs::directory_iterator(recovered), {}))
+                   : 0;
+    }
+};
+
 }  // namespace
 
 TEST(SaveFile, WritesNewFilesAndReplacesOldOnes) {
@@ -50,18 +118,114 @@ TEST(SaveFile, WritesNewFilesAndReplacesOldOnes) {
     const fs::path file = folder.path() / "ship.shp";
     saveFile(file, "first");
     fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-    const bool mayGiveAway = chown(file.c_str(), 65534, 65534) == 0;  // root may
+    const bool mayGiveAway = chown(file.c_str(), nobody, nobody) == 0;  // root may
     saveFile(file, std::string("sec\0nd", 6));
     EXPECT_EQ(folder.read("ship.shp"), std::string("sec\0nd", 6));
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     struct stat owner {};
     stat(file.c_str(), &owner);
-    EXPECT_EQ(owner.st_uid, mayGiveAway ? 65534U : getuid());
+    EXPECT_EQ(owner.st_uid, mayGiveAway ? nobody : getuid());
     EXPECT_EQ(folder.entries(), 1);
 
     const fs::path longName = folder.path() / std::string(255, 'n');
     saveFile(longName, "x");
     EXPECT_TRUE(fs::exists(longName));
+}
+
+TEST(SaveFile, KeepsAttributesAndListsOfRights) {
+    constexpr const char *note = "user.note", *rights = "system.posix_acl_access";
+    const SharedFolder folder;
+    const fs::path file = folder.write("ship.shp", "old"), plain = folder.write("plain.shp", "old");
+    if (!setAttribute(file, note, "mine") || !setAttribute(file, rights, accessList()) ||
+        !setAttribute(folder.path(), "system.posix_acl_default", accessList())) {
+        GTEST_SKIP() << "this file system knows none";
+    }
+    saveFile(file, "new");
+    EXPECT_EQ(attributeOf(file, note), "mine");
+    EXPECT_EQ(attributeOf(file, rights), accessList());
+    // A folder that hands its list on gives it to new files, and to no other.
+    const std::string before = identityOf(plain);
+    saveFile(plain, "new");
+    saveFile(folder.path() / "other.shp", "new");
+    EXPECT_EQ(attributeOf(plain, rights), "none");
+    EXPECT_EQ(fs::status(plain).permissions(), fs::perms(0644));
+    EXPECT_NE(attributeOf(folder.path() / "other.shp", rights), "none");
+
+    // Where an attribute cannot be had, the file stays the one that has it.
+    FileFaults faults;
+    faults.forbid(FileCall::SetAttribute);
+    const std::string identity = identityOf(file);
+    saveFile(file, "newer");
+    EXPECT_EQ(folder.read("ship.shp"), "newer");
+    EXPECT_EQ(identityOf(file), identity);
+    EXPECT_EQ(attributeOf(file, note), "mine");
+    EXPECT_EQ(folder.copies(), 0);
+}
+
+TEST(SaveFile, OverwritesWhatNoNewFileCanReplace) {
+    const SharedFolder folder;
+    const auto saves = [](const fs::path& file, const std::string& fault = {}) {
+        return asNobody([&] { return faultOf(file, "new") == fault; }) == 0;
+    };
+    // One of the group saves a file that it shares with its owner.
+    const fs::path ours = folder.writable("ours/ship.shp", 0777);
+    ASSERT_TRUE(getuid() != 0 || chown(ours.c_str(), 1000, shared) == 0);
+    fs::permissions(ours, fs::perms(0664));
+    const std::string identity = identityOf(ours);
+    EXPECT_TRUE(saves(ours));
+    EXPECT_EQ(folder.read("ours/ship.shp"), "new");
+    EXPECT_EQ(identityOf(ours), identity);
+    // Folders that take no new file, or let nobody replace one of another.
+    for (const auto& [name, mode] :
+         {std::pair("closed/ship.shp", 0555), {"sticky/ship.shp", 01777}}) {
+        EXPECT_TRUE(saves(folder.writable(name, static_cast<mode_t>(mode)))) << name;
+        EXPECT_EQ(folder.read(name), "new");
+    }
+    const fs::path longName = folder.writable("long/" + std::string(251, 'n') + ".shp", 0555);
+    EXPECT_TRUE(saves(longName));
+    EXPECT_EQ(folder.copies(), 0);
+
+    // What has other names would change under those, too.
+    const fs::path linked = folder.writable("linked/ship.shp", 0555);
+    fs::create_hard_link(linked, folder.path() / "twin");
+    EXPECT_TRUE(getuid() != 0 || saves(linked, "cannot be saved: Permission denied; if it were "
+                                               "overwritten, its other names would change, too"));
+    // One that cannot be read cannot be put aside.
+    const fs::path secret = folder.writable("secret/ship.shp", 0555);
+    fs::permissions(secret, fs::perms(0222));
+    EXPECT_TRUE(getuid() != 0 ||
+                saves(secret, "cannot be saved: cannot be read: Permission denied"));
+    // Nor is anything overwritten while another run does that.
+    const FileLock lock(ours);
+    EXPECT_TRUE(getuid() != 0 || saves(ours, "cannot be saved: another program is writing it"));
+    // Without a place for the copy it is refused, too.
+    setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
+    fs::permissions(folder.path(), fs::perms(0755));
+    const fs::path place = folder.path() / "FleetWright/recovered";
+    const fs::path closed = folder.writable("closed/other.shp", 0555);
+    EXPECT_TRUE(getuid() != 0 ||
+                saves(closed, "cannot be saved: Permission denied; nor can it be overwritten (" +
+                                  place.string() + ": cannot be made: Permission denied)"));
+    EXPECT_EQ(folder.read("secret/ship.shp") + folder.read("closed/other.shp") +
+                  folder.read("twin"),
+              "oldoldold");
+}
+
+TEST(SaveFile, SaysWhichOtherNamesKeepTheOldContents) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "ship.shp";
+    EXPECT_EQ(otherNamesNotice(file), "");
+    folder.write("ship.shp", "old");
+    EXPECT_EQ(otherNamesNotice(file), "");
+    EXPECT_EQ(otherNamesNotice(folder.path()), "");
+    fs::create_hard_link(file, folder.path() / "twin");
+    fs::create_symlink("twin", folder.path() / "link");
+    EXPECT_EQ(otherNamesNotice(folder.path() / "link"),
+              (folder.path() / "link").string() +
+                  ": has another name (a hard link), which keeps the old contents");
+    saveFile(file, "new");
+    EXPECT_EQ(folder.read("twin"), "old");
+    EXPECT_EQ(otherNamesNotice(file), "");
 }
 
 TEST(SaveFile, FollowsLinksAndKeepsThem) {
@@ -114,10 +278,10 @@ TEST(SaveFile, RefusesWhatCannotBeSavedAndLeavesItAsItWas) {
 }
 
 TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
-    // A limit on the size of files ends a write as a full disk does, for any user.
-    const TemporaryFolder folder;
+    // A limit on the size of files ends a write as a full disk does, for any user; the file of
+    // another is overwritten.
+    const SharedFolder folder;
     fs::permissions(folder.write("ship.shp", "old"), fs::perms::all);
-    fs::permissions(folder.path(), fs::perms::all);
     EXPECT_EQ(asNobody([&] {
                   const rlimit limit = {1000, 1000};
                   signal(SIGXFSZ, SIG_IGN);
@@ -127,7 +291,8 @@ TEST(SaveFile, FullDiskLeavesTheOldFileWhole) {
               }),
               0);
     EXPECT_EQ(folder.read("ship.shp"), "old");
-    EXPECT_EQ(folder.entries(), 1);
+    EXPECT_EQ(folder.entries(), 2);
+    EXPECT_EQ(folder.copies(), 0);
 }
 
 TEST(SaveFile, KillInTheMiddleLeavesOneOfTheTwoContents) {

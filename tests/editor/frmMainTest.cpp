@@ -113,6 +113,9 @@ public:
         } else if (first == "age") {
             const fs::path file = m_test.folder().path() / rest;
             fs::last_write_time(file, fs::last_write_time(file) - std::chrono::seconds(10));
+        } else if (first == "link") {
+            fs::create_hard_link(m_test.folder().path() / cut(rest).first,
+                                 m_test.folder().path() / cut(rest).second);
         } else if (first == "remove") {
             fs::remove_all(m_test.folder().path() / rest);
         } else if (first == "cancel") {

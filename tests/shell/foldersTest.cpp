@@ -6,6 +6,7 @@
 #include "TemporaryFolder.h"
 #include "applicationFolder.h"
 #include "caseFile.h"
+#include "leftovers.h"
 #include "paths.h"
 
 #include <gtest/gtest.h>
@@ -101,6 +102,7 @@ private:
              }},
             {"age",
              [&] { fs::last_write_time(RecoveryFolder::ofUser() / (name + ' ' + text), m_old); }},
+            {"tidy", [&] { takeLeftoversAway(userDataFolder()); }},
             {"set", [&] { setenv(name.c_str(), text.c_str(), 1); }},
             {"unset", [&] { unsetenv(name.c_str()); }},
             {"ask", [&] { m_log += replaced(userDataFolder(), m_passwd, "PASSWD"); }},

@@ -69,6 +69,8 @@ struct Mapper : PictureEncoder {
             {"draw", [&] { window.cmdDrawIt.press(); }},
             {"file", [&] { desktop.choice = (folder.path() / what).string(); }},
             {"save", [&] { window.cmdSave.press(); }},
+            {"link", [&] { fs::create_hard_link(desktop.choice.value(), folder.path() / what); }},
+            {"answer", [&] { desktop.answer = what == "no" ? Answer::No : Answer::Yes; }},
         };
         acts.at(line.substr(0, end))();
     }

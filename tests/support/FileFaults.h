@@ -3,6 +3,8 @@
 #include "fileCalls.h"
 
 #include <cerrno>
+#include <optional>
+#include <utility>
 
 namespace fleetwright {
 
@@ -17,8 +19,11 @@ public:
 
     /// The call number `nth`, counted from 1, fails with the error `code`; none if it is 0.
     explicit FileFaults(int nth = 0, Kind kind = Kind::Fails, int code = EIO) {
-        hookFileCalls([this, nth, kind, code](FileCall, const std::filesystem::path&) {
+        hookFileCalls([this, nth, kind, code](FileCall call, const std::filesystem::path& path) {
             ++m_calls;
+            if (m_forbidden == call && (m_closed.empty() || path.parent_path() == m_closed)) {
+                return std::make_error_code(std::errc::permission_denied);
+            }
             const bool fails = nth > 0 && (kind == Kind::Fails ? m_calls == nth : m_calls >= nth);
             return fails ? std::error_code(code, std::generic_category()) : std::error_code();
         });
@@ -27,11 +32,20 @@ public:
     FileFaults& operator=(const FileFaults&) = delete;
     ~FileFaults() { hookFileCalls({}); }
 
+    /// Lets nobody make a new file in this folder, as one without write permission does.
+    void forbidNewFilesIn(std::filesystem::path folder) {
+        m_forbidden = FileCall::Create;
+        m_closed = std::move(folder);
+    }
+    /// Has all calls of this kind fail.
+    void forbid(FileCall call) { m_forbidden = call; }
     /// The number of calls so far.
     int calls() const { return m_calls; }
 
 private:
     int m_calls = 0;
+    std::optional<FileCall> m_forbidden;
+    std::filesystem::path m_closed;  ///< where that is forbidden; everywhere if it is empty
 };
 
 }  // namespace fleetwright

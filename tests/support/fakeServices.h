@@ -21,11 +21,12 @@ public:
     std::optional<std::string> choice;
     FileDialog asked;  ///< the last dialog
     std::string log;   ///< "text/title; " or "text/title critical; " for each message
+    Answer answer = Answer::Ok;
 
     Answer showMessage(const std::string& text, const std::string& title, Buttons,
                        Icon icon) override {
         log += text + '/' + title + (icon == Icon::Critical ? " critical; " : "; ");
-        return Answer::Ok;
+        return answer;
     }
     std::optional<std::string> chooseFileToOpen(const FileDialog& dialog) override {
         asked = dialog;

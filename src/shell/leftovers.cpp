@@ -1,0 +1,13 @@
+#include "leftovers.h"
+
+#include "TemporaryFile.h"
+
+namespace fleetwright {
+
+void takeLeftoversAway(const std::filesystem::path& appFolder) {
+    for (const char* const folder : {"", "ships", "maps", "ssds", "shipimages"}) {
+        TemporaryFile::takeLeftOnesAway(appFolder / folder);
+    }
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,135 @@
+// Saves of which one call to the system fails, or is the last one: in each place in turn, and for
+// each kind of target.
+
+#include "FileFaults.h"
+
+#include "Error.h"
+#include "TemporaryFile.h"
+#include "TemporaryFolder.h"
+#include "saveFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <map>
+#include <optional>
+
+using namespace fleetwright;
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string oldContents(5000, 'o'), newContents = "new";
+
+/// A folder with the target of a save, and one for what is put aside.
+struct Place {
+    explicit Place(const std::string& kind)
+        : isNew(kind == "new"), isOverwritten(kind == "in place") {
+        setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
+        fs::create_directory(folder.path() / "here");
+        if (!isNew) {
+            folder.write("here/ship.shp", oldContents);
+        }
+        if (kind == "linked") {
+            folder.write("there/ship.shp", oldContents);
+            fs::remove(target);
+            fs::create_symlink("../there/ship.shp", target);
+        }
+        if (kind == "hard link") {
+            fs::create_hard_link(target, folder.path() / "twin");
+        }
+    }
+    Place(const Place&) = delete;
+    Place& operator=(const Place&) = delete;
+    ~Place() { unsetenv("XDG_DATA_HOME"); }
+
+    std::string contents() const { return folder.read("here/ship.shp"); }
+    bool isAsBefore() const { return isNew ? !fs::exists(target) : contents() == oldContents; }
+    bool isSaved() const { return contents() == newContents; }
+    std::string copy() const { return folder.read("FleetWright/recovered/ship as it was.shp"); }
+
+    /// How many files there are that are no target.
+    int leftovers() const {
+        int count = 0;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
+            const std::string name = entry.path().filename().string();
+            count += name.ends_with(".tmp") || name.find(" as it was") != std::string::npos ? 1 : 0;
+        }
+        return count;
+    }
+
+    const TemporaryFolder folder;
+    const fs::path target = folder.path() / "here/ship.shp";
+    const bool isNew, isOverwritten;
+};
+
+/// The fault of a save, if it has one; `calls` is how many it has made.
+std::string faultOfSave(const Place& place, int nth, FileFaults::Kind kind, int& calls) {
+    FileFaults faults(nth, kind);
+    if (place.isOverwritten) {
+        faults.forbidNewFilesIn(place.target.parent_path());
+    }
+    std::string fault;
+    try {
+        saveFile(place.target, newContents);
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.file(), place.target);
+        fault = error.what();
+    }
+    calls = faults.calls();
+    return fault;
+}
+
+/// What has become of a save, in a word. Holds it against what saves promise.
+std::string outcome(const Place& place, FileFaults::Kind kind, const std::string& fault) {
+    const bool isKilled = kind == FileFaults::Kind::IsLast;
+    if (fault.empty()) {
+        EXPECT_TRUE(place.isSaved()) << "it says that it is saved";
+        EXPECT_TRUE(isKilled || place.isOverwritten || place.leftovers() == 0);
+        return place.leftovers() == 0 ? "saved" : "saved, something left";
+    }
+    if (!place.isAsBefore() && !place.isSaved()) {
+        EXPECT_TRUE(place.isOverwritten && place.copy() == oldContents) << "something is lost";
+        EXPECT_NE(fault.find("ship as it was.shp"), std::string::npos) << fault;
+        return "torn, old contents put aside";
+    }
+    EXPECT_TRUE(isKilled || place.leftovers() == 0);
+    return std::string(place.isSaved() ? "new contents, said not to be sure" : "as before") +
+           (place.leftovers() == 0 ? "" : ", something left");
+}
+
+}  // namespace
+
+TEST(SaveFaults, LoseNothingWhicheverCallFailsOrIsTheLast) {
+    using Kind = FileFaults::Kind;
+    for (const char* const target : {"new", "replaced", "linked", "hard link", "in place"}) {
+        std::map<std::string, int> outcomes;
+        for (const Kind kind : {Kind::Fails, Kind::IsLast}) {
+            int calls = 0;
+            for (int nth = 1; calls >= nth - 1; ++nth) {
+                SCOPED_TRACE(std::string(target) + ", call " + std::to_string(nth) +
+                             (kind == Kind::IsLast ? " is the last" : " fails"));
+                const Place place(target);
+                const std::string fault = faultOfSave(place, nth, kind, calls);
+                if (nth <= calls) {
+                    ++outcomes[(kind == Kind::IsLast ? "last: " : "fails: ") +
+                               outcome(place, kind, fault)];
+                }
+                EXPECT_EQ(fs::is_symlink(place.target), std::string(target) == "linked");
+                EXPECT_TRUE(std::string(target) != "hard link" ||
+                            place.folder.read("twin") == oldContents);
+                // The next start.
+                for (const char* const left : {"here", "there", "FleetWright/recovered"}) {
+                    TemporaryFile::takeLeftOnesAway(place.folder.path() / left);
+                }
+                EXPECT_EQ(place.leftovers(), place.copy().empty() ? 0 : 1);
+            }
+        }
+        for (const auto& [what, count] : outcomes) {
+            RecordProperty(std::string(target) + ", " + what, count);
+        }
+        EXPECT_EQ(outcomes["fails: new contents, said not to be sure"],
+                  std::string(target) == "in place" ? 0 : 1)
+            << "the folder's sync";
+    }
+}
