@@ -195,6 +195,12 @@ std::error_code OpenFile::setMode(fs::perms mode) {
     return error || changeMode(m_descriptor, mode) ? error : lastError();
 }
 
+void OpenFile::startSync() {
+#ifdef SYNC_FILE_RANGE_WRITE
+    sync_file_range(m_descriptor, 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+}
+
 std::error_code OpenFile::sync() {
     const std::error_code error = objection(FileCall::Sync, m_path);
     return error || syncToDisk(m_descriptor) ? error : lastError();

@@ -39,6 +39,9 @@ public:
     /// Cuts it off behind so many bytes.
     std::error_code resize(std::uintmax_t size);
     std::error_code setMode(std::filesystem::perms mode);
+    /// Has the system begin with what `sync` waits for; so the syncs of many files take little
+    /// longer than one.
+    void startSync();
     /// Makes sure that what was written outlasts a power cut.
     std::error_code sync();
     /// Closes it before its time, to learn of what the system has put off until now.

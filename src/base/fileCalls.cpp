@@ -5,6 +5,7 @@
 
 #if __has_include(<unistd.h>)
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -134,6 +135,22 @@ std::error_code renameToNew(const fs::path& from, const fs::path& to) {
     return synced || from.parent_path() == to.parent_path() ? synced : andSync(synced, from);
 }
 
+std::error_code exchangeForGood([[maybe_unused]] const fs::path& one, const fs::path& other) {
+    const std::error_code error =
+        unlessObjected(FileCall::Exchange, other, [&](std::error_code& notExchanged) {
+            notExchanged = std::make_error_code(std::errc::function_not_supported);
+#ifdef RENAME_EXCHANGE
+            if (renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0) {
+                notExchanged.clear();
+            } else if (errno != EINVAL) {  // file systems that cannot do it say so with that
+                notExchanged = lastError();
+            }
+#endif
+        });
+    const std::error_code synced = andSync(error, other);
+    return synced || one.parent_path() == other.parent_path() ? synced : andSync(synced, one);
+}
+
 std::error_code removeFile(const fs::path& file) {
     return unlessObjected(FileCall::Remove, file,
                           [&](std::error_code& error) { fs::remove(file, error); });
@@ -160,9 +177,33 @@ std::error_code makeNewFolder(const fs::path& folder) {
     });
 }
 
+std::error_code makeNewPrivateFolder(const fs::path& folder) {
+    return unlessObjected(FileCall::MakeFolder, folder, [&](std::error_code& error) {
+#if __has_include(<unistd.h>)
+        if (mkdir(folder.c_str(), S_IRWXU) != 0) {
+            error = lastError();
+        }
+#else
+        if (!fs::create_directory(folder, error) && !error) {
+            error = std::make_error_code(std::errc::file_exists);
+        }
+#endif
+    });
+}
+
 std::error_code makeLink(const fs::path& to, const fs::path& link) {
     return unlessObjected(FileCall::MakeLink, link,
                           [&](std::error_code& error) { fs::create_symlink(to, link, error); });
+}
+
+std::error_code makeTwin(const fs::path& file, const fs::path& twin) {
+    return unlessObjected(FileCall::MakeLink, twin,
+                          [&](std::error_code& error) { fs::create_hard_link(file, twin, error); });
+}
+
+std::error_code setFolderMode(const fs::path& folder, fs::perms mode) {
+    return unlessObjected(FileCall::SetMode, folder,
+                          [&](std::error_code& error) { fs::permissions(folder, mode, error); });
 }
 
 std::error_code syncFolder(const fs::path& folder) {

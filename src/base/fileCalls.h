@@ -31,6 +31,7 @@ enum class FileCall {
     SetAttribute,
     SyncFolder,
     Rename,
+    Exchange,  ///< of two names; the path is the second one's
     Remove,
     RemoveTree,
     MakeFolder,
@@ -65,6 +66,11 @@ std::error_code renameForGood(const std::filesystem::path& from, const std::file
 /// The same, but never over anything: fails with `file_exists`.
 std::error_code renameToNew(const std::filesystem::path& from, const std::filesystem::path& to);
 
+/// Gives two entries each other's names in one step, so that it outlasts a power cut. Fails with
+/// `function_not_supported` where the system cannot do that.
+std::error_code exchangeForGood(const std::filesystem::path& one,
+                                const std::filesystem::path& other);
+
 /// Takes a file, a link or an empty folder away. No error if there is none.
 std::error_code removeFile(const std::filesystem::path& file);
 /// The same, so that it outlasts a power cut.
@@ -77,8 +83,14 @@ std::error_code removeTreeForGood(const std::filesystem::path& folder);
 /// Makes one folder. Fails with `file_exists` if there is something of that name. To outlast a
 /// power cut, the folder that it stands in has to be synced.
 std::error_code makeNewFolder(const std::filesystem::path& folder);
+/// Makes one folder likewise that nobody but the user may look into.
+std::error_code makeNewPrivateFolder(const std::filesystem::path& folder);
 /// Makes a symbolic link.
 std::error_code makeLink(const std::filesystem::path& to, const std::filesystem::path& link);
+/// Makes a second name for a file.
+std::error_code makeTwin(const std::filesystem::path& file, const std::filesystem::path& twin);
+/// Says who may do what with a folder.
+std::error_code setFolderMode(const std::filesystem::path& folder, std::filesystem::perms mode);
 
 /// Makes sure that names which were given or taken away in a folder outlast a power cut. An empty
 /// path is the current folder.

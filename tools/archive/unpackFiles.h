@@ -20,7 +20,7 @@ std::span<const ArchivedFile> archivedPictures();
 /// All of them are first written to a folder of their own within it and put in place only when
 /// every one is complete. So a disk that is full, or a folder that cannot be written to, leaves no
 /// half picture and no part of the set, and what a run that was killed has left goes with the next.
-/// Throws FileError.
+/// What is there at the end outlasts a power cut. Throws FileError.
 void unpackFiles(std::span<const ArchivedFile> files, const std::filesystem::path& folder);
 
 }  // namespace fleetwright
