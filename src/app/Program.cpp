@@ -76,12 +76,12 @@ std::string catalogueFaults(const CatalogueFile& file, PictureFiles* pictures = 
 class Program {
 public:
     Program(QtDesktop& desktop, Run run)
-        : m_appFolder(
-              applicationFolder(nativePath(QApplication::applicationDirPath().toStdString()))),
-          m_desktop(desktop), m_sounds(m_appFolder),
-          m_recovery(RecoveryFolder::ofUser(), currentTime),
+        : m_programFolder(nativePath(QApplication::applicationDirPath().toStdString())),
+          m_appFolder(applicationFolder(m_programFolder)), m_desktop(desktop),
+          m_sounds(m_programFolder), m_recovery(RecoveryFolder::ofUser(), currentTime),
           m_splash(
               {.appFolder = m_appFolder,
+               .programFolder = m_programFolder,
                .desktop = desktop,
                .settings = m_settings,
                .clock = m_clock,
@@ -185,6 +185,7 @@ private:
         m_programs.freeLibrary(std::exchange(m_globals.g_hFormulaLib, nullptr));
     }
 
+    std::filesystem::path m_programFolder;
     std::filesystem::path m_appFolder;
     CatalogueFile m_catalogueFile{m_appFolder / "weaps.dat"};  // read once, by whoever asks first
     QtDesktop& m_desktop;

@@ -1,31 +1,16 @@
 #include "commands.h"
+#include "runToEnd.h"
 #include "unpackImages.h"
-
-#include <cstdlib>
 
 namespace fleetwright {
 
-namespace fs = std::filesystem;
-
 namespace {
 
-bool runHere(const fs::path& archive, const fs::path& folder) {
-    // From within the folder the command needs no path that a shell could misread.
-    const fs::path before = fs::current_path();
-    fs::current_path(folder);
-    const fs::path here = fs::path(".") / archive.filename();
-    const int status = std::system((here.string() + " -o").c_str());
-    fs::current_path(before);
-    return status == 0;
-}
-
 int runUnpack(const Options& options) {
-    const fs::path appFolder = fs::absolute(options.appFolder);
-    if (fs::is_directory(appFolder / "images")) {
-        renewImages(appFolder, runHere);
-    } else {
-        unpackImages(appFolder, runHere);
-    }
+    renewImages(std::filesystem::absolute(options.appFolder), options.programFolder,
+                [](const std::filesystem::path& archive, const std::filesystem::path& folder) {
+                    return runToEnd(archive, "-o", folder);
+                });
     return Done;
 }
 
@@ -34,7 +19,7 @@ int runUnpack(const Options& options) {
 extern const CommandRow unpackCommand = {
     .name = "unpack",
     .help = "Unpack the pictures into the application folder",
-    .details = "They replace those that are there.",
+    .details = "They replace those that are there; files of your own beside them stay.",
     .run = runUnpack,
 };
 

@@ -10,7 +10,7 @@
 #include "unpackImages.h"
 
 #include <exception>
-#include <iterator>
+#include <system_error>
 
 namespace fleetwright {
 
@@ -29,6 +29,18 @@ void playSound(const fs::path& file, Sounds& sounds, const Globals& globals) {
     } catch (const std::exception&) {
         // Nobody misses a sound so much as to be told.
     }
+}
+
+/// How many files there are, while another program makes them.
+int filesBelow(const fs::path& folder) {
+    int files = 0;
+    std::error_code gone;
+    for (fs::recursive_directory_iterator entry(folder, gone);
+         !gone && entry != fs::recursive_directory_iterator(); entry.increment(gone)) {
+        std::error_code unknown;
+        files += entry->is_regular_file(unknown) ? 1 : 0;
+    }
+    return files;
 }
 
 }  // namespace
@@ -72,22 +84,17 @@ void frmSplash::checkScreen() {
 }
 
 void frmSplash::unpackOnFirstRun() {
-    const fs::path& appFolder = m_services.appFolder;
-    if (fs::is_directory(appFolder / "images")) {
-        return;
-    }
     constexpr int longestWait = 10000;  // milliseconds
     const auto runArchive = [this](const fs::path& archive, const fs::path& folder) {
         const auto showProgress = [this, &folder] {
-            const auto files = std::distance(fs::directory_iterator(folder), {});
-            setText("Unpacking the pictures... " + std::to_string(files));
+            setText("Unpacking the pictures... " + std::to_string(filesBelow(folder)));
             repaint();
         };
         showProgress();
         return m_services.programs.run(archive, "-o", folder, longestWait, showProgress);
     };
     try {
-        unpackImages(appFolder, runArchive);
+        unpackImages(m_services.appFolder, m_services.programFolder, runArchive);
     } catch (const FileError& error) {
         fail(complaint(error), "");
     }
@@ -95,7 +102,7 @@ void frmSplash::unpackOnFirstRun() {
 
 void frmSplash::loadFormulaLibrary() {
     Globals& globals = m_services.globals;
-    globals.g_hFormulaLib = m_services.programs.loadLibrary(m_services.appFolder / "w_dll.dll");
+    globals.g_hFormulaLib = m_services.programs.loadLibrary(m_services.programFolder / "w_dll.dll");
     if (globals.g_hFormulaLib != nullptr) {
         globals.formula = reinterpret_cast<FormulaFunction>(
             m_services.programs.function(globals.g_hFormulaLib, "formula_calculate"));

@@ -25,6 +25,8 @@ struct Globals;
 /// What the start needs of the world around it. All of it outlives the window.
 struct StartUpServices {
     std::filesystem::path appFolder;
+    /// That of the executable: whatever is run or loaded comes from there.
+    std::filesystem::path programFolder;
     Desktop& desktop;
     SettingsStore& settings;
     Clock& clock;

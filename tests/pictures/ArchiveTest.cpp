@@ -2,13 +2,16 @@
 // said of the pictures of a catalogue.
 
 #include "CatalogueFile.h"
+#include "FileFaults.h"
 #include "PictureCheck.h"
 #include "QtPictureFiles.h"
+#include "SheetPictures.h"
 #include "TemporaryFolder.h"
 #include "caseFile.h"
 #include "faults.h"
 #include "readFile.h"
 #include "runCommand.h"
+#include "unpackImages.h"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +20,8 @@
 using namespace fleetwright;
 
 namespace {
+
+namespace fs = std::filesystem;
 
 /// What shell commands, a line each, say and leave in an application folder.
 std::string unpacked(const Case& given) {
@@ -40,6 +45,73 @@ std::string unpacked(const Case& given) {
 
 TEST(PictureArchive, IsUnpackedWholeOrNotAtAll) {
     expectCases("pictures/golden/unpacking.txt", unpacked);
+}
+
+/// Unpacks new pictures over old ones, with a file of the user's among them that comes at the last
+/// moment. One call fails, or is the last one; false if there was none of that number.
+bool unpackWithFault(const fs::path& pictures, int nth, FileFaults::Kind kind, bool canExchange) {
+    const TemporaryFolder app;
+    const auto archive = [&](const char* version) {
+        return [&, version](const fs::path&, const fs::path& folder) {
+            fs::copy(pictures / version, folder,
+                     fs::copy_options::create_hard_links | fs::copy_options::recursive);
+            return true;
+        };
+    };
+    const fs::path programFolder = pictures, images = app.path() / "images";
+    renewImages(app.path(), programFolder, archive("old"));
+    app.write("images/mine.txt", "mine");
+    app.write("images/guns/mine.gif", "mine");
+    fs::create_symlink("mine.txt", images / "link");
+    int calls = 0;
+    bool isReplaced = false;
+    hookFileCalls([&](FileCall call, const fs::path& path) {
+        ++calls;
+        const bool isExchange = call == FileCall::Exchange;
+        if (isExchange || (!canExchange && !isReplaced && path == app.path() / "images.replaced")) {
+            app.write("images/late.txt", "late");
+            isReplaced = !isExchange;
+        }
+        const bool fails = kind == FileFaults::Kind::Fails ? calls == nth : calls >= nth;
+        return fails ? std::make_error_code(std::errc::io_error)
+               : isExchange && !canExchange
+                   ? std::make_error_code(std::errc::function_not_supported)
+                   : std::error_code();
+    });
+    const std::string fault =
+        fileFaultOf([&] { renewImages(app.path(), programFolder, archive("new")); });
+    hookFileCalls({});
+    // The next start makes good what is left, and needs no archive for it.
+    unpackImages(app.path(), "none", {});
+    const std::string version = app.read("images/ftl.gif");
+    for (const std::string& name : sheetPictures()) {
+        EXPECT_EQ(app.read("images/" + name), version) << name;
+    }
+    for (const char* const name : {"mine.txt", "link", "guns/mine.gif"}) {
+        EXPECT_EQ(app.read(std::string("images/") + name), "mine") << name;
+    }
+    EXPECT_TRUE(!fault.empty() || (version == "new" && app.read("images/late.txt") == "late"));
+    EXPECT_EQ(app.entries(), 1);
+    return calls >= nth;
+}
+
+TEST(Unpacking, LeavesTheOldPicturesWholeOrTheNewOnesWhateverFails) {
+    const TemporaryFolder pictures;
+    pictures.write("images.exe", "archive");
+    for (const std::string version : {"old", "new"}) {
+        for (const std::string& name : sheetPictures()) {
+            pictures.write(version + '/' + name, version);
+        }
+    }
+    for (const auto kind : {FileFaults::Kind::Fails, FileFaults::Kind::IsLast}) {
+        for (const bool canExchange : {true, false}) {
+            int nth = 0;
+            while (unpackWithFault(pictures.path(), ++nth, kind, canExchange)) {
+                EXPECT_FALSE(HasFailure()) << "at call " << nth;
+            }
+            EXPECT_GT(nth, 20);
+        }
+    }
 }
 
 TEST(PictureCheck, NamesTheLinesWhosePicturesAreMissingOrFaulty) {

@@ -2,7 +2,6 @@
 // acts, each with all that is asked of the world because of it and all that looks different then.
 
 #include "Clock.h"
-#include "FileLock.h"
 #include "Globals.h"
 #include "Programs.h"
 #include "Registry.h"
@@ -56,8 +55,8 @@ public:
     }
     bool run(const fs::path& program, const std::string& argument, const fs::path& folder,
              int milliseconds, const std::function<void()>& onWait) override {
-        log += "run " + program.lexically_relative(folder).string() + ' ' + argument + " for " +
-               std::to_string(milliseconds) + "; ";
+        log += "run " + program.string() + ' ' + argument + " for " + std::to_string(milliseconds) +
+               "; ";
         for (const std::string& name : sheetPictures()) {
             fs::copy_file(program, folder / name);
         }
@@ -69,7 +68,7 @@ public:
         return has.contains(program.filename().string());
     }
     void* loadLibrary(const fs::path& file) override {
-        log += "library " + file.filename().string() + "; ";
+        log += "library " + file.string() + "; ";
         return has.contains("no library") ? nullptr : this;
     }
     void* function(void*, const std::string& name) override {
@@ -101,7 +100,7 @@ public:
 
     /// The acts, each with what was asked for and what it has changed.
     std::string run(const Case& each) {
-        folder.write("images.exe", "archive");
+        folder.write("program/images.exe", "archive");
         return playActs(each["acts"], {.act = [this](const std::string& act) { doLine(act); },
                                        .takeLog = [this] { return std::exchange(machine.log, {}); },
                                        .look = [this] { return seen(); },
@@ -196,7 +195,6 @@ private:
             {"folder", [&] { fs::create_directory(file); }},
             {"write", [&] { folder.write(rest, ""); }},
             {"remove", [&] { fs::remove_all(file); }},
-            {"lock", [&] { m_lock.emplace(file); }},
             {"list", [&] { files.emplace(settings).BaseName(rest); }},
             {"rename",
              [&] {
@@ -216,6 +214,7 @@ private:
     std::string faults;
     Form main{{.name = "frmMain"}};
     frmSplash splash{{.appFolder = folder.path(),
+                      .programFolder = folder.path() / "program",
                       .desktop = machine,
                       .settings = settings,
                       .clock = machine,
@@ -239,7 +238,6 @@ private:
     std::optional<clsMRUFiles> files;
     std::map<std::string, Control*> m_controls;
     std::vector<Connection> m_connections;
-    std::optional<FileLock> m_lock;
 };
 
 TEST(ShellWindows, ShowAndAskForWhatIsDone) {

@@ -19,8 +19,8 @@ Sounds* QtSounds::module() {
     if (!m_isAsked) {
         m_isAsked = true;
         // It stays loaded: what Qt has registered of it cannot be taken back.
-        const auto create =
-            moduleFunction<CreateSounds>(loadModule(m_appFolder / soundsModule), "createSounds");
+        const auto create = moduleFunction<CreateSounds>(loadModule(m_programFolder / soundsModule),
+                                                         "createSounds");
         m_module = create == nullptr ? nullptr : create();
     }
     return m_module;

@@ -4,11 +4,12 @@
 
 namespace fleetwright {
 
-/// The machine's sound devices, through a module in the application folder that is loaded when it
-/// is first asked. Without the module there is no device.
+/// The machine's sound devices, through a module beside the program that is loaded when it is first
+/// asked. Without the module there is no device.
 class QtSounds : public Sounds {
 public:
-    explicit QtSounds(std::filesystem::path appFolder) : m_appFolder(std::move(appFolder)) {}
+    explicit QtSounds(std::filesystem::path programFolder)
+        : m_programFolder(std::move(programFolder)) {}
 
     bool hasDevice() override;
     void play(const std::filesystem::path& file) override;
@@ -16,7 +17,7 @@ public:
 private:
     Sounds* module();
 
-    std::filesystem::path m_appFolder;
+    std::filesystem::path m_programFolder;
     Sounds* m_module = nullptr;
     bool m_isAsked = false;
 };
