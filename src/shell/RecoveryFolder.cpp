@@ -1,6 +1,7 @@
 #include "RecoveryFolder.h"
 
 #include "Error.h"
+#include "applicationFolder.h"
 #include "paths.h"
 #include "saveFile.h"
 #include "text.h"
@@ -116,7 +117,7 @@ std::vector<RecoveryFolder::Design> RecoveryFolder::keepLeftBehind() {
 }
 
 void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {
-    makeFolder(m_folder);
+    makeUserFolder(m_folder);
     takeMark();
     const std::string ship = fileNameOf(shipName);
     if (!m_ownFile.empty() && ship == m_ownShip) {

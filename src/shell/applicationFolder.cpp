@@ -1,6 +1,9 @@
 #include "applicationFolder.h"
 
 #include "Error.h"
+#include "FileLock.h"
+#include "StagedFiles.h"
+#include "fileCalls.h"
 #include "paths.h"
 #include "readFile.h"
 #include "saveFile.h"
@@ -11,6 +14,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace fleetwright {
@@ -28,11 +32,13 @@ std::string fingerprint(std::string_view bytes) {
     return std::to_string(bytes.size()) + '-' + std::to_string(hash);
 }
 
-/// The entries below a folder by name, with paths from that folder on.
+/// The entries below a folder by name, with paths from that folder on, without links.
 std::vector<fs::path> entriesBelow(const fs::path& folder) {
     std::vector<fs::path> names;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        names.push_back(entry.path().lexically_relative(folder));
+        if (!entry.is_symlink()) {
+            names.push_back(entry.path().lexically_relative(folder));
+        }
     }
     std::sort(names.begin(), names.end());
     return names;
@@ -52,8 +58,13 @@ std::string stateOf(const fs::path& delivered, const std::vector<fs::path>& name
     return fingerprint(state);
 }
 
-/// What the user's folder was given. As a file: the state of the delivered files in the first line,
-/// then for each file its fingerprint, a blank and its name.
+/// The fingerprint of a file; empty if there is no such file.
+std::string fingerprintOf(const fs::path& file) {
+    return fs::is_regular_file(file) ? fingerprint(readBytes(file)) : std::string();
+}
+
+/// Which files were given, or are about to be. As a file: the state of the delivered files in the
+/// first line, then for each file its fingerprint, a blank and its name.
 class Record {
 public:
     explicit Record(fs::path file) : m_file(std::move(file)) {
@@ -74,18 +85,6 @@ public:
         }
     }
 
-    bool hasState(const std::string& state) const { return m_state == state; }
-
-    /// The fingerprint of what was given last under this name; empty if nothing was.
-    std::string given(const fs::path& name) const {
-        const auto found = m_given.find(name.generic_string());
-        return found == m_given.end() ? std::string() : found->second;
-    }
-
-    void note(const fs::path& name, const std::string& contents) {
-        m_given[name.generic_string()] = contents;
-    }
-
     void save(const std::string& state) const {
         std::string text = state + '\n';
         for (const auto& [name, contents] : m_given) {
@@ -93,6 +92,12 @@ public:
         }
         saveFile(m_file, text);
     }
+
+    bool hasState(const std::string& state) const { return m_state == state; }
+    /// Fingerprints by names.
+    const std::map<std::string, std::string>& given() const { return m_given; }
+    void note(const std::string& name, const std::string& contents) { m_given[name] = contents; }
+    void forget() { m_given.clear(); }
 
 private:
     fs::path m_file;
@@ -104,63 +109,86 @@ bool isProtected(const fs::path& file) {
     return (fs::status(file).permissions() & fs::perms::owner_write) == fs::perms::none;
 }
 
-void refreshFile(const fs::path& source, const fs::path& target, const fs::path& name,
-                 Record& record) {
-    const std::string contents = readBytes(source);
-    const std::string wanted = fingerprint(contents);
-    const std::string given = record.given(name);
-    const bool isMissing = fs::symlink_status(target).type() == fs::file_type::not_found;
-    const std::string found = fs::is_regular_file(target) ? fingerprint(readBytes(target)) : "";
-
-    const bool isNew = isMissing && given.empty();
-    const bool isAsGiven = !found.empty() && found == given && !isProtected(target);
-    if (found != wanted && (isNew || isAsGiven)) {
-        saveFile(target, contents);
-    }
-    // A run that was cut short has put files in place and not noted them.
-    if (found == wanted || isNew || isAsGiven) {
-        record.note(name, wanted);
-    }
+/// Whether the user gets this file: it is new to this folder, or is still as it was given.
+bool isToBeGiven(const fs::path& file, const std::string& found, const std::string& given) {
+    const bool isThere = fs::exists(fs::symlink_status(file));
+    return given.empty() ? !isThere : !found.empty() && found == given && !isProtected(file);
 }
 
-void refreshLink(const fs::path& source, const fs::path& target) {
-    if (fs::exists(target)) {
-        return;
+/// Gives the user these files and notes them: files that are there keep what else belongs to them,
+/// and new ones come together, since a first start has many.
+void give(const fs::path& delivered, const fs::path& userFolder, const Record& gifts,
+          Record& record) {
+    const fs::path staging = userFolder / ".arriving";
+    [[maybe_unused]] const auto none = removeTree(staging);  // what a killed run has left
+    StagedFiles newOnes(staging);
+    for (const auto& [name, contents] : gifts.given()) {
+        const fs::path target = userFolder / name;
+        const std::string bytes = readBytes(delivered / name);
+        if (fs::exists(fs::symlink_status(target))) {
+            saveFile(target, bytes);
+        } else {
+            newOnes.add(target, bytes);
+        }
+        record.note(name, fingerprint(bytes));
     }
-    fs::create_directories(target.parent_path());
-    std::error_code error;
-    if (fs::is_symlink(target)) {
-        fs::remove(target, error);  // it leads to what is no longer there
+    newOnes.place();
+}
+
+/// Gives the user what is new, and notes what the user has been given.
+void refreshFiles(const fs::path& delivered, const fs::path& userFolder,
+                  const std::vector<fs::path>& names, Record& record) {
+    const fs::path onTheWay = userFolder / ".delivering";
+    Record gifts(onTheWay);
+    for (const auto& [name, contents] : gifts.given()) {
+        if (fingerprintOf(userFolder / name) == contents) {
+            record.note(name, contents);
+        }
     }
-    fs::create_symlink(fs::canonical(source), target, error);
-    // Another start of the program may be at the same work.
-    if (error && error != std::errc::file_exists) {
-        throw FileError(target, "cannot be made: " + error.message());
+    gifts.forget();
+    for (const fs::path& path : names) {
+        if (fs::is_directory(delivered / path)) {
+            makeFolder(userFolder / path);
+            continue;
+        }
+        const std::string name = path.generic_string(), wanted = fingerprintOf(delivered / path),
+                          found = fingerprintOf(userFolder / path);
+        const auto given = record.given().find(name);
+        if (found == wanted) {
+            record.note(name, wanted);
+        } else if (isToBeGiven(userFolder / path, found,
+                               given == record.given().end() ? "" : given->second)) {
+            gifts.note(name, wanted);
+        }
+    }
+    gifts.save("");
+    give(delivered, userFolder, gifts, record);
+}
+
+/// Earlier versions have made links to the parts of the program, which were then loaded by them.
+void takeLinksAway(const fs::path& userFolder) {
+    for (const char* const name : {"w_dll.dll", "sounds.dll", "pictures.dll", "images.exe"}) {
+        const fs::path link = userFolder / name;
+        if (fs::is_symlink(link)) {
+            [[maybe_unused]] const auto stays = removeFile(link);
+        }
     }
 }
 
 void refreshEntries(const fs::path& delivered, const fs::path& userFolder) {
+    makeUserFolder(userFolder);
+    takeLinksAway(userFolder);
     const std::vector<fs::path> names = entriesBelow(delivered);
-    for (const fs::path& name : names) {
-        if (fs::is_symlink(delivered / name)) {
-            refreshLink(delivered / name, userFolder / name);
-        }
-    }
     const std::string state = stateOf(delivered, names);
-    Record record(userFolder / ".delivered");
-    if (record.hasState(state)) {
+    const fs::path file = userFolder / ".delivered";
+    if (Record(file).hasState(state)) {
         return;
     }
-    fs::create_directories(userFolder);
-    for (const fs::path& name : names) {
-        const fs::path source = delivered / name;
-        if (fs::is_directory(source)) {
-            fs::create_directories(userFolder / name);
-        } else if (!fs::is_symlink(source)) {
-            refreshFile(source, userFolder / name, name, record);
-        }
-    }
+    const FileLock lock(userFolder / ".", FileLock::IfTaken::Wait);
+    Record record(file);  // another start may have been at the same work
+    refreshFiles(delivered, userFolder, names, record);
     record.save(state);
+    [[maybe_unused]] const auto stays = removeFile(userFolder / ".delivering");
 }
 
 }  // namespace
@@ -173,6 +201,27 @@ fs::path applicationFolder(const fs::path& executableFolder) {
     fs::path folder = userDataFolder();
     refreshUserFolder(delivered, folder);
     return folder;
+}
+
+void makeUserFolder(const fs::path& folder) {
+    if (const fs::path parent = folder.parent_path();
+        !parent.empty() && !fs::is_directory(parent)) {
+        makeUserFolder(parent);
+    }
+    std::error_code error = makeNewPrivateFolder(folder);
+    if (!error) {
+        error = syncFolder(folder.parent_path());
+    } else if (fs::is_directory(folder)) {
+        error.clear();
+        const fs::file_status status = fs::symlink_status(folder);
+        const fs::perms usersOwn = status.permissions() & fs::perms::owner_all;
+        if (fs::is_directory(status) && status.permissions() != usersOwn) {
+            [[maybe_unused]] const auto notOurs = setFolderMode(folder, usersOwn);
+        }
+    }
+    if (error) {
+        throw FileError(folder, "cannot be made: " + error.message());
+    }
 }
 
 void refreshUserFolder(const fs::path& delivered, const fs::path& userFolder) {

@@ -2,10 +2,12 @@
 // runs of the program, each with all files that look different then.
 
 #include "Error.h"
+#include "FileFaults.h"
 #include "RecoveryFolder.h"
 #include "TemporaryFolder.h"
 #include "applicationFolder.h"
 #include "caseFile.h"
+#include "faults.h"
 #include "leftovers.h"
 #include "paths.h"
 
@@ -29,10 +31,9 @@ class Folders {
 public:
     Folders() {
         setenv("XDG_DATA_HOME", m_root.path().c_str(), 1);
-        m_root.write("lib/w_dll.dll", "module 1");
+        m_root.write("lib/w_dll.dll", "module");
         fs::create_directory_symlink("../share", m_root.path() / "lib/delivered");
         fs::create_directories(m_root.path() / "share/ssds");
-        fs::create_symlink("../lib/w_dll.dll", m_root.path() / "share/w_dll.dll");
     }
     Folders(const Folders&) = delete;
     Folders& operator=(const Folders&) = delete;
@@ -62,11 +63,20 @@ private:
             } else if (!name.starts_with("..") && file != m_record) {
                 seen[std::regex_replace(name, std::regex("~[0-9]+$"), "~MARK")] =
                     (fs::is_symlink(file) ? "link to " : "") +
-                    (fs::is_directory(file) ? "folder" : m_root.read("FleetWright/" + name));
+                    (fs::is_directory(file) ? "folder" + openTo(file)
+                                            : m_root.read("FleetWright/" + name));
             }
         }
         seen["locks"] = std::to_string(locks);
         return seen;
+    }
+
+    /// Says so where others may look into the user's folder.
+    std::string openTo(const fs::path& folder) const {
+        const bool isUsers = folder == m_root.path() / "FleetWright";
+        const fs::perms others = fs::perms::group_all | fs::perms::others_all;
+        return isUsers && (fs::status(folder).permissions() & others) != fs::perms::none ? " of all"
+                                                                                         : "";
     }
 
     void doLine(const std::string& line) {
@@ -95,11 +105,8 @@ private:
             {"write", [&] { m_root.write(name, text); }},
             {"remove", [&] { fs::remove_all(file); }},
             {"protect", [&] { fs::permissions(file, fs::perms::owner_read); }},
-            {"mislead",
-             [&] {
-                 fs::remove(file);
-                 fs::create_symlink("gone", file);
-             }},
+            {"open", [&] { fs::permissions(file, fs::perms::all); }},
+            {"link", [&] { fs::create_symlink(m_root.path() / text, file); }},
             {"age",
              [&] { fs::last_write_time(RecoveryFolder::ofUser() / (name + ' ' + text), m_old); }},
             {"tidy", [&] { takeLeftoversAway(userDataFolder()); }},
@@ -148,4 +155,29 @@ private:
 TEST(Folders, HoldWhatPackagesUsersAndRunsLeaveInThem) {
     expectCases("shell/golden/folders.txt",
                 [](const Case& each) { return Folders().run(each["acts"]); });
+}
+
+TEST(Folders, AreMadeGoodByTheNextStartWhereverOneIsCutShort) {
+    for (int nth = 1, calls = nth; calls >= nth; ++nth) {
+        const TemporaryFolder root;
+        const fs::path delivered = root.path() / "share", user = root.path() / "user";
+        const auto deliver = [&](const char* contents, std::initializer_list<const char*> names) {
+            for (const char* const name : names) {
+                root.write(std::string("share/") + name, contents);
+            }
+        };
+        deliver("1", {"weaps.dat", "ships/A.shp"});
+        refreshUserFolder(delivered, user);
+        deliver("22", {"weaps.dat", "ships/A.shp", "maps/B.map"});
+        {
+            const FileFaults faults(nth, FileFaults::Kind::IsLast);
+            fileFaultOf([&] { refreshUserFolder(delivered, user); });
+            calls = faults.calls();
+        }
+        deliver("333", {"weaps.dat", "ships/A.shp", "maps/B.map"});
+        refreshUserFolder(delivered, user);
+        for (const char* const name : {"user/weaps.dat", "user/ships/A.shp", "user/maps/B.map"}) {
+            EXPECT_EQ(root.read(name), "333") << name << ", call " << nth;
+        }
+    }
 }
