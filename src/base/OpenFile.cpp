@@ -2,7 +2,6 @@
 
 #include "fileCalls.h"
 
-#include <cerrno>
 #include <utility>
 
 #if __has_include(<unistd.h>)
@@ -26,26 +25,15 @@ namespace fs = std::filesystem;
 namespace {
 
 int openPlain(const fs::path& file, OpenFile::Use use) {
-    constexpr int always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    switch (use) {
-    case OpenFile::Use::Read:
-        return open(file.c_str(), O_RDONLY | always);
-    case OpenFile::Use::Write:
-        return open(file.c_str(), O_WRONLY | always);
-    case OpenFile::Use::Create:
-        return open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | always, 0666);
-    }
-    return -1;
+    const int how = use == OpenFile::Use::Read    ? O_RDONLY
+                    : use == OpenFile::Use::Write ? O_WRONLY | O_NOFOLLOW
+                                                  : O_WRONLY | O_CREAT | O_EXCL;
+    return open(file.c_str(), how | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
 }
 
-fs::file_type typeOf(int descriptor) {
+bool isPlain(int descriptor) {
     struct stat status {};
-    if (fstat(descriptor, &status) != 0) {
-        return fs::file_type::unknown;
-    }
-    return S_ISREG(status.st_mode)   ? fs::file_type::regular
-           : S_ISDIR(status.st_mode) ? fs::file_type::directory
-                                     : fs::file_type::unknown;
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 auto readSome(int descriptor, char* bytes, std::size_t most) {
@@ -82,20 +70,14 @@ std::uintmax_t OpenFile::size() const {
 namespace {
 
 int openPlain(const fs::path& file, OpenFile::Use use) {
-    constexpr int always = _O_BINARY | _O_NOINHERIT;
-    switch (use) {
-    case OpenFile::Use::Read:
-        return _wopen(file.c_str(), _O_RDONLY | always);
-    case OpenFile::Use::Write:
-        return _wopen(file.c_str(), _O_WRONLY | always);
-    case OpenFile::Use::Create:
-        return _wopen(file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | always, _S_IREAD | _S_IWRITE);
-    }
-    return -1;
+    const int how = use == OpenFile::Use::Read    ? _O_RDONLY
+                    : use == OpenFile::Use::Write ? _O_WRONLY
+                                                  : _O_WRONLY | _O_CREAT | _O_EXCL;
+    return _wopen(file.c_str(), how | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
 }
 
-fs::file_type typeOf(int) {
-    return fs::file_type::regular;
+bool isPlain(int) {
+    return true;
 }
 
 /// The system counts in 32 bits.
@@ -141,10 +123,10 @@ OpenFile::OpenFile(fs::path file, Use use, std::error_code& error) : m_path(std:
         return;
     }
     m_descriptor = openPlain(m_path, use);
-    if (!isOpen()) {
-        error = lastError();
-    } else if ((error = whyNoFile(fs::file_status(typeOf(m_descriptor))))) {
-        ::close(std::exchange(m_descriptor, -1));
+    error = errorUnless(isOpen());
+    if (!error && !isPlain(m_descriptor)) {
+        // Another one has been put there meanwhile.
+        error = whyNoFile(fs::file_status(fs::file_type::unknown));
     }
 }
 
@@ -158,41 +140,29 @@ std::size_t OpenFile::read(char* bytes, std::size_t most, std::error_code& error
     if ((error = objection(FileCall::Read, m_path))) {
         return 0;
     }
-    while (true) {
-        const auto count = readSome(m_descriptor, bytes, most);
-        if (count >= 0) {
-            return static_cast<std::size_t>(count);
-        }
-        if (errno != EINTR) {
-            error = lastError();
-            return 0;
-        }
-    }
+    const auto count = readSome(m_descriptor, bytes, most);
+    error = errorUnless(count >= 0);
+    return error ? 0 : static_cast<std::size_t>(count);
 }
 
 std::error_code OpenFile::write(std::string_view bytes) {
-    if (const std::error_code error = objection(FileCall::Write, m_path)) {
-        return error;
-    }
-    while (!bytes.empty()) {
+    std::error_code error = objection(FileCall::Write, m_path);
+    while (!error && !bytes.empty()) {
         const auto count = writeSome(m_descriptor, bytes);
-        if (count >= 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
-            return lastError();
-        }
+        error = errorUnless(count >= 0);
+        bytes.remove_prefix(error ? 0 : static_cast<std::size_t>(count));
     }
-    return {};
+    return error;
 }
 
 std::error_code OpenFile::resize(std::uintmax_t size) {
     const std::error_code error = objection(FileCall::Resize, m_path);
-    return error || resizeTo(m_descriptor, size) ? error : lastError();
+    return error ? error : errorUnless(resizeTo(m_descriptor, size));
 }
 
 std::error_code OpenFile::setMode(fs::perms mode) {
     const std::error_code error = objection(FileCall::SetMode, m_path);
-    return error || changeMode(m_descriptor, mode) ? error : lastError();
+    return error ? error : errorUnless(changeMode(m_descriptor, mode));
 }
 
 void OpenFile::startSync() {
@@ -203,13 +173,14 @@ void OpenFile::startSync() {
 
 std::error_code OpenFile::sync() {
     const std::error_code error = objection(FileCall::Sync, m_path);
-    return error || syncToDisk(m_descriptor) ? error : lastError();
+    return error ? error : errorUnless(syncToDisk(m_descriptor));
 }
 
 std::error_code OpenFile::close() {
     const std::error_code error = objection(FileCall::Close, m_path);
     // Closed in any case, the system's failure included: none can close it once more.
-    return ::close(std::exchange(m_descriptor, -1)) == 0 || error ? error : lastError();
+    const std::error_code notClosed = errorUnless(::close(std::exchange(m_descriptor, -1)) == 0);
+    return error ? error : notClosed;
 }
 
 }  // namespace fleetwright

@@ -14,7 +14,7 @@ class OpenFile {
 public:
     enum class Use {
         Read,
-        Write,   ///< what is there, which stays as it is until something is written
+        Write,  ///< what is there, which stays as it is until something is written; never by a link
         Create,  ///< a new file; fails with `file_exists` if there is anything of that name
     };
 

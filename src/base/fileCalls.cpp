@@ -50,10 +50,8 @@ std::error_code syncOpenFolder(const fs::path& folder) {
         sync();  // who may write there, but not look, has everything synced instead
         return {};
     }
-    std::error_code error;
-    if (fsync(descriptor) != 0 && errno != EINVAL) {  // some file systems have nothing to sync
-        error = lastError();
-    }
+    // Some file systems have nothing to sync.
+    const std::error_code error = errorUnless(fsync(descriptor) == 0 || errno == EINVAL);
     close(descriptor);
     return error;
 }
@@ -66,15 +64,18 @@ std::error_code syncOpenFolder(const fs::path&) {
 
 #endif
 
-/// Renames, unless the system can only do that over what is there.
-bool renameAtomicallyToNew([[maybe_unused]] const fs::path& from,
-                           [[maybe_unused]] const fs::path& to,
-                           [[maybe_unused]] std::error_code& error) {
+std::error_code renamed(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    fs::rename(from, to, error);
+    return error;
+}
+
+/// Whether the system can rename a file without the danger that it replaces another; if so, it has.
+bool renamesToNew([[maybe_unused]] const fs::path& from, [[maybe_unused]] const fs::path& to,
+                  [[maybe_unused]] std::error_code& error) {
 #ifdef RENAME_NOREPLACE
-    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
-        return true;
-    }
-    error = lastError();
+    error =
+        errorUnless(renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0);
     return error != std::errc::invalid_argument && error != std::errc::function_not_supported;
 #else
     return false;
@@ -99,6 +100,10 @@ std::error_code lastError() {
     return {errno, std::generic_category()};
 }
 
+std::error_code errorUnless(bool isDone) {
+    return isDone ? std::error_code() : lastError();
+}
+
 std::error_code whyNoFile(const fs::file_status& status) {
     static const FileKindCategory fileKind;
     if (fs::is_directory(status)) {
@@ -110,7 +115,7 @@ std::error_code whyNoFile(const fs::file_status& status) {
 
 std::error_code renameFile(const fs::path& from, const fs::path& to) {
     return unlessObjected(FileCall::Rename, to,
-                          [&](std::error_code& error) { fs::rename(from, to, error); });
+                          [&](std::error_code& error) { error = renamed(from, to); });
 }
 
 std::error_code renameForGood(const fs::path& from, const fs::path& to) {
@@ -121,14 +126,10 @@ std::error_code renameForGood(const fs::path& from, const fs::path& to) {
 std::error_code renameToNew(const fs::path& from, const fs::path& to) {
     const std::error_code error =
         unlessObjected(FileCall::Rename, to, [&](std::error_code& notRenamed) {
-            if (renameAtomicallyToNew(from, to, notRenamed)) {
-                return;
-            }
-            notRenamed.clear();
-            if (fs::exists(fs::symlink_status(to, notRenamed))) {
-                notRenamed = std::make_error_code(std::errc::file_exists);
-            } else {
-                fs::rename(from, to, notRenamed);
+            if (!renamesToNew(from, to, notRenamed)) {
+                notRenamed = fs::exists(fs::symlink_status(to, notRenamed))
+                                 ? std::make_error_code(std::errc::file_exists)
+                                 : renamed(from, to);
             }
         });
     const std::error_code synced = andSync(error, to);

@@ -52,6 +52,8 @@ std::error_code objection(FileCall call, const std::filesystem::path& path);
 
 /// What `errno` says.
 std::error_code lastError();
+/// The same of a call that was not done; empty after one that was.
+std::error_code errorUnless(bool isDone);
 
 /// Why what stands there cannot be read or saved as a file, in the words that the reader and the
 /// saver share: a folder "Is a directory", a pipe, a device or a socket is "Not a plain file".

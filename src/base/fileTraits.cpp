@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,24 +40,16 @@ bool isOfContents(std::string_view name) {
     return name == "security.capability" || name == "security.ima" || name == "security.evm";
 }
 
-/// What a call that fills a buffer has to say, however much it grows meanwhile. Empty where a file
-/// system knows no such thing.
-template <typename Fill>
-std::string filledBuffer(Fill fill, std::error_code& error) {
-    std::string buffer;
-    while (true) {
-        const ssize_t size = fill(nullptr, 0);
-        buffer.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
-        const ssize_t got = size > 0 ? fill(buffer.data(), buffer.size()) : size;
-        if (got >= 0) {
-            buffer.resize(static_cast<std::size_t>(got));
-            return buffer;
-        }
-        if (errno != ERANGE) {
-            error = errno == ENOTSUP ? std::error_code() : lastError();
-            return {};
-        }
-    }
+/// What a call has to say that fills a buffer and, without one, says how much it needs. Empty where
+/// a file system knows no such thing.
+std::string filledBuffer(const std::function<ssize_t(char*, std::size_t)>& fill,
+                         std::error_code& error) {
+    ssize_t size = fill(nullptr, 0);
+    std::string buffer(static_cast<std::size_t>(std::max<ssize_t>(size, 0)), '\0');
+    size = buffer.empty() ? size : fill(buffer.data(), buffer.size());
+    error = errorUnless(size >= 0 || errno == ENOTSUP);
+    buffer.resize(static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
+    return buffer;
 }
 
 std::vector<std::string> attributeNames(const OpenFile& file, std::error_code& error) {
@@ -78,10 +71,9 @@ std::error_code copyAttribute(const OpenFile& from, OpenFile& to, const std::str
         },
         error);
     error = error ? error : objection(FileCall::SetAttribute, to.path());
-    if (!error && fsetxattr(to.descriptor(), name.c_str(), value.data(), value.size(), 0) != 0) {
-        error = lastError();
-    }
-    return error;
+    return error ? error
+                 : errorUnless(fsetxattr(to.descriptor(), name.c_str(), value.data(), value.size(),
+                                         0) == 0);
 }
 
 std::error_code copyAttributes(const OpenFile& from, OpenFile& to) {
@@ -93,9 +85,7 @@ std::error_code copyAttributes(const OpenFile& from, OpenFile& to) {
     // A folder may hand a list of access rights on to each new file in it.
     if (!error && !isIn(names, accessList) && isIn(attributeNames(to, error), accessList)) {
         error = objection(FileCall::SetAttribute, to.path());
-        if (!error && fremovexattr(to.descriptor(), accessList.data()) != 0) {
-            error = lastError();
-        }
+        error = error ? error : errorUnless(fremovexattr(to.descriptor(), accessList.data()) == 0);
     }
     for (const std::string& name : names) {
         if (error) {
@@ -125,24 +115,26 @@ std::error_code giveTo(OpenFile& file, FileCall call, uid_t owner, gid_t group, 
         return {};
     }
     const std::error_code error = objection(call, file.path());
-    return error || fchown(file.descriptor(), owner, group) == 0 ? error : lastError();
+    return error ? error : errorUnless(fchown(file.descriptor(), owner, group) == 0);
 }
 
 std::error_code copyOwnersAndMode(const OpenFile& from, OpenFile& to) {
     constexpr auto same = static_cast<uid_t>(-1);
-    struct stat wanted {
-    }, given{};
+    struct stat wanted {};
+    struct stat given {};
     std::error_code error = objection(FileCall::ReadTraits, from.path());
-    if (!error && (fstat(from.descriptor(), &wanted) != 0 || fstat(to.descriptor(), &given) != 0)) {
-        error = lastError();
-    }
+    error = error ? error
+                  : errorUnless(fstat(from.descriptor(), &wanted) == 0 &&
+                                fstat(to.descriptor(), &given) == 0);
     if (!error) {
         error = giveTo(to, FileCall::SetOwner, wanted.st_uid, same, given.st_uid == wanted.st_uid);
     }
     if (!error) {
         error = giveTo(to, FileCall::SetGroup, same, wanted.st_gid, given.st_gid == wanted.st_gid);
     }
-    return error ? error : to.setMode(fs::perms(wanted.st_mode) & fs::perms::mask);
+    // Some file systems have one mode for all files and let nobody set it.
+    const bool hasMode = given.st_mode == wanted.st_mode;
+    return error || hasMode ? error : to.setMode(fs::perms(wanted.st_mode) & fs::perms::mask);
 }
 
 #else

@@ -16,6 +16,7 @@
 #include <system_error>
 
 #if __has_include(<unistd.h>)
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -45,7 +46,7 @@ std::error_code writeProtection([[maybe_unused]] const fs::path& file,
         return std::make_error_code(std::errc::permission_denied);
     }
 #if __has_include(<unistd.h>)
-    if (access(file.c_str(), W_OK) != 0) {
+    if (faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
         return lastError();
     }
 #endif

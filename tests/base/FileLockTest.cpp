@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <optional>
+#include <thread>
 
 using namespace fleetwright;
 
@@ -18,6 +20,14 @@ TEST(FileLock, IsHeldByOneUntilItEnds) {
         first.reset();
         EXPECT_TRUE(FileLock(path).isHeld());
     }
+    // One that waits has it when the other one ends.
+    std::optional<FileLock> first(folder.path());
+    std::thread later([&first] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        first.reset();
+    });
+    EXPECT_TRUE(FileLock(folder.path(), FileLock::IfTaken::Wait).isHeld());
+    later.join();
     const FileLock none(folder.path() / "none");
     EXPECT_TRUE(none.isLost() && !none.isHeld() && !none.isWithOthers());
 }

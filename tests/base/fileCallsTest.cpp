@@ -1,0 +1,65 @@
+#include "fileCalls.h"
+
+#include "Error.h"
+#include "FileFaults.h"
+#include "OpenFile.h"
+#include "TemporaryFolder.h"
+#include "paths.h"
+#include "readFile.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+using namespace fleetwright;
+namespace fs = std::filesystem;
+
+TEST(FileCalls, SyncWhatIsForGoodAndFailAsTheyAreTold) {
+    const TemporaryFolder folder;
+    const fs::path a = folder.path() / "a", b = folder.path() / "b", sub = folder.path() / "sub";
+    folder.write("a", "a");
+    folder.write("b", "b");
+    using enum FileCall;
+    const struct {
+        std::function<std::error_code()> call;
+        std::vector<FileCall> calls;
+        std::string after;
+    } cases[] = {
+        {[&] { return renameToNew(a, b); }, {Rename}, "File exists"},
+        {[&] { return renameForGood(a, b); }, {Rename, SyncFolder}, ""},
+        {[&] { return makeNewFolder(sub); }, {MakeFolder}, ""},
+        {[&] { return makeNewFolder(sub); }, {MakeFolder}, "File exists"},
+        {[&] { return renameToNew(b, sub / "b"); }, {Rename, SyncFolder, SyncFolder}, ""},
+        {[&] { return makeLink("b", sub / "link"); }, {MakeLink}, ""},
+        {[&] { return renameForGood(sub / "b", a); }, {Rename, SyncFolder, SyncFolder}, ""},
+        {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
+        {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
+        {[&] { return removeTreeForGood(sub); }, {RemoveTree, SyncFolder}, ""},
+        {[&] { return syncFolder(sub); }, {SyncFolder}, "No such file or directory"},
+        {[&] { return makeFolder(sub / "sub"), std::error_code(); },
+         {MakeFolder, SyncFolder, MakeFolder, SyncFolder},
+         ""},
+    };
+    for (const auto& each : cases) {
+        std::vector<FileCall> calls;
+        hookFileCalls([&calls](FileCall call, const fs::path&) {
+            calls.push_back(call);
+            return std::error_code();
+        });
+        const std::error_code error = each.call();
+        hookFileCalls({});
+        EXPECT_EQ(error ? error.message() : "", each.after) << &each - cases;
+        EXPECT_EQ(calls, each.calls) << &each - cases;
+    }
+    EXPECT_TRUE(fs::is_directory(sub / "sub") && folder.entries() == 1);
+}
+
+TEST(FileCalls, ThatFailKeepAFileFromBeingRead) {
+    for (const int nth : {1, 2, 3}) {  // opening it, its bytes, its end
+        const FileFaults faults(nth);
+        EXPECT_THROW(readBytes(SOURCE_FOLDER "/LICENSE"), FileError) << nth;
+    }
+    // Its size is said to be 0.
+    EXPECT_NE(readBytes("/proc/self/status").find("Name:"), std::string::npos);
+}
