@@ -44,7 +44,7 @@ struct Place {
     ~Place() { unsetenv("XDG_DATA_HOME"); }
 
     std::string contents() const { return folder.read("here/ship.shp"); }
-    bool isAsBefore() const { return isNew ? !fs::exists(target) : contents() == oldContents; }
+    bool isAsBefore() const { return contents() == (isNew ? "" : oldContents); }
     bool isSaved() const { return contents() == newContents; }
     std::string copy() const { return folder.read("FleetWright/recovered/ship as it was.shp"); }
 
@@ -67,7 +67,7 @@ struct Place {
 std::string faultOfSave(const Place& place, int nth, FileFaults::Kind kind, int& calls) {
     FileFaults faults(nth, kind);
     if (place.isOverwritten) {
-        faults.forbidNewFilesIn(place.target.parent_path());
+        faults.forbid(FileCall::Create, place.target.parent_path());
     }
     std::string fault;
     try {

@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "FileFaults.h"
 #include "FileLock.h"
+#include "FileStamp.h"
 #include "TemporaryFolder.h"
 
 #include <grp.h>
@@ -51,12 +52,17 @@ std::string faultOf(const fs::path& target, std::string_view contents) {
     return {};
 }
 
-/// Owner, group, mode and number of a file, in one text.
-std::string identityOf(const fs::path& file) {
+/// Owner, group and mode of a file, in one text.
+std::string ownersOf(const fs::path& file) {
     struct stat status {};
     stat(file.c_str(), &status);
     return std::to_string(status.st_uid) + ' ' + std::to_string(status.st_gid) + ' ' +
-           std::to_string(status.st_mode) + ' ' + std::to_string(status.st_ino);
+           std::to_string(status.st_mode);
+}
+
+/// The same with what tells it from another file of that name.
+std::string identityOf(const fs::path& file) {
+    return ownersOf(file) + ' ' + std::to_string(fileStamp(file)->number);
 }
 
 std::string attributeOf(const fs::path& file, const char* name) {
@@ -115,14 +121,13 @@ TEST(SaveFile, WritesNewFilesAndReplacesOldOnes) {
     const TemporaryFolder folder;
     const fs::path file = folder.path() / "ship.shp";
     saveFile(file, "first");
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-    const bool mayGiveAway = chown(file.c_str(), nobody, nobody) == 0;  // root may
+    const bool isGivenAway = chown(file.c_str(), nobody, shared) == 0;  // root may
+    fs::permissions(file, fs::perms(04750));
+    const std::string owners = ownersOf(file);
     saveFile(file, std::string("sec\0nd", 6));
     EXPECT_EQ(folder.read("ship.shp"), std::string("sec\0nd", 6));
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    struct stat owner {};
-    stat(file.c_str(), &owner);
-    EXPECT_EQ(owner.st_uid, mayGiveAway ? nobody : getuid());
+    EXPECT_EQ(ownersOf(file), owners);
+    EXPECT_TRUE(isGivenAway || getuid() != 0);
     EXPECT_EQ(folder.entries(), 1);
 
     const fs::path longName = folder.path() / std::string(255, 'n');
@@ -142,7 +147,6 @@ TEST(SaveFile, KeepsAttributesAndListsOfRights) {
     EXPECT_EQ(attributeOf(file, note), "mine");
     EXPECT_EQ(attributeOf(file, rights), accessList());
     // A folder that hands its list on gives it to new files, and to no other.
-    const std::string before = identityOf(plain);
     saveFile(plain, "new");
     saveFile(folder.path() / "other.shp", "new");
     EXPECT_EQ(attributeOf(plain, rights), "none");
@@ -216,6 +220,17 @@ TEST(SaveFile, OverwritesWhatNoNewFileCanReplace) {
     EXPECT_EQ(folder.read("secret/ship.shp") + folder.read("closed/other.shp") +
                   folder.read("twin"),
               "oldoldold");
+}
+
+TEST(SaveFile, LeavesWhatMayBeADesignPutAside) {
+    const SharedFolder folder;
+    const std::string recovered = "home/FleetWright/recovered/", left = ".fleetwright-a.tmp";
+    for (const std::string& place : {recovered, std::string("home/")}) {
+        folder.write(place + left, "a design");
+        saveFile(folder.path() / (place + "ship.shp"), "new");
+    }
+    EXPECT_EQ(folder.read(recovered + left), "a design");
+    EXPECT_FALSE(fs::exists(folder.path() / ("home/" + left)));
 }
 
 TEST(SaveFile, SaysWhichOtherNamesKeepTheOldContents) {

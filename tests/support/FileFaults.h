@@ -32,13 +32,11 @@ public:
     FileFaults& operator=(const FileFaults&) = delete;
     ~FileFaults() { hookFileCalls({}); }
 
-    /// Lets nobody make a new file in this folder, as one without write permission does.
-    void forbidNewFilesIn(std::filesystem::path folder) {
-        m_forbidden = FileCall::Create;
+    /// Has all calls of this kind fail for want of a right, or those about entries of one folder.
+    void forbid(FileCall call, std::filesystem::path folder = {}) {
+        m_forbidden = call;
         m_closed = std::move(folder);
     }
-    /// Has all calls of this kind fail.
-    void forbid(FileCall call) { m_forbidden = call; }
     /// The number of calls so far.
     int calls() const { return m_calls; }
 
