@@ -44,7 +44,7 @@ struct Place {
     ~Place() { unsetenv("XDG_DATA_HOME"); }
 
     std::string contents() const { return folder.read("here/ship.shp"); }
-    bool isAsBefore() const { return contents() == (isNew ? "" : oldContents); }
+    bool isAsBefore() const { return isNew ? !fs::exists(target) : contents() == oldContents; }
     bool isSaved() const { return contents() == newContents; }
     std::string copy() const { return folder.read("FleetWright/recovered/ship as it was.shp"); }
 
