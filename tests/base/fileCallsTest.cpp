@@ -15,6 +15,16 @@
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
+namespace {
+
+std::error_code openToWrite(const fs::path& file) {
+    std::error_code error;
+    const OpenFile open(file, OpenFile::Use::Write, error);
+    return error;
+}
+
+}  // namespace
+
 TEST(FileCalls, SyncWhatIsForGoodAndFailAsTheyAreTold) {
     const TemporaryFolder folder;
     const fs::path a = folder.path() / "a", b = folder.path() / "b", sub = folder.path() / "sub";
@@ -32,6 +42,7 @@ TEST(FileCalls, SyncWhatIsForGoodAndFailAsTheyAreTold) {
         {[&] { return makeNewFolder(sub); }, {MakeFolder}, "File exists"},
         {[&] { return renameToNew(b, sub / "b"); }, {Rename, SyncFolder, SyncFolder}, ""},
         {[&] { return makeLink("b", sub / "link"); }, {MakeLink}, ""},
+        {[&] { return openToWrite(sub / "link"); }, {Open}, "Too many levels of symbolic links"},
         {[&] { return renameForGood(sub / "b", a); }, {Rename, SyncFolder, SyncFolder}, ""},
         {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
         {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},

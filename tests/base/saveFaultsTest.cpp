@@ -21,10 +21,15 @@ namespace {
 
 const std::string oldContents(5000, 'o'), newContents = "new";
 
+std::optional<FileCall> forbiddenFor(const std::string& kind) {
+    return kind == "no new file" ? FileCall::Create
+           : kind == "no rename" ? std::optional(FileCall::Rename)
+                                 : std::nullopt;
+}
+
 /// A folder with the target of a save, and one for what is put aside.
 struct Place {
-    explicit Place(const std::string& kind)
-        : isNew(kind == "new"), isOverwritten(kind == "in place") {
+    explicit Place(const std::string& kind) : isNew(kind == "new"), forbidden(forbiddenFor(kind)) {
         setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
         fs::create_directory(folder.path() / "here");
         if (!isNew) {
@@ -46,7 +51,14 @@ struct Place {
     std::string contents() const { return folder.read("here/ship.shp"); }
     bool isAsBefore() const { return isNew ? !fs::exists(target) : contents() == oldContents; }
     bool isSaved() const { return contents() == newContents; }
-    std::string copy() const { return folder.read("FleetWright/recovered/ship as it was.shp"); }
+    /// What was put aside, which is the user's alone.
+    std::string copy() const {
+        const std::string name = "FleetWright/recovered/ship as it was.shp";
+        const std::string contents = folder.read(name);
+        EXPECT_TRUE(contents.empty() ||
+                    fs::status(folder.path() / name).permissions() == fs::perms(0600));
+        return contents;
+    }
 
     /// How many files there are that are no target.
     int leftovers() const {
@@ -60,14 +72,15 @@ struct Place {
 
     const TemporaryFolder folder;
     const fs::path target = folder.path() / "here/ship.shp";
-    const bool isNew, isOverwritten;
+    const bool isNew;
+    const std::optional<FileCall> forbidden;  ///< what the folder does not let the save do
 };
 
 /// The fault of a save, if it has one; `calls` is how many it has made.
 std::string faultOfSave(const Place& place, int nth, FileFaults::Kind kind, int& calls) {
     FileFaults faults(nth, kind);
-    if (place.isOverwritten) {
-        faults.forbid(FileCall::Create, place.target.parent_path());
+    if (place.forbidden) {
+        faults.forbid(*place.forbidden, place.target.parent_path());
     }
     std::string fault;
     try {
@@ -85,11 +98,11 @@ std::string outcome(const Place& place, FileFaults::Kind kind, const std::string
     const bool isKilled = kind == FileFaults::Kind::IsLast;
     if (fault.empty()) {
         EXPECT_TRUE(place.isSaved()) << "it says that it is saved";
-        EXPECT_TRUE(isKilled || place.isOverwritten || place.leftovers() == 0);
+        EXPECT_TRUE(isKilled || place.forbidden || place.leftovers() == 0);
         return place.leftovers() == 0 ? "saved" : "saved, something left";
     }
     if (!place.isAsBefore() && !place.isSaved()) {
-        EXPECT_TRUE(place.isOverwritten && place.copy() == oldContents) << "something is lost";
+        EXPECT_TRUE(place.forbidden && place.copy() == oldContents) << "something is lost";
         EXPECT_NE(fault.find("ship as it was.shp"), std::string::npos) << fault;
         return "torn, old contents put aside";
     }
@@ -102,7 +115,8 @@ std::string outcome(const Place& place, FileFaults::Kind kind, const std::string
 
 TEST(SaveFaults, LoseNothingWhicheverCallFailsOrIsTheLast) {
     using Kind = FileFaults::Kind;
-    for (const char* const target : {"new", "replaced", "linked", "hard link", "in place"}) {
+    for (const char* const target :
+         {"new", "replaced", "linked", "hard link", "no new file", "no rename"}) {
         std::map<std::string, int> outcomes;
         for (const Kind kind : {Kind::Fails, Kind::IsLast}) {
             int calls = 0;
@@ -128,8 +142,9 @@ TEST(SaveFaults, LoseNothingWhicheverCallFailsOrIsTheLast) {
         for (const auto& [what, count] : outcomes) {
             RecordProperty(std::string(target) + ", " + what, count);
         }
-        EXPECT_EQ(outcomes["fails: new contents, said not to be sure"],
-                  std::string(target) == "in place" ? 0 : 1)
+        const bool isReplaced = !forbiddenFor(target);
+        EXPECT_EQ(outcomes["fails: new contents, said not to be sure"], isReplaced ? 1 : 0)
             << "the folder's sync";
+        EXPECT_TRUE(outcomes["fails: saved"] == 2 || !isReplaced) << "looking for leftovers, lock";
     }
 }
