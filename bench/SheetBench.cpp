@@ -125,7 +125,7 @@ struct SheetWorld {
         sheets.resize(drawable.size());
     }
 
-    SSDMaps maps = loadMaps(startedFolder());
+    SSDMaps maps = loadMaps(startedFolder()).maps;
     NotedPictures pictures;
     std::vector<std::string> ships;
     std::vector<Raster> sheets;  ///< of the first of these ships; the others repeat them
@@ -195,13 +195,13 @@ std::string pasteCommand(const std::string& out) {
     const SSDMaps::Map map = maps.at(fittingMaps(maps, screen.ship().mass(), count).at(0));
     lists.fillPoints(*map);
     QtPictureFiles files;
-    Raster raster = files.load(outlineFile(*map));
+    Raster raster = files.load(map->outlineFile());
     NotedPastes pastes(raster, screen.ship());
     const SheetImages images =
         pastes.noting(catalogueImages(startedFolder(), files, screen.ship()));
     drawSSD(pastes, images, *map, lists, sheetShip(screen.window()));
-    return "cd '" + startedFolder().string() + "' && convert '" + outlineFile(*map).string() + "'" +
-           pastes.words + " BMP3:'" + out + "'";
+    return "cd '" + startedFolder().string() + "' && convert '" + map->outlineFile().string() +
+           "'" + pastes.words + " BMP3:'" + out + "'";
 }
 
 void runProcess(benchmark::State& state, const std::string& command) {

@@ -1,14 +1,16 @@
 // Picture files and the scan of what they show. An input is a GIF file's bytes.
 
+#include "Error.h"
 #include "OutlineScan.h"
 #include "bmpFile.h"
 #include "checkMapPlaces.h"
-#include "plainGif.h"
+#include "gifPicture.h"
 #include "require.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 using namespace fleetwright;
 
@@ -26,18 +28,21 @@ std::size_t marksIn(const Raster& picture) {
     return marks;
 }
 
+/// The picture in the bytes of a GIF file, if there is one.
+std::optional<Raster> pictureIn(std::string_view bytes) {
+    constexpr std::int64_t mostPixels = 511 * 511;  // large ones only take long
+    try {
+        return gifPicture(bytes, mostPixels);
+    } catch (const Error&) {
+        return std::nullopt;
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string bytes(reinterpret_cast<const char*>(data), size);
-    // Large pictures only take long: sides are held to 511 pixels, on the screen and in the image.
-    constexpr std::size_t screenSize = 6;
-    for (const std::size_t place : {screenSize + 1, screenSize + 3}) {
-        if (place < bytes.size()) {
-            bytes[place] = static_cast<char>(bytes[place] & 1);
-        }
-    }
-    const std::optional<Raster> picture = plainGif(bytes);
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    const std::optional<Raster> picture = pictureIn(bytes);
     if (!picture) {
         return 0;
     }
@@ -45,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(map.image == "input.gif", "any picture can be scanned");
     require(map.unread.empty() && map.places.size() == marksIn(*picture),
             "each mark is a place of the map");
-    const std::optional<Raster> again = plainGif(bytes + "behind");
+    const std::optional<Raster> again = pictureIn(bytes + "behind");
     require(again && bmpFile(*again) == bmpFile(*picture),
             "what stands behind a picture is let be");
     return 0;

@@ -44,4 +44,11 @@ inline std::string complaint(const FileError& error) {
     return shownText(error.file().string()) + ": " + error.what();
 }
 
+/// What has gone wrong with a file, for a line that begins with its name. Where it is another file
+/// that is at fault, that is named.
+inline std::string faultOf(const std::filesystem::path& file, const Error& error) {
+    const auto* const failed = dynamic_cast<const FileError*>(&error);
+    return failed == nullptr || failed->file() == file ? error.what() : complaint(*failed);
+}
+
 }  // namespace fleetwright

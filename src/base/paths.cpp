@@ -57,6 +57,33 @@ std::error_code makeIfMissing(const fs::path& folder) {
     return error && !fs::is_directory(folder, unknown) ? error : syncFolder(folder.parent_path());
 }
 
+/// Whether a name, its folders parted by "/", leads elsewhere whatever there is on the disk.
+bool leadsOut(std::string_view name, const fs::path& path) {
+    constexpr char parent[] = "..";
+    const bool hasDrive = name.size() > 1 && name[1] == ':';
+    return hasDrive || name.starts_with('/') || name.find('\0') != std::string_view::npos ||
+           std::find(path.begin(), path.end(), parent) != path.end();
+}
+
+/// Whether a link among the last parts of a path, so many of them, leads out of the folder that
+/// they stand in.
+bool isLinkedOut(const fs::path& file, std::ptrdiff_t parts) {
+    bool hasLink = false;
+    fs::path folder = file;
+    std::error_code unknown;
+    for (; parts > 0; --parts) {
+        hasLink = hasLink || fs::is_symlink(folder, unknown);
+        folder = folder.parent_path();
+    }
+    if (!hasLink) {
+        return false;
+    }
+    const fs::path end = fs::canonical(file, unknown);
+    const fs::path inside = fs::canonical(folder.empty() ? "." : folder, unknown);
+    const auto [left, other] = std::mismatch(inside.begin(), inside.end(), end.begin(), end.end());
+    return !end.empty() && left != inside.end();
+}
+
 fs::path variable(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? fs::path() : fs::path(value);
@@ -132,6 +159,21 @@ fs::path findFile(const fs::path& file) {
         }
     }
     return found;
+}
+
+fs::path fileBelow(const fs::path& folder, std::string_view name) {
+    std::string text(name);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    const fs::path below = nativePath(text);
+    const auto parts = std::distance(below.begin(), below.end());
+    if (!leadsOut(text, below)) {
+        fs::path file = findFile(folder / below);
+        if (!isLinkedOut(file, parts)) {
+            return file;
+        }
+    }
+    throw FileError(nativePath(pathText(folder) + '/' + text),
+                    "leads out of the folder " + quote(pathText(folder.filename())));
 }
 
 fs::path userDataFolder() {

@@ -29,6 +29,12 @@ void makeFolder(const std::filesystem::path& folder);
 /// name whose path differs from it only in case. The path itself if there is none at all.
 std::filesystem::path findFile(const std::filesystem::path& file);
 
+/// The file that a name means below a folder, whatever its case; "/" and "\\" part the names of
+/// folders alike. Where there is none, the path that it would have. Such names stand in files of
+/// strangers: throws FileError for one that leads out of the folder, be it with "..", from the root
+/// or a drive on, or by way of a link. The folder itself may be a link to anywhere.
+std::filesystem::path fileBelow(const std::filesystem::path& folder, std::string_view name);
+
 /// Where the program keeps what belongs to the user: the folder "FleetWright" in the desktop's
 /// folder for such data, which is $XDG_DATA_HOME or else "~/.local/share". It need not exist yet.
 /// Throws FileError if the user has no home.

@@ -1,5 +1,6 @@
 #include "ShipOnScreen.h"
 
+#include "Error.h"
 #include "PictureFiles.h"
 #include "SilentServices.h"
 
@@ -38,7 +39,7 @@ public:
 };
 
 ShipOnScreen::ShipOnScreen(const std::filesystem::path& appFolder)
-    : ShipOnScreen(appFolder, appFolder / "weaps.dat") {}
+    : ShipOnScreen(appFolder, CatalogueFile::readOnce(appFolder / "weaps.dat")) {}
 
 ShipOnScreen::ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile)
     : m_appFolder(std::move(appFolder)), m_catalogueFile(std::move(catalogueFile)) {}
@@ -46,13 +47,13 @@ ShipOnScreen::ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalo
 ShipOnScreen::~ShipOnScreen() = default;
 
 std::optional<Fault> ShipOnScreen::load(const std::string& file) {
+    m_catalogueFile.read();  // the window would not say what is wrong with it
     m_program = std::make_unique<Program>(m_appFolder, m_catalogueFile);
     frmMain& window = m_program->window;
     try {
         window.show();
     } catch (const EndOfProgram&) {
-        Catalogue().loadWeaps(m_catalogueFile);  // throws what the window has not said
-        throw;
+        throw FileError(m_catalogueFile.path(), "no ship can be made of it");
     }
     if (!window.files.loadFile(file)) {
         return window.files.fileFault;

@@ -17,7 +17,7 @@ class frmMain;
 class ShipOnScreen {
 public:
     explicit ShipOnScreen(const std::filesystem::path& appFolder);
-    /// The same, with that folder's catalogue, which all who share it read once.
+    /// The same, with that folder's catalogue, which is to be one that is read once.
     ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile);
     ShipOnScreen(const ShipOnScreen&) = delete;
     ShipOnScreen& operator=(const ShipOnScreen&) = delete;
@@ -25,7 +25,7 @@ public:
 
     /// Starts the program, loads a ship file as the Load command does, and lets one tick of the
     /// refresh timer pass. Returns why the file does not load, or nothing. Throws FileError when
-    /// the catalogue cannot be read.
+    /// the catalogue cannot be used.
     std::optional<Fault> load(const std::string& file);
 
     /// Chooses AutoMass from the menu.

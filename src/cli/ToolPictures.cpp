@@ -4,10 +4,6 @@
 #include "bmpFile.h"
 #include "modules.h"
 #include "picturesModule.h"
-#include "plainGif.h"
-#include "readFile.h"
-
-#include <optional>
 
 namespace fleetwright {
 
@@ -26,11 +22,8 @@ const Pictures& loadPictures(const std::filesystem::path& programFolder) {
 
 }  // namespace
 
-Raster ToolPictures::load(const std::filesystem::path& file) {
-    if (std::optional<Raster> picture = plainGif(readBytes(file))) {
-        return std::move(*picture);
-    }
-    return loadPictures(m_programFolder).files.load(file);
+Raster ToolPictures::decode(const std::string& bytes, const std::string& format) {
+    return loadPictures(m_programFolder).files.decode(bytes, format);
 }
 
 Raster ToolPictures::builtIn(const std::string& name) {

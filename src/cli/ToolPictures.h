@@ -1,22 +1,22 @@
 #pragma once
 
 #include "Pages.h"
-#include "PictureFiles.h"
+#include "PictureReader.h"
 
 #include <filesystem>
 #include <memory>
 
 namespace fleetwright {
 
-/// Picture files as the tool reads and makes them: plain GIF files and bitmaps by itself, all
-/// others with the module, which is loaded when it is first needed. Any number of threads may use
+/// Picture files as the tool reads and makes them: it reads GIF files and makes bitmaps by itself,
+/// all else with the module, which is loaded when it is first needed. Any number of threads may use
 /// it. Whatever needs the module throws FileError if that cannot be loaded.
-class ToolPictures : public PictureFiles, public PictureEncoder {
+class ToolPictures : public PictureReader, public PictureEncoder {
 public:
     explicit ToolPictures(std::filesystem::path programFolder)
         : m_programFolder(std::move(programFolder)) {}
 
-    Raster load(const std::filesystem::path& file) override;
+    Raster decode(const std::string& bytes, const std::string& format) override;
     Raster builtIn(const std::string& name) override;
     std::string encode(const Raster& picture, const std::string& format) override;
     /// A document of such pages.

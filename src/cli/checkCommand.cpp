@@ -43,9 +43,12 @@ std::vector<Fault> checkCatalogueFile(const Options& options, const fs::path& fi
     const fs::path images = file.parent_path() / "images";
     if (fs::is_directory(images)) {
         ToolPictures pictures(options.programFolder);
-        PictureCheck check(images, pictures);
-        for (Fault& fault : check.checkCatalogue(catalogue)) {
-            faults.push_back(std::move(fault));
+        try {
+            for (Fault& fault : PictureCheck(images, pictures).checkCatalogue(catalogue)) {
+                faults.push_back(std::move(fault));
+            }
+        } catch (const FileError& error) {
+            faults.push_back({0, complaint(error)});
         }
         sortByLine(faults);
     }
@@ -68,23 +71,36 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options,
     }
     ToolPictures pictures(options.programFolder);
     PictureCheck check(images, pictures);
-    check.checkCatalogue(*catalogue);
-    return check.checkRest();
+    try {
+        check.checkCatalogue(*catalogue);
+        return check.checkRest();
+    } catch (const FileError& error) {
+        return {{error.file(), {0, error.what()}}};
+    }
+}
+
+/// The outline of a map; empty if there is none, which the check of the lines says.
+Raster outlineOf(const Options& options, const MapPlaces& places, std::vector<Fault>& faults) {
+    fs::path outline;
+    try {
+        outline = outlineFile(options.appFolder, places.image);
+        if (std::error_code unknown; fs::is_regular_file(outline, unknown)) {
+            return ToolPictures(options.programFolder).load(outline);
+        }
+    } catch (const FileError& error) {
+        if (error.file() == outline) {
+            faults.push_back({places.imageLine, "the outline " + std::string(error.what())});
+        } else if (!outline.empty()) {
+            faults.push_back({places.imageLine, complaint(error)});
+        }
+    }
+    return {};
 }
 
 std::vector<Fault> checkMap(const Options& options, const std::string& text) {
     std::vector<Fault> faults = checkMapFile(text, options.appFolder);
     const MapPlaces places = readMapPlaces(text);
-    const fs::path outline = findFile(nativePath(outlinePath(options.appFolder, places.image)));
-    Raster picture;
-    if (std::error_code error; fs::is_regular_file(outline, error)) {
-        try {
-            picture = ToolPictures(options.programFolder).load(outline);
-        } catch (const FileError& fault) {
-            faults.push_back({places.imageLine, "the outline " + std::string(fault.what())});
-        }
-    }
-    for (Fault& fault : checkMapPlaces(places, picture)) {
+    for (Fault& fault : checkMapPlaces(places, outlineOf(options, places, faults))) {
         faults.push_back(std::move(fault));
     }
     sortByLine(faults);
@@ -106,8 +122,7 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
         }
         return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {
-        const bool isOwn = error.file() == nativePath(file);
-        return {{0, (isOwn ? "" : shownText(error.file().string()) + " ") + error.what()}};
+        return {{0, faultOf(nativePath(file), error)}};
     }
 }
 
@@ -117,7 +132,7 @@ int runCheck(const Options& options) {
         printResults(resultLine(complaint(file, fault)));
         status = SomeRefused;
     };
-    const CatalogueFile catalogueFile(options.appFolder / "weaps.dat");
+    const auto catalogueFile = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
     std::vector<std::string> files = options.words;
     if (files.empty()) {
         files.push_back(catalogueFile.path().string());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CommandRow.h"
+#include "SSDMaps.h"
 #include "ShipClass.h"
 
 #include <functional>
@@ -21,6 +22,10 @@ enum class RefusedLines { InOutput, AsComplaints };
 int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t index)>& taken = {});
+
+/// The maps of the application folder. Those that cannot be used are named on standard error, and
+/// `status` becomes SomeRefused.
+LoadedMaps mapsOf(const Options& options, int& status);
 
 /// One ship's JSON object, without a line end.
 std::string figuresOf(const std::string& file, ShipClass& ship);

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "SSDMaps.h"
 #include "ShipOnScreen.h"
 #include "frmMain.h"
 #include "frmMapper.h"
@@ -26,6 +27,15 @@ public:
 
 Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std::string& mapName) {
     const frmMain& main = screen.window();
+    const std::int32_t mass = main.g_Ship->mass();
+    if (mapName.empty() && !getsSheet(mass, tools.maps.g_iLargestSSD)) {
+        throw Error("a ship of mass " + std::to_string(mass) +
+                    " is too heavy for a sheet; maps serve " +
+                    std::to_string(tools.maps.g_iLargestSSD) + " at the most");
+    }
+    if (const DroppedMap* const map = tools.maps.whyDropped(mapName)) {
+        throw Error("the map cannot be used: " + complaint(map->file.string(), map->fault));
+    }
     SilentDesktop desktop;
     const SheetImages images = catalogueImages(tools.appFolder, tools.pictures, *main.g_Ship);
     frmMapper mapper({.appFolder = tools.appFolder,
@@ -33,7 +43,7 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
                       .pictures = tools.pictures,
                       .encoder = tools.encoder,
                       .images = images,
-                      .g_colSSDMaps = tools.maps,
+                      .g_colSSDMaps = tools.maps.maps,
                       .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
                       .ship = [&] { return sheetShip(main); }});
     mapper.show();

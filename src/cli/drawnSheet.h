@@ -9,15 +9,15 @@ namespace fleetwright {
 
 class PictureEncoder;
 class PictureFiles;
-class SSDMaps;
 class ShipOnScreen;
+struct LoadedMaps;
 
 /// What sheets are drawn with.
 struct SheetTools {
     std::filesystem::path appFolder;
     PictureFiles& pictures;
     PictureEncoder& encoder;
-    const SSDMaps& maps;
+    const LoadedMaps& maps;
 };
 
 /// The sheet of a ship on the map of this name, or on the first one that is offered for it if the

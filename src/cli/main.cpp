@@ -43,6 +43,9 @@ int main(int argc, char** argv) {
         complain(complaint(error));
     } catch (const std::exception& error) {
         complain(std::string("fleetwright-cli: ") + error.what());
+    } catch (...) {
+        complain(
+            "fleetwright-cli: cannot go on");  // a window that ends its program does not say why
     }
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         std::perror("standard output");

@@ -27,7 +27,8 @@ Result scanFile(PictureFiles& pictures, const std::string& file) {
     try {
         return {.output = scanOutline(pictures.load(nativePath(file)), file), .complaints = {}};
     } catch (const FileError& error) {
-        return {.output = {}, .complaints = {complaint(file, {0, error.what()})}};
+        return {.output = {},
+                .complaints = {complaint(file, {0, faultOf(nativePath(file), error)})}};
     } catch (const OverflowError&) {
         return {.output = {}, .complaints = {complaint(file, {0, "is too large for a map"})}};
     }

@@ -2,7 +2,6 @@
 
 #include "Error.h"
 #include "PictureCache.h"
-#include "SSDMaps.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "drawnSheet.h"
@@ -10,6 +9,7 @@
 #include "saveResult.h"
 #include "text.h"
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <optional>
@@ -111,23 +111,15 @@ std::string formatOf(const fs::path& file) {
     return sheetFormat(pathText(file)).value_or("bmp");
 }
 
-void save(const fs::path& file, std::string_view bytes) {
-    try {
-        saveResult(file, bytes);
-    } catch (const FileError& error) {
-        throw Error(complaint(error));
-    }
-}
-
 int drawFiles(const Options& options, const SheetTools& tools) {
     const SheetFiles files(options);
-    return forEachShip(
-        options, RefusedLines::AsComplaints, [&](std::size_t index, ShipOnScreen& screen) {
-            const fs::path& file = files.of(index);
-            save(file, tools.encoder.encode(drawnSheet(screen, tools, options.value("--map")),
-                                            formatOf(file)));
-            return std::string();
-        });
+    return forEachShip(options, RefusedLines::AsComplaints,
+                       [&](std::size_t index, ShipOnScreen& screen) {
+                           const fs::path& file = files.of(index);
+                           const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
+                           saveResult(file, tools.encoder.encode(sheet, formatOf(file)));
+                           return std::string();
+                       });
 }
 
 int drawDocument(const Options& options, const SheetTools& tools, Pages& pages) {
@@ -158,13 +150,14 @@ int runSheet(const Options& options) {
     }
     ToolPictures pictures(options.programFolder);
     PictureCache cache(pictures);
-    const SSDMaps maps = loadMaps(options.appFolder);
+    int status = Done;
+    const LoadedMaps maps = mapsOf(options, status);
     const SheetTools tools{options.appFolder, cache, pictures, maps};
     if (sheetOut(options) == SheetOut::Document) {
         const std::unique_ptr<Pages> pages = pictures.newPages(paperOf(options.value("--paper")));
-        return drawDocument(options, tools, *pages);
+        return std::max(status, drawDocument(options, tools, *pages));
     }
-    return drawFiles(options, tools);
+    return std::max(status, drawFiles(options, tools));
 }
 
 }  // namespace
@@ -191,7 +184,8 @@ extern const CommandRow sheetCommand = {
     .details =
         "The sheet is drawn on the outline of the map NAME, or else of the first one that is "
         "offered for the ship. A folder is made if it is not there, and gets a .bmp file "
-        "each, named after the ship files. A .pdf takes any number of ships, a page each; "
+        "each, named after the ship files. Maps that cannot be used are named as errors. A .pdf "
+        "takes any number of ships, a page each; "
         "the sheets have their natural size or are shrunk to the margins of the paper. The "
         "pictures must have been unpacked.",
     .check = checkSheet,

@@ -5,6 +5,7 @@
 #include "ShipOnScreen.h"
 #include "console.h"
 #include "inOrder.h"
+#include "paths.h"
 
 #include <cstdio>
 #include <thread>
@@ -49,7 +50,7 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<void(std::size_t)>& taken) {
     int status = Done;
     Progress progress(options.words.size());
-    const CatalogueFile catalogueFile(options.appFolder / "weaps.dat");
+    const auto catalogueFile = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
     const auto load = [&](std::size_t index) {
         const std::string& file = options.words[index];
         ShipOnScreen screen(options.appFolder, catalogueFile);
@@ -61,7 +62,7 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
         try {
             result.output = work(index, screen);
         } catch (const Error& error) {
-            result.complaints.push_back(complaint(file, {0, error.what()}));
+            result.complaints.push_back(complaint(file, {0, faultOf(nativePath(file), error)}));
             return result;
         }
         if (refusedLines == RefusedLines::AsComplaints) {

@@ -47,6 +47,7 @@ CatalogueText::CatalogueText(std::string text) : m_text(std::move(text)) {
 /// What was read last, and the stamp that the file had before it was read.
 struct CatalogueFile::Cache {
     std::filesystem::path path;
+    bool isReadOnce = false;
     std::mutex mutex{};
     std::optional<FileStamp> stamp{};
     std::shared_ptr<const CatalogueText> catalogue{};
@@ -56,12 +57,21 @@ std::shared_ptr<CatalogueFile::Cache> CatalogueFile::make(std::filesystem::path 
     return std::shared_ptr<Cache>(new Cache{.path = std::move(path)});
 }
 
+CatalogueFile CatalogueFile::readOnce(const std::filesystem::path& path) {
+    CatalogueFile file(path);
+    file.m_cache->isReadOnce = true;
+    return file;
+}
+
 const std::filesystem::path& CatalogueFile::path() const {
     return m_cache->path;
 }
 
 std::shared_ptr<const CatalogueText> CatalogueFile::read() const {
     const std::lock_guard lock(m_cache->mutex);
+    if (m_cache->isReadOnce && m_cache->catalogue) {
+        return m_cache->catalogue;
+    }
     const std::optional<FileStamp> stamp = fileStamp(m_cache->path);
     if (!stamp || stamp->isFresh || stamp != m_cache->stamp) {
         std::string text = readTextFile(m_cache->path);

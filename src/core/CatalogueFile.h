@@ -59,6 +59,10 @@ private:
 /// read again when it has changed. Copies share what was read, in all threads.
 class CatalogueFile {
 public:
+    /// A file of which all see what it held when the first one could read it, whatever becomes of
+    /// it.
+    static CatalogueFile readOnce(const std::filesystem::path& path);
+
     template <typename Path>
     requires std::convertible_to<const Path&, std::filesystem::path> CatalogueFile(const Path& path)
         : m_cache(make(path)) {}

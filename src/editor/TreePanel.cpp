@@ -59,8 +59,7 @@ void TreePanel::LoadWeaponTree() {
             services().progress.setText("Loading: " + std::string(fields.name));
             services().progress.repaint();
         }
-        Raster picture =
-            pictures.load(findFile(services().appFolder / "images" / nativePath(fields.icon)));
+        Raster picture = pictures.load(fileBelow(services().appFolder / "images", fields.icon));
         const std::string categoryKey = toCapitals(fields.categoryKey);
         const std::string key = fields.isCategory() ? categoryKey : std::string(fields.name);
         ilWeapons.add(key, std::move(picture));

@@ -3,6 +3,8 @@
 #include "Desktop.h"
 #include "Globals.h"
 #include "frmExtras.h"
+#include "paths.h"
+#include "text.h"
 
 namespace fleetwright {
 
@@ -11,7 +13,26 @@ WindowCommands::WindowCommands(const PanelContext& context, MenuEntry& mnuExtras
     : Panel(context), m_extras(mnuExtras), m_helpTop(mnuHelpTop) {}
 
 void WindowCommands::show() {
-    mnuSSD.setEnabled(ship().mass() <= services().globals.g_iLargestSSD);
+    mnuSSD.setEnabled(getsSheet(ship().mass(), services().globals.g_iLargestSSD));
+}
+
+void WindowCommands::sayDroppedMaps() {
+    const std::vector<DroppedMap>& dropped = services().globals.droppedMaps;
+    if (dropped.empty()) {
+        return;
+    }
+    const auto nameOf = [](const DroppedMap& map) { return pathText(map.file.filename()); };
+    if (dropped.size() == 1) {
+        const std::string name = nameOf(dropped.front());
+        window().say((name == "maps" ? "No map can be used: " : "1 map cannot be used: ") +
+                     complaint(name, dropped.front().fault));
+        return;
+    }
+    std::string names;
+    for (const DroppedMap& map : dropped) {
+        names += (names.empty() ? "" : ", ") + nameOf(map);
+    }
+    window().say(std::to_string(dropped.size()) + " maps cannot be used: " + shownText(names));
 }
 
 void WindowCommands::mnuExtrasPage_Click() {

@@ -12,6 +12,8 @@ public:
 
     /// Only a ship that a map serves gets a sheet.
     void show();
+    /// Says which maps the start has dropped, if any.
+    void sayDroppedMaps();
 
 private:
     MenuEntry& m_extras;

@@ -61,7 +61,8 @@ void frmMain::Form_Load() {
     loadStep(m_services.desktop, "Error filling MRU File Object", [this] { fillMRU(); });
     m_services.progress.setText("Weapons Loaded");
     RefreshScreen();
-    recovery.showRecovered();
+    windows.sayDroppedMaps();
+    recovery.showRecovered();  // has the last word
     g_bLoaded = true;
 }
 

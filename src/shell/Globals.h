@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -27,7 +28,8 @@ struct Globals {
     bool g_bConfirmExit = true;  ///< closing asks when the ship is not saved
     /// The designer of the first ship of a run.
     std::string g_sDefaultDesigner = "Nils's Iron Vector Ship Creator";
-    SSDMaps g_colSSDMaps;            ///< all maps that were read
+    SSDMaps g_colSSDMaps;                 ///< all maps that were read
+    std::vector<DroppedMap> droppedMaps;  ///< those that were not
     std::int16_t g_iLargestSSD = 0;  ///< mass of the largest ship that a map serves; at most 100
 
     /// Reads the settings. A switch is on only where the text is "True" to the letter.

@@ -4,7 +4,7 @@
 #include "Error.h"
 #include "PictureFiles.h"
 #include "SheetPictures.h"
-#include "readFile.h"
+#include "paths.h"
 #include "text.h"
 
 #include <algorithm>
@@ -15,12 +15,6 @@ namespace fleetwright {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Whether the end of a GIF file is missing.
-bool isCutShort(std::string_view bytes) {
-    constexpr char trailer = 0x3B;
-    return bytes.starts_with("GIF") && !bytes.ends_with(trailer);
-}
 
 bool isPicture(const fs::path& file) {
     constexpr std::array<std::string_view, 5> extensions = {".GIF", ".BMP", ".JPG", ".JPEG",
@@ -44,45 +38,52 @@ PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth
     }
 }
 
-PictureCheck::Entry* PictureCheck::find(std::string_view name) {
+/// The file of this name, which is in use then; null if there is none.
+const fs::path* PictureCheck::find(std::string_view name) {
     const auto found = m_entries.find(toCapitals(name));
     if (found == m_entries.end()) {
         return nullptr;
     }
     found->second.isUsed = true;
-    return &found->second;
+    return &found->second.file;
 }
 
-/// Throws FileError.
-Raster PictureCheck::read(const fs::path& file) const {
-    if (m_depth == All && isCutShort(readBytes(file))) {
-        throw FileError(file, "is cut short");
-    }
-    return m_pictures.load(file);
-}
-
-bool PictureCheck::isReadable(const fs::path& file) const {
+/// What keeps a picture from being read; nothing if it can be. Throws FileError for another file.
+std::optional<std::string> PictureCheck::readingFault(const fs::path& file, Raster& picture) const {
     try {
-        read(file);
-        return true;
-    } catch (const FileError&) {
-        return false;
+        picture = m_pictures.load(file);
+        return std::nullopt;
+    } catch (const FileError& error) {
+        if (error.file() != file) {
+            throw;
+        }
+        return error.what();
     }
 }
 
 /// What is wrong with the picture of a system; nothing if it is as it should be.
-std::optional<std::string> PictureCheck::systemPictureFault(const fs::path& file) const {
+std::optional<std::string> PictureCheck::systemPictureFault(std::string_view name) {
+    fs::path file;
     try {
-        const Raster picture = read(file);
-        if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
-            return std::nullopt;
-        }
-        const std::string side = std::to_string(systemPictureSize);
-        return "is " + std::to_string(picture.width()) + " by " + std::to_string(picture.height()) +
-               " pixels, not " + side + " by " + side;
-    } catch (const FileError&) {
-        return "cannot be read";
+        file = fileBelow(m_folder, name);
+    } catch (const FileError& error) {
+        return error.what();
     }
+    std::error_code unknown;
+    if (!fs::exists(file, unknown)) {
+        return "is missing";
+    }
+    find(file.lexically_relative(m_folder).generic_string());
+    Raster picture;
+    if (auto fault = readingFault(file, picture)) {
+        return fault;
+    }
+    if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
+        return std::nullopt;
+    }
+    const std::string side = std::to_string(systemPictureSize);
+    return "is " + std::to_string(picture.width()) + " by " + std::to_string(picture.height()) +
+           " pixels, not " + side + " by " + side;
 }
 
 std::vector<Fault> PictureCheck::checkCatalogue(const CatalogueText& catalogue) {
@@ -96,9 +97,7 @@ std::vector<Fault> PictureCheck::checkCatalogue(const CatalogueText& catalogue) 
             }
             continue;
         }
-        const Entry* const entry = find(icon);
-        const auto fault = entry == nullptr ? "is missing" : systemPictureFault(entry->file);
-        if (fault) {
+        if (const auto fault = systemPictureFault(icon)) {
             faults.push_back({line.number, "picture " + quote(icon) + " " + *fault});
         }
     }
@@ -108,11 +107,12 @@ std::vector<Fault> PictureCheck::checkCatalogue(const CatalogueText& catalogue) 
 std::vector<PictureFault> PictureCheck::checkRest() {
     std::vector<PictureFault> faults;
     for (const std::string& name : sheetPictures()) {
-        const Entry* const entry = find(name);
-        if (entry == nullptr) {
+        const fs::path* const file = find(name);
+        Raster ignored;
+        if (file == nullptr) {
             faults.push_back({m_folder / name, {0, "is missing; sheets need it"}});
-        } else if (!isReadable(entry->file)) {
-            faults.push_back({entry->file, {0, "cannot be read"}});
+        } else if (const auto fault = readingFault(*file, ignored)) {
+            faults.push_back({*file, {0, *fault}});
         }
     }
     for (const auto& [name, entry] : m_entries) {

@@ -27,14 +27,15 @@ public:
     /// How much is looked for.
     enum Depth {
         Start,  ///< what keeps the program from starting
-        All,    ///< also pictures that were cut short, of which decoders show what there is
+        All,    ///< what a check of the catalogue itself does not say
     };
 
     /// `pictures` decodes; it outlives the check.
     PictureCheck(const std::filesystem::path& folder, PictureFiles& pictures, Depth depth = All);
 
     /// The pictures that the records of a catalogue name, each with the line of its record: those
-    /// that are missing, that cannot be read or that have another size than systems have.
+    /// that are missing, that lie elsewhere, that cannot be read or that have another size than
+    /// systems have. Throws FileError if something else than a picture fails.
     std::vector<Fault> checkCatalogue(const CatalogueText& catalogue);
 
     /// The pictures that sheets need besides those, and the pictures that neither they nor the
@@ -48,10 +49,10 @@ private:
         bool isUsed = false;
     };
 
-    Entry* find(std::string_view name);
-    Raster read(const std::filesystem::path& file) const;
-    bool isReadable(const std::filesystem::path& file) const;
-    std::optional<std::string> systemPictureFault(const std::filesystem::path& file) const;
+    const std::filesystem::path* find(std::string_view name);
+    std::optional<std::string> readingFault(const std::filesystem::path& file,
+                                            Raster& picture) const;
+    std::optional<std::string> systemPictureFault(std::string_view name);
 
     std::filesystem::path m_folder;
     PictureFiles& m_pictures;

@@ -58,8 +58,10 @@ void frmSplash::Form_Load() {
     loadFormulaLibrary();
     checkCatalogue();
     setText("Loading SSD Maps....");
-    scanMaps(m_services.appFolder, m_services.globals.g_colSSDMaps,
-             m_services.globals.g_iLargestSSD, [this](const std::string& text) { setText(text); });
+    Globals& globals = m_services.globals;
+    globals.droppedMaps =
+        scanMaps(m_services.appFolder, globals.g_colSSDMaps, globals.g_iLargestSSD,
+                 [this](const std::string& text) { setText(text); });
     setText("Finished Loading SSD Maps....");
     Timer1.setEnabled(true);
     m_services.mainWindow().load();

@@ -26,6 +26,17 @@ std::string readMapFile(const fs::path& appFolder, const std::string& name) {
     }
 }
 
+fs::path outlineFolder(const fs::path& appFolder) {
+    return appFolder / "shipimages";
+}
+
+/// Where a map's IMAGE value says that the outline is.
+std::string outlinePath(const fs::path& appFolder, std::string_view imageValue) {
+    std::string name = toCapitals(imageValue);
+    std::replace(name.begin(), name.end(), '\\', '/');
+    return pathText(outlineFolder(appFolder)) + '/' + name;
+}
+
 /// Adds a point; the count is checked before anything changes.
 void append(std::vector<SSDPoint>& points, std::int16_t& count, SSDPoint&& point) {
     const auto newCount = narrow<std::int16_t>(count + 1);
@@ -76,7 +87,7 @@ void SSDMap::readLine(const SSDMapLine& line) {
         iMaxMass = mapNumber(line.value);
         return;
     case MapKeyword::Image:
-        sImgFile = outlinePath(m_appFolder, line.value);
+        sImgFile = outlinePath(m_appFolder, line.value);  // where that leads is asked at its use
         return;
     case MapKeyword::Weap:
         return append(m_aWeapPnts, iWeapNDX, mapPoint(line));
@@ -105,14 +116,16 @@ const SSDPoint& SSDMap::at(const std::vector<SSDPoint>& points, std::int16_t ind
     return points[static_cast<std::size_t>(index)];
 }
 
-std::string outlinePath(const fs::path& appFolder, std::string_view imageValue) {
-    std::string name = toCapitals(imageValue);
-    std::replace(name.begin(), name.end(), '\\', '/');
-    return pathText(appFolder / "shipimages") + '/' + name;
+fs::path SSDMap::outlineFile() const {
+    if (sImgFile.empty()) {
+        throw Error("the map names no outline");
+    }
+    const std::size_t folderLength = outlinePath(m_appFolder, "").size();
+    return fleetwright::outlineFile(m_appFolder, sImgFile.substr(folderLength));
 }
 
-fs::path outlineFile(const SSDMap& map) {
-    return findFile(nativePath(map.sImgFile));
+fs::path outlineFile(const fs::path& appFolder, std::string_view imageValue) {
+    return fileBelow(outlineFolder(appFolder), toCapitals(imageValue));
 }
 
 }  // namespace fleetwright

@@ -40,6 +40,9 @@ public:
     /// unusable: FileError, NotANumberError, OverflowError, another Error for a value that is too
     /// short, InvalidMapError. `fileFault` then says why.
     void ImageFile(const std::string& in_sFileName);
+    /// The outline's file, whatever the case of its name. Throws Error if the map names none, or
+    /// one out of the folder of outlines.
+    std::filesystem::path outlineFile() const;
     /// What was wrong at the last load, and in which line.
     const std::optional<Fault>& fileFault() const { return m_fileFault; }
 
@@ -82,10 +85,8 @@ private:
     SSDPoint m_ptDam;
 };
 
-/// Path at which a map file's IMAGE value says that the outline is: below the folder of outlines.
-std::string outlinePath(const std::filesystem::path& appFolder, std::string_view imageValue);
-
-/// The outline's file, whatever the case of its name.
-std::filesystem::path outlineFile(const SSDMap& map);
+/// The file of the outline that a map's IMAGE value names. Throws FileError as `fileBelow` does.
+std::filesystem::path outlineFile(const std::filesystem::path& appFolder,
+                                  std::string_view imageValue);
 
 }  // namespace fleetwright

@@ -2,7 +2,6 @@
 
 #include "Error.h"
 #include "SSDMap.h"
-#include "paths.h"
 #include "text.h"
 
 #include <algorithm>
@@ -93,10 +92,13 @@ void MapChecker::checkSize(std::string_view value) {
 }
 
 void MapChecker::checkImage(std::string_view value) {
-    const fs::path outline = findFile(nativePath(outlinePath(m_appFolder, value)));
-    std::error_code error;
-    if (value.empty() || !fs::is_regular_file(outline, error)) {
-        complain("there is no outline " + quote(value));
+    try {
+        std::error_code error;
+        if (value.empty() || !fs::is_regular_file(outlineFile(m_appFolder, value), error)) {
+            complain("there is no outline " + quote(value));
+        }
+    } catch (const FileError& error) {
+        complain("the outline " + quote(value) + " " + error.what());
     }
 }
 

@@ -18,6 +18,10 @@ void SSDMaps::add(Map map) {
     m_maps.push_back(std::move(map));
 }
 
+bool SSDMaps::contains(std::string_view displayName) const {
+    return m_places.contains(toCapitals(displayName));
+}
+
 SSDMaps::Map SSDMaps::at(std::string_view displayName) const {
     const auto place = m_places.find(toCapitals(displayName));
     if (place == m_places.end()) {
@@ -26,29 +30,26 @@ SSDMaps::Map SSDMaps::at(std::string_view displayName) const {
     return m_maps[place->second];
 }
 
-namespace {
-
-std::vector<fs::path> mapFiles(const fs::path& appFolder) {
-    try {
-        return listFolder(appFolder / "maps", ".map");
-    } catch (const Error&) {
-        return {};
-    }
-}
-
-}  // namespace
-
-void scanMaps(const fs::path& appFolder, SSDMaps& g_colSSDMaps, std::int16_t& g_iLargestSSD,
-              const std::function<void(const std::string&)>& showText) {
+std::vector<DroppedMap> scanMaps(const fs::path& appFolder, SSDMaps& g_colSSDMaps,
+                                 std::int16_t& g_iLargestSSD,
+                                 const std::function<void(const std::string&)>& showText) {
     constexpr std::size_t endingLength = 4;
     constexpr std::int16_t largest = capitalMass;
-    for (const fs::path& file : mapFiles(appFolder)) {
+    std::vector<fs::path> files;
+    std::vector<DroppedMap> dropped;
+    try {
+        files = listFolder(appFolder / "maps", ".map");
+    } catch (const FileError& error) {
+        dropped.push_back({error.file(), {0, error.what()}});
+    }
+    for (const fs::path& file : files) {
         std::string name = pathText(file.filename());
         name.resize(name.size() - endingLength);
         const auto map = std::make_shared<SSDMap>(appFolder);
         try {
             map->ImageFile(name);
         } catch (const Error&) {
+            dropped.push_back({file, map->fileFault().value()});
             continue;
         }
         try {
@@ -60,13 +61,25 @@ void scanMaps(const fs::path& appFolder, SSDMaps& g_colSSDMaps, std::int16_t& g_
         g_iLargestSSD = std::max(g_iLargestSSD, map->iMaxMass);
     }
     g_iLargestSSD = std::min(g_iLargestSSD, largest);
+    return dropped;
 }
 
-SSDMaps loadMaps(const std::filesystem::path& appFolder) {
-    SSDMaps maps;
-    std::int16_t largest = 0;
-    scanMaps(appFolder, maps, largest, [](const std::string&) {});
-    return maps;
+LoadedMaps loadMaps(const std::filesystem::path& appFolder) {
+    LoadedMaps loaded;
+    loaded.dropped =
+        scanMaps(appFolder, loaded.maps, loaded.g_iLargestSSD, [](const std::string&) {});
+    return loaded;
+}
+
+const DroppedMap* LoadedMaps::whyDropped(std::string_view displayName) const {
+    const std::string wanted = toCapitals(displayName);
+    if (maps.contains(displayName)) {
+        return nullptr;
+    }
+    const auto found = std::find_if(dropped.begin(), dropped.end(), [&](const DroppedMap& map) {
+        return toCapitals(pathText(map.file.stem())) == wanted;
+    });
+    return found == dropped.end() ? nullptr : &*found;
 }
 
 std::vector<std::string> fittingMaps(const SSDMaps& maps, std::int32_t mass,

@@ -22,6 +22,7 @@ public:
 
     /// Adds a map under its display name. Throws Error if there is one of that name.
     void add(Map map);
+    bool contains(std::string_view displayName) const;
     /// The map of this name. Throws Error if there is none.
     Map at(std::string_view displayName) const;
     const std::vector<Map>& all() const { return m_maps; }
@@ -31,14 +32,34 @@ private:
     std::map<std::string, std::size_t> m_places;  // by name in capitals
 };
 
-/// Reads all map files of the application folder, by name without regard to case. Files that do
-/// not load are passed over without a word. `g_iLargestSSD` is raised to the largest mass that any
-/// of them serves, but to no more than 100. `showText` hears of each map that was read.
-void scanMaps(const std::filesystem::path& appFolder, SSDMaps& g_colSSDMaps,
-              std::int16_t& g_iLargestSSD, const std::function<void(const std::string&)>& showText);
+/// A map that cannot be read or understood, or the folder of maps if that cannot be listed.
+struct DroppedMap {
+    std::filesystem::path file;
+    Fault fault;
+};
 
-/// The maps as that scan finds them.
-SSDMaps loadMaps(const std::filesystem::path& appFolder);
+/// Reads all map files of the application folder, by name without regard to case, and returns those
+/// that it drops. `g_iLargestSSD` is raised to the largest mass that any of the others serves, but
+/// to no more than 100. `showText` hears of each map that was read.
+std::vector<DroppedMap> scanMaps(const std::filesystem::path& appFolder, SSDMaps& g_colSSDMaps,
+                                 std::int16_t& g_iLargestSSD,
+                                 const std::function<void(const std::string&)>& showText);
+
+/// What that scan finds.
+struct LoadedMaps {
+    SSDMaps maps;
+    std::int16_t g_iLargestSSD = 0;
+    std::vector<DroppedMap> dropped;
+
+    /// The map of this name if it is one of those, and no other of the name is there; else null.
+    const DroppedMap* whyDropped(std::string_view displayName) const;
+};
+LoadedMaps loadMaps(const std::filesystem::path& appFolder);
+
+/// Whether ships of this mass get sheets at all: none is heavier than what the scan has found.
+constexpr bool getsSheet(std::int32_t mass, std::int16_t g_iLargestSSD) {
+    return mass <= g_iLargestSSD;
+}
 
 /// The names of the maps that a ship fits on: of this mass, and with so many systems besides
 /// damage control parties.

@@ -18,7 +18,7 @@ namespace {
 std::function<Raster(std::string_view)> filesIn(const std::filesystem::path& appFolder,
                                                 PictureFiles& pictures) {
     return [folder = appFolder / "images", &pictures](std::string_view name) {
-        return pictures.load(findFile(folder / nativePath(name)));
+        return pictures.load(fileBelow(folder, name));
     };
 }
 

@@ -83,10 +83,7 @@ bool frmMapper::layOut() {
 /// Shows the outline of the map; false, with a message, if that fails.
 bool frmMapper::showOutline() {
     try {
-        if (m_Map->sImgFile.empty()) {
-            throw Error("the map names no outline");
-        }
-        picSSD.setPicture(m_services.pictures.load(outlineFile(*m_Map)));
+        picSSD.setPicture(m_services.pictures.load(m_Map->outlineFile()));
         fitToSheet();
         return true;
     } catch (const Error& error) {
@@ -109,7 +106,7 @@ void frmMapper::drawSheet() {
     } catch (const Error& error) {
         fail("Could not create the SSD!", "SSD Creation Error", error);
         try {
-            picSSD.setPicture(m_services.pictures.load(outlineFile(*m_Map)));
+            picSSD.setPicture(m_services.pictures.load(m_Map->outlineFile()));
         } catch (const FileError&) {
             picSSD.setPicture(Raster(sheet.scaleWidth(), sheet.scaleHeight()));
         }

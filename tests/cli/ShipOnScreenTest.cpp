@@ -1,5 +1,6 @@
 #include "ShipOnScreen.h"
 
+#include "Error.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>
@@ -49,6 +50,25 @@ TEST(ShipOnScreen, KeepsCodesThatHaveNoButton) {
     EXPECT_EQ(shown("Mass: 10\nThrust: 9"), "1 10 9 1 0 0, 53 5 2 1 1 5");
     // Nothing on the window changes, so that nothing is worked out anew.
     EXPECT_EQ(shown("Thrust: 12"), "1 2 12 1 0 0, 7 1 2 0 1 1");
+}
+
+TEST(ShipOnScreen, SeesOneCatalogueWhateverBecomesOfItsFile) {
+    const ShipYard yard;
+    const auto catalogue = CatalogueFile::readOnce(yard.folder().path() / "weaps.dat");
+    const std::string file = yard.folder().write("some.shp", "Mass: 40\nSystem: Gun, 1");
+    const auto cost = [&](const CatalogueFile& used) {
+        ShipOnScreen screen(yard.folder().path(), used);
+        return screen.load(file) ? -1 : screen.ship().g_lCost;
+    };
+    const std::int32_t before = cost(catalogue);
+    for (const char* const other : {"Gun,1,1000,BEAM,BEAM,F,x.gif", "no catalogue"}) {
+        yard.folder().write("weaps.dat", other);
+        EXPECT_EQ(cost(catalogue), before);
+    }
+    std::filesystem::remove(catalogue.path());
+    EXPECT_EQ(cost(catalogue), before);
+    // Nobody but a FileError says that there is none, the end of the program least of all.
+    EXPECT_THROW(cost(catalogue.path()), FileError);
 }
 
 TEST(ShipOnScreen, FitsTheMassAndShowsWhatItWrites) {

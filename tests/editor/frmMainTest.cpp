@@ -148,6 +148,8 @@ private:
             {"copies 2", [this] { m_test.copies = 2; }},
             {"no paper", [this] { m_test.printerFails = true; }},
             {"largest 4", [this] { m_test.globals.g_iLargestSSD = 4; }},
+            {"maps scanned",
+             [this] { m_test.globals.droppedMaps = loadMaps(m_test.folder().path()).dropped; }},
             {"catalogue fault", [this] { m_test.catalogueFaults = "weaps.dat:3: double key\n"; }},
             {"saved", [this] { m_test.ship().g_bSaved = true; }},
             {"name", [this] { m_test.ship().g_sShipName = "Renamed"; }},

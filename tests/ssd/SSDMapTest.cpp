@@ -81,7 +81,7 @@ TEST(SSDMap, FindsFilesWhateverTheCaseOfTheirNames) {
     SSDMap map(folder.path());
     map.ImageFile("Long Ship");
     EXPECT_EQ(map.sImgFile, folder.path().string() + "/shipimages/SUB/LONG.GIF");
-    EXPECT_EQ(outlineFile(map), folder.path() / "shipimages/Sub/Long.gif");
+    EXPECT_EQ(map.outlineFile(), folder.path() / "shipimages/Sub/Long.gif");
     EXPECT_THROW(map.ImageFile("Long"), FileError);
     EXPECT_EQ(map.fileFault()->text, "cannot be read: No such file or directory");
     EXPECT_EQ(map.fileFault()->line, 0);
@@ -121,5 +121,5 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
     EXPECT_EQ(maps.at("éCLAIR")->iMaxMass, 5);
     EXPECT_THROW(maps.at("Eclair"), Error);
     EXPECT_THROW(maps.add(maps.at("éclair")), Error);
-    EXPECT_TRUE(loadMaps(TemporaryFolder().path()).all().empty());
+    EXPECT_TRUE(loadMaps(TemporaryFolder().path()).maps.all().empty());
 }

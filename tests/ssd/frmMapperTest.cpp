@@ -31,7 +31,7 @@ struct Mapper : PictureEncoder {
         }
         outline("SHIP") = Raster(400, 100);
         outline("WIDE") = Raster(2185, 50);
-        maps = loadMaps(folder.path());
+        maps = loadMaps(folder.path()).maps;
     }
 
     std::string play(const std::string& acts) {

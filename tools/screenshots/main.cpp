@@ -100,7 +100,7 @@ void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path
     fs::create_directories(output);
     QtPictureFiles files;
     PictureCache cache(files);
-    const SSDMaps maps = loadMaps(appFolder);
+    const SSDMaps maps = loadMaps(appFolder).maps;
     for (const fs::path& ship : listFolder(ships, ".shp")) {
         ShipOnScreen screen(appFolder);
         if (screen.load(ship.string())) {
@@ -138,7 +138,7 @@ void showShip(frmMain& window, const fs::path& ship, const std::string& system) 
 void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& appFolder) {
     QtPictureFiles files;
     const SheetImages images = programImages(appFolder, files, form.tree.ilWeapons);
-    const SSDMaps maps = loadMaps(appFolder);
+    const SSDMaps maps = loadMaps(appFolder).maps;
     frmMapper mapper({.appFolder = appFolder,
                       .desktop = desktop,
                       .pictures = files,

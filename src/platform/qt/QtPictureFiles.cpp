@@ -1,7 +1,9 @@
 #include "QtPictureFiles.h"
 
 #include "Error.h"
+#include "QtMessages.h"
 #include "bmpFile.h"
+#include "checkPng.h"
 #include "qtImage.h"
 
 #include <QBuffer>
@@ -27,28 +29,35 @@ QImage onWhite(QImage image) {
     return paper;
 }
 
-Raster read(const QString& name, const std::filesystem::path& file) {
-    QFile device(name);
-    if (!device.open(QIODevice::ReadOnly)) {
-        throw FileError(file, "cannot be read: " + device.errorString().toStdString());
+}  // namespace
+
+Raster QtPictureFiles::decode(const std::string& bytes, const std::string& format) {
+    if (format == "png") {
+        checkPng(bytes);
     }
-    QImageReader reader(&device);
+    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, QByteArray::fromStdString(format));
+    reader.setAutoDetectImageFormat(false);
+    const QtMessages messages;
     const QImage image = reader.read();
-    if (image.isNull()) {
-        throw FileError(file, "cannot be read: " + reader.errorString().toStdString());
+    // The decoder of JPEG makes up what is missing or damaged, and only says so.
+    if (image.isNull() || (format == "jpg" && !messages.first().empty())) {
+        throw Error("cannot be read: " + (messages.first().empty()
+                                              ? reader.errorString().toStdString()
+                                              : messages.first()));
     }
     return toRaster(onWhite(image));
 }
 
-}  // namespace
-
-Raster QtPictureFiles::load(const std::filesystem::path& file) {
-    return read(QString::fromStdString(file.string()), file);
-}
-
 Raster QtPictureFiles::builtIn(const std::string& name) {
     const std::string resource = ":/pictures/" + name;
-    return read(QString::fromStdString(resource), resource);
+    QFile file(QString::fromStdString(resource));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw FileError(resource, "cannot be read: " + file.errorString().toStdString());
+    }
+    return read(file.readAll().toStdString());
 }
 
 std::string QtPictureFiles::encode(const Raster& picture, const std::string& format) {

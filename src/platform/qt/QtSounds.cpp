@@ -1,5 +1,7 @@
 #include "QtSounds.h"
 
+#include "Error.h"
+#include "OpenFile.h"
 #include "modules.h"
 #include "soundsModule.h"
 
@@ -11,6 +13,11 @@ bool QtSounds::hasDevice() {
 
 void QtSounds::play(const std::filesystem::path& file) {
     if (module() != nullptr) {
+        // Qt opens it by its name once more, and would wait for ever at a pipe.
+        std::error_code error;
+        if (OpenFile(file, OpenFile::Use::Read, error); error) {
+            throw FileError(file, "cannot be read: " + error.message());
+        }
         module()->play(file);
     }
 }

@@ -35,3 +35,27 @@ small_folder() {
     printf 'Type: Merchant\nSystem: Laser, 1\nSystem: Cloaking Field, 1\nSystem: Gun, 2\n' >part.shp
     printf 'Mass: 10\nThrust: fast\n' >bad.shp
 }
+
+# The tool, which has not to wait for anything, on the folder at hand.
+tool() {
+    timeout 20 env -i "$APP/fleetwright-cli" --app . "$@"
+}
+
+# with_outline NAME: a map like maps/b.map but for this outline, and good.shp drawn on it.
+with_outline() {
+    awk -v "line=IMAGE: ${1//\\/\\\\}" '/^IMAGE/ { $0 = line } { print }' maps/b.map >maps/drawn.map
+    rm -f drawn.bmp
+    tool sheet good.shp --map drawn -o drawn.bmp
+    tool check maps/drawn.map | grep :2:
+}
+
+# with_icon NAME: a ship's sheet for whose extra damage control party the catalogue has this picture.
+with_icon() {
+    cp weaps.dat weaps.before
+    awk -v "name=${1//\\/\\\\}" '{ if (!sub("party.gif", "")) print; else print $0 name }' \
+        weaps.before >weaps.dat
+    printf 'Mass: 10\nThrust: 4\nSystem: Damage Control Party, 1\n' >one.shp
+    tool sheet one.shp
+    tool check weaps.dat | grep :3:
+    mv weaps.before weaps.dat
+}

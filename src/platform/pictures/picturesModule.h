@@ -7,12 +7,12 @@
 namespace fleetwright {
 
 class PictureEncoder;
-class PictureFiles;
+class PictureReader;
 
 /// What the module "pictures.dll" has, as its one function "createPictures" hands it out. It lives
 /// as long as the program.
 struct Pictures {
-    PictureFiles& files;
+    PictureReader& files;
     PictureEncoder& encoder;
     std::unique_ptr<Pages> (*newPages)(Paper);
 };
