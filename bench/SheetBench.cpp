@@ -125,7 +125,7 @@ struct SheetWorld {
         sheets.resize(drawable.size());
     }
 
-    SSDMaps maps = loadMaps(startedFolder()).maps;
+    LoadedMaps maps = loadMaps(startedFolder());
     NotedPictures pictures;
     std::vector<std::string> ships;
     std::vector<Raster> sheets;  ///< of the first of these ships; the others repeat them
@@ -191,7 +191,7 @@ std::string pasteCommand(const std::string& out) {
     screen.load(processShip);
     SheetLists lists;
     const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
-    const SSDMaps& maps = world().maps;
+    const SSDMaps& maps = world().maps.maps;
     const SSDMaps::Map map = maps.at(fittingMaps(maps, screen.ship().mass(), count).at(0));
     lists.fillPoints(*map);
     QtPictureFiles files;

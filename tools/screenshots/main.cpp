@@ -100,13 +100,13 @@ void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path
     fs::create_directories(output);
     QtPictureFiles files;
     PictureCache cache(files);
-    const SSDMaps maps = loadMaps(appFolder).maps;
+    const LoadedMaps maps = loadMaps(appFolder);
     for (const fs::path& ship : listFolder(ships, ".shp")) {
         ShipOnScreen screen(appFolder);
         if (screen.load(ship.string())) {
             throw FileError(ship, "does not load");
         }
-        const std::string map = mapFor(maps, screen, screen.ship());
+        const std::string map = mapFor(maps.maps, screen, screen.ship());
         if (map.empty()) {
             continue;
         }
