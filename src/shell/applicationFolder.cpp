@@ -218,6 +218,8 @@ void makeUserFolder(const fs::path& folder) {
         if (fs::is_directory(status) && status.permissions() != usersOwn) {
             [[maybe_unused]] const auto notOurs = setFolderMode(folder, usersOwn);
         }
+    } else if (error == std::errc::file_exists) {
+        error = std::make_error_code(std::errc::not_a_directory);
     }
     if (error) {
         throw FileError(folder, "cannot be made: " + error.message());
