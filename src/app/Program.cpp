@@ -13,12 +13,14 @@
 #include "QtRegistry.h"
 #include "QtSettingsStore.h"
 #include "QtSounds.h"
+#include "QtTrash.h"
 #include "RecoveryFolder.h"
 #include "applicationFolder.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "frmMapper.h"
+#include "frmPutAside.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
 #include "frmSplash.h"
@@ -78,7 +80,7 @@ public:
     Program(QtDesktop& desktop, Run run)
         : m_programFolder(nativePath(QApplication::applicationDirPath().toStdString())),
           m_appFolder(applicationFolder(m_programFolder)), m_desktop(desktop),
-          m_sounds(m_programFolder), m_recovery(RecoveryFolder::ofUser(), currentTime),
+          m_sounds(m_programFolder), m_recovery(RecoveryFolder::ofUser(), currentTime, m_trash),
           m_splash(
               {.appFolder = m_appFolder,
                .programFolder = m_programFolder,
@@ -108,7 +110,9 @@ public:
                   .showMapper = [this] { bringUp(m_mapper); },
                   .showViewer = [this] { bringUp(m_viewer); },
                   .showMapCreator = [this] { bringUp(m_mapCreator); },
-                  .recovery = &m_recovery}),
+                  .recovery = &m_recovery,
+                  .putAside = [this]() -> frmPutAside& { return m_putAside; },
+                  .isStartOver = [this] { return !m_splash.isLoaded() && m_main.isVisible(); }}),
           m_extras({.desktop = desktop,
                     .globals = m_globals,
                     .settings = m_settings,
@@ -121,6 +125,11 @@ public:
                             m_main.CMRUList->clearList();
                             m_main.fillMRU();
                         }}),
+          m_putAside({.desktop = desktop,
+                      .moveToTrash =
+                          [this](const RecoveryDesign& design) {
+                              return m_recovery.moveToTrash(design);
+                          }}),
           m_images(programImages(m_appFolder, m_pictures, m_main.tree.ilWeapons)),
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
@@ -167,7 +176,8 @@ public:
     }
 
 private:
-    /// The forms with windows of their own. The page of settings is a dialog of the main window.
+    /// The forms with windows of their own. The page of settings and the list of
+    /// designs put aside are dialogs of the main window.
     std::array<Form*, 6> windows() {
         return {&m_splash, &m_main, &m_mapper, &m_about, &m_mapCreator, &m_viewer};
     }
@@ -197,11 +207,13 @@ private:
     QtPrograms m_programs;
     QtPrinter m_printer;
     QtRegistry m_registry;
+    QtTrash m_trash;
     RecoveryFolder m_recovery;
     Globals m_globals;
     frmSplash m_splash;
     frmMain m_main;
     frmExtras m_extras;
+    frmPutAside m_putAside;
     SheetImages m_images;
     frmMapper m_mapper;
     frmAbout m_about;

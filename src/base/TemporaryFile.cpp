@@ -28,11 +28,15 @@ std::string newName() {
 
 }  // namespace
 
+bool TemporaryFile::isOne(const fs::path& file) {
+    const std::string name = file.filename().string();
+    return name.starts_with(beginning) && name.ends_with(ending);
+}
+
 void TemporaryFile::takeLeftOnesAway(const fs::path& folder) {
     std::error_code unread;
     for (const fs::directory_entry& entry : folderEntries(folder, unread)) {
-        const std::string name = entry.path().filename().string();
-        if (!name.starts_with(beginning) || !name.ends_with(ending)) {
+        if (!isOne(entry.path())) {
             continue;
         }
         const FileLock lock(entry.path());

@@ -17,6 +17,8 @@ namespace fleetwright {
 /// known by that.
 class TemporaryFile {
 public:
+    /// Whether a file has a name as these have.
+    static bool isOne(const std::filesystem::path& file);
     /// Takes those away that killed runs have left in a folder, but none that a run works on.
     static void takeLeftOnesAway(const std::filesystem::path& folder);
 

@@ -29,7 +29,7 @@ int runRecovered(const Options& options) {
     const std::string& out = options.words.back();
     for (const RecoveryFolder::Design& design : designs) {
         if (design.name == name) {
-            saveResult(nativePath(ShipClass::withExtension(out)), readTextFile(design.file));
+            saveResult(nativePath(ShipClass::withExtension(out)), readBytes(design.file));
             return Done;
         }
     }
@@ -44,7 +44,8 @@ extern const CommandRow recoveredCommand = {
     .words = "[NAME OUT]",
     .most = 2,
     .help = "List designs that were put aside, or write one as OUT",
-    .details = "Designs are put aside because they were never saved. OUT is a ship file.",
+    .details = "Designs are put aside because they were never saved; the newest is listed first. "
+               "OUT is a ship file.",
     .check = checkRecovered,
     .run = runRecovered,
 };

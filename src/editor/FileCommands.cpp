@@ -47,27 +47,55 @@ bool FileCommands::loadFile(const std::string& fileName) {
     bool isLoaded = false;
     // What waits, the end of the window perhaps, waits for the last step.
     window().acts.letActsIn([&] {
-        if (!m_others.recovery.giveUpDesign()) {
-            return;
-        }
-        m_others.replaceShip();
-        act([&] {
-            // What the buttons show decides which of them write to the ship, and so what it
-            // becomes: they start like those of a fresh window, whatever ship was shown before.
-            window().RefreshScreen();
-            ship().g_bSaved = true;
-            isLoaded = ship().loadShip(fileName);
-        });
-        fileFault = ship().fileFault();
+        isLoaded = replaceBy(fileName);
         if (isLoaded) {
             m_others.recovery.noteSafe();
             addRecentFile();
-        } else {
-            // Nobody takes half a ship, or the former one, for the one in the file.
-            m_others.replaceShip();
-            showNewShip();
         }
     });
+    return isLoaded;
+}
+
+void FileCommands::openPutAside(const std::filesystem::path& file) {
+    whenReplaceable([this, name = pathText(file)] {
+        window().acts.letActsIn([&] {
+            fileFault.reset();
+            if (replaceBy(name)) {
+                act([this] {
+                    ship().g_sSaveName.clear();
+                    ship().g_sTrimmedFileName.clear();
+                    ship().g_bSaved = false;
+                    window().RefreshScreen();
+                });
+                window().say("This design is not saved yet. Save As gives it a file.");
+            } else if (fileFault) {
+                window().say("The design cannot be opened: " + fileFault->text);
+            }
+        });
+    });
+}
+
+/// Replaces the ship by the one in a file, or by a new one if that does not load. False also if the
+/// one at hand may not go.
+bool FileCommands::replaceBy(const std::string& fileName) {
+    if (!m_others.recovery.giveUpDesign()) {
+        return false;
+    }
+    bool isLoaded = false;
+    m_others.replaceShip();
+    act([&] {
+        // What the buttons show decides which of them write to the ship, and so what it
+        // becomes: they start like those of a fresh window, whatever ship was shown before.
+        window().RefreshScreen();
+        ship().g_bSaved = true;
+        isLoaded = ship().loadShip(fileName);
+    });
+    fileFault = ship().fileFault();
+    if (!isLoaded) {
+        // Nobody takes half a ship, or the former one, for the one in the file.
+        m_others.replaceShip();
+        showNewShip();
+    }
     return isLoaded;
 }
 

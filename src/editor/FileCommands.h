@@ -6,6 +6,7 @@
 #include "controlArray.h"
 
 #include <array>
+#include <filesystem>
 #include <optional>
 
 namespace fleetwright {
@@ -33,6 +34,8 @@ public:
     /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
     /// is a new one all the same, and `fileFault` says why.
     bool loadFile(const std::string& fileName);
+    /// Replaces the ship by one that was put aside, when idle: one without a file, and not saved.
+    void openPutAside(const std::filesystem::path& file);
     std::optional<Fault> fileFault;  ///< why the last load has failed
 
 private:
@@ -80,6 +83,7 @@ private:
     void mnuMRUFile_Click(int Index);
 
     void whenReplaceable(std::function<void()> replace);
+    bool replaceBy(const std::string& fileName);
     void showNewShip();
     void saveAs(std::string fileName);
     void addRecentFile();

@@ -15,6 +15,7 @@ class RecoveryFolder;
 class SettingsStore;
 class StartUpProgress;
 class frmExtras;
+class frmPutAside;
 struct Globals;
 
 /// What the main window needs of the world around it. All of it outlives the window.
@@ -37,8 +38,11 @@ struct MainWindowServices {
     std::function<void()> showMapper;
     std::function<void()> showViewer;
     std::function<void()> showMapCreator;
-    /// Where designs are put aside; null if they are not.
+    /// Where designs are put aside; null if they are not. Then nobody looks for them.
     RecoveryFolder* recovery = nullptr;
+    std::function<frmPutAside&()> putAside = {};  ///< is shown above this window, too
+    /// Whether nothing of the start is on the screen any more.
+    std::function<bool()> isStartOver = [] { return true; };
     /// Without a screen nobody sees the tree, and it is not built.
     bool hasScreen = true;
 };

@@ -2,9 +2,16 @@
 
 #include "Desktop.h"
 #include "Error.h"
-#include "RecoveryFolder.h"
+#include "frmPutAside.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace fleetwright {
+
+RecoveryPanel::RecoveryPanel(const PanelContext& context, MenuEntry& mnuDesign,
+                             std::function<void(const std::filesystem::path&)> open)
+    : Panel(context), m_design(mnuDesign), m_open(std::move(open)) {}
 
 void RecoveryPanel::noteChange() {
     if (services().recovery != nullptr && !tmrRecovery.isEnabled()) {
@@ -33,13 +40,13 @@ void RecoveryPanel::tmrRecovery_Timer() {
         }
         return;
     }
-    std::string design = ship().shipFile();
-    if (design == m_asideFile) {
+    const RecoveryFolder::Aside aside = design();
+    if (aside.shipFile == m_asideFile) {
         return;
     }
     try {
-        services().recovery->put(ship().g_sShipName, design);
-        m_asideFile = std::move(design);
+        services().recovery->put(aside);
+        m_asideFile = aside.shipFile;
     } catch (const FileError& error) {
         window().say(std::string("The design cannot be put aside: ") + error.what());
     }
@@ -53,8 +60,7 @@ bool RecoveryPanel::giveUpDesign() {
         return true;
     }
     try {
-        services().recovery->put(ship().g_sShipName, ship().shipFile());
-        services().recovery->keep();
+        services().recovery->keep(design());
         return true;
     } catch (const FileError& error) {
         return services().desktop.showMessage(
@@ -64,25 +70,57 @@ bool RecoveryPanel::giveUpDesign() {
     }
 }
 
-void RecoveryPanel::showRecovered() {
+RecoveryFolder::Aside RecoveryPanel::design() const {
+    return {ship().g_sShipName, ship().mass(), ship().shipFile()};
+}
+
+void RecoveryPanel::tmrAsk_Timer() {
+    if (!services().isStartOver() || !window().acts.isIdle()) {
+        return;
+    }
+    tmrAsk.setEnabled(false);
     if (services().recovery == nullptr) {
         return;
     }
-    std::vector<RecoveryFolder::Design> designs;
     try {
-        designs = services().recovery->keepLeftBehind();
+        std::vector<RecoveryFolder::Design> all = services().recovery->lookAround();
+        if (std::any_of(all.begin(), all.end(),
+                        [](const auto& each) { return each.isLeftBehind; })) {
+            show(std::move(all));
+        }
     } catch (const FileError& error) {
         window().say(complaint(error));
     }
-    if (designs.size() == 1) {
-        window().say("Recovered design: " + shownText(designs.front().file.string()));
-    } else if (!designs.empty()) {
-        std::string names;
-        for (const RecoveryFolder::Design& design : designs) {
-            names += (names.empty() ? "" : ", ") + shownText(design.name);
-        }
-        window().say("Recovered designs: " + names + " in " +
-                     shownText(designs.front().file.parent_path().string()));
+}
+
+void RecoveryPanel::mnuPutAside_Click() {
+    if (services().recovery == nullptr) {
+        return;
+    }
+    try {
+        show(services().recovery->lookAround());
+    } catch (const FileError& error) {
+        showFileError(services().desktop, error);
+    }
+}
+
+void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
+    frmPutAside& dialog = services().putAside();
+    if (dialog.isLoaded()) {
+        return;  // it is open
+    }
+    dialog.designs = std::move(designs);
+    services().desktop.showModal(dialog, form());
+    try {
+        services().recovery->noteSeen(dialog.designs);
+    } catch (const FileError& error) {
+        window().say(complaint(error));  // they will be offered again
+    }
+    // What is at work may have been among them, and be in the trash now.
+    m_asideFile.clear();
+    noteChange();
+    if (dialog.chosen) {
+        m_open(dialog.designs[*dialog.chosen].file);
     }
 }
 

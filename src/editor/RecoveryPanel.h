@@ -1,15 +1,24 @@
 #pragma once
 
+#include "Menu.h"
 #include "Panel.h"
+#include "RecoveryFolder.h"
 #include "Timer.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace fleetwright {
 
 /// Puts designs aside, so that a crash costs two seconds of work at the most and no ship goes
-/// without trace.
+/// without trace, and offers them: once after a crash, and whenever the user wants to see them.
 class RecoveryPanel : public Panel {
 public:
-    explicit RecoveryPanel(const PanelContext& context) : Panel(context) {}
+    /// `open` replaces the ship by the one in a file of a design put aside.
+    RecoveryPanel(const PanelContext& context, MenuEntry& mnuDesign,
+                  std::function<void(const std::filesystem::path&)> open);
 
     /// Something may have changed: looks at it in two seconds, if not sooner.
     void noteChange();
@@ -18,15 +27,31 @@ public:
     /// The design at hand is about to go. What has changed since it was safe is kept for good; if
     /// that is not possible, the user says whether it may go all the same. False if it may not.
     bool giveUpDesign();
-    /// Says which designs earlier runs have left behind.
-    void showRecovered();
+    /// Asks about the designs that a crash has left behind, as soon as the start is over.
+    void askAfterStart() { tmrAsk.restart(); }
 
+private:
+    MenuEntry& m_design;
+
+public:
+    MenuEntry mnuPutAside{m_design,
+                          {.name = "mnuPutAside", .caption = "Designs Put Aside..."},
+                          [this] { mnuPutAside_Click(); }};
     /// Two seconds after a change it puts the design aside.
     Timer tmrRecovery{form(), "tmrRecovery", 2000, false, [this] { tmrRecovery_Timer(); }};
 
+    /// Waits for the end of the start.
+    Timer tmrAsk{form(), "tmrAsk", 200, false, [this] { tmrAsk_Timer(); }};
+
 private:
     void tmrRecovery_Timer();
+    void tmrAsk_Timer();
+    void mnuPutAside_Click();
     bool isSafe() const;
+    RecoveryFolder::Aside design() const;
+    void show(std::vector<RecoveryFolder::Design> designs);
+
+    std::function<void(const std::filesystem::path&)> m_open;
 
     std::string m_asideFile;  ///< the design as it was put aside last
     std::string m_safeFile;   ///< the design as it was when nothing of it could be lost

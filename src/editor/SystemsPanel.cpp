@@ -13,6 +13,7 @@ namespace fleetwright {
 
 SystemsPanel::SystemsPanel(const PanelContext& context) : Panel(context) {
     lvCurrentWeapons.onDblClick = [this] { lvCurrentWeapons_DblClick(); };
+    lvCurrentWeapons.onDelete = lvCurrentWeapons.onDblClick;
     lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
         lvCurrentWeapons_MouseDown(press);
     };

@@ -62,7 +62,7 @@ void frmMain::Form_Load() {
     m_services.progress.setText("Weapons Loaded");
     RefreshScreen();
     windows.sayDroppedMaps();
-    recovery.showRecovered();  // has the last word
+    recovery.askAfterStart();
     g_bLoaded = true;
 }
 

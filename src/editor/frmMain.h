@@ -20,6 +20,7 @@
 #include "WindowCommands.h"
 #include "clsMRUFiles.h"
 
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -49,6 +50,7 @@ public:
     MenuEntry mnuFile{*this, {.name = "mnuFile", .caption = "File"}};
     MenuEntry mnuStdHulls{*this, {.name = "mnuStdHulls", .caption = "Standard Hulls"}};
     MenuEntry mnuExtras{*this, {.name = "mnuExtras", .caption = "Extras"}};
+    MenuEntry mnuDesign{*this, {.name = "mnuDesign", .caption = "Design"}};
     MenuEntry mnuHelpTop{*this, {.name = "mnuHelpTop", .caption = "Help"}};
     MenuEntry mnuAddWeaps{*this,
                           {.name = "mnuAddWeaps", .caption = "AddWeaps", .isVisible = false}};
@@ -71,7 +73,8 @@ public:
     TrayPanel tray{m_context, mnuTaskBarFunctions};
     Timer tmrRefreshScreen{*this, "tmrRefreshScreen", 15000, true,
                            [this] { tmrRefreshScreen_Timer(); }};
-    RecoveryPanel recovery{m_context};
+    RecoveryPanel recovery{m_context, mnuDesign,
+                           [this](const std::filesystem::path& file) { files.openPutAside(file); }};
     FileCommands files{m_context,
                        mnuFile,
                        {.CMRUList = CMRUList,

@@ -14,7 +14,10 @@ public:
     struct Row {
         std::string key;
         std::string text;
-        std::string subItem = {};  ///< what stands in the second column
+        std::string subItem = {};                 ///< what stands in the second column
+        std::vector<std::string> moreItems = {};  ///< and in those behind it
+
+        bool operator==(const Row&) const = default;
     };
     struct Column {
         std::string title;
@@ -50,6 +53,14 @@ public:
 
     /// The user has selected this row.
     void select(std::size_t row);
+    /// The user wants the selected row to go.
+    void pressDelete() {
+        if (takesActs()) {
+            raise(onDelete);
+        }
+    }
+
+    Handler onDelete;
 
     /// What is to be said of a row that the pointer rests on. May be empty.
     std::function<std::string(const Row&)> rowToolTip;

@@ -1,15 +1,18 @@
 #include "RecoveryFolder.h"
 
 #include "Error.h"
+#include "Trash.h"
+#include "WrittenShip.h"
 #include "applicationFolder.h"
+#include "fileCalls.h"
 #include "paths.h"
+#include "readFile.h"
 #include "saveFile.h"
-#include "text.h"
 
 #include <algorithm>
-#include <random>
-#include <string_view>
+#include <set>
 #include <system_error>
+#include <utility>
 
 namespace fleetwright {
 
@@ -17,46 +20,31 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view extension = ".shp";
-constexpr std::string_view lockExtension = ".lock";
-constexpr char beforeMark = '~';
+/// Stands for a run that is not known, and never goes on.
+constexpr const char* noRun = "0";
 
-/// A ship's name as the name of a file: without what some file system does not take, and short.
-std::string fileNameOf(const std::string& shipName) {
-    constexpr std::size_t mostCharacters = 60;
-    constexpr std::size_t mostBytes = 200;  // file systems take 255, and time and mark follow
-    constexpr std::string_view forbidden = "/\\:*?\"<>|~";
-    std::string name;
-    for (const char c : shipName) {
-        const bool isControl = static_cast<unsigned char>(c) < ' ';
-        name += isControl || forbidden.find(c) != std::string_view::npos ? '_' : c;
+/// What is in a file, if it can be read.
+std::optional<std::string> bytesIn(const fs::path& file) {
+    try {
+        return readBytes(file);
+    } catch (const FileError&) {
+        return std::nullopt;
     }
-    if (const std::size_t length = characterCount(name); length > mostCharacters) {
-        name = withoutLastCharacters(name, length - mostCharacters);
-    }
-    while (name.size() > mostBytes) {
-        name = withoutLastCharacters(name, 1);
-    }
-    const std::size_t first = name.find_first_not_of(" .");
-    return first == std::string::npos ? "Unnamed" : name.substr(first);
 }
 
-/// The mark of the run that a file belongs to; empty for one that is kept.
-std::string markOf(const fs::path& file) {
-    const std::string mark = file.extension().string();
-    return mark.size() > extension.size() + 1 && mark.starts_with(extension) &&
-                   mark[extension.size()] == beforeMark
-               ? mark.substr(extension.size() + 1)
-               : std::string();
+bool isThere(const fs::path& file) {
+    std::error_code unknown;
+    return fs::exists(fs::symlink_status(file, unknown));
 }
 
-bool isDesign(const fs::path& file) {
-    return file.extension() == extension || !markOf(file).empty();
-}
-
-fs::file_time_type timeOf(const fs::path& file) {
-    std::error_code gone;
-    return fs::last_write_time(file, gone);
+/// Reads the masses that names do not say, but not of more designs than are read at once.
+void readMasses(std::vector<RecoveryDesign>& designs) {
+    constexpr std::size_t most = 50;
+    for (std::size_t i = 0; i < std::min(designs.size(), most); ++i) {
+        if (!designs[i].about.mass) {
+            designs[i].about.mass = WrittenShip::of(bytesIn(designs[i].file).value_or("")).mass;
+        }
+    }
 }
 
 }  // namespace
@@ -65,130 +53,220 @@ fs::path RecoveryFolder::ofUser() {
     return userDataFolder() / "recovered";
 }
 
-RecoveryFolder::RecoveryFolder(fs::path folder, std::function<std::string()> now)
-    : m_folder(std::move(folder)), m_now(std::move(now)) {}
+RecoveryFolder::RecoveryFolder(fs::path folder, std::function<std::string()> now, Trash& trash)
+    : m_folder(std::move(folder)), m_now(std::move(now)), m_trash(trash), m_run(m_folder) {}
 
-RecoveryFolder::~RecoveryFolder() {
-    if (m_lock) {
-        std::error_code ignored;
-        fs::remove(lockOf(m_mark), ignored);
-    }
+std::vector<RecoveryDesign> RecoveryFolder::list(const fs::path& folder) {
+    std::vector<Design> designs = RecoveryListing(folder).designs;
+    sortNewestFirst(designs);
+    return designs;
 }
 
-fs::path RecoveryFolder::lockOf(const std::string& mark) const {
-    return m_folder / (mark + std::string(lockExtension));
+std::vector<RecoveryDesign> RecoveryFolder::lookAround() {
+    RecoveryListing listing(m_folder);
+    takeUpLeftOvers(listing);
+    std::vector<Design>& designs = listing.designs;
+    const std::set<std::string> running = m_run.running(listing);
+    std::erase_if(designs, [&](const Design& each) { return running.contains(each.mark()); });
+    sortNewestFirst(designs);
+    const RecoveryRecord known = m_run.allRecords(listing);
+    for (Design& design : designs) {
+        design.isLeftBehind = !design.mark().empty() && !known.isSeen(design.recordName());
+    }
+    std::stable_partition(designs.begin(), designs.end(),
+                          [](const Design& design) { return design.isLeftBehind; });
+    readMasses(designs);
+    return std::move(designs);
 }
 
-/// Gives this run its mark, if it has none yet.
-void RecoveryFolder::takeMark() {
-    while (!m_lock || m_lock->isLost()) {
-        m_mark = std::to_string(std::random_device()());
-        saveFile(lockOf(m_mark), "");
-        m_lock.emplace(lockOf(m_mark));
-    }
-}
-
-/// Whether the run with this mark goes on. The lock of one that does not is taken away.
-bool RecoveryFolder::isRunning(const std::string& mark) const {
-    const fs::path file = lockOf(mark);
-    const FileLock lock(file);
-    if (lock.isHeld()) {
-        std::error_code ignored;
-        fs::remove(file, ignored);
-    }
-    return lock.isWithOthers();
-}
-
-std::vector<RecoveryFolder::Design> RecoveryFolder::keepLeftBehind() {
-    std::vector<Design> leftBehind;
-    for (const fs::path& lock : listFolder(m_folder, lockExtension)) {
-        isRunning(lock.stem().string());  // of runs that have left nothing else
-    }
-    for (const Design& design : list(m_folder)) {
-        const std::string mark = markOf(design.file);
-        if (!mark.empty() && mark != m_mark && !isRunning(mark)) {
-            const fs::path kept = keepFile(design.file);
-            leftBehind.push_back({kept.stem().string(), kept});
+void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
+    for (Design& design : designs) {
+        if (!design.mark().empty()) {
+            design.file = takeMarkOff(design.file);
+            design.isLeftBehind = false;
         }
     }
-    takeOldestAway();
-    std::erase_if(leftBehind, [](const Design& design) { return !fs::exists(design.file); });
-    return leftBehind;
+    const RecoveryRecord known = m_run.allRecords(RecoveryListing(m_folder));
+    std::set<std::string> news;
+    for (const Design& design : designs) {
+        const std::string name = design.recordName();
+        if (known.isMade(name) && !known.isSeen(name)) {
+            news.insert(name);
+        }
+    }
+    if (!news.empty()) {
+        begin();
+        for (const std::string& name : news) {
+            m_run.record.noteSeen(name);
+        }
+        m_run.saveRecord();
+    }
+    takeOldOnesAway();
 }
 
-void RecoveryFolder::put(const std::string& shipName, const std::string& shipFile) {
-    makeUserFolder(m_folder);
-    takeMark();
-    const std::string ship = fileNameOf(shipName);
-    if (!m_ownFile.empty() && ship == m_ownShip) {
-        saveFile(m_ownFile, shipFile);
+bool RecoveryFolder::moveToTrash(const Design& design) {
+    // Another run may have taken the mark off it.
+    return m_trash.moveToTrash(isThere(design.file) ? design.file : fileOf(design.recordName()));
+}
+
+void RecoveryFolder::put(const Aside& design) {
+    begin();
+    writeOwn(design);
+}
+
+void RecoveryFolder::keep(const Aside& design) {
+    begin();
+    if (const auto kept = whereKept(design.shipFile)) {
+        m_run.record.noteMade(*kept, m_run.mark(), design.shipFile);  // by this run as well
+        m_run.saveRecord();
+        forget();
         return;
     }
-    const fs::path file =
-        m_folder / (ship + ' ' + m_now() + std::string(extension) + beforeMark + m_mark);
-    saveFile(file, shipFile);
-    forget();  // under its old name
-    m_ownFile = file;
-    m_ownShip = ship;
-}
-
-void RecoveryFolder::keep() {
-    if (!m_ownFile.empty()) {
-        keepFile(m_ownFile);
-        m_ownFile.clear();
-        takeOldestAway();
-    }
+    writeOwn(design);
+    takeMarkOff(ownFile());
+    m_own.reset();
+    takeOldOnesAway();
 }
 
 void RecoveryFolder::forget() {
-    if (!m_ownFile.empty()) {
-        std::error_code gone;
-        fs::remove(m_ownFile, gone);
-        m_ownFile.clear();
+    if (m_own && isOwnAsWritten()) {
+        removeForGood(ownFile());
+        m_run.record.forget(m_own->name);
+        m_own.reset();
+    } else if (m_own) {
+        letGo();
     }
 }
 
-/// Takes the mark of its run off a file. Never over another one.
-fs::path RecoveryFolder::keepFile(const fs::path& file) {
-    const fs::path plain = m_folder / file.stem();
-    fs::path kept = plain.string() + std::string(extension);
-    for (int i = 2; fs::exists(kept); ++i) {
-        kept = plain.string() + " (" + std::to_string(i) + ')' + std::string(extension);
+/// Has the run begun in the folder, which is made if need be.
+void RecoveryFolder::begin() {
+    if (!m_run.hasBegun()) {
+        makeUserFolder(m_folder);
+        // Before anything is saved there, which takes left files away.
+        RecoveryListing listing(m_folder);
+        takeUpLeftOvers(listing);
+        m_run.begin();
     }
-    std::error_code error;
-    fs::rename(file, kept, error);
-    return error ? file : kept;
 }
 
-void RecoveryFolder::takeOldestAway() {
-    std::vector<Design> designs;
+fs::path RecoveryFolder::fileOf(const std::string& name, const std::string& mark) const {
+    return m_folder /
+           (name + recoveryExtension + (mark.empty() ? mark : beforeRecoveryMark + mark));
+}
+
+/// Takes the mark of its run off a file, never over another one; where it is then.
+fs::path RecoveryFolder::takeMarkOff(const fs::path& file) const {
+    constexpr int mostNames = 100;
+    const std::string name = file.stem().string();
+    fs::path plain = fileOf(name);
+    for (int i = 2; renameToNew(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
+        plain = fileOf(name + " (" + std::to_string(i) + ')');
+    }
+    return isThere(plain) ? plain : file;
+}
+
+bool RecoveryFolder::isOwnAsWritten() const {
+    return bytesIn(ownFile()) == m_own->shipFile;
+}
+
+/// Somebody else has written over the file of this run, or taken it away: it is theirs.
+void RecoveryFolder::letGo() {
+    if (isThere(ownFile())) {
+        takeMarkOff(ownFile());
+    }
+    m_run.record.forget(m_own->name);
+    m_own.reset();
+}
+
+void RecoveryFolder::writeOwn(const Aside& design) {
+    if (m_own && !isOwnAsWritten()) {
+        letGo();
+    }
+    if (m_own && m_own->shipFile == design.shipFile) {
+        return;
+    }
+    const std::uint64_t number = m_own ? m_own->number : RecoveryListing(m_folder).highest + 1;
+    const OwnFile next = {RecoveryName{design.shipName, design.mass, m_now(), number}.text(),
+                          number, design.shipFile};
+    // Noted first: so it is known for certain whose the file is, and what is whole, at any time.
+    m_run.record.forget(next.name);
+    if (m_own) {
+        m_run.record.noteMade(next.name, m_run.mark(), m_own->shipFile);
+    }
+    m_run.record.noteMade(next.name, m_run.mark(), next.shipFile);
+    m_run.saveRecord();
+    const fs::path file = fileOf(next.name, m_run.mark());
+    if (m_own && m_own->name != next.name) {
+        if (const std::error_code error = renameFile(ownFile(), file)) {
+            throw FileError(file, "cannot be saved: " + error.message());
+        }
+        m_run.record.forget(std::exchange(m_own->name, next.name));
+    }
+    saveFile(file, next.shipFile);
+    m_own = next;
+}
+
+/// Under which name this run, or one that has ended, has put the same design aside for good.
+std::optional<std::string> RecoveryFolder::whereKept(const std::string& shipFile) const {
+    for (const std::string& name : m_run.record.namesOf(shipFile)) {
+        if (bytesIn(fileOf(name)) == shipFile) {
+            return name;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Of what the kill of a save has left, whole designs become designs like those of a crash, and the
+/// rest goes.
+void RecoveryFolder::takeUpLeftOvers(RecoveryListing& listing) const {
+    if (listing.leftOvers.empty()) {
+        return;
+    }
+    const RecoveryRecord known = m_run.allRecords(listing);
+    for (const fs::path& file : std::exchange(listing.leftOvers, {})) {
+        const FileLock lock(file);
+        const std::optional<std::string> bytes = lock.isHeld() ? bytesIn(file) : std::nullopt;
+        if (!bytes) {
+            continue;  // somebody is writing it, or it cannot be read
+        }
+        const WrittenShip ship = WrittenShip::of(*bytes);
+        if (known.namesOf(*bytes).empty() && (!ship.isWhole || known.isCut(*bytes))) {
+            removeFile(file);
+            continue;
+        }
+        const RecoveryName name = {ship.name, ship.mass, m_now(), listing.highest + 1};
+        const fs::path taken = fileOf(name.text(), noRun);
+        if (!renameToNew(file, taken)) {
+            listing.take(taken);
+        }
+    }
+}
+
+void RecoveryFolder::takeOldOnesAway() {
     try {
-        designs = list(m_folder);
+        RecoveryListing listing(m_folder);
+        const RecoveryRecord known = m_run.allRecords(listing);
+        std::erase_if(listing.designs, [&known](const Design& design) {
+            return design.about.number == 0 || !design.mark().empty() ||
+                   !known.isMade(design.recordName());
+        });
+        sortNewestFirst(listing.designs);
+        std::size_t count = 0;
+        std::set<std::string> runs;  // whose last one has come
+        for (const Design& design : listing.designs) {
+            const std::string name = design.recordName();
+            bool isLast = false;
+            for (const std::string& run : known.makersOf(name)) {
+                isLast = runs.insert(run).second || isLast;
+            }
+            if (++count > mostKept && !isLast && known.isSeen(name) &&
+                known.isMade(name, bytesIn(design.file).value_or(""))) {
+                m_trash.moveToTrash(design.file);
+            }
+        }
     } catch (const FileError&) {
         // What cannot be listed stays.
     }
-    std::size_t kept = 0;
-    for (const Design& design : designs) {
-        if (markOf(design.file).empty() && ++kept > mostKept) {
-            std::error_code gone;
-            fs::remove(design.file, gone);
-        }
-    }
-}
-
-std::vector<RecoveryFolder::Design> RecoveryFolder::list(const fs::path& folder) {
-    std::vector<Design> designs;
-    for (const fs::path& file : listFolder(folder, "")) {
-        if (isDesign(file)) {
-            designs.push_back({file.stem().string(), file});
-        }
-    }
-    std::sort(designs.begin(), designs.end(), [](const Design& a, const Design& b) {
-        const auto timeOfA = timeOf(a.file);
-        const auto timeOfB = timeOf(b.file);
-        return timeOfA != timeOfB ? timeOfA > timeOfB : a.name > b.name;
-    });
-    return designs;
 }
 
 }  // namespace fleetwright

@@ -1,7 +1,10 @@
 #pragma once
 
-#include "FileLock.h"
+#include "RecoveryListing.h"
+#include "RecoveryRun.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -10,19 +13,27 @@
 
 namespace fleetwright {
 
+class Trash;
+
 /// Where designs are put aside, so that none is lost: the one at work again and again, as the file
-/// of this run, and every other that was given up without being saved. A file is named by ship and
-/// time, "Provost 2026-05-01 17.03.59.shp". That of a run has the run's mark behind it, and there
-/// is a file "MARK.lock", which the run holds locked.
+/// of this run, and every other that was given up without being saved. What the name of a file says
+/// is in RecoveryName. That of a run has the run's mark behind it: "… #12.shp~MARK".
+///
+/// Only what a run has made, and nobody has changed, is ever taken away without being asked for. Of
+/// that, old designs that the user has been shown go into the trash, but never the last one of a
+/// run, nor the last ten of all.
 class RecoveryFolder {
 public:
-    /// One design that was put aside.
-    struct Design {
-        std::string name;  ///< of ship and time
-        std::filesystem::path file;
+    using Design = RecoveryDesign;
+
+    /// A design to be put aside.
+    struct Aside {
+        std::string shipName;
+        std::int32_t mass;
+        std::string shipFile;  ///< all of it
     };
 
-    /// How many designs are kept for good; the oldest go.
+    /// How many of the designs that runs have made stay in any case.
     static constexpr std::size_t mostKept = 10;
 
     /// The user's folder of designs put aside, which need not exist yet. Throws FileError if the
@@ -30,19 +41,23 @@ public:
     static std::filesystem::path ofUser();
 
     /// `now` says the time as it is to stand in the name of a file.
-    RecoveryFolder(std::filesystem::path folder, std::function<std::string()> now);
-    RecoveryFolder(const RecoveryFolder&) = delete;
-    RecoveryFolder& operator=(const RecoveryFolder&) = delete;
-    ~RecoveryFolder();
+    RecoveryFolder(std::filesystem::path folder, std::function<std::string()> now, Trash& trash);
 
-    /// Keeps what runs that have crashed have left: these designs, the newest first.
-    /// Throws FileError as `list` does.
-    std::vector<Design> keepLeftBehind();
+    /// All designs but those at work in some run: first those that a crash has left behind, then
+    /// the newest first. Takes up what the kill of a save has left. Throws FileError as `list`
+    /// does.
+    std::vector<Design> lookAround();
+    /// The user has been shown these designs. They are nobody's at work from then on, which may
+    /// change the names of their files, and old ones go. Throws FileError.
+    void noteSeen(std::vector<Design>& designs);
+    /// Moves a design into the trash because the user wants it; whether it is there.
+    bool moveToTrash(const Design& design);
+
     /// Writes the design at work as the file of this run. Throws FileError.
-    void put(const std::string& shipName, const std::string& shipFile);
-    /// Keeps the file of this run, if there is one, for good.
-    void keep();
-    /// Takes the file of this run away, if there is one.
+    void put(const Aside& design);
+    /// Puts a design aside for good, unless it is there already as it is. Throws FileError.
+    void keep(const Aside& design);
+    /// Takes the file of this run away, if there is one. What somebody else has made of it stays.
     void forget();
 
     /// All designs in a folder, the newest first. Throws FileError if the folder is there and
@@ -50,18 +65,31 @@ public:
     static std::vector<Design> list(const std::filesystem::path& folder);
 
 private:
-    void takeMark();
-    std::filesystem::path lockOf(const std::string& mark) const;
-    bool isRunning(const std::string& mark) const;
-    std::filesystem::path keepFile(const std::filesystem::path& file);
-    void takeOldestAway();
+    /// The file of this run, as it was written last.
+    struct OwnFile {
+        std::string name;
+        std::uint64_t number;
+        std::string shipFile;
+    };
+
+    void begin();
+    std::filesystem::path fileOf(const std::string& name, const std::string& mark = {}) const;
+    std::filesystem::path takeMarkOff(const std::filesystem::path& file) const;
+
+    std::filesystem::path ownFile() const { return fileOf(m_own->name, m_run.mark()); }
+    bool isOwnAsWritten() const;
+    void letGo();
+    void writeOwn(const Aside& design);
+
+    std::optional<std::string> whereKept(const std::string& shipFile) const;
+    void takeUpLeftOvers(RecoveryListing& listing) const;
+    void takeOldOnesAway();
 
     std::filesystem::path m_folder;
     std::function<std::string()> m_now;
-    std::string m_mark;  ///< of this run; empty before its first file
-    std::optional<FileLock> m_lock;
-    std::filesystem::path m_ownFile;
-    std::string m_ownShip;  ///< as it stands in the name of that file
+    Trash& m_trash;
+    RecoveryRun m_run;
+    std::optional<OwnFile> m_own;
 };
 
 }  // namespace fleetwright

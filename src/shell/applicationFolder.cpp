@@ -4,13 +4,13 @@
 #include "FileLock.h"
 #include "StagedFiles.h"
 #include "fileCalls.h"
+#include "fingerprint.h"
 #include "paths.h"
 #include "readFile.h"
 #include "saveFile.h"
 #include "text.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
@@ -22,15 +22,6 @@ namespace fleetwright {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Tells contents apart: their length and their 64-bit FNV-1a hash.
-std::string fingerprint(std::string_view bytes) {
-    std::uint64_t hash = 0xcbf29ce484222325;
-    for (const char byte : bytes) {
-        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
-    }
-    return std::to_string(bytes.size()) + '-' + std::to_string(hash);
-}
 
 /// The entries below a folder by name, with paths from that folder on, without links.
 std::vector<fs::path> entriesBelow(const fs::path& folder) {

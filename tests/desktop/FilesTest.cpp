@@ -86,15 +86,33 @@ TEST_F(DesktopTest, DesignOutlivesACrash) {
     std::string name = tool({"recovered"});
     name.pop_back();
     const Design crashed = design;
-    start();
-    waitForElement("the status that names the design", [&] {
-        return windowOnScreen(MainWindow::title)->find("label", [&](const Element& label) {
-            return label.name().starts_with("Recovered design: ") &&
-                   label.name().ends_with(name + ".shp");
-        });
-    });
+    startProgram();
+    const Window question("Designs Left by a Crash");
+    const Element row = question.get("table cell", "Generic", "Designs put aside");
+    waitFor("the keyboard to be in the list", [&] { return row.is(ATSPI_STATE_FOCUSED); });
+    question.get("table cell", "52", "Designs put aside");
+    press("Return");
+    question.waitUntilGone();
+    window.emplace();
+    window->waitFor(expectedOf(crashed));
     tool({"recovered", name, "back.shp"});
     EXPECT_EQ(expectedOf(path("back.shp")), expectedOf(crashed));
+
+    // It has no file, so Save As gives it one; and it stays where it was, until the user throws it
+    // away.
+    waitFor("the design to be put aside again", [&] { return tool({"recovered"}) != name + '\n'; });
+    press("ctrl+a");
+    chooseFile("Save As", path("ships/Crashed"));
+    waitForFile("ships/Crashed.shp", "Mass: 52");
+    waitFor("its own file to go", [&] { return tool({"recovered"}) == name + '\n'; });
+    window->choose("Design", "Designs Put Aside...");
+    const Window look("Designs Put Aside");
+    look.waitUntil("table cell", "Generic", ATSPI_STATE_FOCUSED);
+    press("Delete");
+    waitFor("the design to be in the trash", [&] { return tool({"recovered"}).empty(); });
+    press("Escape");
+    look.waitUntilGone();
+    EXPECT_TRUE(std::filesystem::exists(path("data/Trash/files") / (name + ".shp")));
 }
 
 TEST_F(DesktopTest, ReportReachesThePaper) {

@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <map>
 #include <ranges>
 
@@ -110,9 +109,6 @@ public:
             doLater(rest.substr(0, rest.find(':')), rest.substr(rest.find(": ") + 2));
         } else if (first == "write") {
             m_test.folder().write(cut(rest).first, replaced(cut(rest).second, "; ", "\n"));
-        } else if (first == "age") {
-            const fs::path file = m_test.folder().path() / rest;
-            fs::last_write_time(file, fs::last_write_time(file) - std::chrono::seconds(10));
         } else if (first == "link") {
             fs::create_hard_link(m_test.folder().path() / cut(rest).first,
                                  m_test.folder().path() / cut(rest).second);
@@ -146,6 +142,10 @@ private:
             {"tray", [this] { m_hasTray = true; }},
             {"no tray", [this] { m_hasTray = false; }},
             {"copies 2", [this] { m_test.copies = 2; }},
+            {"starting", [this] { m_test.isStartOver = false; }},
+            {"started", [this] { m_test.isStartOver = true; }},
+            {"no trash", [this] { m_test.hasTrash = false; }},
+            {"trash", [this] { m_test.hasTrash = true; }},
             {"no paper", [this] { m_test.printerFails = true; }},
             {"largest 4", [this] { m_test.globals.g_iLargestSSD = 4; }},
             {"maps scanned",
@@ -238,6 +238,7 @@ private:
         const std::map<std::string, std::function<void()>> acts = {
             {"click", [&] { control.click(); }},
             {"double", [&] { control.doubleClick(); }},
+            {"delete", [&] { list->pressDelete(); }},
             {"right", [&] { control.pressMouse(at); }},
             {"left", [&] { control.pressMouse({.button = LeftButton}); }},
             {"middle", [&] { control.pressMouse({.button = MiddleButton}); }},

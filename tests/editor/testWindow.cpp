@@ -1,6 +1,7 @@
 #include "testWindow.h"
 
 #include "Error.h"
+#include "Trash.h"
 
 #include <utility>
 
@@ -115,6 +116,25 @@ private:
     int m_lines = 0;
 };
 
+/// A folder of the test.
+class TestWindow::Bin : public Trash {
+public:
+    explicit Bin(TestWindow& test) : m_test(test) {}
+
+    bool moveToTrash(const std::filesystem::path& file) override {
+        m_test.m_log += "trash; ";
+        if (m_test.hasTrash) {
+            const std::filesystem::path bin = m_test.m_folder.path() / "trash";
+            std::filesystem::create_directory(bin);
+            std::filesystem::rename(file, bin / file.filename());
+        }
+        return m_test.hasTrash;
+    }
+
+private:
+    TestWindow& m_test;
+};
+
 TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
       m_progress(std::make_unique<Progress>(*this)), m_paper(std::make_unique<Paper>(*this)),
@@ -129,8 +149,13 @@ TestWindow::TestWindow(std::string_view catalogue)
                    window().CMRUList->clearList();
                    window().fillMRU();
                }}),
-      m_recovery(m_folder.path() / "recovered",
-                 [this] { return "time " + std::to_string(++m_time); }) {
+      m_bin(std::make_unique<Bin>(*this)),
+      m_recovery(
+          m_folder.path() / "recovered", [this] { return "time " + std::to_string(++m_time); },
+          *m_bin),
+      m_putAside({.desktop = *m_desk, .moveToTrash = [this](const RecoveryDesign& design) {
+                      return m_recovery.moveToTrash(design);
+                  }}) {
     globals.formula = formula_calculate;
     globals.g_sDefaultDesigner = "Somebody";
     m_folder.write("weaps.dat", catalogue);
@@ -154,7 +179,9 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .showMapper = [this] { openOther("mapper"); },
                            .showViewer = [this] { openOther("viewer"); },
                            .showMapCreator = [this] { openOther("map creator"); },
-                           .recovery = &m_recovery});
+                           .recovery = &m_recovery,
+                           .putAside = [this]() -> frmPutAside& { return m_putAside; },
+                           .isStartOver = [this] { return isStartOver; }});
 }
 
 TestWindow::~TestWindow() = default;

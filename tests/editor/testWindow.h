@@ -9,6 +9,7 @@
 #include "fakeServices.h"
 #include "frmExtras.h"
 #include "frmMain.h"
+#include "frmPutAside.h"
 #include "testShip.h"
 
 #include <memory>
@@ -58,6 +59,8 @@ public:
     std::optional<std::string> file;
     std::optional<int> copies;
     bool printerFails = false;
+    bool hasTrash = true;
+    bool isStartOver = true;
     std::string catalogueFaults;
 
 private:
@@ -65,6 +68,7 @@ private:
     class Paper;
     class Pictures;
     class Progress;
+    class Bin;
 
     void takeTurn();
     void openOther(const std::string& name);
@@ -78,7 +82,9 @@ private:
     std::unique_ptr<Paper> m_paper;
     frmExtras m_extras;
     int m_time = 0;
+    std::unique_ptr<Bin> m_bin;
     RecoveryFolder m_recovery;
+    frmPutAside m_putAside;
     std::unique_ptr<frmMain> m_window;
 };
 

@@ -1,9 +1,8 @@
-// The user's folder and the designs put aside in it: files of acts of packages, of the user and of
-// runs of the program, each with all files that look different then.
+// The user's folder: files of acts of packages, of the user and of starts of the program, each with
+// all files that look different then.
 
 #include "Error.h"
 #include "FileFaults.h"
-#include "RecoveryFolder.h"
 #include "TemporaryFolder.h"
 #include "applicationFolder.h"
 #include "caseFile.h"
@@ -15,7 +14,6 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <regex>
 
 #include <pwd.h>
 #include <unistd.h>
@@ -50,24 +48,20 @@ public:
     }
 
 private:
-    /// The files of the user's folder, without what differs from run to run.
+    /// The files of the user's folder.
     std::map<std::string, std::string> look() {
         std::map<std::string, std::string> seen;
-        int locks = 0;
         const fs::path users = m_root.path() / "FleetWright";
         for (const auto& entry : fs::recursive_directory_iterator(m_root.path())) {
             const fs::path& file = entry.path();
             const std::string name = file.lexically_relative(users).string();
-            if (file.extension() == ".lock") {
-                ++locks;
-            } else if (!name.starts_with("..") && file != m_record) {
-                seen[std::regex_replace(name, std::regex("~[0-9]+$"), "~MARK")] =
+            if (!name.starts_with("..") && file != m_record) {
+                seen[name] =
                     (fs::is_symlink(file) ? "link to " : "") +
                     (fs::is_directory(file) ? "folder" + openTo(file)
                                             : m_root.read("FleetWright/" + name));
             }
         }
-        seen["locks"] = std::to_string(locks);
         return seen;
     }
 
@@ -90,15 +84,6 @@ private:
 
     void perform(const std::string& act, const std::string& name, const std::string& text) {
         const fs::path file = m_root.path() / name;
-        const auto run = [&]() -> RecoveryFolder& {
-            const auto now = [this] { return "t" + std::to_string(++m_now); };
-            return m_runs.try_emplace(name, RecoveryFolder::ofUser(), now).first->second;
-        };
-        const auto list = [this](const std::vector<RecoveryFolder::Design>& designs) {
-            for (const RecoveryFolder::Design& design : designs) {
-                m_log += design.name + "; ";
-            }
-        };
         const std::map<std::string, std::function<void()>> acts = {
             {"deliver", [&] { deliver(name, text); }},
             {"start", [&] { start(); }},
@@ -107,19 +92,10 @@ private:
             {"protect", [&] { fs::permissions(file, fs::perms::owner_read); }},
             {"open", [&] { fs::permissions(file, fs::perms::all); }},
             {"link", [&] { fs::create_symlink(m_root.path() / text, file); }},
-            {"age",
-             [&] { fs::last_write_time(RecoveryFolder::ofUser() / (name + ' ' + text), m_old); }},
             {"tidy", [&] { takeLeftoversAway(userDataFolder()); }},
             {"set", [&] { setenv(name.c_str(), text.c_str(), 1); }},
             {"unset", [&] { unsetenv(name.c_str()); }},
-            {"ask", [&] { m_log += replaced(userDataFolder(), m_passwd, "PASSWD"); }},
-            {"put", [&] { run().put(text, "design " + std::to_string(++m_designs)); }},
-            {"keep", [&] { run().keep(); }},
-            {"forget", [&] { run().forget(); }},
-            {"find", [&] { list(run().keepLeftBehind()); }},
-            {"crash", [&] { m_runs.erase(name); }},
-            {"now", [&] { m_now = std::stoi(name); }},
-            {"list", [&] { list(RecoveryFolder::list(RecoveryFolder::ofUser())); }}};
+            {"ask", [&] { m_log += replaced(userDataFolder(), m_passwd, "PASSWD"); }}};
         acts.at(act)();
     }
 
@@ -144,9 +120,6 @@ private:
     fs::file_time_type m_time = m_old;
     const std::string m_home = getenv("HOME");
     const std::string m_passwd = getpwuid(getuid())->pw_dir;
-    std::map<std::string, RecoveryFolder> m_runs;
-    int m_now = 0;
-    int m_designs = 0;
     std::string m_log;
 };
 

@@ -35,6 +35,8 @@ const std::map<std::string, std::string> files = {
     {"ships/Empty.shp", ""},
     {"ships/Folder.shp/file", ""},
     {"ships/\xC3\x9C.shp", "Ship Name: \xC3\x9C\nMass: 6\n"},
+    {"recovered/Lost, mass 6, then #3.shp~7", "Ship Name: Lost\nMass: 6\n"},
+    {"recovered/.fleetwright-cut.tmp", "Ship Name: Lost\nMass: 6\n"},
     {"shipimages/ship.gif", ""},
     {"maps/ship.map", "IMAGE: ship.gif\nSIZE: 100\nWEAP: (3,4,F)\nWEAP: (9,9,P)\nDCP: (1,1)\n"},
     {"maps/lost.map", "IMAGE: lost.bmp\nSIZE: 60\nWEAP: (3,4,F)\nWEAP: (5,4,F)\n"},

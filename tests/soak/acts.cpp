@@ -114,6 +114,7 @@ const std::vector<Act> acts = {
     on<TreeView>("drag", 8, dragNode),
     on<TreeView>("select", 16, selectNode),
     on<ListView>("double-click", 16, [](auto&, auto& list) { list.doubleClick(); }),
+    on<ListView>("Delete", 8, [](auto&, auto& list) { list.pressDelete(); }),
     on<ListView>("right-click", 12,
                  [](auto& me, auto& list) {
                      const double x = me.choices.oneIn(2) ? 0 : 1e9;  // or far out

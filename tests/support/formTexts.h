@@ -34,8 +34,12 @@ inline std::string stateOf(const Control& control) {
     std::string text;
     if (const auto* const list = dynamic_cast<const ListView*>(&control)) {
         for (std::size_t row = 0; row < list->rows().size(); ++row) {
-            text += (row == 0 ? "" : ", ") + list->rows()[row].text + ' ' +
-                    list->rows()[row].subItem + (list->selected() == row ? "*" : "");
+            const ListView::Row& shown = list->rows()[row];
+            text += (row == 0 ? "" : ", ") + shown.text + ' ' + shown.subItem;
+            for (const std::string& item : shown.moreItems) {
+                text += item.empty() ? "" : ' ' + item;
+            }
+            text += list->selected() == row ? "*" : "";
         }
     } else if (const auto* const tree = dynamic_cast<const TreeView*>(&control)) {
         for (const TreeView::Node& node : tree->nodes()) {

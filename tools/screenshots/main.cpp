@@ -17,6 +17,7 @@
 #include "frmExtras.h"
 #include "frmMain.h"
 #include "frmMapper.h"
+#include "frmPutAside.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
 #include "paths.h"
@@ -156,6 +157,18 @@ void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& ap
     desktop.take(window, "mapper");
 }
 
+/// The question after a crash.
+void takePutAside(PictureDesktop& desktop, Form& owner) {
+    frmPutAside putAside({.desktop = desktop, .moveToTrash = {}});
+    for (const char* const name : {"Provost, mass 24, 2026-05-01 17.03.59 #12.shp~7",
+                                   "Saltmarsh, mass 60, 2026-04-28 09.10.11 #11.shp",
+                                   "Larkfield 2026-03-28 21.45.00.shp", "My own.shp"}) {
+        putAside.designs.emplace_back(name);
+        putAside.designs.back().isLeftBehind = putAside.designs.size() == 1;
+    }
+    desktop.showModal(putAside, owner);
+}
+
 /// A clock by which each look is so late that the event loop gets its turn.
 class LateClock : public Clock {
 public:
@@ -237,6 +250,7 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     take("main");
     form.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
     form.windows.mnuExtrasPage.choose();
+    takePutAside(desktop, form);
     frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
     desktop.showModal(about, form);
     takeAuthoring(pictures, desktop, "");

@@ -143,7 +143,14 @@ void FormWindow::addTimer(Timer& timer) {
         }
     });
     m_connections.push_back(timer.Restarted.connect([ticking] { ticking->start(); }));
-    ticking->start();
+    // One that is off does not wake the machine.
+    const auto follow = [ticking, &timer] {
+        if (timer.isEnabled() != ticking->isActive()) {
+            timer.isEnabled() ? ticking->start() : ticking->stop();
+        }
+    };
+    follow();
+    m_connections.push_back(timer.Changed.connect(follow));
 }
 
 void FormWindow::update() {

@@ -45,14 +45,17 @@ public:
         while (topLevelItemCount() > std::ssize(rows)) {
             delete takeTopLevelItem(topLevelItemCount() - 1);
         }
+        m_shownRows.resize(static_cast<std::size_t>(topLevelItemCount()));
+        QList<QTreeWidgetItem*> added;
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (static_cast<int>(i) == topLevelItemCount()) {
-                addTopLevelItem(new QTreeWidgetItem);
+            if (i >= m_shownRows.size()) {
+                added << itemOf(rows[i], new QTreeWidgetItem);
+            } else if (m_shownRows[i] != rows[i]) {
+                itemOf(rows[i], topLevelItem(static_cast<int>(i)));
             }
-            QTreeWidgetItem* const item = topLevelItem(static_cast<int>(i));
-            item->setText(0, toShown(rows[i].text));
-            item->setText(1, toShown(rows[i].subItem));
         }
+        addTopLevelItems(added);
+        m_shownRows = rows;
         if (const auto selected = m_list.selected()) {
             setCurrentItem(topLevelItem(static_cast<int>(*selected)));
         } else {
@@ -76,7 +79,7 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override {
         if (event->key() == Qt::Key_Delete) {
-            m_list.doubleClick();
+            m_list.pressDelete();
             return;
         }
         QTreeWidget::keyPressEvent(event);
@@ -96,6 +99,17 @@ protected:
     }
 
 private:
+    /// Writes a row into its item.
+    static QTreeWidgetItem* itemOf(const ListView::Row& row, QTreeWidgetItem* item) {
+        int column = 0;
+        item->setText(column++, toShown(row.text));
+        item->setText(column++, toShown(row.subItem));
+        for (const std::string& text : row.moreItems) {
+            item->setText(column++, toShown(text));
+        }
+        return item;
+    }
+
     /// A system may be dropped anywhere on the list, on its headers and scroll bars as well.
     bool takeDrag(QEvent& event) {
         const bool isDrop = event.type() == QEvent::Drop;
@@ -128,6 +142,7 @@ private:
     ListView& m_list;
     Scale m_scale;
     std::size_t m_shownColumns = 0;
+    std::vector<ListView::Row> m_shownRows;  // there may be many, of which few change
 };
 
 }  // namespace

@@ -1,0 +1,85 @@
+#include "RecoveryListing.h"
+
+#include "Error.h"
+#include "TemporaryFile.h"
+#include "fileCalls.h"
+
+#include <algorithm>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Whether a run can have such a mark.
+bool isMark(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+}  // namespace
+
+RecoveryDesign::RecoveryDesign(fs::path designFile)
+    : file(std::move(designFile)), name(recordName()), about(RecoveryName::of(name)) {}
+
+std::string RecoveryDesign::mark() const {
+    constexpr std::string_view extension = recoveryExtension;
+    const std::string ending = file.extension().string();
+    return ending.size() > extension.size() + 1 && ending.starts_with(extension) &&
+                   ending[extension.size()] == beforeRecoveryMark
+               ? ending.substr(extension.size() + 1)
+               : std::string();
+}
+
+void sortNewestFirst(std::vector<RecoveryDesign>& designs) {
+    std::sort(designs.begin(), designs.end(), [](const auto& a, const auto& b) {
+        return a.about.isNewerThan(b.about) || (!b.about.isNewerThan(a.about) && a.file < b.file);
+    });
+    // Two runs may have had the same ship in the same second: then the whole names tell them apart.
+    for (std::size_t i = 1; i < designs.size(); ++i) {
+        if (designs[i - 1].recordName() == designs[i].recordName()) {
+            designs[i - 1].name = designs[i - 1].file.filename().string();
+            designs[i].name = designs[i].file.filename().string();
+        }
+    }
+}
+
+RecoveryListing::RecoveryListing(const fs::path& folder) {
+    std::error_code error;
+    for (const fs::directory_entry& entry : folderEntries(folder, error)) {
+        std::error_code unknown;
+        if (entry.is_regular_file(unknown)) {
+            take(entry.path());
+        }
+    }
+    if (error && error != std::errc::no_such_file_or_directory) {
+        throw FileError(folder, "cannot be read: " + error.message());
+    }
+}
+
+void RecoveryListing::take(const fs::path& file) {
+    const fs::path ending = file.extension();
+    if (ending == recoveryLock && isMark(file.stem().string())) {
+        locks.push_back(file);
+    } else if (TemporaryFile::isOne(file)) {
+        leftOvers.push_back(file);
+    } else if (file.filename().string().starts_with(recoveryRecord)) {
+        records.push_back(file);
+    } else if (RecoveryDesign design(file); ending == recoveryExtension || !design.mark().empty()) {
+        highest = std::max(highest, design.about.number);
+        designs.push_back(std::move(design));
+    }
+}
+
+std::set<std::string> RecoveryListing::recordNames() const {
+    std::set<std::string> names;
+    for (const RecoveryDesign& design : designs) {
+        names.insert(design.recordName());
+    }
+    return names;
+}
+
+}  // namespace fleetwright

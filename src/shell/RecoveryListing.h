@@ -1,0 +1,51 @@
+#pragma once
+
+#include "RecoveryName.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+// How files are named in a folder of designs put aside.
+inline constexpr const char* recoveryExtension = ".shp";
+inline constexpr const char* recoveryLock = ".lock";       ///< behind the mark of a run
+inline constexpr const char* recoveryRecord = ".record-";  ///< in front of it
+inline constexpr char beforeRecoveryMark = '~';            ///< between ".shp" and it
+
+/// A design that was put aside.
+struct RecoveryDesign {
+    explicit RecoveryDesign(std::filesystem::path designFile);
+
+    /// The mark of the run that is at work on it, or was; empty if it was put aside for good.
+    std::string mark() const;
+    /// The name under which records know it.
+    std::string recordName() const { return file.stem().string(); }
+
+    std::filesystem::path file;
+    std::string name;    ///< that of the file without the ending; no other one of a list has it
+    RecoveryName about;  ///< what that says
+    bool isLeftBehind = false;  ///< by a run that has crashed, and the user does not know it
+};
+
+/// Brings the newest to the front, and gives each a name of its own.
+void sortNewestFirst(std::vector<RecoveryDesign>& designs);
+
+/// What is in a folder of designs put aside, in no order, by one look at it.
+struct RecoveryListing {
+    /// A folder that is not there is empty. Throws FileError if it cannot be read.
+    explicit RecoveryListing(const std::filesystem::path& folder);
+
+    void take(const std::filesystem::path& file);
+    /// All designs, as records know them.
+    std::set<std::string> recordNames() const;
+
+    std::vector<RecoveryDesign> designs;
+    std::vector<std::filesystem::path> locks, records, leftOvers;
+    std::uint64_t highest = 0;  ///< of the designs' numbers
+};
+
+}  // namespace fleetwright

@@ -1,0 +1,95 @@
+#include "frmPutAside.h"
+
+#include "Desktop.h"
+#include "text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+ListView::Row rowOf(const RecoveryDesign& design) {
+    std::string time = design.about.time;
+    std::replace(time.begin(), time.end(), '.', ':');  // which no file's name may hold
+    return {.key = design.name,
+            .text = shownText(design.about.ship),
+            .subItem = design.about.mass ? std::to_string(*design.about.mass) : "",
+            .moreItems = {shownText(time), design.isLeftBehind ? "Left by a crash" : ""}};
+}
+
+}  // namespace
+
+frmPutAside::frmPutAside(Services services)
+    : Form({.name = "frmPutAside", .width = 8700, .height = 5310}),
+      m_services(std::move(services)) {
+    lvDesigns.addColumn("Design", 3450);
+    lvDesigns.addColumn("Mass", 900);
+    lvDesigns.addColumn("Put aside", 2100);
+    lvDesigns.addColumn("Note", 1500);
+    lvDesigns.onDblClick = [this] { cmdOpen_Click(); };
+    lvDesigns.onDelete = [this] { cmdTrash.press(); };
+    lvDesigns.rowToolTip = [this](const ListView::Row& row) {
+        const auto design = std::find_if(designs.begin(), designs.end(),
+                                         [&row](const auto& each) { return each.name == row.key; });
+        return design == designs.end() ? "" : shownText(design->file.string());
+    };
+}
+
+void frmPutAside::Form_Load() {
+    chosen.reset();
+    m_isNew = true;
+    const bool isQuestion = std::any_of(designs.begin(), designs.end(),
+                                        [](const auto& design) { return design.isLeftBehind; });
+    setCaption(isQuestion ? "Designs Left by a Crash" : "Designs Put Aside");
+    lblAbout.setCaption(isQuestion ? "The program was cut short. Nothing is lost: open a design "
+                                     "that it has put aside, or leave them here."
+                                   : "These designs were never saved, and so were put aside.");
+    showDesigns(0);
+}
+
+void frmPutAside::Form_Activate() {
+    if (std::exchange(m_isNew, false)) {
+        lvDesigns.setFocus();
+    }
+}
+
+void frmPutAside::showDesigns(std::size_t selected) {
+    ListView::Content content;
+    content.rows.reserve(designs.size());
+    std::transform(designs.begin(), designs.end(), std::back_inserter(content.rows), rowOf);
+    if (!designs.empty()) {
+        content.selected = std::min(selected, designs.size() - 1);
+    } else {
+        lblAbout.setCaption("No design is put aside.");
+    }
+    lvDesigns.setContent(std::move(content));
+    cmdOpen.setEnabled(!designs.empty());
+    cmdTrash.setEnabled(!designs.empty());
+}
+
+void frmPutAside::cmdOpen_Click() {
+    if (lvDesigns.selected()) {
+        chosen = lvDesigns.selected();
+        unload();
+    }
+}
+
+void frmPutAside::cmdTrash_Click() {
+    const auto selected = lvDesigns.selected();
+    if (!selected) {
+        return;
+    }
+    const RecoveryDesign& design = designs[*selected];
+    if (!m_services.moveToTrash(design)) {
+        m_services.desktop.showMessage(shownText(design.name) +
+                                           " cannot be moved to the trash. It stays where it is.",
+                                       "", Buttons::Ok, Icon::Information);
+        return;
+    }
+    designs.erase(designs.begin() + static_cast<std::ptrdiff_t>(*selected));
+    showDesigns(*selected);
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,234 @@
+// The designs put aside: files of acts of runs of the program and of users, each with all files
+// that look different then; and runs that end at any of their calls.
+
+#include "Error.h"
+#include "FileFaults.h"
+#include "RecoveryFolder.h"
+#include "TemporaryFolder.h"
+#include "Trash.h"
+#include "caseFile.h"
+#include "readFile.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <regex>
+#include <set>
+
+using namespace fleetwright;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A design that is told by its ship and mass.
+RecoveryFolder::Aside designOf(const std::string& ship, int mass) {
+    return {ship, mass,
+            "Ship Name: " + ship + "\r\nDesigner Name: X\r\nMass: " + std::to_string(mass) +
+                "\r\nThrust: 2\r\nType: Warship\r\nFTL: Normal\r\nSystem: Gun, 1\r\n"};
+}
+
+/// A folder of designs put aside, with a trash beside it.
+class Recovery : public Trash {
+public:
+    std::string run(const std::string& acts) {
+        return playActs(acts, {.act = [this](const std::string& act) { doLine(act); },
+                               .takeLog = [this] { return std::exchange(m_log, {}); },
+                               .look = [this] { return look(); },
+                               .folder = m_root.path().string()});
+    }
+
+    bool moveToTrash(const fs::path& file) override {
+        fs::create_directory(m_root.path() / "trash");
+        if (m_hasTrash) {
+            fs::rename(file, m_root.path() / "trash" / file.filename());
+        }
+        return m_hasTrash;
+    }
+
+    /// A run of the program, which begins when it is first named.
+    RecoveryFolder& runOf(const std::string& name) {
+        const auto now = [this] { return "t" + std::to_string(++m_now); };
+        return m_runs.try_emplace(name, m_folder, now, *this).first->second;
+    }
+    void end(const std::string& run) { m_runs.erase(run); }
+    const fs::path& folder() const { return m_folder; }
+
+private:
+    std::map<std::string, std::string> look() {
+        std::map<std::string, std::string> seen;
+        std::map<std::string, int> counts = {{"locks", 0}, {"records", 0}};
+        for (const auto& entry : fs::recursive_directory_iterator(m_root.path())) {
+            const std::string name = entry.path().lexically_relative(m_root.path()).string();
+            if (name.find(".record-") != std::string::npos) {
+                ++counts["records"];
+            } else if (entry.path().extension() == ".lock") {
+                ++counts["locks"];
+            } else if (entry.is_regular_file()) {
+                const std::string text =
+                    replaced(replaced(m_root.read(name), "\r\n", ", "), "\r", "|");
+                const std::size_t mass = text.find("Mass: ");  // tells a design
+                seen[std::regex_replace(replaced(name, "recovered/", ""), std::regex("~[0-9]{2,}$"),
+                                        "~MARK")] =
+                    text.ends_with("System: Gun, 1, ")
+                        ? text.substr(mass, text.find(',', mass) - mass)
+                        : text;
+            }
+        }
+        for (const auto& [what, count] : counts) {
+            seen[what] = std::to_string(count);
+        }
+        return seen;
+    }
+
+    void doLine(const std::string& line) {
+        try {
+            const auto [act, rest] = cut(line);
+            perform(act, cut(rest).first, cut(rest).second);
+        } catch (const FileError& error) {
+            m_log += complaint(error) + "; ";
+        }
+    }
+
+    void perform(const std::string& act, const std::string& name, const std::string& text) {
+        const fs::path file = m_folder / text;
+        const std::map<std::string, std::function<void()>> acts = {
+            {"put", [&] { runOf(name).put(m_last = nextDesign(text)); }},
+            {"again", [&] { runOf(name).keep(m_last); }},
+            {"keep", [&] { runOf(name).keep(m_last = nextDesign(text)); }},
+            {"forget", [&] { runOf(name).forget(); }},
+            {"look", [&] { say(runOf(name).lookAround()); }},
+            {"see",
+             [&] {
+                 std::vector<RecoveryFolder::Design> designs = runOf(name).lookAround();
+                 runOf(name).noteSeen(designs);
+             }},
+            {"list", [&] { say(RecoveryFolder::list(m_folder)); }},
+            {"end", [&] { end(name); }},
+            {"crash", [&] { crash(name); }},
+            {"now", [&] { m_now = std::stoi(name); }},
+            {"no", [&] { m_hasTrash = false; }},
+            {"write", [&] { m_root.write("recovered/" + text, name); }},
+            {"ship", [&] { m_root.write("recovered/" + text, designOf("Gnat", 9).shipFile); }},
+            {"cut",
+             [&] {
+                 const std::size_t length = m_last.shipFile.size() - std::stoul(name);
+                 m_root.write("recovered/" + text, m_last.shipFile.substr(0, length));
+             }},
+            {"later",
+             [&] { fs::last_write_time(file, fs::file_time_type::clock::now() + m_later); }},
+            {"remove", [&] { fs::remove(m_folder / oneLike(name)); }},
+            {"copy", [&] { fs::copy_file(m_folder / oneLike(name), file); }},
+            {"over", [&] { m_root.write("recovered/" + oneLike(name), text); }},
+            {"throw",
+             [&] {
+                 for (const auto& design : runOf(name).lookAround()) {
+                     m_log += design.name == text ? runOf(name).moveToTrash(design) ? "" : "stays; "
+                                                  : "";
+                 }
+             }},
+            {"damage", [&] { m_root.write("recovered/" + oneLike(".record-"), "mine"); }}};
+        acts.at(act)();
+    }
+
+    RecoveryFolder::Aside nextDesign(const std::string& ship) { return designOf(ship, ++m_mass); }
+
+    void say(const std::vector<RecoveryFolder::Design>& designs) {
+        for (const RecoveryFolder::Design& design : designs) {
+            const bool isPlain = design.name == design.file.stem();
+            m_log += (design.isLeftBehind ? "left " : "") +
+                     (isPlain ? design.name : design.name.substr(0, design.name.find('~'))) +
+                     (design.about.mass ? ": " + std::to_string(*design.about.mass) : "") + "; ";
+        }
+    }
+
+    /// The name of a file that contains this.
+    std::string oneLike(const std::string& part) const {
+        for (const auto& entry : fs::directory_iterator(m_folder)) {
+            if (entry.path().filename().string().find(part) != std::string::npos) {
+                return entry.path().filename().string();
+            }
+        }
+        throw FileError(m_folder, "holds no " + part);
+    }
+
+    /// None of its calls reaches the disk any more.
+    void crash(const std::string& name) {
+        const FileFaults noMore(1, FileFaults::Kind::IsLast);
+        m_runs.erase(name);
+    }
+
+    TemporaryFolder m_root;
+    const fs::path m_folder = m_root.path() / "recovered";
+    const std::chrono::hours m_later = std::chrono::hours(1000);
+    std::map<std::string, RecoveryFolder> m_runs;
+    RecoveryFolder::Aside m_last = {};
+    int m_now = 0;
+    int m_mass = 0;
+    bool m_hasTrash = true;
+    std::string m_log;
+};
+
+/// What can be found in the folder, each as a whole.
+std::multiset<std::string> shipFilesIn(const fs::path& folder) {
+    std::multiset<std::string> all;
+    for (const RecoveryFolder::Design& design : RecoveryFolder::list(folder)) {
+        all.insert(readBytes(design.file));
+    }
+    return all;
+}
+
+}  // namespace
+
+TEST(Recovery, KeepsWhatRunsAndUsersLeaveInItsFolder) {
+    expectCases("shell/golden/recovery.txt",
+                [](const Case& each) { return Recovery().run(each["acts"]); });
+}
+
+// A run ends at each of its calls in turn, as a kill ends it. What it has said to be put aside is
+// there for the next one, what was kept before too, and nothing is there by half.
+TEST(Recovery, LosesNothingWhereverARunEnds) {
+    const RecoveryFolder::Aside before = designOf("Before", 2), crashed = designOf("Crashed", 4),
+                                first = designOf("First", 6), second = designOf("Second", 8),
+                                third = designOf("Third", 10);
+    bool hasEnded = true;
+    for (int nth = 1; hasEnded; ++nth) {
+        SCOPED_TRACE(nth);
+        Recovery world;
+        world.runOf("before").keep(before);
+        world.end("before");
+        world.runOf("crashed").put(crashed);
+        std::vector<const RecoveryFolder::Aside*> wanted = {&before, &crashed};
+        {
+            FileFaults faults(nth, FileFaults::Kind::IsLast);
+            world.end("crashed");
+            try {
+                RecoveryFolder& run = world.runOf("run");
+                std::vector<RecoveryFolder::Design> designs = run.lookAround();
+                run.noteSeen(designs);
+                run.put(first);
+                wanted.push_back(&first);
+                wanted.pop_back();  // from here on one of both is
+                run.put(second);
+                wanted.push_back(&second);
+                run.keep(second);
+                run.put(third);
+                wanted.push_back(&third);
+                run.keep(third);
+            } catch (const FileError&) {
+                // The user is told.
+            }
+            world.end("run");
+            hasEnded = faults.calls() >= nth;
+        }
+        world.runOf("next").lookAround();
+        const std::multiset<std::string> found = shipFilesIn(world.folder());
+        for (const RecoveryFolder::Aside* each : wanted) {
+            EXPECT_TRUE(found.contains(each->shipFile)) << each->shipName;
+        }
+        for (const std::string& shipFile : found) {
+            EXPECT_TRUE(shipFile.starts_with("Ship Name: ") && shipFile.ends_with("Gun, 1\r\n"))
+                << shipFile;
+        }
+    }
+}
