@@ -37,6 +37,11 @@ bool isThere(const fs::path& file) {
     return fs::exists(fs::symlink_status(file, unknown));
 }
 
+/// A rename that is not for good yet.
+std::error_code renameUnlessThere(const fs::path& from, const fs::path& to) {
+    return isThere(to) ? std::make_error_code(std::errc::file_exists) : renameFile(from, to);
+}
+
 /// Reads the masses that names do not say, but not of more designs than are read at once.
 void readMasses(std::vector<RecoveryDesign>& designs) {
     constexpr std::size_t most = 50;
@@ -50,7 +55,7 @@ void readMasses(std::vector<RecoveryDesign>& designs) {
 }  // namespace
 
 fs::path RecoveryFolder::ofUser() {
-    return userDataFolder() / "recovered";
+    return putAsideFolder();
 }
 
 RecoveryFolder::RecoveryFolder(fs::path folder, std::function<std::string()> now, Trash& trash)
@@ -67,11 +72,11 @@ std::vector<RecoveryDesign> RecoveryFolder::lookAround() {
     takeUpLeftOvers(listing);
     std::vector<Design>& designs = listing.designs;
     const std::set<std::string> running = m_run.running(listing);
-    std::erase_if(designs, [&](const Design& each) { return running.contains(each.mark()); });
+    std::erase_if(designs, [&](const Design& each) { return running.contains(each.mark); });
     sortNewestFirst(designs);
     const RecoveryRecord known = m_run.allRecords(listing);
     for (Design& design : designs) {
-        design.isLeftBehind = !design.mark().empty() && !known.isSeen(design.recordName());
+        design.isLeftBehind = !design.mark.empty() && !known.isSeen(design.recordName);
     }
     std::stable_partition(designs.begin(), designs.end(),
                           [](const Design& design) { return design.isLeftBehind; });
@@ -80,18 +85,21 @@ std::vector<RecoveryDesign> RecoveryFolder::lookAround() {
 }
 
 void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
+    bool isChanged = false;
     for (Design& design : designs) {
-        if (!design.mark().empty()) {
-            design.file = takeMarkOff(design.file);
-            design.isLeftBehind = false;
+        if (!design.mark.empty()) {
+            design = Design::in(takeMarkOff(design.file, renameUnlessThere)).value_or(design);
+            isChanged = true;
         }
+    }
+    if (isChanged) {
+        syncFolder(m_folder);  // once: there may be many
     }
     const RecoveryRecord known = m_run.allRecords(RecoveryListing(m_folder));
     std::set<std::string> news;
     for (const Design& design : designs) {
-        const std::string name = design.recordName();
-        if (known.isMade(name) && !known.isSeen(name)) {
-            news.insert(name);
+        if (known.isMade(design.recordName) && !known.isSeen(design.recordName)) {
+            news.insert(design.recordName);
         }
     }
     if (!news.empty()) {
@@ -106,7 +114,7 @@ void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
 
 bool RecoveryFolder::moveToTrash(const Design& design) {
     // Another run may have taken the mark off it.
-    return m_trash.moveToTrash(isThere(design.file) ? design.file : fileOf(design.recordName()));
+    return m_trash.moveToTrash(isThere(design.file) ? design.file : fileOf(design.recordName));
 }
 
 void RecoveryFolder::put(const Aside& design) {
@@ -123,7 +131,7 @@ void RecoveryFolder::keep(const Aside& design) {
         return;
     }
     writeOwn(design);
-    takeMarkOff(ownFile());
+    takeMarkOff(ownFile(), renameToNew);
     m_own.reset();
     takeOldOnesAway();
 }
@@ -145,7 +153,7 @@ void RecoveryFolder::begin() {
         // Before anything is saved there, which takes left files away.
         RecoveryListing listing(m_folder);
         takeUpLeftOvers(listing);
-        m_run.begin();
+        m_run.begin(listing);
     }
 }
 
@@ -155,11 +163,11 @@ fs::path RecoveryFolder::fileOf(const std::string& name, const std::string& mark
 }
 
 /// Takes the mark of its run off a file, never over another one; where it is then.
-fs::path RecoveryFolder::takeMarkOff(const fs::path& file) const {
+fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) const {
     constexpr int mostNames = 100;
     const std::string name = file.stem().string();
     fs::path plain = fileOf(name);
-    for (int i = 2; renameToNew(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
+    for (int i = 2; rename(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
         plain = fileOf(name + " (" + std::to_string(i) + ')');
     }
     return isThere(plain) ? plain : file;
@@ -172,7 +180,7 @@ bool RecoveryFolder::isOwnAsWritten() const {
 /// Somebody else has written over the file of this run, or taken it away: it is theirs.
 void RecoveryFolder::letGo() {
     if (isThere(ownFile())) {
-        takeMarkOff(ownFile());
+        takeMarkOff(ownFile(), renameToNew);
     }
     m_run.record.forget(m_own->name);
     m_own.reset();
@@ -247,14 +255,14 @@ void RecoveryFolder::takeOldOnesAway() {
         RecoveryListing listing(m_folder);
         const RecoveryRecord known = m_run.allRecords(listing);
         std::erase_if(listing.designs, [&known](const Design& design) {
-            return design.about.number == 0 || !design.mark().empty() ||
-                   !known.isMade(design.recordName());
+            return design.about.number == 0 || !design.mark.empty() ||
+                   !known.isMade(design.recordName);
         });
         sortNewestFirst(listing.designs);
         std::size_t count = 0;
         std::set<std::string> runs;  // whose last one has come
         for (const Design& design : listing.designs) {
-            const std::string name = design.recordName();
+            const std::string& name = design.recordName;
             bool isLast = false;
             for (const std::string& run : known.makersOf(name)) {
                 isLast = runs.insert(run).second || isLast;

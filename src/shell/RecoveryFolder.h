@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace fleetwright {
@@ -74,7 +75,9 @@ private:
 
     void begin();
     std::filesystem::path fileOf(const std::string& name, const std::string& mark = {}) const;
-    std::filesystem::path takeMarkOff(const std::filesystem::path& file) const;
+    using RenameToNew = std::error_code (*)(const std::filesystem::path&,
+                                            const std::filesystem::path&);
+    std::filesystem::path takeMarkOff(const std::filesystem::path& file, RenameToNew rename) const;
 
     std::filesystem::path ownFile() const { return fileOf(m_own->name, m_run.mark()); }
     bool isOwnAsWritten() const;

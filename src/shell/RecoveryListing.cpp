@@ -22,16 +22,24 @@ bool isMark(std::string_view text) {
 
 }  // namespace
 
-RecoveryDesign::RecoveryDesign(fs::path designFile)
-    : file(std::move(designFile)), name(recordName()), about(RecoveryName::of(name)) {}
-
-std::string RecoveryDesign::mark() const {
+std::optional<RecoveryDesign> RecoveryDesign::in(const fs::path& file) {
     constexpr std::string_view extension = recoveryExtension;
-    const std::string ending = file.extension().string();
-    return ending.size() > extension.size() + 1 && ending.starts_with(extension) &&
-                   ending[extension.size()] == beforeRecoveryMark
-               ? ending.substr(extension.size() + 1)
-               : std::string();
+    const std::string name = file.filename().string();
+    const std::size_t dot = name.rfind('.');
+    const std::string_view ending =
+        dot == std::string::npos ? "" : std::string_view(name).substr(dot);
+    const bool hasMark = ending.size() > extension.size() + 1 && ending.starts_with(extension) &&
+                         ending[extension.size()] == beforeRecoveryMark;
+    if (ending != extension && !hasMark) {
+        return std::nullopt;
+    }
+    const std::string stem = name.substr(0, dot);
+    return RecoveryDesign{
+        .file = file,
+        .recordName = stem,
+        .mark = std::string(hasMark ? ending.substr(extension.size() + 1) : std::string_view()),
+        .name = stem,
+        .about = RecoveryName::of(stem)};
 }
 
 void sortNewestFirst(std::vector<RecoveryDesign>& designs) {
@@ -40,7 +48,7 @@ void sortNewestFirst(std::vector<RecoveryDesign>& designs) {
     });
     // Two runs may have had the same ship in the same second: then the whole names tell them apart.
     for (std::size_t i = 1; i < designs.size(); ++i) {
-        if (designs[i - 1].recordName() == designs[i].recordName()) {
+        if (designs[i - 1].recordName == designs[i].recordName) {
             designs[i - 1].name = designs[i - 1].file.filename().string();
             designs[i].name = designs[i].file.filename().string();
         }
@@ -61,23 +69,22 @@ RecoveryListing::RecoveryListing(const fs::path& folder) {
 }
 
 void RecoveryListing::take(const fs::path& file) {
-    const fs::path ending = file.extension();
-    if (ending == recoveryLock && isMark(file.stem().string())) {
+    if (std::optional<RecoveryDesign> design = RecoveryDesign::in(file)) {
+        highest = std::max(highest, design->about.number);
+        designs.push_back(*std::move(design));
+    } else if (file.extension() == recoveryLock && isMark(file.stem().string())) {
         locks.push_back(file);
     } else if (TemporaryFile::isOne(file)) {
         leftOvers.push_back(file);
     } else if (file.filename().string().starts_with(recoveryRecord)) {
         records.push_back(file);
-    } else if (RecoveryDesign design(file); ending == recoveryExtension || !design.mark().empty()) {
-        highest = std::max(highest, design.about.number);
-        designs.push_back(std::move(design));
     }
 }
 
 std::set<std::string> RecoveryListing::recordNames() const {
     std::set<std::string> names;
     for (const RecoveryDesign& design : designs) {
-        names.insert(design.recordName());
+        names.insert(design.recordName);
     }
     return names;
 }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,16 +19,15 @@ inline constexpr char beforeRecoveryMark = '~';            ///< between ".shp" a
 
 /// A design that was put aside.
 struct RecoveryDesign {
-    explicit RecoveryDesign(std::filesystem::path designFile);
-
-    /// The mark of the run that is at work on it, or was; empty if it was put aside for good.
-    std::string mark() const;
-    /// The name under which records know it.
-    std::string recordName() const { return file.stem().string(); }
+    /// The one in a file, if its name is that of a design.
+    static std::optional<RecoveryDesign> in(const std::filesystem::path& file);
 
     std::filesystem::path file;
-    std::string name;    ///< that of the file without the ending; no other one of a list has it
-    RecoveryName about;  ///< what that says
+    std::string recordName;  ///< that of the file without the ending; under it records know it
+    std::string
+        mark;  ///< of the run that has it at work, or had; empty if it was put aside for good
+    std::string name;           ///< the record's, or that of the whole file where two are the same
+    RecoveryName about;         ///< what that says
     bool isLeftBehind = false;  ///< by a run that has crashed, and the user does not know it
 };
 

@@ -44,17 +44,16 @@ RecoveryRun::~RecoveryRun() {
     }
 }
 
-void RecoveryRun::begin() {
+void RecoveryRun::begin(const RecoveryListing& listing) {
     do {
         m_mark = std::to_string(std::uint64_t{1} + std::random_device()());
         saveFile(lockOf(m_mark), "");
         m_lock.emplace(lockOf(m_mark));
     } while (m_lock->isLost());
-    takeRecordsOver();
+    takeRecordsOver(listing);
 }
 
-void RecoveryRun::takeRecordsOver() {
-    const RecoveryListing listing(m_folder);
+void RecoveryRun::takeRecordsOver(const RecoveryListing& listing) {
     const std::set<std::string> goingOn = running(listing);
     std::vector<fs::path> taken;
     for (const fs::path& file : listing.records) {

@@ -23,8 +23,8 @@ public:
     RecoveryRun& operator=(const RecoveryRun&) = delete;
     ~RecoveryRun();
 
-    /// Leaves the first trace in the folder, which is there. Throws FileError.
-    void begin();
+    /// Leaves the first trace in the folder, where there was this. Throws FileError.
+    void begin(const RecoveryListing& listing);
     bool hasBegun() const { return m_lock.has_value(); }
     /// Empty before the run has begun.
     const std::string& mark() const { return m_mark; }
@@ -45,7 +45,7 @@ private:
     std::filesystem::path lockOf(const std::string& mark) const;
     std::filesystem::path recordFile() const;
     bool isRunning(const std::string& mark) const;
-    void takeRecordsOver();
+    void takeRecordsOver(const RecoveryListing& listing);
 
     std::filesystem::path m_folder;
     std::string m_mark;

@@ -163,7 +163,7 @@ void takePutAside(PictureDesktop& desktop, Form& owner) {
     for (const char* const name : {"Provost, mass 24, 2026-05-01 17.03.59 #12.shp~7",
                                    "Saltmarsh, mass 60, 2026-04-28 09.10.11 #11.shp",
                                    "Larkfield 2026-03-28 21.45.00.shp", "My own.shp"}) {
-        putAside.designs.emplace_back(name);
+        putAside.designs.push_back(RecoveryDesign::in(name).value());
         putAside.designs.back().isLeftBehind = putAside.designs.size() == 1;
     }
     desktop.showModal(putAside, owner);

@@ -39,6 +39,7 @@ public:
             log += "tree" + std::to_string(press.button) + ' ';
         };
         list.onDblClick = [this] { log += "row" + std::to_string(*list.selected()) + ' '; };
+        list.onDelete = [this] { log += "away" + std::to_string(*list.selected()) + ' '; };
         mass.onMouseDown = [this](const MousePress& press) {
             log += "mass" + std::to_string(press.button) + ' ';
         };
