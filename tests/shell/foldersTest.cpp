@@ -56,10 +56,9 @@ private:
             const fs::path& file = entry.path();
             const std::string name = file.lexically_relative(users).string();
             if (!name.starts_with("..") && file != m_record) {
-                seen[name] =
-                    (fs::is_symlink(file) ? "link to " : "") +
-                    (fs::is_directory(file) ? "folder" + openTo(file)
-                                            : m_root.read("FleetWright/" + name));
+                seen[name] = (fs::is_symlink(file) ? "link to " : "") +
+                             (fs::is_directory(file) ? "folder" + openTo(file)
+                                                     : m_root.read("FleetWright/" + name));
             }
         }
         return seen;
