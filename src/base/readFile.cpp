@@ -20,32 +20,29 @@ constexpr std::size_t largestFile = std::size_t{256} * 1024 * 1024;
 
 std::string readBytes(const fs::path& path) {
     std::error_code error;
-    const auto failOnError = [&path, &error] {
+    const auto check = [&path, &error](std::uintmax_t size) {
+        if (!error && size > largestFile) {
+            error = std::make_error_code(std::errc::file_too_large);
+        }
         if (error) {
             throw FileError(path, "cannot be read: " + error.message());
         }
     };
     OpenFile file(path, OpenFile::Use::Read, error);
     const std::uintmax_t size = file.size();
-    if (size > largestFile) {
-        error = std::make_error_code(std::errc::file_too_large);
-    }
-    failOnError();
+    check(size);
 
     constexpr std::size_t leastMore = 16'384;
     std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
     std::size_t filled = 0;
     while (const std::size_t got = file.read(bytes.data() + filled, bytes.size() - filled, error)) {
         filled += got;
-        if (filled > largestFile) {
-            error = std::make_error_code(std::errc::file_too_large);
-            break;
-        }
+        check(filled);  // it may grow meanwhile
         if (filled == bytes.size()) {
             bytes.resize(std::max(bytes.size() * 2, leastMore));
         }
     }
-    failOnError();
+    check(filled);
     bytes.resize(filled);
     return bytes;
 }

@@ -44,10 +44,18 @@ TEST(FileCalls, SyncWhatIsForGoodAndFailAsTheyAreTold) {
         {[&] { return makeLink("b", sub / "link"); }, {MakeLink}, ""},
         {[&] { return openToWrite(sub / "link"); }, {Open}, "Too many levels of symbolic links"},
         {[&] { return renameForGood(sub / "b", a); }, {Rename, SyncFolder, SyncFolder}, ""},
+        {[&] { return makeTwin(a, sub / "twin"); }, {MakeLink}, ""},
+        {[&] { return exchangeForGood(a, sub); }, {Exchange, SyncFolder}, ""},
+        {[&] { return exchangeForGood(a, sub); }, {Exchange, SyncFolder}, ""},
+        {[&] { return exchangeForGood(a, b); }, {Exchange}, "No such file or directory"},
         {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
         {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
         {[&] { return removeTreeForGood(sub); }, {RemoveTree, SyncFolder}, ""},
         {[&] { return syncFolder(sub); }, {SyncFolder}, "No such file or directory"},
+        {[&] { return makeNewPrivateFolder(b); }, {MakeFolder}, ""},
+        {[&] { return makeNewPrivateFolder(b); }, {MakeFolder}, "File exists"},
+        {[&] { return setFolderMode(b, fs::perms(0500)); }, {SetMode}, ""},
+        {[&] { return removeTree(b); }, {RemoveTree}, ""},
         {[&] { return makeFolder(sub / "sub"), std::error_code(); },
          {MakeFolder, SyncFolder, MakeFolder, SyncFolder},
          ""},
@@ -71,6 +79,8 @@ TEST(FileCalls, ThatFailKeepAFileFromBeingRead) {
         const FileFaults faults(nth);
         EXPECT_THROW(readBytes(SOURCE_FOLDER "/LICENSE"), FileError) << nth;
     }
+    EXPECT_THROW(listFolder(SOURCE_FOLDER "/LICENSE", ""), FileError);
+    EXPECT_TRUE(fs::exists(executableFolder("") / "base_tests"));
     // Its size is said to be 0.
     EXPECT_NE(readBytes("/proc/self/status").find("Name:"), std::string::npos);
 }
