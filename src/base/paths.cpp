@@ -191,7 +191,12 @@ fs::path executableFolder(const char* argv0) {
     std::error_code error;
     fs::path executable = fs::read_symlink("/proc/self/exe", error);
     if (error) {
-        executable = fs::absolute(argv0, error);
+        executable = argv0;
+        // A bare name was found somewhere else than here.
+        if (!executable.has_parent_path()) {
+            throw FileError(executable, "the folder of the program cannot be found");
+        }
+        executable = fs::absolute(executable, error);
     }
     return executable.parent_path();
 }

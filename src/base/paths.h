@@ -44,7 +44,8 @@ std::filesystem::path userDataFolder();
 std::filesystem::path putAsideFolder();
 
 /// The folder of the running program. `argv0`, the name that it was called by, serves where the
-/// system does not tell.
+/// system does not tell; throws FileError if it has no folder, since what lies in the current one
+/// is not the program's.
 std::filesystem::path executableFolder(const char* argv0);
 
 }  // namespace fleetwright
