@@ -180,7 +180,10 @@ void makeGood(const fs::path& appFolder) {
         check(images, renameForGood(old, images));
     }
     for (const fs::path& left : leftOnes(appFolder)) {
-        [[maybe_unused]] const auto stays = removeTree(left);
+        // The archive of a run that was killed may still be at work in it; this ends it, too.
+        constexpr int mostTries = 10;
+        for (int i = 0; i < mostTries && removeTree(left); ++i) {
+        }
     }
 }
 

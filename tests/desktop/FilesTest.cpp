@@ -20,6 +20,25 @@ TEST_F(DesktopTest, BrokenCatalogueEndsTheStartWithOneMessageThatNamesFileAndLin
     EXPECT_EQ(waitForEnd(), 1);
 }
 
+TEST_F(DesktopTest, InstalledProgramTakesNoCodeFromTheUsersFolder) {
+    namespace fs = std::filesystem;
+    // A package delivers the data, and the application folder is the user's own.
+    for (const char* const name : {"ships", "maps", "shipimages", "ssds", "weaps.dat"}) {
+        fs::create_directories(path("share"));
+        fs::copy(path(name), path("share") / name, fs::copy_options::recursive);
+    }
+    fs::create_directory_symlink("share", path("delivered"));
+    const fs::path users = path("data/FleetWright");
+    for (const char* const name : {"images.exe", "w_dll.dll", "sounds.dll"}) {
+        folder.write("data/FleetWright/" + std::string(name), "#!/bin/sh\ntouch \"$0.ran\"\n");
+        fs::permissions(users / name, fs::perms::owner_all);
+    }
+    start();
+    EXPECT_TRUE(fs::exists(users / "images/ftl.gif"));
+    EXPECT_FALSE(fs::exists(users / "images.exe.ran"));
+    EXPECT_EQ(fs::status(users).permissions(), fs::perms::owner_all);
+}
+
 TEST_F(DesktopTest, ShipIsSavedLoadedAndAskedAbout) {
     const std::string name = "ships/Kept Ship.shp";
     start();
