@@ -1,5 +1,7 @@
 #include "modules.h"
 
+#include "OpenFile.h"
+
 #include <system_error>
 
 #if __has_include(<dlfcn.h>)
@@ -18,12 +20,19 @@ std::filesystem::path placeOf(const std::filesystem::path& file) {
     return std::filesystem::absolute(file, unknown);
 }
 
+/// The loader would wait for ever at a pipe.
+bool isPlainFile(const std::filesystem::path& file) {
+    std::error_code error;
+    OpenFile(file, OpenFile::Use::Read, error);
+    return !error;
+}
+
 }  // namespace
 
 #if __has_include(<dlfcn.h>)
 
 void* loadModule(const std::filesystem::path& file) {
-    return dlopen(placeOf(file).c_str(), RTLD_NOW | RTLD_LOCAL);
+    return isPlainFile(file) ? dlopen(placeOf(file).c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
 }
 
 void freeModule(void* module) {
@@ -39,7 +48,7 @@ void* moduleSymbol(void* module, const char* name) {
 #else
 
 void* loadModule(const std::filesystem::path& file) {
-    return LoadLibraryW(placeOf(file).c_str());
+    return isPlainFile(file) ? LoadLibraryW(placeOf(file).c_str()) : nullptr;
 }
 
 void freeModule(void* module) {

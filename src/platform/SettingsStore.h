@@ -9,7 +9,8 @@ class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
 
-    /// The text stored, or `otherwise` where there is none.
+    /// The text stored, or `otherwise` where there is none. Throws FileError where that cannot be
+    /// found out.
     virtual std::string read(const std::string& section, const std::string& key,
                              const std::string& otherwise) const = 0;
     /// Throws FileError.

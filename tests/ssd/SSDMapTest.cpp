@@ -102,9 +102,15 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
     SSDMaps maps;
     std::int16_t largest = 0;
     std::string shown;
-    scanMaps(folder.path(), maps, largest, [&](const std::string& text) { shown += text + '\n'; });
+    for (const DroppedMap& map :
+         scanMaps(folder.path(), maps, largest, [&](const auto& text) { shown += text + '\n'; })) {
+        shown += complaint(map.file.filename().string(), map.fault) + '\n';
+    }
     EXPECT_EQ(shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n"
-                     "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n");
+                     "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n"
+                     "broken.map:1: \"big\" is no number\n"
+                     "garbled.map:2: \"þ\" is too short for a point\n"
+                     "link.map: cannot be read: No such file or directory\n");
     EXPECT_EQ(largest, 100);
     const auto fitting = [&maps](std::int32_t mass, std::int32_t systems) {
         std::string names;

@@ -11,14 +11,12 @@ namespace fleetwright {
 class PictureReader : public PictureFiles {
 public:
     Raster load(const std::filesystem::path& file) final;
+    /// The picture in the bytes of a file. Throws Error.
+    Raster read(const std::string& bytes);
 
     /// The picture in the bytes of a file of this format, "bmp", "jpg", "png" or "ppm", whole as
     /// far as that is seen without decoding it. Throws Error.
     virtual Raster decode(const std::string& bytes, const std::string& format) = 0;
-
-protected:
-    /// The picture in the bytes of a file. Throws Error.
-    Raster read(const std::string& bytes);
 };
 
 }  // namespace fleetwright

@@ -1,16 +1,37 @@
 #include "QtSettingsStore.h"
 
 #include "Error.h"
+#include "fileCalls.h"
+#include "paths.h"
 
 #include <QApplication>
 #include <QSettings>
+#include <QStandardPaths>
+
+#include <filesystem>
+#include <system_error>
 
 namespace fleetwright {
 
 namespace {
 
-/// Opened anew each time: another program that runs may have written meanwhile.
+/// Throws FileError where a pipe or the like stands in the place of settings: Qt would wait there.
+void checkSettingsFiles() {
+    const QString name = QApplication::applicationName();
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + '/';
+    for (const QString& file : {folder + name + '/' + name + ".conf", folder + name + ".conf"}) {
+        const std::filesystem::path path = nativePath(file.toStdString());
+        std::error_code unknown;
+        if (const std::error_code why = whyNoFile(std::filesystem::status(path, unknown))) {
+            throw FileError(path, "cannot be read: " + why.message());
+        }
+    }
+}
+
+/// Opened anew each time: another program that runs may have written meanwhile. Throws FileError.
 QSettings store() {
+    checkSettingsFiles();
     return QSettings(QSettings::NativeFormat, QSettings::UserScope, QApplication::applicationName(),
                      QApplication::applicationName());
 }

@@ -12,12 +12,12 @@ bool QtSounds::hasDevice() {
 }
 
 void QtSounds::play(const std::filesystem::path& file) {
+    // Qt opens it by its name once more, and would wait for ever at a pipe.
+    std::error_code error;
+    if (OpenFile(file, OpenFile::Use::Read, error); error) {
+        throw FileError(file, "cannot be read: " + error.message());
+    }
     if (module() != nullptr) {
-        // Qt opens it by its name once more, and would wait for ever at a pipe.
-        std::error_code error;
-        if (OpenFile(file, OpenFile::Use::Read, error); error) {
-            throw FileError(file, "cannot be read: " + error.message());
-        }
         module()->play(file);
     }
 }

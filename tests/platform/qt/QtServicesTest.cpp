@@ -3,7 +3,9 @@
 #include "QtClock.h"
 #include "QtPrograms.h"
 #include "QtSettingsStore.h"
+#include "QtSounds.h"
 
+#include "Error.h"
 #include "TemporaryFolder.h"
 #include "faults.h"
 
@@ -11,6 +13,8 @@
 
 #include <QApplication>
 #include <QSettings>
+
+#include <sys/stat.h>
 
 using namespace fleetwright;
 namespace fs = std::filesystem;
@@ -30,6 +34,21 @@ TEST(QtSettingsStore, SaysWhatItCannotWrite) {
     EXPECT_TRUE(fileFaultOf([&] {
                     store.write("Names", "Designer", "Me");
                 }).starts_with(settings.string() + '/'));
+}
+
+TEST(QtServices, WaitAtNoPipe) {
+    const TemporaryFolder folder;
+    const std::string name = QApplication::applicationName().toStdString();
+    const std::string settings = folder.write(name + '/' + name + ".conf", "");
+    qputenv("XDG_CONFIG_HOME", folder.path().c_str());
+    for (const std::string& pipe : {settings, (folder.path() / "sound.wav").string()}) {
+        fs::remove(pipe);
+        ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    }
+    EXPECT_EQ(fileFaultOf([] { QtSettingsStore().read("Names", "Designer", ""); }),
+              settings + ": cannot be read: Not a plain file");
+    EXPECT_THROW(QtSounds(folder.path()).play(folder.path() / "sound.wav"), FileError);
+    qunsetenv("XDG_CONFIG_HOME");
 }
 
 TEST(QtPrograms, WaitAsLongAsTheyMayForAProgramThatEndsWell) {
