@@ -53,14 +53,19 @@ std::string QtSettingsStore::read(const std::string& section, const std::string&
 void QtSettingsStore::write(const std::string& section, const std::string& key,
                             const std::string& value) {
     // What is there already is not written once more: each write goes through to the disk.
-    QSettings settings = store();
     const QString path = pathOf(section, key);
-    if (!settings.contains(path) || read(section, key, "") != value) {
+    if (store().contains(path) && read(section, key, "") == value) {
+        return;
+    }
+    const auto put = [&] {
+        QSettings settings = store();
         settings.setValue(path, QString::fromStdString(value));
         settings.sync();
-        if (settings.status() != QSettings::NoError) {
-            throw FileError(settings.fileName().toStdString(), "cannot be written");
-        }
+        return settings.status() == QSettings::NoError;
+    };
+    // A line that nobody can read is an error, too, but gone from the file with the first write.
+    if (!put() && !put()) {
+        throw FileError(store().fileName().toStdString(), "cannot be written");
     }
 }
 

@@ -23,11 +23,13 @@ TEST(QtSettingsStore, SaysWhatItCannotWrite) {
     const TemporaryFolder folder;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        QString::fromStdString(folder.path().string()));
+    const std::string name = QApplication::applicationName().toStdString();
+    folder.write(name + '/' + name + ".conf", "[Names\n");  // a line that nobody can read
     QtSettingsStore store;
     store.write("Names", "Designer", "Né, Né");
     EXPECT_EQ(QtSettingsStore().read("Names", "Designer", ""), "Né, Né");
 
-    const fs::path settings = folder.path() / QApplication::applicationName().toStdString();
+    const fs::path settings = folder.path() / name;
     ASSERT_TRUE(fs::is_directory(settings));
     fs::remove_all(settings);
     folder.write(settings.filename().string(), "a file where the folder should be");
