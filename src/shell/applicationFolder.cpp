@@ -81,6 +81,9 @@ public:
         for (const auto& [name, contents] : m_given) {
             text.append(contents).append(" ").append(name).append("\n");
         }
+        if (fs::is_symlink(m_file)) {
+            [[maybe_unused]] const auto stays = removeFile(m_file);  // never what it leads to
+        }
         saveFile(m_file, text);
     }
 
