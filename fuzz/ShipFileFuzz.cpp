@@ -1,6 +1,7 @@
 // The ship file. An input is its bytes.
 
 #include "Error.h"
+#include "FileFaults.h"
 #include "ShipFileCheck.h"
 #include "readFile.h"
 #include "require.h"
@@ -27,10 +28,18 @@ void checkFaults(const std::string& text, const ShipClass& ship, bool isLoaded) 
             "a file without faults has no amounts below 0");
 }
 
-/// What was loaded, brought in order as the window does, can be shown, saved and loaded again.
-void checkRoundTrip(ShipClass& ship, const ShipServices& services, const TemporaryFolder& folder) {
+/// What was loaded, brought in order as the window does, can be shown, saved and loaded again, also
+/// after a save in which one call to the system fails.
+void checkRoundTrip(ShipClass& ship, const ShipServices& services, const TemporaryFolder& folder,
+                    int nthCall) {
     bringInOrder(ship);
     std::string file = (folder.path() / "saved.shp").string();
+    folder.write("saved.shp", "old");
+    if (const FileFaults faults(nthCall); !ship.saveShip(file)) {
+        require(ship.fileFault().has_value(), "a save fails with a fault");
+        const std::string left = folder.read("saved.shp");
+        require(left == "old" || left == ship.shipFile(), "a save that fails leaves a whole file");
+    }
     require(ship.saveShip(file) && ship.g_bSaved, "a ship can be saved");
     requireSame(folder.read("saved.shp"), ship.shipFile(), "the file holds the design");
     ShipClass again(services);
@@ -66,7 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(twin.loadShip(file) == isLoaded && twin.state() == ship.state(),
             "a load does not depend on what was read before");
     if (isLoaded) {
-        checkRoundTrip(ship, services, yard.folder());
+        checkRoundTrip(ship, services, yard.folder(), static_cast<int>(size % 16));
     }
     return 0;
 }
