@@ -6,6 +6,8 @@
 #include "Catalogue.h"
 #include "FormWindow.h"
 #include "GoalTable.h"
+#include "RecoveryFolder.h"
+#include "Trash.h"
 
 #include <QToolButton>
 
@@ -126,13 +128,41 @@ void startBareWindow(benchmark::State& state) {
     }
 }
 
+/// Nothing is thrown away.
+class NoTrash : public Trash {
+public:
+    bool moveToTrash(const fs::path&) override { return false; }
+};
+
+/// What the program does behind its start: looks for designs that a crash has left.
+void lookAtManyPutAside(benchmark::State& state) {
+    constexpr int count = 20'000;
+    const fs::path folder = benchFolder() / "recovered";
+    fs::create_directories(folder);
+    for (int i = 1; i <= count; ++i) {
+        const RecoveryName name = {"Ship " + std::to_string(i), 24, "2026-05-01 17.03.59",
+                                   static_cast<std::uint64_t>(i)};
+        std::ofstream(folder / (name.text() + ".shp"));
+    }
+    NoTrash trash;
+    RecoveryFolder recovery(
+        folder, [] { return std::string(); }, trash);
+    for ([[maybe_unused]] auto _ : state) {
+        benchmark::DoNotOptimize(recovery.lookAround());
+    }
+}
+
 const bool registered = [] {
-    for (auto* bench : {benchmark::RegisterBenchmark("program start", startProgram),
+    const char* const look = "look at 20,000 designs put aside";
+    for (auto* bench : {benchmark::RegisterBenchmark(look, lookAtManyPutAside),
+                        benchmark::RegisterBenchmark("program start", startProgram),
                         benchmark::RegisterBenchmark("bare window's start", startBareWindow)}) {
         bench->Repetitions(25)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
     }
     RegisterGoal({"Start until the window is painted: times a bare window's", "program start",
                   "bare window's start", 1.5, false});
+    RegisterGoal(
+        {"Look at 20,000 designs put aside: share of a start", look, "program start", 0.5, false});
     return true;
 }();
 

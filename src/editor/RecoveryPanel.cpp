@@ -111,8 +111,9 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     }
     dialog.designs = std::move(designs);
     services().desktop.showModal(dialog, form());
+    std::vector<RecoveryFolder::Design> shown = std::exchange(dialog.designs, {});
     try {
-        services().recovery->noteSeen(dialog.designs);
+        services().recovery->noteSeen(shown);
     } catch (const FileError& error) {
         window().say(complaint(error));  // they will be offered again
     }
@@ -120,7 +121,7 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     m_asideFile.clear();
     noteChange();
     if (dialog.chosen) {
-        m_open(dialog.designs[*dialog.chosen].file);
+        m_open(shown[*dialog.chosen].file);
     }
 }
 

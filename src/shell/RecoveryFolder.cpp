@@ -253,6 +253,7 @@ void RecoveryFolder::takeUpLeftOvers(RecoveryListing& listing) const {
 void RecoveryFolder::takeOldOnesAway() {
     try {
         RecoveryListing listing(m_folder);
+        m_run.record.keepOnly(listing.recordNames());
         const RecoveryRecord known = m_run.allRecords(listing);
         std::erase_if(listing.designs, [&known](const Design& design) {
             return design.about.number == 0 || !design.mark.empty() ||

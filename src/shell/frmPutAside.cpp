@@ -55,6 +55,10 @@ void frmPutAside::Form_Activate() {
     }
 }
 
+void frmPutAside::Form_Unload(bool&) {
+    lvDesigns.clear();  // there may be many
+}
+
 void frmPutAside::showDesigns(std::size_t selected) {
     ListView::Content content;
     content.rows.reserve(designs.size());

@@ -61,6 +61,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
 
 private:
     void cmdOpen_Click();

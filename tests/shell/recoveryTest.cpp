@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <fstream>
 #include <regex>
 #include <set>
 
@@ -184,6 +185,22 @@ std::set<std::string> shipFilesIn(const fs::path& folder) {
 TEST(Recovery, KeepsWhatRunsAndUsersLeaveInItsFolder) {
     expectCases("shell/golden/recovery.txt",
                 [](const Case& each) { return Recovery().run(each["acts"]); });
+}
+
+// Most of a start would go there: what names say is not asked again.
+TEST(Recovery, LooksOnceHoweverManyDesignsThereAre) {
+    const auto callsFor = [](int count) {
+        Recovery world;
+        fs::create_directory(world.folder());
+        for (int i = 1; i <= count; ++i) {
+            const RecoveryName name = {"Wasp", 2, "t", static_cast<std::uint64_t>(i)};
+            std::ofstream(world.folder() / (name.text() + (i % 2 == 0 ? ".shp" : ".shp~7")));
+        }
+        const FileFaults faults;
+        EXPECT_EQ(world.runOf("run").lookAround().size(), static_cast<std::size_t>(count));
+        return faults.calls();
+    };
+    EXPECT_EQ(callsFor(200), callsFor(2));
 }
 
 // A run ends at any of its calls, as a kill ends it. What it has said to be put aside is there for

@@ -176,10 +176,27 @@ void Actor::act() {
     test.takeLog();
     if (m_faults.empty() && !m_hasEnded) {
         m_faults = brokenInvariants(test, typed);
+        lookAtPutAside();
     }
     if (!m_faults.empty()) {
         throw std::runtime_error(m_trail + m_faults);
     }
+}
+
+/// What was put aside for good goes nowhere but into the trash.
+void Actor::lookAtPutAside() {
+    std::set<std::string> names;
+    for (const RecoveryDesign& design : RecoveryFolder::list(m_app / "recovered")) {
+        if (design.mark.empty()) {
+            names.insert(design.file.filename().string());
+        }
+    }
+    for (const std::string& name : m_putAside) {
+        if (!names.contains(name) && !fs::exists(m_app / "trash" / name)) {
+            m_faults += "a design put aside is lost: " + name + '\n';
+        }
+    }
+    m_putAside = names;
 }
 
 Actor::Chances Actor::chancesOf(Container& container) {

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -83,6 +84,7 @@ private:
     void ask(const std::string& what);
     std::optional<std::string> anyFile();
     void takeTurn();
+    void lookAtPutAside();
     void end();
 
     std::filesystem::path m_app = test.folder().path();
@@ -99,6 +101,7 @@ private:
     Connection m_dragged;
     std::string m_trail;  ///< the last acts, a line each
     std::string m_faults;
+    std::set<std::string> m_putAside;  ///< the designs that were put aside for good, by their files
     std::size_t m_depth = 0;
     int m_actsLeft = 0;  ///< in the middle of the act at rest
     bool m_hasEnded = false;
