@@ -41,7 +41,7 @@ fs::path nameForCopy(const fs::path& folder, const fs::path& file) {
 fs::path putCopyAside(const fs::path& file, std::string_view contents) {
     const fs::path folder = putAsideFolder();
     makeFolder(folder);
-    const fs::path place = nameForCopy(folder, file);
+    fs::path place = nameForCopy(folder, file);
     std::error_code error;
     TemporaryFile copy(place, error);
     // Nobody but the user, whoever may look at the file itself.

@@ -54,7 +54,7 @@ struct Place {
     /// What was put aside, which is the user's alone.
     std::string copy() const {
         const std::string name = "FleetWright/recovered/ship as it was.shp";
-        const std::string contents = folder.read(name);
+        std::string contents = folder.read(name);
         EXPECT_TRUE(contents.empty() ||
                     fs::status(folder.path() / name).permissions() == fs::perms(0600));
         return contents;

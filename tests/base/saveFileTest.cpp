@@ -101,7 +101,7 @@ struct SharedFolder : TemporaryFolder {
 
     /// A file of root's in a folder of these rights, which everybody may write to.
     fs::path writable(const std::string& name, mode_t folderMode) const {
-        const fs::path file = write(name, "old");
+        fs::path file = write(name, "old");
         fs::permissions(file, fs::perms(0666));
         fs::permissions(file.parent_path(), fs::perms(folderMode));
         return file;
