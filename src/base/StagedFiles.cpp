@@ -64,7 +64,7 @@ void StagedFiles::place() {
     for (std::size_t i = 0; i < m_targets.size(); ++i) {
         checkWritten(m_targets[i], syncFile(stagedPath(i)));
     }
-    std::set<fs::path> folders;
+    std::set<fs::path> folders = {m_folder.parent_path()};
     for (std::size_t i = 0; i < m_targets.size(); ++i) {
         const fs::path& target = m_targets[i];
         const bool isNew = !fs::exists(fs::symlink_status(target));
@@ -74,6 +74,8 @@ void StagedFiles::place() {
         }
         folders.insert(target.parent_path());
     }
+    // Empty now. Were it taken away behind the syncs, a power cut could bring it back.
+    [[maybe_unused]] const std::error_code left = removeTree(m_folder);
     for (const fs::path& folder : folders) {
         checkWritten(folder, syncFolder(folder));
     }
