@@ -36,6 +36,12 @@ QSettings store() {
                      QApplication::applicationName());
 }
 
+/// The folder of the file that settings are kept in; empty if they are kept by the system.
+std::filesystem::path folderOf(const std::string& settings) {
+    const std::filesystem::path file = nativePath(settings);
+    return file.is_absolute() ? file.parent_path() : std::filesystem::path();
+}
+
 QString pathOf(const std::string& section, const std::string& key) {
     return QString::fromStdString(section + '/' + key);
 }
@@ -57,6 +63,11 @@ void QtSettingsStore::write(const std::string& section, const std::string& key,
     if (store().contains(path) && read(section, key, "") == value) {
         return;
     }
+    const std::string file = store().fileName().toStdString();
+    const std::filesystem::path folder = folderOf(file);
+    if (!folder.empty()) {
+        makeFolder(folder);
+    }
     const auto put = [&] {
         QSettings settings = store();
         settings.setValue(path, QString::fromStdString(value));
@@ -65,7 +76,12 @@ void QtSettingsStore::write(const std::string& section, const std::string& key,
     };
     // A line that nobody can read is an error, too, but gone from the file with the first write.
     if (!put() && !put()) {
-        throw FileError(store().fileName().toStdString(), "cannot be written");
+        throw FileError(file, "cannot be written");
+    }
+    // Qt syncs the new file, but not the name that it gives it.
+    const std::error_code error = folder.empty() ? std::error_code() : syncFolder(folder);
+    if (error) {
+        throw FileError(file, "cannot be written: " + error.message());
     }
 }
 

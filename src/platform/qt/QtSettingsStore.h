@@ -5,7 +5,7 @@
 namespace fleetwright {
 
 /// The desktop's store of settings, under the name of the running application. Several programs
-/// can use it at the same time.
+/// can use it at the same time. What `write` has written outlasts a power cut.
 class QtSettingsStore : public SettingsStore {
 public:
     std::string read(const std::string& section, const std::string& key,
