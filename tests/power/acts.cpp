@@ -1,0 +1,90 @@
+// What the window does to files without being asked, as a program without a window.
+
+#include "QtSettingsStore.h"
+#include "RecoveryFolder.h"
+#include "Trash.h"
+#include "applicationFolder.h"
+#include "clsMRUFiles.h"
+#include "readFile.h"
+
+#include <QCoreApplication>
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace fleetwright;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void report() {
+    fs::create_directory("reported");
+    fs::remove("reported");
+}
+
+/// For designs that are thrown away; none of these acts does that.
+class NoTrash : public Trash {
+    bool moveToTrash(const fs::path&) override { return false; }
+};
+
+void putAside(RecoveryFolder& folder, const fs::path& ships) {
+    const auto design = [&](const char* name, const char* file) {
+        return RecoveryFolder::Aside{name, 50, readBytes(ships / file)};
+    };
+    for (const auto& [name, file] : {std::pair("Provost", "Provost.shp"),
+                                     {"Provost", "Amaranth.shp"},
+                                     {"Larkfield", "Larkfield.shp"}}) {
+        folder.put(design(name, file));
+        report();
+    }
+    folder.keep(design("Larkfield", "Larkfield.shp"));
+    report();
+    folder.put(design("Glowworm", "Glowworm.shp"));
+    report();
+    folder.forget();
+}
+
+void lookAround(RecoveryFolder& folder) {
+    std::vector<RecoveryFolder::Design> designs = folder.lookAround();
+    folder.noteSeen(designs);
+}
+
+class ReportingStore : public QtSettingsStore {
+    void write(const std::string& section, const std::string& key,
+               const std::string& value) override {
+        QtSettingsStore::write(section, key, value);
+        report();
+    }
+};
+
+void setSettings() {
+    ReportingStore store;
+    SettingsStore& settings = store;
+    settings.write("Names", "Designer", "Né, Né");
+    settings.write("Settings", "Sounds", "False");
+    clsMRUFiles recent(settings);
+    recent.BaseName("FleetWright");
+    recent.addFile("Provost.shp");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName("FleetWright");
+    const std::string act = argc > 1 ? argv[1] : "";
+    NoTrash trash;
+    RecoveryFolder folder(
+        RecoveryFolder::ofUser(), [] { return "2026-05-01 17.03.59"; }, trash);
+    if (act == "aside") {
+        putAside(folder, argv[2]);
+    } else if (act == "look") {
+        lookAround(folder);
+    } else if (act == "start") {
+        applicationFolder(argv[2]);
+    } else if (act == "settings") {
+        setSettings();
+    }
+}
