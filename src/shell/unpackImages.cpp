@@ -187,12 +187,16 @@ void makeGood(const fs::path& appFolder) {
     }
 }
 
-/// Does a work in an application folder while no other run does.
+/// Does a work in an application folder when no other run does; where others are not waited for,
+/// only if none does.
 template <typename Work>
-void aloneIn(const fs::path& appFolder, Work work) {
+void aloneIn(const fs::path& appFolder, FileLock::IfTaken ifTaken, Work work) {
     try {
         // The folder itself, also where its name is a link.
-        const FileLock lock(appFolder / ".", FileLock::IfTaken::Wait);
+        const FileLock lock(appFolder / ".", ifTaken);
+        if (lock.isWithOthers()) {
+            return;
+        }
         if (lock.isHeld()) {
             makeGood(appFolder);
         }
@@ -207,19 +211,22 @@ void aloneIn(const fs::path& appFolder, Work work) {
 void unpackImages(const fs::path& appFolder, const fs::path& programFolder,
                   const RunArchive& runArchive) {
     std::error_code unknown;
-    if (fs::is_directory(appFolder / "images", unknown) && leftOnes(appFolder).empty()) {
+    const bool isUnpacked = fs::is_directory(appFolder / "images", unknown);
+    if (isUnpacked && leftOnes(appFolder).empty()) {
         return;
     }
-    aloneIn(appFolder, [&](const fs::path& images) {
-        if (!fs::is_directory(images)) {
-            makeImages(images, programFolder, runArchive);
-        }
-    });
+    // Whoever has the pictures need not wait until what is left has gone.
+    aloneIn(appFolder, isUnpacked ? FileLock::IfTaken::GiveUp : FileLock::IfTaken::Wait,
+            [&](const fs::path& images) {
+                if (!fs::is_directory(images)) {
+                    makeImages(images, programFolder, runArchive);
+                }
+            });
 }
 
 void renewImages(const fs::path& appFolder, const fs::path& programFolder,
                  const RunArchive& runArchive) {
-    aloneIn(appFolder, [&](const fs::path& images) {
+    aloneIn(appFolder, FileLock::IfTaken::Wait, [&](const fs::path& images) {
         if (fs::is_symlink(images)) {
             throw FileError(images,
                             "is a link, and pictures are unpacked into no folder elsewhere");
