@@ -179,17 +179,15 @@ std::error_code makeNewFolder(const fs::path& folder) {
 }
 
 std::error_code makeNewPrivateFolder(const fs::path& folder) {
-    return unlessObjected(FileCall::MakeFolder, folder, [&](std::error_code& error) {
 #if __has_include(<unistd.h>)
+    return unlessObjected(FileCall::MakeFolder, folder, [&](std::error_code& error) {
         if (mkdir(folder.c_str(), S_IRWXU) != 0) {
             error = lastError();
         }
-#else
-        if (!fs::create_directory(folder, error) && !error) {
-            error = std::make_error_code(std::errc::file_exists);
-        }
-#endif
     });
+#else
+    return makeNewFolder(folder);
+#endif
 }
 
 std::error_code makeLink(const fs::path& to, const fs::path& link) {
