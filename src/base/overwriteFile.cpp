@@ -40,7 +40,7 @@ fs::path nameForCopy(const fs::path& folder, const fs::path& file) {
 /// Puts old contents of a file aside, and says where. Throws FileError.
 fs::path putCopyAside(const fs::path& file, std::string_view contents) {
     const fs::path folder = putAsideFolder();
-    makeFolder(folder);
+    makeUserFolder(folder);
     fs::path place = nameForCopy(folder, file);
     std::error_code error;
     TemporaryFile copy(place, error);

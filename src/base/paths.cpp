@@ -38,8 +38,10 @@ fs::path findEntry(const fs::path& folder, const fs::path& name) {
     return found.empty() ? found : folder / found;
 }
 
+using MakeOne = std::error_code (*)(const fs::path& folder);
+
 /// Makes a folder and those that it stands in, so that they outlast a power cut.
-std::error_code makeIfMissing(const fs::path& folder) {
+std::error_code makeIfMissing(const fs::path& folder, MakeOne makeOne) {
     std::error_code unknown;
     const fs::file_status status = fs::status(folder, unknown);
     if (folder.empty() || fs::is_directory(status)) {
@@ -48,11 +50,11 @@ std::error_code makeIfMissing(const fs::path& folder) {
     if (fs::exists(status)) {
         return std::make_error_code(std::errc::not_a_directory);
     }
-    std::error_code error = makeIfMissing(folder.parent_path());
+    std::error_code error = makeIfMissing(folder.parent_path(), makeOne);
     if (error || !folder.has_filename()) {
         return error;
     }
-    error = makeNewFolder(folder);
+    error = makeOne(folder);
     // Another run may have been quicker.
     return error && !fs::is_directory(folder, unknown) ? error : syncFolder(folder.parent_path());
 }
@@ -141,8 +143,20 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
 }
 
 void makeFolder(const fs::path& folder) {
-    if (const std::error_code error = makeIfMissing(folder)) {
+    if (const std::error_code error = makeIfMissing(folder, makeNewFolder)) {
         throw FileError(folder, "cannot be made: " + error.message());
+    }
+}
+
+void makeUserFolder(const fs::path& folder) {
+    if (const std::error_code error = makeIfMissing(folder, makeNewPrivateFolder)) {
+        throw FileError(folder, "cannot be made: " + error.message());
+    }
+    std::error_code unknown;
+    const fs::file_status status = fs::symlink_status(folder, unknown);
+    const fs::perms usersOwn = status.permissions() & fs::perms::owner_all;
+    if (fs::is_directory(status) && status.permissions() != usersOwn) {
+        [[maybe_unused]] const auto notOurs = setFolderMode(folder, usersOwn);
     }
 }
 

@@ -25,6 +25,11 @@ std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folde
 /// Makes a folder and those that it stands in, unless they are there. Throws FileError.
 void makeFolder(const std::filesystem::path& folder);
 
+/// Makes a folder of the user's, and those that it stands in: nobody else may look into any that is
+/// made. If it is there, rights that others have in it are taken from them, unless it is a link or
+/// somebody else's. Throws FileError.
+void makeUserFolder(const std::filesystem::path& folder);
+
 /// What stands under this path: the path itself if there is such an entry, else the first one by
 /// name whose path differs from it only in case. The path itself if there is none at all.
 std::filesystem::path findFile(const std::filesystem::path& file);

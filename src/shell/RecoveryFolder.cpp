@@ -3,7 +3,6 @@
 #include "Error.h"
 #include "Trash.h"
 #include "WrittenShip.h"
-#include "applicationFolder.h"
 #include "fileCalls.h"
 #include "paths.h"
 #include "readFile.h"

@@ -197,29 +197,6 @@ fs::path applicationFolder(const fs::path& executableFolder) {
     return folder;
 }
 
-void makeUserFolder(const fs::path& folder) {
-    if (const fs::path parent = folder.parent_path();
-        !parent.empty() && !fs::is_directory(parent)) {
-        makeUserFolder(parent);
-    }
-    std::error_code error = makeNewPrivateFolder(folder);
-    if (!error) {
-        error = syncFolder(folder.parent_path());
-    } else if (fs::is_directory(folder)) {
-        error.clear();
-        const fs::file_status status = fs::symlink_status(folder);
-        const fs::perms usersOwn = status.permissions() & fs::perms::owner_all;
-        if (fs::is_directory(status) && status.permissions() != usersOwn) {
-            [[maybe_unused]] const auto notOurs = setFolderMode(folder, usersOwn);
-        }
-    } else if (error == std::errc::file_exists) {
-        error = std::make_error_code(std::errc::not_a_directory);
-    }
-    if (error) {
-        throw FileError(folder, "cannot be made: " + error.message());
-    }
-}
-
 void refreshUserFolder(const fs::path& delivered, const fs::path& userFolder) {
     try {
         refreshEntries(delivered, userFolder);

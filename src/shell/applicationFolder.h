@@ -11,11 +11,6 @@ namespace fleetwright {
 /// (`userDataFolder`), brought up to date by `refreshUserFolder`. Throws FileError.
 std::filesystem::path applicationFolder(const std::filesystem::path& executableFolder);
 
-/// Makes a folder of the user's, and those that it stands in: nobody else may look into any that is
-/// made. If it is there, rights that others have in it are taken from them, unless it is a link or
-/// somebody else's. Throws FileError.
-void makeUserFolder(const std::filesystem::path& folder);
-
 /// Brings the user's application folder up to date with what an installation delivers, and makes
 /// it if it is not there (`makeUserFolder`). File by file, at any depth:
 ///
