@@ -40,8 +40,10 @@ TEST_F(DesktopTest, InstalledProgramTakesNoCodeFromTheUsersFolder) {
 }
 
 TEST_F(DesktopTest, ShipIsSavedLoadedAndAskedAbout) {
-    const std::string name = "ships/Kept Ship.shp";
+    const std::string name = "ships/Kept Ship.shp", left = "ships/.fleetwright-left.tmp";
+    folder.write(left, "by a save that was killed");
     start();
+    EXPECT_FALSE(std::filesystem::exists(path(left)));
     setThrust("4");
     press("ctrl+a");
     chooseFile("Save As", path("ships/Kept Ship"));  // the program adds the extension
