@@ -5,13 +5,13 @@
 #include "Trash.h"
 #include "applicationFolder.h"
 #include "clsMRUFiles.h"
+#include "overwriteFile.h"
 #include "readFile.h"
 
 #include <QCoreApplication>
 
 #include <filesystem>
 #include <string>
-#include <utility>
 #include <vector>
 
 using namespace fleetwright;
@@ -31,19 +31,17 @@ class NoTrash : public Trash {
 };
 
 void putAside(RecoveryFolder& folder, const fs::path& ships) {
-    const auto design = [&](const char* name, const char* file) {
-        return RecoveryFolder::Aside{name, 50, readBytes(ships / file)};
-    };
-    for (const auto& [name, file] : {std::pair("Provost", "Provost.shp"),
-                                     {"Provost", "Amaranth.shp"},
-                                     {"Larkfield", "Larkfield.shp"}}) {
-        folder.put(design(name, file));
+    const auto put = [&](const char* name, const char* file) {
+        RecoveryFolder::Aside design = {name, 50, readBytes(ships / file)};
+        folder.put(design);
         report();
-    }
-    folder.keep(design("Larkfield", "Larkfield.shp"));
+        return design;
+    };
+    put("Provost", "Provost.shp");
+    put("Provost", "Amaranth.shp");
+    folder.keep(put("Larkfield", "Larkfield.shp"));
     report();
-    folder.put(design("Glowworm", "Glowworm.shp"));
-    report();
+    put("Glowworm", "Glowworm.shp");
     folder.forget();
 }
 
@@ -84,6 +82,8 @@ int main(int argc, char** argv) {
         lookAround(folder);
     } else if (act == "start") {
         applicationFolder(argv[2]);
+    } else if (act == "overwrite") {
+        overwriteFile("file", "new");
     } else if (act == "settings") {
         setSettings();
     }
