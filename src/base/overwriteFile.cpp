@@ -10,6 +10,7 @@
 #include "text.h"
 
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace fleetwright {
@@ -18,6 +19,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::string_view behindName = " as it was";
+
 /// A name that is free in a folder, for a copy of this file.
 fs::path nameForCopy(const fs::path& folder, const fs::path& file) {
     constexpr std::size_t mostBytes = 200;  // file systems take 255, and more follows
@@ -25,7 +28,7 @@ fs::path nameForCopy(const fs::path& folder, const fs::path& file) {
     while (stem.size() > mostBytes) {
         stem = withoutLastCharacters(stem, 1);
     }
-    const fs::path plain = folder / nativePath(stem + " as it was");
+    const fs::path plain = folder / nativePath(stem.append(behindName));
     fs::path name = plain;
     name += file.extension();
     std::error_code unknown;
@@ -74,6 +77,13 @@ bool isBroughtBack(const fs::path& path, std::string_view contents) {
 }
 
 }  // namespace
+
+bool isCopyAsItWas(const fs::path& file) {
+    const std::string name = pathText(file.stem());
+    const std::size_t at = name.rfind(behindName);
+    return at != std::string::npos &&
+           name.find_first_not_of(" (0123456789)", at + behindName.size()) == std::string::npos;
+}
 
 void overwriteFile(const fs::path& path, std::string_view contents) {
     const FileLock lock(path);

@@ -15,4 +15,7 @@ namespace fleetwright {
 /// about the file, which has its old contents, or the text names the copy.
 void overwriteFile(const std::filesystem::path& file, std::string_view contents);
 
+/// Whether a file has the name of such a copy.
+bool isCopyAsItWas(const std::filesystem::path& file);
+
 }  // namespace fleetwright

@@ -7,6 +7,7 @@
 #include "ReportPrinter.h"
 #include "clsMRUFiles.h"
 #include "paths.h"
+#include "readFile.h"
 
 namespace fleetwright {
 
@@ -58,6 +59,8 @@ bool FileCommands::loadFile(const std::string& fileName) {
 
 void FileCommands::openPutAside(const std::filesystem::path& file) {
     whenReplaceable([this, name = pathText(file)] {
+        readBytes(
+            nativePath(name));  // another run may have thrown it away: then nothing is replaced
         window().acts.letActsIn([&] {
             fileFault.reset();
             if (replaceBy(name)) {

@@ -4,7 +4,6 @@
 #include "Error.h"
 #include "frmPutAside.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace fleetwright {
@@ -84,8 +83,7 @@ void RecoveryPanel::tmrAsk_Timer() {
     }
     try {
         std::vector<RecoveryFolder::Design> all = services().recovery->lookAround();
-        if (std::any_of(all.begin(), all.end(),
-                        [](const auto& each) { return each.isLeftBehind; })) {
+        if (isAnyLeftBehind(all)) {
             show(std::move(all));
         }
     } catch (const FileError& error) {
@@ -109,6 +107,7 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     if (dialog.isLoaded()) {
         return;  // it is open
     }
+    const bool isQuestion = isAnyLeftBehind(designs);
     dialog.designs = std::move(designs);
     services().desktop.showModal(dialog, form());
     std::vector<RecoveryFolder::Design> shown = std::exchange(dialog.designs, {});
@@ -122,6 +121,8 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     noteChange();
     if (dialog.chosen) {
         m_open(shown[*dialog.chosen].file);
+    } else if (isQuestion) {
+        window().say("The designs stay put aside: see the menu Design");
     }
 }
 

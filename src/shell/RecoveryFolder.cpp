@@ -4,6 +4,7 @@
 #include "Trash.h"
 #include "WrittenShip.h"
 #include "fileCalls.h"
+#include "overwriteFile.h"
 #include "paths.h"
 #include "readFile.h"
 #include "saveFile.h"
@@ -75,7 +76,9 @@ std::vector<RecoveryDesign> RecoveryFolder::lookAround() {
     sortNewestFirst(designs);
     const RecoveryRecord known = m_run.allRecords(listing);
     for (Design& design : designs) {
-        design.isLeftBehind = !design.mark.empty() && !known.isSeen(design.recordName);
+        // A copy stays where a save over a file was cut short: that file may be torn.
+        design.isLeftBehind = (!design.mark.empty() || isCopyAsItWas(design.file)) &&
+                              !known.isSeen(design.recordName);
     }
     std::stable_partition(designs.begin(), designs.end(),
                           [](const Design& design) { return design.isLeftBehind; });
@@ -84,22 +87,21 @@ std::vector<RecoveryDesign> RecoveryFolder::lookAround() {
 }
 
 void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
-    bool isChanged = false;
-    for (Design& design : designs) {
-        if (!design.mark.empty()) {
-            design = Design::in(takeMarkOff(design.file, renameUnlessThere)).value_or(design);
-            isChanged = true;
-        }
-    }
-    if (isChanged) {
-        syncFolder(m_folder);  // once: there may be many
-    }
     const RecoveryRecord known = m_run.allRecords(RecoveryListing(m_folder));
     std::set<std::string> news;
-    for (const Design& design : designs) {
-        if (known.isMade(design.recordName) && !known.isSeen(design.recordName)) {
+    bool isRenamed = false;
+    for (Design& design : designs) {
+        const bool isOfNote = design.isLeftBehind || known.isMade(design.recordName);
+        if (!design.mark.empty()) {
+            design = Design::in(takeMarkOff(design.file, renameUnlessThere)).value_or(design);
+            isRenamed = true;
+        }
+        if (isOfNote && !known.isSeen(design.recordName)) {
             news.insert(design.recordName);
         }
+    }
+    if (isRenamed) {
+        syncFolder(m_folder);  // once: there may be many
     }
     if (!news.empty()) {
         begin();

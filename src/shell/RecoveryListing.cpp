@@ -42,6 +42,11 @@ std::optional<RecoveryDesign> RecoveryDesign::in(const fs::path& file) {
         .about = RecoveryName::of(stem)};
 }
 
+bool isAnyLeftBehind(const std::vector<RecoveryDesign>& designs) {
+    return std::any_of(designs.begin(), designs.end(),
+                       [](const RecoveryDesign& design) { return design.isLeftBehind; });
+}
+
 void sortNewestFirst(std::vector<RecoveryDesign>& designs) {
     std::sort(designs.begin(), designs.end(), [](const auto& a, const auto& b) {
         return a.about.isNewerThan(b.about) || (!b.about.isNewerThan(a.about) && a.file < b.file);

@@ -31,6 +31,9 @@ struct RecoveryDesign {
     bool isLeftBehind = false;  ///< by a run that has crashed, and the user does not know it
 };
 
+/// Whether a crash has left any of these behind.
+bool isAnyLeftBehind(const std::vector<RecoveryDesign>& designs);
+
 /// Brings the newest to the front, and gives each a name of its own.
 void sortNewestFirst(std::vector<RecoveryDesign>& designs);
 

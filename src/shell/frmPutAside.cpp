@@ -4,6 +4,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace fleetwright {
@@ -40,8 +41,7 @@ frmPutAside::frmPutAside(Services services)
 void frmPutAside::Form_Load() {
     chosen.reset();
     m_isNew = true;
-    const bool isQuestion = std::any_of(designs.begin(), designs.end(),
-                                        [](const auto& design) { return design.isLeftBehind; });
+    const bool isQuestion = isAnyLeftBehind(designs);
     setCaption(isQuestion ? "Designs Left by a Crash" : "Designs Put Aside");
     lblAbout.setCaption(isQuestion ? "The program was cut short. Nothing is lost: open a design "
                                      "that it has put aside, or leave them here."
