@@ -124,7 +124,8 @@ OpenFile::OpenFile(fs::path file, Use use, std::error_code& error) : m_path(std:
     }
     m_descriptor = openPlain(m_path, use);
     error = errorUnless(isOpen());
-    if (!error && !isPlain(m_descriptor)) {
+    // What has just been made is a plain file.
+    if (!error && use != Use::Create && !isPlain(m_descriptor)) {
         // Another one has been put there meanwhile.
         error = whyNoFile(fs::file_status(fs::file_type::unknown));
     }

@@ -75,7 +75,7 @@ void StagedFiles::place() {
         folders.insert(target.parent_path());
     }
     // Empty now. Were it taken away behind the syncs, a power cut could bring it back.
-    [[maybe_unused]] const std::error_code left = removeTree(m_folder);
+    checkWritten(m_folder, removeTree(m_folder));
     for (const fs::path& folder : folders) {
         checkWritten(folder, syncFolder(folder));
     }
