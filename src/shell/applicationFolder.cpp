@@ -179,7 +179,10 @@ void refreshEntries(const fs::path& delivered, const fs::path& userFolder) {
         return;
     }
     const FileLock lock(userFolder / ".", FileLock::IfTaken::Wait);
-    Record record(file);  // another start may have been at the same work
+    Record record(file);
+    if (record.hasState(state)) {
+        return;  // another start has been at the same work
+    }
     refreshFiles(delivered, userFolder, names, record);
     record.save(state);
     [[maybe_unused]] const auto stays = removeFile(userFolder / ".delivering");
