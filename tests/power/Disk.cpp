@@ -95,7 +95,7 @@ void Disk::collect(const Node& folder, const std::string& path, NamesKept kept, 
             continue;
         }
         if (node->isFolder) {
-            files[path + name + '/'] = node->bytes;
+            files[path + name + '/'] = shared("/");
             collect(*node, path + name + '/', kept, bytes, files);
         } else {
             const bool isCertain = node->bytes == node->syncedBytes || bytes == BytesKept::Synced;
@@ -118,7 +118,7 @@ Files readFolder(const fs::path& folder) {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         const std::string path = entry.path().lexically_relative(folder).string();
         if (entry.is_directory()) {
-            files[path + '/'] = shared("");
+            files[path + '/'] = shared("/");
         } else if (entry.is_regular_file()) {
             files[path] = shared(readBytes(entry.path()));
         }

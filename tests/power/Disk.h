@@ -20,7 +20,7 @@ struct Change {
     std::string bytes = {};
 };
 
-/// Paths and contents; those of folders end in "/" and are empty. Equal contents are one object.
+/// Paths and contents; both end in "/" for folders. Equal contents are one object.
 using Files = std::map<std::string, const std::string*>;
 
 const std::string* shared(std::string contents);

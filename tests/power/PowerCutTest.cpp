@@ -7,6 +7,8 @@
 #include "recorders.h"
 #include "runCommand.h"
 
+#include <sched.h>
+#include <sys/mount.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -24,9 +26,8 @@ namespace fs = std::filesystem;
 
 /// What the commands of cases find in their environment, beside the folder that they run in.
 std::string surroundings(const fs::path& folder) {
-    return "export CLI=" APP_FOLDER "/fleetwright-cli SHIPS=" APP_FOLDER "/ships ACTS=" ACTS
-           " PICTURES=" PICTURES_FOLDER " CATALOGUE=" APP_FOLDER "/weaps.dat ARCHIVE=" APP_FOLDER
-           "/images.exe MAPS=" APP_FOLDER "/maps LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_leaks=0 APP=" +
+    return "export PROGRAM=" APP_FOLDER " CLI=" APP_FOLDER "/fleetwright-cli ACTS=" ACTS
+           " PICTURES=" PICTURES_FOLDER " LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_leaks=0 APP=" +
            folder.parent_path().string() + "/app HOME=" + folder.string() +
            " XDG_DATA_HOME=" + folder.string() + " XDG_CONFIG_HOME=" + folder.string() + "; ";
 }
@@ -83,6 +84,9 @@ std::optional<Damage> damageOf(const Case& act, Recorder& record) {
 TEST(PowerCut, LeavesWhatWasReportedDoneAndWhatWasThereBefore) {
     if (access("/dev/shm", W_OK) == 0) {
         setenv("TMPDIR", "/dev/shm", 1);  // in memory, where a sync takes no time
+    }
+    if (unshare(CLONE_NEWNS) == 0) {  // so that a mount is gone with this process, however it ends
+        mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
     }
     expectCases("power/golden/acts.txt", [](const Case& act) {
         const auto byMount = damageOf(act, recordByMount);

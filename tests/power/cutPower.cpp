@@ -6,8 +6,8 @@ namespace fleetwright {
 
 namespace {
 
-/// What counts of the files, with those of the unit as one. Locks and the
-/// records of runs are nobody's work.
+/// What counts of the files, with those of the unit as one. Locks and the records of runs are
+/// nobody's work.
 Files counted(Files files, const std::string& unit) {
     std::string joined;
     std::erase_if(files, [&](const auto& file) {
