@@ -51,4 +51,9 @@ inline std::string faultOf(const std::filesystem::path& file, const Error& error
     return failed == nullptr || failed->file() == file ? error.what() : complaint(*failed);
 }
 
+/// Such a line.
+inline std::string complaint(const std::filesystem::path& file, const Error& error) {
+    return shownText(file.string()) + ": " + faultOf(file, error);
+}
+
 }  // namespace fleetwright

@@ -27,8 +27,7 @@ Result scanFile(PictureFiles& pictures, const std::string& file) {
     try {
         return {.output = scanOutline(pictures.load(nativePath(file)), file), .complaints = {}};
     } catch (const FileError& error) {
-        return {.output = {},
-                .complaints = {complaint(file, {0, faultOf(nativePath(file), error)})}};
+        return {.output = {}, .complaints = {complaint(nativePath(file), error)}};
     } catch (const OverflowError&) {
         return {.output = {}, .complaints = {complaint(file, {0, "is too large for a map"})}};
     }
@@ -93,7 +92,7 @@ int runScan(const Options& options) {
         } catch (const FileError& error) {
             refuse(complaint(error));
         } catch (const Error& error) {
-            refuse(complaint(outline, {0, error.what()}));
+            refuse(complaint(nativePath(outline), error));
         }
     };
     inOrder(

@@ -62,7 +62,7 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
         try {
             result.output = work(index, screen);
         } catch (const Error& error) {
-            result.complaints.push_back(complaint(file, {0, faultOf(nativePath(file), error)}));
+            result.complaints.push_back(complaint(nativePath(file), error));
             return result;
         }
         if (refusedLines == RefusedLines::AsComplaints) {
