@@ -63,7 +63,7 @@ std::error_code makeIfMissing(const fs::path& folder, MakeOne makeOne) {
 bool leadsOut(std::string_view name, const fs::path& path) {
     constexpr char parent[] = "..";
     const bool hasDrive = name.size() > 1 && name[1] == ':';
-    return hasDrive || name.starts_with('/') || name.find('\0') != std::string_view::npos ||
+    return hasDrive || name.starts_with('/') ||
            std::find(path.begin(), path.end(), parent) != path.end();
 }
 
