@@ -40,7 +40,7 @@ void run(const fs::path& folder, const std::string& command) {
 
 /// Has a command follow on some of what was found, each on a disk of its own, an hour later.
 void restart(const Damage& damage, const std::string& command, Recorder& record) {
-    constexpr std::size_t most = 6;
+    constexpr std::size_t most = 10;
     for (std::size_t i = 0; i < damage.samples.size(); i += damage.samples.size() / most + 1) {
         const TemporaryFolder root;
         const fs::path folder = root.path() / "work";
