@@ -100,7 +100,7 @@ TEST(Unpacking, LeavesTheOldPicturesWholeOrTheNewOnesWhateverFails) {
     pictures.write("images.exe", "archive");
     for (const std::string version : {"old", "new"}) {
         for (const std::string& name : sheetPictures()) {
-            pictures.write(version + '/' + name, version);
+            pictures.write(std::string(version).append("/").append(name), version);
         }
     }
     for (const auto kind : {FileFaults::Kind::Fails, FileFaults::Kind::IsLast}) {
