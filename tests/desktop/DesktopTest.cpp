@@ -7,6 +7,8 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -56,6 +58,11 @@ void DesktopTest::crash() {
     kill(m_process, SIGKILL);
     waitpid(std::exchange(m_process, 0), &status, 0);
     EXPECT_EQ(status, SIGKILL) << "the program has ended by itself";
+}
+
+std::string DesktopTest::loadedFiles() const {
+    std::ifstream maps("/proc/" + std::to_string(m_process) + "/maps");
+    return {std::istreambuf_iterator<char>(maps), {}};
 }
 
 int DesktopTest::waitForEnd() {

@@ -26,6 +26,8 @@ protected:
     void start();
     /// Ends the program without giving it a chance to do anything about it.
     void crash();
+    /// The files that the program has loaded, among others of its memory.
+    std::string loadedFiles() const;
     /// Waits for the program's end; its exit status, or -1 if a signal has ended it.
     int waitForEnd();
 

@@ -36,6 +36,9 @@ TEST_F(DesktopTest, InstalledProgramTakesNoCodeFromTheUsersFolder) {
     start();
     EXPECT_TRUE(fs::exists(users / "images/ftl.gif"));
     EXPECT_FALSE(fs::exists(users / "images.exe.ran"));
+    for (const char* const name : {"w_dll.dll", "sounds.dll"}) {
+        waitFor(name, [&] { return loadedFiles().find(path(name)) != std::string::npos; });
+    }
     EXPECT_EQ(fs::status(users).permissions(), fs::perms::owner_all);
 }
 
