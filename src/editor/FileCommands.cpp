@@ -81,7 +81,7 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
 /// Replaces the ship by the one in a file, or by a new one if that does not load. False also if the
 /// one at hand may not go.
 bool FileCommands::replaceBy(const std::string& fileName) {
-    if (!m_others.recovery.giveUpDesign()) {
+    if (!m_others.recovery.giveUpDesignFor(nativePath(fileName))) {
         return false;
     }
     bool isLoaded = false;

@@ -51,6 +51,13 @@ void RecoveryPanel::tmrRecovery_Timer() {
     }
 }
 
+bool RecoveryPanel::giveUpDesignFor(const std::filesystem::path& file) {
+    if (services().recovery != nullptr) {
+        services().recovery->noteOpened(file);
+    }
+    return giveUpDesign();
+}
+
 bool RecoveryPanel::giveUpDesign() {
     if (isSafe()) {
         if (services().recovery != nullptr) {

@@ -27,6 +27,8 @@ public:
     /// The design at hand is about to go. What has changed since it was safe is kept for good; if
     /// that is not possible, the user says whether it may go all the same. False if it may not.
     bool giveUpDesign();
+    /// The same for the one in a file, which does not go for it even if it is a design put aside.
+    bool giveUpDesignFor(const std::filesystem::path& file);
     /// Asks about the designs that a crash has left behind, as soon as the start is over.
     void askAfterStart() { tmrAsk.restart(); }
 

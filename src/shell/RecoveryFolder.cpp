@@ -110,7 +110,6 @@ void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
         }
         m_run.saveRecord();
     }
-    takeOldOnesAway();
 }
 
 bool RecoveryFolder::moveToTrash(const Design& design) {
@@ -269,7 +268,7 @@ void RecoveryFolder::takeOldOnesAway() {
             for (const std::string& run : known.makersOf(name)) {
                 isLast = runs.insert(run).second || isLast;
             }
-            if (++count > mostKept && !isLast && known.isSeen(name) &&
+            if (++count > mostKept && !isLast && known.isSeen(name) && !m_opened.contains(name) &&
                 known.isMade(name, bytesIn(design.file).value_or(""))) {
                 m_trash.moveToTrash(design.file);
             }

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -49,14 +50,17 @@ public:
     /// does.
     std::vector<Design> lookAround();
     /// The user has been shown these designs. They are nobody's at work from then on, which may
-    /// change the names of their files, and old ones go. Throws FileError.
+    /// change the names of their files. Throws FileError.
     void noteSeen(std::vector<Design>& designs);
+    /// The user opens this file. If it is a design put aside, this run takes it away no more.
+    void noteOpened(const std::filesystem::path& file) { m_opened.insert(file.stem().string()); }
     /// Moves a design into the trash because the user wants it; whether it is there.
     bool moveToTrash(const Design& design);
 
     /// Writes the design at work as the file of this run. Throws FileError.
     void put(const Aside& design);
-    /// Puts a design aside for good, unless it is there already as it is. Throws FileError.
+    /// Puts a design aside for good, unless it is there already as it is; old ones may go for it.
+    /// Throws FileError.
     void keep(const Aside& design);
     /// Takes the file of this run away, if there is one. What somebody else has made of it stays.
     void forget();
@@ -93,6 +97,7 @@ private:
     Trash& m_trash;
     RecoveryRun m_run;
     std::optional<OwnFile> m_own;
+    std::set<std::string> m_opened;  ///< by the names in records
 };
 
 }  // namespace fleetwright

@@ -55,6 +55,13 @@ std::optional<std::string_view> cutOff(std::string_view& text, std::string_view 
     return behind;
 }
 
+/// A name without the " (2)" that it has got because there was one like it.
+std::string_view withoutCount(std::string_view text) {
+    std::string_view rest = text;
+    std::string_view count = cutOff(rest, " (").value_or("");
+    return count.ends_with(')') && numberIn<int>(count.substr(0, count.size() - 1)) ? rest : text;
+}
+
 /// Whether a text is a time as older names have it.
 bool isTime(std::string_view text) {
     constexpr std::string_view pattern = "0000-00-00 00.00.00";
@@ -79,12 +86,12 @@ RecoveryName olderName(std::string_view text) {
 
 RecoveryName RecoveryName::of(std::string_view text) {
     constexpr std::uint64_t mostNumber = 1'000'000'000'000;  // so that others can follow it
-    std::string_view rest = text;
+    std::string_view rest = withoutCount(text);
     const auto number = numberIn<std::uint64_t>(cutOff(rest, beforeNumber).value_or(""));
     const auto time = cutOff(rest, beforeTime);
     const auto mass = numberIn<std::int32_t>(cutOff(rest, beforeMass).value_or(""));
     if (!number || *number == 0 || *number > mostNumber || !time || !mass || rest.empty()) {
-        return olderName(text);
+        return olderName(withoutCount(text));
     }
     return {.ship = std::string(rest), .mass = mass, .time = std::string(*time), .number = *number};
 }

@@ -122,6 +122,7 @@ private:
             {"remove", [&] { fs::remove(m_folder / oneLike(name)); }},
             {"copy", [&] { fs::copy_file(m_folder / oneLike(name), file); }},
             {"over", [&] { m_root.write("recovered/" + oneLike(name), text); }},
+            {"open", [&] { runOf(name).noteOpened(m_folder / text); }},
             {"throw",
              [&] {
                  for (const auto& design : runOf(name).lookAround()) {
