@@ -170,7 +170,7 @@ fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) c
     for (int i = 2; rename(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
         plain = fileOf(name + " (" + std::to_string(i) + ')');
     }
-    return isThere(plain) ? plain : file;
+    return isThere(file) ? file : plain;
 }
 
 bool RecoveryFolder::isOwnAsWritten() const {

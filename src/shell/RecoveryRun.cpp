@@ -46,7 +46,7 @@ RecoveryRun::~RecoveryRun() {
 
 void RecoveryRun::begin(const RecoveryListing& listing) {
     do {
-        m_mark = std::to_string(std::uint64_t{1} + std::random_device()());
+        m_mark = std::to_string(std::uint64_t{1} + std::random_device()());  // 0 is no run
         saveFile(lockOf(m_mark), "");
         m_lock.emplace(lockOf(m_mark));
     } while (m_lock->isLost());
@@ -91,9 +91,12 @@ RecoveryRecord RecoveryRun::allRecords(const RecoveryListing& listing) const {
 
 std::set<std::string> RecoveryRun::running(const RecoveryListing& listing) const {
     std::set<std::string> marks;
+    if (hasBegun()) {
+        marks.insert(m_mark);
+    }
     for (const fs::path& lock : listing.locks) {
         const std::string mark = lock.stem().string();
-        if (mark == m_mark || isRunning(mark)) {
+        if (mark != m_mark && isRunning(mark)) {
             marks.insert(mark);
         }
     }
