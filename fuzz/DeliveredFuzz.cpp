@@ -5,6 +5,7 @@
 #include "Error.h"
 #include "FileFaults.h"
 #include "FileTree.h"
+#include "TemporaryFile.h"
 #include "applicationFolder.h"
 #include "require.h"
 
@@ -31,12 +32,14 @@ bool refresh(const FileTree& tree, const std::string& folder) {
     return true;
 }
 
-/// What stands in one of the folders, without what a cut may leave for the next start.
+/// What stands in one of the folders, without what a cut may leave for a later start.
 Files filesIn(const FileTree& tree, const std::string& folder) {
     Files files;
     for (const auto& [path, what] : tree.files()) {
-        if (path.starts_with(folder) && !isLeftBehind(path) && path != folder + ".delivering") {
-            files[path.substr(folder.size())] = what;
+        const std::string name = path.starts_with(folder) ? path.substr(folder.size()) : "";
+        if (!name.empty() && !TemporaryFile::isOne(name) && name != ".delivering" &&
+            !name.starts_with(".arriving")) {
+            files[name] = what;
         }
     }
     return files;
@@ -50,13 +53,14 @@ std::string contentsOf(const std::string& what) {
 void checkUsersFiles(const FileTree& tree, const Files& before) {
     const Files delivered = filesIn(tree, share), after = filesIn(tree, users);
     for (const auto& [path, what] : before) {
-        require(after.contains(path) || (path == "w_dll.dll" && what.starts_with("link")),
+        const bool mayGo = path == "w_dll.dll" || path == ".delivered";
+        require(after.contains(path) || (mayGo && what.starts_with("link")),
                 "nothing goes: " + path);
     }
     for (const auto& [path, what] : after) {
         const auto earlier = before.find(path);
         const std::string had = earlier == before.end() ? "" : earlier->second;
-        if (had != what && path != ".delivered" && !path.starts_with(".arriving")) {
+        if (had != what && path != ".delivered") {
             const auto source = delivered.find(path);
             require(source != delivered.end() && contentsOf(source->second) == contentsOf(what),
                     "the user gets what is delivered: " + path);

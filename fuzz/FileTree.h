@@ -26,11 +26,6 @@ inline std::string listing(const Files& files) {
     return text;
 }
 
-/// Whether a file is one that a save has left which did not come to its end.
-inline bool isLeftBehind(const fs::path& file) {
-    return file.filename().string().starts_with(".fleetwright-");
-}
-
 /// Files in a folder of their own, and what else happens to files than what the program does.
 class FileTree : public TemporaryFolder {
 public:

@@ -32,7 +32,7 @@ bool save(const fs::path& target, const std::string& contents) {
 }
 
 /// Each file must be whole, the old one or the new, or be put aside as it was.
-void checkFiles(const Files& before, const FileTree& tree, const std::string& wanted, bool isCut) {
+void checkFiles(const Files& before, const FileTree& tree, const std::string& wanted, bool isHit) {
     const Files after = tree.files();
     const auto isAside = [&after](const std::string& what) {
         return std::ranges::any_of(after, [&what](const auto& each) {
@@ -45,7 +45,8 @@ void checkFiles(const Files& before, const FileTree& tree, const std::string& wa
         const bool isNew = what == wanted &&
                            fs::equivalent(tree.path() / path, tree.path() / "ships/target", isLoop);
         const bool isOld = old != before.end() && (old->second == what || isAside(old->second));
-        require(isNew || isOld || path.starts_with("aside") || (isLeftBehind(path) && isCut),
+        require(isNew || isOld || path.starts_with("aside") ||
+                    (TemporaryFile::isOne(path) && isHit),
                 "what stands there is whole, the old or the new: " + path);
     }
     for (const auto& [path, what] : before) {
@@ -84,7 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         isSaved = save(target, contents);
         isHit = nth > 0 && faults.calls() >= nth;
     }
-    checkFiles(before, tree, "file " + contents, isHit && kind == FileFaults::Kind::IsLast);
+    checkFiles(before, tree, "file " + contents, isHit);
     require(!isSaved || readBytes(target) == contents, "what is reported saved is there");
     if (isHit) {
         TemporaryFile::takeLeftOnesAway(tree.path());

@@ -57,7 +57,7 @@ void checkUnpacking(const FileTree& tree, Choices& choices, const std::string& b
     bool isDone = false;
     {
         constexpr int codes[] = {EIO, ENOSPC, ENOSYS};
-        const FileFaults faults(choices.below(150), kind, choices.pick(codes));
+        const FileFaults faults(choices.below(1300), kind, choices.pick(codes));
         isDone = unpack(tree, bytes, isRenewal);
     }
     Files after = tree.files();
