@@ -123,10 +123,8 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
     for (const fs::directory_entry& entry : folderEntries(folder, error)) {
         std::string name = toCapitals(pathText(entry.path().filename()));
         std::error_code unknown;
-        // A link to nothing counts, so that whoever opens it says so; a pipe would be waited for.
-        const bool isFile =
-            entry.is_regular_file(unknown) || (entry.is_symlink(unknown) && !entry.exists(unknown));
-        if (name.ends_with(wanted) && isFile) {
+        // A link to nothing and a pipe count, so that whoever opens them says so.
+        if (name.ends_with(wanted) && !entry.is_directory(unknown)) {
             files.emplace_back(std::move(name), entry.path());
         }
     }

@@ -59,8 +59,11 @@ void RecoveryRun::takeRecordsOver(const RecoveryListing& listing) {
     for (const fs::path& file : listing.records) {
         const std::string name = file.filename().string();
         if (!goingOn.contains(name.substr(std::string_view(recoveryRecord).size()))) {
-            record.add(recordIn(file));
-            taken.push_back(file);
+            const RecoveryRecord found = recordIn(file);
+            record.add(found);
+            if (!found.isEmpty()) {  // what is no record may be anybody's
+                taken.push_back(file);
+            }
         }
     }
     record.keepOnly(listing.recordNames());
@@ -114,7 +117,8 @@ fs::path RecoveryRun::recordFile() const {
 bool RecoveryRun::isRunning(const std::string& mark) const {
     const fs::path file = lockOf(mark);
     const FileLock lock(file);
-    if (lock.isHeld()) {
+    std::error_code unknown;
+    if (lock.isHeld() && fs::is_empty(file, unknown)) {  // one with contents is a user's
         removeFile(file);
     }
     return lock.isWithOthers();

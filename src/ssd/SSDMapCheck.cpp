@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "SSDMap.h"
+#include "fileCalls.h"
 #include "text.h"
 
 #include <algorithm>
@@ -93,9 +94,12 @@ void MapChecker::checkSize(std::string_view value) {
 
 void MapChecker::checkImage(std::string_view value) {
     try {
-        std::error_code error;
-        if (value.empty() || !fs::is_regular_file(outlineFile(m_appFolder, value), error)) {
+        std::error_code unknown;
+        const fs::file_status outline = fs::status(outlineFile(m_appFolder, value), unknown);
+        if (value.empty() || !fs::exists(outline)) {
             complain("there is no outline " + quote(value));
+        } else if (const std::error_code why = whyNoFile(outline)) {
+            complain("the outline " + quote(value) + " cannot be read: " + why.message());
         }
     } catch (const FileError& error) {
         complain("the outline " + quote(value) + " " + error.what());

@@ -110,7 +110,8 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
                      "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n"
                      "broken.map:1: \"big\" is no number\n"
                      "garbled.map:2: \"þ\" is too short for a point\n"
-                     "link.map: cannot be read: No such file or directory\n");
+                     "link.map: cannot be read: No such file or directory\n"
+                     "pipe.map: cannot be read: Not a plain file\n");
     EXPECT_EQ(largest, 100);
     const auto fitting = [&maps](std::int32_t mass, std::int32_t systems) {
         std::string names;
