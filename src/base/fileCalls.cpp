@@ -166,10 +166,6 @@ std::error_code removeTree(const fs::path& folder) {
                           [&](std::error_code& error) { fs::remove_all(folder, error); });
 }
 
-std::error_code removeTreeForGood(const fs::path& folder) {
-    return andSync(removeTree(folder), folder);
-}
-
 std::error_code makeNewFolder(const fs::path& folder) {
     return unlessObjected(FileCall::MakeFolder, folder, [&](std::error_code& error) {
         if (!fs::create_directory(folder, error) && !error) {

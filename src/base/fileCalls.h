@@ -79,8 +79,6 @@ std::error_code removeFile(const std::filesystem::path& file);
 std::error_code removeForGood(const std::filesystem::path& file);
 /// Takes a folder away with all that is in it, or a file; links are not followed.
 std::error_code removeTree(const std::filesystem::path& folder);
-/// The same, so that it outlasts a power cut.
-std::error_code removeTreeForGood(const std::filesystem::path& folder);
 
 /// Makes one folder. Fails with `file_exists` if there is something of that name. To outlast a
 /// power cut, the folder that it stands in has to be synced.

@@ -128,7 +128,9 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
             files.emplace_back(std::move(name), entry.path());
         }
     }
-    if (error && error != std::errc::no_such_file_or_directory) {
+    std::error_code unknown;
+    if (error && (error != std::errc::no_such_file_or_directory ||
+                  fs::is_symlink(folder, unknown))) {  // a link to nothing is no missing folder
         throw FileError(folder, "cannot be read: " + error.message());
     }
     std::sort(files.begin(), files.end());

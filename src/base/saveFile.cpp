@@ -139,11 +139,14 @@ std::uintmax_t otherNames(const fs::path& target) {
 
 void saveFile(const fs::path& target, std::string_view contents) {
     const fs::path file = linkTarget(target);
-    std::error_code ignored;
-    if (fs::is_symlink(file, ignored)) {
+    std::error_code unknown;
+    if (fs::is_symlink(file, unknown)) {
         failOn(std::make_error_code(std::errc::too_many_symbolic_link_levels), target);
     }
-    const fs::file_status status = fs::status(file, ignored);
+    const fs::file_status status = fs::status(file, unknown);
+    if (status.type() == fs::file_type::none) {
+        failOn(unknown, target);  // taken for missing, it would lose what belongs to it
+    }
     const bool isThere = fs::exists(status);
     failOn(whyNoFile(status), target);
     if (isThere) {

@@ -50,7 +50,7 @@ TEST(FileCalls, SyncWhatIsForGoodAndFailAsTheyAreTold) {
         {[&] { return exchangeForGood(a, b); }, {Exchange}, "No such file or directory"},
         {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
         {[&] { return removeForGood(a); }, {Remove, SyncFolder}, ""},
-        {[&] { return removeTreeForGood(sub); }, {RemoveTree, SyncFolder}, ""},
+        {[&] { return removeTree(sub); }, {RemoveTree}, ""},
         {[&] { return syncFolder(sub); }, {SyncFolder}, "No such file or directory"},
         {[&] { return makeNewPrivateFolder(b); }, {MakeFolder}, ""},
         {[&] { return makeNewPrivateFolder(b); }, {MakeFolder}, "File exists"},

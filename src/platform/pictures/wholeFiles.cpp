@@ -72,39 +72,24 @@ std::size_t BmpHeader::pixels() const {
     return std::max(firstPixel, fileHeader + size + masks + colourTable());
 }
 
-/// Whether runs of equal pixels fill all lines, or have an end.
-bool areWholeRuns(std::string_view runs, const BmpHeader& header) {
+/// Whether runs of equal pixels come to the end that the format wants behind them.
+bool haveRunsAnEnd(std::string_view runs, std::size_t bitsAPixel) {
     enum { EndOfLine, End, Move };
-    std::uint64_t x = 0;
-    std::uint64_t y = 0;
-    while (y < header.height) {
-        if (runs.size() < 2) {
-            return y + 1 == header.height && x >= header.width;
-        }
+    while (runs.size() >= 2) {
         const unsigned char count = byteAt(runs, 0);
         const unsigned char code = byteAt(runs, 1);
         std::size_t behind = 0;
-        if (count > 0) {
-            x += count;
-        } else if (code == EndOfLine) {
-            x = 0;
-            ++y;
-        } else if (code == End) {
+        if (count == 0 && code == End) {
             return true;
-        } else if (code == Move) {
-            x += byteAt(runs, 2);
-            y += byteAt(runs, 3);
+        }
+        if (count == 0 && code == Move) {
             behind = 2;
-        } else {
-            x += code;
-            behind = (code * header.bits + 15) / 16 * 2;  // pairs of bytes
+        } else if (count == 0 && code != EndOfLine) {
+            behind = (code * bitsAPixel + 15) / 16 * 2;  // pairs of bytes
         }
-        if (runs.size() < 2 + behind) {
-            return false;
-        }
-        runs.remove_prefix(2 + behind);
+        runs.remove_prefix(std::min(runs.size(), 2 + behind));
     }
-    return true;
+    return false;
 }
 
 }  // namespace
@@ -115,7 +100,7 @@ bool isWholeBmp(std::string_view bytes) {
         return false;
     }
     if (header.compression == BmpHeader::RunsOf4 || header.compression == BmpHeader::RunsOf8) {
-        return areWholeRuns(bytes.substr(header.pixels()), header);
+        return haveRunsAnEnd(bytes.substr(header.pixels()), header.bits);
     }
     const std::uint64_t line = (header.width * header.bits + 31) / 32 * 4;
     return line == 0 || (bytes.size() - header.pixels()) / line >= header.height;
