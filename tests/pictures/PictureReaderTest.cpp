@@ -139,8 +139,8 @@ GifCase gifCase(std::mt19937& random) {
             putRow(y);
         }
     }
-    if (upTo(1) == 1) {  // further pictures are not seen
-        EGifPutImageDesc(gif, 0, 0, 1, 1, false, nullptr);
+    if (upTo(1) == 1) {                                    // further pictures are not seen
+        EGifPutImageDesc(gif, 0, 0, 1, 1, false, ownMap);  // without one it leaks the other
         EGifPutPixel(gif, 0);
     }
     EGifCloseFile(gif, nullptr);

@@ -142,7 +142,8 @@ private:
 
     void note(Change change, const fs::path& path) {
         change.path = below(path);
-        if (!change.path.starts_with("..")) {
+        const bool isPipe = path.string().find(":[") != std::string::npos;  // "pipe:[123]"
+        if (!isPipe && !change.path.starts_with("..")) {
             changes.push_back(std::move(change));
         }
     }
