@@ -161,8 +161,9 @@ const bool registered = [] {
     }
     RegisterGoal({"Start until the window is painted: times a bare window's", "program start",
                   "bare window's start", 1.5, false});
+    // The window is there by then; it must only not seem to hang.
     RegisterGoal(
-        {"Look at 20,000 designs put aside: share of a start", look, "program start", 0.5, false});
+        {"Look at 20,000 designs put aside: times a start", look, "program start", 1.5, false});
     return true;
 }();
 
