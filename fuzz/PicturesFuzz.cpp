@@ -43,7 +43,8 @@ std::optional<Raster> pictureIn(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     const std::optional<Raster> picture = pictureIn(bytes);
-    if (!picture) {
+    constexpr int mostPixels = 32'767;  // a side, for a map counts places in 16 bits
+    if (!picture || picture->width() > mostPixels || picture->height() > mostPixels) {
         return 0;
     }
     const MapPlaces map = readMapPlaces(scanOutline(*picture, "input.gif"));

@@ -64,9 +64,9 @@ class TestWindow::Pictures : public PictureFiles {
 public:
     explicit Pictures(TestWindow& test) : m_test(test) {}
 
-    Raster load(const std::filesystem::path& file) override {
+    Raster load(const std::filesystem::path& picture) override {
         m_test.m_log +=
-            "picture: " + file.lexically_relative(m_test.m_folder.path()).string() + "; ";
+            "picture: " + picture.lexically_relative(m_test.m_folder.path()).string() + "; ";
         return Raster(32, 32);
     }
     Raster builtIn(const std::string&) override { return Raster(32, 32); }
@@ -121,12 +121,12 @@ class TestWindow::Bin : public Trash {
 public:
     explicit Bin(TestWindow& test) : m_test(test) {}
 
-    bool moveToTrash(const std::filesystem::path& file) override {
+    bool moveToTrash(const std::filesystem::path& design) override {
         m_test.m_log += "trash; ";
         if (m_test.hasTrash) {
             const std::filesystem::path bin = m_test.m_folder.path() / "trash";
             std::filesystem::create_directory(bin);
-            std::filesystem::rename(file, bin / file.filename());
+            std::filesystem::rename(design, bin / design.filename());
         }
         return m_test.hasTrash;
     }
