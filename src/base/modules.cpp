@@ -23,7 +23,7 @@ std::filesystem::path placeOf(const std::filesystem::path& file) {
 /// The loader would wait for ever at a pipe.
 bool isPlainFile(const std::filesystem::path& file) {
     std::error_code error;
-    OpenFile(file, OpenFile::Use::Read, error);
+    const OpenFile opened(file, OpenFile::Use::Read, error);
     return !error;
 }
 
