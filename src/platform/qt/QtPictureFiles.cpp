@@ -9,6 +9,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImage>
+#include <QImageIOHandler>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
@@ -41,9 +42,14 @@ Raster QtPictureFiles::decode(const std::string& bytes, const std::string& forma
     QImageReader reader(&buffer, QByteArray::fromStdString(format));
     reader.setAutoDetectImageFormat(false);
     const QtMessages messages;
-    const QImage image = reader.read();
+    QImage image;
+    // Runs of a bitmap may leave pixels out, which would show what was in the memory before.
+    if (format == "bmp" &&
+        QImageIOHandler::allocateImage(reader.size(), reader.imageFormat(), &image)) {
+        image.fill(0);
+    }
     // The decoder of JPEG makes up what is missing or damaged, and only says so.
-    if (image.isNull() || (format == "jpg" && !messages.first().empty())) {
+    if (!reader.read(&image) || (format == "jpg" && !messages.first().empty())) {
         throw Error("cannot be read: " + (messages.first().empty()
                                               ? reader.errorString().toStdString()
                                               : messages.first()));
