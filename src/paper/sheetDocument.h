@@ -1,0 +1,78 @@
+#pragma once
+
+// Sheets as pages: the drawing, the text, and what a player wants to know at the table.
+
+#include "ListView.h"
+#include "PageDocument.h"
+#include "SheetRecord.h"
+#include "drawSSD.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+class PictureFiles;
+class SSDMap;
+
+/// One line of the legend: a system aboard, with all its pieces.
+struct LegendRow {
+    SheetRecord::Picture picture;
+    std::string name;
+    std::int32_t count = 0;
+    std::string arcs;  ///< in words, as "fore, port"; empty for a system with no place on the sheet
+    std::int32_t mass = 0;    ///< of one piece, mass units
+    std::int32_t points = 0;  ///< of one piece
+    std::string rules;        ///< one sentence or two, or nothing
+};
+
+/// What a sheet says besides its drawing.
+struct SheetFacts {
+    std::string shipName;
+    std::string designer;
+    std::string shipClass;    ///< as "Heavy Cruiser"
+    std::string designation;  ///< as "Cruiser"
+    std::string hull;         ///< as "Warship"
+    std::int32_t mass = 0;    ///< mass units
+    std::int32_t points = 0;
+    std::string thrust;  ///< in words
+    std::string drive;   ///< in words
+    std::int32_t damagePoints = 0;
+    std::int32_t damageRows = 0;
+    std::string armor;         ///< in words; empty if there is none
+    std::string streamlining;  ///< in words; empty if there is none
+    std::vector<LegendRow> legend;
+};
+
+/// A ship's sheet, ready for any paper.
+struct VectorSheet {
+    SheetRecord record;
+    SheetFacts facts;
+    std::string shipFile;              ///< the text of the ship file that it carries
+    std::optional<std::int64_t> date;  ///< of the ship file, seconds since 1970
+};
+
+/// What sheets are made of. All of it outlives the call that it is handed to.
+struct SheetSources {
+    PictureFiles& pictures;  ///< read outlines
+    const SheetImages& images;
+    const Drawings& drawings;
+};
+
+/// The sheet of a ship on a map, placed by `drawSSD`, which also says what fails. The ship has
+/// these systems aboard, as the main window lists them. Throws Error.
+VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>& lvCurrentWeapons,
+                        const SSDMap& map, const SheetSources& sources);
+
+struct SheetOptions {
+    PageSize paper = paperA4;
+    int perPage = 1;       ///< 1, 2 or 4 sheets a page, where they are small enough for that
+    bool isPlain = false;  ///< the drawing and its text alone
+};
+
+/// The sheets as pages.
+PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& options);
+
+}  // namespace fleetwright
