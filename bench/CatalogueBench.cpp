@@ -22,6 +22,8 @@ std::filesystem::path catalogueOf(int records) {
     for (std::string line; std::getline(in, line);) {
         if (line.size() > 1 && line.front() != '#') {
             delivered.push_back(line);
+        } else if (line.starts_with(rulesMark)) {
+            delivered.back() += '\n' + line;
         }
     }
     for (std::size_t i = 0; i < static_cast<std::size_t>(records); ++i) {

@@ -4,6 +4,7 @@
 
 #include "CatalogueFile.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <forward_list>
 #include <memory>
@@ -43,6 +44,9 @@ public:
     /// The records in the order of the file.
     std::vector<WeapRec>& records() { return m_records; }
     const std::vector<WeapRec>& records() const { return m_records; }
+
+    /// What the catalogue tells players of a record, which is one of `records`; or nothing.
+    std::string_view rulesOf(std::size_t index) const { return m_text->lines()[index].rules; }
 
     /// Index of the last record named `cloakName`; 0 if there is none.
     std::int32_t cloakIndex() const { return m_cloakIndex; }

@@ -31,6 +31,7 @@ private:
     void checkName(std::string_view name);
     void checkFormula(std::string_view which, std::string_view formula);
     void checkArcs(std::string_view arcs);
+    void checkRules(const CatalogueLine& record);
     void addNode(const std::string& key, const std::string& parent, bool isCategory);
     void checkWhole();
     void complain(std::string text) { m_faults.push_back({m_line, std::move(text)}); }
@@ -57,6 +58,11 @@ std::vector<Fault> CatalogueChecker::check(const CatalogueText& catalogue) {
     for (const CatalogueLine& record : catalogue.lines()) {
         m_line = record.number;
         checkRecord(record);
+        checkRules(record);
+    }
+    for (const int line : catalogue.strayRules()) {
+        m_line = line;
+        remark("the rules line stands behind no system");
     }
     checkWhole();
     return std::move(m_faults);
@@ -111,6 +117,16 @@ void CatalogueChecker::checkArcs(std::string_view arcs) {
         if (other != std::string_view::npos) {
             remark("unknown arc letter " + quote(arcs.substr(other, 1)));
         }
+    }
+}
+
+void CatalogueChecker::checkRules(const CatalogueLine& record) {
+    constexpr std::size_t most = 160;  // two lines of a printed sheet
+    const std::size_t length = characterCount(record.rules);
+    if (length > most) {
+        m_line = record.number + 1;
+        remark("the rules line has " + std::to_string(length) +
+               " characters; a sheet has room for " + std::to_string(most));
     }
 }
 

@@ -40,7 +40,18 @@ CatalogueText::CatalogueText(std::string text) : m_text(std::move(text)) {
     while (reader.next(line)) {
         if (!isCatalogueComment(line)) {
             m_lines.push_back(cutCatalogueLine(line, reader.lineNumber()));
+        } else if (line.starts_with(rulesMark)) {
+            takeRules(line, reader.lineNumber());
         }
+    }
+}
+
+/// Gives a rules line to the record before it.
+void CatalogueText::takeRules(std::string_view line, int number) {
+    if (m_lines.empty() || m_lines.back().number != number - 1 || m_lines.back().isCategory()) {
+        m_strayRules.push_back(number);
+    } else {
+        m_lines.back().rules = trimmed(line.substr(rulesMark.size()));
     }
 }
 

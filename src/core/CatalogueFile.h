@@ -21,6 +21,10 @@ inline constexpr std::array<std::string_view, 7> catalogueRoots = {
 /// Whether a line of the catalogue file is passed over: an empty line or a comment.
 bool isCatalogueComment(std::string_view line);
 
+/// With this a comment begins that says, in the line behind a system's record, how the system is
+/// played.
+inline constexpr std::string_view rulesMark = "#>";
+
 /// A record of the catalogue file: its line, cut into seven fields. A line with too few of them
 /// repeats its last piece.
 struct CatalogueLine {
@@ -33,6 +37,7 @@ struct CatalogueLine {
     std::string_view categoryKey;  ///< a category's own key, or the key that a system stands under
     std::string_view arclist;      ///< arc letters in order of preference
     std::string_view icon;         ///< file name of the picture: all the rest of the line
+    std::string_view rules = {};   ///< what a player has to know of it at the table, or nothing
 
     bool isCategory() const { return name == "CATEGORY"; }
 };
@@ -49,10 +54,15 @@ public:
     const std::string& text() const { return m_text; }
     /// The records in the order of the file. Their texts live as long as this object.
     const std::vector<CatalogueLine>& lines() const { return m_lines; }
+    /// The numbers of the rules lines that stand behind no record of a system.
+    const std::vector<int>& strayRules() const { return m_strayRules; }
 
 private:
+    void takeRules(std::string_view line, int number);
+
     std::string m_text;
     std::vector<CatalogueLine> m_lines;
+    std::vector<int> m_strayRules;
 };
 
 /// A catalogue file by its path. Whoever asks gets what is in it at that moment, but it is only

@@ -140,6 +140,9 @@ public:
     bool PaintableWeap(std::string_view in_sWeapName) const;
     /// The system's arc letters; nothing for an unknown name.
     std::string_view GimmeWeapArc(std::string_view in_sWeapName) const;
+    /// How the system is played, in the words of the catalogue; nothing if it has none or does not
+    /// know the name.
+    std::string_view rulesOf(std::string_view name) const;
 
     /// All that the ship is now.
     ShipState state() const;

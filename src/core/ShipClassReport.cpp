@@ -81,4 +81,9 @@ std::string_view ShipClass::GimmeWeapArc(std::string_view in_sWeapName) const {
                        : m_catalogue.records()[static_cast<std::size_t>(index)].arclist;
 }
 
+std::string_view ShipClass::rulesOf(std::string_view name) const {
+    const std::int32_t index = weapNameToIndex(name);
+    return index == -1 ? std::string_view() : m_catalogue.rulesOf(static_cast<std::size_t>(index));
+}
+
 }  // namespace fleetwright

@@ -79,6 +79,15 @@ TEST(Catalogue, IsReadOnceUntilItChanges) {
     EXPECT_EQ(first->lines().at(0).icon, "a");
 }
 
+TEST(Catalogue, TellsHowSystemsArePlayed) {
+    const auto ship = ShipYard("a,1,1,BEAM,BEAM,F,a.gif\r\n#>  Two dice, near. \r\n"
+                               "b,1,1,BEAM,BEAM,F,b.gif\r\n\r\n#>Behind no record.\r\n")
+                          .newShip();
+    EXPECT_EQ(ship->rulesOf("a"), "Two dice, near.");
+    EXPECT_EQ(ship->rulesOf("b"), "");
+    EXPECT_EQ(ship->rulesOf("c"), "");
+}
+
 TEST(Catalogue, IsCheckedLineByLine) {
     EXPECT_EQ(textOf(checkCatalogue(sound)), "");
     EXPECT_EQ(textOf(checkCatalogue(readTextFile(SOURCE_FOLDER "/data/weaps.dat"))), "");
