@@ -10,6 +10,7 @@
 #include "SheetImages.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
+#include "bestMap.h"
 #include "drawnSheet.h"
 #include "frmMain.h"
 #include "inOrder.h"
@@ -190,9 +191,8 @@ std::string pasteCommand(const std::string& out) {
     ShipOnScreen screen(startedFolder());
     screen.load(processShip);
     SheetLists lists;
-    const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
-    const SSDMaps& maps = world().maps.maps;
-    const SSDMaps::Map map = maps.at(fittingMaps(maps, screen.ship().mass(), count).at(0));
+    lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
+    const SSDMaps::Map map = bestMap(world().maps.maps, screen.ship(), lists.lstShipWeap);
     lists.fillPoints(*map);
     QtPictureFiles files;
     Raster raster = files.load(map->outlineFile());

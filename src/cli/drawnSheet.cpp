@@ -27,12 +27,6 @@ public:
 
 Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std::string& mapName) {
     const frmMain& main = screen.window();
-    const std::int32_t mass = main.g_Ship->mass();
-    if (mapName.empty() && !getsSheet(mass, tools.maps.g_iLargestSSD)) {
-        throw Error("a ship of mass " + std::to_string(mass) +
-                    " is too heavy for a sheet; maps serve " +
-                    std::to_string(tools.maps.g_iLargestSSD) + " at the most");
-    }
     if (const DroppedMap* const map = tools.maps.whyDropped(mapName)) {
         throw Error("the map cannot be used: " + complaint(map->file.string(), map->fault));
     }
@@ -47,10 +41,18 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
                       .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
                       .ship = [&] { return sheetShip(main); }});
     mapper.show();
+    const std::int32_t mass = main.g_Ship->mass();
+    if (mapName.empty() && !getsSheet(mass, tools.maps.g_iLargestSSD)) {
+        throw Error("a ship of mass " + std::to_string(mass) +
+                    (mapper.bestFit()
+                         ? " is too heavy for a bitmap; a .pdf or .svg can be made"
+                         : " is too heavy for a sheet; maps serve " +
+                               std::to_string(tools.maps.g_iLargestSSD) + " at the most"));
+    }
     if (!mapName.empty()) {
         mapper.cboMapSelection.type(mapName);
-    } else if (!mapper.cboMapSelection.items().empty()) {
-        mapper.cboMapSelection.choose(0);
+    } else if (mapper.bestFit()) {
+        mapper.cboMapSelection.type(mapper.bestFit()->sDisplayName);
     } else if (desktop.message.empty()) {
         throw Error("there is no map that the ship fits on");
     }

@@ -20,8 +20,8 @@ struct SheetTools {
     const LoadedMaps& maps;
 };
 
-/// The sheet of a ship on the map of this name, or on the first one that is offered for it if the
-/// name is empty. It drives the window in which sheets are made. Throws Error.
+/// The sheet of a ship on the map of this name, or on the one that fits it best if the name is
+/// empty. It drives the window in which sheets are made. Throws Error.
 Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std::string& mapName);
 
 }  // namespace fleetwright

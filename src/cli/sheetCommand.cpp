@@ -165,7 +165,7 @@ int runSheet(const Options& options) {
 constexpr OptionRow sheetOptions[] = {
     {.name = "--map",
      .value = "NAME",
-     .help = "The map to draw on, by default the first that fits"},
+     .help = "The map to draw on, by default the one that fits best"},
     outOption,
     {.name = "--paper",
      .value = "A4|Letter",
@@ -182,8 +182,8 @@ extern const CommandRow sheetCommand = {
     .options = sheetOptions,
     .help = "Draw the sheets of ships: OUT is a .bmp, .png or .pdf file, or a folder",
     .details =
-        "The sheet is drawn on the outline of the map NAME, or else of the first one that is "
-        "offered for the ship. A folder is made if it is not there, and gets a .bmp file "
+        "The sheet is drawn on the outline of the map NAME, or else of the one that fits the ship "
+        "best. A folder is made if it is not there, and gets a .bmp file "
         "each, named after the ship files. Maps that cannot be used are named as errors. A .pdf "
         "takes any number of ships, a page each; "
         "the sheets have their natural size or are shrunk to the margins of the paper. The "

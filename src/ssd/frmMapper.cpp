@@ -5,6 +5,7 @@
 #include "PictureFiles.h"
 #include "RasterSheet.h"
 #include "ShipClass.h"
+#include "bestMap.h"
 #include "checkedArithmetic.h"
 #include "paths.h"
 #include "saveFile.h"
@@ -39,16 +40,22 @@ void frmMapper::Form_Load() {
         fail("The ship has too many systems for a sheet!!!", "SSD Creation Error", error);
         return;
     }
-    const std::int32_t mass = m_services.ship().ship.mass();
-    for (const std::string& name : fittingMaps(m_services.g_colSSDMaps, mass, iShipWeapCount)) {
+    const ShipClass& ship = m_services.ship().ship;
+    for (const std::string& name :
+         fittingMaps(m_services.g_colSSDMaps, ship.mass(), iShipWeapCount)) {
         cboMapSelection.addItem(name);
     }
+    m_bestFit = bestMap(m_services.g_colSSDMaps, ship, m_lists.lstShipWeap);
+    cboMapSelection.setToolTip(m_bestFit ? "Fits best: " + shownText(m_bestFit->sDisplayName)
+                                         : "No map has room for the ship");
 }
 
 /// Brings the window to what it is when it opens.
 void frmMapper::startAnew() {
     m_lists = {};
     m_Map.reset();
+    m_bestFit.reset();
+    cboMapSelection.setToolTip("");
     m_lastFault.clear();
     cmdDrawIt.setEnabled(true);
     cmdSave.setEnabled(true);

@@ -56,6 +56,8 @@ public:
     PictureBox picSSD{
         *this, {.name = "picSSD", .place = {105, 735, 4635, 120}, .accessibleName = "Sheet"}};
 
+    /// The map that fits the ship best, as the tool tip of the list says; null if none does.
+    const SSDMaps::Map& bestFit() const { return m_bestFit; }
     /// What was behind the message that was shown last.
     const std::string& lastFault() const { return m_lastFault; }
 
@@ -80,6 +82,7 @@ private:
     Services m_services;
     Place m_firstPlace;  ///< of the window's inside
     Place m_emptySheet;  ///< of `picSSD` before a map is chosen
+    SSDMaps::Map m_bestFit;
     SSDMaps::Map m_Map;  ///< the map of this sheet
     SheetLists m_lists;
     bool bInPaint = false;   ///< the paint handler is at work

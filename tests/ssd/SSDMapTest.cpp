@@ -4,6 +4,7 @@
 
 #include "SSDMapCheck.h"
 #include "SSDMaps.h"
+#include "bestMap.h"
 #include "caseFile.h"
 #include "faults.h"
 #include "sheetWorld.h"
@@ -53,7 +54,41 @@ std::string readAndChecked(std::string_view file) {
     return text + textOf(checkMapFile(file, folder.path()));
 }
 
+/// Which of the maps "SIZE weapons parties fire controls name" each ship "mass hull" takes.
+std::string taken(const Case& given) {
+    const TemporaryFolder folder;
+    for (const std::string& line : linesOf(given["maps"])) {
+        std::istringstream map(line);
+        std::string text = "SIZE: ", name;
+        map >> name;
+        text += name + '\n';
+        for (const char* const point : {"WEAP: (1,2,F)\n", "DCP: (1,2)\n", "FIRECON: (1,2)\n"}) {
+            int count = 0;
+            for (map >> count; count > 0; --count) {
+                text += point;
+            }
+        }
+        std::getline(map >> std::ws, name);
+        folder.write("maps/" + name + ".map", text);
+    }
+    const SSDMaps maps = loadMaps(folder.path()).maps;
+    const ShipYard yard(arcCatalogue);
+    std::string text;
+    for (const std::string& line : linesOf(given["ships"])) {
+        const auto [mass, hull] = cut(line);
+        const auto ship = yard.loaded("Mass: " + mass + "\nType: " + hull);
+        bringInOrder(*ship);
+        const SSDMaps::Map map = bestMap(maps, *ship, linesOf(given["systems"]));
+        text += line + ": " + (map ? map->sDisplayName : "none") + '\n';
+    }
+    return text;
+}
+
 }  // namespace
+
+TEST(SSDMaps, AreTakenBySizeThenKindThenPlacesThenName) {
+    expectCases("ssd/golden/best.txt", taken);
+}
 
 TEST(SSDMap, IsReadAndCheckedLineByLine) {
     expectCases("ssd/golden/maps.txt",

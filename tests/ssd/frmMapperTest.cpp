@@ -93,6 +93,7 @@ struct Mapper : PictureEncoder {
                             (window.cmdSave.isEnabled() ? "save" : "")},
             {"fault", window.lastFault()},
             {"maps", ""},
+            {"tip", window.cboMapSelection.toolTip()},
             {"dialog", desktop.asked.initialFolder.string() + " *" + desktop.asked.extension + ' ' +
                            std::to_string(desktop.asked.filterIndex)}};
         for (const std::string& map : window.cboMapSelection.items()) {

@@ -12,6 +12,7 @@
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
 #include "SilentServices.h"
+#include "bestMap.h"
 #include "drawnSheet.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
@@ -28,7 +29,6 @@
 #include <QPixmap>
 #include <QTemporaryDir>
 
-#include <array>
 #include <cstdio>
 
 namespace {
@@ -74,25 +74,11 @@ QPalette darkPalette() {
     return palette;
 }
 
-/// The map that suits a ship best of those that it fits on: of the smallest size and, as the names
-/// of the delivered maps tell it, for its kind of hull. Empty if there is none.
+/// The name of the map that fits a ship best; empty if there is none.
 std::string mapFor(const SSDMaps& maps, const ShipOnScreen& screen, const ShipClass& ship) {
-    static constexpr std::array<const char*, 6> kinds = {"Warship",  "Merchant", "Q-Ship",
-                                                         "Starbase", "Station",  "Station"};
     SheetLists lists;
-    const std::int32_t count = lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
-    SSDMaps::Map best;
-    const auto suits = [&](const SSDMaps::Map& map) {
-        const char* const kind = kinds.at(static_cast<std::size_t>(ship.Hull() - 1));
-        return map->sDisplayName.find(kind) != std::string::npos;
-    };
-    for (const std::string& name : fittingMaps(maps, ship.mass(), count)) {
-        const SSDMaps::Map map = maps.at(name);
-        if (!best || map->iMaxMass < best->iMaxMass ||
-            (map->iMaxMass == best->iMaxMass && suits(map) && !suits(best))) {
-            best = map;
-        }
-    }
+    lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
+    const SSDMaps::Map best = bestMap(maps, ship, lists.lstShipWeap);
     return best ? best->sDisplayName : "";
 }
 

@@ -241,8 +241,9 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
             widget->setEditText(text);
         }
         changeFont(*widget->lineEdit(), fittingFont(*widget->lineEdit()));
-        // It may be longer than the box still.
-        widget->lineEdit()->setToolTip(toToolTip(box.text()));
+        // It may be longer than the box still. Without it, the tip of the whole box shows.
+        const std::string more = box.toolTip().empty() ? "" : '\n' + box.toolTip();
+        widget->lineEdit()->setToolTip(box.text().empty() ? "" : toToolTip(box.text() + more));
     });
     widget->view()->setTextElideMode(Qt::ElideNone);
     QObject::connect(widget, &QComboBox::editTextChanged,

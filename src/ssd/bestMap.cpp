@@ -1,0 +1,74 @@
+#include "bestMap.h"
+
+#include "Catalogue.h"
+#include "HullRules.h"
+#include "ShipClass.h"
+#include "text.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace fleetwright {
+
+namespace {
+
+/// A word in the names of maps, and a hull for which such a map is made.
+struct KindWord {
+    std::string_view word;  // in capitals
+    std::int32_t hullType;
+};
+constexpr KindWord kindWords[] = {
+    {"WARSHIP", Warship},       {"MERCHANT", Merchant},       {"Q-SHIP", QShip},
+    {"STARBASE", Starbase},     {"BASE", Starbase},           {"STATION", SpaceStation},
+    {"STATION", QSpaceStation}, {"Q-STATION", QSpaceStation},
+};
+
+/// Whether the first word of a map's name that tells a kind of hull tells this one.
+bool isForHull(std::string_view displayName, std::int32_t hullType) {
+    constexpr std::string_view betweenWords = " _.,:;()";
+    const std::string name = toCapitals(displayName);
+    for (std::size_t at = 0; at < name.size(); ++at) {
+        const std::size_t end = std::min(name.find_first_of(betweenWords, at), name.size());
+        const std::string_view word = std::string_view(name).substr(at, end - at);
+        bool isKind = false;
+        for (const KindWord& kind : kindWords) {
+            if (kind.word == word) {
+                isKind = true;
+                if (kind.hullType == hullType) {
+                    return true;
+                }
+            }
+        }
+        if (isKind) {
+            return false;
+        }
+        at = end;
+    }
+    return false;
+}
+
+}  // namespace
+
+SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
+                     const std::vector<std::string>& systems) {
+    const auto furtherParties =
+        static_cast<std::int32_t>(std::count(systems.begin(), systems.end(), Catalogue::partyName));
+    const auto placed = static_cast<std::int32_t>(systems.size()) - furtherParties;
+    const auto isTooSmall = [&](const SSDMap& map) {
+        return map.iDCPNDX - furtherParties < ship.g_iDCP || map.iFIRECONNDX < ship.g_iFCS;
+    };
+    const auto rank = [&](const SSDMap& map) {
+        return std::tuple(isTooSmall(map), map.iMaxMass, !isForHull(map.sDisplayName, ship.Hull()),
+                          map.iWeapNDX, toCapitals(map.sDisplayName));
+    };
+    SSDMaps::Map best;
+    for (const std::string& name : fittingMaps(maps, ship.mass(), placed)) {
+        const SSDMaps::Map map = maps.at(name);
+        if (!best || rank(*map) < rank(*best)) {
+            best = map;
+        }
+    }
+    return best;
+}
+
+}  // namespace fleetwright

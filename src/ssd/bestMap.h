@@ -1,0 +1,22 @@
+#pragma once
+
+#include "SSDMaps.h"
+
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+class ShipClass;
+
+/// The map for a ship whose user names none; null if there is no room for it on any. The systems
+/// are those aboard, a name for each piece (`SheetLists::lstShipWeap`).
+///
+/// Among those that fit it is the one of the smallest SIZE, then for the ship's own kind of hull,
+/// then with the fewest places for systems, then the first by name. One with too few points for the
+/// ship's damage control parties or fire controls, on which no sheet can be drawn, comes behind all
+/// others.
+SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
+                     const std::vector<std::string>& systems);
+
+}  // namespace fleetwright
