@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <map>
 
 using namespace fleetwright;
 
@@ -86,6 +87,17 @@ TEST(Catalogue, TellsHowSystemsArePlayed) {
     EXPECT_EQ(ship->rulesOf("a"), "Two dice, near.");
     EXPECT_EQ(ship->rulesOf("b"), "");
     EXPECT_EQ(ship->rulesOf("c"), "");
+
+    // All mountings of a delivered system are played alike, in a line that a card has room for.
+    const CatalogueText delivered = readTextFile(SOURCE_FOLDER "/data/weaps.dat");
+    std::map<std::string_view, std::string_view> rules;
+    for (const CatalogueLine& line : delivered.lines()) {
+        if (!line.isCategory()) {
+            EXPECT_TRUE(!line.rules.empty() && line.rules.size() <= 110) << line.whole;
+            const auto weapon = line.name.substr(0, line.name.find(" ("));
+            EXPECT_EQ(rules.try_emplace(weapon, line.rules).first->second, line.rules);
+        }
+    }
 }
 
 TEST(Catalogue, IsCheckedLineByLine) {
