@@ -118,7 +118,7 @@ const SSDPoint& SSDMap::at(const std::vector<SSDPoint>& points, std::int16_t ind
 
 fs::path SSDMap::outlineFile() const {
     if (sImgFile.empty()) {
-        throw Error("the map names no outline");
+        throw Error("the map " + quote(sDisplayName) + " names no outline");
     }
     const std::size_t folderLength = outlinePath(m_appFolder, "").size();
     return fleetwright::outlineFile(m_appFolder, sImgFile.substr(folderLength));

@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "ImageList.h"
 #include "PictureFiles.h"
+#include "SSDMap.h"
 #include "SheetPictures.h"
 #include "ShipClass.h"
 #include "paths.h"
@@ -23,7 +24,7 @@ std::function<Raster(std::string_view)> filesIn(const std::filesystem::path& app
 }
 
 [[noreturn]] void failWithoutPicture(std::string_view system) {
-    throw Error("there is no picture of " + quote(system));
+    throw Error("no picture of " + quote(system));
 }
 
 /// The name of the file that a ship's catalogue has for a system.
@@ -65,6 +66,14 @@ SheetImages catalogueImages(const std::filesystem::path& appFolder, PictureFiles
                 }
                 return known->second;
             }};
+}
+
+Raster outlineOf(const SSDMap& map, PictureFiles& pictures) {
+    try {
+        return pictures.load(map.outlineFile());
+    } catch (const FileError& error) {
+        throw Error("no outline for the map " + quote(map.sDisplayName) + ": " + complaint(error));
+    }
 }
 
 }  // namespace fleetwright

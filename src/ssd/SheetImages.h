@@ -10,6 +10,7 @@ namespace fleetwright {
 
 class ImageList;
 class PictureFiles;
+class SSDMap;
 class ShipClass;
 
 /// Finds the pictures that a sheet is pasted together from.
@@ -35,5 +36,8 @@ SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& 
 /// what is returned.
 SheetImages catalogueImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
                             const ShipClass& ship);
+
+/// The outline of a map. Throws Error, which names the map.
+Raster outlineOf(const SSDMap& map, PictureFiles& pictures);
 
 }  // namespace fleetwright

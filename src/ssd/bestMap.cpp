@@ -6,6 +6,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 namespace fleetwright {
@@ -27,22 +28,15 @@ constexpr KindWord kindWords[] = {
 bool isForHull(std::string_view displayName, std::int32_t hullType) {
     constexpr std::string_view betweenWords = " _.,:;()";
     const std::string name = toCapitals(displayName);
-    for (std::size_t at = 0; at < name.size(); ++at) {
-        const std::size_t end = std::min(name.find_first_of(betweenWords, at), name.size());
+    for (std::size_t at = 0, end = 0; at < name.size(); at = end + 1) {
+        end = std::min(name.find_first_of(betweenWords, at), name.size());
         const std::string_view word = std::string_view(name).substr(at, end - at);
-        bool isKind = false;
-        for (const KindWord& kind : kindWords) {
-            if (kind.word == word) {
-                isKind = true;
-                if (kind.hullType == hullType) {
-                    return true;
-                }
-            }
+        const auto is = [word](const KindWord& kind) { return kind.word == word; };
+        if (std::any_of(std::begin(kindWords), std::end(kindWords), is)) {
+            return std::any_of(
+                std::begin(kindWords), std::end(kindWords),
+                [&](const KindWord& kind) { return is(kind) && kind.hullType == hullType; });
         }
-        if (isKind) {
-            return false;
-        }
-        at = end;
     }
     return false;
 }

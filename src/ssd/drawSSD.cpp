@@ -9,8 +9,10 @@
 #include "text.h"
 #include "wholeNumber.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 
 namespace fleetwright {
 
@@ -25,7 +27,9 @@ public:
     SheetDrawing(Sheet& sheet, const SheetImages& images, const SSDMap& map, SheetLists& lists,
                  const SheetShip& ship)
         : m_sheet(sheet), m_images(images), m_map(map), m_lists(lists), m_figures(ship),
-          m_ship(ship.ship) {}
+          m_ship(ship.ship),
+          m_furtherParties(std::count(lists.lstShipWeap.begin(), lists.lstShipWeap.end(),
+                                      Catalogue::partyName)) {}
 
     void draw() {
         paintDamageTrack();
@@ -50,16 +54,21 @@ private:
     void trim();
 
     std::string text() const;
-    static std::int16_t take(PointList& list, std::ptrdiff_t position, const char* what);
+    static std::optional<std::int16_t> take(PointList& list, std::ptrdiff_t position);
+    std::int16_t takeParty(std::ptrdiff_t position);
+    std::int16_t takeFireControl(std::ptrdiff_t position);
+    [[noreturn]] void failFor(const char* what, std::ptrdiff_t points, std::ptrdiff_t needed) const;
+    std::string mapName() const { return "the map " + quote(m_map.sDisplayName); }
+    Raster file(std::string_view name, const std::string& what) const;
+    const Raster& system(std::string_view name) const;
     void paintAtWeapon(const Raster& picture, std::int16_t point) {
         m_sheet.paint(picture, m_map.getWeapPntX(point), m_map.getWeapPntY(point));
     }
     void paintAtParty(const Raster& picture, std::int16_t point) {
         m_sheet.paint(picture, m_map.getDCPPntX(point), m_map.getDCPPntY(point));
     }
-    void paintAtFireControl(std::string_view file, std::int16_t point) {
-        m_sheet.paint(m_images.file(file), m_map.getFIRECONPntX(point),
-                      m_map.getFIRECONPntY(point));
+    void paintAtFireControl(const Raster& picture, std::int16_t point) {
+        m_sheet.paint(picture, m_map.getFIRECONPntX(point), m_map.getFIRECONPntY(point));
     }
 
     Sheet& m_sheet;
@@ -68,14 +77,15 @@ private:
     SheetLists& m_lists;
     const SheetShip& m_figures;
     const ShipClass& m_ship;
-    std::string m_unpainted;  // names of the systems that got no picture, a CR behind each
+    std::ptrdiff_t m_furtherParties;  // among the systems
+    std::string m_unpainted;          // names of the systems that got no picture, a CR behind each
     Pen m_pen;
 };
 
-/// Takes the number at a position off a list. A map with too few points comes to light here.
-std::int16_t SheetDrawing::take(PointList& list, std::ptrdiff_t position, const char* what) {
+/// Takes the number at a position off a list; nothing if there is no such position.
+std::optional<std::int16_t> SheetDrawing::take(PointList& list, std::ptrdiff_t position) {
     if (position < 0 || position >= std::ssize(list)) {
-        throw Error(std::string("the map has too few points for the ship's ") + what);
+        return {};
     }
     const auto entry = list.begin() + position;
     const std::int16_t point = *entry;
@@ -83,11 +93,49 @@ std::int16_t SheetDrawing::take(PointList& list, std::ptrdiff_t position, const 
     return point;
 }
 
+/// A map with too few points comes to light when one is taken.
+void SheetDrawing::failFor(const char* what, std::ptrdiff_t points, std::ptrdiff_t needed) const {
+    throw Error(std::string("too few points for ") + what + " on " + mapName() + ": " +
+                std::to_string(points) + ", and the ship needs " + std::to_string(needed));
+}
+
+std::int16_t SheetDrawing::takeParty(std::ptrdiff_t position) {
+    if (const std::optional<std::int16_t> point = take(m_lists.lstDCP, position)) {
+        return *point;
+    }
+    failFor("damage control parties", m_map.iDCPNDX, m_furtherParties + number(m_figures.txtDCP));
+}
+
+std::int16_t SheetDrawing::takeFireControl(std::ptrdiff_t position) {
+    if (const std::optional<std::int16_t> point = take(m_lists.lstFirecons, position)) {
+        return *point;
+    }
+    failFor("fire controls", m_map.iFIRECONNDX, number(m_figures.txtFireCon));
+}
+
+/// A picture file. A failure says what of the sheet it is for.
+Raster SheetDrawing::file(std::string_view name, const std::string& what) const {
+    try {
+        return m_images.file(name);
+    } catch (const FileError& error) {
+        throw Error("no picture " + what + ": " + complaint(error));
+    }
+}
+
+const Raster& SheetDrawing::system(std::string_view name) const {
+    try {
+        return m_images.system(name);
+    } catch (const FileError& error) {
+        throw Error("no picture of " + quote(name) + ": " + complaint(error));
+    }
+}
+
 void SheetDrawing::paintDamageTrack() {
     if (m_map.iMaxMass <= capitalMass) {
-        const std::string file =
-            damageTrackPicture(trackSize(m_map.iMaxMass), trimmed(m_figures.txtDP));
-        m_sheet.paint(m_images.file(file), m_map.getDAMPntX(), m_map.getDAMPntY());
+        const std::string points(trimmed(m_figures.txtDP));
+        m_sheet.paint(file(damageTrackPicture(trackSize(m_map.iMaxMass), points),
+                           "for " + points + " damage points on " + mapName()),
+                      m_map.getDAMPntX(), m_map.getDAMPntY());
     }
 }
 
@@ -101,12 +149,14 @@ void SheetDrawing::paintSystems() {
 
 void SheetDrawing::paintSystem(const std::string& name) {
     if (name == Catalogue::partyName) {
-        const std::ptrdiff_t last = std::ssize(m_lists.lstDCP) - 1;
-        const std::int16_t point = take(m_lists.lstDCP, last, "extra damage control parties");
-        paintAtParty(m_images.system(name), point);
+        const std::int16_t point = takeParty(std::ssize(m_lists.lstDCP) - 1);
+        paintAtParty(system(name), point);
     } else if (m_ship.PaintableWeap(name)) {
+        if (m_map.iWeapNDX == 0) {
+            throw Error("no point for " + quote(name) + " on " + mapName());
+        }
         const std::int16_t point = m_lists.pickWeapPoint(m_ship, name);
-        paintAtWeapon(m_images.system(name), point);
+        paintAtWeapon(system(name), point);
     } else {
         m_unpainted += name + '\r';
     }
@@ -114,14 +164,15 @@ void SheetDrawing::paintSystem(const std::string& name) {
 
 void SheetDrawing::paintParties() {
     for (std::int16_t i = narrow<std::int16_t>(number(m_figures.txtDCP) - 1); i >= 0; --i) {
-        const std::int16_t point = take(m_lists.lstDCP, i, "damage control parties");
-        paintAtParty(m_images.system(Catalogue::partyName), point);
+        const std::int16_t point = takeParty(i);
+        paintAtParty(system(Catalogue::partyName), point);
     }
 }
 
 void SheetDrawing::paintFireControls() {
     for (std::int16_t i = narrow<std::int16_t>(number(m_figures.txtFireCon) - 1); i >= 0; --i) {
-        paintAtFireControl(fireControlPicture, take(m_lists.lstFirecons, i, "fire controls"));
+        const std::int16_t point = takeFireControl(i);
+        paintAtFireControl(file(fireControlPicture, "of a fire control"), point);
     }
 }
 
@@ -129,11 +180,13 @@ void SheetDrawing::paintDrives() {
     const std::int16_t thrustX = m_map.getThrustPntX();
     const std::int16_t thrustY = m_map.getThrustPntY();
     if (isBase(m_ship.Hull())) {
-        m_sheet.paint(m_images.system(SheetImages::blank), thrustX, thrustY);
+        m_sheet.paint(system(SheetImages::blank), thrustX, thrustY);
     } else {
-        m_sheet.paint(m_images.file(thrustPicture(m_ship.THRUST())), thrustX, thrustY);
+        const std::int16_t thrust = m_ship.THRUST();
+        m_sheet.paint(file(thrustPicture(thrust), "for thrust " + std::to_string(thrust)), thrustX,
+                      thrustY);
     }
-    m_sheet.paint(m_images.file(drivePicture(m_ship.FTL())), m_map.getFTLPntX(),
+    m_sheet.paint(file(drivePicture(m_ship.FTL()), "of the FTL drive"), m_map.getFTLPntX(),
                   m_map.getFTLPntY());
 }
 
@@ -141,14 +194,15 @@ void SheetDrawing::coverWhatIsLeft() {
     for (const char arc : mapArcs) {
         PointList& list = *m_lists.weaponsIn(arc);
         for (; !list.empty(); list.pop_back()) {
-            paintAtWeapon(m_images.system(SheetImages::blank), list.back());
+            paintAtWeapon(system(SheetImages::blank), list.back());
         }
     }
     for (; !m_lists.lstDCP.empty(); m_lists.lstDCP.pop_back()) {
-        paintAtParty(m_images.system(SheetImages::blank), m_lists.lstDCP.back());
+        paintAtParty(system(SheetImages::blank), m_lists.lstDCP.back());
     }
     for (; !m_lists.lstFirecons.empty(); m_lists.lstFirecons.pop_back()) {
-        paintAtFireControl(unusedFireControlPicture, m_lists.lstFirecons.back());
+        paintAtFireControl(file(unusedFireControlPicture, "of an unused fire control"),
+                           m_lists.lstFirecons.back());
     }
 }
 

@@ -90,7 +90,7 @@ bool frmMapper::layOut() {
 /// Shows the outline of the map; false, with a message, if that fails.
 bool frmMapper::showOutline() {
     try {
-        picSSD.setPicture(m_services.pictures.load(m_Map->outlineFile()));
+        picSSD.setPicture(outlineOf(*m_Map, m_services.pictures));
         fitToSheet();
         return true;
     } catch (const Error& error) {
@@ -113,8 +113,8 @@ void frmMapper::drawSheet() {
     } catch (const Error& error) {
         fail("Could not create the SSD!", "SSD Creation Error", error);
         try {
-            picSSD.setPicture(m_services.pictures.load(m_Map->outlineFile()));
-        } catch (const FileError&) {
+            picSSD.setPicture(outlineOf(*m_Map, m_services.pictures));
+        } catch (const Error&) {
             picSSD.setPicture(Raster(sheet.scaleWidth(), sheet.scaleHeight()));
         }
     }
