@@ -77,8 +77,6 @@ public:
 private:
     void complain(int line, const std::string& text) { m_faults.push_back({line, text}); }
 
-    bool hasTrack() const { return m_map.size <= capitalMass; }
-
     const MapPlace* last(MapKeyword keyword) const {
         const auto found =
             std::find_if(m_map.places.rbegin(), m_map.places.rend(),
@@ -98,8 +96,10 @@ private:
         }
         if (place.keyword != MapKeyword::DamRow) {
             m_boxes.push_back({&place, systemPictureSize, systemPictureSize});
-        } else if (hasTrack()) {
-            const PictureSize track = trackPictureSize(trackSize(m_map.size));
+        } else {
+            const PictureSize track = m_map.size <= capitalMass
+                                          ? trackPictureSize(trackSize(m_map.size))
+                                          : greatTrackRoom;
             m_boxes.push_back({&place, track.width, track.height});
         }
     }
@@ -107,10 +107,6 @@ private:
     void checkLines() {
         if (m_map.sizeLine == 0) {
             complain(0, "no SIZE line, so that the map is offered to no ship");
-        }
-        if (!hasTrack()) {
-            complain(m_map.sizeLine,
-                     "above SIZE " + std::to_string(capitalMass) + " no damage track is drawn");
         }
         for (const auto& [keyword, what] : {std::pair{MapKeyword::DamRow, "damage track"},
                                             {MapKeyword::Ftl, "FTL drive"},

@@ -40,7 +40,7 @@ PictureSize trackPictureSize(TrackSize size) {
     case TrackSize::Cruiser:
         return {80, 43};
     default:
-        return {144, 54};
+        return {210, 74};
     }
 }
 
@@ -60,14 +60,14 @@ std::string drivePicture(std::int32_t ftl) {
     return ftl == TugDrive ? "ftltug.gif" : std::string(noDrivePicture);
 }
 
-std::int32_t mostDamagePoints() {
-    return warship(capitalMass).damagePoints;
+std::int32_t mostDamagePoints(TrackSize size) {
+    return warship(size == TrackSize::Capital ? greatMass : capitalMass).damagePoints;
 }
 
 std::int32_t trackRows(TrackSize size, std::int32_t damagePoints) {
     // The lightest ship with so many points; warships have the most for their mass.
     std::int32_t mass = smallestMass;
-    while (mass < capitalMass && warship(mass).damagePoints < damagePoints) {
+    while (mass < greatMass && warship(mass).damagePoints < damagePoints) {
         ++mass;
     }
     return warship(std::max(mass, largestMass(size))).damageRows;
@@ -83,7 +83,7 @@ std::vector<std::string> sheetPictures() {
         files.push_back(thrustPicture(thrust));
     }
     for (const TrackSize size : trackSizes) {
-        for (std::int32_t points = 0; points <= mostDamagePoints(); ++points) {
+        for (std::int32_t points = 0; points <= mostDamagePoints(size); ++points) {
             files.push_back(damageTrackPicture(size, std::to_string(points)));
         }
     }

@@ -36,6 +36,13 @@ inline constexpr int systemPictureSize = 32;
 /// The size of a damage track's picture, whatever the number of damage points.
 PictureSize trackPictureSize(TrackSize size);
 
+/// The largest mass of ships that delivered outlines are made for.
+inline constexpr std::int32_t greatMass = 600;
+
+/// The room that a map above SIZE 100 has for a damage track. There is no picture of one; sheets
+/// made of lines have it drawn.
+inline constexpr PictureSize greatTrackRoom = {354, 270};
+
 /// File name of the damage track for a number of damage points, as the ship's window says it.
 std::string damageTrackPicture(TrackSize size, std::string_view damagePoints);
 
@@ -45,8 +52,10 @@ std::string thrustPicture(std::int32_t thrust);
 /// File name of the picture of a drive between the stars, by its code.
 std::string drivePicture(std::int32_t ftl);
 
-/// The most damage points of a ship for which there is any map: up to mass 100.
-std::int32_t mostDamagePoints();
+/// The most damage points that there is a track of this size for. Maps are made for ships up to
+/// mass 100, but one may be drawn on a map that was made for lighter ones, and up to mass 600 on
+/// the largest of those.
+std::int32_t mostDamagePoints(TrackSize size);
 
 /// How many rows a track has: as many damage rows as the ships have that the map is made for, or
 /// more where only a heavier ship comes to so many damage points.

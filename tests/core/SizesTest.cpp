@@ -37,7 +37,7 @@ TEST(SheetPictures, AreThoseOfAllTracksThrustsAndDrives) {
               "blank.gifftl.gifftltug.gif");
     // Fire controls, drives, thrusts, and the tracks.
     const std::vector<std::string> all = sheetPictures();
-    EXPECT_EQ(all.size(), 2U + 3U + 9U + 3U * 51U);
-    EXPECT_EQ(all.back(), "cap50.gif");
+    EXPECT_EQ(all.size(), 2U + 3U + 9U + 2U * 51U + 301U);
+    EXPECT_EQ(all.back(), "cap300.gif");
     EXPECT_EQ(all[13], thrustPicture(8));
 }

@@ -127,7 +127,7 @@ TEST(PictureCheck, NamesTheLinesWhosePicturesAreMissingOrFaulty) {
                                   "Inside,1,1,BEAM,GUNS,F,guns/maw-f.gif\r\n"
                                   "Bare,1,1,BEAM,GUNS,F,\r\n";
     const std::string missing = "2: picture \"cat-pulse-cannons.gif\" is missing\n";
-    const std::string large = "4: picture \"armor-plate.gif\" is 144 by 54 pixels, not 32 by 32\n";
+    const std::string large = "4: picture \"armor-plate.gif\" is 210 by 74 pixels, not 32 by 32\n";
     QtPictureFiles pictures;
     const auto faults = [&](PictureCheck::Depth depth) {
         return textOf(PictureCheck(folder.path(), pictures, depth).checkCatalogue(catalogue));

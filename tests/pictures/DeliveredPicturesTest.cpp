@@ -149,7 +149,7 @@ TEST(DeliveredPictures, MountingsHaveTheSameMarkOnAllWeaponsAndMirrorIt) {
 
 TEST(DeliveredPictures, TracksHaveABoxForEachPointInEvenRows) {
     for (const TrackSize size : trackSizes) {
-        for (int points = 0; points <= mostDamagePoints(); ++points) {
+        for (int points = 0; points <= mostDamagePoints(size); ++points) {
             const std::string name = damageTrackPicture(size, std::to_string(points));
             SCOPED_TRACE(name);
             const QImage image = picture(images + name);

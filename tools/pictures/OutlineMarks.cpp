@@ -48,15 +48,16 @@ void nameKeyword(OutlineMark& mark, const std::string& word) {
     throw Error("unknown mark \"" + word + '"');
 }
 
+bool isOfSize(const QRect& box, PictureSize size) {
+    return box.size() == QSize(size.width, size.height);
+}
+
 /// Whether something is pasted in this size.
 bool isPasted(const OutlineMark& mark) {
     if (mark.keyword != MapKeyword::DamRow) {
         return mark.box.size() == systemSize;
     }
-    return std::any_of(std::begin(trackSizes), std::end(trackSizes), [&](TrackSize size) {
-        const PictureSize room = trackPictureSize(size);
-        return mark.box.size() == QSize(room.width, room.height);
-    });
+    return trackLength(mark) != nullptr || isOfSize(mark.box, greatTrackRoom);
 }
 
 OutlineMark readMark(const QXmlStreamAttributes& attributes) {
@@ -71,6 +72,14 @@ OutlineMark readMark(const QXmlStreamAttributes& attributes) {
 }
 
 }  // namespace
+
+const TrackLength* trackLength(const OutlineMark& mark) {
+    const auto* const found =
+        std::find_if(trackLengths.begin(), trackLengths.end(), [&](const TrackLength& length) {
+            return isOfSize(mark.box, trackPictureSize(trackSize(length.size)));
+        });
+    return mark.keyword == MapKeyword::DamRow && found != trackLengths.end() ? found : nullptr;
+}
 
 OutlineLayout readOutlineLayout(const std::filesystem::path& source) {
     QXmlStreamReader reader(QString::fromStdString(readTextFile(source)));

@@ -16,6 +16,10 @@ struct OutlineMark {
     QRect box;                                 ///< what is pasted covers this, in pixels
 };
 
+/// The black pixels by which the mark of a damage track says the SIZE of the map; null for a mark
+/// that says none.
+const TrackLength* trackLength(const OutlineMark& mark);
+
 /// What the source of an outline says about its size and its places.
 struct OutlineLayout {
     QSize size;

@@ -60,8 +60,8 @@ void setMark(QImage& image, const OutlineMark& mark) {
             image.setPixel(place + QPoint(1, 0), indexOf(image, arc.colour));
         }
     }
-    if (mark.keyword == MapKeyword::DamRow) {
-        for (int i = 1; i < mark.box.width(); ++i) {
+    if (const TrackLength* const length = trackLength(mark)) {
+        for (int i = 1; i <= length->blackPixels; ++i) {
             image.setPixel(place + QPoint(i, 0), indexOf(image, Black));
         }
     }

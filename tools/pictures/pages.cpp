@@ -80,11 +80,9 @@ std::vector<std::string> linesOf(const OutlineMark& mark) {
     std::string place = '(' + std::to_string(mark.box.x()) + ',' + std::to_string(mark.box.y());
     place += mark.arc == 0 ? ")" : std::string(",") + mark.arc + ')';
     std::vector<std::string> lines = {std::string(mapWord(mark.keyword)) + ": " + place};
-    for (const TrackLength& track : trackLengths) {
-        if (mark.keyword == MapKeyword::DamRow && mark.box.width() == track.blackPixels + 1) {
-            lines.push_back(std::string(mapWord(MapKeyword::Size)) + ": " +
-                            std::to_string(track.size));
-        }
+    if (const TrackLength* const length = trackLength(mark)) {
+        lines.push_back(std::string(mapWord(MapKeyword::Size)) + ": " +
+                        std::to_string(length->size));
     }
     return lines;
 }

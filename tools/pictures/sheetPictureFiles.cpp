@@ -1,11 +1,10 @@
 #include "Artwork.h"
+#include "DamageTrack.h"
 #include "HullRules.h"
 #include "PictureSet.h"
 #include "SheetPictures.h"
 #include "drawing.h"
 #include "pictureFiles.h"
-
-#include <algorithm>
 
 namespace fleetwright {
 
@@ -21,21 +20,12 @@ void drawBox(QImage& image, int x, int y, int side) {
     }
 }
 
-/// A box for each damage point, in rows that differ by one box at the most, the longer ones on
-/// top. Neighbours share their sides, rows stand apart: the end of a row is what players wait for.
 QImage drawTrack(TrackSize size, int points) {
     const PictureSize room = trackPictureSize(size);
+    const DamageTrack track = damageTrack(points, trackRows(size, points), room);
     QImage image = blankInk({room.width, room.height});
-    const int rows = trackRows(size, points);
-    const int longest = (points + rows - 1) / rows;
-    const int rowHeight = room.height / rows;
-    constexpr int gap = 2;
-    const int step = std::min((room.width - 1) / std::max(longest, 1), rowHeight - gap - 1);
-    for (int row = 0; row < rows; ++row) {
-        const int boxes = points / rows + (row < points % rows ? 1 : 0);
-        for (int box = 0; box < boxes; ++box) {
-            drawBox(image, box * step, row * (step + 1 + gap), step + 1);
-        }
+    for (const TrackBox& box : track.boxes) {
+        drawBox(image, box.x, box.y, track.side);
     }
     return image;
 }
@@ -59,7 +49,7 @@ PictureSet sheetPictureFiles(const Artwork& artwork) {
             drawSheetSource(artwork, "thrust", {{"thrust", std::to_string(thrust)}});
     }
     for (const TrackSize size : trackSizes) {
-        for (int points = 0; points <= mostDamagePoints(); ++points) {
+        for (int points = 0; points <= mostDamagePoints(size); ++points) {
             pictures[damageTrackPicture(size, std::to_string(points))] =
                 gifFile(drawTrack(size, points));
         }
