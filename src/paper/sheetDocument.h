@@ -32,8 +32,8 @@ struct LegendRow {
 struct SheetFacts {
     std::string shipName;
     std::string designer;
-    std::string shipClass;    ///< as "Heavy Cruiser"
-    std::string designation;  ///< as "Cruiser"
+    std::string shipClass;    ///< as "Cruiser"
+    std::string designation;  ///< as "Heavy Cruiser"
     std::string hull;         ///< as "Warship"
     std::int32_t mass = 0;    ///< mass units
     std::int32_t points = 0;

@@ -1,29 +1,11 @@
 #include "RasterSheet.h"
 
-#include "Error.h"
 #include "SheetFont.h"
 #include "text.h"
 
 #include <algorithm>
-#include <cstdint>
 
 namespace fleetwright {
-
-namespace {
-
-constexpr char lineEnd = '\r';
-
-}  // namespace
-
-void RasterSheet::setControlHeight(int twips) {
-    // A ship can list its systems by the ten thousand. Nobody prints that.
-    constexpr std::int64_t mostPixels = std::int64_t{64} * 1024 * 1024;
-    const int height = std::max(twips / twipsToThePixel, 0);
-    if (std::int64_t{m_raster.width()} * height > mostPixels) {
-        throw Error("the sheet is too large");
-    }
-    m_raster.setHeight(height);
-}
 
 void RasterSheet::paint(const Raster& picture, int x, int y) {
     const int left = std::max(0, -x);
@@ -43,8 +25,7 @@ void RasterSheet::fill(Pen from, Pen to, std::uint32_t colour) {
     }
 }
 
-Pen RasterSheet::print(std::string_view text, Pen pen) {
-    const int bottom = pen.y + textHeight(text);
+void RasterSheet::putText(std::string_view text, Pen pen) {
     while (!text.empty()) {
         if (text.front() == lineEnd) {
             pen = {0, pen.y + Glyph::height};
@@ -53,7 +34,6 @@ Pen RasterSheet::print(std::string_view text, Pen pen) {
         }
         text.remove_prefix(characterLength(text));
     }
-    return {0, bottom};
 }
 
 /// Prints one character; how far the pen moves on.
@@ -72,14 +52,6 @@ int RasterSheet::printCharacter(char32_t character, Pen pen) {
         }
     }
     return glyph.advance;
-}
-
-int RasterSheet::textHeight(std::string_view text) const {
-    auto lines = std::count(text.begin(), text.end(), lineEnd);
-    if (!text.empty() && text.back() != lineEnd) {
-        ++lines;
-    }
-    return static_cast<int>(lines) * Glyph::height;
 }
 
 std::uint32_t RasterSheet::pixel(int x, int y) const {

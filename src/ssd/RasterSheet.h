@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Sheet.h"
+#include "PixelSheet.h"
 
 #include <functional>
 
@@ -8,10 +8,8 @@ namespace fleetwright {
 
 /// A sheet on a raster that stands elsewhere: without a border, 15 twips to the pixel, white where
 /// it grows, printed on in the font of `SheetFont`. Texts are UTF-8.
-class RasterSheet : public Sheet {
+class RasterSheet : public PixelSheet {
 public:
-    static constexpr int twipsToThePixel = 15;
-
     /// `refresh` is called when what is drawn so far is to be shown. The raster outlives the sheet.
     explicit RasterSheet(Raster& raster, std::function<void()> refresh = {})
         : m_raster(raster), m_refresh(std::move(refresh)) {}
@@ -19,15 +17,14 @@ public:
     void setPicture(const Raster& picture) override { m_raster = picture; }
     int scaleWidth() const override { return m_raster.width(); }
     int scaleHeight() const override { return m_raster.height(); }
-    int controlHeight() const override { return m_raster.height() * twipsToThePixel; }
-    void setControlHeight(int twips) override;
-    int twipsPerPixel() const override { return twipsToThePixel; }
     void paint(const Raster& picture, int x, int y) override;
     void fill(Pen from, Pen to, std::uint32_t colour) override;
-    Pen print(std::string_view text, Pen pen) override;
-    int textHeight(std::string_view text) const override;
     std::uint32_t pixel(int x, int y) const override;
     void refresh() override;
+
+protected:
+    void setHeight(int pixels) override { m_raster.setHeight(pixels); }
+    void putText(std::string_view text, Pen pen) override;
 
 private:
     bool isInside(int x, int y) const {

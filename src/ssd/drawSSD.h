@@ -20,7 +20,7 @@ struct SheetShip {
     std::string txtShipName;
     std::string txtDesigner;
     std::string txtCost;
-    const ShipClass& ship;
+    ShipClass& ship;
 };
 
 /// Draws a ship's sheet. The sheet shows the map's outline; the lists are those of this map and

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PageFlow.h"
+#include "sheetBlocks.h"
+#include "sheetDocument.h"
+
+#include <vector>
+
+namespace fleetwright {
+
+/// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
+/// and below it. How large the drawing gets depends on the drawing and on the room alone, never on
+/// how much there is to read. Measures are in millimetres.
+class SheetCard {
+public:
+    /// The least side of a system's picture that is good to play with.
+    static constexpr double leastSymbol = 9;
+
+    /// The sheet outlives the card.
+    SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain);
+
+    /// Whether the drawing has that size here.
+    bool isLegible() const;
+    /// Puts the sheet on a page and returns what is left to read, which found no room there.
+    std::vector<PageBlock> putOn(Page& page) const;
+
+private:
+    struct Columns {
+        std::vector<Box> beside;
+        std::vector<Box> below;
+    };
+
+    double scaleFor(const Box& ink) const;
+    double readingRoom(double scale) const;
+    std::size_t columnsBeside(double scale) const;
+    Columns columnsAround(double scale) const;
+    std::vector<PageBlock> textToRead(double factor) const;
+    PageFlow fittingText(const Columns& columns) const;
+
+    const VectorSheet& m_sheet;
+    Box m_room;       ///< all of it
+    bool m_isPlain;
+    SheetText m_text;
+    std::vector<PageBlock> m_linesInHead;
+    PageBlock m_head;
+    Box m_body;       ///< what the head leaves
+    Box m_ink;        ///< what shows of the drawing, pixels of the outline
+    double m_scale;   ///< millimetres to the pixel
+};
+
+/// The columns of a room: at least one, all of one width, as wide as is good to read.
+std::vector<Box> readingColumns(const Box& room);
+
+}  // namespace fleetwright

@@ -1,0 +1,175 @@
+#include "sheetBlocks.h"
+
+#include "pageTexts.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::uint32_t quietColour = 0x555555;
+constexpr double lineHeight = 1.28;  // times the size of the font
+constexpr double baseLine = 0.95;    // times the size, below the upper edge of the line
+
+/// Writes lines below each other.
+class BlockWriter {
+public:
+    explicit BlockWriter(double left = 0) : m_left(left) {}
+
+    void write(const std::vector<std::string>& lines, PageText style) {
+        for (const std::string& line : lines) {
+            style.text = line;
+            style.x = m_left;
+            style.y = block.height + style.size * baseLine;
+            block.items.emplace_back(style);
+            block.height += style.size * lineHeight;
+        }
+    }
+
+    PageBlock block;
+
+private:
+    double m_left;
+};
+
+void append(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more) {
+    std::move(more.begin(), more.end(), std::back_inserter(blocks));
+}
+
+std::string pieces(std::int64_t count) {
+    return " x " + std::to_string(count);
+}
+
+/// "fore, port; mass 3, 10 points each", as far as there is something to say.
+std::string particulars(const LegendRow& row) {
+    std::string text = row.arcs;
+    std::string price;
+    if (row.mass != 0) {
+        price = "mass " + std::to_string(row.mass);
+    }
+    if (row.points != 0) {
+        price += (price.empty() ? "" : ", ") + std::to_string(row.points) +
+                 (row.points == 1 ? " point" : " points");
+    }
+    if (!price.empty()) {
+        text += (text.empty() ? "" : "; ") + price + (row.count == 1 ? "" : " each");
+    }
+    return text;
+}
+
+PageBlock legendBlock(const LegendRow& row, double width, double factor) {
+    constexpr double pictureSide = 8.5;
+    constexpr std::size_t mostNameLines = 3, mostRulesLines = 14;
+    const double side = pictureSide * factor;
+    const double left = side + 2;
+    BlockWriter writer(left);
+    const auto write = [&](const std::string& text, PageText style, std::size_t most) {
+        style.size *= factor;
+        std::vector<std::string> lines = wrappedText(text, style, width - left);
+        if (lines.size() > most) {
+            lines.resize(most);
+            lines.back() += "…";
+        }
+        writer.write(lines, style);
+    };
+    write(row.name + (row.count == 1 ? "" : pieces(row.count)),
+          {.text = {}, .size = 3.1, .font = PageFont::Bold}, mostNameLines);
+    const std::string more = particulars(row);
+    if (!more.empty()) {
+        write(more, {.text = {}, .size = 2.6, .colour = quietColour}, mostNameLines);
+    }
+    if (!row.rules.empty()) {
+        write(row.rules, {.text = {}, .size = 2.6}, mostRulesLines);
+    }
+    PageBlock block = std::move(writer.block);
+    if (row.picture.drawing || row.picture.raster) {
+        const Box place = {0, 0.3, side, side};
+        block.items.emplace_back(
+            PagePicture{row.picture.drawing, row.picture.raster, place, place});
+    }
+    constexpr double roomBelow = 2.6;
+    block.height = std::max(block.height, side + 0.3) + roomBelow * factor;
+    return block;
+}
+
+}  // namespace
+
+SheetText sheetText(std::string_view text) {
+    constexpr std::string_view separator = "=================================";
+    SheetText parts;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\r'), text.size());
+        const std::string_view line = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (line == separator && parts.separator.empty()) {
+            parts.separator = line;
+        } else if (!line.empty()) {
+            (parts.separator.empty() ? parts.lines : parts.listed).emplace_back(line);
+        }
+    }
+    return parts;
+}
+
+std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width,
+                                  double size) {
+    const PageText style = {.text = {}, .size = size};
+    std::vector<PageBlock> blocks;
+    for (const std::string& text : lines) {
+        for (const std::string& line : wrappedText(text, style, width)) {
+            BlockWriter writer;
+            writer.write({line}, style);
+            blocks.push_back(std::move(writer.block));
+        }
+    }
+    return blocks;
+}
+
+std::vector<PageBlock> listBlocks(const SheetText& text, double width) {
+    if (text.listed.empty()) {
+        return {};
+    }
+    std::map<std::string_view, std::int64_t> counts;
+    for (const std::string& name : text.listed) {
+        ++counts[name];
+    }
+    std::vector<std::string> lines;
+    for (const std::string& name : text.listed) {
+        const std::int64_t count = std::exchange(counts[name], 0);
+        if (count > 0) {
+            lines.push_back(name + (count == 1 ? "" : pieces(count)));
+        }
+    }
+    BlockWriter writer;
+    writer.write({text.separator}, fittedText(text.separator,
+                                              {.text = {}, .size = textLineSize, .colour = quietColour},
+                                              width, 1));
+    writer.block.staysWithNext = true;
+    std::vector<PageBlock> blocks = {std::move(writer.block)};
+    append(blocks, lineBlocks(lines, width, textLineSize));
+    return blocks;
+}
+
+std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
+                                    double factor) {
+    std::vector<PageBlock> blocks;
+    for (const LegendRow& row : legend) {
+        blocks.push_back(legendBlock(row, width, factor));
+    }
+    return blocks;
+}
+
+PageBlock continuedBlock(const std::string& shipName, double width) {
+    const PageText style =
+        fittedText(shipName, {.text = {}, .size = 4.5, .font = PageFont::Bold}, width, 3);
+    BlockWriter writer;
+    writer.write({style.text}, style);
+    constexpr double roomBelow = 2;
+    writer.block.height += roomBelow;
+    writer.block.staysWithNext = true;
+    return writer.block;
+}
+
+}  // namespace fleetwright

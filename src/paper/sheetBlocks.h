@@ -1,0 +1,36 @@
+#pragma once
+
+// What a sheet says, as blocks for columns of one width. All measures are in millimetres.
+
+#include "PageFlow.h"
+#include "sheetDocument.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fleetwright {
+
+/// The block of text of a drawing, taken apart.
+struct SheetText {
+    std::vector<std::string> lines;  ///< on top: name, designer, points and so on
+    std::string separator;           ///< what stands between; empty if nothing is listed
+    std::vector<std::string> listed;  ///< systems without a place on the drawing, a line a piece
+};
+SheetText sheetText(std::string_view text);
+
+/// The usual size of the font for the text of a drawing.
+inline constexpr double textLineSize = 2.8;
+
+/// Lines of text.
+std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width,
+                                  double size);
+/// The list of systems without a place, equal ones once with their count.
+std::vector<PageBlock> listBlocks(const SheetText& text, double width);
+/// The legend, its letters larger or smaller than usual by this factor.
+std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
+                                    double factor);
+/// A ship's name above what goes on on another page.
+PageBlock continuedBlock(const std::string& shipName, double width);
+
+}  // namespace fleetwright

@@ -1,0 +1,188 @@
+#include "sheetDocument.h"
+
+#include "SheetCard.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr double cutGap = 6;  // between sheets on one page
+
+/// Pages for sheets, one after the other.
+class SheetPages {
+public:
+    explicit SheetPages(const SheetOptions& options)
+        : m_options(options),
+          m_inside{paperMargin, paperMargin, options.paper.width - 2 * paperMargin,
+                   options.paper.height - 2 * paperMargin} {}
+
+    void add(const std::vector<VectorSheet>& sheets);
+
+    std::vector<Page> pages;
+
+private:
+    using Sheets = std::vector<VectorSheet>;
+    /// A page that is cut into columns and rows.
+    struct Cut {
+        int columns;
+        int rows;
+    };
+
+    std::vector<Box> cells(Cut cut) const;
+    std::size_t fittingSheets(const Sheets& sheets, std::size_t first, Cut cut) const;
+    void addPage(const Sheets& sheets, std::size_t first, std::size_t count, Cut cut);
+    void addCutMarks(Cut cut);
+    void addReading(std::vector<PageBlock> blocks);
+
+    SheetOptions m_options;
+    Box m_inside;
+};
+
+std::vector<Box> SheetPages::cells(Cut cut) const {
+    const double width = (m_inside.width - (cut.columns - 1) * cutGap) / cut.columns;
+    const double height = (m_inside.height - (cut.rows - 1) * cutGap) / cut.rows;
+    std::vector<Box> boxes;
+    for (int row = 0; row < cut.rows; ++row) {
+        for (int column = 0; column < cut.columns; ++column) {
+            boxes.push_back({m_inside.x + column * (width + cutGap),
+                             m_inside.y + row * (height + cutGap), width, height});
+        }
+    }
+    return boxes;
+}
+
+/// How many sheets from `first` on are small enough for the cells of one page.
+std::size_t SheetPages::fittingSheets(const Sheets& sheets, std::size_t first, Cut cut) const {
+    const std::vector<Box> boxes = cells(cut);
+    std::size_t count = 0;
+    while (count < boxes.size() && first + count < sheets.size() &&
+           SheetCard(sheets[first + count], boxes[count], m_options.isPlain).isLegible()) {
+        ++count;
+    }
+    return count;
+}
+
+void SheetPages::add(const Sheets& sheets) {
+    constexpr Cut cuts[] = {{2, 1}, {1, 2}, {2, 2}};
+    for (std::size_t first = 0; first < sheets.size();) {
+        std::size_t count = 1;
+        Cut best = {1, 1};
+        for (const Cut cut : cuts) {
+            const std::size_t fitting = cut.columns * cut.rows <= m_options.perPage
+                                            ? fittingSheets(sheets, first, cut)
+                                            : 0;
+            if (fitting > count) {
+                count = fitting;
+                best = cut;
+            }
+        }
+        addPage(sheets, first, count, best);
+        first += count;
+    }
+}
+
+void SheetPages::addPage(const Sheets& sheets, std::size_t first, std::size_t count, Cut cut) {
+    const std::vector<Box> boxes = cells(cut);
+    const double width = readingColumns(m_inside).front().width;
+    std::vector<PageBlock> left;
+    Page page;
+    for (std::size_t i = 0; i < count; ++i) {
+        const VectorSheet& sheet = sheets[first + i];
+        const SheetCard card(sheet, boxes[i], m_options.isPlain);
+        std::vector<PageBlock> rest = card.putOn(page);
+        if (!rest.empty()) {
+            left.push_back(continuedBlock(sheet.facts.shipName, width));
+            std::move(rest.begin(), rest.end(), std::back_inserter(left));
+        }
+    }
+    pages.push_back(std::move(page));
+    if (count > 1) {
+        addCutMarks(cut);
+    }
+    addReading(std::move(left));
+}
+
+/// Marks where to cut, at the edges and in the middle.
+void SheetPages::addCutMarks(Cut cut) {
+    constexpr double length = 4, lineWidth = 0.15;
+    const auto mark = [this](double x, double y, double dx, double dy) {
+        pages.back().items.emplace_back(PageLine{x - dx, y - dy, x + dx, y + dy, lineWidth, 0});
+    };
+    const double x = m_inside.x + m_inside.width / 2, y = m_inside.y + m_inside.height / 2;
+    const double right = m_inside.x + m_inside.width, bottom = m_inside.y + m_inside.height;
+    if (cut.columns > 1) {
+        mark(x, m_inside.y + length / 2, 0, length / 2);
+        mark(x, bottom - length / 2, 0, length / 2);
+        mark(x, y, 0, cutGap / 2);
+    }
+    if (cut.rows > 1) {
+        mark(m_inside.x + length / 2, y, length / 2, 0);
+        mark(right - length / 2, y, length / 2, 0);
+        mark(x, y, cutGap / 2, 0);
+    }
+}
+
+/// Goes on with what found no room beside drawings.
+void SheetPages::addReading(std::vector<PageBlock> blocks) {
+    PageFlow flow(std::move(blocks));
+    while (!flow.isDone()) {
+        Page page;
+        std::vector<Box> columns = readingColumns(m_inside);
+        const double height = flow.balancedHeight(columns);
+        for (Box& column : columns) {
+            column.height = height;
+        }
+        flow.fill(columns, page);
+        if (page.items.empty()) {
+            flow.force(columns.front(), page);
+        }
+        pages.push_back(std::move(page));
+    }
+}
+
+/// The designers, each once.
+std::string designersOf(const std::vector<VectorSheet>& sheets) {
+    std::vector<std::string> names;
+    std::string text;
+    for (const VectorSheet& sheet : sheets) {
+        const std::string& name = sheet.facts.designer;
+        if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end()) {
+            names.push_back(name);
+            text += (text.empty() ? "" : ", ") + name;
+        }
+    }
+    return text;
+}
+
+std::string subjectOf(const SheetFacts& facts) {
+    return facts.designation + ", " + facts.hull + ", mass " + std::to_string(facts.mass) + ", " +
+           std::to_string(facts.points) + " points";
+}
+
+}  // namespace
+
+PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& options) {
+    SheetPages laidOut(options);
+    laidOut.add(sheets);
+    PageDocument document;
+    document.size = options.paper;
+    document.pages = std::move(laidOut.pages);
+    document.author = designersOf(sheets);
+    document.language = "en";
+    if (sheets.size() == 1) {
+        document.title = sheets.front().facts.shipName;
+        document.subject = subjectOf(sheets.front().facts);
+    } else {
+        document.title = std::to_string(sheets.size()) + " sheets";
+        document.subject = "Ship sheets";
+    }
+    for (const VectorSheet& sheet : sheets) {
+        document.date = std::max(document.date, sheet.date);
+    }
+    return document;
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,144 @@
+#include "sheetHeader.h"
+
+#include "pageTexts.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::uint32_t labelColour = 0x555555;
+constexpr double leastWideHeader = 150;
+constexpr double besideWidth = 62, besideHeight = 14.4;
+
+struct Figure {
+    std::string label;
+    std::string value;
+    double width = 0;
+};
+
+constexpr double labelSize = 2.1, valueSize = 3.6, leastGap = 4;
+
+std::vector<Figure> figuresOf(const SheetFacts& facts) {
+    std::vector<Figure> figures = {
+        {"HULL", facts.hull},
+        {"MASS", std::to_string(facts.mass)},
+        {"POINTS", std::to_string(facts.points)},
+        {"THRUST", facts.thrust},
+        {"DRIVE", facts.drive},
+        {"DAMAGE", std::to_string(facts.damagePoints) + " in " + std::to_string(facts.damageRows) +
+                       (facts.damageRows == 1 ? " row" : " rows")}};
+    if (!facts.armor.empty()) {
+        figures.push_back({"ARMOR", facts.armor});
+    }
+    if (!facts.streamlining.empty()) {
+        figures.push_back({"STREAMLINING", facts.streamlining});
+    }
+    for (Figure& figure : figures) {
+        figure.width = std::max(textWidth(figure.label, labelSize),
+                                textWidth(figure.value, valueSize, PageFont::Bold));
+    }
+    return figures;
+}
+
+class HeaderBlock {
+public:
+    explicit HeaderBlock(double width) : m_width(width) {}
+
+    void writeName(const SheetFacts& facts, double room, double size);
+    void writeFigures(const SheetFacts& facts);
+
+    PageBlock block;
+
+private:
+    void rule(double lineWidth) {
+        block.items.emplace_back(
+            PageLine{0, block.height, m_width, block.height, lineWidth, 0x000000});
+    }
+    void writeRow(const std::vector<Figure>& row);
+
+    double m_width;
+};
+
+void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
+    const double leastName = size / 2, kindSize = 3.3;
+    PageText name =
+        fittedText(facts.shipName, {.text = {}, .size = size, .font = PageFont::Bold}, room,
+                   leastName);
+    name.y = size * 0.8;
+    block.items.emplace_back(std::move(name));
+    PageText kind = fittedText(facts.designation + ", " + facts.shipClass + " class",
+                               {.text = {}, .size = kindSize, .colour = labelColour}, room, 2);
+    kind.y = size * 0.8 + kindSize * 1.45;
+    block.height = kind.y + 2;
+    block.items.emplace_back(std::move(kind));
+}
+
+void HeaderBlock::writeRow(const std::vector<Figure>& row) {
+    double used = 0;
+    for (const Figure& figure : row) {
+        used += figure.width;
+    }
+    constexpr double mostGap = 16;
+    const double gap =
+        row.size() < 2 ? 0 : std::min((m_width - used) / double(row.size() - 1), mostGap);
+    double x = 0;
+    for (const Figure& figure : row) {
+        block.items.emplace_back(PageText{.text = figure.label,
+                                          .x = x,
+                                          .y = block.height + 2.7,
+                                          .size = labelSize,
+                                          .colour = labelColour});
+        PageText value = fittedText(
+            figure.value, {.text = {}, .size = valueSize, .font = PageFont::Bold}, m_width - x, 2);
+        value.x = x;
+        value.y = block.height + 6.6;
+        block.items.emplace_back(std::move(value));
+        x += figure.width + gap;
+    }
+    block.height += 7.9;
+}
+
+/// The figures between two lines, in as many rows as they need.
+void HeaderBlock::writeFigures(const SheetFacts& facts) {
+    rule(0.5);
+    std::vector<Figure> row;
+    double used = 0;
+    for (Figure& figure : figuresOf(facts)) {
+        if (!row.empty() && used + leastGap + figure.width > m_width) {
+            writeRow(std::exchange(row, {}));
+            used = 0;
+        }
+        used += (row.empty() ? 0 : leastGap) + figure.width;
+        row.push_back(std::move(figure));
+    }
+    writeRow(row);
+    rule(0.2);
+}
+
+}  // namespace
+
+Box roomInHeader(double width) {
+    return {width - besideWidth, 0, width < leastWideHeader ? 0 : besideWidth, besideHeight};
+}
+
+PageBlock sheetHeader(const SheetFacts& facts, const std::vector<PageBlock>& lines, double width) {
+    constexpr double largeName = 9, smallName = 6.5, gap = 4;
+    const Box beside = roomInHeader(width);
+    HeaderBlock header(width);
+    header.writeName(facts, lines.empty() ? width : beside.x - gap,
+                     width < leastWideHeader ? smallName : largeName);
+    header.writeFigures(facts);
+    Page page;
+    double y = 0;
+    for (const PageBlock& line : lines) {
+        putBlock(page, line, beside.x, y);
+        y += line.height;
+    }
+    std::move(page.items.begin(), page.items.end(), std::back_inserter(header.block.items));
+    return std::move(header.block);
+}
+
+}  // namespace fleetwright

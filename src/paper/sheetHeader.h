@@ -1,0 +1,19 @@
+#pragma once
+
+#include "PageFlow.h"
+#include "sheetDocument.h"
+
+#include <string>
+#include <vector>
+
+namespace fleetwright {
+
+/// The head of a sheet: the ship's name, what kind of ship it is, and its figures. Beside the name
+/// stand the lines of the drawing's text that are handed in.
+PageBlock sheetHeader(const SheetFacts& facts, const std::vector<PageBlock>& lines, double width);
+
+/// The room beside the name: how wide lines may be there, and how high all of them together. No
+/// width in a narrow head, which has none.
+Box roomInHeader(double width);
+
+}  // namespace fleetwright
