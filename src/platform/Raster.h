@@ -41,8 +41,6 @@ public:
         m_height = height;
     }
 
-    friend bool operator==(const Raster&, const Raster&) = default;
-
 private:
     std::size_t index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
