@@ -36,6 +36,10 @@ struct Mover {
 
 }  // namespace
 
+void appendBlocks(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more) {
+    std::move(more.begin(), more.end(), std::back_inserter(blocks));
+}
+
 void putBlock(Page& page, const PageBlock& block, double x, double y) {
     for (const PageItem& item : block.items) {
         page.items.push_back(item);

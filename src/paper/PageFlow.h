@@ -5,6 +5,7 @@
 #include "PageDocument.h"
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -16,6 +17,9 @@ struct PageBlock {
     std::vector<PageItem> items;
     bool staysWithNext = false;  ///< as a heading does
 };
+
+/// Adds blocks behind others.
+void appendBlocks(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more);
 
 /// Puts a block on a page, its upper left corner here.
 void putBlock(Page& page, const PageBlock& block, double x, double y);

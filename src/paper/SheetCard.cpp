@@ -45,16 +45,12 @@ void addRoomBelow(std::vector<PageBlock>& blocks) {
     }
 }
 
-void append(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more) {
-    std::move(more.begin(), more.end(), std::back_inserter(blocks));
-}
-
 }  // namespace
 
 std::vector<Box> readingColumns(const Box& room) {
     constexpr double goodWidth = 60;
-    const double count = std::max(std::floor((room.width + columnGap) / (goodWidth + columnGap)),
-                                  1.0);
+    const double count =
+        std::max(std::floor((room.width + columnGap) / (goodWidth + columnGap)), 1.0);
     const double width = (room.width - (count - 1) * columnGap) / count;
     std::vector<Box> columns;
     for (double i = 0; i < count; ++i) {
@@ -117,7 +113,8 @@ SheetCard::Columns SheetCard::columnsAround(double scale) const {
     Columns columns;
     std::vector<Box> all = readingColumns(m_body);
     const double free = m_body.width - m_ink.width * scale;
-    while (all.size() > 1 && double(columns.beside.size() + 1) * (all[0].width + columnGap) <= free) {
+    while (all.size() > 1 &&
+           double(columns.beside.size() + 1) * (all[0].width + columnGap) <= free) {
         columns.beside.insert(columns.beside.begin(), all.back());
         all.pop_back();
     }
@@ -136,13 +133,13 @@ std::vector<PageBlock> SheetCard::textToRead(double factor) const {
     const double width = readingColumns(m_body).front().width;
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
-        append(blocks, lineBlocks(m_text.lines, width, textLineSize));
+        appendBlocks(blocks, lineBlocks(m_text.lines, width, textLineSize));
         addRoomBelow(blocks);
     }
-    append(blocks, listBlocks(m_text, width));
+    appendBlocks(blocks, listBlocks(m_text, width));
     addRoomBelow(blocks);
     if (!m_isPlain) {
-        append(blocks, legendBlocks(m_sheet.facts.legend, width, factor));
+        appendBlocks(blocks, legendBlocks(m_sheet.facts.legend, width, factor));
     }
     return blocks;
 }

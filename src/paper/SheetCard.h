@@ -38,14 +38,14 @@ private:
     PageFlow fittingText(const Columns& columns) const;
 
     const VectorSheet& m_sheet;
-    Box m_room;       ///< all of it
+    Box m_room;  ///< all of it
     bool m_isPlain;
     SheetText m_text;
     std::vector<PageBlock> m_linesInHead;
     PageBlock m_head;
-    Box m_body;       ///< what the head leaves
-    Box m_ink;        ///< what shows of the drawing, pixels of the outline
-    double m_scale;   ///< millimetres to the pixel
+    Box m_body;      ///< what the head leaves
+    Box m_ink;       ///< what shows of the drawing, pixels of the outline
+    double m_scale;  ///< millimetres to the pixel
 };
 
 /// The columns of a room: at least one, all of one width, as wide as is good to read.

@@ -35,10 +35,6 @@ private:
     double m_left;
 };
 
-void append(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more) {
-    std::move(more.begin(), more.end(), std::back_inserter(blocks));
-}
-
 std::string pieces(std::int64_t count) {
     return " x " + std::to_string(count);
 }
@@ -143,12 +139,12 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width) {
         }
     }
     BlockWriter writer;
-    writer.write({text.separator}, fittedText(text.separator,
-                                              {.text = {}, .size = textLineSize, .colour = quietColour},
-                                              width, 1));
+    writer.write({text.separator},
+                 fittedText(text.separator,
+                            {.text = {}, .size = textLineSize, .colour = quietColour}, width, 1));
     writer.block.staysWithNext = true;
     std::vector<PageBlock> blocks = {std::move(writer.block)};
-    append(blocks, lineBlocks(lines, width, textLineSize));
+    appendBlocks(blocks, lineBlocks(lines, width, textLineSize));
     return blocks;
 }
 

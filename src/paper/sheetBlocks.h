@@ -13,8 +13,8 @@ namespace fleetwright {
 
 /// The block of text of a drawing, taken apart.
 struct SheetText {
-    std::vector<std::string> lines;  ///< on top: name, designer, points and so on
-    std::string separator;           ///< what stands between; empty if nothing is listed
+    std::vector<std::string> lines;   ///< on top: name, designer, points and so on
+    std::string separator;            ///< what stands between; empty if nothing is listed
     std::vector<std::string> listed;  ///< systems without a place on the drawing, a line a piece
 };
 SheetText sheetText(std::string_view text);
@@ -23,8 +23,7 @@ SheetText sheetText(std::string_view text);
 inline constexpr double textLineSize = 2.8;
 
 /// Lines of text.
-std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width,
-                                  double size);
+std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width, double size);
 /// The list of systems without a place, equal ones once with their count.
 std::vector<PageBlock> listBlocks(const SheetText& text, double width);
 /// The legend, its letters larger or smaller than usual by this factor.

@@ -3,7 +3,6 @@
 #include "SheetCard.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace fleetwright {
 
@@ -15,9 +14,9 @@ constexpr double cutGap = 6;  // between sheets on one page
 class SheetPages {
 public:
     explicit SheetPages(const SheetOptions& options)
-        : m_options(options),
-          m_inside{paperMargin, paperMargin, options.paper.width - 2 * paperMargin,
-                   options.paper.height - 2 * paperMargin} {}
+        : m_options(options), m_inside{paperMargin, paperMargin,
+                                       options.paper.width - 2 * paperMargin,
+                                       options.paper.height - 2 * paperMargin} {}
 
     void add(const std::vector<VectorSheet>& sheets);
 
@@ -71,9 +70,8 @@ void SheetPages::add(const Sheets& sheets) {
         std::size_t count = 1;
         Cut best = {1, 1};
         for (const Cut cut : cuts) {
-            const std::size_t fitting = cut.columns * cut.rows <= m_options.perPage
-                                            ? fittingSheets(sheets, first, cut)
-                                            : 0;
+            const std::size_t fitting =
+                cut.columns * cut.rows <= m_options.perPage ? fittingSheets(sheets, first, cut) : 0;
             if (fitting > count) {
                 count = fitting;
                 best = cut;
@@ -95,7 +93,7 @@ void SheetPages::addPage(const Sheets& sheets, std::size_t first, std::size_t co
         std::vector<PageBlock> rest = card.putOn(page);
         if (!rest.empty()) {
             left.push_back(continuedBlock(sheet.facts.shipName, width));
-            std::move(rest.begin(), rest.end(), std::back_inserter(left));
+            appendBlocks(left, std::move(rest));
         }
     }
     pages.push_back(std::move(page));

@@ -157,9 +157,9 @@ void Legend::addWithHull(const std::string& name, const std::string& file, std::
 /// Parties of the hull and bought ones have one picture, and so one row.
 void Legend::addParties() {
     const std::int32_t count = wholeNumber(m_figures.txtDCP);
-    const auto bought =
-        std::find_if(m_rows.begin(), m_rows.end(),
-                     [](const LegendRow& row) { return row.name == Catalogue::partyName; });
+    const auto bought = std::find_if(m_rows.begin(), m_rows.end(), [](const LegendRow& row) {
+        return row.name == Catalogue::partyName;
+    });
     if (bought != m_rows.end()) {
         bought->count += std::max(count, 0);
     } else if (count > 0) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint32_t labelColour = 0x555555;
 constexpr double leastWideHeader = 150;
-constexpr double besideWidth = 62, besideHeight = 14.4;
+constexpr double besideWidth = 62, besideHeight = 12.8;
 
 struct Figure {
     std::string label;
@@ -22,14 +22,14 @@ struct Figure {
 constexpr double labelSize = 2.1, valueSize = 3.6, leastGap = 4;
 
 std::vector<Figure> figuresOf(const SheetFacts& facts) {
-    std::vector<Figure> figures = {
-        {"HULL", facts.hull},
-        {"MASS", std::to_string(facts.mass)},
-        {"POINTS", std::to_string(facts.points)},
-        {"THRUST", facts.thrust},
-        {"DRIVE", facts.drive},
-        {"DAMAGE", std::to_string(facts.damagePoints) + " in " + std::to_string(facts.damageRows) +
-                       (facts.damageRows == 1 ? " row" : " rows")}};
+    std::vector<Figure> figures = {{"HULL", facts.hull},
+                                   {"MASS", std::to_string(facts.mass)},
+                                   {"POINTS", std::to_string(facts.points)},
+                                   {"THRUST", facts.thrust},
+                                   {"DRIVE", facts.drive},
+                                   {"DAMAGE", std::to_string(facts.damagePoints) + " in " +
+                                                  std::to_string(facts.damageRows) +
+                                                  (facts.damageRows == 1 ? " row" : " rows")}};
     if (!facts.armor.empty()) {
         figures.push_back({"ARMOR", facts.armor});
     }
@@ -64,9 +64,8 @@ private:
 
 void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
     const double leastName = size / 2, kindSize = 3.3;
-    PageText name =
-        fittedText(facts.shipName, {.text = {}, .size = size, .font = PageFont::Bold}, room,
-                   leastName);
+    PageText name = fittedText(facts.shipName, {.text = {}, .size = size, .font = PageFont::Bold},
+                               room, leastName);
     name.y = size * 0.8;
     block.items.emplace_back(std::move(name));
     PageText kind = fittedText(facts.designation + ", " + facts.shipClass + " class",

@@ -1,8 +1,9 @@
 #include "svgFile.h"
 
-#include "svgText.h"
 #include "PictureFiles.h"
+#include "Raster.h"
 #include "base64.h"
+#include "svgText.h"
 
 #include <cstddef>
 #include <map>
@@ -26,10 +27,10 @@ public:
 private:
     using BoxKey = std::tuple<double, double, double, double>;
 
-    void operator()(const PageText& text);
-    void operator()(const PageLine& line);
-    void operator()(const PageRectangle& rectangle);
-    void operator()(const PagePicture& picture);
+    void write(const PageText& text);
+    void write(const PageLine& line);
+    void write(const PageRectangle& rectangle);
+    void write(const PagePicture& picture);
     void writePage(const Page& page, std::size_t index);
     std::string head(double height) const;
     std::string nameOf(const PagePicture& picture);
@@ -115,14 +116,13 @@ void SvgWriter::defineDrawing(const std::string& name, const Drawing& drawing) {
 }
 
 void SvgWriter::defineRaster(const std::string& name, const Raster& raster) {
-    m_definitions += "<image" + attribute("id", name) +
-                     attribute("width", double(raster.width())) +
+    std::string png = toBase64(m_encoder.encode(raster, "png"));
+    std::erase(png, '\n');
+    m_definitions += "<image" + attribute("id", name) + attribute("width", double(raster.width())) +
                      attribute("height", double(raster.height())) +
                      attribute("preserveAspectRatio", "none") +
                      attribute("style", "image-rendering:pixelated") +
-                     attribute("href", "data:image/png;base64," +
-                                           toBase64(m_encoder.encode(raster, "png"))) +
-                     "/>\n";
+                     attribute("href", "data:image/png;base64," + png) + "/>\n";
 }
 
 /// The name of a picture's definition, which is written when it is first asked for.
@@ -141,7 +141,7 @@ std::string SvgWriter::nameOf(const PagePicture& picture) {
     return known->second;
 }
 
-void SvgWriter::operator()(const PageText& text) {
+void SvgWriter::write(const PageText& text) {
     static constexpr const char* anchors[] = {"start", "middle", "end"};
     const std::string words = svgText(text.text);
     if (words.empty()) {
@@ -165,27 +165,27 @@ void SvgWriter::operator()(const PageText& text) {
     m_body += '>' + words + "</text>\n";
 }
 
-void SvgWriter::operator()(const PageLine& line) {
+void SvgWriter::write(const PageLine& line) {
     m_body += "<line" + attribute("x1", line.x1) + attribute("y1", line.y1) +
               attribute("x2", line.x2) + attribute("y2", line.y2) +
               attribute("stroke", svgColour(line.colour)) + attribute("stroke-width", line.width) +
               "/>\n";
 }
 
-void SvgWriter::operator()(const PageRectangle& rectangle) {
+void SvgWriter::write(const PageRectangle& rectangle) {
     m_body += "<rect" + boxAttributes(rectangle.place);
     if (rectangle.radius > 0) {
         m_body += attribute("rx", rectangle.radius);
     }
     m_body += paint("fill", rectangle.fill);
     if (rectangle.stroke) {
-        m_body += paint("stroke", rectangle.stroke) +
-                  attribute("stroke-width", rectangle.strokeWidth);
+        m_body +=
+            paint("stroke", rectangle.stroke) + attribute("stroke-width", rectangle.strokeWidth);
     }
     m_body += "/>\n";
 }
 
-void SvgWriter::operator()(const PagePicture& picture) {
+void SvgWriter::write(const PagePicture& picture) {
     const double width = picture.drawing ? picture.drawing->width : picture.raster->width();
     const double height = picture.drawing ? picture.drawing->height : picture.raster->height();
     const bool isWhole = isInside(picture.place, picture.clip);
@@ -214,7 +214,7 @@ void SvgWriter::writePage(const Page& page, std::size_t index) {
     }
     m_body += "/>\n";
     for (const PageItem& item : page.items) {
-        std::visit(*this, item);
+        std::visit([this](const auto& shown) { write(shown); }, item);
     }
     m_body += "</g>\n";
 }
