@@ -45,10 +45,14 @@ void GoalTable::Finalize() {
             continue;  // left out on the command line
         }
         const double measured = above->second / below->second;
-        const bool isMet = goal.isAtLeast ? measured >= goal.ratio : measured <= goal.ratio;
+        if (!goal.ratio) {
+            std::printf("%-64s %10s %10.2f\n", goal.what.c_str(), "", measured);
+            continue;
+        }
+        const bool isMet = goal.isAtLeast ? measured >= *goal.ratio : measured <= *goal.ratio;
         m_areAllMet = m_areAllMet && isMet;
         std::printf("%-64s %2s %7.2f %10.2f  %s\n", goal.what.c_str(),
-                    goal.isAtLeast ? ">=" : "<=", goal.ratio, measured, isMet ? "met" : "NOT MET");
+                    goal.isAtLeast ? ">=" : "<=", *goal.ratio, measured, isMet ? "met" : "NOT MET");
     }
 }
 

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,15 +11,16 @@ namespace fleetwright {
 
 inline constexpr const char* memoryCounter = "memory";
 
-/// A ratio of two benchmarks of the same run that is to be kept. Machines differ and are noisy,
-/// so that no goal is a number of seconds. A benchmark that measures memory says so in a counter
-/// with the name `memoryCounter`, which then counts in place of its time.
+/// A ratio of two benchmarks of the same run that is to be kept, or is only there to be seen.
+/// Machines differ and are noisy, so that no goal is a number of seconds. A benchmark that measures
+/// memory says so in a counter with the name `memoryCounter`, which then counts in place of its
+/// time.
 struct Goal {
     std::string what;
-    std::string above;  ///< benchmark that stands above the line
-    std::string below;  ///< benchmark that stands below it
-    double ratio;
-    bool isAtLeast;  ///< the ratio is to be reached, and not to be kept below
+    std::string above;                 ///< benchmark that stands above the line
+    std::string below;                 ///< benchmark that stands below it
+    std::optional<double> ratio = {};  ///< none: whatever comes out is well
+    bool isAtLeast = false;            ///< the ratio is to be reached, and not to be kept below
 };
 
 /// Makes a goal known; before main.

@@ -34,7 +34,7 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
     const SheetImages images = catalogueImages(tools.appFolder, tools.pictures, *main.g_Ship);
     frmMapper mapper({.appFolder = tools.appFolder,
                       .desktop = desktop,
-                      .pictures = tools.pictures,
+                      .pictures = tools.outlines,
                       .encoder = tools.encoder,
                       .images = images,
                       .g_colSSDMaps = tools.maps.maps,

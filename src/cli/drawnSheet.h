@@ -15,7 +15,8 @@ struct LoadedMaps;
 /// What sheets are drawn with.
 struct SheetTools {
     std::filesystem::path appFolder;
-    PictureFiles& pictures;
+    PictureFiles& pictures;  ///< of what is pasted on outlines
+    PictureFiles& outlines;
     PictureEncoder& encoder;
     const LoadedMaps& maps;
 };

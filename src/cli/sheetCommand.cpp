@@ -152,7 +152,10 @@ int runSheet(const Options& options) {
     PictureCache cache(pictures);
     int status = Done;
     const LoadedMaps maps = mapsOf(options, status);
-    const SheetTools tools{options.appFolder, cache, pictures, maps};
+    // The outline of a single ship is read once in any case, and is the largest picture.
+    PictureFiles& outlines =
+        options.words.size() > 1 ? static_cast<PictureFiles&>(cache) : pictures;
+    const SheetTools tools{options.appFolder, cache, outlines, pictures, maps};
     if (sheetOut(options) == SheetOut::Document) {
         const std::unique_ptr<Pages> pages = pictures.newPages(paperOf(options.value("--paper")));
         return std::max(status, drawDocument(options, tools, *pages));

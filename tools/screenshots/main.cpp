@@ -98,7 +98,7 @@ void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path
             continue;
         }
         try {
-            const Raster sheet = drawnSheet(screen, {appFolder, cache, files, maps}, map);
+            const Raster sheet = drawnSheet(screen, {appFolder, cache, cache, files, maps}, map);
             saveFile(output / ship.filename().replace_extension(".png"),
                      files.encode(sheet, "png"));
         } catch (const Error& error) {

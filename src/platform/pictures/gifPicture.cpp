@@ -140,7 +140,9 @@ void GifReader::findSize() {
 std::vector<GifPixelType> GifReader::readPixels() {
     const auto width = static_cast<std::size_t>(m_gif->Image.Width);
     std::vector<GifPixelType> pixels;
-    // It grows with what there is, since a short file may say that it is large.
+    // Of large ones it grows with what there is, since a short file may say that it is large.
+    constexpr std::size_t manyPixels = 1U << 20U;
+    pixels.reserve(std::min(width * static_cast<std::size_t>(m_gif->Image.Height), manyPixels));
     for (int row = 0; row < m_gif->Image.Height; ++row) {
         pixels.resize(pixels.size() + width);
         const auto line = pixels.end() - m_gif->Image.Width;
