@@ -31,8 +31,8 @@ void sheets(benchmark::State& state, unsigned threads) {
             [&](std::size_t index) {
                 ShipOnScreen screen(startedFolder());
                 screen.load(world.ships[index]);
-                const Raster sheet =
-                    drawnSheet(screen, {startedFolder(), cache, cache, files, world.maps}, std::string());
+                const Raster sheet = drawnSheet(
+                    screen, {startedFolder(), cache, cache, files, world.maps}, std::string());
                 return Result{.output = files.encode(sheet, "bmp"), .complaints = {}};
             },
             [&](std::size_t, const Result& result) { bytes += result.output.size(); });

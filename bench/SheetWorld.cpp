@@ -32,8 +32,8 @@ SheetWorld::SheetWorld() {
         ShipOnScreen screen(startedFolder());
         screen.load(ship.string());
         try {
-            sheets.push_back(
-                drawnSheet(screen, {startedFolder(), pictures, pictures, encoder, maps}, std::string()));
+            sheets.push_back(drawnSheet(
+                screen, {startedFolder(), pictures, pictures, encoder, maps}, std::string()));
             drawable.push_back(ship.string());
         } catch (const Error&) {
             // Too large for a bitmap.
