@@ -2,6 +2,7 @@
 
 #include "CatalogueCheck.h"
 #include "CatalogueFile.h"
+#include "DrawingPack.h"
 #include "Error.h"
 #include "PictureCheck.h"
 #include "PictureFiles.h"
@@ -79,6 +80,14 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options,
     }
 }
 
+std::optional<Fault> checkDrawings(const fs::path& file) {
+    try {
+        return DrawingPack(file).fault();
+    } catch (const FileError& error) {
+        return Fault{0, error.what()};
+    }
+}
+
 /// The outline of a map; empty if there is none, which the check of the lines says.
 Raster outlineOf(const Options& options, const MapPlaces& places, std::vector<Fault>& faults) {
     fs::path outline;
@@ -147,6 +156,9 @@ int runCheck(const Options& options) {
         }
         for (const PictureFault& fault : checkDeliveredPictures(options, catalogueFile)) {
             report(fault.file.string(), fault.fault);
+        }
+        if (const auto fault = checkDrawings(drawingsFile(options.appFolder))) {
+            report(drawingsFile(options.appFolder).string(), *fault);
         }
     }
     for (const std::string& file : files) {

@@ -10,7 +10,7 @@ namespace fleetwright {
 
 class Raster;
 
-/// A shape of a drawing.
+/// A shape of a drawing. What leaves the picture does not show.
 struct DrawnShape {
     enum class Cap { Flat, Round, Square };
     enum class Join { Miter, Round, Bevel };
@@ -21,8 +21,8 @@ struct DrawnShape {
     std::optional<std::uint32_t> stroke;  ///< 0xRRGGBB
     double strokeWidth = 1;               ///< pixels of the picture
     Cap cap = Cap::Flat;
-    Join join = Join::Miter;
-    double opacity = 1;  ///< of fill and stroke
+    Join join = Join::Miter;  ///< a miter of up to four times the width, as in SVG
+    double opacity = 1;       ///< of fill and stroke
     bool isEvenOdd = false;
 };
 
@@ -48,7 +48,7 @@ public:
     virtual ~Drawings() = default;
 
     /// By size and pixels alone, so that a picture that somebody has changed has none: then null.
-    /// Any number of threads may ask.
+    /// Any number of threads may ask. Throws Error for a drawing that cannot be read.
     virtual std::shared_ptr<const Drawing> of(const Raster& picture) const = 0;
 };
 

@@ -19,7 +19,7 @@ Raster PictureCache::load(const std::filesystem::path& file) {
     // Taken before the decoding, so that a change in the meantime is seen the next time.
     const std::optional<FileStamp> stamp = fileStamp(file);
     if (!known->isDecoded || known->stamp != stamp) {
-        known->picture = m_files.load(file);
+        known->picture = m_files.load(file).shared();
         known->stamp = stamp;
         known->isDecoded = true;
     }
@@ -30,7 +30,7 @@ Raster PictureCache::builtIn(const std::string& name) {
     const std::shared_ptr<Entry> known = entry(m_builtIn, name);
     const std::lock_guard lock(known->mutex);
     if (!known->isDecoded) {
-        known->picture = m_files.builtIn(name);
+        known->picture = m_files.builtIn(name).shared();
         known->isDecoded = true;
     }
     return known->picture;

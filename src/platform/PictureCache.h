@@ -13,8 +13,9 @@
 namespace fleetwright {
 
 /// Keeps decoded pictures, so that a file is decoded once per process, and again only when it has
-/// changed. Any number of threads may use it, if the decoder behind it can work on several files
-/// at a time. A picture that cannot be decoded is tried anew each time.
+/// changed. What it hands out shares its pixels (`Raster::shared`). Any number of threads may use
+/// it, if the decoder behind it can work on several files at a time. A picture that cannot be
+/// decoded is tried anew each time.
 class PictureCache : public PictureFiles {
 public:
     /// `files` decodes; it outlives the cache.

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <mutex>
 #include <span>
 #include <vector>
 
@@ -20,28 +23,55 @@ public:
 
     int width() const { return m_width; }
     int height() const { return m_height; }
-    bool isEmpty() const { return m_pixels.empty(); }
+    bool isEmpty() const { return pixels().empty(); }
 
     /// A pixel inside the picture.
-    std::uint32_t& pixel(int x, int y) { return m_pixels[index(x, y)]; }
-    std::uint32_t pixel(int x, int y) const { return m_pixels[index(x, y)]; }
+    std::uint32_t& pixel(int x, int y) { return ownPixels()[index(x, y)]; }
+    std::uint32_t pixel(int x, int y) const { return pixels()[index(x, y)]; }
 
     /// The pixels of a row inside the picture.
     std::span<std::uint32_t> row(int y) {
-        return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
+        return {ownPixels().data() + index(0, y), static_cast<std::size_t>(m_width)};
     }
     std::span<const std::uint32_t> row(int y) const {
-        return {m_pixels.data() + index(0, y), static_cast<std::size_t>(m_width)};
+        return {pixels().data() + index(0, y), static_cast<std::size_t>(m_width)};
     }
 
     /// Adds white rows at the bottom, or cuts some off.
     void setHeight(int height) {
-        m_pixels.resize(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(height),
-                        white);
+        ownPixels().resize(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(height),
+                           white);
         m_height = height;
     }
 
+    /// The same picture, for whoever hands it out again and again: its copies share the pixels and
+    /// the key, which is worked out once for all of them. A copy that is changed gets pixels of its
+    /// own. Any number of threads may have copies.
+    Raster shared() const;
+
+    /// Tells pictures apart: 128 bits of a hash of width and pixels.
+    using Key = std::array<std::uint64_t, 2>;
+    Key key() const;
+
 private:
+    /// Pixels that nobody can change any more, so that what is known of them stays true.
+    struct Shared {
+        std::vector<std::uint32_t> pixels;
+        mutable std::once_flag isKeyKnown = {};
+        mutable Key key = {};
+    };
+
+    const std::vector<std::uint32_t>& pixels() const {
+        return m_shared != nullptr ? m_shared->pixels : m_pixels;
+    }
+    std::vector<std::uint32_t>& ownPixels() {
+        if (m_shared != nullptr) {
+            m_pixels = m_shared->pixels;
+            m_shared.reset();
+        }
+        return m_pixels;
+    }
+    Key workOutKey() const;
     std::size_t index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
                static_cast<std::size_t>(x);
@@ -49,7 +79,8 @@ private:
 
     int m_width = 0;
     int m_height = 0;
-    std::vector<std::uint32_t> m_pixels;
+    std::vector<std::uint32_t> m_pixels;  // empty if it shares
+    std::shared_ptr<const Shared> m_shared;
 };
 
 }  // namespace fleetwright

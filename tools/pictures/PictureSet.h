@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Drawing.h"
+
 #include <map>
+#include <optional>
 #include <string>
 
 namespace fleetwright {
@@ -8,8 +11,15 @@ namespace fleetwright {
 class Artwork;
 class Catalogue;
 
-/// Files by name, with their bytes.
-using PictureSet = std::map<std::string, std::string>;
+/// A picture's file, and the lines and areas that its pixels were made from; `icon.svg`, which has
+/// no pixels, comes without them.
+struct PictureFile {
+    std::string bytes;
+    std::optional<Drawing> drawing = {};
+};
+
+/// Files by name.
+using PictureSet = std::map<std::string, PictureFile>;
 
 /// The pictures that the catalogue names, and what sources they are made from.
 ///

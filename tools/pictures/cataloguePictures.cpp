@@ -24,17 +24,18 @@ void dropEnding(std::string& name) {
     name.erase(name.rfind('-'));
 }
 
-QImage drawCategory(const Artwork& artwork, const std::string& name) {
-    return drawInk({artwork.svg("categories/" + name), artwork.svg("category-frame")}, systemSize);
+PictureFile drawCategory(const Artwork& artwork, const std::string& name) {
+    return inkPicture({artwork.svg("categories/" + name), artwork.svg("category-frame")},
+                      systemSize);
 }
 
-QImage drawSystem(const Artwork& artwork, const PictureName& name) {
+PictureFile drawSystem(const Artwork& artwork, const PictureName& name) {
     const Variant variant = {{"class", name.weaponClass}, {"arc", name.arc}};
     std::vector<QByteArray> layers = {artwork.svg("systems/" + name.source, variant)};
     if (!name.arc.empty()) {
         layers.push_back(artwork.svg("arc-mark", variant));
     }
-    return drawInk(layers, systemSize);
+    return inkPicture(layers, systemSize);
 }
 
 }  // namespace
@@ -61,9 +62,9 @@ PictureSet cataloguePictures(const Artwork& artwork, const Catalogue& catalogue)
         const std::string file(record.icon);
         if (file.starts_with(categoryPrefix)) {
             const std::string name = file.substr(0, file.rfind('.'));
-            pictures[file] = gifFile(drawCategory(artwork, name.substr(categoryPrefix.size())));
+            pictures[file] = drawCategory(artwork, name.substr(categoryPrefix.size()));
         } else {
-            pictures[file] = gifFile(drawSystem(artwork, readPictureName(file)));
+            pictures[file] = drawSystem(artwork, readPictureName(file));
         }
     }
     return pictures;

@@ -5,6 +5,7 @@
 #include "Error.h"
 #include "PictureSet.h"
 #include "Sound.h"
+#include "drawingPack.h"
 #include "pages.h"
 #include "pictureFiles.h"
 
@@ -29,15 +30,15 @@ void writeFile(const fs::path& file, const std::string& bytes) {
 void writeSet(const fs::path& folder, const PictureSet& pictures) {
     fs::remove_all(folder);
     fs::create_directories(folder);
-    for (const auto& [name, bytes] : pictures) {
-        writeFile(folder / name, bytes);
+    for (const auto& [name, file] : pictures) {
+        writeFile(folder / name, file.bytes);
     }
 }
 
 /// The list by which the resource compiler builds the window's pictures into the program.
 std::string resourceList(const PictureSet& pictures) {
     std::string list = "<RCC><qresource prefix=\"/pictures\">\n";
-    for (const auto& [name, bytes] : pictures) {
+    for (const auto& [name, file] : pictures) {
         list += "<file>" + name + "</file>\n";
     }
     return list + "</qresource></RCC>\n";
@@ -75,6 +76,7 @@ void run(char** arguments) {
     writeSet(out / "window", window);
     writeSet(out / "shipimages", outlines);
     writeFile(out / "window" / "window.qrc", resourceList(window));
+    writeFile(out / "drawings.dat", drawingPack({systems, window, outlines}));
     writeFile(out / "blaster.wav", waveFile(artwork.file("blaster.txt")));
 }
 

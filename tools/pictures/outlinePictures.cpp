@@ -1,4 +1,5 @@
 #include "Artwork.h"
+#include "DrawingRecorder.h"
 #include "OutlineMarks.h"
 #include "PictureSet.h"
 #include "SheetPictures.h"
@@ -67,13 +68,14 @@ void setMark(QImage& image, const OutlineMark& mark) {
     }
 }
 
-std::string drawOutline(const Artwork& artwork, const std::string& name) {
+PictureFile drawOutline(const Artwork& artwork, const std::string& name) {
     const OutlineLayout layout = readOutlineLayout(artwork.file(name + ".svg"));
-    QImage image = drawShades(artwork.svg(name), layout.size);
+    const QByteArray svg = artwork.svg(name);
+    QImage image = drawShades(svg, layout.size);
     for (const OutlineMark& mark : layout.marks) {
         setMark(image, mark);
     }
-    return gifFile(image);
+    return {gifFile(image), recordDrawing({svg}, layout.size)};
 }
 
 }  // namespace

@@ -93,8 +93,8 @@ QImage contactSheet(const PictureSet& pictures, const Lettering& lettering) {
     std::vector<std::pair<QPoint, Cell>> cells;
     QPoint place(cellGap, cellGap);
     int rowHeight = 0;
-    for (const auto& [name, bytes] : pictures) {
-        const QImage image = QImage::fromData(QByteArray::fromStdString(bytes));
+    for (const auto& [name, file] : pictures) {
+        const QImage image = QImage::fromData(QByteArray::fromStdString(file.bytes));
         const Cell cell = cellOf(name, image);
         if (place.x() > cellGap && place.x() + cell.size.width() > pageWidth) {
             place = {cellGap, place.y() + rowHeight};
@@ -114,7 +114,7 @@ QImage contactSheet(const PictureSet& pictures, const Lettering& lettering) {
 }
 
 QImage marksPicture(const Artwork& artwork) {
-    const std::string bytes = outlinePictures(artwork).at(std::string(shownOutline) + ".gif");
+    const std::string bytes = outlinePictures(artwork).at(std::string(shownOutline) + ".gif").bytes;
     const QImage outline = QImage::fromData(QByteArray::fromStdString(bytes));
     const OutlineLayout layout =
         readOutlineLayout(artwork.file(std::string("outlines/") + shownOutline + ".svg"));

@@ -1,6 +1,8 @@
 #include "pictureFiles.h"
 
+#include "DrawingRecorder.h"
 #include "Error.h"
+#include "drawing.h"
 
 #include <QBuffer>
 #include <gif_lib.h>
@@ -60,6 +62,10 @@ std::string gifFile(const QImage& image) {
         throw Error("cannot make a GIF file");
     }
     return bytes;
+}
+
+PictureFile inkPicture(const std::vector<QByteArray>& layers, QSize size) {
+    return {gifFile(drawInk(layers, size)), recordDrawing(layers, size)};
 }
 
 std::string imageFile(const QImage& image, const char* format) {

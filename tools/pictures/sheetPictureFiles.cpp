@@ -3,6 +3,7 @@
 #include "HullRules.h"
 #include "PictureSet.h"
 #include "SheetPictures.h"
+#include "boxDrawing.h"
 #include "drawing.h"
 #include "pictureFiles.h"
 
@@ -10,29 +11,33 @@ namespace fleetwright {
 
 namespace {
 
-/// The outline of a box whose upper left corner is at (x, y).
-void drawBox(QImage& image, int x, int y, int side) {
-    for (int i = 0; i < side; ++i) {
-        image.setPixel(x + i, y, 1);
-        image.setPixel(x + i, y + side - 1, 1);
-        image.setPixel(x, y + i, 1);
-        image.setPixel(x + side - 1, y + i, 1);
+/// The outline of a box.
+void drawBox(QImage& image, const QRect& box) {
+    for (int x = box.left(); x <= box.right(); ++x) {
+        image.setPixel(x, box.top(), 1);
+        image.setPixel(x, box.bottom(), 1);
+    }
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        image.setPixel(box.left(), y, 1);
+        image.setPixel(box.right(), y, 1);
     }
 }
 
-QImage drawTrack(TrackSize size, int points) {
+PictureFile drawTrack(TrackSize size, int points) {
     const PictureSize room = trackPictureSize(size);
     const DamageTrack track = damageTrack(points, trackRows(size, points), room);
     QImage image = blankInk({room.width, room.height});
+    std::vector<QRect> boxes;
     for (const TrackBox& box : track.boxes) {
-        drawBox(image, box.x, box.y, track.side);
+        boxes.emplace_back(box.x, box.y, track.side, track.side);
+        drawBox(image, boxes.back());
     }
-    return image;
+    return {gifFile(image), boxDrawing(image.size(), boxes)};
 }
 
-std::string drawSheetSource(const Artwork& artwork, const std::string& name,
+PictureFile drawSheetSource(const Artwork& artwork, const std::string& name,
                             const Variant& variant = {}) {
-    return gifFile(drawInk({artwork.svg("sheet/" + name, variant)}, systemSize));
+    return inkPicture({artwork.svg("sheet/" + name, variant)}, systemSize);
 }
 
 }  // namespace
@@ -40,8 +45,8 @@ std::string drawSheetSource(const Artwork& artwork, const std::string& name,
 PictureSet sheetPictureFiles(const Artwork& artwork) {
     PictureSet pictures;
     pictures[std::string(fireControlPicture)] = drawSheetSource(artwork, "fire-control");
-    pictures[std::string(unusedFireControlPicture)] = gifFile(blankInk(systemSize));
-    pictures[drivePicture(NoDrive)] = gifFile(blankInk(systemSize));
+    pictures[std::string(unusedFireControlPicture)] = inkPicture({}, systemSize);
+    pictures[drivePicture(NoDrive)] = inkPicture({}, systemSize);
     pictures[drivePicture(NormalDrive)] = drawSheetSource(artwork, "drive", {{"drive", "normal"}});
     pictures[drivePicture(TugDrive)] = drawSheetSource(artwork, "drive", {{"drive", "tug"}});
     for (int thrust = 0; thrust <= mostThrust; ++thrust) {
@@ -50,8 +55,7 @@ PictureSet sheetPictureFiles(const Artwork& artwork) {
     }
     for (const TrackSize size : trackSizes) {
         for (int points = 0; points <= mostDamagePoints(size); ++points) {
-            pictures[damageTrackPicture(size, std::to_string(points))] =
-                gifFile(drawTrack(size, points));
+            pictures[damageTrackPicture(size, std::to_string(points))] = drawTrack(size, points);
         }
     }
     return pictures;

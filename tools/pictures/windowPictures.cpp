@@ -1,5 +1,6 @@
 #include "Artwork.h"
 #include "Catalogue.h"
+#include "DrawingRecorder.h"
 #include "HullRules.h"
 #include "PictureSet.h"
 #include "SheetPictures.h"
@@ -8,6 +9,7 @@
 
 #include <QPainter>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,11 +34,13 @@ std::vector<std::string> rootNames() {
 void addButton(PictureSet& pictures, const Artwork& artwork, const std::string& name,
                const QByteArray& svg) {
     for (const int scale : {1, 2}) {
-        QImage image = drawColours(artwork.svg("window/tile"), buttonSize * scale);
+        const QByteArray tile = artwork.svg("window/tile");
+        QImage image = drawColours(tile, buttonSize * scale);
         QPainter painter(&image);
         painter.drawImage(0, 0, drawColours(svg, buttonSize * scale));
         painter.end();
-        pictures[name + (scale == 1 ? ".png" : "@2x.png")] = imageFile(image, "PNG");
+        pictures[name + (scale == 1 ? ".png" : "@2x.png")] = {
+            imageFile(image, "PNG"), recordDrawing({tile, svg}, image.size())};
     }
 }
 
@@ -56,23 +60,31 @@ void addButtons(PictureSet& pictures, const Artwork& artwork) {
     addButton(pictures, artwork, "ftltug", artwork.svg("sheet/drive", {{"drive", "tug"}}));
 }
 
+PictureFile iconFile(const QByteArray& svg, int side) {
+    const QSize size(side, side);
+    return {imageFile(drawColours(svg, size), "PNG"), recordDrawing({svg}, size)};
+}
+
 void addIcons(PictureSet& pictures, const Artwork& artwork) {
     // What fills a large icon is mud in a small one, so there are two drawings.
     constexpr int largestSmall = 32;
     const QByteArray small = artwork.svg("window/icon-small");
     const QByteArray large = artwork.svg("window/icon");
     for (const int side : {16, 24, 32, 48, 64, 256}) {
-        const QImage image = drawColours(side <= largestSmall ? small : large, {side, side});
-        pictures["icon-" + std::to_string(side) + ".png"] = imageFile(image, "PNG");
+        pictures["icon-" + std::to_string(side) + ".png"] =
+            iconFile(side <= largestSmall ? small : large, side);
     }
-    pictures["icon.svg"] = large.toStdString();
-    pictures["tray.png"] = imageFile(drawColours(small, {16, 16}), "PNG");
-    pictures["tray@2x.png"] = imageFile(drawColours(small, {32, 32}), "PNG");
+    pictures["icon.svg"] = {large.toStdString()};
+    pictures["tray.png"] = iconFile(small, 16);
+    pictures["tray@2x.png"] = iconFile(small, 32);
 }
 
-QImage drawSplash(const Artwork& artwork, const std::string& name, QSize size) {
-    return inFewColours(
-        drawColours(artwork.svg("window/" + name), size).convertToFormat(QImage::Format_RGB32));
+/// A picture of the start, with the function that makes a file of an image.
+PictureFile drawSplash(const Artwork& artwork, const std::string& name, QSize size,
+                       const std::function<std::string(const QImage&)>& fileOf) {
+    const QByteArray svg = artwork.svg("window/" + name);
+    const QImage image = drawColours(svg, size).convertToFormat(QImage::Format_RGB32);
+    return {fileOf(inFewColours(image)), recordDrawing({svg}, size)};
 }
 
 }  // namespace
@@ -80,14 +92,15 @@ QImage drawSplash(const Artwork& artwork, const std::string& name, QSize size) {
 PictureSet windowPictures(const Artwork& artwork) {
     PictureSet pictures;
     for (const std::string& name : rootNames()) {
-        pictures["root-" + name + ".gif"] =
-            gifFile(drawInk({artwork.svg("roots/" + name)}, buttonSize));
+        pictures["root-" + name + ".gif"] = inkPicture({artwork.svg("roots/" + name)}, buttonSize);
     }
-    pictures["root-blank.gif"] = gifFile(blankInk(buttonSize));
+    pictures["root-blank.gif"] = inkPicture({}, buttonSize);
     addButtons(pictures, artwork);
     addIcons(pictures, artwork);
-    pictures["splash-1.gif"] = gifFile(drawSplash(artwork, "splash-1", {348, 288}));
-    pictures["splash-2.bmp"] = imageFile(drawSplash(artwork, "splash-2", {351, 291}), "BMP");
+    pictures["splash-1.gif"] = drawSplash(artwork, "splash-1", {348, 288}, gifFile);
+    pictures["splash-2.bmp"] = drawSplash(artwork, "splash-2", {351, 291}, [](const QImage& image) {
+        return imageFile(image, "BMP");
+    });
     return pictures;
 }
 
