@@ -47,16 +47,16 @@ std::string readBytes(const fs::path& path) {
     return bytes;
 }
 
-std::string readTextFile(const fs::path& file) {
-    std::string text = readBytes(file);
+std::string toUtf8(std::string contents) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark)) {
-        text.erase(0, byteOrderMark.size());
+    if (contents.starts_with(byteOrderMark)) {
+        contents.erase(0, byteOrderMark.size());
     }
-    if (!isUtf8(text)) {
-        text = windows1252ToUtf8(text);
-    }
-    return text;
+    return isUtf8(contents) ? contents : windows1252ToUtf8(contents);
+}
+
+std::string readTextFile(const fs::path& file) {
+    return toUtf8(readBytes(file));
 }
 
 }  // namespace fleetwright

@@ -11,9 +11,11 @@ namespace fleetwright {
 /// none of ours.
 std::string readBytes(const std::filesystem::path& file);
 
-/// The contents of a text file as UTF-8. A byte order mark is passed over, and a file that is
-/// not valid UTF-8 is taken as Windows-1252, so that old files keep their accents.
-/// Throws FileError as `readBytes` does.
+/// The contents of a text file in UTF-8. A byte order mark is passed over, and what is not valid
+/// UTF-8 is taken as Windows-1252, so that old files keep their accents.
+std::string toUtf8(std::string contents);
+
+/// The contents of a text file in UTF-8, as above. Throws FileError as `readBytes` does.
 std::string readTextFile(const std::filesystem::path& file);
 
 }  // namespace fleetwright

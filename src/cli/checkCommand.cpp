@@ -11,10 +11,12 @@
 #include "ShipFileCheck.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
+#include "carriedShips.h"
 #include "checkMapPlaces.h"
 #include "console.h"
 #include "paths.h"
 #include "readFile.h"
+#include "readShip.h"
 #include "text.h"
 
 #include <memory>
@@ -30,7 +32,7 @@ namespace {
 
 std::vector<Fault> checkShip(const Options& options, const CatalogueFile& catalogueFile,
                              const std::string& file) {
-    const std::string text = readTextFile(nativePath(file));
+    const std::string text = readShip(nativePath(file)).text;
     ShipOnScreen screen(options.appFolder, catalogueFile);
     // Asked here, for the window drops a ship that does not load, and its fault with it.
     const std::optional<Fault> loadFault = screen.load(file);
@@ -128,6 +130,11 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
         }
         if (extension == ".MAP") {
             return checkMap(options, readTextFile(nativePath(file)));
+        }
+        std::error_code unknown;
+        if (fs::is_regular_file(nativePath(file), unknown) &&
+            isSheet(readBytes(nativePath(file)))) {
+            return checkShip(options, catalogueFile, file);
         }
         return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
     } catch (const FileError& error) {

@@ -4,6 +4,7 @@
 #include "PictureCache.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
+#include "carriedShips.h"
 #include "drawnSheet.h"
 #include "paths.h"
 #include "saveResult.h"
@@ -111,15 +112,22 @@ std::string formatOf(const fs::path& file) {
     return sheetFormat(pathText(file)).value_or("bmp");
 }
 
+/// The bytes of a picture file that carries its ship where the format has a place for it.
+std::string pictureFile(const Raster& sheet, const ShipClass& ship, const std::string& format,
+                        PictureEncoder& encoder) {
+    const std::string bytes = encoder.encode(sheet, format);
+    return format == "png" ? withShip(bytes, ship.shipFile()) : bytes;
+}
+
 int drawFiles(const Options& options, const SheetTools& tools) {
     const SheetFiles files(options);
-    return forEachShip(options, RefusedLines::AsComplaints,
-                       [&](std::size_t index, ShipOnScreen& screen) {
-                           const fs::path& file = files.of(index);
-                           const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
-                           saveResult(file, tools.encoder.encode(sheet, formatOf(file)));
-                           return std::string();
-                       });
+    return forEachShip(
+        options, RefusedLines::AsComplaints, [&](std::size_t index, ShipOnScreen& screen) {
+            const fs::path& file = files.of(index);
+            const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
+            saveResult(file, pictureFile(sheet, screen.ship(), formatOf(file), tools.encoder));
+            return std::string();
+        });
 }
 
 int drawDocument(const Options& options, const SheetTools& tools, Pages& pages) {

@@ -122,8 +122,9 @@ public:
     static std::string withExtension(std::string fileName);
     /// Saves the design; the name gets the extension ".shp" if it lacks it.
     bool saveShip(std::string& in_sFileName);
-    /// Loads a design into this ship, which should be new. After a failure the ship holds what
-    /// was read before the fault.
+    /// Loads a design into this ship, which should be new, from a ship file or from a sheet that
+    /// carries one. A sheet is no file to save to: the ship then has no file. After a failure the
+    /// ship holds what was read before the fault.
     bool loadShip(const std::string& in_sFileName);
     /// The design as a ship file.
     std::string shipFile() const;
@@ -172,7 +173,7 @@ private:
     std::int32_t& amountOf(std::size_t record);
 
     bool succeeds(const std::function<void(int& line)>& fileOperation);
-    void readShipFile(const std::string& fileName, int& lineNumber);
+    void readShipFile(std::string_view text, int& lineNumber);
     void readShipLine(std::string& line, int lineNumber);
     void takeFileName(const std::string& fileName);
 

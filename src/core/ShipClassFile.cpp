@@ -4,7 +4,7 @@
 #include "ShipFileLine.h"
 #include "designWords.h"
 #include "paths.h"
-#include "readFile.h"
+#include "readShip.h"
 #include "saveFile.h"
 #include "strfcns.h"
 #include "text.h"
@@ -64,12 +64,16 @@ bool ShipClass::loadShip(const std::string& in_sFileName) {
     m_refusedLines.clear();
     return succeeds([&](int& line) {
         g_bAutoMass = false;
-        readShipFile(in_sFileName, line);
+        const ShipText file = readShip(nativePath(in_sFileName));
+        readShipFile(file.text, line);
         line = 0;
         // Without systems nothing has been recalculated yet. A ship whose figures will not fit
         // their fields is refused here, and not when it is first shown.
         workOut(asShown(hull));
         takeFileName(in_sFileName);
+        if (file.isInSheet) {
+            g_sSaveName.clear();
+        }
         ShipLoaded.raise();
         g_bSaved = true;
     });
@@ -106,8 +110,7 @@ std::string ShipClass::shipFile() const {
     return text;
 }
 
-void ShipClass::readShipFile(const std::string& fileName, int& lineNumber) {
-    const std::string text = readTextFile(nativePath(fileName));
+void ShipClass::readShipFile(std::string_view text, int& lineNumber) {
     LineReader lines(text);
     std::string_view line;
     while (lines.next(line)) {

@@ -1,6 +1,7 @@
 #include "sheetDocument.h"
 
 #include "SheetCard.h"
+#include "carriedShips.h"
 
 #include <algorithm>
 
@@ -177,9 +178,12 @@ PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOp
         document.title = std::to_string(sheets.size()) + " sheets";
         document.subject = "Ship sheets";
     }
+    std::vector<std::string> shipFiles;
     for (const VectorSheet& sheet : sheets) {
         document.date = std::max(document.date, sheet.date);
+        shipFiles.push_back(sheet.shipFile);
     }
+    document.metadata = carriedShips(shipFiles);
     return document;
 }
 

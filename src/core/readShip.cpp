@@ -1,0 +1,40 @@
+#include "readShip.h"
+
+#include "carriedShips.h"
+#include "readFile.h"
+
+#include <utility>
+#include <vector>
+
+namespace fleetwright {
+
+namespace {
+
+/// The one ship of a sheet.
+std::string shipIn(const std::string& sheet) {
+    std::vector<std::string> ships = shipsIn(sheet);
+    if (ships.empty()) {
+        throw Error("holds no ship");
+    }
+    if (ships.size() > 1) {
+        throw Error("holds " + std::to_string(ships.size()) +
+                    " ships; a sheet of one ship can be loaded");
+    }
+    return std::move(ships.front());
+}
+
+}  // namespace
+
+ShipText readShip(const std::filesystem::path& file) {
+    std::string bytes = readBytes(file);
+    if (!isSheet(bytes)) {
+        return {.text = toUtf8(std::move(bytes))};
+    }
+    try {
+        return {.text = toUtf8(shipIn(bytes)), .isInSheet = true};
+    } catch (const Error& error) {
+        throw SheetError(file, error.what());
+    }
+}
+
+}  // namespace fleetwright
