@@ -97,9 +97,7 @@ private:
         if (place.keyword != MapKeyword::DamRow) {
             m_boxes.push_back({&place, systemPictureSize, systemPictureSize});
         } else {
-            const PictureSize track = m_map.size <= capitalMass
-                                          ? trackPictureSize(trackSize(m_map.size))
-                                          : greatTrackRoom;
+            const PictureSize track = trackRoom(m_map.size);
             m_boxes.push_back({&place, track.width, track.height});
         }
     }

@@ -8,6 +8,9 @@ namespace fleetwright {
 
 namespace {
 
+/// The largest mass of the ships whose damage tracks do with the smaller room above SIZE 100.
+constexpr std::int32_t heavyMass = 300;
+
 /// The largest mass of the ships that maps of this size are made for.
 std::int32_t largestMass(TrackSize size) {
     switch (size) {
@@ -42,6 +45,13 @@ PictureSize trackPictureSize(TrackSize size) {
     default:
         return {210, 74};
     }
+}
+
+PictureSize trackRoom(std::int32_t mapMass) {
+    if (mapMass <= capitalMass) {
+        return trackPictureSize(trackSize(mapMass));
+    }
+    return mapMass <= heavyMass ? PictureSize{306, 162} : PictureSize{354, 270};
 }
 
 std::string damageTrackPicture(TrackSize size, std::string_view damagePoints) {

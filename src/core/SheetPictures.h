@@ -39,9 +39,9 @@ PictureSize trackPictureSize(TrackSize size);
 /// The largest mass of ships that delivered outlines are made for.
 inline constexpr std::int32_t greatMass = 600;
 
-/// The room that a map above SIZE 100 has for a damage track. There is no picture of one; sheets
-/// made of lines have it drawn.
-inline constexpr PictureSize greatTrackRoom = {354, 270};
+/// The room that a map of this SIZE has for a damage track: up to 100 that of its picture, above
+/// that of one on vector sheets, since there is no picture of it.
+PictureSize trackRoom(std::int32_t mapMass);
 
 /// File name of the damage track for a number of damage points, as the ship's window says it.
 std::string damageTrackPicture(TrackSize size, std::string_view damagePoints);

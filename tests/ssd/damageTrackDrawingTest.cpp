@@ -11,8 +11,7 @@ using namespace fleetwright;
 TEST(DamageTrackDrawing, HasABoxThatAPencilCanTickForEachPointOfAnyWarshipInItsRoom) {
     for (std::int32_t mass = smallestMass; mass <= greatMass; ++mass) {
         SCOPED_TRACE(mass);
-        const bool isGreat = mass > capitalMass;
-        const PictureSize room = isGreat ? greatTrackRoom : trackPictureSize(trackSize(mass));
+        const PictureSize room = trackRoom(mass);
         const HullFigures figures = hullFigures({.mass = mass, .hullType = Warship});
         const DamageTrack track = damageTrack(figures.damagePoints, figures.damageRows, room);
         EXPECT_GE(track.side, mass <= cruiserMass ? 13 : 17);

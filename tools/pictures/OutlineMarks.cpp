@@ -1,6 +1,7 @@
 #include "OutlineMarks.h"
 
 #include "Error.h"
+#include "HullRules.h"
 #include "SheetPictures.h"
 #include "drawing.h"
 #include "readFile.h"
@@ -57,7 +58,8 @@ bool isPasted(const OutlineMark& mark) {
     if (mark.keyword != MapKeyword::DamRow) {
         return mark.box.size() == systemSize;
     }
-    return trackLength(mark) != nullptr || isOfSize(mark.box, greatTrackRoom);
+    return trackLength(mark) != nullptr || isOfSize(mark.box, trackRoom(capitalMass + 1)) ||
+           isOfSize(mark.box, trackRoom(greatMass));
 }
 
 OutlineMark readMark(const QXmlStreamAttributes& attributes) {
