@@ -7,8 +7,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr double hair = 1e-6;  // what sums of lengths may be off
-
 struct Mover {
     double dx;
     double dy;
@@ -57,7 +55,7 @@ std::size_t PageFlow::fillColumn(std::size_t first, const Box& column, Page* pag
         while (m_blocks[end].staysWithNext && end + 1 < m_blocks.size()) {
             height += m_blocks[++end].height;
         }
-        if (y + height > column.height + hair) {
+        if (y + height > column.height + lengthTolerance) {
             break;
         }
         for (; next <= end; ++next) {

@@ -10,6 +10,9 @@
 
 namespace fleetwright {
 
+/// What sums of lengths may be off, in millimetres.
+inline constexpr double lengthTolerance = 1e-6;
+
 /// Something that is not parted: a line, a row of the legend. Its items lie as if its upper left
 /// corner were that of the paper.
 struct PageBlock {

@@ -13,7 +13,10 @@ namespace fleetwright {
 namespace {
 
 constexpr double columnGap = 5;
-constexpr double mostSymbol = 14;  // a drawing of few pixels is not blown up beyond that
+// The side of a system's picture in a drawing that is no larger than it has to be: with the lesser
+// one, the damage boxes of small ships are large enough for a pencil.
+constexpr double goodSymbol = 11.08, mostSymbol = 14;
+constexpr double wideColumn = 57, narrowColumn = 43;
 
 double scaleOfSymbol(double side) {
     return side / systemPictureSize;
@@ -45,18 +48,31 @@ void addRoomBelow(std::vector<PageBlock>& blocks) {
     }
 }
 
+/// As many columns of this width as a room has, or one, which is narrower if the room is.
+std::vector<Box> columnsIn(const Box& room, double width) {
+    const double count = std::floor((room.width + columnGap) / (width + columnGap));
+    if (count < 2) {
+        return {{room.x, room.y, std::min(room.width, width), room.height}};
+    }
+    const double pitch = (room.width - width) / (count - 1);
+    std::vector<Box> columns;
+    for (double i = 0; i < count; ++i) {
+        columns.push_back({room.x + i * pitch, room.y, width, room.height});
+    }
+    return columns;
+}
+
+double areaOf(const std::vector<Box>& boxes) {
+    return std::accumulate(boxes.begin(), boxes.end(), 0.0, [](double area, const Box& box) {
+        return area + box.width * box.height;
+    });
+}
+
 }  // namespace
 
 std::vector<Box> readingColumns(const Box& room) {
-    constexpr double goodWidth = 60;
-    const double count =
-        std::max(std::floor((room.width + columnGap) / (goodWidth + columnGap)), 1.0);
-    const double width = (room.width - (count - 1) * columnGap) / count;
-    std::vector<Box> columns;
-    for (double i = 0; i < count; ++i) {
-        columns.push_back({room.x + i * (width + columnGap), room.y, width, room.height});
-    }
-    return columns;
+    constexpr double leastForWideOnes = 2 * wideColumn + columnGap;
+    return columnsIn(room, room.width < leastForWideOnes ? narrowColumn : wideColumn);
 }
 
 SheetCard::SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain)
@@ -77,44 +93,36 @@ bool SheetCard::isLegible() const {
     return m_scale >= scaleOfSymbol(leastSymbol);
 }
 
-/// The largest scale that leaves the usual room for reading; if even the least good one does not,
-/// the drawing has the room for itself.
+/// The largest scale that leaves the usual room for reading, or else a little, in wide columns or
+/// else in narrow ones. If even the least good one does not, the drawing has the room for itself.
 double SheetCard::scaleFor(const Box& ink) const {
     const double most = std::min(m_body.width / ink.width, m_body.height / ink.height);
-    const double least = scaleOfSymbol(leastSymbol);
+    const double least = scaleOfSymbol(goodSymbol);
     if (most <= least) {
         return most;
     }
     const double start = std::min(most, scaleOfSymbol(mostSymbol));
-    const double needed = m_body.width * m_body.height * (m_isPlain ? 0.08 : 0.25);
-    const double step = scaleOfSymbol(0.1);
-    for (double scale = start; scale >= least; scale -= step) {
-        if (readingRoom(scale) >= needed) {
-            return scale;
+    const double area = m_body.width * m_body.height;
+    const double step = scaleOfSymbol(0.02);
+    for (const double needed : {m_isPlain ? 0.08 * area : 0.22 * area, 0.06 * area}) {
+        for (const double columnWidth : {wideColumn, narrowColumn}) {
+            for (double scale = start; scale >= least; scale -= step) {
+                const Columns columns = columnsAround(scale, columnWidth);
+                if (areaOf(columns.beside) + areaOf(columns.below) >= needed) {
+                    return scale;
+                }
+            }
         }
     }
     return start;
 }
 
-/// The area of all columns around the drawing.
-double SheetCard::readingRoom(double scale) const {
-    double area = 0;
-    const Columns columns = columnsAround(scale);
-    for (const std::vector<Box>* part : {&columns.beside, &columns.below}) {
-        for (const Box& column : *part) {
-            area += column.width * column.height;
-        }
-    }
-    return area;
-}
-
-SheetCard::Columns SheetCard::columnsAround(double scale) const {
+SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) const {
     constexpr double leastHeight = 15;
     Columns columns;
-    std::vector<Box> all = readingColumns(m_body);
+    std::vector<Box> all = columnsIn(m_body, columnWidth);
     const double free = m_body.width - m_ink.width * scale;
-    while (all.size() > 1 &&
-           double(columns.beside.size() + 1) * (all[0].width + columnGap) <= free) {
+    while (all.size() > 1 && m_body.x + m_body.width - all.back().x + columnGap <= free) {
         columns.beside.insert(columns.beside.begin(), all.back());
         all.pop_back();
     }
@@ -129,14 +137,13 @@ SheetCard::Columns SheetCard::columnsAround(double scale) const {
     return columns;
 }
 
-std::vector<PageBlock> SheetCard::textToRead(double factor) const {
-    const double width = readingColumns(m_body).front().width;
+std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const {
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
         appendBlocks(blocks, lineBlocks(m_text.lines, width, textLineSize));
         addRoomBelow(blocks);
     }
-    appendBlocks(blocks, listBlocks(m_text, width));
+    appendBlocks(blocks, listBlocks(m_text, width, m_isPlain ? "" : "ALSO ABOARD"));
     addRoomBelow(blocks);
     if (!m_isPlain) {
         appendBlocks(blocks, legendBlocks(m_sheet.facts.legend, width, factor));
@@ -144,24 +151,32 @@ std::vector<PageBlock> SheetCard::textToRead(double factor) const {
     return blocks;
 }
 
-/// What there is to read, in a smaller font if that saves a page.
-PageFlow SheetCard::fittingText(const Columns& columns) const {
-    for (const double factor : {1.0, 0.92, 0.84}) {
-        PageFlow flow(textToRead(factor));
-        PageFlow tried = flow;
-        Page unused;
-        tried.fill(columns.beside, unused);
-        tried.fill(columns.below, unused);
-        if (tried.isDone()) {
-            return flow;
+/// What there is to read, and the columns for it: narrow ones and a smaller font if that saves a
+/// page.
+PageFlow SheetCard::fittingText(Columns& columns) const {
+    const double usual = readingColumns(m_body).front().width;
+    for (const double columnWidth : {usual, narrowColumn}) {
+        columns = columnsAround(m_scale, columnWidth);
+        for (const double factor : {1.0, 0.92, 0.84}) {
+            PageFlow flow(textToRead(columnsIn(m_body, columnWidth).front().width, factor));
+            PageFlow tried = flow;
+            Page unused;
+            tried.fill(columns.beside, unused);
+            tried.fill(columns.below, unused);
+            if (tried.isDone()) {
+                return flow;
+            }
         }
     }
-    return PageFlow(textToRead(1));
+    columns = columnsAround(m_scale, usual);
+    const bool isElsewhere = columns.beside.empty() && columns.below.empty();
+    constexpr double comfortable = 1.2;  // where there is a whole page for it
+    return PageFlow(textToRead(usual, isElsewhere ? comfortable : 1));
 }
 
 std::vector<PageBlock> SheetCard::putOn(Page& page) const {
     putBlock(page, m_head, m_room.x, m_room.y);
-    Columns columns = columnsAround(m_scale);
+    Columns columns;
     PageFlow flow = fittingText(columns);
     Box free = m_body;
     if (!flow.isDone() && !columns.beside.empty()) {

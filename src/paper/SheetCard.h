@@ -13,7 +13,7 @@ namespace fleetwright {
 /// how much there is to read. Measures are in millimetres.
 class SheetCard {
 public:
-    /// The least side of a system's picture that is good to play with.
+    /// The least side of a system's picture that can be played with.
     static constexpr double leastSymbol = 9;
 
     /// The sheet outlives the card.
@@ -31,11 +31,9 @@ private:
     };
 
     double scaleFor(const Box& ink) const;
-    double readingRoom(double scale) const;
-    std::size_t columnsBeside(double scale) const;
-    Columns columnsAround(double scale) const;
-    std::vector<PageBlock> textToRead(double factor) const;
-    PageFlow fittingText(const Columns& columns) const;
+    Columns columnsAround(double scale, double columnWidth) const;
+    std::vector<PageBlock> textToRead(double width, double factor) const;
+    PageFlow fittingText(Columns& columns) const;
 
     const VectorSheet& m_sheet;
     Box m_room;  ///< all of it
@@ -48,7 +46,7 @@ private:
     double m_scale;  ///< millimetres to the pixel
 };
 
-/// The columns of a room: at least one, all of one width, as wide as is good to read.
+/// The columns of a room, at least one, in which text is good to read.
 std::vector<Box> readingColumns(const Box& room);
 
 }  // namespace fleetwright

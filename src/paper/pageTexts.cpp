@@ -30,6 +30,12 @@ std::size_t fittingBytes(std::string_view text, const PageText& style, double wi
     return bytes;
 }
 
+/// As much of a text as leaves room for "…", and that.
+std::string cutText(std::string_view text, const PageText& style, double width) {
+    const double room = width - widthIn(style, ellipsis);
+    return std::string(text.substr(0, fittingBytes(text, style, room))) + std::string(ellipsis);
+}
+
 /// Cuts the next word off a text, without the blanks behind it.
 std::string_view nextWord(std::string_view& text) {
     const std::size_t end = std::min(text.find(' '), text.size());
@@ -48,14 +54,13 @@ PageText fittedText(std::string_view text, PageText style, double width, double 
     }
     style.size = std::max(style.size * width / natural, smallest);
     if (widthIn(style, style.text) > width) {
-        const double room = width - widthIn(style, ellipsis);
-        style.text.resize(fittingBytes(style.text, style, room));
-        style.text += ellipsis;
+        style.text = cutText(style.text, style, width);
     }
     return style;
 }
 
-std::vector<std::string> wrappedText(std::string_view text, const PageText& style, double width) {
+std::vector<std::string> wrappedText(std::string_view text, const PageText& style, double width,
+                                     std::size_t most) {
     const std::string shown = shownText(text, text.size());
     if (widthIn(style, shown) <= width) {
         return {shown};
@@ -63,7 +68,7 @@ std::vector<std::string> wrappedText(std::string_view text, const PageText& styl
     std::vector<std::string> lines(1);
     double used = 0;
     const double blank = widthIn(style, " ");
-    for (std::string_view rest = shown; !rest.empty();) {
+    for (std::string_view rest = shown; !rest.empty() && lines.size() <= most;) {
         std::string_view word = nextWord(rest);
         double wordWidth = widthIn(style, word);
         if (!lines.back().empty() && used + blank + wordWidth <= width) {
@@ -73,7 +78,7 @@ std::vector<std::string> wrappedText(std::string_view text, const PageText& styl
             lines.emplace_back();
             used = 0;
         }
-        for (; wordWidth > width; wordWidth = widthIn(style, word)) {
+        for (; wordWidth > width && lines.size() <= most; wordWidth = widthIn(style, word)) {
             const std::size_t bytes = fittingBytes(word, style, width);
             lines.back() = word.substr(0, bytes);
             lines.emplace_back();
@@ -84,6 +89,10 @@ std::vector<std::string> wrappedText(std::string_view text, const PageText& styl
     }
     if (lines.size() > 1 && lines.back().empty()) {
         lines.pop_back();
+    }
+    if (lines.size() > most) {
+        lines.resize(most);
+        lines.back() = cutText(lines.back(), style, width);
     }
     return lines;
 }

@@ -4,6 +4,7 @@
 
 #include "PageDocument.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,8 +15,9 @@ namespace fleetwright {
 /// without its end, for which "…" stands, if that is not enough.
 PageText fittedText(std::string_view text, PageText style, double width, double smallest);
 
-/// A text as lines no wider than this, parted at blanks, or inside of words that are too long. At
-/// least one line.
-std::vector<std::string> wrappedText(std::string_view text, const PageText& style, double width);
+/// A text as lines no wider than this, parted at blanks, or inside of words that are too long: one
+/// line at the least. If they are more than `most`, the last one ends in "…".
+std::vector<std::string> wrappedText(std::string_view text, const PageText& style, double width,
+                                     std::size_t most = static_cast<std::size_t>(-1));
 
 }  // namespace fleetwright

@@ -58,18 +58,13 @@ std::string particulars(const LegendRow& row) {
 
 PageBlock legendBlock(const LegendRow& row, double width, double factor) {
     constexpr double pictureSide = 8.5;
-    constexpr std::size_t mostNameLines = 3, mostRulesLines = 14;
+    constexpr std::size_t mostNameLines = 3, mostRulesLines = 8;
     const double side = pictureSide * factor;
     const double left = side + 2;
     BlockWriter writer(left);
     const auto write = [&](const std::string& text, PageText style, std::size_t most) {
         style.size *= factor;
-        std::vector<std::string> lines = wrappedText(text, style, width - left);
-        if (lines.size() > most) {
-            lines.resize(most);
-            lines.back() += "…";
-        }
-        writer.write(lines, style);
+        writer.write(wrappedText(text, style, width - left, most), style);
     };
     write(row.name + (row.count == 1 ? "" : pieces(row.count)),
           {.text = {}, .size = 3.1, .font = PageFont::Bold}, mostNameLines);
@@ -123,7 +118,7 @@ std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double 
     return blocks;
 }
 
-std::vector<PageBlock> listBlocks(const SheetText& text, double width) {
+std::vector<PageBlock> listBlocks(const SheetText& text, double width, std::string_view heading) {
     if (text.listed.empty()) {
         return {};
     }
@@ -139,6 +134,9 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width) {
         }
     }
     BlockWriter writer;
+    if (!heading.empty()) {
+        writer.write({std::string(heading)}, {.text = {}, .size = 2.1, .colour = quietColour});
+    }
     writer.write({text.separator},
                  fittedText(text.separator,
                             {.text = {}, .size = textLineSize, .colour = quietColour}, width, 1));

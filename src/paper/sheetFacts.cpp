@@ -5,6 +5,7 @@
 #include "SheetPictures.h"
 #include "ShipClass.h"
 #include "designWords.h"
+#include "text.h"
 #include "wholeNumber.h"
 
 #include <algorithm>
@@ -162,6 +163,9 @@ void Legend::addParties() {
     });
     if (bought != m_rows.end()) {
         bought->count += std::max(count, 0);
+        if (count > 0) {
+            bought->rules = trimmed(std::to_string(count) + " with the hull. " + bought->rules);
+        }
     } else if (count > 0) {
         m_rows.push_back({.picture = systemPicture(Catalogue::partyName),
                           .name = std::string(Catalogue::partyName),
@@ -169,7 +173,7 @@ void Legend::addParties() {
                           .arcs = {},
                           .mass = 0,
                           .points = 0,
-                          .rules = {}});
+                          .rules = std::string(m_ship.rulesOf(Catalogue::partyName))});
     }
 }
 
