@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 
 namespace fleetwright {
 
@@ -225,6 +226,17 @@ bool onlyShows(char32_t character) {
     const bool turns = character == 0x061C || isWithin(0x200E, 0x200F) ||
                        isWithin(0x202A, 0x202E) || isWithin(0x2066, 0x2069);
     return !isControl && !endsLine && !turns;
+}
+
+bool isInvisible(char32_t character) {
+    static constexpr struct {
+        char32_t first;
+        char32_t last;
+    } ranges[] = {{0x00, 0x1F},     {0x7F, 0x9F},     {0xAD, 0xAD},     {0x200B, 0x200F},
+                  {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFE00, 0xFE0F}, {0xFEFF, 0xFEFF}};
+    return std::any_of(std::begin(ranges), std::end(ranges), [character](const auto& range) {
+        return character >= range.first && character <= range.last;
+    });
 }
 
 std::string shownText(std::string_view text, std::size_t most) {

@@ -46,6 +46,9 @@ std::string_view trimmed(std::string_view text);
 /// direction of writing.
 bool onlyShows(char32_t character);
 
+/// Whether a character has no picture, since it only says how others are to be treated.
+bool isInvisible(char32_t character);
+
 /// A piece of text from outside, such as a name, a file's name or a line, as people get to see it:
 /// in a message, on a terminal, on the status line. U+FFFD stands for each character that does more
 /// than show, and for what is no UTF-8. Of a text of more than `most` characters the middle is

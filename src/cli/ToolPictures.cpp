@@ -41,4 +41,8 @@ std::unique_ptr<Pages> ToolPictures::newPages(Paper paper) {
     return loadPictures(m_programFolder).newPages(paper);
 }
 
+std::string ToolPictures::pdf(const PageDocument& document) {
+    return loadPictures(m_programFolder).pdf(document);
+}
+
 }  // namespace fleetwright

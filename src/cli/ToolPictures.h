@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PageDocument.h"
 #include "Pages.h"
 #include "PictureReader.h"
 
@@ -21,6 +22,8 @@ public:
     std::string encode(const Raster& picture, const std::string& format) override;
     /// A document of such pages.
     std::unique_ptr<Pages> newPages(Paper paper);
+    /// The bytes of a PDF file, the same for the same document.
+    std::string pdf(const PageDocument& document);
 
 private:
     std::filesystem::path m_programFolder;

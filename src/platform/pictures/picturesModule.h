@@ -1,8 +1,10 @@
 #pragma once
 
+#include "PageDocument.h"
 #include "Pages.h"
 
 #include <memory>
+#include <string>
 
 namespace fleetwright {
 
@@ -15,6 +17,7 @@ struct Pictures {
     PictureReader& files;
     PictureEncoder& encoder;
     std::unique_ptr<Pages> (*newPages)(Paper);
+    std::string (*pdf)(const PageDocument&);  ///< any number of threads may call it
 };
 using CreatePictures = const Pictures* (*)();
 

@@ -1,0 +1,228 @@
+#include "drawPage.h"
+
+#include "Raster.h"
+#include "pageFontFiles.h"
+#include "qtImage.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPen>
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+#include <variant>
+
+namespace fleetwright {
+
+namespace {
+
+double toUnits(double millimetres) {
+    return std::round(millimetres * pageUnits);
+}
+
+QRectF toUnits(const Box& box) {
+    const QPointF corner(toUnits(box.x), toUnits(box.y));
+    return {corner, QPointF(toUnits(box.x + box.width), toUnits(box.y + box.height))};
+}
+
+/// Reads the path of a shape, with its points moved to where they lie on the page.
+class PathReader {
+public:
+    PathReader(std::string_view text, const Drawing& drawing, const Box& place)
+        : m_text(text), m_place(place), m_scaleX(place.width / drawing.width),
+          m_scaleY(place.height / drawing.height) {}
+
+    QPainterPath read() {
+        QPainterPath path;
+        char command = 'M';
+        while (skipBlanks()) {
+            if (std::isalpha(static_cast<unsigned char>(m_text.front())) != 0) {
+                command = m_text.front();
+                m_text.remove_prefix(1);
+                if (command == 'Z') {
+                    path.closeSubpath();
+                }
+            } else if (command == 'M') {
+                path.moveTo(point());
+                command = 'L';  // as SVG has it, further points are drawn to
+            } else if (command == 'L') {
+                path.lineTo(point());
+            } else if (command == 'C') {
+                const QPointF first = point();
+                const QPointF second = point();
+                path.cubicTo(first, second, point());
+            } else {
+                break;
+            }
+        }
+        return path;
+    }
+
+private:
+    bool skipBlanks() {
+        m_text.remove_prefix(std::min(m_text.find_first_not_of(" ,\t\r\n"), m_text.size()));
+        return !m_text.empty();
+    }
+    double number() {
+        skipBlanks();
+        double number = 0;
+        const auto result = std::from_chars(m_text.data(), m_text.data() + m_text.size(), number);
+        // At what is no number the path ends.
+        m_text.remove_prefix(result.ec == std::errc()
+                                 ? static_cast<std::size_t>(result.ptr - m_text.data())
+                                 : m_text.size());
+        return number;
+    }
+    QPointF point() {
+        const double x = number();
+        const double y = number();
+        return {toUnits(m_place.x + x * m_scaleX), toUnits(m_place.y + y * m_scaleY)};
+    }
+
+    std::string_view m_text;
+    Box m_place;
+    double m_scaleX;
+    double m_scaleY;
+};
+
+Qt::PenCapStyle capStyle(DrawnShape::Cap cap) {
+    switch (cap) {
+    case DrawnShape::Cap::Round:
+        return Qt::RoundCap;
+    case DrawnShape::Cap::Square:
+        return Qt::SquareCap;
+    default:
+        return Qt::FlatCap;
+    }
+}
+
+Qt::PenJoinStyle joinStyle(DrawnShape::Join join) {
+    switch (join) {
+    case DrawnShape::Join::Round:
+        return Qt::RoundJoin;
+    case DrawnShape::Join::Bevel:
+        return Qt::BevelJoin;
+    default:
+        return Qt::MiterJoin;
+    }
+}
+
+/// Whether what a drawing shows lies within what shows of it.
+bool isWithin(const Box& ink, double scale, const PagePicture& picture) {
+    constexpr double tolerance = 0.001;
+    const double left = picture.place.x + ink.x * scale - picture.clip.x;
+    const double top = picture.place.y + ink.y * scale - picture.clip.y;
+    return left >= -tolerance && top >= -tolerance &&
+           left + ink.width * scale <= picture.clip.width + tolerance &&
+           top + ink.height * scale <= picture.clip.height + tolerance;
+}
+
+class PagePainter {
+public:
+    explicit PagePainter(QPainter& painter) : m_painter(painter) {
+        m_painter.setLayoutDirection(Qt::LeftToRight);
+        m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                                 QPainter::LosslessImageRendering);
+    }
+
+    void operator()(const PageText& text) const {
+        double x = text.x;
+        if (text.anchor != PageText::Anchor::Start) {
+            const double width = textWidth(text.text, text.size, text.font);
+            x -= text.anchor == PageText::Anchor::Middle ? width / 2 : width;
+        }
+        m_painter.setPen(QColor::fromRgb(text.colour));
+        for (const PageRun& run : pageRuns(text.text, text.font)) {
+            m_painter.setFont(pageFont(run.face, static_cast<int>(toUnits(text.size))));
+            m_painter.drawText(QPointF(toUnits(x), toUnits(text.y)),
+                               QString::fromStdString(run.text));
+            x += run.width * text.size;
+        }
+    }
+
+    void operator()(const PageLine& line) const {
+        m_painter.setPen(
+            QPen(QColor::fromRgb(line.colour), line.width * pageUnits, Qt::SolidLine, Qt::FlatCap));
+        m_painter.drawLine(QPointF(toUnits(line.x1), toUnits(line.y1)),
+                           QPointF(toUnits(line.x2), toUnits(line.y2)));
+    }
+
+    void operator()(const PageRectangle& rectangle) const {
+        m_painter.setBrush(rectangle.fill ? QBrush(QColor::fromRgb(*rectangle.fill)) : QBrush());
+        m_painter.setPen(rectangle.stroke ? QPen(QColor::fromRgb(*rectangle.stroke),
+                                                 rectangle.strokeWidth * pageUnits, Qt::SolidLine,
+                                                 Qt::FlatCap, Qt::MiterJoin)
+                                          : QPen(Qt::NoPen));
+        if (rectangle.radius > 0) {
+            const double radius = toUnits(rectangle.radius);
+            m_painter.drawRoundedRect(toUnits(rectangle.place), radius, radius);
+        } else {
+            m_painter.drawRect(toUnits(rectangle.place));
+        }
+    }
+
+    void operator()(const PagePicture& picture) const {
+        const QRectF clip = toUnits(picture.clip);
+        if (picture.drawing == nullptr) {
+            clipped(clip, clip != toUnits(picture.place),
+                    [&] { m_painter.drawImage(toUnits(picture.place), toImage(*picture.raster)); });
+            return;
+        }
+        const Drawing& drawing = *picture.drawing;
+        const double scale = picture.place.width / drawing.width;
+        m_painter.fillRect(clip, Qt::white);
+        clipped(clip, !isWithin(drawing.ink, scale, picture), [&] {
+            for (const DrawnShape& shape : drawing.shapes) {
+                drawShape(shape, scale, PathReader(shape.path, drawing, picture.place).read());
+            }
+        });
+    }
+
+private:
+    template <typename Draw>
+    void clipped(const QRectF& clip, bool isNeeded, const Draw& draw) const {
+        if (isNeeded) {
+            m_painter.save();
+            m_painter.setClipRect(clip);
+        }
+        draw();
+        if (isNeeded) {
+            m_painter.restore();
+        }
+    }
+
+    void drawShape(const DrawnShape& shape, double scale, QPainterPath path) const {
+        const auto colourOf = [&shape](std::uint32_t colour) {
+            QColor shown = QColor::fromRgb(colour);
+            shown.setAlphaF(static_cast<float>(shape.opacity));
+            return shown;
+        };
+        path.setFillRule(shape.isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+        m_painter.setBrush(shape.fill ? QBrush(colourOf(*shape.fill)) : QBrush());
+        QPen pen(Qt::NoPen);
+        if (shape.stroke) {
+            pen = QPen(colourOf(*shape.stroke), shape.strokeWidth * scale * pageUnits,
+                       Qt::SolidLine, capStyle(shape.cap), joinStyle(shape.join));
+            pen.setMiterLimit(4);  // that of SVG
+        }
+        m_painter.setPen(pen);
+        m_painter.drawPath(path);
+    }
+
+    QPainter& m_painter;
+};
+
+}  // namespace
+
+void drawPage(QPainter& painter, const Page& page) {
+    const PagePainter draw(painter);
+    for (const PageItem& item : page.items) {
+        std::visit(draw, item);
+    }
+}
+
+}  // namespace fleetwright

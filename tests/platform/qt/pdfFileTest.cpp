@@ -1,0 +1,74 @@
+// Pages in PDF files, as other programs read them back.
+
+#include "pdfFile.h"
+
+#include "Raster.h"
+#include "TemporaryFolder.h"
+#include "caseFile.h"
+#include "runCommand.h"
+
+#include <gtest/gtest.h>
+
+#include <QtGlobal>
+
+#include <thread>
+
+using namespace fleetwright;
+
+namespace {
+
+/// A page of lines, and one that is a picture without a drawing.
+PageDocument makeDocument() {
+    const auto arrow = std::make_shared<Drawing>(36, 36, Box{4, 4, 28, 28});
+    arrow->shapes = {{"M4 4L32,18 C32 20 30 22 28 24 Z", 0xFF0000, {}},
+                     {.path = "M 4 32 L 32 32", .fill = {}, .stroke = 0xFF, .opacity = 0.5}};
+    const auto dots = std::make_shared<Raster>(3, 2);
+    dots->pixel(0, 0) = 0x102030;
+    dots->pixel(2, 1) = 0xFF0000;
+    Page lines;
+    lines.items = {
+        PageText{.text = "HMS \"Né\" – office ﬁ 3 × (4\\5)", .x = 20, .y = 20, .size = 6},
+        PageText{"Ωmega Крейсер 巡洋艦 שלום", 190, 40, 3, PageFont::Bold, PageText::Anchor::End},
+        PageLine{10, 50, 200, 50},
+        PageRectangle{{10, 60, 30, 20}, {}, 0, 0.2, 2},
+        PagePicture{arrow, nullptr, {50, 60, 9, 9}, {50, 60, 9, 9}},
+        PagePicture{arrow, nullptr, {60, 60, 9, 9}, {60, 60, 9, 4}}};
+    return {.size = paperA4,
+            .pages = {lines, Page{{PagePicture{nullptr, dots, {20, 20, 30, 20}, {20, 20, 30, 9}}}}},
+            .title = "HMS Né (\"B\")",
+            .author = "Ann <ann@example.org>",
+            .subject = "Ship & sheet",
+            .language = "en",
+            .date = 1700000000,
+            .metadata = "<x:ship xmlns:x=\"urn:x\">Lines &amp; all</x:ship>"};
+}
+
+}  // namespace
+
+TEST(PdfFile, IsWhatOtherProgramsReadOfIt) {
+    expectCases("platform/qt/golden/pdf.txt", [](const Case& question) {
+        PageDocument document = makeDocument();
+        if (question["paper"] == "a card") {
+            document.size = {101.5, 50};
+            document.date.reset();
+        }
+        const TemporaryFolder folder;
+        folder.write("sheet.pdf", pdfFile(document));
+        return runCommand("cd " + folder.path().string() + " && " + question["command"]).output;
+    });
+}
+
+TEST(PdfFile, HasTheSameBytesInEachThreadAndTimeZone) {
+    const std::string pdf = pdfFile(makeDocument());
+    qputenv("TZ", "Asia/Tokyo");
+    std::vector<std::string> others(4);
+    std::vector<std::thread> threads;
+    for (std::string& other : others) {
+        threads.emplace_back([&other] { other = pdfFile(makeDocument()); });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    qunsetenv("TZ");
+    EXPECT_EQ(others, std::vector<std::string>(others.size(), pdf));
+}
