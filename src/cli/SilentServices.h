@@ -51,6 +51,7 @@ private:
 
     class NoPrinter : public Printer {
     public:
+        void setTitle(const std::string&) override {}
         std::optional<int> choose() override { return {}; }
         std::string fontName() const override { return {}; }
         void setFontName(const std::string&) override {}

@@ -201,6 +201,7 @@ void FileCommands::fillMRU() {
 void FileCommands::mnuPrint_Click() {
     window().acts.whenIdle([this] {
         try {
+            services().printer.setTitle(ship().g_sShipName);
             if (const std::optional<int> copies = services().printer.choose()) {
                 printCopies(*copies);
             }

@@ -11,6 +11,9 @@ class Printer {
 public:
     virtual ~Printer() = default;
 
+    /// What the documents are called that are printed from now on, and their files.
+    virtual void setTitle(const std::string& title) = 0;
+
     /// Lets the user choose the printer; the number of copies wanted, or nothing when it was
     /// cancelled.
     virtual std::optional<int> choose() = 0;

@@ -90,6 +90,7 @@ class TestWindow::Paper : public Printer {
 public:
     explicit Paper(TestWindow& test) : m_test(test) {}
 
+    void setTitle(const std::string& title) override { m_test.m_log += "title " + title + "; "; }
     std::optional<int> choose() override { return m_test.copies; }
     std::string fontName() const override { return m_font; }
     void setFontName(const std::string& name) override {

@@ -1,13 +1,14 @@
 #include "QtPrinter.h"
 
 #include "Error.h"
+#include "choosePrinter.h"
 
-#include <QApplication>
+#include <QMarginsF>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
 
 #include <algorithm>
+#include <utility>
 
 namespace fleetwright {
 
@@ -39,18 +40,14 @@ QPrinter& QtPrinter::printer() {
     if (m_printer == nullptr) {
         // Late: asking for the printers of a network is not quick.
         m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        m_printer->setDocName(QApplication::applicationName());
+        constexpr double margin = 15;  // millimetres
+        m_printer->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
     }
     return *m_printer;
 }
 
 std::optional<int> QtPrinter::choose() {
-    QPrintDialog dialog(&printer(), QApplication::activeWindow());
-    dialog.setObjectName("printDialog");
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
-    if (dialog.exec() != QDialog::Accepted) {
+    if (!choosePrinter(printer(), m_title)) {
         return std::nullopt;
     }
     const int copies = std::max(1, printer().copyCount());
@@ -61,6 +58,10 @@ std::optional<int> QtPrinter::choose() {
 void QtPrinter::chooseFile(const std::string& pdf) {
     printer().setOutputFormat(QPrinter::PdfFormat);
     printer().setOutputFileName(QString::fromStdString(pdf));
+}
+
+void QtPrinter::setTitle(const std::string& title) {
+    m_title = title;
 }
 
 std::string QtPrinter::fontName() const {
@@ -89,6 +90,7 @@ void QtPrinter::beginDocument() {
         throw Error("the printer does not print");
     }
     m_y = 0;
+    m_last.clear();
 }
 
 void QtPrinter::printLine(std::string_view line) {
@@ -99,29 +101,52 @@ void QtPrinter::printLine(std::string_view line) {
     const QString text = withoutTabs(line);
     const int letter = std::max(1, m_painter->fontMetrics().horizontalAdvance('0'));
     const qsizetype most = std::max(1, m_painter->viewport().width() / letter);
-    qsizetype printed = 0;
+    qsizetype taken = 0;
     do {
-        printPart(text.mid(printed, most));
-        printed += most;
-    } while (printed < text.size());
+        m_last.push_back({m_painter->font(), text.mid(taken, most)});
+        taken += most;
+    } while (taken < text.size());
+    while (m_last.size() > keptTogether) {
+        printPart(m_last.front());
+        m_last.pop_front();
+    }
 }
 
-void QtPrinter::printPart(const QString& part) {
+int QtPrinter::heightOf(const Part& part) const {
+    return QFontMetrics(part.font, &*m_printer).lineSpacing();
+}
+
+void QtPrinter::printPart(const Part& part) {
+    m_painter->setFont(part.font);
     const QFontMetrics metrics = m_painter->fontMetrics();
     if (m_y + metrics.height() > m_painter->viewport().height()) {
-        if (!printer().newPage()) {
-            m_painter.reset();  // the next line begins anew
-            throw Error("the printer does not print");
-        }
-        m_y = 0;
+        breakPage();
     }
-    m_painter->drawText(0, m_y + metrics.ascent(), part);
+    m_painter->drawText(0, m_y + metrics.ascent(), part.text);
     m_y += metrics.lineSpacing();
+}
+
+void QtPrinter::breakPage() {
+    if (!printer().newPage()) {
+        m_painter.reset();  // the next line begins anew
+        throw Error("the printer does not print");
+    }
+    m_y = 0;
 }
 
 void QtPrinter::endDocument() {
     if (m_painter == nullptr) {
         return;
+    }
+    int height = 0;
+    for (const Part& part : m_last) {
+        height += heightOf(part);
+    }
+    if (m_y > 0 && m_y + height > m_painter->viewport().height()) {
+        breakPage();
+    }
+    for (const Part& part : std::exchange(m_last, {})) {
+        printPart(part);
     }
     const bool isPrinted = m_painter->end();
     m_painter.reset();

@@ -1,4 +1,5 @@
 #include "QtPrinter.h"
+#include "QtPagePrinter.h"
 
 #include "Error.h"
 #include "TemporaryFolder.h"
@@ -8,6 +9,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
+#include <QPrintPreviewWidget>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -58,18 +61,79 @@ TEST(QtPrinter, SaysThatItDoesNotPrintAndGoesOnWithTheNextFile) {
     EXPECT_TRUE(textOf(pdf).starts_with("found\n"));
 }
 
+TEST(QtPrinter, KeepsToTheMarginsOfThePageAndLeavesNoLineAloneOnTheNext) {
+    const TemporaryFolder folder;
+    const std::string pdf = (folder.path() / "report.pdf").string();
+    QtPrinter printer;
+    printer.chooseFile(pdf);
+    printer.setFontSize(10);
+    const auto linesOnSecondPage = [&](int lines) {
+        for (int line = 0; line < lines; ++line) {
+            printer.printLine("MMM");
+        }
+        printer.endDocument();
+        return std::stoi(
+            runCommand("pdftotext -f 2 '" + pdf + "' - 2>/dev/null | grep -c M").output);
+    };
+    int lines = 60;
+    while (linesOnSecondPage(lines) == 0) {
+        ++lines;
+    }
+    EXPECT_EQ(linesOnSecondPage(lines), 3);
+    EXPECT_EQ(linesOnSecondPage(lines + 3), 4);
+    constexpr int points = 42;  // 15 mm
+    const std::string place = " -x 0 -y 0 -H 841 -W " + std::to_string(points);
+    EXPECT_EQ(runCommand("pdftotext" + place + " '" + pdf + "' - | grep -c M").output, "0\n");
+}
+
+/// Acts on the next dialog.
+void onDialog(const std::function<void(QDialog&)>& act) {
+    QTimer::singleShot(0,
+                       [act] { act(dynamic_cast<QDialog&>(*QApplication::activeModalWidget())); });
+}
+
 TEST(QtPrinter, PrintsAsManyCopiesAsItsDialogSaysOrNone) {
     QtPrinter printer;
+    printer.setTitle("HMS A/B");
     const auto choose = [&](bool isAccepted) {
-        QTimer::singleShot(0, [=] {
-            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            dialog->findChild<QSpinBox*>("copies")->setValue(2);
-            isAccepted ? dialog->accept() : dialog->reject();
+        onDialog([=](QDialog& dialog) {
+            EXPECT_TRUE(dialog.findChild<QLineEdit*>("filename")->text().endsWith("/HMS A-B.pdf"));
+            dialog.findChild<QSpinBox*>("copies")->setValue(2);
+            isAccepted ? dialog.accept() : dialog.reject();
         });
         return printer.choose();
     };
     EXPECT_EQ(choose(false), std::nullopt);
     EXPECT_EQ(choose(true), 2);
+}
+
+TEST(QtPagePrinter, PrintsAndShowsPagesAsTheyAreLaidOut) {
+    const TemporaryFolder folder;
+    const std::string pdf = (folder.path() / "sheet.pdf").string();
+    const auto layout = [](const PageSize& size) {
+        const PageText text = {"on paper", size.width - 10, size.height - 10,
+                               5,          PageFont::Bold,  PageText::Anchor::End};
+        PageDocument document;
+        document.size = size;
+        document.pages = {Page{{text}}, Page{{text}}};
+        return document;
+    };
+    QtPagePrinter printer;
+    onDialog([](QDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(printer.print(layout));
+    onDialog([&](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(pdf));
+        dialog.accept();
+    });
+    EXPECT_TRUE(printer.print(layout));
+    EXPECT_EQ(textOf(pdf), "on paper\n\fon paper\n\f");
+    onDialog([](QDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 2);
+        dialog.reject();
+    });
+    printer.preview(layout);
+    EXPECT_THROW(printer.preview([](const PageSize&) -> PageDocument { throw Error("no map"); }),
+                 Error);
 }
 
 }  // namespace

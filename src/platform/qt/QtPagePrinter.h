@@ -1,0 +1,29 @@
+#pragma once
+
+#include "PagePrinter.h"
+
+#include <memory>
+
+class QPrinter;
+
+namespace fleetwright {
+
+/// Prints through the system's print service, with the dialogs of the desktop.
+class QtPagePrinter : public PagePrinter {
+public:
+    QtPagePrinter();
+    QtPagePrinter(const QtPagePrinter&) = delete;
+    QtPagePrinter& operator=(const QtPagePrinter&) = delete;
+    ~QtPagePrinter() override;
+
+    bool print(const Layout& layout) override;
+    void preview(const Layout& layout) override;
+    std::string pdf(const PageDocument& document) override;
+
+private:
+    QPrinter& printer();
+
+    std::unique_ptr<QPrinter> m_printer;  ///< as the user has chosen it last
+};
+
+}  // namespace fleetwright
