@@ -68,6 +68,14 @@ std::size_t PageFlow::fillColumn(std::size_t first, const Box& column, Page* pag
     return next;
 }
 
+bool PageFlow::fitsInto(const std::vector<Box>& columns) const {
+    std::size_t next = m_next;
+    for (const Box& column : columns) {
+        next = fillColumn(next, column, nullptr);
+    }
+    return next == m_blocks.size();
+}
+
 void PageFlow::fill(const std::vector<Box>& columns, Page& page) {
     for (const Box& column : columns) {
         m_next = fillColumn(m_next, column, &page);
@@ -82,12 +90,11 @@ double PageFlow::balancedHeight(const std::vector<Box>& columns) const {
     constexpr double step = 1;
     const double own = columns.empty() ? 0 : columns.front().height;
     for (double height = step; height < own; height += step) {
-        std::size_t next = m_next;
-        for (Box column : columns) {
+        std::vector<Box> lower = columns;
+        for (Box& column : lower) {
             column.height = height;
-            next = fillColumn(next, column, nullptr);
         }
-        if (next == m_blocks.size()) {
+        if (fitsInto(lower)) {
             return height;
         }
     }

@@ -33,6 +33,8 @@ public:
     explicit PageFlow(std::vector<PageBlock> blocks) : m_blocks(std::move(blocks)) {}
 
     bool isDone() const { return m_next == m_blocks.size(); }
+    /// Whether columns have room for all that is left.
+    bool fitsInto(const std::vector<Box>& columns) const;
     /// Fills columns with what fits.
     void fill(const std::vector<Box>& columns, Page& page);
     /// Puts the next block at the top of a column, though it is too high for that.

@@ -1,11 +1,13 @@
 #include "SheetCard.h"
 
 #include "SheetPictures.h"
+#include "Silhouette.h"
 #include "scaledDrawing.h"
 #include "sheetHeader.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
 
 namespace fleetwright {
@@ -75,6 +77,13 @@ std::vector<Box> readingColumns(const Box& room) {
     return columnsIn(room, room.width < leastForWideOnes ? narrowColumn : wideColumn);
 }
 
+std::vector<Box> SheetCard::Columns::inOrder() const {
+    std::vector<Box> all = beside;
+    all.insert(all.end(), below.begin(), below.end());
+    all.insert(all.end(), inCorners.begin(), inCorners.end());
+    return all;
+}
+
 SheetCard::SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain)
     : m_sheet(sheet), m_room(room), m_isPlain(isPlain), m_text(sheetText(sheet.record.text)),
       m_body(room), m_ink(inkOf(sheet.record)) {
@@ -137,6 +146,37 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
     return columns;
 }
 
+/// From the top down, on both sides wherever the drawing is narrow enough.
+SheetCard::Columns SheetCard::columnsInCorners(double columnWidth) const {
+    constexpr double step = 1, leastHeight = 15;
+    const Silhouette silhouette(m_sheet.record, m_ink);
+    const double left = (m_body.width - m_ink.width * m_scale) / 2;
+    const double top = (m_body.height - m_ink.height * m_scale) / 2;
+    const auto isFree = [&](double y, bool isOnTheLeft) {
+        const Silhouette::Extent extent = silhouette.between(
+            (y - columnGap - top) / m_scale, (y + step + columnGap - top) / m_scale);
+        const double free = isOnTheLeft ? left + extent.left * m_scale
+                                        : m_body.width - left - extent.right * m_scale;
+        return free >= columnWidth + columnGap;
+    };
+    Columns columns;
+    for (const bool isOnTheLeft : {true, false}) {
+        const double x = m_body.x + (isOnTheLeft ? 0 : m_body.width - columnWidth);
+        double start = 0;
+        for (double y = 0; y <= m_body.height; y += step) {
+            if (y + step <= m_body.height && isFree(y, isOnTheLeft)) {
+                continue;
+            }
+            if (y - start >= leastHeight) {
+                columns.inCorners.push_back({x, m_body.y + start, columnWidth, y - start});
+            }
+            start = y + step;
+        }
+    }
+    std::ranges::stable_sort(columns.inCorners, {}, &Box::y);
+    return columns;
+}
+
 std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const {
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
@@ -151,36 +191,41 @@ std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const 
     return blocks;
 }
 
-/// What there is to read, and the columns for it: narrow ones and a smaller font if that saves a
-/// page.
+/// What there is to read, and the columns for it: narrow ones, those in corners, and a smaller font
+/// if that saves a page.
 PageFlow SheetCard::fittingText(Columns& columns) const {
     const double usual = readingColumns(m_body).front().width;
-    for (const double columnWidth : {usual, narrowColumn}) {
-        columns = columnsAround(m_scale, columnWidth);
-        for (const double factor : {1.0, 0.92, 0.84}) {
-            PageFlow flow(textToRead(columnsIn(m_body, columnWidth).front().width, factor));
-            PageFlow tried = flow;
-            Page unused;
-            tried.fill(columns.beside, unused);
-            tried.fill(columns.below, unused);
-            if (tried.isDone()) {
-                return flow;
+    for (const bool isInCorners : {false, true}) {
+        for (const double columnWidth : {usual, narrowColumn}) {
+            columns =
+                isInCorners ? columnsInCorners(columnWidth) : columnsAround(m_scale, columnWidth);
+            const double width = std::min(columnWidth, usual);
+            PageFlow smallest(textToRead(width, 0.84));
+            if (!smallest.fitsInto(columns.inOrder())) {
+                continue;
             }
+            for (const double factor : {1.0, 0.92}) {
+                PageFlow flow(textToRead(width, factor));
+                if (flow.fitsInto(columns.inOrder())) {
+                    return flow;
+                }
+            }
+            return smallest;
         }
     }
     columns = columnsAround(m_scale, usual);
-    const bool isElsewhere = columns.beside.empty() && columns.below.empty();
     constexpr double comfortable = 1.2;  // where there is a whole page for it
-    return PageFlow(textToRead(usual, isElsewhere ? comfortable : 1));
+    return PageFlow(textToRead(usual, columns.inOrder().empty() ? comfortable : 1));
 }
 
 std::vector<PageBlock> SheetCard::putOn(Page& page) const {
-    putBlock(page, m_head, m_room.x, m_room.y);
     Columns columns;
     PageFlow flow = fittingText(columns);
+    Page text;
     Box free = m_body;
+    flow.fill(columns.inCorners, text);
     if (!flow.isDone() && !columns.beside.empty()) {
-        flow.fill(columns.beside, page);
+        flow.fill(columns.beside, text);
         free.width = columns.beside.front().x - columnGap - free.x;
     }
     if (!flow.isDone() && !columns.below.empty()) {
@@ -189,11 +234,14 @@ std::vector<PageBlock> SheetCard::putOn(Page& page) const {
             column.y += column.height - height;
             column.height = height;
         }
-        flow.fill(columns.below, page);
+        flow.fill(columns.below, text);
         free.height -= height + columnGap;
     }
+    putBlock(page, m_head, m_room.x, m_room.y);
+    // Its paper would cover text in its corners.
     putDrawing(page, m_sheet.record, m_ink, free.x + (free.width - m_ink.width * m_scale) / 2,
                free.y + (free.height - m_ink.height * m_scale) / 2, m_scale);
+    std::ranges::move(text.items, std::back_inserter(page.items));
     return flow.takeRest();
 }
 

@@ -9,8 +9,8 @@
 namespace fleetwright {
 
 /// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
-/// and below it. How large the drawing gets depends on the drawing and on the room alone, never on
-/// how much there is to read. Measures are in millimetres.
+/// and below it, or in the corners that it leaves. How large the drawing gets depends on the
+/// drawing and on the room alone, never on how much there is to read. Measures are in millimetres.
 class SheetCard {
 public:
     /// The least side of a system's picture that can be played with.
@@ -25,13 +25,18 @@ public:
     std::vector<PageBlock> putOn(Page& page) const;
 
 private:
+    /// Where text can stand. Of columns in corners there are no others.
     struct Columns {
         std::vector<Box> beside;
         std::vector<Box> below;
+        std::vector<Box> inCorners;  ///< of the drawing, which stands in the middle of the room
+
+        std::vector<Box> inOrder() const;
     };
 
     double scaleFor(const Box& ink) const;
     Columns columnsAround(double scale, double columnWidth) const;
+    Columns columnsInCorners(double columnWidth) const;
     std::vector<PageBlock> textToRead(double width, double factor) const;
     PageFlow fittingText(Columns& columns) const;
 

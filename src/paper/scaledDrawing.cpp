@@ -35,19 +35,23 @@ Box placeOf(const SheetRecord::Paste& paste) {
 Box inkOfPixels(const Raster& raster) {
     Box ink;
     for (int y = 0; y < raster.height(); ++y) {
-        const auto row = raster.row(y);
-        const auto isInk = [](std::uint32_t colour) { return colour != Raster::white; };
-        const auto first = std::find_if(row.begin(), row.end(), isInk);
-        if (first != row.end()) {
-            const auto last = std::find_if(row.rbegin(), row.rend(), isInk);
-            ink = united(ink, {double(first - row.begin()), double(y),
-                               double(row.rend() - last - (first - row.begin())), 1});
-        }
+        ink = united(ink, inkOfRow(raster, y));
     }
     return ink;
 }
 
 }  // namespace
+
+Box inkOfRow(const Raster& raster, int y) {
+    const auto row = raster.row(y);
+    const auto isInk = [](std::uint32_t colour) { return colour != Raster::white; };
+    const auto first = std::find_if(row.begin(), row.end(), isInk);
+    if (first == row.end()) {
+        return {};
+    }
+    const auto end = std::find_if(row.rbegin(), row.rend(), isInk).base();
+    return {double(first - row.begin()), double(y), double(end - first), 1};
+}
 
 Box inkOf(const SheetRecord::Picture& picture) {
     if (picture.drawing) {

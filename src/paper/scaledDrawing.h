@@ -5,6 +5,9 @@
 
 namespace fleetwright {
 
+/// What has ink of a row of pixels, which are not white there; empty if nothing has.
+Box inkOfRow(const Raster& raster, int y);
+
 /// What has ink of a picture, in its pixels; empty if nothing has.
 Box inkOf(const SheetRecord::Picture& picture);
 

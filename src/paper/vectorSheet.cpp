@@ -2,10 +2,32 @@
 #include "RecordingSheet.h"
 #include "SSDMap.h"
 #include "ShipClass.h"
+#include "damageTrackDrawing.h"
 #include "sheetDocument.h"
 #include "sheetFacts.h"
 
+#include <memory>
+#include <utility>
+
 namespace fleetwright {
+
+namespace {
+
+/// The damage track of a map that is too large for one with a picture. It is pasted as those are:
+/// before all others. A map that names no place for it has none.
+void addGreatTrack(SheetRecord& record, const ShipClass& ship, const SSDMap& map) {
+    const bool hasPlace = map.getDAMPntX() != 0 || map.getDAMPntY() != 0;
+    if (map.iMaxMass <= capitalMass || !hasPlace) {
+        return;
+    }
+    const auto track = std::make_shared<const Drawing>(
+        damageTrackDrawing(ship.g_iDP, ship.g_iDamRows, trackRoom(map.iMaxMass)));
+    record.pastes.insert(
+        record.pastes.begin(),
+        {{track, nullptr}, map.getDAMPntX(), map.getDAMPntY(), track->width, track->height});
+}
+
+}  // namespace
 
 VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>& lvCurrentWeapons,
                         const SSDMap& map, const SheetSources& sources) {
@@ -15,7 +37,9 @@ VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>&
     RecordingSheet sheet(sources.drawings);
     sheet.setPicture(sources.pictures.load(map.outlineFile()));
     drawSSD(sheet, sources.images, map, lists, ship);
-    return {.record = sheet.takeRecord(),
+    SheetRecord record = sheet.takeRecord();
+    addGreatTrack(record, ship.ship, map);
+    return {.record = std::move(record),
             .facts = sheetFacts(ship, lvCurrentWeapons, sources),
             .shipFile = ship.ship.shipFile(),
             .date = std::nullopt};

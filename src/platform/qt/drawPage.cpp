@@ -2,6 +2,7 @@
 
 #include "Raster.h"
 #include "pageFontFiles.h"
+#include "pathSteps.h"
 #include "qtImage.h"
 
 #include <QColor>
@@ -10,9 +11,8 @@
 #include <QPen>
 
 #include <algorithm>
-#include <cctype>
-#include <charconv>
 #include <cmath>
+#include <optional>
 #include <string_view>
 #include <variant>
 
@@ -29,65 +29,27 @@ QRectF toUnits(const Box& box) {
     return {corner, QPointF(toUnits(box.x + box.width), toUnits(box.y + box.height))};
 }
 
-/// Reads the path of a shape, with its points moved to where they lie on the page.
-class PathReader {
-public:
-    PathReader(std::string_view text, const Drawing& drawing, const Box& place)
-        : m_text(text), m_place(place), m_scaleX(place.width / drawing.width),
-          m_scaleY(place.height / drawing.height) {}
-
-    QPainterPath read() {
-        QPainterPath path;
-        char command = 'M';
-        while (skipBlanks()) {
-            if (std::isalpha(static_cast<unsigned char>(m_text.front())) != 0) {
-                command = m_text.front();
-                m_text.remove_prefix(1);
-                if (command == 'Z') {
-                    path.closeSubpath();
-                }
-            } else if (command == 'M') {
-                path.moveTo(point());
-                command = 'L';  // as SVG has it, further points are drawn to
-            } else if (command == 'L') {
-                path.lineTo(point());
-            } else if (command == 'C') {
-                const QPointF first = point();
-                const QPointF second = point();
-                path.cubicTo(first, second, point());
-            } else {
-                break;
-            }
+/// The path of a shape, with its points moved to where they lie on the page.
+QPainterPath pathOnPage(std::string_view text, const Drawing& drawing, const Box& place) {
+    const auto onPage = [scaleX = place.width / drawing.width,
+                         scaleY = place.height / drawing.height, &place](PathStep::Point point) {
+        return QPointF(toUnits(place.x + point.x * scaleX), toUnits(place.y + point.y * scaleY));
+    };
+    QPainterPath path;
+    while (const std::optional<PathStep> step = takePathStep(text)) {
+        const auto& points = step->points;
+        if (step->command == 'M') {
+            path.moveTo(onPage(points[0]));
+        } else if (step->command == 'L') {
+            path.lineTo(onPage(points[0]));
+        } else if (step->command == 'C') {
+            path.cubicTo(onPage(points[0]), onPage(points[1]), onPage(points[2]));
+        } else {
+            path.closeSubpath();
         }
-        return path;
     }
-
-private:
-    bool skipBlanks() {
-        m_text.remove_prefix(std::min(m_text.find_first_not_of(" ,\t\r\n"), m_text.size()));
-        return !m_text.empty();
-    }
-    double number() {
-        skipBlanks();
-        double number = 0;
-        const auto result = std::from_chars(m_text.data(), m_text.data() + m_text.size(), number);
-        // At what is no number the path ends.
-        m_text.remove_prefix(result.ec == std::errc()
-                                 ? static_cast<std::size_t>(result.ptr - m_text.data())
-                                 : m_text.size());
-        return number;
-    }
-    QPointF point() {
-        const double x = number();
-        const double y = number();
-        return {toUnits(m_place.x + x * m_scaleX), toUnits(m_place.y + y * m_scaleY)};
-    }
-
-    std::string_view m_text;
-    Box m_place;
-    double m_scaleX;
-    double m_scaleY;
-};
+    return path;
+}
 
 Qt::PenCapStyle capStyle(DrawnShape::Cap cap) {
     switch (cap) {
@@ -177,7 +139,7 @@ public:
         m_painter.fillRect(clip, Qt::white);
         clipped(clip, !isWithin(drawing.ink, scale, picture), [&] {
             for (const DrawnShape& shape : drawing.shapes) {
-                drawShape(shape, scale, PathReader(shape.path, drawing, picture.place).read());
+                drawShape(shape, scale, pathOnPage(shape.path, drawing, picture.place));
             }
         });
     }
