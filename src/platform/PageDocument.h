@@ -77,8 +77,8 @@ struct PageDocument {
     std::string subject;
     std::string language;              ///< as "en"
     std::optional<std::int64_t> date;  ///< seconds since 1970, UTC; a file without it tells none
-    /// XML elements, with their namespaces declared, that say more of the document: the ships that
-    /// it carries.
+    /// XML elements, with their namespaces declared, that say more of the document as properties of
+    /// RDF: the ships that it carries.
     std::string metadata;
 };
 

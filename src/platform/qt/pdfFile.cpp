@@ -112,11 +112,8 @@ std::string packetOf(const PageDocument& document) {
         packet += "<xmp:CreateDate>" + dateOf(document).toString(Qt::ISODate).toStdString() +
                   "</xmp:CreateDate>\n";
     }
-    packet += "</rdf:Description>\n</rdf:RDF>\n";
-    if (!document.metadata.empty()) {
-        packet += document.metadata + '\n';
-    }
-    return packet + "</x:xmpmeta>\n<?xpacket end=\"r\"?>\n";
+    return packet + document.metadata +
+           "</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n";
 }
 
 /// Gives the pages their exact size. The upper edge stays, from where all is drawn.
