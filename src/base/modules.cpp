@@ -32,7 +32,9 @@ bool isPlainFile(const std::filesystem::path& file) {
 #if __has_include(<dlfcn.h>)
 
 void* loadModule(const std::filesystem::path& file) {
-    return isPlainFile(file) ? dlopen(placeOf(file).c_str(), RTLD_NOW | RTLD_LOCAL) : nullptr;
+    // Modules of ours are bound at once as they are linked; the large libraries behind them are
+    // loaded in less time if their calls are not.
+    return isPlainFile(file) ? dlopen(placeOf(file).c_str(), RTLD_LAZY | RTLD_LOCAL) : nullptr;
 }
 
 void freeModule(void* module) {

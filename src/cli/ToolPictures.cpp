@@ -37,8 +37,14 @@ std::string ToolPictures::encode(const Raster& picture, const std::string& forma
     return loadPictures(m_programFolder).encoder.encode(picture, format);
 }
 
-std::unique_ptr<Pages> ToolPictures::newPages(Paper paper) {
-    return loadPictures(m_programFolder).newPages(paper);
+void ToolPictures::prepareForPdf() {
+    m_preparing = std::async(std::launch::async, [this] {
+        try {
+            loadPictures(m_programFolder).prepareForPdf();
+        } catch (const Error&) {
+            // The one who makes the file finds it, too.
+        }
+    });
 }
 
 std::string ToolPictures::pdf(const PageDocument& document) {

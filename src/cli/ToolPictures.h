@@ -1,11 +1,10 @@
 #pragma once
 
 #include "PageDocument.h"
-#include "Pages.h"
 #include "PictureReader.h"
 
 #include <filesystem>
-#include <memory>
+#include <future>
 
 namespace fleetwright {
 
@@ -20,13 +19,14 @@ public:
     Raster decode(const std::string& bytes, const std::string& format) override;
     Raster builtIn(const std::string& name) override;
     std::string encode(const Raster& picture, const std::string& format) override;
-    /// A document of such pages.
-    std::unique_ptr<Pages> newPages(Paper paper);
+    /// Begins to load what `pdf` takes, while the caller does something else.
+    void prepareForPdf();
     /// The bytes of a PDF file, the same for the same document.
     std::string pdf(const PageDocument& document);
 
 private:
     std::filesystem::path m_programFolder;
+    std::future<void> m_preparing;
 };
 
 }  // namespace fleetwright

@@ -182,6 +182,9 @@ int runSheet(const Options& options) {
         throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
     }
     ToolPictures pictures(options.programFolder);
+    if (sheetOut(options) == SheetOut::Document) {
+        pictures.prepareForPdf();
+    }
     PictureCache cache(pictures);
     const DrawingPack drawings(drawingsFile(options.appFolder));
     int status = Done;

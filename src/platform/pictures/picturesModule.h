@@ -1,9 +1,7 @@
 #pragma once
 
 #include "PageDocument.h"
-#include "Pages.h"
 
-#include <memory>
 #include <string>
 
 namespace fleetwright {
@@ -16,7 +14,7 @@ class PictureReader;
 struct Pictures {
     PictureReader& files;
     PictureEncoder& encoder;
-    std::unique_ptr<Pages> (*newPages)(Paper);
+    void (*prepareForPdf)();                  ///< so that the first file is made sooner
     std::string (*pdf)(const PageDocument&);  ///< any number of threads may call it
 };
 using CreatePictures = const Pictures* (*)();

@@ -1,21 +1,33 @@
 #include "picturesModule.h"
 
 #include "QtMessages.h"
-#include "QtPages.h"
 #include "QtPictureFiles.h"
+#include "pageFontFiles.h"
 #include "pdfFile.h"
 #include "quietApplication.h"
+
+namespace fleetwright {
+
+namespace {
+
+void prepareForPdf() {
+    needQuietApplication();
+    pageFont(PageFace::Regular, 1);
+}
+
+std::string quietPdfFile(const PageDocument& document) {
+    needQuietApplication();
+    return pdfFile(document);
+}
+
+}  // namespace
+
+}  // namespace fleetwright
 
 extern "C" Q_DECL_EXPORT const fleetwright::Pictures* createPictures() {
     using namespace fleetwright;
     QtMessages::silence();  // the tool has its own words for what goes wrong
     static QtPictureFiles files;
-    static const Pictures pictures{
-        files, files,
-        [](Paper paper) -> std::unique_ptr<Pages> { return std::make_unique<QtPages>(paper); },
-        [](const PageDocument& document) {
-            needQuietApplication();
-            return pdfFile(document);
-        }};
+    static const Pictures pictures{files, files, prepareForPdf, quietPdfFile};
     return &pictures;
 }

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 #include <thread>
 
@@ -56,6 +56,13 @@ TEST(PdfFile, IsWhatOtherProgramsReadOfIt) {
         folder.write("sheet.pdf", pdfFile(document));
         return runCommand("cd " + folder.path().string() + " && " + question["command"]).output;
     });
+}
+
+TEST(PdfFile, NeedsNoFontOfTheSystem) {
+    const CommandResult result = runCommand("FONTCONFIG_FILE=/dev/null HOME=/none '" +
+                                            QCoreApplication::applicationFilePath().toStdString() +
+                                            "' --gtest_filter=PdfFile.Is*");
+    EXPECT_EQ(result.status, 0) << result.output;
 }
 
 TEST(PdfFile, HasTheSameBytesInEachThreadAndTimeZone) {
