@@ -1,12 +1,14 @@
 #include "Program.h"
 
 #include "CatalogueCheck.h"
+#include "DrawingPack.h"
 #include "Error.h"
 #include "Globals.h"
 #include "PictureCache.h"
 #include "PictureCheck.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
+#include "QtPagePrinter.h"
 #include "QtPictureFiles.h"
 #include "QtPrinter.h"
 #include "QtPrograms.h"
@@ -15,6 +17,7 @@
 #include "QtSounds.h"
 #include "QtTrash.h"
 #include "RecoveryFolder.h"
+#include "SheetOutput.h"
 #include "applicationFolder.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
@@ -28,6 +31,7 @@
 #include "paths.h"
 #include "saveFile.h"
 #include "sheetShip.h"
+#include "svgFile.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -112,6 +116,7 @@ public:
                   .showMapCreator = [this] { bringUp(m_mapCreator); },
                   .recovery = &m_recovery,
                   .putAside = [this]() -> frmPutAside& { return m_putAside; },
+                  .sheets = [this] { return &m_sheets; },
                   .isStartOver = [this] { return !m_splash.isLoaded() && m_main.isVisible(); }}),
           m_extras({.desktop = desktop,
                     .globals = m_globals,
@@ -131,6 +136,22 @@ public:
                               return m_recovery.moveToTrash(design);
                           }}),
           m_images(programImages(m_appFolder, m_pictures, m_main.tree.ilWeapons)),
+          m_sheets(
+              {.appFolder = m_appFolder,
+               .desktop = desktop,
+               .printer = m_pagePrinter,
+               .encoder = m_pictureFiles,
+               .svgFile =
+                   [this](const PageDocument& pages) { return svgFile(pages, m_pictureFiles); },
+               .sources = {m_pictures, m_images, m_drawings},
+               .g_colSSDMaps = m_globals.g_colSSDMaps,
+               .g_iLargestSSD = m_globals.g_iLargestSSD,
+               .newShip =
+                   [this] {
+                       return std::make_unique<ShipClass>(
+                           ShipServices{m_catalogueFile, m_globals.formula, {}});
+                   },
+               .say = [this](const std::string& text) { m_main.sbStatus.setText(text); }}),
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
@@ -138,7 +159,15 @@ public:
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,
                     .lvCurrentWeapons = m_main.aboard.lvCurrentWeapons,
-                    .ship = [this] { return sheetShip(m_main); }}),
+                    .ship = [this] { return sheetShip(m_main); },
+                    .actsFor =
+                        [this](const SSDMap& map, const SheetOutput::Rows& aboard,
+                               const Raster& bitmap) {
+                            return m_sheets.acts(SheetOutput::madeAtOnce([&] {
+                                return m_sheets.onMap(sheetShip(m_main), aboard, map, bitmap);
+                            }));
+                        },
+                    .say = [this](const std::string& text) { m_main.sbStatus.setText(text); }}),
           m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}),
           m_mapCreator({.appFolder = m_appFolder,
                         .desktop = desktop,
@@ -146,7 +175,13 @@ public:
                         .clock = m_clock,
                         .eventLoopTurn = [] { QApplication::processEvents(); },
                         .g_colSSDMaps = m_globals.g_colSSDMaps}),
-          m_viewer({.appFolder = m_appFolder, .desktop = desktop, .pictures = m_pictures}) {
+          m_viewer({.appFolder = m_appFolder,
+                    .desktop = desktop,
+                    .pictures = m_pictures,
+                    .actsFor = [this](const std::filesystem::path& file, const Raster& picture) {
+                        return m_sheets.acts(
+                            [this, file, picture] { return m_sheets.ofPicture(file, picture); });
+                    }}) {
         takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {
             if (form != &m_splash || run == Run::Whole) {
@@ -205,7 +240,9 @@ private:
     QtPictureFiles m_pictureFiles;
     PictureCache m_pictures{m_pictureFiles};  // the start looks at each picture twice
     QtPrograms m_programs;
+    DrawingPack m_drawings{m_appFolder / "drawings.dat"};
     QtPrinter m_printer;
+    QtPagePrinter m_pagePrinter;
     QtRegistry m_registry;
     QtTrash m_trash;
     RecoveryFolder m_recovery;
@@ -215,6 +252,7 @@ private:
     frmExtras m_extras;
     frmPutAside m_putAside;
     SheetImages m_images;
+    SheetOutput m_sheets;
     frmMapper m_mapper;
     frmAbout m_about;
     frmSSDMapCreator m_mapCreator;

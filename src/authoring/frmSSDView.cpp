@@ -29,6 +29,7 @@ void frmSSDView::Form_Load() {
     picImage.setPicture({});
     picImage.setPlace(emptyBox);
     picImage.setToolTip("");
+    keys.offer({});
     resize(emptyWidth + frameWidth, emptyHeight + frameHeight);
     fitWindow();
 }
@@ -60,7 +61,10 @@ void frmSSDView::cmdSelect_Click() {
             return;
         }
         picImage.setPicture(m_services.pictures.load(nativePath(*file)));
-        picImage.setToolTip(shownText(*file));
+        picImage.setToolTip(shownText(*file) + '\n' + SheetKeys::help);
+        if (m_services.actsFor) {
+            keys.offer(m_services.actsFor(nativePath(*file), picImage.picture()));
+        }
         cmdSelect.setToolTip("");
         fitWindow();
     } catch (const std::exception& error) {

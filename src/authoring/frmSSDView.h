@@ -5,8 +5,10 @@
 #include "Form.h"
 #include "Frame.h"
 #include "PictureBox.h"
+#include "SheetKeys.h"
 
 #include <filesystem>
+#include <functional>
 
 namespace fleetwright {
 
@@ -21,6 +23,9 @@ public:
         std::filesystem::path appFolder;
         Desktop& desktop;
         PictureFiles& pictures;
+        /// What can be done with the picture in a file. Empty if nothing can.
+        std::function<SheetActs(const std::filesystem::path& file, const Raster& picture)> actsFor =
+            {};
     };
 
     explicit frmSSDView(Services services);
@@ -37,9 +42,13 @@ public:
                         .toolTip = "Closes the window",
                         .isGraphical = true},
                        [this] { chkCancel_Click(); }};
-    PictureBox picImage{
-        *this,
-        {.name = "picImage", .place = emptyBox, .accessibleName = "Sheet", .isFramed = true}};
+    PictureBox picImage{*this,
+                        {.name = "picImage",
+                         .place = emptyBox,
+                         .accessibleName = "Sheet",
+                         .accessibleDescription = SheetKeys::help,
+                         .isFramed = true}};
+    SheetKeys keys{*this};  ///< on once a picture is shown
 
 protected:
     void Form_Load() override;

@@ -197,6 +197,25 @@ fs::path userDataFolder() {
     return dataHome.is_absolute() ? dataHome / ours : homeFolder() / ".local" / "share" / ours;
 }
 
+std::string fileNameOf(const std::string& name) {
+    constexpr std::size_t mostCharacters = 60;
+    constexpr std::size_t mostBytes = 160;  // file systems take 255, and all the rest follows
+    constexpr std::string_view forbidden = "/\\:*?\"<>|~";
+    std::string file;
+    for (const char c : name) {
+        const bool isControl = static_cast<unsigned char>(c) < ' ';
+        file += isControl || forbidden.find(c) != std::string_view::npos ? '_' : c;
+    }
+    if (const std::size_t length = characterCount(file); length > mostCharacters) {
+        file = withoutLastCharacters(file, length - mostCharacters);
+    }
+    while (file.size() > mostBytes) {
+        file = withoutLastCharacters(file, 1);
+    }
+    const std::size_t first = file.find_first_not_of(" .");
+    return first == std::string::npos ? "Unnamed" : file.substr(first);
+}
+
 fs::path putAsideFolder() {
     return userDataFolder() / "recovered";
 }

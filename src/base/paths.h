@@ -16,6 +16,10 @@ std::string pathText(const std::filesystem::path& path);
 /// The path that such a text means.
 std::filesystem::path nativePath(std::string_view utf8);
 
+/// A name that a user has given, as a part of a file's name: without what some file system does not
+/// take, and short. "Unnamed" if nothing is left of it.
+std::string fileNameOf(const std::string& name);
+
 /// The files of a folder, but no folders, whose names end in `ending` without regard to case; by
 /// name without regard to case. A folder that is not there has none. Throws FileError if it cannot
 /// be read.

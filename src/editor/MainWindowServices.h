@@ -13,6 +13,7 @@ class PictureFiles;
 class Printer;
 class RecoveryFolder;
 class SettingsStore;
+class SheetOutput;
 class StartUpProgress;
 class frmExtras;
 class frmPutAside;
@@ -41,6 +42,8 @@ struct MainWindowServices {
     /// Where designs are put aside; null if they are not. Then nobody looks for them.
     RecoveryFolder* recovery = nullptr;
     std::function<frmPutAside&()> putAside = {};  ///< is shown above this window, too
+    /// What shows, prints and exports sheets; null if nothing does.
+    std::function<const SheetOutput*()> sheets = [] { return nullptr; };
     /// Whether nothing of the start is on the screen any more.
     std::function<bool()> isStartOver = [] { return true; };
     /// Without a screen nobody sees the tree, and it is not built.

@@ -13,7 +13,11 @@ WindowCommands::WindowCommands(const PanelContext& context, MenuEntry& mnuExtras
     : Panel(context), m_extras(mnuExtras), m_helpTop(mnuHelpTop) {}
 
 void WindowCommands::show() {
-    mnuSSD.setEnabled(getsSheet(ship().mass(), services().globals.g_iLargestSSD));
+    const bool isServed = getsSheet(ship().mass(), services().globals.g_iLargestSSD);
+    mnuSSD.setEnabled(isServed);
+    mnuSSD.setToolTip(isServed
+                          ? "Draws the sheet as a bitmap"
+                          : "The ship is too heavy for a bitmap; see Design > Export Sheet...");
 }
 
 void WindowCommands::sayDroppedMaps() {

@@ -11,6 +11,7 @@
 #include "NamesPanel.h"
 #include "PreviewPanel.h"
 #include "RecoveryPanel.h"
+#include "SheetPanel.h"
 #include "ShipClass.h"
 #include "StatusBar.h"
 #include "SystemsPanel.h"
@@ -19,6 +20,7 @@
 #include "TreePanel.h"
 #include "WindowCommands.h"
 #include "clsMRUFiles.h"
+#include "sheetShip.h"
 
 #include <filesystem>
 #include <memory>
@@ -73,6 +75,8 @@ public:
     TrayPanel tray{m_context, mnuTaskBarFunctions};
     Timer tmrRefreshScreen{*this, "tmrRefreshScreen", 15000, true,
                            [this] { tmrRefreshScreen_Timer(); }};
+    SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
+                      [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); }};
     FileCommands files{m_context,

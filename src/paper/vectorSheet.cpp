@@ -1,6 +1,6 @@
-#include "PictureFiles.h"
 #include "RecordingSheet.h"
 #include "SSDMap.h"
+#include "SheetImages.h"
 #include "ShipClass.h"
 #include "damageTrackDrawing.h"
 #include "sheetDocument.h"
@@ -35,7 +35,7 @@ VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>&
     lists.fillShipWeap(lvCurrentWeapons);
     lists.fillPoints(map);
     RecordingSheet sheet(sources.drawings);
-    sheet.setPicture(sources.pictures.load(map.outlineFile()));
+    sheet.setPicture(outlineOf(map, sources.pictures));
     drawSSD(sheet, sources.images, map, lists, ship);
     SheetRecord record = sheet.takeRecord();
     addGreatTrack(record, ship.ship, map);

@@ -29,7 +29,7 @@ struct ControlDesign {
     std::string text = {};     ///< of a text box
     std::string picture = {};  ///< name of the picture that is the control's face
     std::string toolTip = {};
-    std::string shortcut = {};        ///< of a menu entry: "Ctrl+N"
+    std::string shortcut = {};        ///< of a menu entry or shortcut: "Ctrl+N"
     bool isVerbatim = false;          ///< of a menu entry: an "&" is one, and marks no access key
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
     std::string accessibleDescription = {};  ///< where the caption is a value: what is told by it

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace fleetwright {
 
@@ -22,8 +23,12 @@ struct FileDialog {
     std::string filter;
     int filterIndex = 1;  ///< the pair that is chosen at first, counted from 1
     std::filesystem::path initialFolder;
+    std::string fileName = {};  ///< the name that is suggested, if any
     /// What the rules add to a name that lacks it. The desktop asks before that file is replaced.
     std::string extension = {};
+    /// Where the user chooses a kind of file: its ending for each pair of the filter. A name that
+    /// has none of them gets the one of the pair that is chosen at the end.
+    std::vector<std::string> endings = {};
 };
 
 /// The dialog in which a picture is chosen, which opens in this folder.

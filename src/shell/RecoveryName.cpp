@@ -1,5 +1,6 @@
 #include "RecoveryName.h"
 
+#include "paths.h"
 #include "text.h"
 
 #include <algorithm>
@@ -14,26 +15,6 @@ namespace {
 constexpr std::string_view beforeMass = ", mass ";
 constexpr std::string_view beforeTime = ", ";
 constexpr std::string_view beforeNumber = " #";
-
-/// A ship's name as a part of a file's: without what some file system does not take, and short.
-std::string fileNameOf(const std::string& shipName) {
-    constexpr std::size_t mostCharacters = 60;
-    constexpr std::size_t mostBytes = 160;  // file systems take 255, and all the rest follows
-    constexpr std::string_view forbidden = "/\\:*?\"<>|~";
-    std::string name;
-    for (const char c : shipName) {
-        const bool isControl = static_cast<unsigned char>(c) < ' ';
-        name += isControl || forbidden.find(c) != std::string_view::npos ? '_' : c;
-    }
-    if (const std::size_t length = characterCount(name); length > mostCharacters) {
-        name = withoutLastCharacters(name, length - mostCharacters);
-    }
-    while (name.size() > mostBytes) {
-        name = withoutLastCharacters(name, 1);
-    }
-    const std::size_t first = name.find_first_not_of(" .");
-    return first == std::string::npos ? "Unnamed" : name.substr(first);
-}
 
 /// The number that a text is, written as this program writes numbers; nothing for any other text.
 template <typename Number>

@@ -34,7 +34,8 @@ void frmMapper::Form_Load() {
     picSSD.setAutoSize(true);
     std::int32_t iShipWeapCount = 0;
     try {
-        iShipWeapCount = m_lists.fillShipWeap(m_services.lvCurrentWeapons.rows());
+        m_aboard = m_services.lvCurrentWeapons.rows();
+        iShipWeapCount = m_lists.fillShipWeap(m_aboard);
     } catch (const Error& error) {
         // So many pieces of one system are on no map.
         fail("The ship has too many systems for a sheet!!!", "SSD Creation Error", error);
@@ -55,6 +56,7 @@ void frmMapper::startAnew() {
     m_lists = {};
     m_Map.reset();
     m_bestFit.reset();
+    keys.offer({});
     cboMapSelection.setToolTip("");
     m_lastFault.clear();
     cmdDrawIt.setEnabled(true);
@@ -110,6 +112,9 @@ void frmMapper::drawSheet() {
         picSSD.fitToPicture();
         picSSD.showDrawn();
         fitToSheet();
+        if (m_services.actsFor) {
+            keys.offer(m_services.actsFor(*m_Map, m_aboard, picSSD.picture()));
+        }
     } catch (const Error& error) {
         fail("Could not create the SSD!", "SSD Creation Error", error);
         try {
@@ -125,6 +130,9 @@ void frmMapper::fail(const std::string& text, const std::string& title,
     m_lastFault = cause.what();
     if (const auto* const error = dynamic_cast<const FileError*>(&cause)) {
         m_lastFault = complaint(*error);
+    }
+    if (m_services.say) {
+        m_services.say(m_lastFault);
     }
     m_services.desktop.showMessage(text, title, Buttons::Ok, Icon::Critical);
 }
@@ -160,13 +168,17 @@ std::int16_t frmMapper::largerOf(std::int16_t a, std::int16_t b) {
     return std::max(a, b);
 }
 
-/// Gives the window the size that shows sheet and frame. Throws OverflowError if one of them is
-/// wider than 16 bits hold.
+/// Gives the window the size that shows sheet and frame. Throws Error if one of them is wider than
+/// 16 bits hold.
 void frmMapper::fitToSheet() {
     constexpr int roomAbove = 100;
     constexpr int roomBelow = 100;
     const Place& sheet = picSSD.place();
     const Place& frame = fraControls.place();
+    if (constexpr int most = 32767; sheet.width > most) {
+        throw Error("the outline is too wide for a sheet: " +
+                    std::to_string(picSSD.picture().width()) + " pixels");
+    }
     const std::int16_t widest =
         largerOf(narrow<std::int16_t>(sheet.width), narrow<std::int16_t>(frame.width));
     if (state() == WindowState::Normal) {

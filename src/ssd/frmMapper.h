@@ -7,6 +7,7 @@
 #include "PictureBox.h"
 #include "SSDMaps.h"
 #include "SheetImages.h"
+#include "SheetKeys.h"
 #include "SheetLists.h"
 #include "drawSSD.h"
 
@@ -14,6 +15,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -36,6 +38,11 @@ public:
         const ListView& lvCurrentWeapons;  ///< the main window's list of systems aboard
         /// The current ship and its figures as the main window shows them.
         std::function<SheetShip()> ship;
+        /// What can be done with the sheet that was just drawn, of these systems aboard. Empty if
+        /// nothing can.
+        std::function<SheetActs(const SSDMap&, const std::vector<ListView::Row>&, const Raster&)>
+            actsFor = {};
+        std::function<void(const std::string&)> say = {};  ///< shows a text on the status line
     };
 
     explicit frmMapper(Services services);
@@ -50,11 +57,20 @@ public:
                      {.name = "cmdDrawIt", .place = {2310, 210, 1065, 330}, .caption = "Draw It!"},
                      [this] { cmdDrawIt_Click(); }};
     Button cmdSave{fraControls,
-                   {.name = "cmdSave", .place = {3465, 210, 1065, 330}, .caption = "Save It!"},
+                   {.name = "cmdSave",
+                    .place = {3465, 210, 1065, 330},
+                    .caption = "Save It!",
+                    .toolTip = "Saves the sheet as a bitmap and closes the window",
+                    .accessibleDescription = SheetKeys::help},
                    [this] { cmdSave_Click(); }};
     /// The sheet.
-    PictureBox picSSD{
-        *this, {.name = "picSSD", .place = {105, 735, 4635, 120}, .accessibleName = "Sheet"}};
+    PictureBox picSSD{*this,
+                      {.name = "picSSD",
+                       .place = {105, 735, 4635, 120},
+                       .toolTip = SheetKeys::help,
+                       .accessibleName = "Sheet",
+                       .accessibleDescription = SheetKeys::help}};
+    SheetKeys keys{*this};  ///< on once a sheet was drawn
 
     /// The map that fits the ship best, as the tool tip of the list says; null if none does.
     const SSDMaps::Map& bestFit() const { return m_bestFit; }
@@ -85,8 +101,9 @@ private:
     SSDMaps::Map m_bestFit;
     SSDMaps::Map m_Map;  ///< the map of this sheet
     SheetLists m_lists;
-    bool bInPaint = false;   ///< the paint handler is at work
-    bool bInResize = false;  ///< the resize handler is at work
+    std::vector<ListView::Row> m_aboard;  ///< the systems when the window has opened
+    bool bInPaint = false;                ///< the paint handler is at work
+    bool bInResize = false;               ///< the resize handler is at work
     std::string m_lastFault;
 };
 

@@ -48,6 +48,9 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     type("0 New");
     mapper.click("push button", "Draw It!");
     mapper.waitUntil("push button", "Draw It!", ATSPI_STATE_ENABLED, false);
+    press("ctrl+e");
+    chooseFile("Save As", path("ssds/carrier.png"));
+    waitForFile("ssds/carrier.png", "IEND");
     mapper.click("push button", "Save It!");
     chooseFile("Save As", path("ssds/sheet"));
     mapper.waitUntilGone();
@@ -58,7 +61,23 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     const Window viewer("View SSD");
     const int emptyWidth = viewer.get("frame", "Sheet").place().width;
     viewer.click("push button", "Select File");
-    chooseFile("Open", path("ssds/sheet.bmp"));
+    chooseFile("Open", path("ssds/carrier.png"));
     waitFor("the sheet to be shown",
             [&] { return viewer.get("frame", "Sheet").place().width > emptyWidth; });
+    // The ship has come along, and goes on from here.
+    waitForKeyboard("View SSD");
+    press("ctrl+e");
+    chooseFile("Save As", path("ssds/again.svg"));
+    waitForFile("ssds/again.svg", "</svg>");
+    close("View SSD");
+    for (const auto& [from, to] :
+         {std::pair("again.svg", "first.pdf"), {"first.pdf", "last.pdf"}}) {
+        window->load(path("ships/Wren.shp"));
+        window->load(path(std::string("ssds/") + from));
+        press("ctrl+e");
+        chooseFile("Save As", path(std::string("ssds/") + to));
+        waitForFile(std::string("ssds/") + to, "%%EOF");
+    }
+    EXPECT_TRUE(folder.read("ssds/first.pdf") == folder.read("ssds/last.pdf"));
+    EXPECT_EQ(tool({"report", path("ssds/last.pdf")}), tool({"report", ship}));
 }

@@ -7,6 +7,7 @@
 #include "caseFile.h"
 #include "forSeeds.h"
 #include "formTexts.h"
+#include "readShip.h"
 
 #include <gtest/gtest.h>
 
@@ -86,12 +87,14 @@ public:
             EXPECT_EQ(m_window.hull.fraThrust.isEnabled(), !isBase(ship->Hull()));
         }
         for (const auto& file : fs::recursive_directory_iterator(m_test.folder().path())) {
-            if (file.path().filename().string().find(".shp") != std::string::npos) {
-                const std::string name =
-                    file.path().lexically_relative(m_test.folder().path()).string();
+            const std::string name =
+                file.path().lexically_relative(m_test.folder().path()).string();
+            if (name.find(".shp") != std::string::npos || name.starts_with("ssds/")) {
                 const std::string shown =  // without the number of its run
                     name.substr(0, name.find_first_of("0123456789", name.find('~')));
-                seen["file " + shown] = replaced(m_test.folder().read(name), "\r\n", ", ");
+                const std::string held = name.ends_with(".png") ? readShip(file.path()).text
+                                                                : m_test.folder().read(name);
+                seen["file " + shown] = replaced(held, "\r\n", ", ");
             }
         }
         return seen;
@@ -149,7 +152,12 @@ private:
             {"no paper", [this] { m_test.printerFails = true; }},
             {"largest 4", [this] { m_test.globals.g_iLargestSSD = 4; }},
             {"maps scanned",
-             [this] { m_test.globals.droppedMaps = loadMaps(m_test.folder().path()).dropped; }},
+             [this] {
+                 const LoadedMaps maps = loadMaps(m_test.folder().path());
+                 m_test.globals.droppedMaps = maps.dropped;
+                 m_test.globals.g_colSSDMaps = maps.maps;
+                 m_test.globals.g_iLargestSSD = maps.g_iLargestSSD;
+             }},
             {"catalogue fault", [this] { m_test.catalogueFaults = "weaps.dat:3: double key\n"; }},
             {"saved", [this] { m_test.ship().g_bSaved = true; }},
             {"name", [this] { m_test.ship().g_sShipName = "Renamed"; }},
@@ -281,7 +289,7 @@ private:
 }  // namespace
 
 TEST(FrmMain, ShowsWhatIsDone) {
-    for (const char* const file : {"design", "systems", "files", "acts"}) {
+    for (const char* const file : {"design", "systems", "files", "acts", "sheets"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });

@@ -1,7 +1,10 @@
 #include "testWindow.h"
 
 #include "Error.h"
+#include "PngChunks.h"
 #include "Trash.h"
+
+#include <cmath>
 
 #include <utility>
 
@@ -117,6 +120,34 @@ private:
     int m_lines = 0;
 };
 
+/// Writes down which pages it gets. Its files say that, too; no picture has a drawing.
+class TestWindow::Sheets : public PagePrinter, public PictureEncoder, public Drawings {
+public:
+    explicit Sheets(TestWindow& test) : m_test(test) {}
+
+    bool print(const Layout& layout) override {
+        m_test.m_log += "print " + textOf(layout(paperLetter)) + "; ";
+        return m_test.printerFails ? throw Error("no paper") : m_test.copies.has_value();
+    }
+    void preview(const Layout& layout) override {
+        m_test.m_log += "preview " + textOf(layout(paperLetter)) + "; ";
+    }
+    std::string pdf(const PageDocument& pages) override { return "PDF " + textOf(pages); }
+    std::string encode(const Raster& picture, const std::string& format) override {
+        return std::string(pngSignature) + pngChunk("IHDR", format) +
+               pngChunk("IEND", std::to_string(picture.width()));
+    }
+    std::shared_ptr<const Drawing> of(const Raster&) const override { return nullptr; }
+
+    static std::string textOf(const PageDocument& pages) {
+        return std::to_string(pages.pages.size()) + " of " + pages.title + " on " +
+               std::to_string(std::lround(pages.size.width));
+    }
+
+private:
+    TestWindow& m_test;
+};
+
 /// A folder of the test.
 class TestWindow::Bin : public Trash {
 public:
@@ -139,6 +170,7 @@ private:
 TestWindow::TestWindow(std::string_view catalogue)
     : m_desk(std::make_unique<Desk>(*this)), m_pictures(std::make_unique<Pictures>(*this)),
       m_progress(std::make_unique<Progress>(*this)), m_paper(std::make_unique<Paper>(*this)),
+      m_sheets(std::make_unique<Sheets>(*this)),
       m_extras(
           {.desktop = *m_desk,
            .globals = globals,
@@ -182,7 +214,21 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .showMapCreator = [this] { openOther("map creator"); },
                            .recovery = &m_recovery,
                            .putAside = [this]() -> frmPutAside& { return m_putAside; },
+                           .sheets = [this] { return m_output.get(); },
                            .isStartOver = [this] { return isStartOver; }});
+    m_cached = std::make_unique<PictureCache>(*m_pictures);
+    m_images = programImages(m_folder.path(), *m_cached, window().tree.ilWeapons);
+    m_output = std::make_unique<SheetOutput>(SheetOutput::Services{
+        .appFolder = m_folder.path(),
+        .desktop = *m_desk,
+        .printer = *m_sheets,
+        .encoder = *m_sheets,
+        .svgFile = [](const PageDocument& pages) { return "SVG " + Sheets::textOf(pages); },
+        .sources = {*m_cached, m_images, *m_sheets},
+        .g_colSSDMaps = globals.g_colSSDMaps,
+        .g_iLargestSSD = globals.g_iLargestSSD,
+        .newShip = {},
+        .say = [this](const std::string& text) { window().sbStatus.setText(text); }});
 }
 
 TestWindow::~TestWindow() = default;

@@ -2,9 +2,12 @@
 
 #include "Desktop.h"
 #include "Globals.h"
+#include "PictureCache.h"
 #include "PictureFiles.h"
 #include "Printer.h"
 #include "RecoveryFolder.h"
+#include "SheetImages.h"
+#include "SheetOutput.h"
 #include "StartUpProgress.h"
 #include "fakeServices.h"
 #include "frmExtras.h"
@@ -68,6 +71,7 @@ private:
     class Paper;
     class Pictures;
     class Progress;
+    class Sheets;
     class Bin;
 
     void takeTurn();
@@ -80,12 +84,16 @@ private:
     std::unique_ptr<Progress> m_progress;
     MemorySettings m_settings;
     std::unique_ptr<Paper> m_paper;
+    std::unique_ptr<Sheets> m_sheets;
     frmExtras m_extras;
     int m_time = 0;
     std::unique_ptr<Bin> m_bin;
     RecoveryFolder m_recovery;
     frmPutAside m_putAside;
     std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<PictureCache> m_cached;
+    SheetImages m_images;
+    std::unique_ptr<SheetOutput> m_output;
 };
 
 }  // namespace fleetwright

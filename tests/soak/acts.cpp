@@ -4,6 +4,7 @@
 #include "Button.h"
 #include "CheckBox.h"
 #include "ComboBox.h"
+#include "Shortcut.h"
 #include "Slider.h"
 
 namespace fleetwright {
@@ -82,6 +83,7 @@ const std::vector<Act> acts = {
     on<OptionButton>("choose", 3, [](auto&, auto& option) { option.choose(); }),
     on<MenuEntry>("choose", 3,
                   [](auto& me, auto& entry) { mayEnd(me, entry) ? entry.choose() : void(); }),
+    on<Shortcut>("press", 3, [](auto&, auto& shortcut) { shortcut.press(); }),
     on<UpDown>("up", 3, [](auto&, auto& arrows) { arrows.pressUp(); }),
     on<UpDown>("down", 3, [](auto&, auto& arrows) { arrows.pressDown(); }),
     on<Slider>("slide", 6,

@@ -54,22 +54,13 @@ std::string readAndChecked(std::string_view file) {
     return text + textOf(checkMapFile(file, folder.path()));
 }
 
-/// Which of the maps "SIZE weapons parties fire controls name" each ship "mass hull" takes.
+/// Which of the maps "name=text" each ship "mass hull" takes.
 std::string taken(const Case& given) {
     const TemporaryFolder folder;
     for (const std::string& line : linesOf(given["maps"])) {
-        std::istringstream map(line);
-        std::string text = "SIZE: ", name;
-        map >> name;
-        text += name + '\n';
-        for (const char* const point : {"WEAP: (1,2,F)\n", "DCP: (1,2)\n", "FIRECON: (1,2)\n"}) {
-            int count = 0;
-            for (map >> count; count > 0; --count) {
-                text += point;
-            }
-        }
-        std::getline(map >> std::ws, name);
-        folder.write("maps/" + name + ".map", text);
+        const std::size_t end = line.find('=');
+        folder.write("maps/" + line.substr(0, end) + ".map",
+                     replaced(line.substr(end + 1), ";", "\n"));
     }
     const SSDMaps maps = loadMaps(folder.path()).maps;
     const ShipYard yard(arcCatalogue);

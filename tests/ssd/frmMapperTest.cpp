@@ -70,6 +70,8 @@ struct Mapper : PictureEncoder {
             {"file", [&] { desktop.choice = (folder.path() / what).string(); }},
             {"save", [&] { window.cmdSave.press(); }},
             {"link", [&] { fs::create_hard_link(desktop.choice.value(), folder.path() / what); }},
+            {"press",
+             [&] { (what == "P" ? window.keys.keyPrint : window.keys.keyExport).press(); }},
             {"answer", [&] { desktop.answer = what == "no" ? Answer::No : Answer::Yes; }},
         };
         acts.at(line.substr(0, end))();
@@ -131,10 +133,18 @@ struct Mapper : PictureEncoder {
                              [this](std::string_view name) -> const Raster& {
                                  return name == SheetImages::blank ? blank : coloured;
                              }};
-    frmMapper window{{folder.path(), desktop, pictures, *this, images, maps, systems, [this] {
+    frmMapper window{{folder.path(), desktop, pictures, *this, images, maps, systems,
+                      [this] {
                           const std::string cost = std::to_string(ship->g_lCost);
                           return SheetShip{"5", parties, "1", "Magpie", "Åsa", cost, *ship};
-                      }}};
+                      },
+                      [this](const SSDMap& map, const auto& aboard, const Raster& sheet) {
+                          const std::string drawn = map.sDisplayName + aboard.at(0).subItem + ' ' +
+                                                    std::to_string(sheet.height()) + "; ";
+                          return SheetActs{[=, this] { desktop.log += "print " + drawn; },
+                                           [=, this] { desktop.log += "export " + drawn; }};
+                      },
+                      [this](const std::string& text) { desktop.log += "say " + text + "; "; }}};
 };
 
 }  // namespace

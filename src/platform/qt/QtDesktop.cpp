@@ -16,6 +16,8 @@
 #include <QScreen>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace fleetwright {
 
 namespace {
@@ -55,7 +57,28 @@ void prepareDialog(QFileDialog& dialog, const FileDialog& wanted) {
     dialog.setNameFilters(nameFilters(wanted.filter));
     dialog.selectNameFilter(dialog.nameFilters().value(wanted.filterIndex - 1));
     dialog.setDirectory(toQt(wanted.initialFolder.string()));
+    dialog.selectFile(toQt(wanted.fileName));
     widenColumns(dialog);
+}
+
+/// What is added to a name that does not say which kind of file is meant.
+QString missingEnding(const QFileDialog& dialog, const FileDialog& wanted, const QString& chosen) {
+    const auto says = [&chosen](const std::string& ending) {
+        return chosen.endsWith(toQt(ending), Qt::CaseInsensitive);
+    };
+    if (std::any_of(wanted.endings.begin(), wanted.endings.end(), says)) {
+        return {};
+    }
+    // Qt's own dialog says the label alone, the desktop's the whole filter.
+    const QString selected = dialog.selectedNameFilter();
+    const QStringList filters = dialog.nameFilters();
+    for (std::size_t pair = 0; pair < wanted.endings.size(); ++pair) {
+        const QString filter = filters.value(static_cast<qsizetype>(pair));
+        if (filter == selected || filter.startsWith(selected + " (")) {
+            return toQt(wanted.endings[pair]);
+        }
+    }
+    return {};
 }
 
 /// Whether a file may be written that the dialog itself has not asked about, because the rules add
@@ -141,8 +164,9 @@ std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted)
     const QString extension = toQt(wanted.extension);
     while (dialog.exec() == QDialog::Accepted) {
         const QString chosen = dialog.selectedFiles().value(0);
-        if (mayReplace(chosen, extension)) {
-            return chosen.toStdString();
+        const QString ending = missingEnding(dialog, wanted, chosen);
+        if (mayReplace(chosen, ending.isEmpty() ? extension : ending)) {
+            return (chosen + ending).toStdString();
         }
     }
     return std::nullopt;

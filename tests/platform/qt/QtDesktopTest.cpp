@@ -91,6 +91,27 @@ TEST(QtDesktop, FileDialogsHandOnWhatIsChosenAndAskBeforeAFileIsReplaced) {
     EXPECT_EQ(desktop.chooseFileToSave(dialog), std::nullopt);
 }
 
+TEST(QtDesktop, TheEndingOfAFileOrElseTheChosenFilterSaysItsKind) {
+    const TemporaryFolder folder;
+    folder.write("Wasp 1.2.b", "");
+    const auto chosen = [&](int filter, const char* name,
+                            std::vector<std::function<void(QDialog&)>> further) {
+        further.insert(further.begin(), [&](QDialog& dialog) {
+            auto& asking = dynamic_cast<QFileDialog&>(dialog);
+            asking.selectNameFilter(asking.nameFilters().at(filter));
+            choose(name)(dialog);
+        });
+        inDialogs(std::move(further));
+        const auto file =
+            QtDesktop().chooseFileToSave({.filter = "All (*.*)|*.*|A (*.a)|*.a|B (*.b)|*.b",
+                                          .initialFolder = folder.path(),
+                                          .endings = {".a", ".a", ".b"}});
+        return std::filesystem::path(file.value_or("none")).filename().string();
+    };
+    EXPECT_EQ(chosen(0, "Bee 1.2", {}) + chosen(1, "Bee.B", {}), "Bee 1.2.aBee.B");
+    EXPECT_EQ(chosen(2, "Wasp 1.2", {answer(QMessageBox::No), cancel}), "none");
+}
+
 TEST(QtDesktop, MessagesHaveTheirTitleIconAndAnswers) {
     QtDesktop desktop;
     const struct {

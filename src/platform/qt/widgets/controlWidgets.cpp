@@ -11,6 +11,7 @@
 #include "Menu.h"
 #include "OptionButton.h"
 #include "PictureBox.h"
+#include "Shortcut.h"
 #include "Slider.h"
 #include "StatusBar.h"
 #include "TextBox.h"
@@ -73,6 +74,9 @@ QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMain
         addMenu(*menu, window.menuBar());
     } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
         addTrayIcon(*tray, &window);
+    } else if (auto* const shortcut = dynamic_cast<Shortcut*>(&control)) {
+        new QShortcut(QKeySequence(toQt(control.design().shortcut)), &window,
+                      [shortcut] { shortcut->press(); });
     } else if (auto* const image = dynamic_cast<DragImage*>(&control)) {
         keepAttached(&window,
                      image->DragWanted.connect([image, &window] { dragImage(*image, &window); }));

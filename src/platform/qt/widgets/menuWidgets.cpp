@@ -33,6 +33,7 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
                             : toQt(entry.caption()));
         action->setEnabled(entry.isEnabled());
         action->setVisible(entry.isVisible());
+        action->setToolTip(toToolTip(entry.toolTip()));
         // A mark makes room for itself only in entries that have ever had one.
         action->setCheckable(action->isCheckable() || entry.isChecked());
         action->setChecked(entry.isChecked());
@@ -45,6 +46,7 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
 
 void fillMenu(QMenu* menu, MenuEntry& entry) {
     menu->setObjectName(toQt(entry.name()));
+    menu->setToolTipsVisible(true);
     for (Control* const control : entry.controls()) {
         addEntry(menu, *dynamic_cast<MenuEntry*>(control));
     }

@@ -1,0 +1,223 @@
+#include "SheetOutput.h"
+
+#include "Desktop.h"
+#include "Error.h"
+#include "PictureFiles.h"
+#include "RasterSheet.h"
+#include "SheetImages.h"
+#include "ShipClass.h"
+#include "bestMap.h"
+#include "carriedShips.h"
+#include "paths.h"
+#include "saveFile.h"
+#include "text.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* pdfEnding = ".pdf";
+constexpr const char* svgEnding = ".svg";
+constexpr const char* pngEnding = ".png";
+
+/// The dialog in which a sheet gets its file.
+FileDialog sheetDialog(const OutgoingSheet& sheet, const fs::path& folder) {
+    FileDialog dialog{.filter =
+                          "All Files (*.*)|*.*|PDF Files (*.pdf)|*.pdf|SVG Files (*.svg)|*.svg",
+                      .filterIndex = 2,
+                      .initialFolder = folder,
+                      .fileName = fileNameOf(sheet.name) + pdfEnding,
+                      .endings = {pdfEnding, pdfEnding, svgEnding}};
+    if (!sheet.bitmap.isEmpty()) {
+        dialog.filter += "|PNG Files (*.png)|*.png";
+        dialog.endings.push_back(pngEnding);
+    }
+    return dialog;
+}
+
+/// The ending of a file's name that says a format of sheets; empty if it says none.
+std::string endingOf(const std::string& file) {
+    const std::string name = toSmallLetters(file);
+    for (const char* const ending : {pdfEnding, svgEnding, pngEnding}) {
+        if (name.ends_with(ending)) {
+            return ending;
+        }
+    }
+    return {};
+}
+
+/// A picture in the middle of a page, as large as its margins let it be.
+PageDocument pictureDocument(const std::string& name, const std::shared_ptr<const Raster>& picture,
+                             const PageSize& paper) {
+    const double scale = std::min((paper.width - 2 * paperMargin) / picture->width(),
+                                  (paper.height - 2 * paperMargin) / picture->height());
+    const double width = picture->width() * scale, height = picture->height() * scale;
+    const Box place{(paper.width - width) / 2, (paper.height - height) / 2, width, height};
+    PageDocument document;
+    document.size = paper;
+    document.title = name;
+    document.pages.push_back({{PagePicture{nullptr, picture, place, place}}});
+    return document;
+}
+
+/// What all maps lack for a ship that fits on none.
+std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, const SheetOutput::Rows& aboard) {
+    const std::string ship = "a ship of mass " + std::to_string(mass);
+    if (!fittingMaps(maps, mass, 0).empty()) {
+        return "No map for " + ship + " has a place for each of its systems (" +
+               std::to_string(SheetLists().fillShipWeap(aboard)) + ')';
+    }
+    return maps.all().empty() ? "There are no maps" : "There is no map for " + ship;
+}
+
+/// The systems aboard as the main window lists them.
+SheetOutput::Rows rowsOf(const ShipClass& ship) {
+    SheetOutput::Rows rows;
+    for (const WeapRec& system : ship.systemsAboard()) {
+        const std::string name(system.name);
+        rows.push_back({.key = name, .text = name, .subItem = std::to_string(system.amount)});
+    }
+    return rows;
+}
+
+SheetShip sheetShipOf(ShipClass& ship) {
+    return {.txtDP = std::to_string(ship.g_iDP),
+            .txtDCP = std::to_string(ship.g_iDCP),
+            .txtFireCon = std::to_string(ship.g_iFCS),
+            .txtShipName = ship.g_sShipName,
+            .txtDesigner = ship.g_sDesignerName,
+            .txtCost = std::to_string(ship.g_lCost),
+            .ship = ship};
+}
+
+}  // namespace
+
+void SheetOutput::attempt(const std::function<void()>& task) const {
+    std::string fault;
+    try {
+        task();
+        return;
+    } catch (const FileError& error) {
+        fault = complaint(error);
+    } catch (const std::exception& error) {
+        fault = error.what();
+    }
+    m_services.desktop.showMessage(fault, "Sheet", Buttons::Ok, Icon::Critical);
+}
+
+void SheetOutput::preview(const Source& sheet) const {
+    attempt([&] { m_services.printer.preview(sheet().pages); });
+}
+
+void SheetOutput::print(const Source& sheet) const {
+    attempt([&] {
+        if (m_services.printer.print(sheet().pages)) {
+            m_services.say("The sheet is on its way to the printer");
+        }
+    });
+}
+
+void SheetOutput::exportFile(const Source& source) const {
+    attempt([&] {
+        const OutgoingSheet sheet = source();
+        const std::optional<std::string> name =
+            m_services.desktop.chooseFileToSave(sheetDialog(sheet, m_services.appFolder / "ssds"));
+        if (!name) {
+            return;
+        }
+        const bool saysFormat = !endingOf(*name).empty();
+        const fs::path file = nativePath(saysFormat ? *name : *name + pdfEnding);
+        if (maySave(m_services.desktop, file)) {
+            saveFile(file, contents(sheet, endingOf(pathText(file))));
+            m_services.say("Saved " + shownText(pathText(file)));
+        }
+    });
+}
+
+SheetActs SheetOutput::acts(Source sheet) const {
+    return {.print = [this, sheet] { print(sheet); },
+            .exportFile = [this, sheet] { exportFile(sheet); }};
+}
+
+SheetOutput::Source SheetOutput::madeAtOnce(const Source& sheet) {
+    try {
+        return [made = sheet()] { return made; };
+    } catch (const Error& error) {
+        return [fault = faultOf({}, error)]() -> OutgoingSheet { throw Error(fault); };
+    }
+}
+
+std::string SheetOutput::contents(const OutgoingSheet& sheet, const std::string& ending) const {
+    if (ending == svgEnding) {
+        return m_services.svgFile(sheet.pages(paperA4));
+    }
+    if (ending == pdfEnding) {
+        return m_services.printer.pdf(sheet.pages(paperA4));
+    }
+    if (sheet.bitmap.isEmpty()) {
+        throw Error("The ship is too heavy for a bitmap; a .pdf or .svg can be made");
+    }
+    const std::string png = m_services.encoder.encode(sheet.bitmap, "png");
+    return sheet.shipFile.empty() ? png : withShip(png, sheet.shipFile);
+}
+
+OutgoingSheet SheetOutput::onMap(const SheetShip& ship, const Rows& aboard, const SSDMap& map,
+                                 Raster bitmap) const {
+    const VectorSheet sheet = vectorSheet(ship, aboard, map, m_services.sources);
+    return {.name = ship.txtShipName,
+            .pages =
+                [sheet](const PageSize& paper) { return sheetDocument({sheet}, {.paper = paper}); },
+            .bitmap = std::move(bitmap),
+            .shipFile = sheet.shipFile};
+}
+
+/// The map that fits a ship best; null if there is none.
+SSDMaps::Map SheetOutput::mapFor(const ShipClass& ship, const Rows& aboard) const {
+    SheetLists lists;
+    lists.fillShipWeap(aboard);
+    return bestMap(m_services.g_colSSDMaps, ship, lists.lstShipWeap);
+}
+
+OutgoingSheet SheetOutput::onBestMap(const SheetShip& ship, const Rows& aboard) const {
+    const SSDMaps::Map map = mapFor(ship.ship, aboard);
+    if (!map) {
+        throw Error(whyNoMap(m_services.g_colSSDMaps, ship.ship.mass(), aboard));
+    }
+    const bool hasBitmap = getsSheet(ship.ship.mass(), m_services.g_iLargestSSD);
+    return onMap(ship, aboard, *map, hasBitmap ? bitmapOn(*map, ship, aboard) : Raster());
+}
+
+Raster SheetOutput::bitmapOn(const SSDMap& map, const SheetShip& ship, const Rows& aboard) const {
+    SheetLists lists;
+    lists.fillShipWeap(aboard);
+    lists.fillPoints(map);
+    Raster bitmap = outlineOf(map, m_services.sources.pictures);
+    RasterSheet sheet(bitmap);
+    drawSSD(sheet, m_services.sources.images, map, lists, ship);
+    return bitmap;
+}
+
+OutgoingSheet SheetOutput::ofPicture(const fs::path& file, const Raster& picture) const {
+    const std::unique_ptr<ShipClass> ship = m_services.newShip();
+    if (ship->loadShip(pathText(file)) && ship->refusedLines().empty()) {
+        ship->weapChange();  // a ship without systems has no figures yet
+        const Rows aboard = rowsOf(*ship);
+        if (const SSDMaps::Map map = mapFor(*ship, aboard)) {
+            return onMap(sheetShipOf(*ship), aboard, *map, picture);
+        }
+    }
+    const std::string name = pathText(file.stem());
+    return {.name = name,
+            .pages = [name, shared = std::make_shared<const Raster>(picture)](
+                         const PageSize& paper) { return pictureDocument(name, shared, paper); },
+            .bitmap = picture,
+            .shipFile = {}};
+}
+
+}  // namespace fleetwright
