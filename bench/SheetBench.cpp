@@ -1,12 +1,7 @@
 // The bitmaps of 200 sheets against the bare decoding and encoding of their pictures.
 
 #include "GoalTable.h"
-#include "PictureCache.h"
 #include "SheetWorld.h"
-#include "ShipOnScreen.h"
-#include "ToolPictures.h"
-#include "drawnSheet.h"
-#include "inOrder.h"
 #include "qtImage.h"
 
 #include <QBuffer>
@@ -21,23 +16,10 @@ namespace fleetwright {
 namespace {
 
 void sheets(benchmark::State& state, unsigned threads) {
-    const SheetWorld& world = sheetWorld();
-    for ([[maybe_unused]] auto _ : state) {
-        ToolPictures files(APP_FOLDER);
-        PictureCache cache(files);
-        std::size_t bytes = 0;
-        inOrder(
-            sheetCount, threads,
-            [&](std::size_t index) {
-                ShipOnScreen screen(startedFolder());
-                screen.load(world.ships[index]);
-                const Raster sheet = drawnSheet(
-                    screen, {startedFolder(), cache, cache, files, world.maps}, std::string());
-                return Result{.output = files.encode(sheet, "bmp"), .complaints = {}};
-            },
-            [&](std::size_t, const Result& result) { bytes += result.output.size(); });
-        benchmark::DoNotOptimize(bytes);
-    }
+    makeSheets(state, threads,
+               [](const ShipOnScreen& screen, const SheetTools& tools, ToolPictures& files) {
+                   return files.encode(drawnSheet(screen, tools, std::string()), "bmp");
+               });
 }
 
 /// The size of a bitmap as Qt encodes it.

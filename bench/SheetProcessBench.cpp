@@ -90,7 +90,7 @@ SheetParts sheetParts() {
     Raster raster = files.load(map->outlineFile());
     NotedPastes pastes(raster, screen.ship());
     const SheetImages images =
-        pastes.noting(catalogueImages(startedFolder(), files, screen.ship()));
+        pastes.noting(catalogueImages(picturesReadOnce(startedFolder(), files), screen.ship()));
     drawSSD(pastes, images, *map, lists, sheetShip(screen.window()));
     return {map->outlineFile().string(), raster.width(), raster.height(), pastes.pastes};
 }

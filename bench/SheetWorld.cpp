@@ -1,8 +1,10 @@
 #include "SheetWorld.h"
 
 #include "BenchFolder.h"
-#include "ShipOnScreen.h"
-#include "drawnSheet.h"
+#include "DrawingPack.h"
+#include "Error.h"
+#include "PictureCache.h"
+#include "inOrder.h"
 #include "paths.h"
 
 #include <cstdlib>
@@ -16,7 +18,8 @@ const fs::path& startedFolder() {
     static const fs::path folder = [] {
         fs::path made = benchFolder() / "started";
         fs::create_directory(made);
-        for (const char* const entry : {"weaps.dat", "ships", "maps", "shipimages"}) {
+        for (const char* const entry :
+             {"weaps.dat", "ships", "maps", "shipimages", "drawings.dat"}) {
             fs::create_symlink(fs::path(APP_FOLDER) / entry, made / entry);
         }
         fs::create_symlink(PICTURES_FOLDER "/images", made / "images");
@@ -27,13 +30,16 @@ const fs::path& startedFolder() {
 
 SheetWorld::SheetWorld() {
     QtPictureFiles encoder;
+    const DrawingPack drawings(drawingsFile(startedFolder()));
+    const SheetTools tools{startedFolder(), picturesReadOnce(startedFolder(), pictures),
+                           pictures,        encoder,
+                           drawings,        maps};
     std::vector<std::string> drawable;
     for (const fs::path& ship : listFolder(startedFolder() / "ships", ".shp")) {
         ShipOnScreen screen(startedFolder());
         screen.load(ship.string());
         try {
-            sheets.push_back(drawnSheet(
-                screen, {startedFolder(), pictures, pictures, encoder, maps}, std::string()));
+            sheets.push_back(drawnSheet(screen, tools, std::string()));
             drawable.push_back(ship.string());
         } catch (const Error&) {
             // Too large for a bitmap.
@@ -47,6 +53,31 @@ SheetWorld::SheetWorld() {
 const SheetWorld& sheetWorld() {
     static const SheetWorld world;
     return world;
+}
+
+void makeSheets(benchmark::State& state, unsigned threads,
+                const std::function<std::string(const ShipOnScreen&, const SheetTools&,
+                                                ToolPictures&)>& fileOf) {
+    const SheetWorld& world = sheetWorld();
+    for ([[maybe_unused]] auto _ : state) {
+        ToolPictures files(APP_FOLDER);
+        PictureCache cache(files);
+        const DrawingPack drawings(drawingsFile(startedFolder()));
+        const auto catalogue = CatalogueFile::readOnce(startedFolder() / "weaps.dat");
+        const SheetTools tools{startedFolder(), picturesReadOnce(startedFolder(), cache),
+                               cache,           files,
+                               drawings,        world.maps};
+        std::size_t bytes = 0;
+        inOrder(
+            sheetCount, threads,
+            [&](std::size_t index) {
+                ShipOnScreen screen(startedFolder(), catalogue);
+                screen.load(world.ships[index]);
+                return Result{.output = fileOf(screen, tools, files), .complaints = {}};
+            },
+            [&](std::size_t, const Result& result) { bytes += result.output.size(); });
+        benchmark::DoNotOptimize(bytes);
+    }
 }
 
 void runCommand(const std::string& command) {

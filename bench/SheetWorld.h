@@ -5,9 +5,15 @@
 #include "QtPictureFiles.h"
 #include "Raster.h"
 #include "SSDMaps.h"
+#include "ShipOnScreen.h"
+#include "ToolPictures.h"
+#include "drawnSheet.h"
+
+#include <benchmark/benchmark.h>
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -45,6 +51,11 @@ struct SheetWorld {
 };
 
 const SheetWorld& sheetWorld();
+
+/// Makes a file of the sheet of each ship, as the tool does with so many threads in one process.
+void makeSheets(benchmark::State& state, unsigned threads,
+                const std::function<std::string(const ShipOnScreen&, const SheetTools&,
+                                                ToolPictures&)>& fileOf);
 
 /// Runs a command of the shell. Throws std::runtime_error if it fails.
 void runCommand(const std::string& command);

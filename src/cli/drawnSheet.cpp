@@ -4,6 +4,7 @@
 #include "Error.h"
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
+#include "bestMap.h"
 #include "frmMain.h"
 #include "frmMapper.h"
 #include "sheetShip.h"
@@ -23,15 +24,37 @@ public:
     std::string message;
 };
 
+constexpr const char* noMapFits = "there is no map that the ship fits on";
+
+/// Throws Error for the name of a map that is there and was dropped.
+void checkIsUsable(const LoadedMaps& maps, const std::string& mapName) {
+    if (const DroppedMap* const map = maps.whyDropped(mapName)) {
+        throw Error("the map cannot be used: " + complaint(map->file.string(), map->fault));
+    }
+}
+
+/// The map of this name, or the one that fits best if the name is empty. Throws Error.
+SSDMaps::Map mapFor(const frmMain& main, const LoadedMaps& maps, const std::string& mapName) {
+    checkIsUsable(maps, mapName);
+    if (!mapName.empty()) {
+        return maps.maps.at(mapName);
+    }
+    SheetLists lists;
+    lists.fillShipWeap(main.aboard.lvCurrentWeapons.rows());
+    const SSDMaps::Map best = bestMap(maps.maps, *main.g_Ship, lists.lstShipWeap);
+    if (!best) {
+        throw Error(noMapFits);
+    }
+    return best;
+}
+
 }  // namespace
 
 Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std::string& mapName) {
     const frmMain& main = screen.window();
-    if (const DroppedMap* const map = tools.maps.whyDropped(mapName)) {
-        throw Error("the map cannot be used: " + complaint(map->file.string(), map->fault));
-    }
+    checkIsUsable(tools.maps, mapName);
     SilentDesktop desktop;
-    const SheetImages images = catalogueImages(tools.appFolder, tools.pictures, *main.g_Ship);
+    const SheetImages images = catalogueImages(tools.pictures, *main.g_Ship);
     frmMapper mapper({.appFolder = tools.appFolder,
                       .desktop = desktop,
                       .pictures = tools.outlines,
@@ -54,13 +77,22 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
     } else if (mapper.bestFit()) {
         mapper.cboMapSelection.type(mapper.bestFit()->sDisplayName);
     } else if (desktop.message.empty()) {
-        throw Error("there is no map that the ship fits on");
+        throw Error(noMapFits);
     }
     mapper.cmdDrawIt.press();
     if (!desktop.message.empty()) {
         throw Error(desktop.message + " (" + mapper.lastFault() + ')');
     }
     return std::move(mapper.picSSD.canvas());
+}
+
+VectorSheet recordedSheet(const ShipOnScreen& screen, const SheetTools& tools,
+                          const std::string& mapName) {
+    const frmMain& main = screen.window();
+    const SSDMaps::Map map = mapFor(main, tools.maps, mapName);
+    const SheetImages images = catalogueImages(tools.pictures, *main.g_Ship);
+    return vectorSheet(sheetShip(main), main.aboard.lvCurrentWeapons.rows(), *map,
+                       {tools.outlines, images, tools.drawings});
 }
 
 }  // namespace fleetwright

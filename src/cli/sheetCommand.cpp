@@ -1,18 +1,22 @@
 #include "commands.h"
 
+#include "DrawingPack.h"
 #include "Error.h"
 #include "PictureCache.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "carriedShips.h"
+#include "documentDate.h"
 #include "drawnSheet.h"
 #include "paths.h"
 #include "saveResult.h"
+#include "sheetDocument.h"
+#include "svgFile.h"
 #include "text.h"
+#include "wholeNumber.h"
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -23,12 +27,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where sheets go: a file each in a folder, one picture file, one document for all of them.
-enum class SheetOut { Folder, Picture, Document };
+/// Where sheets go: a file each in a folder, one file for one ship, one document for all of them.
+enum class SheetOut { Folder, File, Document };
 
 /// The format that the ending of a sheet's file means, or nothing.
 std::optional<std::string> sheetFormat(std::string_view file) {
-    for (const char* const format : {"bmp", "png", "pdf"}) {
+    for (const char* const format : {"bmp", "png", "svg", "pdf"}) {
         if (toCapitals(file).ends_with('.' + toCapitals(format))) {
             return format;
         }
@@ -46,7 +50,7 @@ SheetOut sheetOut(const Options& options) {
     }
     const std::optional<std::string> format = sheetFormat(output);
     if (!format) {
-        throw UsageError("-o: a sheet is a .bmp, .png or .pdf file: " + shownText(output));
+        throw UsageError("-o: a sheet is a .bmp, .png, .svg or .pdf file: " + shownText(output));
     }
     if (format == "pdf") {
         return SheetOut::Document;
@@ -54,19 +58,19 @@ SheetOut sheetOut(const Options& options) {
     if (options.words.size() > 1) {
         throw UsageError("-o: several sheets need a folder or a .pdf file");
     }
-    return SheetOut::Picture;
+    return SheetOut::File;
 }
 
 void checkSheet(const Options& options) {
     sheetOut(options);
 }
 
-Paper paperOf(const std::string& name) {
+PageSize paperOf(const std::string& name) {
     if (toCapitals(name) == "A4") {
-        return Paper::A4;
+        return paperA4;
     }
     if (toCapitals(name) == "LETTER") {
-        return Paper::Letter;
+        return paperLetter;
     }
     throw UsageError("--paper is A4 or Letter");
 }
@@ -75,11 +79,23 @@ void checkPaper(std::string_view, const std::string& name) {
     paperOf(name);
 }
 
+void checkPerPage(std::string_view, const std::string& number) {
+    if (number != "1" && number != "2" && number != "4") {
+        throw UsageError("--per-page is 1, 2 or 4");
+    }
+}
+
+SheetOptions sheetOptionsOf(const Options& options) {
+    return {.paper = paperOf(options.value("--paper")),
+            .perPage = wholeNumber(options.value("--per-page")),
+            .isPlain = options.has("--plain")};
+}
+
 /// Where the sheet of each ship goes.
 class SheetFiles {
 public:
     explicit SheetFiles(const Options& options) : m_out(nativePath(options.value(outOption.name))) {
-        if (sheetOut(options) == SheetOut::Picture) {
+        if (sheetOut(options) == SheetOut::File) {
             m_files.push_back(m_out);
             return;
         }
@@ -112,41 +128,50 @@ std::string formatOf(const fs::path& file) {
     return sheetFormat(pathText(file)).value_or("bmp");
 }
 
-/// The bytes of a picture file that carries its ship where the format has a place for it.
-std::string pictureFile(const Raster& sheet, const ShipClass& ship, const std::string& format,
-                        PictureEncoder& encoder) {
-    const std::string bytes = encoder.encode(sheet, format);
-    return format == "png" ? withShip(bytes, ship.shipFile()) : bytes;
+/// The sheet of a ship of the command line, for pages.
+VectorSheet sheetFor(const Options& options, std::size_t index, const ShipOnScreen& screen,
+                     const SheetTools& tools) {
+    VectorSheet sheet = recordedSheet(screen, tools, options.value("--map"));
+    sheet.date = documentDate(nativePath(options.words[index]));
+    return sheet;
 }
 
 int drawFiles(const Options& options, const SheetTools& tools) {
     const SheetFiles files(options);
-    return forEachShip(
-        options, RefusedLines::AsComplaints, [&](std::size_t index, ShipOnScreen& screen) {
-            const fs::path& file = files.of(index);
-            const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
-            saveResult(file, pictureFile(sheet, screen.ship(), formatOf(file), tools.encoder));
-            return std::string();
-        });
+    const auto bytesOf = [&](std::size_t index, ShipOnScreen& screen, const std::string& format) {
+        if (format == "svg") {
+            return svgFile(
+                sheetDocument({sheetFor(options, index, screen, tools)}, sheetOptionsOf(options)),
+                tools.encoder);
+        }
+        const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
+        std::string bytes = tools.encoder.encode(sheet, format);
+        return format == "png" ? withShip(bytes, screen.ship().shipFile()) : std::move(bytes);
+    };
+    return forEachShip(options, RefusedLines::AsComplaints,
+                       [&](std::size_t index, ShipOnScreen& screen) {
+                           const fs::path& file = files.of(index);
+                           saveResult(file, bytesOf(index, screen, formatOf(file)));
+                           return std::string();
+                       });
 }
 
-int drawDocument(const Options& options, const SheetTools& tools, Pages& pages) {
-    std::vector<Raster> sheets(options.words.size());  // until their pages are made
-    bool isEmpty = true;
-    const int status = forEachShip(
-        options, RefusedLines::AsComplaints,
-        [&](std::size_t index, ShipOnScreen& screen) {
-            sheets[index] = drawnSheet(screen, tools, options.value("--map"));
-            return std::string();
-        },
-        [&](std::size_t index) {
-            if (!sheets[index].isEmpty()) {
-                pages.add(std::exchange(sheets[index], {}));
-                isEmpty = false;
-            }
-        });
-    if (!isEmpty) {
-        saveResult(nativePath(options.value(outOption.name)), pages.finish());
+int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& pictures) {
+    std::vector<std::optional<VectorSheet>> drawn(options.words.size());
+    const int status = forEachShip(options, RefusedLines::AsComplaints,
+                                   [&](std::size_t index, ShipOnScreen& screen) {
+                                       drawn[index] = sheetFor(options, index, screen, tools);
+                                       return std::string();
+                                   });
+    std::vector<VectorSheet> sheets;
+    for (std::optional<VectorSheet>& sheet : drawn) {
+        if (sheet) {
+            sheets.push_back(std::move(*sheet));
+        }
+    }
+    if (!sheets.empty()) {
+        saveResult(nativePath(options.value(outOption.name)),
+                   pictures.pdf(sheetDocument(sheets, sheetOptionsOf(options))));
     }
     return status;
 }
@@ -161,17 +186,19 @@ int runSheet(const Options& options) {
         pictures.prepareForPdf();
     }
     PictureCache cache(pictures);
+    const DrawingPack drawings(drawingsFile(options.appFolder));
     int status = Done;
     const LoadedMaps maps = mapsOf(options, status);
     // The outline of a single ship is read once in any case, and is the largest picture.
     PictureFiles& outlines =
         options.words.size() > 1 ? static_cast<PictureFiles&>(cache) : pictures;
-    const SheetTools tools{options.appFolder, cache, outlines, pictures, maps};
-    if (sheetOut(options) == SheetOut::Document) {
-        const std::unique_ptr<Pages> pages = pictures.newPages(paperOf(options.value("--paper")));
-        return std::max(status, drawDocument(options, tools, *pages));
-    }
-    return std::max(status, drawFiles(options, tools));
+    const SheetTools tools{options.appFolder, picturesReadOnce(options.appFolder, cache),
+                           outlines,          pictures,
+                           drawings,          maps};
+    const int drawn = sheetOut(options) == SheetOut::Document
+                          ? drawDocument(options, tools, pictures)
+                          : drawFiles(options, tools);
+    return std::max(status, drawn);
 }
 
 }  // namespace
@@ -183,9 +210,15 @@ constexpr OptionRow sheetOptions[] = {
     outOption,
     {.name = "--paper",
      .value = "A4|Letter",
-     .help = "The paper of a .pdf",
+     .help = "The paper of a .pdf or .svg",
      .byDefault = "A4",
      .check = checkPaper},
+    {.name = "--per-page",
+     .value = "1|2|4",
+     .help = "How many small sheets share a page of a .pdf",
+     .byDefault = "1",
+     .check = checkPerPage},
+    {.name = "--plain", .help = "Leave out all but the drawing and its text in a .pdf or .svg"},
 };
 
 extern const CommandRow sheetCommand = {
@@ -194,13 +227,16 @@ extern const CommandRow sheetCommand = {
     .least = 1,
     .most = CommandRow::any,
     .options = sheetOptions,
-    .help = "Draw the sheets of ships: OUT is a .bmp, .png or .pdf file, or a folder",
+    .help = "Draw the sheets of ships: OUT is a .bmp, .png, .svg or .pdf file, or a folder",
     .details =
         "The sheet is drawn on the outline of the map NAME, or else of the one that fits the ship "
-        "best. A folder is made if it is not there, and gets a .bmp file "
-        "each, named after the ship files. Maps that cannot be used are named as errors. A .pdf "
-        "takes any number of ships, a page each; "
-        "the sheets have their natural size or are shrunk to the margins of the paper. The "
+        "best. A folder is made if it is not there, and gets a .bmp file each, named after the "
+        "ship files. Maps that cannot be used are named as errors. A .bmp or .png file is a "
+        "picture of pixels; no ship above mass 100 gets one without --map. An .svg or .pdf file "
+        "has lines and text, sharp at any size, and says what is aboard and how it is played. A "
+        ".pdf takes any number of ships; the marks between small ones that share a page show where "
+        "to cut. Its date is that of the ship file, or SOURCE_DATE_EPOCH of the environment. All "
+        "but a .bmp carry their ship: other commands take them in the place of its file. The "
         "pictures must have been unpacked.",
     .check = checkSheet,
     .run = runSheet,

@@ -9,6 +9,8 @@
 #include "paths.h"
 
 #include <map>
+#include <memory>
+#include <mutex>
 #include <string>
 #include <utility>
 
@@ -16,8 +18,7 @@ namespace fleetwright {
 
 namespace {
 
-std::function<Raster(std::string_view)> filesIn(const std::filesystem::path& appFolder,
-                                                PictureFiles& pictures) {
+PictureFinder filesIn(const std::filesystem::path& appFolder, PictureFiles& pictures) {
     return [folder = appFolder / "images", &pictures](std::string_view name) {
         return pictures.load(fileBelow(folder, name));
     };
@@ -52,17 +53,34 @@ SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& 
             }};
 }
 
-SheetImages catalogueImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
-                            const ShipClass& ship) {
-    const auto file = filesIn(appFolder, pictures);
+PictureFinder picturesReadOnce(const std::filesystem::path& appFolder, PictureFiles& pictures) {
+    struct Known {
+        std::mutex mutex;
+        std::map<std::string, Raster, std::less<>> files;
+    };
+    return [read = filesIn(appFolder, pictures),
+            known = std::make_shared<Known>()](std::string_view name) {
+        {
+            const std::lock_guard lock(known->mutex);
+            if (const auto file = known->files.find(name); file != known->files.end()) {
+                return file->second;
+            }
+        }
+        const Raster picture = read(name).shared();
+        const std::lock_guard lock(known->mutex);
+        return known->files.try_emplace(std::string(name), picture).first->second;
+    };
+}
+
+SheetImages catalogueImages(PictureFinder files, const ShipClass& ship) {
     std::map<std::string, Raster, std::less<>> loaded;
     loaded.try_emplace(std::string(SheetImages::blank), systemPictureSize, systemPictureSize);
-    return {.file = file,
-            .system = [&ship, file,
+    return {.file = files,
+            .system = [&ship, files,
                        loaded = std::move(loaded)](std::string_view name) mutable -> const Raster& {
                 auto known = loaded.find(name);
                 if (known == loaded.end()) {
-                    known = loaded.try_emplace(std::string(name), file(iconOf(ship, name))).first;
+                    known = loaded.try_emplace(std::string(name), files(iconOf(ship, name))).first;
                 }
                 return known->second;
             }};

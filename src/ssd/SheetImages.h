@@ -13,17 +13,24 @@ class PictureFiles;
 class SSDMap;
 class ShipClass;
 
+/// Finds a file of the folder of pictures. Throws FileError.
+using PictureFinder = std::function<Raster(std::string_view name)>;
+
 /// Finds the pictures that a sheet is pasted together from.
 struct SheetImages {
     /// Key of the white picture that free points are covered with.
     static constexpr std::string_view blank = "BLANK";
 
-    /// A file of the folder of pictures. Throws FileError.
-    std::function<Raster(std::string_view name)> file;
+    PictureFinder file;
     /// The picture of a system, by its name, or `blank`. Throws Error if there is none. It stays
     /// as it is for as long as this finder is there.
     std::function<const Raster&(std::string_view name)> system;
 };
+
+/// The files of the application folder, whatever the case of their names, each looked up and read
+/// only once, for many sheets. Any number of threads may use it if they may use `pictures`, which
+/// outlive what is returned.
+PictureFinder picturesReadOnce(const std::filesystem::path& appFolder, PictureFiles& pictures);
 
 /// The pictures as the program with its windows has them: the files of the application folder,
 /// whatever the case of their names, and for systems the main window's list. All of it outlives
@@ -31,11 +38,9 @@ struct SheetImages {
 SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
                           const ImageList& ilWeapons);
 
-/// The pictures as a program without a window has them: those of systems are loaded when a sheet
-/// first needs them, from the files that the ship's catalogue names. `pictures` and `ship` outlive
-/// what is returned.
-SheetImages catalogueImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
-                            const ShipClass& ship);
+/// The pictures as a program without a window has them: those of systems are these files, too, by
+/// the names that the ship's catalogue has. `ship` outlives what is returned.
+SheetImages catalogueImages(PictureFinder files, const ShipClass& ship);
 
 /// The outline of a map. Throws Error, which names the map.
 Raster outlineOf(const SSDMap& map, PictureFiles& pictures);

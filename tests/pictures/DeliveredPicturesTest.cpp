@@ -184,15 +184,20 @@ TEST(WindowPictures, AreResourcesInTheirSizes) {
 }
 
 TEST(Renderer, TheSameSourcesGiveTheSameBytesAndTheSplashPicturesShowTheVersion) {
-    const TemporaryFolder again;
-    const std::string folder = again.path().string();
-    runCommand(RENDERER " " ARTWORK_FOLDER " " CATALOGUE_FILE " 31.4 " + folder);
-    const CommandResult differing =
-        runCommand("diff -rq " PICTURES_FOLDER " " + folder +
-                   " | grep -v '^Only in " PICTURES_FOLDER "' | cut -d ' ' -f 2,5");
-    EXPECT_EQ(differing.output, PICTURES_FOLDER "/drawings.dat differ\n" PICTURES_FOLDER
-                                                "/window/splash-1.gif differ\n" PICTURES_FOLDER
-                                                "/window/splash-2.bmp differ\n");
+    const std::string differ[] = {"",
+                                  PICTURES_FOLDER "/drawings.dat differ\n" PICTURES_FOLDER
+                                                  "/window/splash-1.gif differ\n" PICTURES_FOLDER
+                                                  "/window/splash-2.bmp differ\n"};
+    for (const bool isOtherVersion : {false, true}) {
+        const TemporaryFolder again;
+        const std::string folder = again.path().string();
+        runCommand(RENDERER " " ARTWORK_FOLDER " " CATALOGUE_FILE " " +
+                   std::string(isOtherVersion ? "31.4 " : PROGRAM_VERSION " ") + folder);
+        const CommandResult differing =
+            runCommand("diff -rq " PICTURES_FOLDER " " + folder +
+                       " | grep -v '^Only in " PICTURES_FOLDER "' | cut -d ' ' -f 2,5");
+        EXPECT_EQ(differing.output, differ[isOtherVersion]);
+    }
 }
 
 TEST(Sound, IsAPlainWaveFileOfLessThanASecond) {

@@ -40,6 +40,8 @@ TEST(PictureCache, DecodesAFileOnceUntilItChangesHoweverManyThreadsAskForIt) {
     CountingDecoder decoder;
     PictureCache cache(decoder);
     EXPECT_THROW(cache.load(file), FileError);
+    const Raster one = cache.builtIn("one"), again = cache.builtIn("one");
+    EXPECT_EQ(&one.row(0)[0], &again.row(0)[0]) << "what is handed out shares its pixels";
     for (const int width : {2, 3}) {
         folder.write("x", std::string(static_cast<std::size_t>(width), 'x'));
         decoder.count = 0;
@@ -55,5 +57,21 @@ TEST(PictureCache, DecodesAFileOnceUntilItChangesHoweverManyThreadsAskForIt) {
         }
         EXPECT_EQ(right, 16);
         EXPECT_EQ(decoder.count, width == 2 ? 2 : 1) << "what is built in does not change";
+    }
+}
+
+TEST(Raster, CopiesThatShareAreChangedAloneAndNeverKeepAKeyTooLong) {
+    Raster picture(3, 2);
+    std::uint32_t& pixel = picture.pixel(1, 1);
+    const Raster shared = picture.shared();
+    const Raster::Key key = shared.key();
+    pixel = 0x123456;
+    EXPECT_TRUE(picture.key() != key && shared.key() == key);
+    Raster copies[] = {shared, shared, shared, Raster(2, 3)};
+    copies[0].pixel(2, 0) = 0xFFFFFE;
+    copies[1].row(1)[0] = 0;
+    copies[2].setHeight(1);
+    for (const Raster& copy : copies) {
+        EXPECT_TRUE(copy.key() != key && shared.key() == key);
     }
 }

@@ -112,7 +112,7 @@ TEST(SheetImages, ComeFromFilesAndTheListOrTheCatalogue) {
     list.add("F", Raster(5, 6));
 
     const SheetImages listed = programImages(folder.path(), pictures, list);
-    const SheetImages named = catalogueImages(folder.path(), pictures, *ship);
+    const SheetImages named = catalogueImages(picturesReadOnce(folder.path(), pictures), *ship);
     EXPECT_EQ(listed.system("F").width(), 5);
     EXPECT_EQ(pictureOf(named.system("BLANK")), pictureOf(Raster(32, 32)));
     const Raster& first = named.system("F");

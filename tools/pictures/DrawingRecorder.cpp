@@ -1,6 +1,7 @@
 #include "DrawingRecorder.h"
 
 #include "Error.h"
+#include "gradientBands.h"
 #include "pathData.h"
 
 #include <QPaintDevice>
@@ -73,6 +74,7 @@ public:
     bool hasPixels() const { return m_hasPixels; }
 
 private:
+    QTransform gradientTransform(const QPainterPath& path) const;
     void fill(const QPainterPath& path, const QColor& colour);
     void stroke(const QPainterPath& path, const QPen& pen);
 
@@ -82,12 +84,29 @@ private:
 };
 
 void RecordingEngine::drawPath(const QPainterPath& path) {
-    if (painter()->brush().style() != Qt::NoBrush) {
-        fill(painter()->combinedTransform().map(path), painter()->brush().color());
+    const QBrush brush = painter()->brush();
+    const QPainterPath area = painter()->combinedTransform().map(path);
+    if (const QGradient* const gradient = brush.gradient()) {
+        for (const ColourBand& band : gradientBands(area, *gradient, gradientTransform(path))) {
+            fill(band.area, band.colour);
+        }
+    } else if (brush.style() != Qt::NoBrush) {
+        fill(area, brush.color());
     }
     if (painter()->pen().style() != Qt::NoPen) {
         stroke(path, painter()->pen());
     }
+}
+
+/// What leads from the places of the brush's gradient to pixels.
+QTransform RecordingEngine::gradientTransform(const QPainterPath& path) const {
+    const QBrush brush = painter()->brush();
+    QTransform transform = brush.transform();
+    if (brush.gradient()->coordinateMode() != QGradient::LogicalMode) {
+        const QRectF box = path.boundingRect();
+        transform *= QTransform(box.width(), 0, 0, box.height(), box.x(), box.y());
+    }
+    return transform * painter()->combinedTransform();
 }
 
 void RecordingEngine::drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) {

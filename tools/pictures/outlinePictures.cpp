@@ -48,8 +48,13 @@ QImage drawShades(const QByteArray& svg, QSize size) {
 }
 
 /// Marks are single pixels, so they are set after all drawing. They lie in the upper left corner
-/// of what will be pasted over them, and what belongs to them lies at their right.
+/// of what will be pasted over them, and what belongs to them lies at their right. A track above
+/// SIZE 100 gets none: nothing covers it on a bitmap sheet.
 void setMark(QImage& image, const OutlineMark& mark) {
+    const TrackLength* const length = trackLength(mark);
+    if (mark.keyword == MapKeyword::DamRow && length == nullptr) {
+        return;
+    }
     const QPoint place = mark.box.topLeft();
     for (const MapMark& known : mapMarks) {
         if (known.keyword == mark.keyword) {
@@ -61,7 +66,7 @@ void setMark(QImage& image, const OutlineMark& mark) {
             image.setPixel(place + QPoint(1, 0), indexOf(image, arc.colour));
         }
     }
-    if (const TrackLength* const length = trackLength(mark)) {
+    if (length != nullptr) {
         for (int i = 1; i <= length->blackPixels; ++i) {
             image.setPixel(place + QPoint(i, 0), indexOf(image, Black));
         }

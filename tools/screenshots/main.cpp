@@ -4,16 +4,12 @@
 #include "Clock.h"
 #include "Error.h"
 #include "FormWindow.h"
-#include "PictureCache.h"
 #include "QtDesktop.h"
 #include "QtPictureFiles.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
 #include "SSDMaps.h"
-#include "ShipOnScreen.h"
 #include "SilentServices.h"
-#include "bestMap.h"
-#include "drawnSheet.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
@@ -23,6 +19,7 @@
 #include "frmSSDView.h"
 #include "paths.h"
 #include "saveFile.h"
+#include "sheetPages.h"
 #include "sheetShip.h"
 
 #include <QApplication>
@@ -72,39 +69,6 @@ QPalette darkPalette() {
     palette.setColor(QPalette::Base, QColor(30, 30, 32));
     palette.setColor(QPalette::Highlight, QColor(60, 110, 170));
     return palette;
-}
-
-/// The name of the map that fits a ship best; empty if there is none.
-std::string mapFor(const SSDMaps& maps, const ShipOnScreen& screen, const ShipClass& ship) {
-    SheetLists lists;
-    lists.fillShipWeap(screen.window().aboard.lvCurrentWeapons.rows());
-    const SSDMaps::Map best = bestMap(maps, ship, lists.lstShipWeap);
-    return best ? best->sDisplayName : "";
-}
-
-/// Draws the sheets of all sample ships that there is a map for.
-void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path& output) {
-    fs::create_directories(output);
-    QtPictureFiles files;
-    PictureCache cache(files);
-    const LoadedMaps maps = loadMaps(appFolder);
-    for (const fs::path& ship : listFolder(ships, ".shp")) {
-        ShipOnScreen screen(appFolder);
-        if (screen.load(ship.string())) {
-            throw FileError(ship, "does not load");
-        }
-        const std::string map = mapFor(maps.maps, screen, screen.ship());
-        if (map.empty()) {
-            continue;
-        }
-        try {
-            const Raster sheet = drawnSheet(screen, {appFolder, cache, cache, files, maps}, map);
-            saveFile(output / ship.filename().replace_extension(".png"),
-                     files.encode(sheet, "png"));
-        } catch (const Error& error) {
-            throw FileError(ship, error.what());
-        }
-    }
 }
 
 /// Shows a ship with a system of it selected in the tree.
@@ -209,7 +173,8 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     for (const char* const folder : {"images", "maps", "shipimages"}) {
         fs::create_directory_symlink(fs::absolute(pictures) / folder, appFolder / folder);
     }
-    drawSheets(appFolder, data / "ships", output / "sheets");
+    fs::create_symlink(fs::absolute(pictures) / "drawings.dat", appFolder / "drawings.dat");
+    drawSheets(appFolder, data / "ships", output);
 
     PictureDesktop desktop(output);
     QtPictureFiles files;

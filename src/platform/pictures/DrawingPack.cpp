@@ -98,7 +98,7 @@ DrawnShape readShape(PackReader& reader) {
     shape.isEvenOdd = readChoice<bool>(reader, {"nonzero", "evenodd"});
     shape.path = reader.restOfLine();
     if (!isPath(shape.path)) {
-        reader.fail("the path has something that is none of M, L, C, Z and their numbers");
+        reader.fail("there is no path of M, L, C, Z and their numbers");
     }
     return shape;
 }

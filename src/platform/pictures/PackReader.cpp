@@ -22,7 +22,7 @@ void PackReader::nextLine() {
     const std::size_t end = m_rest.find('\n');
     ++m_line;
     if (end == std::string_view::npos) {
-        fail("the file is cut short");
+        fail("the line has no end");
     }
     m_words = m_rest.substr(0, end);
     m_rest.remove_prefix(end + 1);
@@ -66,7 +66,7 @@ std::uint64_t PackReader::hexadecimal(std::string_view piece, std::size_t digits
     std::uint64_t value = 0;
     if (piece.size() != digits ||
         !isWhole(piece, std::from_chars(piece.data(), piece.data() + digits, value, 16))) {
-        fail(quote(piece) + " are not " + std::to_string(digits) + " hexadecimal digits");
+        fail(quote(piece) + " is no number of " + std::to_string(digits) + " hexadecimal digits");
     }
     return value;
 }
