@@ -180,7 +180,11 @@ SheetCard::Columns SheetCard::columnsInCorners(double columnWidth) const {
 std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const {
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
-        appendBlocks(blocks, lineBlocks(m_text.lines, width, textLineSize));
+        constexpr std::size_t mostTogether = 12;
+        blocks = lineBlocks(m_text.lines, width, textLineSize);
+        for (std::size_t i = 0; i + 1 < blocks.size() && blocks.size() <= mostTogether; ++i) {
+            blocks[i].staysWithNext = true;
+        }
         addRoomBelow(blocks);
     }
     appendBlocks(blocks, listBlocks(m_text, width, m_isPlain ? "" : "ALSO ABOARD"));

@@ -1,0 +1,91 @@
+// The sheets of all sample ships, as their users hold them in their hands.
+
+#include "DamageTrack.h"
+#include "DrawingPack.h"
+#include "PictureReader.h"
+#include "SSDMaps.h"
+#include "Silhouette.h"
+#include "bestMap.h"
+#include "paperWorld.h"
+#include "paths.h"
+#include "scaledDrawing.h"
+#include "sheetDocument.h"
+#include "sheetWorld.h"
+
+#include <algorithm>
+#include <set>
+
+using namespace fleetwright;
+
+namespace {
+
+constexpr double tolerance = 0.001;
+
+struct GifFiles : PictureReader {
+    Raster decode(const std::string&, const std::string&) override { return {}; }
+    Raster builtIn(const std::string&) override { return {}; }
+};
+
+void expectGood(const VectorSheet& sheet, int damageBox) {
+    const PageDocument document = sheetDocument({sheet}, {});
+    expectInsideMargins(document);
+    EXPECT_LE(document.pages.size(), 2U);
+    const Box ink = inkOf(sheet.record);
+    const Silhouette silhouette(sheet.record, ink);
+    std::multiset<const Drawing*> inLegend, expected;
+    for (const LegendRow& row : sheet.facts.legend) {
+        expected.insert(row.picture.drawing.get());
+    }
+    Box drawing;
+    double scale = 0;
+    for (const Page& page : document.pages) {
+        std::size_t onDrawing = scale == 0 ? 0 : sheet.record.pastes.size() + 1;
+        for (const PageItem& item : page.items) {
+            const Box box = boxOf(item);
+            const auto* const picture = std::get_if<PagePicture>(&item);
+            ASSERT_TRUE(picture == nullptr || picture->drawing) << "pixels";
+            if (picture != nullptr && onDrawing <= sheet.record.pastes.size()) {
+                drawing = onDrawing++ == 0 ? box : drawing;
+                scale = drawing.width / ink.width;
+                continue;
+            }
+            if (picture != nullptr) {
+                inLegend.insert(picture->drawing.get());
+            }
+            const auto [left, right] = silhouette.between((box.y - drawing.y) / scale,
+                                                          (box.y + box.height - drawing.y) / scale);
+            EXPECT_TRUE(scale == 0 || &page != &document.pages[0] ||
+                        drawing.x + left * scale >= box.x + box.width ||
+                        drawing.x + right * scale <= box.x)
+                << "it lies on the drawing";
+        }
+    }
+    EXPECT_EQ(inLegend, expected);
+    EXPECT_GE(scale * systemPictureSize, 9 - tolerance);
+    EXPECT_GE(scale * damageBox, 4.5 - tolerance);
+}
+
+}  // namespace
+
+TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
+    GifFiles files;
+    const DrawingPack drawings(APP_FOLDER "/drawings.dat");
+    const LoadedMaps maps = loadMaps(APP_FOLDER);
+    for (const auto& file : listFolder(SOURCE_FOLDER "/data/ships", ".shp")) {
+        SCOPED_TRACE(file);
+        ShipClass ship(
+            {std::filesystem::path(SOURCE_FOLDER "/data/weaps.dat"), formula_calculate, {}});
+        ASSERT_TRUE(ship.loadShip(file.string()));
+        bringInOrder(ship);
+        SheetLists lists;
+        lists.fillShipWeap(rowsOf(ship));
+        const SSDMaps::Map map = bestMap(maps.maps, ship, lists.lstShipWeap);
+        ASSERT_TRUE(map);
+        const std::int32_t rows = map->iMaxMass > capitalMass
+                                      ? ship.g_iDamRows
+                                      : trackRows(trackSize(map->iMaxMass), ship.g_iDP);
+        const SheetImages images = catalogueImages(picturesReadOnce(PICTURES_FOLDER, files), ship);
+        expectGood(vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings}),
+                   damageTrack(ship.g_iDP, rows, trackRoom(map->iMaxMass)).side);
+    }
+}

@@ -1,0 +1,112 @@
+// Sheets on pages: what stands where, and what they become as a file.
+
+#include "PictureFiles.h"
+#include "caseFile.h"
+#include "paperWorld.h"
+#include "sheetWorld.h"
+#include "svgFile.h"
+
+#include <cmath>
+
+using namespace fleetwright;
+
+namespace {
+
+constexpr std::string_view pageCatalogue =
+    "Lance (FP),2 * amount,6 * amount,BEAM,BEAM,FPB,lance.gif\n#> Two dice at any range.\n"
+    "Turret (All),amount,4 * amount,BEAM,BEAM,BFAPS,turret.gif\n"
+    "Ward,roundup(amount / 2),3,DEFENSE,DEFENSE,BAPS,ward.gif\n"
+    "Lamp,1,1,SYSTEMS,SYSTEMS,AP,lamp.gif\n"
+    "Hold,3 * amount,amount,SYSTEMS,SYSTEMS,O,hold.gif\n"
+    "Damage Control Party,amount,4 * amount,SYSTEMS,SYSTEMS,O,party.gif\n";
+
+/// Pictures without drawings, and no files.
+struct Paper : PictureFiles, PictureEncoder, Drawings {
+    Raster outline;
+
+    Raster load(const std::filesystem::path&) override { return outline; }
+    Raster builtIn(const std::string&) override { return {}; }
+    std::string encode(const Raster&, const std::string& format) override { return format; }
+    std::shared_ptr<const Drawing> of(const Raster&) const override { return nullptr; }
+};
+
+/// The sheet of a ship on a black outline, with its points one upon the other.
+VectorSheet sheetOf(const std::string& shipFile, const std::string& width,
+                    const std::string& height) {
+    static const ShipYard yard(pageCatalogue);
+    static const Raster picture = box(32, 32, 0x336699);
+    const auto ship = yard.loaded(shipFile);
+    std::string map = "IMAGE: a.gif\nSIZE: 100\nWEAP: (10,10,B)\n";
+    for (int i = 0; i < 5; ++i) {
+        map += "DCP: (10,10)\nFIRECON: (10,10)\n";
+    }
+    Paper paper;
+    paper.outline = box(std::stoi(width), std::stoi(height), 0);
+    const SheetImages images = {[](auto) { return picture; },
+                                [](auto) -> const Raster& { return picture; }};
+    return vectorSheet(shownShip(*ship), rowsOf(*ship), mapOf(map), {paper, images, paper});
+}
+
+std::string place(double x, double y) {
+    return std::to_string(std::lround(x * 10)) + ' ' + std::to_string(std::lround(y * 10));
+}
+
+/// Where it is, in tenths of a millimetre, and what it says.
+std::string described(const PageItem& item) {
+    const Box at = boxOf(item);
+    const auto* const text = std::get_if<PageText>(&item);
+    return place(at.x, at.y) +
+           (text != nullptr ? ' ' + text->text : " to " + place(at.x + at.width, at.y + at.height));
+}
+
+}  // namespace
+
+TEST(SheetPages, HaveAPlaceForEverything) {
+    expectCases("paper/golden/pages.txt", [](const Case& given) {
+        const std::vector<std::string> size = linesOf(given["outline"]);
+        std::vector<VectorSheet> sheets;
+        for (const std::string& name : linesOf(given["names"])) {
+            sheets.push_back(
+                sheetOf("Ship Name: " + name + '\n' + given["ship"], size.at(0), size.at(1)));
+        }
+        const PageDocument document =
+            sheetDocument(sheets, {.perPage = std::atoi(given["per page"].c_str()),
+                                   .isPlain = given["plain"] == "yes"});
+        expectInsideMargins(document);
+        std::string text = document.title + "; " + document.author + "; " + document.subject;
+        for (const Page& page : document.pages) {
+            text += "\npage";
+            for (const PageItem& item : page.items) {
+                text += '\n' + described(item);
+            }
+        }
+        return text;
+    });
+}
+
+TEST(SheetPages, BecomeAnSvgFile) {
+    Paper paper;
+    const auto drawing = std::make_shared<const Drawing>(
+        Drawing{.width = 10,
+                .height = 20,
+                .ink = {1, 2, 3, 4},
+                .shapes = {{.path = "M1 2L4 6", .fill = {}, .stroke = 0xFF}}});
+    const auto raster = std::make_shared<const Raster>(3, 4);
+    PageDocument document{.size = {50, 40},
+                          .pages = {},
+                          .title = "<Ship & \x01\"Co\">",
+                          .author = "You",
+                          .subject = "A ship",
+                          .language = "en",
+                          .date = {},
+                          .metadata = "<ship xmlns='x'/>"};
+    document.pages.resize(2);
+    document.pages[0].items = {PagePicture{drawing, nullptr, {1, 2, 5, 10}, {1, 2, 5, 10}},
+                               PagePicture{drawing, nullptr, {1, 2, 5, 10}, {1, 2, 2.5, 10}},
+                               PagePicture{nullptr, raster, {0, 0, 3, 4}, {0, 0, 3, 4}},
+                               PageLine{1, 2, 3, 1.0 / 3, 0.25, 0xABCDEF}};
+    document.pages[1].items = {
+        PageRectangle{{1, 1, 2, 2}, 0xFFFFFF, 0, 0.5, 1},
+        PageText{"a  <b>\r\x02", 1, 2, 3, PageFont::Bold, PageText::Anchor::End, 0x123456}};
+    expectCases("paper/golden/svg.txt", [&](const Case&) { return svgFile(document, paper); });
+}

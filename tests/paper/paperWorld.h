@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ListView.h"
+#include "PageDocument.h"
+#include "sheetDocument.h"
+
+#include <vector>
+
+namespace fleetwright {
+
+/// What the main window shows of a ship.
+SheetShip shownShip(ShipClass& ship);
+std::vector<ListView::Row> rowsOf(const ShipClass& ship);
+
+/// What an item covers of its page.
+Box boxOf(const PageItem& item);
+
+/// Fails a test for each item that leaves the margins.
+void expectInsideMargins(const PageDocument& document);
+
+}  // namespace fleetwright
