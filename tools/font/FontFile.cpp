@@ -94,8 +94,16 @@ std::map<std::uint32_t, unsigned> FontFile::advances() const {
         return metrics.half(4 * std::size_t{std::min(glyph, longMetrics - 1)}) * unitsWanted /
                units;
     };
-    const Table characters = table("cmap");
     std::map<std::uint32_t, unsigned> advances;
+    for (const auto& [code, glyph] : glyphs()) {
+        advances[code] = advance(glyph);
+    }
+    return advances;
+}
+
+std::map<std::uint32_t, std::uint32_t> FontFile::glyphs() const {
+    const Table characters = table("cmap");
+    std::map<std::uint32_t, std::uint32_t> glyphs;
     for (std::size_t row = 0; row < characters.half(2); ++row) {
         const std::size_t at = characters.word(4 + 8 * row + 4);
         if (characters.half(at) != 12) {
@@ -106,14 +114,30 @@ std::map<std::uint32_t, unsigned> FontFile::advances() const {
             const std::uint32_t first = characters.word(place);
             const std::uint32_t last = std::min<std::uint32_t>(characters.word(place + 4), 0xFFFF);
             for (std::uint32_t code = first; code <= last; ++code) {
-                advances[code] = advance(characters.word(place + 8) + code - first);
+                glyphs[code] = characters.word(place + 8) + code - first;
             }
         }
     }
-    if (advances.empty()) {
+    if (glyphs.empty()) {
         throw std::runtime_error("the font tells of no characters");
     }
-    return advances;
+    return glyphs;
+}
+
+void FontFile::listCharacters() {
+    const std::map<std::uint32_t, std::uint32_t> known = glyphs();
+    const std::uint32_t first = known.begin()->first;
+    const std::uint32_t count = known.rbegin()->first + 1 - first;
+    std::string entries(2 * std::size_t{count}, '\0');
+    for (const auto& [code, glyph] : known) {
+        entries.replace(2 * std::size_t{code - first}, 2, bytesOf(glyph, 2));
+    }
+    // One table, for Unicode, of the format with an entry for each code.
+    constexpr std::uint32_t headSize = 20;
+    m_tables["cmap"] = bytesOf(0, 2) + bytesOf(1, 2) + bytesOf(3, 2) + bytesOf(10, 2) +
+                       bytesOf(12, 4) + bytesOf(10, 2) + bytesOf(0, 2) +
+                       bytesOf(headSize + static_cast<std::uint32_t>(entries.size()), 4) +
+                       bytesOf(0, 4) + bytesOf(first, 4) + bytesOf(count, 4) + entries;
 }
 
 void FontFile::rename(const std::string& family, const std::string& style) {

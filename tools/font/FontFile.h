@@ -20,6 +20,9 @@ public:
     /// into one sign, so that a text is as wide as its characters, no names of glyphs, no hints for
     /// few pixels.
     void keepOutlines();
+    /// Gives each of the first 65536 characters an entry of its own, in which its glyph is found
+    /// without a search; others have none any more. Who embeds the font asks for all of them.
+    void listCharacters();
 
     void write(const char* file) const;
 
@@ -28,6 +31,8 @@ private:
     class Table;
 
     Table table(const char* tag) const;
+    /// The glyph of each character of the first 65536.
+    std::map<std::uint32_t, std::uint32_t> glyphs() const;
 
     std::string m_kind;  ///< of outlines, as the file begins
     std::map<std::string, std::string, std::less<>> m_tables;

@@ -12,6 +12,7 @@
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <string_view>
 
 namespace {
 
@@ -43,6 +44,10 @@ void packFonts(const char* const* arguments, int count) {
         faces += name + ',';
         font.rename(arguments[at + 1], arguments[at + 2]);
         font.keepOutlines();
+        // In fonts of the other kind, Qt does not find characters that way.
+        if (std::string_view(arguments[at + 3]).ends_with(".ttf")) {
+            font.listCharacters();
+        }
         font.write(arguments[at + 3]);
     }
     out << "const std::span<const AdvanceRun> pageFaces[] = {" << faces

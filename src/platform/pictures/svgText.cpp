@@ -2,6 +2,7 @@
 
 #include "text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -15,6 +16,11 @@ bool isXmlCharacter(char32_t character) {
         return character == U'\t';
     }
     return (character < 0x7F || character > 0x9F) && character != 0xFFFE && character != 0xFFFF;
+}
+
+/// Whether a byte is a character that stands for itself.
+bool isPlain(char byte) {
+    return byte >= ' ' && byte < '\x7F' && byte != '&' && byte != '<' && byte != '>' && byte != '"';
 }
 
 }  // namespace
@@ -46,6 +52,10 @@ std::string svgColour(std::uint32_t colour) {
 }
 
 std::string svgText(std::string_view text) {
+    // As most texts are, and all paths, of which there are many.
+    if (std::all_of(text.begin(), text.end(), isPlain)) {
+        return std::string(text);
+    }
     std::string written;
     while (!text.empty()) {
         const std::string_view character = text.substr(0, characterLength(text));
