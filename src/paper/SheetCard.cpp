@@ -98,15 +98,20 @@ SheetCard::SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain)
     m_scale = scaleFor(m_ink);
 }
 
-bool SheetCard::isLegible() const {
-    return m_scale >= scaleOfSymbol(leastSymbol);
+bool SheetCard::isGoodHere() const {
+    if (m_scale < scaleOfSymbol(leastSymbol)) {
+        return false;
+    }
+    const double width = readingColumns(m_body).front().width;
+    return !m_linesInHead.empty() ||
+           PageFlow(textOfDrawing(width)).fitsInto(columnsAround(m_scale, width).inOrder());
 }
 
 /// The largest scale that leaves the usual room for reading, or else a little, in wide columns or
 /// else in narrow ones. If even the least good one does not, the drawing has the room for itself.
 double SheetCard::scaleFor(const Box& ink) const {
     const double most = std::min(m_body.width / ink.width, m_body.height / ink.height);
-    const double least = scaleOfSymbol(goodSymbol);
+    const double least = scaleOfSymbol(m_isPlain ? leastSymbol : goodSymbol);
     if (most <= least) {
         return most;
     }
@@ -177,14 +182,20 @@ SheetCard::Columns SheetCard::columnsInCorners(double columnWidth) const {
     return columns;
 }
 
+/// What stands above the list in the text of the drawing.
+std::vector<PageBlock> SheetCard::textOfDrawing(double width) const {
+    constexpr std::size_t mostTogether = 12;
+    std::vector<PageBlock> blocks = lineBlocks(m_text.lines, width, textLineSize);
+    for (std::size_t i = 0; i + 1 < blocks.size() && blocks.size() <= mostTogether; ++i) {
+        blocks[i].staysWithNext = true;
+    }
+    return blocks;
+}
+
 std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const {
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
-        constexpr std::size_t mostTogether = 12;
-        blocks = lineBlocks(m_text.lines, width, textLineSize);
-        for (std::size_t i = 0; i + 1 < blocks.size() && blocks.size() <= mostTogether; ++i) {
-            blocks[i].staysWithNext = true;
-        }
+        blocks = textOfDrawing(width);
         addRoomBelow(blocks);
     }
     appendBlocks(blocks, listBlocks(m_text, width, m_isPlain ? "" : "ALSO ABOARD"));

@@ -19,8 +19,8 @@ public:
     /// The sheet outlives the card.
     SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain);
 
-    /// Whether the drawing has that size here.
-    bool isLegible() const;
+    /// Whether the drawing has that size here, and its text a place.
+    bool isGoodHere() const;
     /// Puts the sheet on a page and returns what is left to read, which found no room there.
     std::vector<PageBlock> putOn(Page& page) const;
 
@@ -37,6 +37,7 @@ private:
     double scaleFor(const Box& ink) const;
     Columns columnsAround(double scale, double columnWidth) const;
     Columns columnsInCorners(double columnWidth) const;
+    std::vector<PageBlock> textOfDrawing(double width) const;
     std::vector<PageBlock> textToRead(double width, double factor) const;
     PageFlow fittingText(Columns& columns) const;
 

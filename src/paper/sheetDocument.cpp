@@ -59,7 +59,7 @@ std::size_t SheetPages::fittingSheets(const Sheets& sheets, std::size_t first, C
     const std::vector<Box> boxes = cells(cut);
     std::size_t count = 0;
     while (count < boxes.size() && first + count < sheets.size() &&
-           SheetCard(sheets[first + count], boxes[count], m_options.isPlain).isLegible()) {
+           SheetCard(sheets[first + count], boxes[count], m_options.isPlain).isGoodHere()) {
         ++count;
     }
     return count;

@@ -94,8 +94,7 @@ public:
                 addSystem(row.key, count);
             }
         }
-        addWithHull("Fire Control", std::string(fireControlPicture),
-                    wholeNumber(m_figures.txtFireCon));
+        addFireControls();
         addParties();
         addDrives();
         return std::move(m_rows);
@@ -103,7 +102,8 @@ public:
 
 private:
     void addSystem(const std::string& name, std::int32_t count);
-    void addWithHull(const std::string& name, const std::string& file, std::int32_t count);
+    LegendRow& add(SheetRecord::Picture picture, std::string name, std::int32_t count);
+    void addFireControls();
     void addParties();
     void addDrives();
 
@@ -113,6 +113,9 @@ private:
             found.raster = std::make_shared<const Raster>(picture);
         }
         return found;
+    }
+    SheetRecord::Picture filePicture(std::string_view file) const {
+        return pictureOf(m_sources.images.file(file));
     }
     SheetRecord::Picture systemPicture(std::string_view name) const;
 
@@ -131,27 +134,29 @@ SheetRecord::Picture Legend::systemPicture(std::string_view name) const {
     }
 }
 
-void Legend::addSystem(const std::string& name, std::int32_t count) {
-    m_rows.push_back({.picture = systemPicture(name),
-                      .name = name,
-                      .count = count,
-                      .arcs = m_ship.PaintableWeap(name) ? arcWords(name, m_ship.GimmeWeapArc(name))
-                                                         : std::string(),
-                      .mass = m_ship.countedMass(name, 1),
-                      .points = m_ship.countedCost(name, 1),
-                      .rules = std::string(m_ship.rulesOf(name))});
+LegendRow& Legend::add(SheetRecord::Picture picture, std::string name, std::int32_t count) {
+    LegendRow row;
+    row.picture = std::move(picture);
+    row.name = std::move(name);
+    row.count = count;
+    return m_rows.emplace_back(std::move(row));
 }
 
-/// What comes with the hull, or is paid for with it.
-void Legend::addWithHull(const std::string& name, const std::string& file, std::int32_t count) {
+void Legend::addSystem(const std::string& name, std::int32_t count) {
+    LegendRow& row = add(systemPicture(name), name, count);
+    if (m_ship.PaintableWeap(name)) {
+        row.arcs = arcWords(name, m_ship.GimmeWeapArc(name));
+    }
+    row.mass = m_ship.countedMass(name, 1);
+    row.points = m_ship.countedCost(name, 1);
+    row.rules = m_ship.rulesOf(name);
+}
+
+void Legend::addFireControls() {
+    const std::int32_t count = wholeNumber(m_figures.txtFireCon);
     if (count > 0) {
-        m_rows.push_back({.picture = pictureOf(m_sources.images.file(file)),
-                          .name = name,
-                          .count = count,
-                          .arcs = {},
-                          .mass = 0,
-                          .points = 0,
-                          .rules = {}});
+        add(filePicture(fireControlPicture), "Fire Control", count).rules =
+            "One for each target that the ship fires at in a turn.";
     }
 }
 
@@ -161,33 +166,30 @@ void Legend::addParties() {
     const auto bought = std::find_if(m_rows.begin(), m_rows.end(), [](const LegendRow& row) {
         return row.name == Catalogue::partyName;
     });
-    if (bought != m_rows.end()) {
-        bought->count += std::max(count, 0);
-        if (count > 0) {
-            bought->rules = trimmed(std::to_string(count) + " with the hull. " + bought->rules);
-        }
-    } else if (count > 0) {
-        m_rows.push_back({.picture = systemPicture(Catalogue::partyName),
-                          .name = std::string(Catalogue::partyName),
-                          .count = count,
-                          .arcs = {},
-                          .mass = 0,
-                          .points = 0,
-                          .rules = std::string(m_ship.rulesOf(Catalogue::partyName))});
+    if (count <= 0) {
+        return;
+    }
+    if (bought == m_rows.end()) {
+        add(systemPicture(Catalogue::partyName), std::string(Catalogue::partyName), count).rules =
+            m_ship.rulesOf(Catalogue::partyName);
+    } else {
+        bought->count += count;
+        bought->rules = trimmed(std::to_string(count) + " with the hull. " + bought->rules);
     }
 }
 
+/// What has no mass of its own but is paid for.
 void Legend::addDrives() {
     const HullFigures& hull = m_ship.hullFigures();
-    if (!isBase(m_ship.Hull()) && m_ship.THRUST() > 0) {
-        addWithHull("Thrust Drive " + std::to_string(m_ship.THRUST()),
-                    thrustPicture(m_ship.THRUST()), 1);
-        m_rows.back().points = hull.thrustCost;
+    const std::int16_t thrust = m_ship.THRUST();
+    if (!isBase(m_ship.Hull()) && thrust > 0) {
+        add(filePicture(thrustPicture(thrust)), "Thrust Drive " + std::to_string(thrust), 1)
+            .points = hull.thrustCost;
     }
-    if (drivePicture(m_ship.FTL()) != noDrivePicture) {
-        addWithHull(m_ship.FTL() == TugDrive ? "FTL Tug Drive" : "FTL Drive",
-                    drivePicture(m_ship.FTL()), 1);
-        m_rows.back().points = hull.ftlCost;
+    const std::string drive = drivePicture(m_ship.FTL());
+    if (drive != noDrivePicture) {
+        add(filePicture(drive), m_ship.FTL() == TugDrive ? "FTL Tug Drive" : "FTL Drive", 1)
+            .points = hull.ftlCost;
     }
 }
 
