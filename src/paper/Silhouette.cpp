@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <map>
 #include <optional>
 #include <string_view>
 
@@ -33,8 +34,23 @@ Point onLine(Point from, Point to, double part) {
     return {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part};
 }
 
-/// Hands over points of a curve, two or more to each pixel of its way. A line is a curve whose
-/// middle points lie on its ends.
+/// Hands over points of a line: its ends, and where it goes from one row to the next, in both.
+template <typename Take>
+void walkLine(Point from, Point to, Take take) {
+    constexpr double hair = 1e-6;
+    constexpr double most = 1e5;  // rows; no picture has as many
+    take(from);
+    const double top = std::max(std::min(from.y, to.y), -most);
+    const double bottom = std::min(std::max(from.y, to.y), most);
+    for (double y = std::floor(top) + 1; y <= bottom; ++y) {
+        const double x = onLine(from, to, (y - from.y) / (to.y - from.y)).x;
+        take({x, y - hair});
+        take({x, y});
+    }
+    take(to);
+}
+
+/// Hands over points of a curve, two or more to each pixel of its way.
 template <typename Take>
 void walkCurve(const std::array<Point, 4>& curve, Take take) {
     constexpr double longest = 1e5;  // pixels; no picture is as large
@@ -49,12 +65,15 @@ void walkCurve(const std::array<Point, 4>& curve, Take take) {
     }
 }
 
-/// Hands over points along a path.
+/// Hands over points along a path that is moved so far.
 template <typename Take>
-void walkPath(std::string_view path, Take take) {
+void walkPath(std::string_view path, Point moved, Take take) {
     Point start, here;
     while (const std::optional<PathStep> step = takePathStep(path)) {
-        const auto& points = step->points;
+        std::array<Point, 3> points;
+        std::transform(step->points.begin(), step->points.end(), points.begin(), [&](Point point) {
+            return Point{point.x + moved.x, point.y + moved.y};
+        });
         Point there = points[0];
         if (step->command == 'M') {
             start = there;
@@ -63,7 +82,7 @@ void walkPath(std::string_view path, Take take) {
             walkCurve({here, points[0], points[1], there}, take);
         } else {
             there = step->command == 'Z' ? start : there;
-            walkCurve({here, here, there, there}, take);
+            walkLine(here, there, take);
         }
         here = there;
     }
@@ -90,11 +109,7 @@ Silhouette::Silhouette(const SheetRecord& record, const Box& shown)
 /// The outline; of other pictures their boxes will do.
 void Silhouette::addPicture(const SheetRecord::Paste& paste) {
     if (paste.picture.drawing) {
-        for (const DrawnShape& shape : paste.picture.drawing->shapes) {
-            if (hasInk(shape)) {
-                addShape(shape, paste.x, paste.y);
-            }
-        }
+        addDrawing(*paste.picture.drawing, paste.x - m_shown.x, paste.y - m_shown.y);
         return;
     }
     const Raster& raster = *paste.picture.raster;
@@ -106,12 +121,34 @@ void Silhouette::addPicture(const SheetRecord::Paste& paste) {
     }
 }
 
-/// Lines bound what they enclose, so that their points are enough.
-void Silhouette::addShape(const DrawnShape& shape, double x, double y) {
-    const double around = shape.stroke ? std::max(shape.strokeWidth, 0.0) : 0;
-    walkPath(shape.path, [&](Point point) {
-        addBox({x + point.x - around, y + point.y - around, 2 * around, 2 * around});
-    });
+/// Lines bound what they enclose, so that their points are enough. What is around them is added
+/// once for all lines of a width: points are many.
+void Silhouette::addDrawing(const Drawing& drawing, double x, double y) {
+    std::map<double, std::vector<Extent>> ways;  // of lines, by what they cover on each side
+    for (const DrawnShape& shape : drawing.shapes) {
+        if (!hasInk(shape)) {
+            continue;
+        }
+        const double around = shape.stroke ? std::max(shape.strokeWidth, 0.0) : 0;
+        const auto further = static_cast<std::size_t>(std::ceil(around));
+        const auto [way, isNew] = ways.try_emplace(around);
+        std::vector<Extent>& rows = way->second;
+        rows.resize(m_rows.size() + 2 * further, nothing);
+        walkPath(shape.path, {x, y + double(further)}, [&rows](Point point) {
+            if (point.y >= 0 && point.y < double(rows.size())) {
+                unite(rows[static_cast<std::size_t>(point.y)], point.x, point.x);
+            }
+        });
+    }
+    for (const auto& [around, rows] : ways) {
+        const std::size_t further = rows.size() - m_rows.size();
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            const std::size_t end = std::min(row + 1, m_rows.size());
+            for (std::size_t near = row - std::min(row, further); near < end; ++near) {
+                unite(m_rows[near], rows[row].left - around, rows[row].right + around);
+            }
+        }
+    }
 }
 
 void Silhouette::addBox(const Box& box) {

@@ -23,7 +23,7 @@ public:
 
 private:
     void addPicture(const SheetRecord::Paste& paste);
-    void addShape(const DrawnShape& shape, double x, double y);
+    void addDrawing(const Drawing& drawing, double x, double y);
     void addBox(const Box& box);
 
     Box m_shown;
