@@ -10,6 +10,10 @@ DamageTrack damageTrack(std::int32_t points, std::int32_t rows, PictureSize room
     const int longest = std::max((points + rows - 1) / rows, 1);
     const int side = std::min({(room.width - 1) / longest + 1,
                                (room.height - (rows - 1) * gap) / rows, systemPictureSize});
+    constexpr int leastSide = 3;
+    if (side < leastSide) {
+        return {};
+    }
     DamageTrack track{.side = side, .boxes = {}};
     for (int row = 0; row < rows; ++row) {
         const int boxes = points / rows + (row < points % rows ? 1 : 0);

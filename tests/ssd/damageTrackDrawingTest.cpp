@@ -27,4 +27,5 @@ TEST(DamageTrackDrawing, HasABoxThatAPencilCanTickForEachPointOfAnyWarshipInItsR
                                          "M0.5 9.5L6.5 9.5L6.5 15.5L0.5 15.5Z");
     EXPECT_EQ(drawing.ink.width + drawing.ink.height, 13 + 16);
     EXPECT_TRUE(damageTrackDrawing(0, 2, {40, 16}).shapes.empty());
+    EXPECT_TRUE(damageTrackDrawing(15000, 603, trackRoom(32767)).shapes.empty());
 }
