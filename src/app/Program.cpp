@@ -35,11 +35,14 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QFileInfo>
 #include <QIcon>
 
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -76,6 +79,15 @@ std::string catalogueFaults(const CatalogueFile& file, PictureFiles* pictures = 
         text += complaint(file.path().string(), faults[i]) + '\n';
     }
     return text;
+}
+
+/// The files that the program was started with.
+std::vector<std::string> filesOnCommandLine() {
+    std::vector<std::string> files;
+    for (const QString& file : QApplication::arguments().mid(1)) {
+        files.push_back(QFileInfo(file).absoluteFilePath().toStdString());
+    }
+    return files;
 }
 
 /// The services and the windows of the running program, joined.
@@ -200,6 +212,7 @@ public:
 
     int run() {
         m_splash.load();
+        m_main.files.openAfterStart(filesOnCommandLine());
         return QApplication::exec();
     }
 

@@ -8,6 +8,7 @@
 #include "clsMRUFiles.h"
 #include "paths.h"
 #include "readFile.h"
+#include "readShip.h"
 
 namespace fleetwright {
 
@@ -20,6 +21,11 @@ FileDialog shipDialog(const std::filesystem::path& appFolder) {
             .filterIndex = 2,
             .initialFolder = appFolder / "ships",
             .extension = shipExtension};
+}
+
+/// Whether an entry in the list of recent files is the path of a sheet.
+bool isPath(const std::string& entry) {
+    return nativePath(entry).is_absolute();
 }
 
 /// Hands a report on to a printer.
@@ -51,10 +57,62 @@ bool FileCommands::loadFile(const std::string& fileName) {
         isLoaded = replaceBy(fileName);
         if (isLoaded) {
             m_others.recovery.noteSafe();
-            addRecentFile();
+            addRecentFile(fileName);
         }
     });
     return isLoaded;
+}
+
+/// Loads a file as a command does. A sheet from which no ship can be had leaves the one at hand.
+bool FileCommands::load(const std::string& fileName) {
+    fileFault.reset();
+    bool isSheet = false;
+    try {
+        isSheet = readShip(nativePath(fileName)).isInSheet;
+    } catch (const SheetError& error) {
+        fileFault = Fault{0, error.what()};
+        sayFault(fileName);
+        return false;
+    } catch (const FileError&) {
+        // The load fails likewise.
+    }
+    const bool isLoaded = loadFile(fileName);
+    if (isSheet && isLoaded) {
+        window().say("This design is from a sheet. Save As gives it a file of its own.");
+    } else if (isSheet) {
+        sayFault(fileName);
+    }
+    return isLoaded;
+}
+
+void FileCommands::sayFault(const std::string& fileName) {
+    if (fileFault) {
+        window().say(complaint(pathText(nativePath(fileName).filename()), *fileFault));
+    }
+}
+
+void FileCommands::openFiles(const std::vector<std::string>& files) {
+    if (files.size() != 1) {
+        window().say("One design at a time can be opened");
+        return;
+    }
+    whenReplaceable([this, name = files.front()] {
+        if (!load(name)) {
+            sayFault(name);
+        }
+    });
+}
+
+void FileCommands::openAfterStart(std::vector<std::string> files) {
+    m_filesOfStart = std::move(files);
+    tmrOpen.setEnabled(!m_filesOfStart.empty());
+}
+
+void FileCommands::tmrOpen_Timer() {
+    if (services().isStartOver()) {
+        tmrOpen.setEnabled(false);
+        openFiles(m_filesOfStart);
+    }
 }
 
 void FileCommands::openPutAside(const std::filesystem::path& file) {
@@ -142,19 +200,28 @@ void FileCommands::mnuNew_Click() {
 void FileCommands::mnuLoad_Click() {
     const auto file = services().desktop.chooseFileToOpen(shipDialog(services().appFolder));
     if (file) {
-        whenReplaceable([this, name = *file] { loadFile(name); });
+        whenReplaceable([this, name = *file] { load(name); });
     }
 }
 
 void FileCommands::mnuMRUFile_Click(int Index) {
-    const std::string name = mnuMRUFile[static_cast<std::size_t>(Index - 1)].caption();
-    whenReplaceable([this, name] {
-        loadFile((services().appFolder / "ships" / nativePath(name + shipExtension)).string());
+    const std::string entry = m_others.CMRUList->getFile(static_cast<std::int16_t>(Index));
+    if (isPath(entry)) {
+        openFiles({entry});
+        return;
+    }
+    whenReplaceable([this, entry] {
+        load((services().appFolder / "ships" / nativePath(entry + shipExtension)).string());
     });
 }
 
 void FileCommands::mnuSaveAs_Click() {
-    if (const auto file = services().desktop.chooseFileToSave(shipDialog(services().appFolder))) {
+    FileDialog dialog = shipDialog(services().appFolder);
+    if (const auto& design = window().g_Ship;
+        design && design->g_sSaveName.empty() && !design->g_sTrimmedFileName.empty()) {
+        dialog.fileName = design->g_sTrimmedFileName + shipExtension;  // of the sheet
+    }
+    if (const auto file = services().desktop.chooseFileToSave(dialog)) {
         window().acts.whenIdle([this, name = *file] { saveAs(name); });
     }
 }
@@ -176,12 +243,13 @@ void FileCommands::saveAs(std::string fileName) {
     act([&] { isSaved = ship().saveShip(fileName); });
     if (isSaved) {
         m_others.recovery.noteSafe();
-        addRecentFile();
+        addRecentFile(fileName);
     }
 }
 
-void FileCommands::addRecentFile() {
-    m_others.CMRUList->addFile(ship().g_sTrimmedFileName);
+/// Ship files are listed by their names, as the rules have it, and sheets by their paths.
+void FileCommands::addRecentFile(const std::string& fileName) {
+    m_others.CMRUList->addFile(ship().g_sSaveName.empty() ? fileName : ship().g_sTrimmedFileName);
     fillMRU();
 }
 
@@ -193,7 +261,8 @@ void FileCommands::fillMRU() {
         if (!file.empty()) {
             mnuMRUSep.setVisible(true);
         }
-        entry.setCaption(file.empty() ? std::to_string(index) : file);
+        const std::string name = isPath(file) ? pathText(nativePath(file).filename()) : file;
+        entry.setCaption(file.empty() ? std::to_string(index) : name);
         entry.setVisible(!file.empty());
     }
 }

@@ -3,11 +3,14 @@
 #include "Fault.h"
 #include "Menu.h"
 #include "Panel.h"
+#include "Timer.h"
 #include "controlArray.h"
 
 #include <array>
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -34,6 +37,11 @@ public:
     /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
     /// is a new one all the same, and `fileFault` says why.
     bool loadFile(const std::string& fileName);
+    /// Loads a file that was dropped on the window or named otherwise, when idle, and says why if
+    /// it does not load. Of several files it loads none.
+    void openFiles(const std::vector<std::string>& files);
+    /// The same as soon as the start is over. Nothing if there is no file.
+    void openAfterStart(std::vector<std::string> files);
     /// Replaces the ship by one that was put aside, when idle: one without a file, and not saved.
     void openPutAside(const std::filesystem::path& file);
     std::optional<Fault> fileFault;  ///< why the last load has failed
@@ -73,6 +81,9 @@ public:
                          [this, place] { mnuMRUFile_Click(place + 1); });
     });
 
+    /// Waits for the end of the start.
+    Timer tmrOpen{form(), "tmrOpen", 100, false, [this] { tmrOpen_Timer(); }};
+
 private:
     void mnuNew_Click();
     void mnuLoad_Click();
@@ -81,15 +92,19 @@ private:
     void mnuPrint_Click();
     void mnuExit_Click();
     void mnuMRUFile_Click(int Index);
+    void tmrOpen_Timer();
 
     void whenReplaceable(std::function<void()> replace);
     bool replaceBy(const std::string& fileName);
+    bool load(const std::string& fileName);
+    void sayFault(const std::string& fileName);
     void showNewShip();
     void saveAs(std::string fileName);
-    void addRecentFile();
+    void addRecentFile(const std::string& fileName);
     void printCopies(int copies);
 
     Others m_others;
+    std::vector<std::string> m_filesOfStart;
 };
 
 }  // namespace fleetwright

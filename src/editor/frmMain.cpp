@@ -26,7 +26,9 @@ frmMain::frmMain(MainWindowServices services)
                 .acts = m_acts,
                 .services = m_services,
                 .RefreshScreen = [this] { RefreshScreen(); },
-                .say = [this](const std::string& text) { sbStatus.setText(text); }} {}
+                .say = [this](const std::string& text) { sbStatus.setText(text); }} {
+    onFilesDrop = [this](const std::vector<std::string>& dropped) { files.openFiles(dropped); };
+}
 
 /// Runs one of the steps of the load that have a message of their own. After it the program ends.
 static void loadStep(Desktop& desktop, const std::string& message,

@@ -73,6 +73,15 @@ public:
     /// A key was pressed that no control has taken.
     void pressKey() { Form_KeyPress(); }
 
+    /// The user has dropped files on the window, by their paths.
+    void dropFiles(const std::vector<std::string>& files) {
+        if (takesActs() && onFilesDrop) {
+            onFilesDrop(files);
+        }
+    }
+    /// Set once, by a form that takes files.
+    std::function<void(const std::vector<std::string>& files)> onFilesDrop;
+
     /// For whoever draws it.
     Signal<> RepaintWanted;
     Signal<> Raised;

@@ -31,13 +31,13 @@ DesktopTest::~DesktopTest() {
     }
 }
 
-void DesktopTest::startProgram() {
+void DesktopTest::startProgram(const char* file) {
     const std::string program = path("FleetWright");
     const pid_t process = fork();
     if (process == 0) {
         setenv("XDG_CONFIG_HOME", path("settings").c_str(), 1);
         setenv("XDG_DATA_HOME", path("data").c_str(), 1);
-        execl(program.c_str(), program.c_str(), nullptr);
+        execl(program.c_str(), program.c_str(), file, nullptr);
         _exit(126);
     }
     if (process < 0) {

@@ -21,7 +21,7 @@ protected:
     /// Ends the program, which must not have ended by itself.
     ~DesktopTest() override;
 
-    void startProgram();
+    void startProgram(const char* file = nullptr);
     /// Starts the program and waits for its window with a new ship.
     void start();
     /// Ends the program without giving it a chance to do anything about it.

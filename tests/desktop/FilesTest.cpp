@@ -75,6 +75,15 @@ TEST_F(DesktopTest, ShipIsSavedLoadedAndAskedAbout) {
     EXPECT_EQ(waitForEnd(), 0);
 }
 
+TEST_F(DesktopTest, StartedWithASheetItShowsTheShipInIt) {
+    const std::string ship = path("ships/Provost.shp"), sheet = path("Provost.png");
+    tool({"unpack"});
+    tool({"sheet", ship, "-o", sheet});
+    startProgram(sheet.c_str());
+    window.emplace();
+    window->waitFor(expectedOf(ship));
+}
+
 TEST_F(DesktopTest, SettingsWithTheKeyboardAlone) {
     start();
     press("Alt_L");

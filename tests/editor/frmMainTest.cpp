@@ -119,6 +119,10 @@ public:
             fs::remove_all(m_test.folder().path() / rest);
         } else if (first == "cancel") {
             m_test.file.reset();
+        } else if (first == "drop") {
+            m_window.dropFiles(paths(rest));
+        } else if (first == "start") {
+            m_window.files.openAfterStart(paths(rest));
         } else if (first == "choose") {
             m_test.file = (m_test.folder().path() / rest).string();
         } else if (first == "set") {
@@ -130,6 +134,14 @@ public:
     }
 
 private:
+    std::vector<std::string> paths(const std::string& names) {
+        std::vector<std::string> found = parts(names, " ");
+        for (std::string& name : found) {
+            name = (m_test.folder().path() / name).string();
+        }
+        return found;
+    }
+
     std::string amountInList(std::string_view name) {
         const ListView& list = m_window.aboard.lvCurrentWeapons;
         const auto row = list.find(name);

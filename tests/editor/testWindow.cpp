@@ -47,7 +47,10 @@ public:
         }
     }
     std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return choose(); }
-    std::optional<std::string> chooseFileToSave(const FileDialog&) override { return choose(); }
+    std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override {
+        m_test.m_log += dialog.fileName.empty() ? "" : "suggested: " + dialog.fileName + "; ";
+        return choose();
+    }
     void unloadAllForms() override {
         m_test.m_log += "unload all; ";
         raise(m_test.atEnd);

@@ -78,6 +78,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner)
         centralWidget()->setFixedSize(size);
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     }
+    takeDroppedFiles(form, this);
     update();
     m_connections.push_back(form.Changed.connect([this] { update(); }));
     m_connections.push_back(form.Raised.connect([this] { raiseAndActivate(); }));

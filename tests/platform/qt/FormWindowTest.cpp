@@ -1,15 +1,21 @@
 #include "FormWindowTest.h"
 
+#include "TemporaryFolder.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QSlider>
 #include <QTest>
 #include <QTreeWidget>
+#include <QUrl>
 
 using namespace fleetwright;
 
@@ -88,6 +94,33 @@ TEST_F(FormWindowTest, AKeyGoesToItsBoxFirstAndThenToTheForm) {
         QApplication::sendEvent(&name, &cut);
         EXPECT_EQ(cut.isAccepted(), !isLocked);
     }
+}
+
+TEST_F(FormWindowTest, FilesMayBeDroppedAnywhereAndStayWhereTheyAre) {
+    const TemporaryFolder folder;
+    const QString path = QString::fromStdString(folder.write("Né 1.shp", ""));
+    const QUrl file = QUrl::fromLocalFile(path), web("https://host.example/a.shp");
+    const auto dropped = [this](const char* target, const QList<QUrl>& urls,
+                                Qt::DropActions actions = Qt::MoveAction | Qt::CopyAction) {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(find<QWidget>(target), &enter);
+        QDropEvent drop({}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted()) {
+            QApplication::sendEvent(&window, &drop);
+            EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+        }
+        EXPECT_EQ(takeLog(), "") << "it is dealt with behind the drop";
+        QApplication::processEvents();
+        return QString::fromStdString(takeLog());
+    };
+    for (const char* const target : {"label", "name", "list", "tree", "button"}) {
+        EXPECT_EQ(dropped(target, {file, file}), path + path);
+    }
+    EXPECT_EQ(dropped("label", {file}, Qt::MoveAction), "");
+    EXPECT_EQ(dropped("label", {file, web}) + dropped("label", {}), "");
+    EXPECT_EQ(dropped("label", {QUrl::fromLocalFile(QFileInfo(path).path())}), "") << "a folder";
 }
 
 TEST_F(FormWindowTest, ATextThatIsOnlyShownIsShownWhole) {

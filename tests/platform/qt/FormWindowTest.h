@@ -23,6 +23,7 @@
 
 #include <QWidget>
 
+#include <numeric>
 #include <string>
 #include <utility>
 
@@ -48,6 +49,9 @@ public:
             return key == EnterKey;
         };
         name.onDblClick = [this] { log += "open "; };
+        onFilesDrop = [this](const std::vector<std::string>& files) {
+            log = std::accumulate(files.begin(), files.end(), log);
+        };
         list.addColumn("Name", 1500);
         list.addColumn("Count", 900);
         tree.add("", "ROOT");

@@ -17,6 +17,7 @@ class CheckBox;
 class ComboBox;
 class Control;
 class DragImage;
+class Form;
 class Frame;
 class Label;
 class Line;
@@ -54,6 +55,8 @@ QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMain
 void addMenu(MenuEntry& menu, QMenuBar* bar);
 /// Puts an icon into the tray whenever its model is on, for as long as the window lives.
 void addTrayIcon(TrayIcon& tray, QWidget* window);
+/// Hands files that are dropped anywhere on the window to its form, if that takes any.
+void takeDroppedFiles(Form& form, QWidget* window);
 /// Drags a picture until the user lets go; it belongs to the window it came from.
 void dragImage(DragImage& image, QWidget* window);
 /// The picture that is being dragged inside this window, or null.

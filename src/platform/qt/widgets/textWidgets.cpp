@@ -10,10 +10,12 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -128,6 +130,8 @@ bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale)
         return static_cast<bool>(box.onMouseDown);
     case QEvent::ShortcutOverride:
         return takesEditKeys(event, box);
+    case QEvent::DragEnter:
+        return static_cast<QDropEvent&>(event).mimeData()->hasUrls();  // files are for the window
     case QEvent::KeyPress: {
         const auto& key = static_cast<QKeyEvent&>(event);
         if (key.key() == Qt::Key_F2 && box.onDblClick) {
