@@ -1,22 +1,27 @@
 #include "Raster.h"
 
+#include <utility>
+
 #define XXH_INLINE_ALL
 #include <xxhash.h>
 
 namespace fleetwright {
 
-Raster Raster::shared() const {
-    if (m_shared != nullptr) {
-        return *this;
-    }
-    // A copy of the pixels in any case: somebody may still hold a reference to one of these.
-    const auto pixels = std::make_shared<Shared>();
-    pixels->pixels = m_pixels;
-    Raster picture;
-    picture.m_width = m_width;
-    picture.m_height = m_height;
-    picture.m_shared = pixels;
-    return picture;
+/// Shares these pixels.
+Raster::Raster(int width, int height, std::vector<std::uint32_t>&& pixels)
+    : m_width(width), m_height(height) {
+    const auto shared = std::make_shared<Shared>();
+    shared->pixels = std::move(pixels);
+    m_shared = shared;
+}
+
+Raster Raster::shared() const& {
+    // A copy of the pixels, since somebody may still hold a reference to one of these.
+    return m_shared != nullptr ? *this : Raster(m_width, m_height, std::vector(m_pixels));
+}
+
+Raster Raster::shared() && {
+    return m_shared != nullptr ? *this : Raster(m_width, m_height, std::move(m_pixels));
 }
 
 Raster::Key Raster::key() const {

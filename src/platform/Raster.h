@@ -47,7 +47,8 @@ public:
     /// The same picture, for whoever hands it out again and again: its copies share the pixels and
     /// the key, which is worked out once for all of them. A copy that is changed gets pixels of its
     /// own. Any number of threads may have copies.
-    Raster shared() const;
+    Raster shared() const&;
+    Raster shared() &&;  ///< without a copy of the pixels, and with an end to what refers to them
 
     /// Tells pictures apart: 128 bits of a hash of width and pixels.
     using Key = std::array<std::uint64_t, 2>;
@@ -71,6 +72,7 @@ private:
         }
         return m_pixels;
     }
+    Raster(int width, int height, std::vector<std::uint32_t>&& pixels);
     Key workOutKey() const;
     std::size_t index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +

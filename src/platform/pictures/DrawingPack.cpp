@@ -5,7 +5,6 @@
 #include "readFile.h"
 
 #include <algorithm>
-#include <charconv>
 #include <initializer_list>
 #include <string_view>
 #include <system_error>
@@ -17,16 +16,26 @@ namespace {
 
 constexpr std::string_view firstLine = "FleetWright drawings 1";
 
-/// No picture is so large, and no line leaves one so far.
-constexpr int largest = 1'000'000;
+constexpr int largest = 1'000'000;  ///< of all numbers, and more than any picture has pixels
+
+/// Takes digits off a text; how many there were.
+std::size_t takeDigits(std::string_view& text) {
+    const auto end = std::ranges::find_if(text, [](char c) { return c < '0' || c > '9'; });
+    const auto count = static_cast<std::size_t>(end - text.begin());
+    text.remove_prefix(count);
+    return count;
+}
 
 /// Takes a number off a text; false if there is none that can stand in a path.
 bool takeNumber(std::string_view& text) {
-    double value = 0;
-    const auto [end, error] =
-        std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return error == std::errc() && value > -largest && value < largest;
+    constexpr std::size_t mostDigits = 6;
+    text.remove_prefix(text.starts_with('-') ? 1 : 0);
+    const std::size_t digits = takeDigits(text);
+    if (digits == 0 || digits > mostDigits || !text.starts_with('.')) {
+        return digits != 0 && digits <= mostDigits;
+    }
+    text.remove_prefix(1);
+    return takeDigits(text) != 0;
 }
 
 /// How many numbers follow a letter of path data; less than 0 for one that is none of ours.
