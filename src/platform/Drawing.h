@@ -38,7 +38,7 @@ struct Box {
 struct Drawing {
     int width = 0;   ///< pixels of the picture
     int height = 0;  ///< pixels of the picture
-    Box ink;         ///< what the shapes cover, pixels; empty if there are none
+    Box ink;         ///< what the shapes cover, pixels, even outside; empty if there are none
     std::vector<DrawnShape> shapes;
 };
 

@@ -200,7 +200,7 @@ Drawing recordDrawing(const std::vector<QByteArray>& layers, QSize size) {
     if (recorded.hasPixels()) {
         throw Error("a picture with pixels in it cannot be drawn by lines and areas");
     }
-    const QRectF ink = recorded.ink() & QRectF(QPointF(), size);
+    const QRectF ink = recorded.ink();
     return {.width = size.width(),
             .height = size.height(),
             .ink = {ink.x(), ink.y(), ink.width(), ink.height()},

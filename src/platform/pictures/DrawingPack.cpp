@@ -115,8 +115,8 @@ DrawnShape readShape(PackReader& reader) {
 Drawing drawingIn(PackReader reader) {
     Drawing drawing;
     reader.nextLine();
-    drawing.ink.x = reader.number(0, largest);
-    drawing.ink.y = reader.number(0, largest);
+    drawing.ink.x = reader.number(-largest, largest);
+    drawing.ink.y = reader.number(-largest, largest);
     drawing.ink.width = reader.number(0, largest);
     drawing.ink.height = reader.number(0, largest);
     while (!reader.isAtEnd()) {

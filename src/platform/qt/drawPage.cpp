@@ -69,7 +69,7 @@ Qt::PenJoinStyle joinStyle(DrawnShape::Join join) {
     case DrawnShape::Join::Bevel:
         return Qt::BevelJoin;
     default:
-        return Qt::MiterJoin;
+        return Qt::SvgMiterJoin;  // beyond its limit the other one is cut, not bevelled
     }
 }
 
