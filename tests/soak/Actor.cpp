@@ -32,6 +32,9 @@ const std::map<std::string, std::string> files = {
     {"ships/Great.shp", "Mass: 70000000\nSystem: Ballast, 100\n"},
     {"ships/TooMuch.shp", "System: Gun, 1\nSystem: Giant, 2\n"},
     {"ships/NoNumber.shp", "Mass: 9999999999999\nSystem: Gun, x\n"},
+    {"ships/Sheet.svg", "<svg><ships xmlns=\"https://fleetwright.org/ns/ships/\"><li>"
+                        "TWFzczogNDAKU3lzdGVtOiBHdW4sIDIK</li></ships></svg>"},
+    {"ships/NoShip.svg", "<svg/>"},
     {"ships/Empty.shp", ""},
     {"ships/Folder.shp/file", ""},
     {"ships/\xC3\x9C.shp", "Ship Name: \xC3\x9C\nMass: 6\n"},

@@ -48,6 +48,8 @@ public:
     bool hasEnded() const { return m_hasEnded; }
 
     // For the acts.
+    /// A file of any kind, that need not be there; or none.
+    std::optional<std::string> anyFile();
     Choices& choices;
     TestWindow test;
     frmMain& main = test.window();
@@ -82,7 +84,6 @@ private:
     void perform(const Container& whole, const Chances& chances);
     void actMeanwhile();
     void ask(const std::string& what);
-    std::optional<std::string> anyFile();
     void takeTurn();
     void lookAtPutAside();
     void end();

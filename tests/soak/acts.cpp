@@ -74,6 +74,8 @@ const std::vector<Act> acts = {
              }),
     on<Form>("move", 1, [](auto& me, auto& form) { form.moveTo(anyEdge(me), anyEdge(me)); }),
     on<Form>("activate", 1, [](auto&, auto& form) { form.activate(), form.paint(); }),
+    on<Form>("drop", 1,
+             [](auto& me, auto& form) { form.dropFiles({me.anyFile().value_or("nowhere")}); }),
     on<Timer>("tick", 2, [](auto&, auto& timer) { timer.tick(); }),
     on<TrayIcon>("click", 1, [](auto&, auto& icon) { icon.isOn() ? icon.onLeftClick() : void(); }),
     on<TrayIcon>("menu", 1, [](auto&, auto& icon) { icon.isOn() ? icon.onRightClick() : void(); }),

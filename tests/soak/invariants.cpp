@@ -3,11 +3,14 @@
 #include "Actor.h"
 #include "Error.h"
 #include "readFile.h"
+#include "readShip.h"
 
 #include <algorithm>
 #include <set>
 
 namespace fleetwright {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -120,7 +123,8 @@ private:
         }
         for (std::int16_t index = 1; index <= m_window.CMRUList->MaxFiles(); ++index) {
             const MenuEntry& entry = m_window.files.mnuMRUFile[static_cast<std::size_t>(index - 1)];
-            const std::string file = m_window.CMRUList->getFile(index);
+            // A sheet is listed by its path.
+            const std::string file = fs::path(m_window.CMRUList->getFile(index)).filename();
             expectText(entry.name(), entry.isVisible() ? entry.caption() : "", file);
         }
     }
@@ -158,14 +162,16 @@ private:
     /// A saved ship is as in its file; another one is put aside, or soon will be.
     void lookAtFiles() {
         const auto safe = newShip();
-        if (!m_ship.g_sSaveName.empty() && !safe->loadShip(m_ship.g_sSaveName)) {
-            return expect(false, m_ship.g_sSaveName + " does not load: " + safe->fileFault()->text);
+        const fs::path sheet = m_test.folder().path() / "ships/Sheet.svg";
+        const bool isFromSheet = m_ship.g_sSaveName.empty() && !m_ship.g_sTrimmedFileName.empty();
+        const std::string home = isFromSheet ? sheet.string() : m_ship.g_sSaveName;
+        if (!home.empty() && !safe->loadShip(home)) {
+            return expect(false, home + " does not load: " + safe->fileFault()->text);
         }
         const std::string file = m_ship.shipFile();
         // Not all that is in a file comes back from it: a merchant with a cloak besides other
         // systems, a name with a colon.
-        const std::string saved =
-            m_ship.g_sSaveName.empty() ? "" : readTextFile(m_ship.g_sSaveName);
+        const std::string saved = home.empty() ? "" : readShip(home).text;
         const auto ship = newShip();
         ship->restore(m_ship.state());
         ship->g_bAutoMass = false;
@@ -174,8 +180,7 @@ private:
                                 withoutNames(inOrder(*ship)) == withoutNames(inOrder(*safe));
         expect(isDesigned || !m_ship.g_bSaved, "the ship counts as saved:\n" + file);
         const bool isSafe =
-            isInFile ||
-            (isDesigned && (m_ship.g_sSaveName.empty() || m_ship.g_sShipName == safe->g_sShipName));
+            isInFile || (isDesigned && (home.empty() || m_ship.g_sShipName == safe->g_sShipName));
         if (!isSafe && !m_window.recovery.tmrRecovery.isEnabled()) {
             const auto aside = RecoveryFolder::list(m_test.folder().path() / "recovered");
             expect(std::any_of(aside.begin(), aside.end(),
