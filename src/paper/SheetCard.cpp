@@ -9,6 +9,7 @@
 #include <cmath>
 #include <iterator>
 #include <numeric>
+#include <utility>
 
 namespace fleetwright {
 
@@ -152,9 +153,9 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
 }
 
 /// From the top down, on both sides wherever the drawing is narrow enough.
-SheetCard::Columns SheetCard::columnsInCorners(double columnWidth) const {
+SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette,
+                                               double columnWidth) const {
     constexpr double step = 1, leastHeight = 15;
-    const Silhouette silhouette(m_sheet.record, m_ink);
     const double left = (m_body.width - m_ink.width * m_scale) / 2;
     const double top = (m_body.height - m_ink.height * m_scale) / 2;
     const auto isFree = [&](double y, bool isOnTheLeft) {
@@ -210,27 +211,39 @@ std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const 
 /// if that saves a page.
 PageFlow SheetCard::fittingText(Columns& columns) const {
     const double usual = readingColumns(m_body).front().width;
-    for (const bool isInCorners : {false, true}) {
-        for (const double columnWidth : {usual, narrowColumn}) {
-            columns =
-                isInCorners ? columnsInCorners(columnWidth) : columnsAround(m_scale, columnWidth);
-            const double width = std::min(columnWidth, usual);
-            PageFlow smallest(textToRead(width, 0.84));
-            if (!smallest.fitsInto(columns.inOrder())) {
-                continue;
-            }
-            for (const double factor : {1.0, 0.92}) {
-                PageFlow flow(textToRead(width, factor));
-                if (flow.fitsInto(columns.inOrder())) {
-                    return flow;
-                }
-            }
-            return smallest;
+    const double narrow = std::min(usual, narrowColumn);
+    for (const double width : {usual, narrow}) {
+        columns = columnsAround(m_scale, width);
+        if (std::optional<PageFlow> flow = textFor(columns, width)) {
+            return *std::move(flow);
+        }
+    }
+    const Silhouette silhouette(m_sheet.record, m_ink);
+    for (const double width : {usual, narrow}) {
+        columns = columnsInCorners(silhouette, width);
+        if (std::optional<PageFlow> flow = textFor(columns, width)) {
+            return *std::move(flow);
         }
     }
     columns = columnsAround(m_scale, usual);
     constexpr double comfortable = 1.2;  // where there is a whole page for it
     return PageFlow(textToRead(usual, columns.inOrder().empty() ? comfortable : 1));
+}
+
+/// What there is to read in the largest font in which all of it fits into columns, if any does.
+std::optional<PageFlow> SheetCard::textFor(const Columns& columns, double width) const {
+    const std::vector<Box> boxes = columns.inOrder();
+    PageFlow smallest(textToRead(width, 0.84));
+    if (!smallest.fitsInto(boxes)) {
+        return std::nullopt;
+    }
+    for (const double factor : {1.0, 0.92}) {
+        PageFlow flow(textToRead(width, factor));
+        if (flow.fitsInto(boxes)) {
+            return flow;
+        }
+    }
+    return smallest;
 }
 
 std::vector<PageBlock> SheetCard::putOn(Page& page) const {

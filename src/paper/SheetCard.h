@@ -4,9 +4,12 @@
 #include "sheetBlocks.h"
 #include "sheetDocument.h"
 
+#include <optional>
 #include <vector>
 
 namespace fleetwright {
+
+class Silhouette;
 
 /// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
 /// and below it, or in the corners that it leaves. How large the drawing gets depends on the
@@ -36,10 +39,11 @@ private:
 
     double scaleFor(const Box& ink) const;
     Columns columnsAround(double scale, double columnWidth) const;
-    Columns columnsInCorners(double columnWidth) const;
+    Columns columnsInCorners(const Silhouette& silhouette, double columnWidth) const;
     std::vector<PageBlock> textOfDrawing(double width) const;
     std::vector<PageBlock> textToRead(double width, double factor) const;
     PageFlow fittingText(Columns& columns) const;
+    std::optional<PageFlow> textFor(const Columns& columns, double width) const;
 
     const VectorSheet& m_sheet;
     Box m_room;  ///< all of it
