@@ -3,6 +3,7 @@
 #include "Error.h"
 
 #include <QFontDatabase>
+#include <QResource>
 #include <QStringList>
 
 // Outside of any namespace, as Qt wants it.
@@ -15,9 +16,10 @@ namespace fleetwright {
 namespace {
 
 /// Makes a font file known to Qt; the name of its family.
-QString addFont(const QString& file) {
+QString addFont(const char* file) {
     openPageFonts();
-    const int id = QFontDatabase::addApplicationFont(":/fonts/" + file);
+    // Its bytes, and not its name, or each thread would read, and unpack, a copy of its own.
+    const int id = QFontDatabase::addApplicationFontFromData(QResource(file).uncompressedData());
     const QStringList families = QFontDatabase::applicationFontFamilies(id);
     if (families.isEmpty()) {
         throw Error("the fonts of pages cannot be used");
@@ -25,19 +27,21 @@ QString addFont(const QString& file) {
     return families.front();
 }
 
-QString familyOf(PageFace face) {
-    if (face == PageFace::Fallback) {
-        static const QString fallback = addFont("fallback.otf");
-        return fallback;
-    }
-    static const QString family = (addFont("bold.ttf"), addFont("regular.ttf"));
+QString mainFamily() {
+    static const QString family = (addFont(":/fonts/bold.ttf"), addFont(":/fonts/regular.ttf"));
+    return family;
+}
+
+/// Qt tells fonts apart, and orders them in files, by when they came: this one is always the last.
+QString fallbackFamily() {
+    static const QString family = (mainFamily(), addFont(":/fonts/fallback.otf"));
     return family;
 }
 
 }  // namespace
 
 QFont pageFont(PageFace face, int size) {
-    QFont font(familyOf(face));
+    QFont font(face == PageFace::Fallback ? fallbackFamily() : mainFamily());
     font.setPixelSize(size);
     font.setBold(face == PageFace::Bold);
     // The same on every machine: no letters of other fonts, none moved to where pixels are.
