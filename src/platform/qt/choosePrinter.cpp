@@ -1,5 +1,6 @@
 #include "choosePrinter.h"
 
+#include "paths.h"
 #include "text.h"
 
 #include <QApplication>
@@ -13,19 +14,19 @@ namespace fleetwright {
 
 namespace {
 
-/// Where a document goes that is printed into a file: where the last one went.
-QString fileFor(const QString& title, const QPrinter& printer) {
+/// Where a document goes that is printed into a file: to where the last one went.
+QString fileFor(const QPrinter& printer) {
+    const std::string name = fileNameOf(printer.docName().toStdString());
     const QString last = printer.outputFileName();
     const QDir folder = last.isEmpty() ? QDir::home() : QFileInfo(last).dir();
-    return folder.filePath(QString(title).replace('/', '-') + ".pdf");
+    return folder.filePath(QString::fromStdString(name + ".pdf"));
 }
 
 }  // namespace
 
 bool choosePrinter(QPrinter& printer, const std::string& title) {
-    const QString name =
-        title.empty() ? QApplication::applicationName() : QString::fromStdString(shownText(title));
-    printer.setDocName(name);
+    printer.setDocName(title.empty() ? QApplication::applicationName()
+                                     : QString::fromStdString(shownText(title)));
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setObjectName("printDialog");
     dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
@@ -33,7 +34,7 @@ bool choosePrinter(QPrinter& printer, const std::string& title) {
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
     // Of Qt's own dialog; those of other systems ask for the file by themselves.
     if (auto* const file = dialog.findChild<QLineEdit*>("filename")) {
-        file->setText(fileFor(name, printer));
+        file->setText(fileFor(printer));
     }
     return dialog.exec() == QDialog::Accepted;
 }

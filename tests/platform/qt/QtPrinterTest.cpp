@@ -97,7 +97,7 @@ TEST(QtPrinter, PrintsAsManyCopiesAsItsDialogSaysOrNone) {
     printer.setTitle("HMS A/B");
     const auto choose = [&](bool isAccepted) {
         onDialog([=](QDialog& dialog) {
-            EXPECT_TRUE(dialog.findChild<QLineEdit*>("filename")->text().endsWith("/HMS A-B.pdf"));
+            EXPECT_TRUE(dialog.findChild<QLineEdit*>("filename")->text().endsWith("/HMS A_B.pdf"));
             dialog.findChild<QSpinBox*>("copies")->setValue(2);
             isAccepted ? dialog.accept() : dialog.reject();
         });
