@@ -39,16 +39,25 @@ std::string pieces(std::int64_t count) {
     return " x " + std::to_string(count);
 }
 
+/// A few words that no line parts.
+std::string together(std::string words) {
+    constexpr std::string_view blank = "\u00A0";
+    for (std::size_t at = words.find(' ', 1); at != std::string::npos; at = words.find(' ', at)) {
+        words.replace(at, 1, blank);
+    }
+    return words;
+}
+
 /// "fore, port; mass 3, 10 points each", as far as there is something to say.
 std::string particulars(const LegendRow& row) {
     std::string text = row.arcs;
     std::string price;
     if (row.mass != 0) {
-        price = "mass " + std::to_string(row.mass);
+        price = together("mass " + std::to_string(row.mass));
     }
     if (row.points != 0) {
-        price += (price.empty() ? "" : ", ") + std::to_string(row.points) +
-                 (row.points == 1 ? " point" : " points");
+        price += (price.empty() ? "" : ", ") +
+                 together(std::to_string(row.points) + (row.points == 1 ? " point" : " points"));
     }
     if (!price.empty()) {
         text += (text.empty() ? "" : "; ") + price + (row.count == 1 ? "" : " each");
@@ -66,7 +75,7 @@ PageBlock legendBlock(const LegendRow& row, double width, double factor) {
         style.size *= factor;
         writer.write(wrappedText(text, style, width - left, most), style);
     };
-    write(row.name + (row.count == 1 ? "" : pieces(row.count)),
+    write(row.name + (row.count == 1 ? "" : together(pieces(row.count))),
           {.text = {}, .size = 3.1, .font = PageFont::Bold}, mostNameLines);
     const std::string more = particulars(row);
     if (!more.empty()) {
