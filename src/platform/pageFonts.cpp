@@ -36,12 +36,10 @@ std::optional<PageGlyph> glyphFor(char32_t character, PageFont font) {
     return glyph ? glyph : glyphIn(PageFace::Fallback, character);
 }
 
-}  // namespace
-
-std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
-    constexpr double unitsPerSize = 2048;
+/// Hands over what is drawn of a text, a character and its glyph each.
+template <typename Take>
+void walkGlyphs(std::string_view text, PageFont font, Take take) {
     constexpr std::string_view missing = "\uFFFD";
-    std::vector<PageRun> runs;
     while (!text.empty()) {
         std::string_view shown = text.substr(0, characterLength(text));
         text.remove_prefix(shown.size());
@@ -51,25 +49,35 @@ std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
             continue;
         }
         std::optional<PageGlyph> glyph = glyphFor(character, font);
-        if (!glyph) {
+        if (!glyph || character == U'\uFFFD') {
             shown = missing;
             glyph = glyphFor(U'\uFFFD', font);
         }
-        if (runs.empty() || runs.back().face != glyph->face) {
-            runs.push_back({.face = glyph->face, .text = {}, .width = 0});
-        }
-        runs.back().text += character == U'\uFFFD' ? missing : shown;
-        runs.back().width += glyph->advance / unitsPerSize;
+        take(shown, *glyph);
     }
+}
+
+constexpr double unitsPerSize = 2048;
+
+}  // namespace
+
+std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
+    std::vector<PageRun> runs;
+    walkGlyphs(text, font, [&runs](std::string_view shown, const PageGlyph& glyph) {
+        if (runs.empty() || runs.back().face != glyph.face) {
+            runs.push_back({.face = glyph.face, .text = {}, .width = 0});
+        }
+        runs.back().text += shown;
+        runs.back().width += glyph.advance / unitsPerSize;
+    });
     return runs;
 }
 
 double textWidth(const std::string& text, double size, PageFont font) {
     double width = 0;
-    for (const PageRun& run : pageRuns(text, font)) {
-        width += run.width;
-    }
-    return width * size;
+    walkGlyphs(text, font,
+               [&width](std::string_view, const PageGlyph& glyph) { width += glyph.advance; });
+    return width / unitsPerSize * size;
 }
 
 }  // namespace fleetwright
