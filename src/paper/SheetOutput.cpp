@@ -33,10 +33,9 @@ FileDialog sheetDialog(const OutgoingSheet& sheet, const fs::path& folder) {
                       .filterIndex = 2,
                       .initialFolder = folder,
                       .fileName = fileNameOf(sheet.name) + pdfEnding,
-                      .endings = {pdfEnding, pdfEnding, svgEnding}};
+                      .endings = {pdfEnding, pdfEnding, svgEnding, pngEnding}};
     if (!sheet.bitmap.isEmpty()) {
         dialog.filter += "|PNG Files (*.png)|*.png";
-        dialog.endings.push_back(pngEnding);
     }
     return dialog;
 }

@@ -26,8 +26,8 @@ struct FileDialog {
     std::string fileName = {};  ///< the name that is suggested, if any
     /// What the rules add to a name that lacks it. The desktop asks before that file is replaced.
     std::string extension = {};
-    /// Where the user chooses a kind of file: its ending for each pair of the filter. A name that
-    /// has none of them gets the one of the pair that is chosen at the end.
+    /// Where the user chooses a kind of file: its ending for each pair of the filter, and others
+    /// that a name may have. One that has none of them gets that of the chosen pair.
     std::vector<std::string> endings = {};
 };
 
