@@ -8,6 +8,7 @@
 #include "ShipClass.h"
 #include "bestMap.h"
 #include "carriedShips.h"
+#include "documentDate.h"
 #include "paths.h"
 #include "saveFile.h"
 #include "text.h"
@@ -168,7 +169,10 @@ std::string SheetOutput::contents(const OutgoingSheet& sheet, const std::string&
 
 OutgoingSheet SheetOutput::onMap(const SheetShip& ship, const Rows& aboard, const SSDMap& map,
                                  Raster bitmap) const {
-    const VectorSheet sheet = vectorSheet(ship, aboard, map, m_services.sources);
+    VectorSheet sheet = vectorSheet(ship, aboard, map, m_services.sources);
+    if (ship.ship.g_bSaved) {
+        sheet.date = documentDate(nativePath(ship.ship.g_sSaveName));
+    }
     return {.name = ship.txtShipName,
             .pages =
                 [sheet](const PageSize& paper) { return sheetDocument({sheet}, {.paper = paper}); },

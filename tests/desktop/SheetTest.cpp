@@ -70,14 +70,16 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     chooseFile("Save As", path("ssds/again.svg"));
     waitForFile("ssds/again.svg", "</svg>");
     close("View SSD");
-    for (const auto& [from, to] :
-         {std::pair("again.svg", "first.pdf"), {"first.pdf", "last.pdf"}}) {
+    const auto exported = [&](const char* from, const char* to) {
         window->load(path("ships/Wren.shp"));
-        window->load(path(std::string("ssds/") + from));
+        window->load(path(from));
         press("ctrl+e");
-        chooseFile("Save As", path(std::string("ssds/") + to));
-        waitForFile(std::string("ssds/") + to, "%%EOF");
-    }
-    EXPECT_TRUE(folder.read("ssds/first.pdf") == folder.read("ssds/last.pdf"));
-    EXPECT_EQ(tool({"report", path("ssds/last.pdf")}), tool({"report", ship}));
+        chooseFile("Save As", path(to));
+        waitForFile(to, "%%EOF");
+        return folder.read(to);
+    };
+    exported("ssds/again.svg", "ssds/again.pdf");
+    EXPECT_EQ(tool({"report", path("ssds/again.pdf")}), tool({"report", ship}));
+    tool({"sheet", ship, "-o", path("expected.pdf")});
+    EXPECT_TRUE(exported("ships/Provost.shp", "ssds/own.pdf") == folder.read("expected.pdf"));
 }
