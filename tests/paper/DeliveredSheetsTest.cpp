@@ -85,7 +85,10 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
                                       ? ship.g_iDamRows
                                       : trackRows(trackSize(map->iMaxMass), ship.g_iDP);
         const SheetImages images = catalogueImages(picturesReadOnce(PICTURES_FOLDER, files), ship);
-        expectGood(vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings}),
-                   damageTrack(ship.g_iDP, rows, trackRoom(map->iMaxMass)).side);
+        const PictureSize room = trackRoom(map->iMaxMass);
+        const VectorSheet sheet =
+            vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings});
+        EXPECT_EQ(sheet.record.pastes.at(0).width, room.width) << "no damage track";
+        expectGood(sheet, damageTrack(ship.g_iDP, rows, room).side);
     }
 }
