@@ -214,7 +214,7 @@ SheetFacts sheetFacts(const SheetShip& ship, const std::vector<ListView::Row>& l
             .hull = factOf(hullLine(design.Hull())),
             .mass = design.mass(),
             .points = wholeNumber(ship.txtCost),
-            .thrust = thrustWords(design.THRUST()),
+            .thrust = thrustWords(design.hullDesign().thrust),
             .drive = driveWords(design.FTL()),
             .damagePoints = wholeNumber(ship.txtDP),
             .damageRows = design.g_iDamRows,
