@@ -253,7 +253,7 @@ private:
     QtPictureFiles m_pictureFiles;
     PictureCache m_pictures{m_pictureFiles};  // the start looks at each picture twice
     QtPrograms m_programs;
-    DrawingPack m_drawings{m_appFolder / "drawings.dat"};
+    DrawingPack m_drawings{drawingsFile(m_appFolder)};
     QtPrinter m_printer;
     QtPagePrinter m_pagePrinter;
     QtRegistry m_registry;

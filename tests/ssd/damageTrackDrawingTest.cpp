@@ -22,8 +22,8 @@ TEST(DamageTrackDrawing, HasABoxThatAPencilCanTickForEachPointOfAnyWarshipInItsR
         EXPECT_TRUE(drawing.ink.width <= room.width && drawing.ink.height <= room.height);
     }
     const Drawing drawing = damageTrackDrawing(3, 2, {40, 16});
-    EXPECT_EQ(drawing.shapes.at(0).path, "M0.5 0.5L6.5 0.5L6.5 6.5L0.5 6.5Z"
-                                         "M6.5 0.5L12.5 0.5L12.5 6.5L6.5 6.5Z"
+    EXPECT_EQ(drawing.shapes.at(0).path, "M0.5 0.5L12.5 0.5L12.5 6.5L0.5 6.5Z"
+                                         "M6.5 0.5L6.5 6.5"
                                          "M0.5 9.5L6.5 9.5L6.5 15.5L0.5 15.5Z");
     EXPECT_EQ(drawing.ink.width + drawing.ink.height, 13 + 16);
     EXPECT_TRUE(damageTrackDrawing(0, 2, {40, 16}).shapes.empty());

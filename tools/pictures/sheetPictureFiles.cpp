@@ -1,9 +1,8 @@
 #include "Artwork.h"
-#include "DamageTrack.h"
 #include "HullRules.h"
 #include "PictureSet.h"
 #include "SheetPictures.h"
-#include "boxDrawing.h"
+#include "damageTrackDrawing.h"
 #include "drawing.h"
 #include "pictureFiles.h"
 
@@ -11,28 +10,25 @@ namespace fleetwright {
 
 namespace {
 
-/// The outline of a box.
-void drawBox(QImage& image, const QRect& box) {
-    for (int x = box.left(); x <= box.right(); ++x) {
-        image.setPixel(x, box.top(), 1);
-        image.setPixel(x, box.bottom(), 1);
-    }
-    for (int y = box.top(); y <= box.bottom(); ++y) {
-        image.setPixel(box.left(), y, 1);
-        image.setPixel(box.right(), y, 1);
+/// The outline of a box whose upper left corner is at (x, y).
+void drawBox(QImage& image, int x, int y, int side) {
+    for (int i = 0; i < side; ++i) {
+        image.setPixel(x + i, y, 1);
+        image.setPixel(x + i, y + side - 1, 1);
+        image.setPixel(x, y + i, 1);
+        image.setPixel(x + side - 1, y + i, 1);
     }
 }
 
 PictureFile drawTrack(TrackSize size, int points) {
     const PictureSize room = trackPictureSize(size);
-    const DamageTrack track = damageTrack(points, trackRows(size, points), room);
+    const std::int32_t rows = trackRows(size, points);
+    const DamageTrack track = damageTrack(points, rows, room);
     QImage image = blankInk({room.width, room.height});
-    std::vector<QRect> boxes;
     for (const TrackBox& box : track.boxes) {
-        boxes.emplace_back(box.x, box.y, track.side, track.side);
-        drawBox(image, boxes.back());
+        drawBox(image, box.x, box.y, track.side);
     }
-    return {gifFile(image), boxDrawing(image.size(), boxes)};
+    return {gifFile(image), damageTrackDrawing(points, rows, room)};
 }
 
 PictureFile drawSheetSource(const Artwork& artwork, const std::string& name,
