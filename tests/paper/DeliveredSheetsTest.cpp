@@ -26,12 +26,15 @@ struct GifFiles : PictureReader {
     Raster builtIn(const std::string&) override { return {}; }
 };
 
-void expectGood(const VectorSheet& sheet, int damageBox) {
+/// Holds a sheet against the pixels of its outline.
+void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) {
     const PageDocument document = sheetDocument({sheet}, {});
     expectInsideMargins(document);
     EXPECT_LE(document.pages.size(), 2U);
     const Box ink = inkOf(sheet.record);
-    const Silhouette silhouette(sheet.record, ink);
+    SheetRecord pixels = sheet.record;
+    pixels.outline.picture = {nullptr, std::make_shared<const Raster>(outline)};
+    const Silhouette silhouette(pixels, ink);
     std::multiset<const Drawing*> inLegend, expected;
     for (const LegendRow& row : sheet.facts.legend) {
         expected.insert(row.picture.drawing.get());
@@ -89,6 +92,6 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
         const VectorSheet sheet =
             vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings});
         EXPECT_EQ(sheet.record.pastes.at(0).width, room.width) << "no damage track";
-        expectGood(sheet, damageTrack(ship.g_iDP, rows, room).side);
+        expectGood(sheet, files.load(map->outlineFile()), damageTrack(ship.g_iDP, rows, room).side);
     }
 }
