@@ -75,8 +75,6 @@ struct AuthorsWindows {
             {"close", [&] { viewer.chkCancel.press(); }},
             {"resize", [&] { viewer.Form::resize(std::stoi(first), std::stoi(rest)); }},
             {"paint", [&] { viewer.paint(); }},
-            {"press",
-             [&] { (what == "P" ? viewer.keys.keyPrint : viewer.keys.keyExport).press(); }},
             {"minimize", [&] { viewer.setState(WindowState::Minimized); }},
             {"maximize", [&] { viewer.setState(WindowState::Maximized); }},
             {"restore", [&] { viewer.setState(WindowState::Normal); }},
@@ -153,12 +151,7 @@ struct AuthorsWindows {
     int turns = 0, turnLength = 0;      ///< the turns of a scan, and the milliseconds of each
     std::map<int, std::string> inTurn;  ///< acts by the numbers of the turns
     frmSSDMapCreator creator{{folder.path(), desktop, pictures, clock, [this] { turn(); }, maps}};
-    frmSSDView viewer{
-        {folder.path(), desktop, pictures, [this](const fs::path& file, const Raster& picture) {
-             const std::string shown = file.string() + ' ' + pictureText(picture);
-             return SheetActs{[=, this] { desktop.log += "print " + shown + "; "; },
-                              [=, this] { desktop.log += "export " + shown + "; "; }};
-         }}};
+    frmSSDView viewer{{folder.path(), desktop, pictures}};
 };
 
 }  // namespace

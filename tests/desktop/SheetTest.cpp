@@ -61,14 +61,24 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     const Window viewer("View SSD");
     const int emptyWidth = viewer.get("frame", "Sheet").place().width;
     viewer.click("push button", "Select File");
-    chooseFile("Open", path("ssds/carrier.png"));
+    chooseFile("Open", path("ssds/sheet.bmp"));
     waitFor("the sheet to be shown",
             [&] { return viewer.get("frame", "Sheet").place().width > emptyWidth; });
+    const auto exportViewed = [&](const std::string& to) {
+        waitForKeyboard("View SSD");
+        press("ctrl+e");
+        chooseFile("Save As", path(to));
+        waitForFile(to, "</svg>");
+        return folder.read(to);
+    };
+    EXPECT_NE(exportViewed("ssds/picture.svg").find("image/png"), std::string::npos);
+    viewer.click("push button", "Select File");
+    chooseFile("Open", path("ssds/carrier.png"));
     // The ship has come along, and goes on from here.
-    waitForKeyboard("View SSD");
-    press("ctrl+e");
-    chooseFile("Save As", path("ssds/again.svg"));
-    waitForFile("ssds/again.svg", "</svg>");
+    EXPECT_EQ(exportViewed("ssds/again.svg").find("image/png"), std::string::npos);
+    press("ctrl+p");
+    waitForKeyboard("Print");
+    press("Escape");
     close("View SSD");
     const auto exported = [&](const char* from, const char* to) {
         window->load(path("ships/Wren.shp"));
