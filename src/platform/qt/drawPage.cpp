@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -98,12 +99,17 @@ public:
             x -= text.anchor == PageText::Anchor::Middle ? width / 2 : width;
         }
         m_painter.setPen(QColor::fromRgb(text.colour));
+        const QTransform page = m_painter.transform();
+        // Letters of all sizes are those of one font, so that they are looked up once.
+        const double scale = toUnits(text.size) / pageFontSize;
         for (const PageRun& run : pageRuns(text.text, text.font)) {
-            m_painter.setFont(pageFont(run.face, static_cast<int>(toUnits(text.size))));
-            m_painter.drawText(QPointF(toUnits(x), toUnits(text.y)),
-                               QString::fromStdString(run.text));
+            m_painter.setFont(pageFont(run.face));
+            m_painter.setTransform(QTransform(scale, 0, 0, scale, toUnits(x), toUnits(text.y)) *
+                                   page);
+            m_painter.drawText(QPointF(), QString::fromStdString(run.text));
             x += run.width * text.size;
         }
+        m_painter.setTransform(page);
     }
 
     void operator()(const PageLine& line) const {

@@ -40,9 +40,9 @@ QString fallbackFamily() {
 
 }  // namespace
 
-QFont pageFont(PageFace face, int size) {
+QFont pageFont(PageFace face) {
     QFont font(face == PageFace::Fallback ? fallbackFamily() : mainFamily());
-    font.setPixelSize(size);
+    font.setPixelSize(pageFontSize);
     font.setBold(face == PageFace::Bold);
     // The same on every machine: no letters of other fonts, none moved to where pixels are.
     font.setStyleStrategy(QFont::StyleStrategy(QFont::NoFontMerging | QFont::ForceOutline));

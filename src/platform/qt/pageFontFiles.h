@@ -6,8 +6,13 @@
 
 namespace fleetwright {
 
-/// A font of pages out of the files that the program carries, of a size in the painter's units. An
-/// application object must be there. Any number of threads may ask. Throws Error.
-QFont pageFont(PageFace face, int size);
+/// The size in which fonts of pages come, to be scaled. Qt remembers the letters of small ones, and
+/// in this one its 64ths of a unit are the units of the font, so that lines are as wide as they
+/// say.
+inline constexpr int pageFontSize = 32;
+
+/// A font of pages out of the files that the program carries. An application object must be there.
+/// Any number of threads may ask. Throws Error.
+QFont pageFont(PageFace face);
 
 }  // namespace fleetwright

@@ -12,7 +12,7 @@ namespace {
 
 void prepareForPdf() {
     needQuietApplication();
-    pageFont(PageFace::Regular, 1);
+    pageFont(PageFace::Regular);
 }
 
 std::string quietPdfFile(const PageDocument& document) {
