@@ -2,9 +2,11 @@
 
 #include "Error.h"
 #include "PackReader.h"
+#include "pathSteps.h"
 #include "readFile.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 #include <system_error>
@@ -18,63 +20,16 @@ constexpr std::string_view firstLine = "FleetWright drawings 1";
 
 constexpr int largest = 1'000'000;  ///< of all numbers, and more than any picture has pixels
 
-/// Takes digits off a text; how many there were.
-std::size_t takeDigits(std::string_view& text) {
-    const auto end = std::ranges::find_if(text, [](char c) { return c < '0' || c > '9'; });
-    const auto count = static_cast<std::size_t>(end - text.begin());
-    text.remove_prefix(count);
-    return count;
-}
-
-/// Takes a number off a text; false if there is none that can stand in a path.
-bool takeNumber(std::string_view& text) {
-    constexpr std::size_t mostDigits = 6;
-    text.remove_prefix(text.starts_with('-') ? 1 : 0);
-    const std::size_t digits = takeDigits(text);
-    if (digits == 0 || digits > mostDigits || !text.starts_with('.')) {
-        return digits != 0 && digits <= mostDigits;
-    }
-    text.remove_prefix(1);
-    return takeDigits(text) != 0;
-}
-
-/// How many numbers follow a letter of path data; less than 0 for one that is none of ours.
-int numbersBehind(char letter) {
-    switch (letter) {
-    case 'M':
-    case 'L':
-        return 2;
-    case 'C':
-        return 6;
-    case 'Z':
-        return 0;
-    default:
-        return -1;
-    }
-}
-
-/// Whether a text is path data as packs have it: one blank between numbers, none besides.
 bool isPath(std::string_view text) {
-    if (!text.starts_with('M')) {
-        return false;
+    const auto isFar = [](const PathStep::Point& point) {
+        return !(std::abs(point.x) < largest && std::abs(point.y) < largest);
+    };
+    bool isWell = text.starts_with('M');
+    while (isWell && !text.empty()) {
+        const std::optional<PathStep> step = takePathStep(text);
+        isWell = step && std::ranges::none_of(step->points, isFar);
     }
-    while (!text.empty()) {
-        const int numbers = numbersBehind(text.front());
-        text.remove_prefix(1);
-        for (int i = 0; i < numbers; ++i) {
-            if (i > 0 && !text.starts_with(' ')) {
-                return false;
-            }
-            text.remove_prefix(i > 0 ? 1 : 0);
-            if (!takeNumber(text)) {
-                return false;
-            }
-        }
-        if (numbers < 0) {
-            return false;
-        }
-    }
-    return true;
+    return isWell;
 }
 
 std::optional<std::uint32_t> readColour(PackReader& reader) {
