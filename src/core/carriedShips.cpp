@@ -6,7 +6,6 @@
 #include "base64.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <optional>
 
