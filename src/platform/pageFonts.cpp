@@ -4,6 +4,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <span>
 
@@ -59,6 +60,25 @@ void walkGlyphs(std::string_view text, PageFont font, Take take) {
 
 constexpr double unitsPerSize = 2048;
 
+constexpr std::size_t asciiCount = 128;
+
+/// How far the characters of ASCII move the pen in a font; 0 for those that are not drawn.
+const std::array<unsigned, asciiCount>& asciiAdvances(PageFont font) {
+    const auto all = [](PageFont ofFont) {
+        std::array<unsigned, asciiCount> advances{};
+        for (std::size_t code = 0; code < asciiCount; ++code) {
+            const char character = static_cast<char>(code);
+            walkGlyphs({&character, 1}, ofFont, [&](std::string_view, const PageGlyph& glyph) {
+                advances[code] = glyph.advance;
+            });
+        }
+        return advances;
+    };
+    static const std::array<unsigned, asciiCount> regular = all(PageFont::Regular);
+    static const std::array<unsigned, asciiCount> bold = all(PageFont::Bold);
+    return font == PageFont::Bold ? bold : regular;
+}
+
 }  // namespace
 
 std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
@@ -74,9 +94,19 @@ std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
 }
 
 double textWidth(const std::string& text, double size, PageFont font) {
+    const std::array<unsigned, asciiCount>& advances = asciiAdvances(font);
     double width = 0;
-    walkGlyphs(text, font,
-               [&width](std::string_view, const PageGlyph& glyph) { width += glyph.advance; });
+    for (std::string_view rest = text; !rest.empty();) {
+        if (const auto code = static_cast<unsigned char>(rest.front()); code < asciiCount) {
+            width += advances[code];
+            rest.remove_prefix(1);
+            continue;
+        }
+        const std::string_view character = rest.substr(0, characterLength(rest));
+        walkGlyphs(character, font,
+                   [&width](std::string_view, const PageGlyph& glyph) { width += glyph.advance; });
+        rest.remove_prefix(character.size());
+    }
     return width / unitsPerSize * size;
 }
 
