@@ -24,13 +24,16 @@ public:
     std::string message;
 };
 
-constexpr const char* noMapFits = "there is no map that the ship fits on";
-
 /// Throws Error for the name of a map that is there and was dropped.
 void checkIsUsable(const LoadedMaps& maps, const std::string& mapName) {
     if (const DroppedMap* const map = maps.whyDropped(mapName)) {
         throw Error("the map cannot be used: " + complaint(map->file.string(), map->fault));
     }
+}
+
+[[noreturn]] void failWithoutMap(const frmMain& main, const LoadedMaps& maps) {
+    throw Error(whyNoMap(maps.maps, main.g_Ship->mass(),
+                         SheetLists().fillShipWeap(main.aboard.lvCurrentWeapons.rows())));
 }
 
 /// The map of this name, or the one that fits best if the name is empty. Throws Error.
@@ -43,9 +46,17 @@ SSDMaps::Map mapFor(const frmMain& main, const LoadedMaps& maps, const std::stri
     lists.fillShipWeap(main.aboard.lvCurrentWeapons.rows());
     const SSDMaps::Map best = bestMap(maps.maps, *main.g_Ship, lists.lstShipWeap);
     if (!best) {
-        throw Error(noMapFits);
+        failWithoutMap(main, maps);
     }
     return best;
+}
+
+/// Throws Error for a ship that is too heavy for the window in which bitmaps are made.
+void checkGetsBitmap(const ShipClass& ship, const LoadedMaps& maps) {
+    if (!getsSheet(ship.mass(), maps.g_iLargestSSD)) {
+        throw Error("a ship of mass " + std::to_string(ship.mass()) +
+                    " is too heavy for a bitmap; a .pdf or .svg can be made");
+    }
 }
 
 }  // namespace
@@ -64,20 +75,13 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
                       .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
                       .ship = [&] { return sheetShip(main); }});
     mapper.show();
-    const std::int32_t mass = main.g_Ship->mass();
-    if (mapName.empty() && !getsSheet(mass, tools.maps.g_iLargestSSD)) {
-        throw Error("a ship of mass " + std::to_string(mass) +
-                    (mapper.bestFit()
-                         ? " is too heavy for a bitmap; a .pdf or .svg can be made"
-                         : " is too heavy for a sheet; maps serve " +
-                               std::to_string(tools.maps.g_iLargestSSD) + " at the most"));
-    }
     if (!mapName.empty()) {
         mapper.cboMapSelection.type(mapName);
     } else if (mapper.bestFit()) {
+        checkGetsBitmap(*main.g_Ship, tools.maps);
         mapper.cboMapSelection.type(mapper.bestFit()->sDisplayName);
     } else if (desktop.message.empty()) {
-        throw Error(noMapFits);
+        failWithoutMap(main, tools.maps);
     }
     mapper.cmdDrawIt.press();
     if (!desktop.message.empty()) {

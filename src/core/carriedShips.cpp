@@ -44,6 +44,12 @@ bool isBitmap(std::string_view bytes) {
            bytes.substr(lengthPlace + 1, 3) == std::string_view("\0\0\0", 3);
 }
 
+/// How files begin that are looked at or packed, and no text of a ship: GIF, JPEG, TIFF, WebP, what
+/// gzip has packed, and XML in UTF-16.
+constexpr std::string_view otherBeginnings[] = {
+    "GIF87a", "GIF89a",       "\xFF\xD8\xFF",     {"II*\0", 4},      {"MM\0*", 4},
+    "RIFF",   "\x1F\x8B\x08", {"\xFF\xFE<\0", 4}, {"\xFE\xFF\0<", 4}};
+
 SheetFormat formatOf(std::string_view bytes) {
     if (bytes.starts_with(pngSignature)) {
         return SheetFormat::Png;
@@ -51,8 +57,10 @@ SheetFormat formatOf(std::string_view bytes) {
     if (bytes.starts_with("%PDF-")) {
         return SheetFormat::Pdf;
     }
-    if (isBitmap(bytes) || bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a") ||
-        bytes.starts_with("\xFF\xD8\xFF")) {
+    if (isBitmap(bytes) ||
+        std::ranges::any_of(otherBeginnings, [bytes](std::string_view beginning) {
+            return bytes.starts_with(beginning);
+        })) {
         return SheetFormat::OtherPicture;
     }
     return isSvg(bytes) ? SheetFormat::Svg : SheetFormat::NoSheet;

@@ -66,16 +66,6 @@ PageDocument pictureDocument(const std::string& name, const std::shared_ptr<cons
     return document;
 }
 
-/// What all maps lack for a ship that fits on none.
-std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, const SheetOutput::Rows& aboard) {
-    const std::string ship = "a ship of mass " + std::to_string(mass);
-    if (!fittingMaps(maps, mass, 0).empty()) {
-        return "No map for " + ship + " has a place for each of its systems (" +
-               std::to_string(SheetLists().fillShipWeap(aboard)) + ')';
-    }
-    return maps.all().empty() ? "There are no maps" : "There is no map for " + ship;
-}
-
 /// The systems aboard as the main window lists them.
 SheetOutput::Rows rowsOf(const ShipClass& ship) {
     SheetOutput::Rows rows;
@@ -190,7 +180,8 @@ SSDMaps::Map SheetOutput::mapFor(const ShipClass& ship, const Rows& aboard) cons
 OutgoingSheet SheetOutput::onBestMap(const SheetShip& ship, const Rows& aboard) const {
     const SSDMaps::Map map = mapFor(ship.ship, aboard);
     if (!map) {
-        throw Error(whyNoMap(m_services.g_colSSDMaps, ship.ship.mass(), aboard));
+        throw Error(
+            whyNoMap(m_services.g_colSSDMaps, ship.ship.mass(), SheetLists().fillShipWeap(aboard)));
     }
     const bool hasBitmap = getsSheet(ship.ship.mass(), m_services.g_iLargestSSD);
     return onMap(ship, aboard, *map, hasBitmap ? bitmapOn(*map, ship, aboard) : Raster());

@@ -65,4 +65,19 @@ SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
     return best;
 }
 
+std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount) {
+    const std::string ship = "a ship of mass " + std::to_string(mass);
+    if (maps.all().empty()) {
+        return "there are no maps";
+    }
+    if (!fittingMaps(maps, mass, 0).empty()) {
+        return "no map for " + ship + " has a place for each of its systems (" +
+               std::to_string(iShipWeapCount) + ')';
+    }
+    const SSDMaps::Map& largest = *std::ranges::max_element(
+        maps.all(), {}, [](const SSDMaps::Map& map) { return map->iMaxMass; });
+    return "there is no map for " + ship + "; they serve " + std::to_string(largest->iMaxMass) +
+           " at the most";
+}
+
 }  // namespace fleetwright

@@ -2,6 +2,7 @@
 
 #include "SSDMaps.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -18,5 +19,9 @@ class ShipClass;
 /// others.
 SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
                      const std::vector<std::string>& systems);
+
+/// What all maps lack if a ship of this mass, with so many systems besides damage control parties,
+/// fits on none of them. In small letters, as a fault is told.
+std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount);
 
 }  // namespace fleetwright
