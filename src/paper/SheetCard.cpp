@@ -21,7 +21,7 @@ constexpr double columnGap = 5;
 constexpr double goodSymbol = 11.08, mostSymbol = 14;
 constexpr double wideColumn = 57, narrowColumn = 43;
 
-double scaleOfSymbol(double side) {
+constexpr double scaleOfSymbol(double side) {
     return side / systemPictureSize;
 }
 
@@ -65,6 +65,15 @@ std::vector<Box> columnsIn(const Box& room, double width) {
     return columns;
 }
 
+/// Makes columns no higher than their text, which stands this far down in what they were.
+void takeUp(std::vector<Box>& columns, const PageFlow& flow, double down) {
+    const double height = flow.balancedHeight(columns);
+    for (Box& column : columns) {
+        column.y += (column.height - height) * down;
+        column.height = height;
+    }
+}
+
 double areaOf(const std::vector<Box>& boxes) {
     return std::accumulate(boxes.begin(), boxes.end(), 0.0, [](double area, const Box& box) {
         return area + box.width * box.height;
@@ -96,22 +105,27 @@ SheetCard::SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain)
         m_body.y += taken;
         m_body.height -= taken;
     }
-    m_scale = scaleFor(m_ink);
+    m_leastScale = leastScale();
+}
+
+/// That of a drawing which fills the room.
+double SheetCard::largestScale() const {
+    return std::min(m_body.width / m_ink.width, m_body.height / m_ink.height);
 }
 
 bool SheetCard::isGoodHere() const {
-    if (m_scale < scaleOfSymbol(leastSymbol)) {
+    if (m_leastScale < scaleOfSymbol(leastSymbol)) {
         return false;
     }
     const double width = readingColumns(m_body).front().width;
     return !m_linesInHead.empty() ||
-           PageFlow(textOfDrawing(width)).fitsInto(columnsAround(m_scale, width).inOrder());
+           PageFlow(textOfDrawing(width)).fitsInto(columnsAround(m_leastScale, width).inOrder());
 }
 
 /// The largest scale that leaves the usual room for reading, or else a little, in wide columns or
 /// else in narrow ones. If even the least good one does not, the drawing has the room for itself.
-double SheetCard::scaleFor(const Box& ink) const {
-    const double most = std::min(m_body.width / ink.width, m_body.height / ink.height);
+double SheetCard::leastScale() const {
+    const double most = largestScale();
     const double least = scaleOfSymbol(m_isPlain ? leastSymbol : goodSymbol);
     if (most <= least) {
         return most;
@@ -153,16 +167,16 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
 }
 
 /// From the top down, on both sides wherever the drawing is narrow enough.
-SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette,
+SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette, double scale,
                                                double columnWidth) const {
     constexpr double step = 1, leastHeight = 15;
-    const double left = (m_body.width - m_ink.width * m_scale) / 2;
-    const double top = (m_body.height - m_ink.height * m_scale) / 2;
+    const double left = (m_body.width - m_ink.width * scale) / 2;
+    const double top = (m_body.height - m_ink.height * scale) / 2;
     const auto isFree = [&](double y, bool isOnTheLeft) {
-        const Silhouette::Extent extent = silhouette.between(
-            (y - columnGap - top) / m_scale, (y + step + columnGap - top) / m_scale);
-        const double free = isOnTheLeft ? left + extent.left * m_scale
-                                        : m_body.width - left - extent.right * m_scale;
+        const Silhouette::Extent extent =
+            silhouette.between((y - columnGap - top) / scale, (y + step + columnGap - top) / scale);
+        const double free =
+            isOnTheLeft ? left + extent.left * scale : m_body.width - left - extent.right * scale;
         return free >= columnWidth + columnGap;
     };
     Columns columns;
@@ -207,68 +221,83 @@ std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const 
     return blocks;
 }
 
-/// What there is to read, and the columns for it: narrow ones, those in corners, and a smaller font
-/// if that saves a page.
-PageFlow SheetCard::fittingText(Columns& columns) const {
+/// Wide columns are better to read, more narrow ones fit.
+std::vector<SheetCard::Reading> SheetCard::readings(double factor) const {
     const double usual = readingColumns(m_body).front().width;
-    const double narrow = std::min(usual, narrowColumn);
-    for (const double width : {usual, narrow}) {
-        columns = columnsAround(m_scale, width);
-        if (std::optional<PageFlow> flow = textFor(columns, width)) {
-            return *std::move(flow);
-        }
+    std::vector<Reading> readings = {{usual, PageFlow(textToRead(usual, factor))}};
+    if (narrowColumn < usual) {
+        readings.push_back({narrowColumn, PageFlow(textToRead(narrowColumn, factor))});
     }
-    const Silhouette silhouette(m_sheet.record, m_ink);
-    for (const double width : {usual, narrow}) {
-        columns = columnsInCorners(silhouette, width);
-        if (std::optional<PageFlow> flow = textFor(columns, width)) {
-            return *std::move(flow);
-        }
-    }
-    columns = columnsAround(m_scale, usual);
-    constexpr double comfortable = 1.2;  // where there is a whole page for it
-    return PageFlow(textToRead(usual, columns.inOrder().empty() ? comfortable : 1));
+    return readings;
 }
 
-/// What there is to read in the largest font in which all of it fits into columns, if any does.
-std::optional<PageFlow> SheetCard::textFor(const Columns& columns, double width) const {
-    const std::vector<Box> boxes = columns.inOrder();
-    PageFlow smallest(textToRead(width, 0.84));
-    if (!smallest.fitsInto(boxes)) {
-        return std::nullopt;
-    }
-    for (const double factor : {1.0, 0.92}) {
-        PageFlow flow(textToRead(width, factor));
-        if (flow.fitsInto(boxes)) {
-            return flow;
+/// Where all of the text has a place beside a drawing of this size, if it has.
+std::optional<SheetCard::Layout> SheetCard::layoutAt(double scale,
+                                                     const std::vector<Reading>& readings,
+                                                     const Silhouette& silhouette) const {
+    for (const Reading& reading : readings) {
+        Columns columns = columnsAround(scale, reading.width);
+        if (reading.flow.fitsInto(columns.inOrder())) {
+            return Layout{scale, std::move(columns), reading.flow};
         }
     }
-    return smallest;
+    for (const Reading& reading : readings) {
+        Columns columns = columnsInCorners(silhouette, scale, reading.width);
+        if (reading.flow.fitsInto(columns.inOrder())) {
+            return Layout{scale, std::move(columns), reading.flow};
+        }
+    }
+    return std::nullopt;
+}
+
+/// The largest drawing that leaves the text a place, in a smaller font if that saves a page. What
+/// is left over lets the font be larger.
+SheetCard::Layout SheetCard::bestLayout() const {
+    const Silhouette silhouette(m_sheet.record, m_ink);
+    constexpr double comfortable = 1.2;  // where there is room
+    for (const double factor : {1.0, 0.92, 0.84}) {
+        const std::vector<Reading> text = readings(factor);
+        std::optional<Layout> best = layoutAt(m_leastScale, text, silhouette);
+        if (!best) {
+            continue;
+        }
+        double tooLarge = largestScale();
+        for (double tried = tooLarge; tooLarge - best->scale > scaleOfSymbol(0.1);
+             tried = (best->scale + tooLarge) / 2) {
+            if (std::optional<Layout> larger = layoutAt(tried, text, silhouette)) {
+                best = std::move(larger);
+            } else {
+                tooLarge = tried;
+            }
+        }
+        std::optional<Layout> larger = layoutAt(best->scale, readings(comfortable), silhouette);
+        return larger ? *std::move(larger) : *std::move(best);
+    }
+    const double width = readingColumns(m_body).front().width;
+    Columns columns = columnsAround(m_leastScale, width);
+    PageFlow flow(textToRead(width, columns.inOrder().empty() ? comfortable : 1));
+    return {m_leastScale, std::move(columns), std::move(flow)};
 }
 
 std::vector<PageBlock> SheetCard::putOn(Page& page) const {
-    Columns columns;
-    PageFlow flow = fittingText(columns);
+    auto [scale, columns, flow] = bestLayout();
     Page text;
     Box free = m_body;
     flow.fill(columns.inCorners, text);
     if (!flow.isDone() && !columns.beside.empty()) {
+        takeUp(columns.beside, flow, 0.5);
         flow.fill(columns.beside, text);
         free.width = columns.beside.front().x - columnGap - free.x;
     }
     if (!flow.isDone() && !columns.below.empty()) {
-        const double height = flow.balancedHeight(columns.below);
-        for (Box& column : columns.below) {
-            column.y += column.height - height;
-            column.height = height;
-        }
+        takeUp(columns.below, flow, 1);
         flow.fill(columns.below, text);
-        free.height -= height + columnGap;
+        free.height -= columns.below.front().height + columnGap;
     }
     putBlock(page, m_head, m_room.x, m_room.y);
     // Its paper would cover text in its corners.
-    putDrawing(page, m_sheet.record, m_ink, free.x + (free.width - m_ink.width * m_scale) / 2,
-               free.y + (free.height - m_ink.height * m_scale) / 2, m_scale);
+    putDrawing(page, m_sheet.record, m_ink, free.x + (free.width - m_ink.width * scale) / 2,
+               free.y + (free.height - m_ink.height * scale) / 2, scale);
     std::ranges::move(text.items, std::back_inserter(page.items));
     return flow.takeRest();
 }

@@ -12,8 +12,9 @@ namespace fleetwright {
 class Silhouette;
 
 /// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
-/// and below it, or in the corners that it leaves. How large the drawing gets depends on the
-/// drawing and on the room alone, never on how much there is to read. Measures are in millimetres.
+/// and below it, or in the corners that it leaves. The drawing gets as large as it can with all of
+/// that beside it; much to read makes it no smaller than the room alone asks for. Measures are in
+/// millimetres.
 class SheetCard {
 public:
     /// The least side of a system's picture that can be played with.
@@ -37,13 +38,28 @@ private:
         std::vector<Box> inOrder() const;
     };
 
-    double scaleFor(const Box& ink) const;
+    /// All there is to read, for columns of one width.
+    struct Reading {
+        double width;
+        PageFlow flow;
+    };
+    /// A drawing of this size, and columns for the text.
+    struct Layout {
+        double scale;
+        Columns columns;
+        PageFlow flow;
+    };
+
+    double largestScale() const;
+    double leastScale() const;
     Columns columnsAround(double scale, double columnWidth) const;
-    Columns columnsInCorners(const Silhouette& silhouette, double columnWidth) const;
+    Columns columnsInCorners(const Silhouette& silhouette, double scale, double columnWidth) const;
     std::vector<PageBlock> textOfDrawing(double width) const;
     std::vector<PageBlock> textToRead(double width, double factor) const;
-    PageFlow fittingText(Columns& columns) const;
-    std::optional<PageFlow> textFor(const Columns& columns, double width) const;
+    std::vector<Reading> readings(double factor) const;
+    std::optional<Layout> layoutAt(double scale, const std::vector<Reading>& readings,
+                                   const Silhouette& silhouette) const;
+    Layout bestLayout() const;
 
     const VectorSheet& m_sheet;
     Box m_room;  ///< all of it
@@ -51,9 +67,9 @@ private:
     SheetText m_text;
     std::vector<PageBlock> m_linesInHead;
     PageBlock m_head;
-    Box m_body;      ///< what the head leaves
-    Box m_ink;       ///< what shows of the drawing, pixels of the outline
-    double m_scale;  ///< millimetres to the pixel
+    Box m_body;           ///< what the head leaves
+    Box m_ink;            ///< what shows of the drawing, pixels of the outline
+    double m_leastScale;  ///< millimetres to the pixel, however much there is to read
 };
 
 /// The columns of a room, at least one, in which text is good to read.

@@ -48,20 +48,39 @@ std::string together(std::string words) {
     return words;
 }
 
-/// "fore, port; mass 3, 10 points each", as far as there is something to say.
+void appendPart(std::string& text, std::string_view parting, const std::string& part) {
+    if (!part.empty()) {
+        text += (text.empty() ? "" : std::string(parting)) + part;
+    }
+}
+
+/// "mass 3, 10 points each", as far as there is something to say.
+std::string priceOf(const LegendRow& row, std::int32_t bought) {
+    const std::int32_t parts = row.isLinear ? std::max(bought, 1) : 1;
+    const std::int32_t mass = row.mass / parts, points = row.points / parts;
+    std::string price = mass == 0 ? "" : together("mass " + std::to_string(mass));
+    if (points != 0) {
+        appendPart(price, ", ",
+                   together(std::to_string(points) + (points == 1 ? " point" : " points")));
+    }
+    if (!price.empty() && bought > 1) {
+        price += row.isLinear ? " each" : " together";
+    }
+    return price;
+}
+
+/// "fore, port; mass 3, 10 points each", or "2 with the hull; 1 more: mass 1, 4 points".
 std::string particulars(const LegendRow& row) {
+    const std::int32_t bought = row.count - row.withHull;
     std::string text = row.arcs;
-    std::string price;
-    if (row.mass != 0) {
-        price = together("mass " + std::to_string(row.mass));
+    if (row.withHull > 0) {
+        appendPart(text, "; ", together(std::to_string(row.withHull) + " with the hull"));
     }
-    if (row.points != 0) {
-        price += (price.empty() ? "" : ", ") +
-                 together(std::to_string(row.points) + (row.points == 1 ? " point" : " points"));
+    std::string price = priceOf(row, bought);
+    if (row.withHull > 0 && !price.empty()) {
+        price.insert(0, together(std::to_string(bought) + " more:") + ' ');
     }
-    if (!price.empty()) {
-        text += (text.empty() ? "" : "; ") + price + (row.count == 1 ? "" : " each");
-    }
+    appendPart(text, "; ", price);
     return text;
 }
 

@@ -22,15 +22,17 @@ struct LegendRow {
     SheetRecord::Picture picture;
     std::string name;
     std::int32_t count = 0;
+    std::int32_t withHull = 0;  ///< of these pieces, which take no mass and cost nothing
     std::string arcs;  ///< in words, as "fore, port"; empty for a system with no place on the sheet
-    std::int32_t mass = 0;    ///< of one piece, mass units
-    std::int32_t points = 0;  ///< of one piece
+    std::int32_t mass = 0;    ///< of all pieces, mass units
+    std::int32_t points = 0;  ///< of all pieces
+    bool isLinear = false;    ///< whether each of them takes as much as one alone would
     std::string rules;        ///< one sentence or two, or nothing
 };
 
 /// What a sheet says besides its drawing.
 struct SheetFacts {
-    std::string shipName;
+    std::string shipName;  ///< "Unnamed Ship" if it has no name
     std::string designer;
     std::string shipClass;    ///< as "Cruiser"
     std::string designation;  ///< as "Heavy Cruiser"

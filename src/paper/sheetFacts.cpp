@@ -147,8 +147,10 @@ void Legend::addSystem(const std::string& name, std::int32_t count) {
     if (m_ship.PaintableWeap(name)) {
         row.arcs = arcWords(name, m_ship.GimmeWeapArc(name));
     }
-    row.mass = m_ship.countedMass(name, 1);
-    row.points = m_ship.countedCost(name, 1);
+    row.mass = m_ship.countedMass(name, count);
+    row.points = m_ship.countedCost(name, count);
+    row.isLinear = row.mass == std::int64_t{count} * m_ship.countedMass(name, 1) &&
+                   row.points == std::int64_t{count} * m_ship.countedCost(name, 1);
     row.rules = m_ship.rulesOf(name);
 }
 
@@ -163,19 +165,18 @@ void Legend::addFireControls() {
 /// Parties of the hull and bought ones have one picture, and so one row.
 void Legend::addParties() {
     const std::int32_t count = wholeNumber(m_figures.txtDCP);
-    const auto bought = std::find_if(m_rows.begin(), m_rows.end(), [](const LegendRow& row) {
-        return row.name == Catalogue::partyName;
-    });
     if (count <= 0) {
         return;
     }
-    if (bought == m_rows.end()) {
-        add(systemPicture(Catalogue::partyName), std::string(Catalogue::partyName), count).rules =
-            m_ship.rulesOf(Catalogue::partyName);
-    } else {
-        bought->count += count;
-        bought->rules = trimmed(std::to_string(count) + " with the hull. " + bought->rules);
-    }
+    const auto bought = std::find_if(m_rows.begin(), m_rows.end(), [](const LegendRow& row) {
+        return row.name == Catalogue::partyName;
+    });
+    LegendRow& row = bought != m_rows.end() ? *bought
+                                            : add(systemPicture(Catalogue::partyName),
+                                                  std::string(Catalogue::partyName), 0);
+    row.count += count;
+    row.withHull = count;
+    row.rules = m_ship.rulesOf(Catalogue::partyName);
 }
 
 /// What has no mass of its own but is paid for.
@@ -207,7 +208,7 @@ std::string arcWords(std::string_view name, std::string_view arcLetters) {
 SheetFacts sheetFacts(const SheetShip& ship, const std::vector<ListView::Row>& lvCurrentWeapons,
                       const SheetSources& sources) {
     const ShipClass& design = ship.ship;
-    return {.shipName = ship.txtShipName,
+    return {.shipName = ship.txtShipName.empty() ? "Unnamed Ship" : ship.txtShipName,
             .designer = ship.txtDesigner,
             .shipClass = std::string(design.Class()),
             .designation = std::string(design.relSize()),

@@ -21,15 +21,23 @@ struct Figure {
 
 constexpr double labelSize = 2.1, valueSize = 3.6, leastGap = 4;
 
+/// A ship with fewer points than rows does not get all of these.
+std::string damageOf(const SheetFacts& facts) {
+    std::string text = std::to_string(facts.damagePoints);
+    if (facts.damagePoints >= facts.damageRows) {
+        text +=
+            " in " + std::to_string(facts.damageRows) + (facts.damageRows == 1 ? " row" : " rows");
+    }
+    return text;
+}
+
 std::vector<Figure> figuresOf(const SheetFacts& facts) {
     std::vector<Figure> figures = {{"HULL", facts.hull},
                                    {"MASS", std::to_string(facts.mass)},
                                    {"POINTS", std::to_string(facts.points)},
                                    {"THRUST", facts.thrust},
                                    {"DRIVE", facts.drive},
-                                   {"DAMAGE", std::to_string(facts.damagePoints) + " in " +
-                                                  std::to_string(facts.damageRows) +
-                                                  (facts.damageRows == 1 ? " row" : " rows")}};
+                                   {"DAMAGE", damageOf(facts)}};
     if (!facts.armor.empty()) {
         figures.push_back({"ARMOR", facts.armor});
     }

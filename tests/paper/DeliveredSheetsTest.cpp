@@ -68,6 +68,17 @@ void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) 
     EXPECT_GE(scale * damageBox, 4.5 - tolerance);
 }
 
+/// Holds what the legend says that systems take against the figures of the ship.
+void expectAddsUp(const std::vector<LegendRow>& legend, const ShipClass& ship) {
+    std::int64_t points = ship.hullFigures().hullCost, mass = ship.g_iMassLeft;
+    for (const LegendRow& row : legend) {
+        points += row.points;
+        mass += row.mass;
+    }
+    EXPECT_EQ(points, ship.g_lCost);
+    EXPECT_EQ(mass, ship.hullFigures().freeMass);
+}
+
 }  // namespace
 
 TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
@@ -92,6 +103,7 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
         const VectorSheet sheet =
             vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings});
         EXPECT_EQ(sheet.record.pastes.at(0).width, room.width) << "no damage track";
+        expectAddsUp(sheet.facts.legend, ship);
         expectGood(sheet, files.load(map->outlineFile()), damageTrack(ship.g_iDP, rows, room).side);
     }
 }
