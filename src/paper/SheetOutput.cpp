@@ -86,6 +86,18 @@ SheetShip sheetShipOf(ShipClass& ship) {
             .ship = ship};
 }
 
+bool showTheSame(const Raster& one, const Raster& other) {
+    if (one.width() != other.width() || one.height() != other.height()) {
+        return false;
+    }
+    for (int y = 0; y < one.height(); ++y) {
+        if (!std::ranges::equal(one.row(y), other.row(y))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 void SheetOutput::attempt(const std::function<void()>& task) const {
@@ -197,12 +209,29 @@ Raster SheetOutput::bitmapOn(const SSDMap& map, const SheetShip& ship, const Row
     return bitmap;
 }
 
+SSDMaps::Map SheetOutput::mapOf(const Raster& picture, const SheetShip& ship,
+                                const Rows& aboard) const {
+    const auto isDrawnOn = [&](const SSDMaps::Map& map) {
+        try {
+            return map && showTheSame(bitmapOn(*map, ship, aboard), picture);
+        } catch (const Error&) {
+            return false;
+        }
+    };
+    if (const SSDMaps::Map best = mapFor(ship.ship, aboard); isDrawnOn(best)) {
+        return best;
+    }
+    const std::vector<SSDMaps::Map>& maps = m_services.g_colSSDMaps.all();
+    const auto found = std::ranges::find_if(maps, isDrawnOn);
+    return found == maps.end() ? nullptr : *found;
+}
+
 OutgoingSheet SheetOutput::ofPicture(const fs::path& file, const Raster& picture) const {
     const std::unique_ptr<ShipClass> ship = m_services.newShip();
     if (ship->loadShip(pathText(file)) && ship->refusedLines().empty()) {
         ship->weapChange();  // a ship without systems has no figures yet
         const Rows aboard = rowsOf(*ship);
-        if (const SSDMaps::Map map = mapFor(*ship, aboard)) {
+        if (const SSDMaps::Map map = mapOf(picture, sheetShipOf(*ship), aboard)) {
             return onMap(sheetShipOf(*ship), aboard, *map, picture);
         }
     }

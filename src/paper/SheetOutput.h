@@ -68,9 +68,9 @@ public:
     /// The same on the map that fits the ship best. Only a ship that the window of bitmaps serves
     /// has one. Throws Error, also if there is no map with room for the ship.
     OutgoingSheet onBestMap(const SheetShip& ship, const Rows& aboard) const;
-    /// The sheet of the ship that a picture file carries, on the map that fits it best. Where it
-    /// carries none, or one that comes out otherwise here, the picture itself, as large as the page
-    /// lets it be. Throws Error.
+    /// The sheet of the ship that a picture file carries, on the map that the picture was drawn on.
+    /// Where it carries none, or one that comes out otherwise on all maps, the picture itself, as
+    /// large as the page lets it be. Throws Error.
     OutgoingSheet ofPicture(const std::filesystem::path& file, const Raster& picture) const;
 
 private:
@@ -78,6 +78,8 @@ private:
     void save(const OutgoingSheet& sheet, const std::filesystem::path& file) const;
     std::string contents(const OutgoingSheet& sheet, const std::string& ending) const;
     SSDMaps::Map mapFor(const ShipClass& ship, const Rows& aboard) const;
+    /// The map on which the ship's bitmap is this picture; null if it is on none.
+    SSDMaps::Map mapOf(const Raster& picture, const SheetShip& ship, const Rows& aboard) const;
     Raster bitmapOn(const SSDMap& map, const SheetShip& ship, const Rows& aboard) const;
 
     Services m_services;

@@ -78,9 +78,11 @@ std::vector<std::string> wrappedText(std::string_view text, const PageText& styl
             lines.emplace_back();
             used = 0;
         }
-        for (; wordWidth > width && lines.size() <= most; wordWidth = widthIn(style, word)) {
+        while (wordWidth > width && lines.size() <= most) {
             const std::size_t bytes = fittingBytes(word, style, width);
             lines.back() = word.substr(0, bytes);
+            // Not measured anew, since a stranger's word can have any length.
+            wordWidth -= widthIn(style, lines.back());
             lines.emplace_back();
             word.remove_prefix(bytes);
         }

@@ -1,3 +1,4 @@
+#include "Error.h"
 #include "RecordingSheet.h"
 #include "SSDMap.h"
 #include "SheetImages.h"
@@ -7,6 +8,7 @@
 #include "sheetFacts.h"
 
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace fleetwright {
@@ -14,7 +16,7 @@ namespace fleetwright {
 namespace {
 
 /// The damage track of a map that is too large for one with a picture. It is pasted as those are:
-/// before all others. A map that names no place for it has none.
+/// before all others. A map that names no place for it has none. Throws Error if it has no room.
 void addGreatTrack(SheetRecord& record, const ShipClass& ship, const SSDMap& map) {
     const bool hasPlace = map.getDAMPntX() != 0 || map.getDAMPntY() != 0;
     if (map.iMaxMass <= capitalMass || !hasPlace) {
@@ -22,6 +24,9 @@ void addGreatTrack(SheetRecord& record, const ShipClass& ship, const SSDMap& map
     }
     const auto track = std::make_shared<const Drawing>(
         damageTrackDrawing(ship.g_iDP, ship.g_iDamRows, trackRoom(map.iMaxMass)));
+    if (track->shapes.empty() && ship.g_iDP > 0) {
+        throw Error("no room for " + std::to_string(ship.g_iDP) + " damage points");
+    }
     record.pastes.insert(
         record.pastes.begin(),
         {{track, nullptr}, map.getDAMPntX(), map.getDAMPntY(), track->width, track->height});
