@@ -166,7 +166,7 @@ void ShipClass::readShipLine(std::string& line, int lineNumber) {
 
 void ShipClass::takeFileName(const std::string& fileName) {
     constexpr char separator = static_cast<char>(std::filesystem::path::preferred_separator);
-    g_sSaveName = fileName;
+    g_sSaveName = origin = fileName;
     std::string reversed = strReverse(fileName);
     const std::string name = strReverse(strTok(reversed, std::string("\\") + separator, true));
     if (characterCount(name) < extension.size()) {

@@ -36,6 +36,7 @@ struct ShipNames {
     std::string g_sDesignerName = "Nils's Iron Vector Creator";
     std::string g_sSaveName;         ///< path of the ship file; empty without one
     std::string g_sTrimmedFileName;  ///< name of the ship file, without folder and extension
+    std::string origin;              ///< path of the file last loaded or saved, even of a sheet
 
     friend bool operator==(const ShipNames&, const ShipNames&) = default;
 };

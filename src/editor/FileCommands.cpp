@@ -125,6 +125,7 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
                 act([this] {
                     ship().g_sSaveName.clear();
                     ship().g_sTrimmedFileName.clear();
+                    ship().origin.clear();
                     ship().g_bSaved = false;
                     window().RefreshScreen();
                 });

@@ -113,16 +113,39 @@ void SheetOutput::attempt(const std::function<void()>& task) const {
     m_services.desktop.showMessage(fault, "Sheet", Buttons::Ok, Icon::Critical);
 }
 
-void SheetOutput::preview(const Source& sheet) const {
-    attempt([&] { m_services.printer.preview(sheet().pages); });
+void SheetOutput::preview(const Source& source) const {
+    attempt([&] {
+        const OutgoingSheet sheet = source();
+        finish(m_services.printer.preview(sheet.pages), sheet);
+    });
 }
 
-void SheetOutput::print(const Source& sheet) const {
+void SheetOutput::print(const Source& source) const {
     attempt([&] {
-        if (m_services.printer.print(sheet().pages)) {
-            m_services.say("The sheet is on its way to the printer");
-        }
+        const OutgoingSheet sheet = source();
+        finish(m_services.printer.print(sheet.pages), sheet);
     });
+}
+
+/// A sheet that is printed into a file becomes the file that an export makes, ship included.
+void SheetOutput::finish(const Printout& printout, const OutgoingSheet& sheet) const {
+    switch (printout.way) {
+    case Printout::Way::Nowhere:
+        break;
+    case Printout::Way::Paper:
+        m_services.say("The sheet is on its way to the printer");
+        break;
+    case Printout::Way::File:
+        save(printout.file, [&] { return m_services.printer.pdf(sheet.pages(printout.paper)); });
+        break;
+    }
+}
+
+void SheetOutput::save(const fs::path& file, const std::function<std::string()>& bytes) const {
+    if (maySave(m_services.desktop, file)) {
+        saveFile(file, bytes());
+        m_services.say("Saved " + shownText(pathText(file)));
+    }
 }
 
 void SheetOutput::exportFile(const Source& source) const {
@@ -135,10 +158,7 @@ void SheetOutput::exportFile(const Source& source) const {
         }
         const bool saysFormat = !endingOf(*name).empty();
         const fs::path file = nativePath(saysFormat ? *name : *name + pdfEnding);
-        if (maySave(m_services.desktop, file)) {
-            saveFile(file, contents(sheet, endingOf(pathText(file))));
-            m_services.say("Saved " + shownText(pathText(file)));
-        }
+        save(file, [&] { return contents(sheet, endingOf(pathText(file))); });
     });
 }
 
@@ -173,7 +193,7 @@ OutgoingSheet SheetOutput::onMap(const SheetShip& ship, const Rows& aboard, cons
                                  Raster bitmap) const {
     VectorSheet sheet = vectorSheet(ship, aboard, map, m_services.sources);
     if (ship.ship.g_bSaved) {
-        sheet.date = documentDate(nativePath(ship.ship.g_sSaveName));
+        sheet.date = documentDate(nativePath(ship.ship.origin));
     }
     return {.name = ship.txtShipName,
             .pages =

@@ -75,7 +75,8 @@ public:
 
 private:
     void attempt(const std::function<void()>& task) const;
-    void save(const OutgoingSheet& sheet, const std::filesystem::path& file) const;
+    void finish(const Printout& printout, const OutgoingSheet& sheet) const;
+    void save(const std::filesystem::path& file, const std::function<std::string()>& bytes) const;
     std::string contents(const OutgoingSheet& sheet, const std::string& ending) const;
     SSDMaps::Map mapFor(const ShipClass& ship, const Rows& aboard) const;
     /// The map on which the ship's bitmap is this picture; null if it is on none.

@@ -2,9 +2,20 @@
 
 #include "PageDocument.h"
 
+#include <filesystem>
 #include <functional>
+#include <string>
 
 namespace fleetwright {
+
+/// Where the user wants pages to go that are to be printed.
+struct Printout {
+    enum class Way { Nowhere, Paper, File };
+
+    Way way = Way::Nowhere;
+    std::filesystem::path file = {};  ///< a PDF file; whoever has the pages makes and saves it,
+    PageSize paper = {};              ///< on this paper
+};
 
 /// Puts pages on paper, on the screen and into PDF files.
 class PagePrinter {
@@ -14,10 +25,11 @@ public:
 
     virtual ~PagePrinter() = default;
 
-    /// Lets the user choose a printer and prints. False if that was cancelled. Throws Error.
-    virtual bool print(const Layout& layout) = 0;
-    /// Shows the pages as they will be printed, until the user closes them. Throws Error.
-    virtual void preview(const Layout& layout) = 0;
+    /// Lets the user choose a printer, or a file instead, and prints on a printer. Throws Error.
+    virtual Printout print(const Layout& layout) = 0;
+    /// Shows the pages as they will be printed, until the user closes them or has them printed in
+    /// the same way. Throws Error.
+    virtual Printout preview(const Layout& layout) = 0;
     /// The bytes of a PDF file: the same for the same document, wherever it is made. Throws Error.
     virtual std::string pdf(const PageDocument& document) = 0;
 };

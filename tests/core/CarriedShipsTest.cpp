@@ -51,7 +51,7 @@ TEST(CarriedShips, ComeBackWithoutADifference) {
         ShipClass ship(services);
         EXPECT_TRUE(ship.loadShip(yard.folder().write(std::to_string(++files) + ".shp", file)));
         EXPECT_EQ(ship.g_sSaveName.empty(), isSheet(file)) << "nothing is saved into a sheet";
-        ship.g_sSaveName = ship.g_sTrimmedFileName = "";
+        ship.g_sSaveName = ship.g_sTrimmedFileName = ship.origin = "";
         return ship.state();
     };
     forSeeds([&](std::mt19937& random) {

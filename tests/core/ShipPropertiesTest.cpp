@@ -118,7 +118,7 @@ private:
         loaded.weapChange();
         ShipState is = loaded.state();
         EXPECT_EQ(loaded.shipFile(), m_ship->shipFile());
-        is.g_sSaveName = is.g_sTrimmedFileName = "";
+        is.g_sSaveName = is.g_sTrimmedFileName = is.origin = "";
         EXPECT_EQ(is, expected) << m_ship->shipFile();
     }
 

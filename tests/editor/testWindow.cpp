@@ -128,12 +128,13 @@ class TestWindow::Sheets : public PagePrinter, public PictureEncoder, public Dra
 public:
     explicit Sheets(TestWindow& test) : m_test(test) {}
 
-    bool print(const Layout& layout) override {
+    Printout print(const Layout& layout) override {
         m_test.m_log += "print " + textOf(layout(paperLetter)) + "; ";
-        return m_test.printerFails ? throw Error("no paper") : m_test.copies.has_value();
+        return m_test.printerFails ? throw Error("no paper") : printout();
     }
-    void preview(const Layout& layout) override {
+    Printout preview(const Layout& layout) override {
         m_test.m_log += "preview " + textOf(layout(paperLetter)) + "; ";
+        return printout();
     }
     std::string pdf(const PageDocument& pages) override { return "PDF " + textOf(pages); }
     std::string encode(const Raster& picture, const std::string& format) override {
@@ -144,10 +145,16 @@ public:
 
     static std::string textOf(const PageDocument& pages) {
         return std::to_string(pages.pages.size()) + " of " + pages.title + " on " +
-               std::to_string(std::lround(pages.size.width));
+               std::to_string(std::lround(pages.size.width)) + (pages.date ? " dated" : "");
     }
 
 private:
+    Printout printout() const {
+        return m_test.copies ? Printout{.way = Printout::Way::Paper}
+               : m_test.file ? Printout{Printout::Way::File, *m_test.file, paperLetter}
+                             : Printout();
+    }
+
     TestWindow& m_test;
 };
 

@@ -3,14 +3,19 @@
 #include "Error.h"
 #include "choosePrinter.h"
 #include "drawPage.h"
+#include "paths.h"
 #include "pdfFile.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
+#include <algorithm>
 #include <exception>
+#include <functional>
 
 namespace fleetwright {
 
@@ -40,6 +45,17 @@ void printPages(QPrinter& printer, const PageDocument& document) {
     }
 }
 
+/// Has the button that prints from a preview do this instead of what Qt does.
+void onPrint(QPrintPreviewDialog& dialog, const std::function<void()>& act) {
+    const QString text = QCoreApplication::translate("QPrintPreviewDialog", "Print");
+    const auto actions = dialog.findChildren<QAction*>();
+    const auto action = std::ranges::find(actions, text, &QAction::text);
+    if (action != actions.end()) {
+        (*action)->disconnect(&dialog);
+        QObject::connect(*action, &QAction::triggered, &dialog, act);
+    }
+}
+
 }  // namespace
 
 QtPagePrinter::QtPagePrinter() = default;
@@ -54,16 +70,23 @@ QPrinter& QtPagePrinter::printer() {
     return *m_printer;
 }
 
-bool QtPagePrinter::print(const Layout& layout) {
-    if (!choosePrinter(printer(), layout(paperOf(printer())).title)) {
-        return false;
+Printout QtPagePrinter::send(const Layout& layout) {
+    const PageSize paper = paperOf(printer());
+    const QString file = printer().outputFileName();
+    if (printer().outputFormat() == QPrinter::PdfFormat && !file.isEmpty()) {
+        return {Printout::Way::File, nativePath(file.toStdString()), paper};
     }
-    printPages(printer(), layout(paperOf(printer())));
-    return true;
+    printPages(printer(), layout(paper));
+    return {.way = Printout::Way::Paper};
 }
 
-void QtPagePrinter::preview(const Layout& layout) {
-    printer().setDocName(QString::fromStdString(layout(paperOf(printer())).title));
+Printout QtPagePrinter::print(const Layout& layout) {
+    return choosePrinter(printer(), layout(paperOf(printer())).title) ? send(layout) : Printout();
+}
+
+Printout QtPagePrinter::preview(const Layout& layout) {
+    const std::string title = layout(paperOf(printer())).title;
+    printer().setDocName(QString::fromStdString(title));  // for the caption of the window
     QPrintPreviewDialog dialog(&printer(), QApplication::activeWindow());
     dialog.setObjectName("printPreview");
     std::exception_ptr failure;  // which is not thrown through Qt
@@ -75,10 +98,16 @@ void QtPagePrinter::preview(const Layout& layout) {
             dialog.reject();
         }
     });
-    dialog.exec();
+    onPrint(dialog, [&] {
+        if (choosePrinter(printer(), title)) {
+            dialog.accept();
+        }
+    });
+    const bool isToBePrinted = dialog.exec() == QDialog::Accepted;
     if (failure != nullptr) {
         std::rethrow_exception(failure);
     }
+    return isToBePrinted ? send(layout) : Printout();
 }
 
 std::string QtPagePrinter::pdf(const PageDocument& document) {

@@ -16,12 +16,14 @@ public:
     QtPagePrinter& operator=(const QtPagePrinter&) = delete;
     ~QtPagePrinter() override;
 
-    bool print(const Layout& layout) override;
-    void preview(const Layout& layout) override;
+    Printout print(const Layout& layout) override;
+    Printout preview(const Layout& layout) override;
     std::string pdf(const PageDocument& document) override;
 
 private:
     QPrinter& printer();
+    /// Sends pages where the user has chosen.
+    Printout send(const Layout& layout);
 
     std::unique_ptr<QPrinter> m_printer;  ///< as the user has chosen it last
 };

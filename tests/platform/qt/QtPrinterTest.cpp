@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
@@ -14,6 +15,7 @@
 #include <QSpinBox>
 #include <QTimer>
 
+#include <filesystem>
 #include <functional>
 
 using namespace fleetwright;
@@ -114,23 +116,32 @@ TEST(QtPagePrinter, PrintsAndShowsPagesAsTheyAreLaidOut) {
                                5,          PageFont::Bold,  PageText::Anchor::End};
         PageDocument document;
         document.size = size;
+        document.title = "U.S. A/B";
         document.pages = {Page{{text}}, Page{{text}}};
         return document;
     };
+    const auto chooseFile = [&](QDialog& dialog) {
+        auto* const file = dialog.findChild<QLineEdit*>("filename");
+        EXPECT_TRUE(file->text().endsWith("/U.S. A_B.pdf"));
+        file->setText(QString::fromStdString(pdf));
+        dialog.accept();
+    };
     QtPagePrinter printer;
     onDialog([](QDialog& dialog) { dialog.reject(); });
-    EXPECT_FALSE(printer.print(layout));
+    EXPECT_EQ(printer.print(layout).way, Printout::Way::Nowhere);
+    onDialog(chooseFile);
+    EXPECT_EQ(printer.print(layout).file, pdf);
     onDialog([&](QDialog& dialog) {
-        dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(pdf));
-        dialog.accept();
-    });
-    EXPECT_TRUE(printer.print(layout));
-    EXPECT_EQ(textOf(pdf), "on paper\n\fon paper\n\f");
-    onDialog([](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 2);
-        dialog.reject();
+        onDialog(chooseFile);
+        for (QAction* const action : dialog.findChildren<QAction*>()) {
+            action->text() == "Print" ? action->trigger() : void();
+        }
     });
-    printer.preview(layout);
+    EXPECT_EQ(printer.preview(layout).file, pdf);
+    EXPECT_FALSE(std::filesystem::exists(pdf)) << "whoever has the pages saves them";
+    onDialog([](QDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(printer.preview(layout).way, Printout::Way::Nowhere);
     EXPECT_THROW(printer.preview([](const PageSize&) -> PageDocument { throw Error("no map"); }),
                  Error);
 }
