@@ -63,7 +63,8 @@ private:
     };
 
     const std::vector<std::uint32_t>& pixels() const {
-        return m_shared != nullptr ? m_shared->pixels : m_pixels;
+        const Shared* const shared = m_shared.get();
+        return shared != nullptr ? shared->pixels : m_pixels;
     }
     std::vector<std::uint32_t>& ownPixels() {
         if (m_shared != nullptr) {
