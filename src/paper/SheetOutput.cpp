@@ -162,7 +162,7 @@ void SheetOutput::exportFile(const Source& source) const {
     });
 }
 
-SheetActs SheetOutput::acts(Source sheet) const {
+SheetActs SheetOutput::acts(const Source& sheet) const {
     return {.print = [this, sheet] { print(sheet); },
             .exportFile = [this, sheet] { exportFile(sheet); }};
 }
@@ -238,7 +238,7 @@ SSDMaps::Map SheetOutput::mapOf(const Raster& picture, const SheetShip& ship,
             return false;
         }
     };
-    if (const SSDMaps::Map best = mapFor(ship.ship, aboard); isDrawnOn(best)) {
+    if (SSDMaps::Map best = mapFor(ship.ship, aboard); isDrawnOn(best)) {
         return best;
     }
     const std::vector<SSDMaps::Map>& maps = m_services.g_colSSDMaps.all();

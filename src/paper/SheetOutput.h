@@ -57,7 +57,7 @@ public:
     void exportFile(const Source& sheet) const;
 
     /// The same as acts of a window that shows the sheet.
-    SheetActs acts(Source sheet) const;
+    SheetActs acts(const Source& sheet) const;
     /// A sheet that is made at once, of the ship as it is. If that fails, the acts say so.
     static Source madeAtOnce(const Source& sheet);
 

@@ -21,14 +21,17 @@ namespace fleetwright {
 
 namespace {
 
+/// The paper of a printer; of a label, one of the same shape on which pages have room.
 PageSize paperOf(const QPrinter& printer) {
+    constexpr double leastSide = 105;  // millimetres
     const QSizeF size = printer.pageLayout().fullRect(QPageLayout::Millimeter).size();
-    return {size.width(), size.height()};
+    const double scale = std::max(1.0, leastSide / std::min(size.width(), size.height()));
+    return {size.width() * scale, size.height() * scale};
 }
 
 void printPages(QPrinter& printer, const PageDocument& document) {
-    constexpr double millimetresPerInch = 25.4;
-    const double scale = printer.resolution() / millimetresPerInch / pageUnits;
+    const int width = printer.pageLayout().fullRectPixels(printer.resolution()).width();
+    const double scale = width / document.size.width / pageUnits;
     QPainter painter;
     bool isPrinted = painter.begin(&printer);
     for (const Page& page : document.pages) {
@@ -86,7 +89,7 @@ Printout QtPagePrinter::print(const Layout& layout) {
 
 Printout QtPagePrinter::preview(const Layout& layout) {
     const std::string title = layout(paperOf(printer())).title;
-    printer().setDocName(QString::fromStdString(title));  // for the caption of the window
+    setTitle(printer(), title);
     QPrintPreviewDialog dialog(&printer(), QApplication::activeWindow());
     dialog.setObjectName("printPreview");
     std::exception_ptr failure;  // which is not thrown through Qt

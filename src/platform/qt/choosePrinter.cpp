@@ -24,9 +24,13 @@ QString fileFor(const QPrinter& printer) {
 
 }  // namespace
 
-bool choosePrinter(QPrinter& printer, const std::string& title) {
+void setTitle(QPrinter& printer, const std::string& title) {
     printer.setDocName(title.empty() ? QApplication::applicationName()
                                      : QString::fromStdString(shownText(title)));
+}
+
+bool choosePrinter(QPrinter& printer, const std::string& title) {
+    setTitle(printer, title);
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setObjectName("printDialog");
     dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
