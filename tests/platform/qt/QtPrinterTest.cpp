@@ -11,10 +11,14 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPageSize>
+#include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QPrinter>
 #include <QSpinBox>
 #include <QTimer>
 
+#include <cmath>
 #include <filesystem>
 #include <functional>
 
@@ -133,12 +137,15 @@ TEST(QtPagePrinter, PrintsAndShowsPagesAsTheyAreLaidOut) {
     EXPECT_EQ(printer.print(layout).file, pdf);
     onDialog([&](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 2);
+        dynamic_cast<QPrintPreviewDialog&>(dialog).printer()->setPageSize(QPageSize(QPageSize::A9));
         onDialog(chooseFile);
         for (QAction* const action : dialog.findChildren<QAction*>()) {
             action->text() == "Print" ? action->trigger() : void();
         }
     });
-    EXPECT_EQ(printer.preview(layout).file, pdf);
+    const Printout label = printer.preview(layout);
+    EXPECT_EQ(label.file, pdf);
+    EXPECT_EQ(std::lround(label.paper.width), 105) << "room for a sheet";
     EXPECT_FALSE(std::filesystem::exists(pdf)) << "whoever has the pages saves them";
     onDialog([](QDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(printer.preview(layout).way, Printout::Way::Nowhere);
