@@ -18,7 +18,7 @@ namespace {
 constexpr double columnGap = 5;
 // The side of a system's picture in a drawing that is no larger than it has to be: with the lesser
 // one, the damage boxes of small ships are large enough for a pencil.
-constexpr double goodSymbol = 11.08, mostSymbol = 14;
+constexpr double goodSymbol = 12, mostSymbol = 14;
 constexpr double wideColumn = 57, narrowColumn = 43;
 
 constexpr double scaleOfSymbol(double side) {
@@ -44,11 +44,13 @@ std::vector<PageBlock> linesForHead(const std::vector<std::string>& lines, doubl
     return {};
 }
 
-void addRoomBelow(std::vector<PageBlock>& blocks) {
-    if (!blocks.empty()) {
+/// Adds blocks behind others, with some room between.
+void appendPart(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& part) {
+    if (!blocks.empty() && !part.empty()) {
         constexpr double room = 3;
         blocks.back().height += room;
     }
+    appendBlocks(blocks, std::move(part));
 }
 
 /// As many columns of this width as a room has, or one, which is narrower if the room is.
@@ -94,13 +96,13 @@ std::vector<Box> SheetCard::Columns::inOrder() const {
     return all;
 }
 
-SheetCard::SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain)
-    : m_sheet(sheet), m_room(room), m_isPlain(isPlain), m_text(sheetText(sheet.record.text)),
-      m_body(room), m_ink(inkOf(sheet.record)) {
+SheetCard::SheetCard(const VectorSheet& sheet, const Box& box, Room room, bool isPlain)
+    : m_sheet(sheet), m_box(box), m_room(room), m_isPlain(isPlain),
+      m_text(sheetText(sheet.record.text)), m_body(box), m_ink(inkOf(sheet.record)) {
     if (!m_isPlain) {
         constexpr double roomBelowHead = 2;
-        m_linesInHead = linesForHead(m_text.lines, room.width);
-        m_head = sheetHeader(sheet.facts, m_linesInHead, room.width);
+        m_linesInHead = linesForHead(m_text.lines, box.width);
+        m_head = sheetHeader(sheet.facts, m_linesInHead, box.width);
         const double taken = m_head.height + roomBelowHead;
         m_body.y += taken;
         m_body.height -= taken;
@@ -114,21 +116,19 @@ double SheetCard::largestScale() const {
 }
 
 bool SheetCard::isGoodHere() const {
-    if (m_leastScale < scaleOfSymbol(leastSymbol)) {
-        return false;
-    }
-    const double width = readingColumns(m_body).front().width;
-    return !m_linesInHead.empty() ||
-           PageFlow(textOfDrawing(width)).fitsInto(columnsAround(m_leastScale, width).inOrder());
+    return m_leastScale >= scaleOfSymbol(leastSymbol) &&
+           fittingReadings(Silhouette(m_sheet.record, m_ink)).has_value();
 }
 
 /// The largest scale that leaves the usual room for reading, or else a little, in wide columns or
 /// else in narrow ones. If even the least good one does not, the drawing has the room for itself.
+/// In a part of a page the least that can be played with.
 double SheetCard::leastScale() const {
     const double most = largestScale();
-    const double least = scaleOfSymbol(m_isPlain ? leastSymbol : goodSymbol);
-    if (most <= least) {
-        return most;
+    const bool isSmall = m_isPlain || m_room == Room::Part;
+    const double least = scaleOfSymbol(isSmall ? leastSymbol : goodSymbol);
+    if (most <= least || m_room == Room::Part) {
+        return std::min(most, least);
     }
     const double start = std::min(most, scaleOfSymbol(mostSymbol));
     const double area = m_body.width * m_body.height;
@@ -198,9 +198,9 @@ SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette, dou
 }
 
 /// What stands above the list in the text of the drawing.
-std::vector<PageBlock> SheetCard::textOfDrawing(double width) const {
+std::vector<PageBlock> SheetCard::textOfDrawing(double width, double size) const {
     constexpr std::size_t mostTogether = 12;
-    std::vector<PageBlock> blocks = lineBlocks(m_text.lines, width, textLineSize);
+    std::vector<PageBlock> blocks = lineBlocks(m_text.lines, width, size);
     for (std::size_t i = 0; i + 1 < blocks.size() && blocks.size() <= mostTogether; ++i) {
         blocks[i].staysWithNext = true;
     }
@@ -208,15 +208,14 @@ std::vector<PageBlock> SheetCard::textOfDrawing(double width) const {
 }
 
 std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const {
+    const double size = textLineSize * std::min(factor, 1.0);
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
-        blocks = textOfDrawing(width);
-        addRoomBelow(blocks);
+        blocks = textOfDrawing(width, size);
     }
-    appendBlocks(blocks, listBlocks(m_text, width, m_isPlain ? "" : "ALSO ABOARD"));
-    addRoomBelow(blocks);
+    appendPart(blocks, listBlocks(m_text, width, size, m_isPlain ? "" : "ALSO ABOARD"));
     if (!m_isPlain) {
-        appendBlocks(blocks, legendBlocks(m_sheet.facts.legend, width, factor));
+        appendPart(blocks, legendBlocks(m_sheet.facts.legend, width, factor));
     }
     return blocks;
 }
@@ -250,21 +249,34 @@ std::optional<SheetCard::Layout> SheetCard::layoutAt(double scale,
     return std::nullopt;
 }
 
+/// All of the text in the largest font, up to the usual one, in which it has a place beside the
+/// least drawing, if there is one.
+std::optional<std::vector<SheetCard::Reading>>
+SheetCard::fittingReadings(const Silhouette& silhouette) const {
+    constexpr double smallestOfPage = 0.8;
+    for (const double factor : {1.0, 0.92, smallestOfPage, 0.75}) {
+        if (factor < smallestOfPage && m_room == Room::Page) {
+            break;
+        }
+        std::vector<Reading> text = readings(factor);
+        if (layoutAt(m_leastScale, text, silhouette)) {
+            return text;
+        }
+    }
+    return std::nullopt;
+}
+
 /// The largest drawing that leaves the text a place, in a smaller font if that saves a page. What
 /// is left over lets the font be larger.
 SheetCard::Layout SheetCard::bestLayout() const {
     const Silhouette silhouette(m_sheet.record, m_ink);
     constexpr double comfortable = 1.2;  // where there is room
-    for (const double factor : {1.0, 0.92, 0.84}) {
-        const std::vector<Reading> text = readings(factor);
-        std::optional<Layout> best = layoutAt(m_leastScale, text, silhouette);
-        if (!best) {
-            continue;
-        }
+    if (const auto text = fittingReadings(silhouette)) {
+        std::optional<Layout> best = layoutAt(m_leastScale, *text, silhouette);
         double tooLarge = largestScale();
         for (double tried = tooLarge; tooLarge - best->scale > scaleOfSymbol(0.1);
              tried = (best->scale + tooLarge) / 2) {
-            if (std::optional<Layout> larger = layoutAt(tried, text, silhouette)) {
+            if (std::optional<Layout> larger = layoutAt(tried, *text, silhouette)) {
                 best = std::move(larger);
             } else {
                 tooLarge = tried;
@@ -294,7 +306,7 @@ std::vector<PageBlock> SheetCard::putOn(Page& page) const {
         flow.fill(columns.below, text);
         free.height -= columns.below.front().height + columnGap;
     }
-    putBlock(page, m_head, m_room.x, m_room.y);
+    putBlock(page, m_head, m_box.x, m_box.y);
     // Its paper would cover text in its corners.
     putDrawing(page, m_sheet.record, m_ink, free.x + (free.width - m_ink.width * scale) / 2,
                free.y + (free.height - m_ink.height * scale) / 2, scale);

@@ -20,10 +20,14 @@ public:
     /// The least side of a system's picture that can be played with.
     static constexpr double leastSymbol = 9;
 
-    /// The sheet outlives the card.
-    SheetCard(const VectorSheet& sheet, const Box& room, bool isPlain);
+    /// What a card has for itself. In a part of a page the font and the drawing are as small as it
+    /// takes to have all of the text there, within what can be read and played with.
+    enum class Room { Page, Part };
 
-    /// Whether the drawing has that size here, and its text a place.
+    /// The sheet outlives the card.
+    SheetCard(const VectorSheet& sheet, const Box& box, Room room, bool isPlain);
+
+    /// Whether the drawing has that size here, and all of its text a place.
     bool isGoodHere() const;
     /// Puts the sheet on a page and returns what is left to read, which found no room there.
     std::vector<PageBlock> putOn(Page& page) const;
@@ -54,15 +58,17 @@ private:
     double leastScale() const;
     Columns columnsAround(double scale, double columnWidth) const;
     Columns columnsInCorners(const Silhouette& silhouette, double scale, double columnWidth) const;
-    std::vector<PageBlock> textOfDrawing(double width) const;
+    std::vector<PageBlock> textOfDrawing(double width, double size) const;
     std::vector<PageBlock> textToRead(double width, double factor) const;
     std::vector<Reading> readings(double factor) const;
     std::optional<Layout> layoutAt(double scale, const std::vector<Reading>& readings,
                                    const Silhouette& silhouette) const;
+    std::optional<std::vector<Reading>> fittingReadings(const Silhouette& silhouette) const;
     Layout bestLayout() const;
 
     const VectorSheet& m_sheet;
-    Box m_room;  ///< all of it
+    Box m_box;  ///< all of it
+    Room m_room;
     bool m_isPlain;
     SheetText m_text;
     std::vector<PageBlock> m_linesInHead;

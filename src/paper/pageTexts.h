@@ -11,6 +11,9 @@
 
 namespace fleetwright {
 
+/// How far letters rise above their base line, accents on capitals included, times the font's size.
+inline constexpr double letterHeight = 0.97;
+
 /// A line in this style, in a smaller font of `smallest` at the least if it is too wide, and
 /// without its end, for which "…" stands, if that is not enough.
 PageText fittedText(std::string_view text, PageText style, double width, double smallest);

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::uint32_t quietColour = 0x555555;
 constexpr double lineHeight = 1.28;  // times the size of the font
-constexpr double baseLine = 0.95;    // times the size, below the upper edge of the line
 
 /// Writes lines below each other.
 class BlockWriter {
@@ -23,7 +22,7 @@ public:
         for (const std::string& line : lines) {
             style.text = line;
             style.x = m_left;
-            style.y = block.height + style.size * baseLine;
+            style.y = block.height + style.size * letterHeight;
             block.items.emplace_back(style);
             block.height += style.size * lineHeight;
         }
@@ -146,7 +145,8 @@ std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double 
     return blocks;
 }
 
-std::vector<PageBlock> listBlocks(const SheetText& text, double width, std::string_view heading) {
+std::vector<PageBlock> listBlocks(const SheetText& text, double width, double size,
+                                  std::string_view heading) {
     if (text.listed.empty()) {
         return {};
     }
@@ -165,12 +165,12 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width, std::stri
     if (!heading.empty()) {
         writer.write({std::string(heading)}, {.text = {}, .size = 2.1, .colour = quietColour});
     }
-    writer.write({text.separator},
-                 fittedText(text.separator,
-                            {.text = {}, .size = textLineSize, .colour = quietColour}, width, 1));
+    writer.write(
+        {text.separator},
+        fittedText(text.separator, {.text = {}, .size = size, .colour = quietColour}, width, 1));
     writer.block.staysWithNext = true;
     std::vector<PageBlock> blocks = {std::move(writer.block)};
-    appendBlocks(blocks, lineBlocks(lines, width, textLineSize));
+    appendBlocks(blocks, lineBlocks(lines, width, size));
     return blocks;
 }
 

@@ -26,7 +26,8 @@ inline constexpr double textLineSize = 2.8;
 std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width, double size);
 /// The list of systems without a place, equal ones once with their count, under a heading if that
 /// is not empty.
-std::vector<PageBlock> listBlocks(const SheetText& text, double width, std::string_view heading);
+std::vector<PageBlock> listBlocks(const SheetText& text, double width, double size,
+                                  std::string_view heading);
 /// The legend, its letters larger or smaller than usual by this factor.
 std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
                                     double factor);

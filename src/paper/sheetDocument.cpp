@@ -4,12 +4,15 @@
 #include "carriedShips.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace fleetwright {
 
 namespace {
 
 constexpr double cutGap = 6;  // between sheets on one page
+// The least side of a paper that a sheet's head has room on, with all that it may say.
+constexpr double leastPaperSide = 100;
 
 /// Pages for sheets, one after the other.
 class SheetPages {
@@ -29,11 +32,21 @@ private:
     struct Cut {
         int columns;
         int rows;
+
+        std::size_t count() const { return std::size_t(columns * rows); }
+        SheetCard::Room room() const {
+            return count() == 1 ? SheetCard::Room::Page : SheetCard::Room::Part;
+        }
+    };
+    /// Sheets, by their numbers, that are small enough for pages that are cut in this way.
+    struct Fitting {
+        Cut cut;
+        std::vector<std::size_t> sheets;
     };
 
     std::vector<Box> cells(Cut cut) const;
-    std::size_t fittingSheets(const Sheets& sheets, std::size_t first, Cut cut) const;
-    void addPage(const Sheets& sheets, std::size_t first, std::size_t count, Cut cut);
+    Fitting fitting(const Sheets& sheets, Cut cut) const;
+    void addPage(const Sheets& sheets, const Fitting& onIt);
     void addCutMarks(Cut cut);
     void addReading(std::vector<PageBlock> blocks);
 
@@ -54,43 +67,52 @@ std::vector<Box> SheetPages::cells(Cut cut) const {
     return boxes;
 }
 
-/// How many sheets from `first` on are small enough for the cells of one page.
-std::size_t SheetPages::fittingSheets(const Sheets& sheets, std::size_t first, Cut cut) const {
-    const std::vector<Box> boxes = cells(cut);
-    std::size_t count = 0;
-    while (count < boxes.size() && first + count < sheets.size() &&
-           SheetCard(sheets[first + count], boxes[count], m_options.isPlain).isGoodHere()) {
-        ++count;
+SheetPages::Fitting SheetPages::fitting(const Sheets& sheets, Cut cut) const {
+    const Box cell = cells(cut).front();
+    Fitting fitting = {cut, {}};
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        if (cut.count() == 1 ||
+            SheetCard(sheets[i], cell, cut.room(), m_options.isPlain).isGoodHere()) {
+            fitting.sheets.push_back(i);
+        }
     }
-    return count;
+    return fitting;
 }
 
+/// The first sheet that has no page shares one with as many of those behind it as it can.
 void SheetPages::add(const Sheets& sheets) {
-    constexpr Cut cuts[] = {{2, 1}, {1, 2}, {2, 2}};
-    for (std::size_t first = 0; first < sheets.size();) {
-        std::size_t count = 1;
-        Cut best = {1, 1};
-        for (const Cut cut : cuts) {
-            const std::size_t fitting =
-                cut.columns * cut.rows <= m_options.perPage ? fittingSheets(sheets, first, cut) : 0;
-            if (fitting > count) {
-                count = fitting;
-                best = cut;
+    std::vector<Fitting> waiting;
+    for (const Cut cut : {Cut{1, 1}, Cut{2, 1}, Cut{1, 2}, Cut{2, 2}}) {
+        if (cut.count() <= std::size_t(m_options.perPage)) {
+            waiting.push_back(fitting(sheets, cut));
+        }
+    }
+    while (!waiting.empty() && !waiting.front().sheets.empty()) {
+        const std::size_t first = waiting.front().sheets.front();
+        Fitting best = {{1, 1}, {first}};
+        for (const auto& [cut, fits] : waiting) {
+            const std::size_t count = std::min(fits.size(), cut.count());
+            if (count > best.sheets.size() && fits.front() == first) {
+                best = {cut, {fits.begin(), fits.begin() + std::ptrdiff_t(count)}};
             }
         }
-        addPage(sheets, first, count, best);
-        first += count;
+        addPage(sheets, best);
+        for (Fitting& left : waiting) {
+            std::erase_if(left.sheets, [&](std::size_t sheet) {
+                return std::ranges::find(best.sheets, sheet) != best.sheets.end();
+            });
+        }
     }
 }
 
-void SheetPages::addPage(const Sheets& sheets, std::size_t first, std::size_t count, Cut cut) {
-    const std::vector<Box> boxes = cells(cut);
+void SheetPages::addPage(const Sheets& sheets, const Fitting& onIt) {
+    const std::vector<Box> boxes = cells(onIt.cut);
     const double width = readingColumns(m_inside).front().width;
     std::vector<PageBlock> left;
     Page page;
-    for (std::size_t i = 0; i < count; ++i) {
-        const VectorSheet& sheet = sheets[first + i];
-        const SheetCard card(sheet, boxes[i], m_options.isPlain);
+    for (std::size_t i = 0; i < onIt.sheets.size(); ++i) {
+        const VectorSheet& sheet = sheets[onIt.sheets[i]];
+        const SheetCard card(sheet, boxes[i], onIt.cut.room(), m_options.isPlain);
         std::vector<PageBlock> rest = card.putOn(page);
         if (!rest.empty()) {
             left.push_back(continuedBlock(sheet.facts.shipName, width));
@@ -98,9 +120,7 @@ void SheetPages::addPage(const Sheets& sheets, std::size_t first, std::size_t co
         }
     }
     pages.push_back(std::move(page));
-    if (count > 1) {
-        addCutMarks(cut);
-    }
+    addCutMarks(onIt.cut);
     addReading(std::move(left));
 }
 
@@ -163,7 +183,10 @@ std::string subjectOf(const SheetFacts& facts) {
 
 }  // namespace
 
-PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& options) {
+PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked) {
+    SheetOptions options = asked;
+    options.paper = {std::max(asked.paper.width, leastPaperSide),
+                     std::max(asked.paper.height, leastPaperSide)};
     SheetPages laidOut(options);
     laidOut.add(sheets);
     PageDocument document;

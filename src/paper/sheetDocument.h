@@ -70,11 +70,14 @@ VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>&
 
 struct SheetOptions {
     PageSize paper = paperA4;
-    int perPage = 1;       ///< 1, 2 or 4 sheets a page, where they are small enough for that
+    /// 1, 2 or 4 sheets a page, where they are small enough for that. Small ones go to a page that
+    /// has room for them, so that large ones between them do not part them.
+    int perPage = 1;
     bool isPlain = false;  ///< the drawing and its text alone
 };
 
-/// The sheets as pages.
-PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& options);
+/// The sheets as pages, which are 100 mm wide and high at the least: whoever has smaller paper
+/// shrinks them.
+PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked);
 
 }  // namespace fleetwright

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint32_t labelColour = 0x555555;
 constexpr double leastWideHeader = 150;
-constexpr double besideWidth = 62, besideHeight = 12.8;
+constexpr double besideWidth = 62, besideHeight = 14.4;
 
 struct Figure {
     std::string label;
@@ -74,11 +74,11 @@ void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
     const double leastName = size / 2, kindSize = 3.3;
     PageText name = fittedText(facts.shipName, {.text = {}, .size = size, .font = PageFont::Bold},
                                room, leastName);
-    name.y = size * 0.8;
+    name.y = size * letterHeight;
     block.items.emplace_back(std::move(name));
     PageText kind = fittedText(facts.designation + ", " + facts.shipClass + " class",
                                {.text = {}, .size = kindSize, .colour = labelColour}, room, 2);
-    kind.y = size * 0.8 + kindSize * 1.45;
+    kind.y = size * letterHeight + kindSize * 1.45;
     block.height = kind.y + 2;
     block.items.emplace_back(std::move(kind));
 }

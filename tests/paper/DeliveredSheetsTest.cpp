@@ -26,11 +26,12 @@ struct GifFiles : PictureReader {
     Raster builtIn(const std::string&) override { return {}; }
 };
 
-/// Holds a sheet against the pixels of its outline.
+/// Holds a sheet against the pixels of its outline. Damage boxes are measured from line to line.
 void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) {
     const PageDocument document = sheetDocument({sheet}, {});
     expectInsideMargins(document);
     EXPECT_LE(document.pages.size(), 2U);
+    EXPECT_LE(sheetDocument({sheet}, {.paper = {30, 20}}).pages.size(), 20U);
     const Box ink = inkOf(sheet.record);
     SheetRecord pixels = sheet.record;
     pixels.outline.picture = {nullptr, std::make_shared<const Raster>(outline)};
@@ -68,6 +69,22 @@ void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) 
     EXPECT_GE(scale * damageBox, 4.5 - tolerance);
 }
 
+/// Small ships share pages, whatever stands between them, and none is parted from its text.
+void expectSharing(const std::vector<VectorSheet>& sheets, bool isPlain, std::size_t mostPages) {
+    const PageDocument document = sheetDocument(sheets, {.perPage = 4, .isPlain = isPlain});
+    EXPECT_LE(document.pages.size(), mostPages);
+    for (const Page& page : document.pages) {
+        int parted = 0;
+        for (const PageItem& item : page.items) {
+            const auto* const text = std::get_if<PageText>(&item);
+            const auto* const picture = std::get_if<PagePicture>(&item);
+            parted += text != nullptr && text->text.starts_with("Name: ") ? 1 : 0;
+            parted -= picture != nullptr && picture->drawing->height > 300 ? 1 : 0;  // the outline
+        }
+        EXPECT_EQ(parted, 0);
+    }
+}
+
 /// Holds what the legend says that systems take against the figures of the ship.
 void expectAddsUp(const std::vector<LegendRow>& legend, const ShipClass& ship) {
     std::int64_t points = ship.hullFigures().hullCost, mass = ship.g_iMassLeft;
@@ -85,6 +102,7 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
     GifFiles files;
     const DrawingPack drawings(APP_FOLDER "/drawings.dat");
     const LoadedMaps maps = loadMaps(APP_FOLDER);
+    std::vector<VectorSheet> sheets;
     for (const auto& file : listFolder(SOURCE_FOLDER "/data/ships", ".shp")) {
         SCOPED_TRACE(file);
         ShipClass ship(
@@ -100,10 +118,13 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
                                       : trackRows(trackSize(map->iMaxMass), ship.g_iDP);
         const SheetImages images = catalogueImages(picturesReadOnce(PICTURES_FOLDER, files), ship);
         const PictureSize room = trackRoom(map->iMaxMass);
-        const VectorSheet sheet =
-            vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings});
+        const VectorSheet& sheet = sheets.emplace_back(
+            vectorSheet(shownShip(ship), rowsOf(ship), *map, {files, images, drawings}));
         EXPECT_EQ(sheet.record.pastes.at(0).width, room.width) << "no damage track";
         expectAddsUp(sheet.facts.legend, ship);
-        expectGood(sheet, files.load(map->outlineFile()), damageTrack(ship.g_iDP, rows, room).side);
+        expectGood(sheet, files.load(map->outlineFile()),
+                   damageTrack(ship.g_iDP, rows, room).side - 1);
     }
+    expectSharing(sheets, false, sheets.size() + 1);
+    expectSharing(sheets, true, sheets.size() * 4 / 5);
 }

@@ -10,8 +10,9 @@ namespace {
 
 struct Covered {
     Box operator()(const PageText& text) const {
-        return {text.x, text.y - 0.75 * text.size, textWidth(text.text, text.size, text.font),
-                text.size};
+        // From accents on capitals to the lower ends of letters.
+        return {text.x, text.y - 0.96 * text.size, textWidth(text.text, text.size, text.font),
+                1.21 * text.size};
     }
     Box operator()(const PageLine& line) const {
         return {line.x1, line.y1, line.x2 - line.x1, line.y2 - line.y1};
