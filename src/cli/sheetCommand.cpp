@@ -235,7 +235,7 @@ extern const CommandRow sheetCommand = {
         "picture of pixels; no ship above mass 100 gets one without --map. An .svg or .pdf file "
         "has lines and text, sharp at any size, and says what is aboard and how it is played. A "
         ".pdf takes any number of ships; the marks between small ones that share a page show where "
-        "to cut. They do so where all of their text has room as well, four of them mostly with "
+        "to cut. They share one only if all of their text has room there, four of them mostly with "
         "--plain. Its date is that of the ship file, or SOURCE_DATE_EPOCH of the environment. All "
         "but a .bmp carry their ship: other commands take them in the place of its file. The "
         "pictures must have been unpacked.",
