@@ -44,7 +44,7 @@ SSDMaps::Map mapFor(const frmMain& main, const LoadedMaps& maps, const std::stri
     }
     SheetLists lists;
     lists.fillShipWeap(main.aboard.lvCurrentWeapons.rows());
-    const SSDMaps::Map best = bestMap(maps.maps, *main.g_Ship, lists.lstShipWeap);
+    SSDMaps::Map best = bestMap(maps.maps, *main.g_Ship, lists.lstShipWeap);
     if (!best) {
         failWithoutMap(main, maps);
     }

@@ -87,9 +87,8 @@ void PageFlow::force(const Box& column, Page& page) {
 }
 
 double PageFlow::balancedHeight(const std::vector<Box>& columns) const {
-    constexpr double step = 1;
     const double own = columns.empty() ? 0 : columns.front().height;
-    for (double height = step; height < own; height += step) {
+    for (int height = 1; height < own; ++height) {
         std::vector<Box> lower = columns;
         for (Box& column : lower) {
             column.height = height;

@@ -33,13 +33,15 @@ double totalHeight(const std::vector<PageBlock>& blocks) {
 
 /// The lines as they stand in the head; none if they do not fit there.
 std::vector<PageBlock> linesForHead(const std::vector<std::string>& lines, double width) {
-    constexpr double smallest = 2.2;
+    constexpr double smallest = 2.2, step = 0.05;
     const Box room = roomInHeader(width);
-    for (double size = textLineSize; room.width > 0 && size > smallest; size -= 0.05) {
+    double size = textLineSize;
+    while (room.width > 0 && size > smallest) {
         std::vector<PageBlock> blocks = lineBlocks(lines, room.width, size);
         if (totalHeight(blocks) <= room.height) {
             return blocks;
         }
+        size -= step;
     }
     return {};
 }
@@ -55,13 +57,13 @@ void appendPart(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& part) {
 
 /// As many columns of this width as a room has, or one, which is narrower if the room is.
 std::vector<Box> columnsIn(const Box& room, double width) {
-    const double count = std::floor((room.width + columnGap) / (width + columnGap));
+    const int count = static_cast<int>((room.width + columnGap) / (width + columnGap));
     if (count < 2) {
         return {{room.x, room.y, std::min(room.width, width), room.height}};
     }
     const double pitch = (room.width - width) / (count - 1);
     std::vector<Box> columns;
-    for (double i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i) {
         columns.push_back({room.x + i * pitch, room.y, width, room.height});
     }
     return columns;
@@ -135,11 +137,13 @@ double SheetCard::leastScale() const {
     const double step = scaleOfSymbol(0.02);
     for (const double needed : {m_isPlain ? 0.08 * area : 0.22 * area, 0.06 * area}) {
         for (const double columnWidth : {wideColumn, narrowColumn}) {
-            for (double scale = start; scale >= least; scale -= step) {
+            double scale = start;
+            while (scale >= least) {
                 const Columns columns = columnsAround(scale, columnWidth);
                 if (areaOf(columns.beside) + areaOf(columns.below) >= needed) {
                     return scale;
                 }
+                scale -= step;
             }
         }
     }
@@ -169,12 +173,12 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
 /// From the top down, on both sides wherever the drawing is narrow enough.
 SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette, double scale,
                                                double columnWidth) const {
-    constexpr double step = 1, leastHeight = 15;
+    constexpr int leastHeight = 15;
     const double left = (m_body.width - m_ink.width * scale) / 2;
     const double top = (m_body.height - m_ink.height * scale) / 2;
-    const auto isFree = [&](double y, bool isOnTheLeft) {
+    const auto isFree = [&](int y, bool isOnTheLeft) {
         const Silhouette::Extent extent =
-            silhouette.between((y - columnGap - top) / scale, (y + step + columnGap - top) / scale);
+            silhouette.between((y - columnGap - top) / scale, (y + 1 + columnGap - top) / scale);
         const double free =
             isOnTheLeft ? left + extent.left * scale : m_body.width - left - extent.right * scale;
         return free >= columnWidth + columnGap;
@@ -182,15 +186,16 @@ SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette, dou
     Columns columns;
     for (const bool isOnTheLeft : {true, false}) {
         const double x = m_body.x + (isOnTheLeft ? 0 : m_body.width - columnWidth);
-        double start = 0;
-        for (double y = 0; y <= m_body.height; y += step) {
-            if (y + step <= m_body.height && isFree(y, isOnTheLeft)) {
+        int start = 0;
+        for (int y = 0; y <= m_body.height; ++y) {
+            if (y + 1 <= m_body.height && isFree(y, isOnTheLeft)) {
                 continue;
             }
             if (y - start >= leastHeight) {
-                columns.inCorners.push_back({x, m_body.y + start, columnWidth, y - start});
+                columns.inCorners.push_back(
+                    {x, m_body.y + start, columnWidth, double(y) - double(start)});
             }
-            start = y + step;
+            start = y + 1;
         }
     }
     std::ranges::stable_sort(columns.inCorners, {}, &Box::y);
@@ -274,13 +279,14 @@ SheetCard::Layout SheetCard::bestLayout() const {
     if (const auto text = fittingReadings(silhouette)) {
         std::optional<Layout> best = layoutAt(m_leastScale, *text, silhouette);
         double tooLarge = largestScale();
-        for (double tried = tooLarge; tooLarge - best->scale > scaleOfSymbol(0.1);
-             tried = (best->scale + tooLarge) / 2) {
+        double tried = tooLarge;
+        while (tooLarge - best->scale > scaleOfSymbol(0.1)) {
             if (std::optional<Layout> larger = layoutAt(tried, *text, silhouette)) {
                 best = std::move(larger);
             } else {
                 tooLarge = tried;
             }
+            tried = (best->scale + tooLarge) / 2;
         }
         std::optional<Layout> larger = layoutAt(best->scale, readings(comfortable), silhouette);
         return larger ? *std::move(larger) : *std::move(best);

@@ -40,12 +40,13 @@ void walkLine(Point from, Point to, Take take) {
     constexpr double hair = 1e-6;
     constexpr double most = 1e5;  // rows; no picture has as many
     take(from);
-    const double top = std::max(std::min(from.y, to.y), -most);
-    const double bottom = std::min(std::max(from.y, to.y), most);
-    for (double y = std::floor(top) + 1; y <= bottom; ++y) {
+    const auto rowOf = [most](double y) {
+        return static_cast<int>(std::floor(std::clamp(y, -most, most)));
+    };
+    for (int y = rowOf(std::min(from.y, to.y)) + 1; y <= rowOf(std::max(from.y, to.y)); ++y) {
         const double x = onLine(from, to, (y - from.y) / (to.y - from.y)).x;
         take({x, y - hair});
-        take({x, y});
+        take({x, double(y)});
     }
     take(to);
 }
@@ -56,9 +57,9 @@ void walkCurve(const std::array<Point, 4>& curve, Take take) {
     constexpr double longest = 1e5;  // pixels; no picture is as large
     const double length =
         distance(curve[0], curve[1]) + distance(curve[1], curve[2]) + distance(curve[2], curve[3]);
-    const double steps = std::ceil(2 * std::min(length, longest)) + 1;
-    for (double i = 0; i <= steps; ++i) {
-        const double part = i / steps;
+    const int steps = static_cast<int>(std::ceil(2 * std::min(length, longest))) + 1;
+    for (int i = 0; i <= steps; ++i) {
+        const double part = double(i) / steps;
         const Point middle = onLine(curve[1], curve[2], part);
         take(onLine(onLine(onLine(curve[0], curve[1], part), middle, part),
                     onLine(middle, onLine(curve[2], curve[3], part), part), part));
@@ -152,12 +153,11 @@ void Silhouette::addDrawing(const Drawing& drawing, double x, double y) {
 }
 
 void Silhouette::addBox(const Box& box) {
-    const double last = double(m_rows.size()) - 1;
-    const double first = std::floor(box.y - m_shown.y);
-    const double end = std::floor(box.y + box.height - m_shown.y);
-    for (double row = std::max(first, 0.0); row <= std::min(end, last); ++row) {
-        unite(m_rows[static_cast<std::size_t>(row)], box.x - m_shown.x,
-              box.x + box.width - m_shown.x);
+    const double first = std::max(std::floor(box.y - m_shown.y), 0.0);
+    const double end = std::min(std::floor(box.y + box.height - m_shown.y) + 1,
+                                static_cast<double>(m_rows.size()));
+    for (auto row = static_cast<std::size_t>(first); double(row) < end; ++row) {
+        unite(m_rows[row], box.x - m_shown.x, box.x + box.width - m_shown.x);
     }
 }
 

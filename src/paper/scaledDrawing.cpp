@@ -82,8 +82,8 @@ void putDrawing(Page& page, const SheetRecord& record, const Box& shown, double 
         const Box place = placeOf(paste);
         const Box clip = shared(place, shown);
         if (!isEmptyBox(clip)) {
-            page.items.push_back(PagePicture{paste.picture.drawing, paste.picture.raster,
-                                             onPage(place), onPage(clip)});
+            page.items.emplace_back(PagePicture{paste.picture.drawing, paste.picture.raster,
+                                                onPage(place), onPage(clip)});
         }
     };
     put(record.outline);

@@ -177,6 +177,7 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width, double si
 std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
                                     double factor) {
     std::vector<PageBlock> blocks;
+    blocks.reserve(legend.size());
     for (const LegendRow& row : legend) {
         blocks.push_back(legendBlock(row, width, factor));
     }
