@@ -3,7 +3,6 @@
 #include "BenchFolder.h"
 #include "DrawingPack.h"
 #include "Error.h"
-#include "PictureCache.h"
 #include "inOrder.h"
 #include "paths.h"
 
@@ -31,9 +30,12 @@ const fs::path& startedFolder() {
 SheetWorld::SheetWorld() {
     QtPictureFiles encoder;
     const DrawingPack drawings(drawingsFile(startedFolder()));
-    const SheetTools tools{startedFolder(), picturesReadOnce(startedFolder(), pictures),
-                           pictures,        encoder,
-                           drawings,        maps};
+    const SheetTools tools{startedFolder(),
+                           picturesReadOnce(startedFolder(), pictures),
+                           outlinesReadOnce(pictures),
+                           encoder,
+                           drawings,
+                           maps};
     std::vector<std::string> drawable;
     for (const fs::path& ship : listFolder(startedFolder() / "ships", ".shp")) {
         ShipOnScreen screen(startedFolder());
@@ -61,12 +63,14 @@ void makeSheets(benchmark::State& state, unsigned threads,
     const SheetWorld& world = sheetWorld();
     for ([[maybe_unused]] auto _ : state) {
         ToolPictures files(APP_FOLDER);
-        PictureCache cache(files);
         const DrawingPack drawings(drawingsFile(startedFolder()));
         const auto catalogue = CatalogueFile::readOnce(startedFolder() / "weaps.dat");
-        const SheetTools tools{startedFolder(), picturesReadOnce(startedFolder(), cache),
-                               cache,           files,
-                               drawings,        world.maps};
+        const SheetTools tools{startedFolder(),
+                               picturesReadOnce(startedFolder(), files),
+                               outlinesReadOnce(files),
+                               files,
+                               drawings,
+                               world.maps};
         std::size_t bytes = 0;
         inOrder(
             sheetCount, threads,

@@ -155,7 +155,7 @@ public:
                .encoder = m_pictureFiles,
                .svgFile =
                    [this](const PageDocument& pages) { return svgFile(pages, m_pictureFiles); },
-               .sources = {m_pictures, m_images, m_drawings},
+               .sources = {outlinesIn(m_pictures), m_images, m_drawings},
                .g_colSSDMaps = m_globals.g_colSSDMaps,
                .g_iLargestSSD = m_globals.g_iLargestSSD,
                .newShip =
@@ -166,7 +166,7 @@ public:
                .say = [this](const std::string& text) { m_main.sbStatus.setText(text); }}),
           m_mapper({.appFolder = m_appFolder,
                     .desktop = desktop,
-                    .pictures = m_pictures,
+                    .outlines = outlinesIn(m_pictures),
                     .encoder = m_pictureFiles,
                     .images = m_images,
                     .g_colSSDMaps = m_globals.g_colSSDMaps,

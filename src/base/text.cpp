@@ -84,13 +84,15 @@ std::string changeCase(std::string_view text, char firstOfAscii, std::string_vie
     std::string changed;
     changed.reserve(text.size());
     while (!text.empty()) {
-        std::string_view character = text.substr(0, characterLength(text));
-        text.remove_prefix(character.size());
-        const char lead = character.front();
-        if (lead >= firstOfAscii && lead <= firstOfAscii + ('z' - 'a')) {
-            changed += static_cast<char>(lead ^ caseBit);
+        const char lead = text.front();
+        if (static_cast<unsigned char>(lead) <= '\x7F') {
+            const bool isFound = lead >= firstOfAscii && lead <= firstOfAscii + ('z' - 'a');
+            changed += isFound ? static_cast<char>(lead ^ caseBit) : lead;
+            text.remove_prefix(1);
             continue;
         }
+        std::string_view character = text.substr(0, characterLength(text));
+        text.remove_prefix(character.size());
         if (character.size() == 2) {
             const auto found =
                 std::find_if(letters.begin(), letters.end(),
@@ -103,6 +105,10 @@ std::string changeCase(std::string_view text, char firstOfAscii, std::string_vie
 }
 
 std::string replaced(std::string_view text, bool areLines) {
+    // As most texts are.
+    if (std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; })) {
+        return std::string(text);
+    }
     std::string shown;
     shown.reserve(text.size());
     while (!text.empty()) {

@@ -68,7 +68,7 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
     const SheetImages images = catalogueImages(tools.pictures, *main.g_Ship);
     frmMapper mapper({.appFolder = tools.appFolder,
                       .desktop = desktop,
-                      .pictures = tools.outlines,
+                      .outlines = tools.outlines,
                       .encoder = tools.encoder,
                       .images = images,
                       .g_colSSDMaps = tools.maps.maps,

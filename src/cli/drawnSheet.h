@@ -11,7 +11,6 @@ namespace fleetwright {
 
 class Drawings;
 class PictureEncoder;
-class PictureFiles;
 class ShipOnScreen;
 struct LoadedMaps;
 
@@ -19,7 +18,7 @@ struct LoadedMaps;
 struct SheetTools {
     std::filesystem::path appFolder;
     PictureFinder pictures;  ///< of what is pasted on outlines
-    PictureFiles& outlines;
+    OutlineFinder outlines;
     PictureEncoder& encoder;
     const Drawings& drawings;
     const LoadedMaps& maps;

@@ -2,7 +2,6 @@
 
 #include "DrawingPack.h"
 #include "Error.h"
-#include "PictureCache.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "carriedShips.h"
@@ -185,16 +184,17 @@ int runSheet(const Options& options) {
     if (sheetOut(options) == SheetOut::Document) {
         pictures.prepareForPdf();
     }
-    PictureCache cache(pictures);
     const DrawingPack drawings(drawingsFile(options.appFolder));
     int status = Done;
     const LoadedMaps maps = mapsOf(options, status);
     // The outline of a single ship is read once in any case, and is the largest picture.
-    PictureFiles& outlines =
-        options.words.size() > 1 ? static_cast<PictureFiles&>(cache) : pictures;
-    const SheetTools tools{options.appFolder, picturesReadOnce(options.appFolder, cache),
-                           outlines,          pictures,
-                           drawings,          maps};
+    const bool isOne = options.words.size() == 1;
+    const SheetTools tools{options.appFolder,
+                           picturesReadOnce(options.appFolder, pictures),
+                           isOne ? outlinesIn(pictures) : outlinesReadOnce(pictures),
+                           pictures,
+                           drawings,
+                           maps};
     const int drawn = sheetOut(options) == SheetOut::Document
                           ? drawDocument(options, tools, pictures)
                           : drawFiles(options, tools);

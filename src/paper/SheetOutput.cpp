@@ -223,7 +223,7 @@ Raster SheetOutput::bitmapOn(const SSDMap& map, const SheetShip& ship, const Row
     SheetLists lists;
     lists.fillShipWeap(aboard);
     lists.fillPoints(map);
-    Raster bitmap = outlineOf(map, m_services.sources.pictures);
+    Raster bitmap = m_services.sources.outlines(map);
     RasterSheet sheet(bitmap);
     drawSSD(sheet, m_services.sources.images, map, lists, ship);
     return bitmap;

@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view ellipsis = "…";
 
 double widthIn(const PageText& style, std::string_view text) {
-    return textWidth(std::string(text), style.size, style.font);
+    return textWidth(text, style.size, style.font);
 }
 
 /// How many bytes of whole characters from the start of a text fit a width; one at the least.

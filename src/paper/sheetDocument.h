@@ -4,6 +4,7 @@
 
 #include "ListView.h"
 #include "PageDocument.h"
+#include "SheetImages.h"
 #include "SheetRecord.h"
 #include "drawSSD.h"
 
@@ -14,7 +15,6 @@
 
 namespace fleetwright {
 
-class PictureFiles;
 class SSDMap;
 
 /// One line of the legend: a system aboard, with all its pieces.
@@ -56,9 +56,9 @@ struct VectorSheet {
     std::optional<std::int64_t> date;  ///< of the ship file, seconds since 1970
 };
 
-/// What sheets are made of. All of it outlives the call that it is handed to.
+/// What sheets are made of. What it refers to outlives the call that it is handed to.
 struct SheetSources {
-    PictureFiles& pictures;  ///< read outlines
+    OutlineFinder outlines;
     const SheetImages& images;
     const Drawings& drawings;
 };

@@ -40,7 +40,7 @@ VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>&
     lists.fillShipWeap(lvCurrentWeapons);
     lists.fillPoints(map);
     RecordingSheet sheet(sources.drawings);
-    sheet.setPicture(outlineOf(map, sources.pictures));
+    sheet.setPicture(sources.outlines(map));
     drawSSD(sheet, sources.images, map, lists, ship);
     SheetRecord record = sheet.takeRecord();
     addGreatTrack(record, ship.ship, map);

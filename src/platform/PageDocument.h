@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -84,6 +85,6 @@ struct PageDocument {
 
 /// How wide a line of text is, in millimetres, for a font size in millimetres. Control characters
 /// have no width.
-double textWidth(const std::string& text, double size, PageFont font = PageFont::Regular);
+double textWidth(std::string_view text, double size, PageFont font = PageFont::Regular);
 
 }  // namespace fleetwright

@@ -93,7 +93,7 @@ std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
     return runs;
 }
 
-double textWidth(const std::string& text, double size, PageFont font) {
+double textWidth(std::string_view text, double size, PageFont font) {
     const std::array<unsigned, asciiCount>& advances = asciiAdvances(font);
     double width = 0;
     for (std::string_view rest = text; !rest.empty();) {

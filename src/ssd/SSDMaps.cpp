@@ -82,11 +82,15 @@ const DroppedMap* LoadedMaps::whyDropped(std::string_view displayName) const {
     return found == dropped.end() ? nullptr : &*found;
 }
 
+bool fitsOn(const SSDMap& map, std::int32_t mass, std::int32_t iShipWeapCount) {
+    return mass <= map.iMaxMass && iShipWeapCount <= map.iWeapNDX;
+}
+
 std::vector<std::string> fittingMaps(const SSDMaps& maps, std::int32_t mass,
                                      std::int32_t iShipWeapCount) {
     std::vector<std::string> names;
     for (const SSDMaps::Map& map : maps.all()) {
-        if (mass <= map->iMaxMass && iShipWeapCount <= map->iWeapNDX) {
+        if (fitsOn(*map, mass, iShipWeapCount)) {
             names.push_back(map->sDisplayName);
         }
     }

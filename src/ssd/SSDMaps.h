@@ -61,8 +61,11 @@ constexpr bool getsSheet(std::int32_t mass, std::int16_t g_iLargestSSD) {
     return mass <= g_iLargestSSD;
 }
 
-/// The names of the maps that a ship fits on: of this mass, and with so many systems besides
-/// damage control parties.
+/// Whether a ship fits on a map: of this mass, and with so many systems besides damage control
+/// parties.
+bool fitsOn(const SSDMap& map, std::int32_t mass, std::int32_t iShipWeapCount);
+
+/// The names of the maps that such a ship fits on.
 std::vector<std::string> fittingMaps(const SSDMaps& maps, std::int32_t mass,
                                      std::int32_t iShipWeapCount);
 

@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -39,6 +40,36 @@ std::string iconOf(const ShipClass& ship, std::string_view system) {
     return std::string(record.icon);
 }
 
+/// Pictures under names, each read once. Any number of threads may ask; who asks for one that is
+/// being read waits for that alone.
+class KeptPictures {
+public:
+    /// `read` may throw: then the next one to ask reads again.
+    template <typename Read>
+    Raster of(const std::string& name, Read read) {
+        Entry& entry = entryOf(name);
+        const std::lock_guard lock(entry.mutex);
+        if (!entry.picture) {
+            entry.picture = read().shared();
+        }
+        return *entry.picture;
+    }
+
+private:
+    struct Entry {
+        std::mutex mutex;
+        std::optional<Raster> picture;
+    };
+
+    Entry& entryOf(const std::string& name) {
+        const std::lock_guard lock(m_mutex);
+        return m_entries[name];
+    }
+
+    std::mutex m_mutex;  // of the map
+    std::map<std::string, Entry> m_entries;
+};
+
 }  // namespace
 
 SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& pictures,
@@ -54,21 +85,9 @@ SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& 
 }
 
 PictureFinder picturesReadOnce(const std::filesystem::path& appFolder, PictureFiles& pictures) {
-    struct Known {
-        std::mutex mutex;
-        std::map<std::string, Raster, std::less<>> files;
-    };
     return [read = filesIn(appFolder, pictures),
-            known = std::make_shared<Known>()](std::string_view name) {
-        {
-            const std::lock_guard lock(known->mutex);
-            if (const auto file = known->files.find(name); file != known->files.end()) {
-                return file->second;
-            }
-        }
-        const Raster picture = read(name).shared();
-        const std::lock_guard lock(known->mutex);
-        return known->files.try_emplace(std::string(name), picture).first->second;
+            kept = std::make_shared<KeptPictures>()](std::string_view name) {
+        return kept->of(std::string(name), [&] { return read(name); });
     };
 }
 
@@ -86,12 +105,20 @@ SheetImages catalogueImages(PictureFinder files, const ShipClass& ship) {
             }};
 }
 
-Raster outlineOf(const SSDMap& map, PictureFiles& pictures) {
-    try {
-        return pictures.load(map.outlineFile());
-    } catch (const FileError& error) {
-        throw Error("no outline for the map " + quote(map.sDisplayName) + ": " + complaint(error));
-    }
+OutlineFinder outlinesIn(PictureFiles& pictures) {
+    return [&pictures](const SSDMap& map) {
+        try {
+            return pictures.load(map.outlineFile());
+        } catch (const FileError& error) {
+            throw Error("no outline for the map " + quote(map.sDisplayName) + ": " +
+                        complaint(error));
+        }
+    };
+}
+
+OutlineFinder outlinesReadOnce(PictureFiles& pictures) {
+    return [read = outlinesIn(pictures), kept = std::make_shared<KeptPictures>()](
+               const SSDMap& map) { return kept->of(map.sImgFile, [&] { return read(map); }); };
 }
 
 }  // namespace fleetwright

@@ -16,6 +16,9 @@ class ShipClass;
 /// Finds a file of the folder of pictures. Throws FileError.
 using PictureFinder = std::function<Raster(std::string_view name)>;
 
+/// Finds the outline of a map. Throws Error, which names the map.
+using OutlineFinder = std::function<Raster(const SSDMap&)>;
+
 /// Finds the pictures that a sheet is pasted together from.
 struct SheetImages {
     /// Key of the white picture that free points are covered with.
@@ -42,7 +45,10 @@ SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& 
 /// the names that the ship's catalogue has. `ship` outlives what is returned.
 SheetImages catalogueImages(PictureFinder files, const ShipClass& ship);
 
-/// The outline of a map. Throws Error, which names the map.
-Raster outlineOf(const SSDMap& map, PictureFiles& pictures);
+/// The outlines as their files are whenever one is asked for. `pictures` outlive what is returned.
+OutlineFinder outlinesIn(PictureFiles& pictures);
+
+/// The same, each looked up and read only once, for many sheets, by any number of threads.
+OutlineFinder outlinesReadOnce(PictureFiles& pictures);
 
 }  // namespace fleetwright

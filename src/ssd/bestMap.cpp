@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <tuple>
+#include <utility>
 
 namespace fleetwright {
 
@@ -56,10 +58,14 @@ SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
                           map.iWeapNDX, toCapitals(map.sDisplayName));
     };
     SSDMaps::Map best;
-    for (const std::string& name : fittingMaps(maps, ship.mass(), placed)) {
-        const SSDMaps::Map map = maps.at(name);
-        if (!best || rank(*map) < rank(*best)) {
+    std::optional<decltype(rank(*best))> bestRank;
+    for (const SSDMaps::Map& map : maps.all()) {
+        if (!fitsOn(*map, ship.mass(), placed)) {
+            continue;
+        }
+        if (auto ranked = rank(*map); !bestRank || ranked < *bestRank) {
             best = map;
+            bestRank = std::move(ranked);
         }
     }
     return best;

@@ -92,7 +92,7 @@ bool frmMapper::layOut() {
 /// Shows the outline of the map; false, with a message, if that fails.
 bool frmMapper::showOutline() {
     try {
-        picSSD.setPicture(outlineOf(*m_Map, m_services.pictures));
+        picSSD.setPicture(m_services.outlines(*m_Map));
         fitToSheet();
         return true;
     } catch (const Error& error) {
@@ -118,7 +118,7 @@ void frmMapper::drawSheet() {
     } catch (const Error& error) {
         fail("Could not create the SSD!", "SSD Creation Error", error);
         try {
-            picSSD.setPicture(outlineOf(*m_Map, m_services.pictures));
+            picSSD.setPicture(m_services.outlines(*m_Map));
         } catch (const Error&) {
             picSSD.setPicture(Raster(sheet.scaleWidth(), sheet.scaleHeight()));
         }

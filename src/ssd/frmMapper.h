@@ -21,7 +21,6 @@ namespace fleetwright {
 
 class Desktop;
 class PictureEncoder;
-class PictureFiles;
 
 /// The window in which a ship's sheet is drawn and saved. Each time it is loaded it begins anew
 /// with the ship as it then stands.
@@ -31,7 +30,7 @@ public:
     struct Services {
         std::filesystem::path appFolder;
         Desktop& desktop;
-        PictureFiles& pictures;  ///< read outlines
+        OutlineFinder outlines;
         PictureEncoder& encoder;
         const SheetImages& images;
         const SSDMaps& g_colSSDMaps;

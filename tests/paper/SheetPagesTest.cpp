@@ -44,7 +44,8 @@ VectorSheet sheetOf(const std::string& shipFile, const std::string& width,
     paper.outline = box(std::stoi(width), std::stoi(height), 0);
     const SheetImages images = {[](auto) { return picture; },
                                 [](auto) -> const Raster& { return picture; }};
-    return vectorSheet(shownShip(*ship), rowsOf(*ship), mapOf(map), {paper, images, paper});
+    return vectorSheet(shownShip(*ship), rowsOf(*ship), mapOf(map),
+                       {outlinesIn(paper), images, paper});
 }
 
 std::string place(double x, double y) {

@@ -97,7 +97,7 @@ Actor::Actor(Choices& source)
     : choices(source), test(std::string(windowCatalogue) + oddSystems),
       m_mapper({.appFolder = m_app,
                 .desktop = test.desktop(),
-                .pictures = m_pictures,
+                .outlines = outlinesIn(m_pictures),
                 .encoder = m_decoder,
                 .images = m_images,
                 .g_colSSDMaps = test.globals.g_colSSDMaps,

@@ -133,7 +133,7 @@ struct Mapper : PictureEncoder {
                              [this](std::string_view name) -> const Raster& {
                                  return name == SheetImages::blank ? blank : coloured;
                              }};
-    frmMapper window{{folder.path(), desktop, pictures, *this, images, maps, systems,
+    frmMapper window{{folder.path(), desktop, outlinesIn(pictures), *this, images, maps, systems,
                       [this] {
                           const std::string cost = std::to_string(ship->g_lCost);
                           return SheetShip{"5", parties, "1", "Magpie", "Åsa", cost, *ship};

@@ -92,7 +92,7 @@ void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& ap
     const SSDMaps maps = loadMaps(appFolder).maps;
     frmMapper mapper({.appFolder = appFolder,
                       .desktop = desktop,
-                      .pictures = files,
+                      .outlines = outlinesIn(files),
                       .encoder = files,
                       .images = images,
                       .g_colSSDMaps = maps,

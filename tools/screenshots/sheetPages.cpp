@@ -2,7 +2,6 @@
 
 #include "DrawingPack.h"
 #include "Error.h"
-#include "PictureCache.h"
 #include "QtPictureFiles.h"
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
@@ -77,11 +76,11 @@ void drawSheets(const fs::path& appFolder, const fs::path& ships, const fs::path
     fs::create_directories(output / "sheets");
     fs::create_directories(output / "pages");
     QtPictureFiles files;
-    PictureCache cache(files);
     const LoadedMaps maps = loadMaps(appFolder);
     const DrawingPack drawings(drawingsFile(appFolder));
-    const SheetTools tools{appFolder, picturesReadOnce(appFolder, cache), cache, files, drawings,
-                           maps};
+    const SheetTools tools{
+        appFolder, picturesReadOnce(appFolder, files), outlinesReadOnce(files), files, drawings,
+        maps};
     std::vector<QImage> pages;
     for (const fs::path& ship : listFolder(ships, ".shp")) {
         ShipOnScreen screen(appFolder);

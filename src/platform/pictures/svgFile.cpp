@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <map>
 #include <optional>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -46,43 +47,44 @@ private:
     std::map<BoxKey, std::string> m_clips;
 };
 
-std::string boxAttributes(const Box& box) {
-    return attribute("x", box.x) + attribute("y", box.y) + attribute("width", box.width) +
-           attribute("height", box.height);
+void setBox(SvgTag& tag, const Box& box) {
+    tag.set("x", box.x).set("y", box.y).set("width", box.width).set("height", box.height);
 }
 
-std::string paint(const char* name, const std::optional<std::uint32_t>& colour) {
-    return attribute(name, colour ? svgColour(*colour) : "none");
+void setPaint(SvgTag& tag, std::string_view name, const std::optional<std::uint32_t>& colour) {
+    tag.set(name, colour ? svgColour(*colour) : "none");
 }
 
-std::string strokeAttributes(const DrawnShape& shape) {
+void setStroke(SvgTag& tag, const DrawnShape& shape) {
     static constexpr const char* caps[] = {"butt", "round", "square"};
     static constexpr const char* joins[] = {"miter", "round", "bevel"};
-    std::string text = paint("stroke", shape.stroke);
+    setPaint(tag, "stroke", shape.stroke);
     if (shape.strokeWidth != 1) {
-        text += attribute("stroke-width", shape.strokeWidth);
+        tag.set("stroke-width", shape.strokeWidth);
     }
     if (shape.cap != DrawnShape::Cap::Flat) {
-        text += attribute("stroke-linecap", caps[static_cast<int>(shape.cap)]);
+        tag.set("stroke-linecap", caps[static_cast<int>(shape.cap)]);
     }
     if (shape.join != DrawnShape::Join::Miter) {
-        text += attribute("stroke-linejoin", joins[static_cast<int>(shape.join)]);
+        tag.set("stroke-linejoin", joins[static_cast<int>(shape.join)]);
     }
-    return text;
 }
 
-std::string shapeElement(const DrawnShape& shape) {
-    std::string text = "<path" + attribute("d", svgText(shape.path)) + paint("fill", shape.fill);
+void addShape(std::string& text, const DrawnShape& shape) {
+    SvgTag path(text, "path");
+    path.set("d", svgText(shape.path));
+    setPaint(path, "fill", shape.fill);
     if (shape.fill && shape.isEvenOdd) {
-        text += attribute("fill-rule", "evenodd");
+        path.set("fill-rule", "evenodd");
     }
     if (shape.stroke) {
-        text += strokeAttributes(shape);
+        setStroke(path, shape);
     }
     if (shape.opacity != 1) {
-        text += attribute("opacity", shape.opacity);
+        path.set("opacity", shape.opacity);
     }
-    return text + "/>\n";
+    path.close();
+    text += '\n';
 }
 
 bool isInside(const Box& inner, const Box& outer) {
@@ -92,25 +94,37 @@ bool isInside(const Box& inner, const Box& outer) {
            inner.y + inner.height <= outer.y + outer.height + hair;
 }
 
-/// A clip path of this box, defined once.
+/// What refers to a clip path of this box, which is defined once.
 std::string SvgWriter::clipOf(const Box& box) {
     const auto [known, isNew] =
         m_clips.try_emplace({box.x, box.y, box.width, box.height}, std::string());
     if (isNew) {
-        known->second = "clip" + std::to_string(m_clips.size());
-        m_definitions += "<clipPath" + attribute("id", known->second) + "><rect" +
-                         boxAttributes(box) + "/></clipPath>\n";
+        const std::string name = "clip" + std::to_string(m_clips.size());
+        known->second = "url(#" + name + ')';
+        SvgTag(m_definitions, "clipPath").set("id", name).open();
+        SvgTag rectangle(m_definitions, "rect");
+        setBox(rectangle, box);
+        rectangle.close();
+        m_definitions += "</clipPath>\n";
     }
-    return attribute("clip-path", "url(#" + known->second + ')');
+    return known->second;
 }
 
 void SvgWriter::defineDrawing(const std::string& name, const Drawing& drawing) {
     const Box paper = {0, 0, double(drawing.width), double(drawing.height)};
     const std::string clip = isInside(drawing.ink, paper) ? std::string() : clipOf(paper);
-    m_definitions += "<g" + attribute("id", name) + clip + "><rect" + boxAttributes(paper) +
-                     attribute("fill", "#fff") + "/>\n";
+    SvgTag group(m_definitions, "g");
+    group.set("id", name);
+    if (!clip.empty()) {
+        group.set("clip-path", clip);
+    }
+    group.open();
+    SvgTag rectangle(m_definitions, "rect");
+    setBox(rectangle, paper);
+    rectangle.set("fill", "#fff").close();
+    m_definitions += '\n';
     for (const DrawnShape& shape : drawing.shapes) {
-        m_definitions += shapeElement(shape);
+        addShape(m_definitions, shape);
     }
     m_definitions += "</g>\n";
 }
@@ -118,11 +132,15 @@ void SvgWriter::defineDrawing(const std::string& name, const Drawing& drawing) {
 void SvgWriter::defineRaster(const std::string& name, const Raster& raster) {
     std::string png = toBase64(m_encoder.encode(raster, "png"));
     std::erase(png, '\n');
-    m_definitions += "<image" + attribute("id", name) + attribute("width", double(raster.width())) +
-                     attribute("height", double(raster.height())) +
-                     attribute("preserveAspectRatio", "none") +
-                     attribute("style", "image-rendering:pixelated") +
-                     attribute("href", "data:image/png;base64," + png) + "/>\n";
+    SvgTag(m_definitions, "image")
+        .set("id", name)
+        .set("width", double(raster.width()))
+        .set("height", double(raster.height()))
+        .set("preserveAspectRatio", "none")
+        .set("style", "image-rendering:pixelated")
+        .set("href", "data:image/png;base64," + png)
+        .close();
+    m_definitions += '\n';
 }
 
 /// The name of a picture's definition, which is written when it is first asked for.
@@ -147,42 +165,50 @@ void SvgWriter::write(const PageText& text) {
     if (words.empty()) {
         return;
     }
-    m_body += "<text" + attribute("x", text.x) + attribute("y", text.y) +
-              attribute("font-size", text.size);
+    SvgTag tag(m_body, "text");
+    tag.set("x", text.x).set("y", text.y).set("font-size", text.size);
     if (text.font == PageFont::Bold) {
-        m_body += attribute("font-weight", "bold");
+        tag.set("font-weight", "bold");
     }
     if (text.anchor != PageText::Anchor::Start) {
-        m_body += attribute("text-anchor", anchors[static_cast<int>(text.anchor)]);
+        tag.set("text-anchor", anchors[static_cast<int>(text.anchor)]);
     }
     if (text.colour != 0) {
-        m_body += attribute("fill", svgColour(text.colour));
+        tag.set("fill", svgColour(text.colour));
     }
     const double width = textWidth(text.text, text.size, text.font);
     if (width > 0) {
-        m_body += attribute("textLength", width) + attribute("lengthAdjust", "spacingAndGlyphs");
+        tag.set("textLength", width).set("lengthAdjust", "spacingAndGlyphs");
     }
-    m_body += '>' + words + "</text>\n";
+    tag.open();
+    (m_body += words) += "</text>\n";
 }
 
 void SvgWriter::write(const PageLine& line) {
-    m_body += "<line" + attribute("x1", line.x1) + attribute("y1", line.y1) +
-              attribute("x2", line.x2) + attribute("y2", line.y2) +
-              attribute("stroke", svgColour(line.colour)) + attribute("stroke-width", line.width) +
-              "/>\n";
+    SvgTag(m_body, "line")
+        .set("x1", line.x1)
+        .set("y1", line.y1)
+        .set("x2", line.x2)
+        .set("y2", line.y2)
+        .set("stroke", svgColour(line.colour))
+        .set("stroke-width", line.width)
+        .close();
+    m_body += '\n';
 }
 
 void SvgWriter::write(const PageRectangle& rectangle) {
-    m_body += "<rect" + boxAttributes(rectangle.place);
+    SvgTag tag(m_body, "rect");
+    setBox(tag, rectangle.place);
     if (rectangle.radius > 0) {
-        m_body += attribute("rx", rectangle.radius);
+        tag.set("rx", rectangle.radius);
     }
-    m_body += paint("fill", rectangle.fill);
+    setPaint(tag, "fill", rectangle.fill);
     if (rectangle.stroke) {
-        m_body +=
-            paint("stroke", rectangle.stroke) + attribute("stroke-width", rectangle.strokeWidth);
+        setPaint(tag, "stroke", rectangle.stroke);
+        tag.set("stroke-width", rectangle.strokeWidth);
     }
-    m_body += "/>\n";
+    tag.close();
+    m_body += '\n';
 }
 
 void SvgWriter::write(const PagePicture& picture) {
@@ -192,27 +218,35 @@ void SvgWriter::write(const PagePicture& picture) {
     if (width <= 0 || height <= 0) {
         return;
     }
-    const std::string use =
-        "<use" + attribute("href", '#' + nameOf(picture)) +
-        attribute("transform", "translate(" + svgNumber(picture.place.x) + ' ' +
-                                   svgNumber(picture.place.y) + ") scale(" +
-                                   svgNumber(picture.place.width / width) + ' ' +
-                                   svgNumber(picture.place.height / height) + ')') +
-        "/>";
-    m_body += isWhole ? use : "<g" + clipOf(picture.clip) + '>' + use + "</g>";
-    m_body += '\n';
+    const std::string name = nameOf(picture);
+    if (!isWhole) {
+        SvgTag(m_body, "g").set("clip-path", clipOf(picture.clip)).open();
+    }
+    SvgTag(m_body, "use")
+        .set("href", '#' + name)
+        .set("transform", "translate(" + svgNumber(picture.place.x) + ' ' +
+                              svgNumber(picture.place.y) + ") scale(" +
+                              svgNumber(picture.place.width / width) + ' ' +
+                              svgNumber(picture.place.height / height) + ')')
+        .close();
+    m_body += isWhole ? "\n" : "</g>\n";
 }
 
 void SvgWriter::writePage(const Page& page, std::size_t index) {
     const double top = double(index) * (m_document.size.height + pageGap);
-    m_body += "<g" + attribute("id", "page" + std::to_string(index + 1)) +
-              attribute("transform", "translate(0 " + svgNumber(top) + ')') + ">\n<rect" +
-              boxAttributes({0, 0, m_document.size.width, m_document.size.height}) +
-              attribute("fill", "#fff");
+    SvgTag(m_body, "g")
+        .set("id", "page" + std::to_string(index + 1))
+        .set("transform", "translate(0 " + svgNumber(top) + ')')
+        .open();
+    m_body += '\n';
+    SvgTag paper(m_body, "rect");
+    setBox(paper, {0, 0, m_document.size.width, m_document.size.height});
+    paper.set("fill", "#fff");
     if (m_document.pages.size() > 1) {
-        m_body += attribute("stroke", "#aaa") + attribute("stroke-width", 0.2);
+        paper.set("stroke", "#aaa").set("stroke-width", 0.2);
     }
-    m_body += "/>\n";
+    paper.close();
+    m_body += '\n';
     for (const PageItem& item : page.items) {
         std::visit([this](const auto& shown) { write(shown); }, item);
     }
@@ -221,15 +255,17 @@ void SvgWriter::writePage(const Page& page, std::size_t index) {
 
 std::string SvgWriter::head(double height) const {
     const double width = m_document.size.width;
-    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                       "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-                       attribute("width", svgNumber(width) + "mm") +
-                       attribute("height", svgNumber(height) + "mm") +
-                       attribute("viewBox", "0 0 " + svgNumber(width) + ' ' + svgNumber(height)) +
-                       attribute("xml:lang", svgText(m_document.language)) +
-                       attribute("font-family", svgFontFamily) +
-                       attribute("xml:space", "preserve") + ">\n";
-    text += "<title>" + svgText(m_document.title) + "</title>\n";
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+    SvgTag(text, "svg")
+        .set("xmlns", "http://www.w3.org/2000/svg")
+        .set("width", svgNumber(width) + "mm")
+        .set("height", svgNumber(height) + "mm")
+        .set("viewBox", "0 0 " + svgNumber(width) + ' ' + svgNumber(height))
+        .set("xml:lang", svgText(m_document.language))
+        .set("font-family", svgFontFamily)
+        .set("xml:space", "preserve")
+        .open();
+    text += "\n<title>" + svgText(m_document.title) + "</title>\n";
     std::string description = m_document.subject;
     if (!m_document.author.empty()) {
         description += (description.empty() ? "by " : ", by ") + m_document.author;
@@ -251,9 +287,9 @@ std::string SvgWriter::file() {
     const double height = count * m_document.size.height + (count - 1) * pageGap;
     std::string text = head(height);
     if (!m_definitions.empty()) {
-        text += "<defs>\n" + m_definitions + "</defs>\n";
+        ((text += "<defs>\n") += m_definitions) += "</defs>\n";
     }
-    return text + m_body + "</svg>\n";
+    return (text += m_body) += "</svg>\n";
 }
 
 }  // namespace

@@ -23,23 +23,30 @@ bool isPlain(char byte) {
     return byte >= ' ' && byte < '\x7F' && byte != '&' && byte != '<' && byte != '>' && byte != '"';
 }
 
-}  // namespace
-
-std::string svgNumber(double value) {
+void addNumber(std::string& text, double value) {
     constexpr int decimals = 4;
     constexpr double most = 1e9;  // no page comes near that
     if (!(std::fabs(value) < most)) {
-        return "0";
+        text += '0';
+        return;
     }
     char buffer[32];
     const auto end =
         std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
-    std::string text(buffer, end.ptr);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) {
-        text.pop_back();
+    std::string_view number(buffer, static_cast<std::size_t>(end.ptr - buffer));
+    number = number.substr(0, number.find_last_not_of('0') + 1);
+    if (number.ends_with('.')) {
+        number.remove_suffix(1);
     }
-    return text == "-0" ? "0" : text;
+    text += number == "-0" ? "0" : number;
+}
+
+}  // namespace
+
+std::string svgNumber(double value) {
+    std::string text;
+    addNumber(text, value);
+    return text;
 }
 
 std::string svgColour(std::uint32_t colour) {
@@ -78,12 +85,16 @@ std::string svgText(std::string_view text) {
     return written;
 }
 
-std::string attribute(const char* name, const std::string& value) {
-    return std::string(" ") + name + "=\"" + value + '"';
+SvgTag& SvgTag::set(std::string_view name, std::string_view value) {
+    ((((m_text += ' ') += name) += "=\"") += value) += '"';
+    return *this;
 }
 
-std::string attribute(const char* name, double value) {
-    return attribute(name, svgNumber(value));
+SvgTag& SvgTag::set(std::string_view name, double value) {
+    ((m_text += ' ') += name) += "=\"";
+    addNumber(m_text, value);
+    m_text += '"';
+    return *this;
 }
 
 }  // namespace fleetwright

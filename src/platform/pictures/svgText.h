@@ -20,8 +20,22 @@ std::string svgColour(std::uint32_t colour);
 /// A text that nothing is markup in, without what XML does not know: control characters.
 std::string svgText(std::string_view text);
 
-/// " name="value"", the value as it is.
-std::string attribute(const char* name, const std::string& value);
-std::string attribute(const char* name, double value);
+/// Writes a tag at the end of a text.
+class SvgTag {
+public:
+    SvgTag(std::string& text, std::string_view element) : m_text(text) {
+        (m_text += '<') += element;
+    }
+    /// Sets an attribute, the value as it is.
+    SvgTag& set(std::string_view name, std::string_view value);
+    SvgTag& set(std::string_view name, double value);
+    /// Ends the tag of an element that goes on.
+    void open() { m_text += '>'; }
+    /// Ends the tag of an element that holds nothing.
+    void close() { m_text += "/>"; }
+
+private:
+    std::string& m_text;
+};
 
 }  // namespace fleetwright
