@@ -6,11 +6,13 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace fleetwright {
 
@@ -105,6 +107,7 @@ Silhouette::Silhouette(const SheetRecord& record, const Box& shown)
         ink.y += paste.y;
         addBox(ink);
     }
+    uniteRows();
 }
 
 /// The outline; of other pictures their boxes will do.
@@ -161,13 +164,30 @@ void Silhouette::addBox(const Box& box) {
     }
 }
 
-Silhouette::Extent Silhouette::between(double top, double bottom) const {
-    Extent extent = nothing;
-    const double last = double(m_rows.size()) - 1;
-    for (double row = std::max(std::floor(top), 0.0); row <= std::min(bottom, last); ++row) {
-        const Extent& other = m_rows[static_cast<std::size_t>(row)];
-        unite(extent, other.left, other.right);
+/// So that the extent of any number of rows is that of two unions of them.
+void Silhouette::uniteRows() {
+    m_unions.push_back(m_rows);
+    for (std::size_t half = 1; 2 * half <= m_rows.size(); half *= 2) {
+        std::vector<Extent> unions = m_unions.back();
+        for (std::size_t row = 0; row + half < unions.size(); ++row) {
+            const Extent& other = m_unions.back()[row + half];
+            unite(unions[row], other.left, other.right);
+        }
+        m_unions.push_back(std::move(unions));
     }
+}
+
+Silhouette::Extent Silhouette::between(double top, double bottom) const {
+    const double first = std::max(std::floor(top), 0.0);
+    const double last = std::floor(std::min(bottom, double(m_rows.size()) - 1));
+    if (!(first <= last)) {
+        return nothing;
+    }
+    const auto count = static_cast<std::size_t>(last - first) + 1;
+    const std::vector<Extent>& unions = m_unions[std::bit_width(count) - 1];
+    Extent extent = unions[static_cast<std::size_t>(first)];
+    const Extent& other = unions[static_cast<std::size_t>(last) + 1 - std::bit_floor(count)];
+    unite(extent, other.left, other.right);
     return extent;
 }
 

@@ -25,9 +25,12 @@ private:
     void addPicture(const SheetRecord::Paste& paste);
     void addDrawing(const Drawing& drawing, double x, double y);
     void addBox(const Box& box);
+    void uniteRows();
 
     Box m_shown;
     std::vector<Extent> m_rows;
+    /// Of 1, 2, 4... rows from each one on, as far as there are so many.
+    std::vector<std::vector<Extent>> m_unions;
 };
 
 }  // namespace fleetwright

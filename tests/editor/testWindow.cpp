@@ -234,7 +234,7 @@ TestWindow::TestWindow(std::string_view catalogue)
         .printer = *m_sheets,
         .encoder = *m_sheets,
         .svgFile = [](const PageDocument& pages) { return "SVG " + Sheets::textOf(pages); },
-        .sources = {*m_cached, m_images, *m_sheets},
+        .sources = {outlinesIn(*m_cached), m_images, *m_sheets},
         .g_colSSDMaps = globals.g_colSSDMaps,
         .g_iLargestSSD = globals.g_iLargestSSD,
         .newShip = {},
