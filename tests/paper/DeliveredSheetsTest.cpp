@@ -118,8 +118,8 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
                                       : trackRows(trackSize(map->iMaxMass), ship.g_iDP);
         const SheetImages images = catalogueImages(picturesReadOnce(PICTURES_FOLDER, files), ship);
         const PictureSize room = trackRoom(map->iMaxMass);
-        const VectorSheet& sheet = sheets.emplace_back(
-            vectorSheet(shownShip(ship), rowsOf(ship), *map, {outlinesIn(files), images, drawings}));
+        const VectorSheet& sheet = sheets.emplace_back(vectorSheet(
+            shownShip(ship), rowsOf(ship), *map, {outlinesIn(files), images, drawings}));
         EXPECT_EQ(sheet.record.pastes.at(0).width, room.width) << "no damage track";
         expectAddsUp(sheet.facts.legend, ship);
         expectGood(sheet, files.load(map->outlineFile()),
