@@ -63,6 +63,7 @@ std::vector<Box> columnsIn(const Box& room, double width) {
     }
     const double pitch = (room.width - width) / (count - 1);
     std::vector<Box> columns;
+    columns.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         columns.push_back({room.x + i * pitch, room.y, width, room.height});
     }

@@ -33,7 +33,7 @@ private:
         int columns;
         int rows;
 
-        std::size_t count() const { return std::size_t(columns * rows); }
+        std::size_t count() const { return std::size_t(columns) * std::size_t(rows); }
         SheetCard::Room room() const {
             return count() == 1 ? SheetCard::Room::Page : SheetCard::Room::Part;
         }

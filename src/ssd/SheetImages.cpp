@@ -91,7 +91,7 @@ PictureFinder picturesReadOnce(const std::filesystem::path& appFolder, PictureFi
     };
 }
 
-SheetImages catalogueImages(PictureFinder files, const ShipClass& ship) {
+SheetImages catalogueImages(const PictureFinder& files, const ShipClass& ship) {
     std::map<std::string, Raster, std::less<>> loaded;
     loaded.try_emplace(std::string(SheetImages::blank), systemPictureSize, systemPictureSize);
     return {.file = files,

@@ -43,7 +43,7 @@ SheetImages programImages(const std::filesystem::path& appFolder, PictureFiles& 
 
 /// The pictures as a program without a window has them: those of systems are these files, too, by
 /// the names that the ship's catalogue has. `ship` outlives what is returned.
-SheetImages catalogueImages(PictureFinder files, const ShipClass& ship);
+SheetImages catalogueImages(const PictureFinder& files, const ShipClass& ship);
 
 /// The outlines as their files are whenever one is asked for. `pictures` outlive what is returned.
 OutlineFinder outlinesIn(PictureFiles& pictures);
