@@ -9,8 +9,6 @@ namespace fleetwright {
 
 namespace {
 
-/// What knows of picture files and documents; it is loaded for as long as the program lives.
-/// Throws FileError.
 const Pictures& loadPictures(const std::filesystem::path& programFolder) {
     const std::filesystem::path module = programFolder / picturesModule;
     const auto create = moduleFunction<CreatePictures>(loadModule(module), "createPictures");
@@ -22,25 +20,33 @@ const Pictures& loadPictures(const std::filesystem::path& programFolder) {
 
 }  // namespace
 
+const Pictures& ToolPictures::module() const {
+    // What is half prepared would be found by all that asks for it in the meantime.
+    if (m_preparing.valid()) {
+        m_preparing.wait();
+    }
+    return loadPictures(m_programFolder);
+}
+
 Raster ToolPictures::decode(const std::string& bytes, const std::string& format) {
-    return loadPictures(m_programFolder).files.decode(bytes, format);
+    return module().files.decode(bytes, format);
 }
 
 Raster ToolPictures::builtIn(const std::string& name) {
-    return loadPictures(m_programFolder).files.builtIn(name);
+    return module().files.builtIn(name);
 }
 
 std::string ToolPictures::encode(const Raster& picture, const std::string& format) {
     if (format == "bmp" && !picture.isEmpty()) {
         return bmpFile(picture);
     }
-    return loadPictures(m_programFolder).encoder.encode(picture, format);
+    return module().encoder.encode(picture, format);
 }
 
 void ToolPictures::prepareForPdf() {
-    m_preparing = std::async(std::launch::async, [this] {
+    m_preparing = std::async(std::launch::async, [folder = m_programFolder] {
         try {
-            loadPictures(m_programFolder).prepareForPdf();
+            loadPictures(folder).prepareForPdf();
         } catch (const Error&) {
             // The one who makes the file finds it, too.
         }
@@ -48,7 +54,7 @@ void ToolPictures::prepareForPdf() {
 }
 
 std::string ToolPictures::pdf(const PageDocument& document) {
-    return loadPictures(m_programFolder).pdf(document);
+    return module().pdf(document);
 }
 
 }  // namespace fleetwright

@@ -8,6 +8,8 @@
 
 namespace fleetwright {
 
+struct Pictures;
+
 /// Picture files as the tool reads and makes them: it reads GIF files and makes bitmaps by itself,
 /// all else with the module, which is loaded when it is first needed. Any number of threads may use
 /// it. Whatever needs the module throws FileError if that cannot be loaded.
@@ -19,14 +21,18 @@ public:
     Raster decode(const std::string& bytes, const std::string& format) override;
     Raster builtIn(const std::string& name) override;
     std::string encode(const Raster& picture, const std::string& format) override;
-    /// Begins to load what `pdf` takes, while the caller does something else.
+    /// Begins to load what `pdf` takes, while the caller does something else. Called before other
+    /// threads come in; whoever needs the module waits for the end of it.
     void prepareForPdf();
     /// The bytes of a PDF file, the same for the same document.
     std::string pdf(const PageDocument& document);
 
 private:
+    /// What knows of picture files and documents; it is loaded for as long as the program lives.
+    const Pictures& module() const;
+
     std::filesystem::path m_programFolder;
-    std::future<void> m_preparing;
+    std::shared_future<void> m_preparing;
 };
 
 }  // namespace fleetwright
