@@ -1,0 +1,44 @@
+#include "contrast.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace fleetwright {
+
+namespace {
+
+double luminance(const QColor& colour) {
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+}  // namespace
+
+double contrast(const QColor& one, const QColor& other) {
+    constexpr double glare = 0.05;
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + glare) / (darker + glare);
+}
+
+QColor readableOn(const QColor& ground, const QColor& colour) {
+    const bool isDarkBetter = contrast(ground, Qt::black) > contrast(ground, Qt::white);
+    const float step = isDarkBetter ? -0.01F : 0.01F;
+    QColor shade = colour.toHsl();
+    while (contrast(shade, ground) < readableContrast && shade.lightnessF() + step >= 0 &&
+           shade.lightnessF() + step <= 1) {
+        shade.setHslF(std::max(shade.hslHueF(), 0.0F), shade.hslSaturationF(),
+                      shade.lightnessF() + step);
+    }
+    return shade.toRgb();
+}
+
+QColor warningColour(const QPalette& palette) {
+    constexpr QColor red(200, 0, 0);
+    return readableOn(palette.color(QPalette::Base),
+                      readableOn(palette.color(QPalette::Window), red));
+}
+
+}  // namespace fleetwright

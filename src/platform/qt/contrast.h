@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace fleetwright {
+
+/// What is to be read is at least so far apart from what it stands on.
+inline constexpr double readableContrast = 4.5;
+
+/// How far two colours are apart for the eye, as WCAG 2 counts: from 1 for equal ones to 21.
+double contrast(const QColor& one, const QColor& other);
+
+/// This colour, or the darker or lighter one of its hue that can be read on `ground`.
+QColor readableOn(const QColor& ground, const QColor& colour);
+
+/// What a text that warns is written in, on windows and in boxes of a palette, light or dark.
+QColor warningColour(const QPalette& palette);
+
+}  // namespace fleetwright
