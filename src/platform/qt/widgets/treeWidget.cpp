@@ -2,6 +2,7 @@
 #include "ItemWidget.h"
 #include "TreeView.h"
 #include "controlWidgets.h"
+#include "pictureIcon.h"
 #include "widgetTools.h"
 
 #include <QApplication>
@@ -127,16 +128,19 @@ private:
     void addItem(TreeView::Node& node) {
         auto* const item = new QTreeWidgetItem;
         item->setText(0, toShown(node.key));
+        m_byNode[&node] = item;
+        m_byItem[item] = m_items.size();
+        m_items.push_back(item);
+        m_isExpanded.push_back(false);
+        if (!showPicture(item)) {
+            m_withoutPicture.push_back(item);
+        }
+        // Last, since the tree hears of each change of an item in it.
         if (node.parent == nullptr) {
             addTopLevelItem(item);
         } else {
             m_byNode.at(node.parent)->addChild(item);
         }
-        m_byNode[&node] = item;
-        m_byItem[item] = m_items.size();
-        m_items.push_back(item);
-        m_isExpanded.push_back(false);
-        m_withoutPicture.push_back(item);
     }
 
     /// Gives an item its picture, unless that has not come yet.
@@ -145,7 +149,7 @@ private:
         if (m_tree.images() == nullptr || !m_tree.images()->contains(key)) {
             return false;
         }
-        item->setIcon(0, QPixmap::fromImage(toImage(m_tree.images()->picture(key))));
+        item->setIcon(0, pictureIcon(*m_tree.images(), key));
         return true;
     }
 
