@@ -1,9 +1,12 @@
 #include "explainShip.h"
 
 #include "ShipClass.h"
+#include "arcWords.h"
 #include "designWords.h"
+#include "text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace fleetwright {
 
@@ -37,6 +40,50 @@ void appendSystems(std::vector<Explanation::Term>& terms, const std::vector<Weap
     }
 }
 
+/// Whether a formula in small letters names this value of the ship.
+bool isNamedIn(std::string_view formula, std::string_view value) {
+    const auto endsWord = [formula](std::size_t at) {
+        return at >= formula.size() ||
+               std::string_view("abcdefghijklmnopqrstuvwxyz").find(formula[at]) ==
+                   std::string_view::npos;
+    };
+    std::size_t at = formula.find(value);
+    while (at != std::string_view::npos && !(endsWord(at - 1) && endsWord(at + value.size()))) {
+        at = formula.find(value, at + 1);
+    }
+    return at != std::string_view::npos;
+}
+
+/// A code as a formula has it, with its word.
+std::string codeText(std::int32_t code, const std::string& line) {
+    return std::to_string(code) + (line.empty() ? "" : " (" + wordOf(line) + ')');
+}
+
+/// Which of the values that formulas can name decide what a system takes, and what they are here.
+std::string describeValues(const ShipClass& ship, const std::string& formulas,
+                           std::int32_t amount) {
+    const HullDesign& hull = ship.hullDesign();
+    const std::pair<std::string_view, std::string> values[] = {
+        {"mass", std::to_string(hull.mass)},
+        {"hull", codeText(hull.hullType, hullLine(hull.hullType))},
+        {"ftl", codeText(hull.ftl, ftlLine(hull.ftl))},
+        {"thrust", std::to_string(hull.thrust)},
+        {"hullcost", std::to_string(ship.hullFigures().hullCost)}};
+    std::string named;
+    const auto add = [&](std::string_view value, const std::string& here) {
+        if (isNamedIn(formulas, value)) {
+            named += (named.empty() ? ": " : ", ") + std::string(value) + " = " + here;
+        }
+    };
+    for (const auto& [value, here] : values) {
+        add(value, here);
+    }
+    const std::string which =
+        named.empty() ? "The same on every hull" : "For a " + describeHull(hull);
+    add("amount", std::to_string(amount));
+    return which + named;
+}
+
 std::string textLine(std::int64_t value, const std::string& text) {
     constexpr std::size_t width = 8;
     const std::string number = std::to_string(value);
@@ -60,13 +107,24 @@ std::string describeSystem(ShipClass& ship, std::string_view name, std::int32_t 
     }
     WeapRec record;
     ship.listWeap(index, record);
-    const std::string pieces = std::to_string(amount) + " x " + std::string(name);
-    return pieces + '\n' + "Mass: " + std::to_string(ship.previewWeapMass(name, amount)) + " = " +
-           std::string(record.massform) + '\n' +
-           "Cost: " + std::to_string(ship.previewWeapCost(name, amount)) + " = " +
-           std::string(record.costform) + '\n' +
-           (ship.PaintableWeap(name) ? "Arcs: " + std::string(record.arclist)
-                                     : std::string("No place on the sheet's drawing"));
+    std::string text = std::to_string(amount) + " x " + std::string(name);
+    const auto addLine = [&text](const std::string& line) { text += '\n' + line; };
+    addLine("Mass: " + std::to_string(ship.previewWeapMass(name, amount)) + " = " +
+            std::string(record.massform));
+    addLine("Cost: " + std::to_string(ship.previewWeapCost(name, amount)) + " = " +
+            std::string(record.costform));
+    addLine(describeValues(
+        ship, toSmallLetters(std::string(record.massform) + ' ' + std::string(record.costform)),
+        amount));
+    if (!ship.PaintableWeap(name)) {
+        addLine("No place on the sheet's drawing");
+    } else if (const std::string arcs = arcWords(name, record.arclist); !arcs.empty()) {
+        addLine("Arcs: " + arcs);
+    }
+    if (const std::string_view rules = ship.rulesOf(name); !rules.empty()) {
+        addLine(std::string(rules));
+    }
+    return text;
 }
 
 std::vector<Explanation> explainShip(ShipClass& ship) {

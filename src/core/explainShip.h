@@ -24,8 +24,9 @@ struct Explanation {
 /// An explanation as lines of text: each term with its value in front, and the figure last.
 std::string textOf(const Explanation& explanation);
 
-/// What a system weighs and costs on this ship: its formulas, what they come to for so many
-/// pieces, and its arcs. Nothing for a name that the ship's catalogue does not have.
+/// What a system is on this ship: what so many pieces weigh and cost, by which formulas and which
+/// values of the ship, its arcs in words, and how it is played. Nothing for a name that the ship's
+/// catalogue does not have.
 std::string describeSystem(ShipClass& ship, std::string_view name, std::int32_t amount);
 
 /// Explains cost, damage points and mass left, in this order.

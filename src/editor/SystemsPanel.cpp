@@ -18,8 +18,12 @@ SystemsPanel::SystemsPanel(const PanelContext& context) : Panel(context) {
         lvCurrentWeapons_MouseDown(press);
     };
     lvCurrentWeapons.rowToolTip = [this](const ListView::Row& row) {
-        return describeSystem(ship(), row.key, wholeNumber(row.subItem)) +
-               "\n\nDouble-click, or press Delete, to take one away; right-click for more";
+        // A screen reader may still ask when the ship has gone.
+        return window().g_Ship == nullptr
+                   ? std::string()
+                   : describeSystem(ship(), row.key, wholeNumber(row.subItem)) +
+                         "\n\nDouble-click, or press Delete, to take one away; right-click for "
+                         "more";
     };
 }
 

@@ -16,8 +16,9 @@ TreePanel::TreePanel(const PanelContext& context, MenuEntry& mnuAddWeaps, System
     tvWeapons.onDblClick = [this] { tvWeapons_DblClick(); };
     tvWeapons.onMouseDown = [this](const MousePress& press) { tvWeapons_MouseDown(press); };
     tvWeapons.nodeToolTip = [this](const TreeView::Node& node) {
-        const std::string system =
-            node.children.empty() ? describeSystem(ship(), node.key, 1) : std::string();
+        // A screen reader may still ask when the ship has gone.
+        const bool isSystem = node.children.empty() && window().g_Ship != nullptr;
+        const std::string system = isSystem ? describeSystem(ship(), node.key, 1) : std::string();
         return system.empty()
                    ? system
                    : system + "\n\nDouble-click, press Enter or drag it to the list to fit one";

@@ -52,6 +52,8 @@ public:
         onFilesDrop = [this](const std::vector<std::string>& files) {
             log = std::accumulate(files.begin(), files.end(), log);
         };
+        tree.nodeToolTip = [](const TreeView::Node& node) { return "node\n<" + node.key; };
+        list.rowToolTip = [](const ListView::Row& row) { return "row\n<" + row.key; };
         list.addColumn("Name", 1500);
         list.addColumn("Count", 900);
         tree.add("", "ROOT");

@@ -91,6 +91,16 @@ private:
             {"show", [&] { control->setVisible(rest == "on"); }},
             {"lock", [&] { dynamic_cast<TextBox&>(*control).setLocked(rest == "on"); }},
             {"tip", [&] { control->setToolTip(rest); }},
+            {"say",
+             [&] {                               // of the first row, where there are rows
+                 QApplication::processEvents();  // lays them out
+                 auto* const told = QAccessible::queryAccessibleInterface(widget);
+                 auto* const rows = told->tableInterface();
+                 m_form.log += (rows == nullptr ? told : rows->cellAt(0, 0))
+                                   ->text(QAccessible::Description)
+                                   .replace('\n', " | ")
+                                   .toStdString();
+             }},
             {"focus", [&] { widget->setFocus(); }},
             {"click", [&] { QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(5, 5)); }},
             {"right",

@@ -1,15 +1,19 @@
 #pragma once
 
 #include "PointedControl.h"
+#include "widgetTools.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QTreeWidget>
 
 namespace fleetwright {
 
-/// What trees and lists share: how their items are selected, clicked and asked for a menu.
+/// What trees and lists share: how their items are selected, clicked, described and asked for a
+/// menu.
 class ItemWidget : public QTreeWidget {
 public:
     ItemWidget(PointedControl& control, QWidget* parent) : QTreeWidget(parent), m_control(control) {
@@ -30,6 +34,33 @@ public:
 protected:
     /// Hands it to the model that an item has become the selected one.
     virtual void takeSelected(QTreeWidgetItem* item) = 0;
+
+    /// What is to be said of an item. May be empty.
+    virtual std::string describe(QTreeWidgetItem* item) const = 0;
+
+    /// An item that a screen reader finds described as the pointer does. The description is worked
+    /// out when somebody asks: there are many items, and what is said of them changes with the
+    /// ship.
+    class Item : public QTreeWidgetItem {
+    public:
+        QVariant data(int column, int role) const override {
+            const auto* const whole = dynamic_cast<const ItemWidget*>(treeWidget());
+            return role == Qt::AccessibleDescriptionRole && whole != nullptr
+                       ? toShown(whole->describe(const_cast<Item*>(this)))
+                       : QTreeWidgetItem::data(column, role);
+        }
+    };
+
+    bool viewportEvent(QEvent* event) override {
+        if (event->type() != QEvent::ToolTip) {
+            return QTreeWidget::viewportEvent(event);
+        }
+        const auto* const help = static_cast<QHelpEvent*>(event);
+        QTreeWidgetItem* const item = itemAt(help->pos());
+        const std::string text = item == nullptr ? std::string() : describe(item);
+        QToolTip::showText(help->globalPos(), toToolTip(text.empty() ? m_control.toolTip() : text));
+        return true;
+    }
 
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) {

@@ -9,12 +9,10 @@
 
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QToolTip>
 
 #include <initializer_list>
 
@@ -49,7 +47,7 @@ public:
         QList<QTreeWidgetItem*> added;
         for (std::size_t i = 0; i < rows.size(); ++i) {
             if (i >= m_shownRows.size()) {
-                added << itemOf(rows[i], new QTreeWidgetItem);
+                added << itemOf(rows[i], new Item);
             } else if (m_shownRows[i] != rows[i]) {
                 itemOf(rows[i], topLevelItem(static_cast<int>(i)));
             }
@@ -85,17 +83,11 @@ protected:
         QTreeWidget::keyPressEvent(event);
     }
 
-    bool viewportEvent(QEvent* event) override {
-        if (event->type() == QEvent::ToolTip && m_list.rowToolTip) {
-            const auto* const help = static_cast<QHelpEvent*>(event);
-            const int row = indexOfTopLevelItem(itemAt(help->pos()));
-            const std::string text =
-                row < 0 ? m_list.toolTip()
-                        : m_list.rowToolTip(m_list.rows()[static_cast<std::size_t>(row)]);
-            QToolTip::showText(help->globalPos(), toToolTip(text));
-            return true;
-        }
-        return QTreeWidget::viewportEvent(event);
+    std::string describe(QTreeWidgetItem* item) const override {
+        const auto row = static_cast<std::size_t>(indexOfTopLevelItem(item));
+        return m_list.rowToolTip && row < m_list.rows().size()
+                   ? m_list.rowToolTip(m_list.rows()[row])
+                   : std::string();
     }
 
 private:

@@ -7,10 +7,8 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
-#include <QToolTip>
 
 #include <map>
 
@@ -94,16 +92,8 @@ protected:
         QTreeWidget::keyPressEvent(event);
     }
 
-    bool viewportEvent(QEvent* event) override {
-        if (event->type() == QEvent::ToolTip && m_tree.nodeToolTip) {
-            const auto* const help = static_cast<QHelpEvent*>(event);
-            QTreeWidgetItem* const item = itemAt(help->pos());
-            const std::string text = item == nullptr ? "" : m_tree.nodeToolTip(nodeOf(item));
-            QToolTip::showText(help->globalPos(),
-                               toToolTip(text.empty() ? m_tree.toolTip() : text));
-            return true;
-        }
-        return QTreeWidget::viewportEvent(event);
+    std::string describe(QTreeWidgetItem* item) const override {
+        return m_tree.nodeToolTip ? m_tree.nodeToolTip(nodeOf(item)) : std::string();
     }
 
 private:
@@ -126,7 +116,7 @@ private:
     }
 
     void addItem(TreeView::Node& node) {
-        auto* const item = new QTreeWidgetItem;
+        auto* const item = new Item;
         item->setText(0, toShown(node.key));
         m_byNode[&node] = item;
         m_byItem[item] = m_items.size();
@@ -153,7 +143,9 @@ private:
         return true;
     }
 
-    TreeView::Node& nodeOf(QTreeWidgetItem* item) { return m_tree.nodes()[m_byItem.at(item)]; }
+    TreeView::Node& nodeOf(QTreeWidgetItem* item) const {
+        return m_tree.nodes()[m_byItem.at(item)];
+    }
 
     /// The user has opened or closed an item.
     void takeExpanded(QTreeWidgetItem* item, bool isExpanded) {

@@ -10,7 +10,7 @@
 #include <QIcon>
 #include <QMouseEvent>
 #include <QPixmap>
-#include <QTextDocument>
+#include <QString>
 #include <QWidget>
 
 #include <algorithm>
@@ -29,11 +29,9 @@ inline QString toShown(const std::string& text) {
     return toQt(shownLines(text));
 }
 
-/// The same for a tool tip, in which Qt takes for markup whatever looks like it.
-inline QString toToolTip(const std::string& text) {
-    const QString shown = toShown(text);
-    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
-}
+/// The same for a tool tip, in which Qt takes for markup whatever looks like it and which it makes
+/// as wide as the longest line: here lines have about 60 characters at the most.
+QString toToolTip(const std::string& text);
 
 /// A face that the program carries in itself, with its picture for twice the resolution.
 inline QIcon faceOf(const std::string& picture) {
@@ -80,13 +78,15 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     if (!design.accessibleDescription.empty()) {
         widget->setAccessibleDescription(toQt(design.accessibleDescription));
     }
-    keepInStep(widget, control, [widget, &control, scale, place] {
+    auto tip = std::make_shared<std::string>();
+    keepInStep(widget, control, [widget, &control, scale, place, tip] {
         if (*place != control.place()) {
             *place = control.place();
             widget->setGeometry(scale.rect(*place));
         }
-        if (!control.askToolTip) {
-            widget->setToolTip(toToolTip(control.toolTip()));
+        if (!control.askToolTip && *tip != control.toolTip()) {
+            *tip = control.toolTip();
+            widget->setToolTip(toToolTip(*tip));
         }
         widget->setVisible(control.isVisible());
         widget->setEnabled(control.isEnabled());
