@@ -19,6 +19,12 @@ Label PreviewPanel::value(const std::string& what, int index, int left) {
 }
 
 void PreviewPanel::show(std::optional<std::size_t> row) {
+    if (!m_shownRow.empty() && !m_list.find(m_shownRow)) {
+        clear(1);  // for what has gone
+        if (row) {
+            previewRow(*row);
+        }
+    }
     if (m_tree.selected() == nullptr) {
         return;
     }
@@ -33,6 +39,9 @@ void PreviewPanel::show(std::optional<std::size_t> row) {
 void PreviewPanel::clear(std::size_t index) {
     lblWeapMass[index].setCaption("");
     lblWeapCost[index].setCaption("");
+    if (index == 1) {
+        m_shownRow.clear();
+    }
 }
 
 void PreviewPanel::tvWeapons_Click() {
@@ -60,6 +69,7 @@ void PreviewPanel::previewNode() {
 void PreviewPanel::previewRow(std::size_t row) {
     if (row < m_list.rows().size()) {
         const ListView::Row system = m_list.rows()[row];  // a copy: the row may go
+        m_shownRow = system.key;
         preview(1, system.key, wholeNumber(system.subItem));
     }
 }

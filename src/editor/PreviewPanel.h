@@ -17,7 +17,7 @@ public:
     PreviewPanel(const PanelContext& context, TreeView& tvWeapons, ListView& lvCurrentWeapons);
 
     /// Shows both; `row` is the row of the list. What cannot be previewed stays as it was, without
-    /// a word.
+    /// a word, but for a row that has gone.
     void show(std::optional<std::size_t> row);
     void clear(std::size_t index);
 
@@ -43,6 +43,7 @@ private:
 
     const TreeView& m_tree;
     const ListView& m_list;
+    std::string m_shownRow;  ///< the key of the row that the labels tell of
 };
 
 }  // namespace fleetwright

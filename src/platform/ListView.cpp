@@ -33,9 +33,9 @@ void ListView::setSubItem(std::size_t row, const std::string& subItem) {
 
 void ListView::remove(std::size_t row) {
     m_content.rows.erase(m_content.rows.begin() + static_cast<std::ptrdiff_t>(row));
-    if (m_content.selected == row) {
+    if (m_content.rows.empty()) {
         m_content.selected.reset();
-    } else if (m_content.selected && *m_content.selected > row) {
+    } else if (m_content.selected > row || m_content.selected == m_content.rows.size()) {
         --*m_content.selected;
     }
     Changed.raise();

@@ -42,7 +42,7 @@ public:
     /// Adds a row at the end.
     void add(const std::string& key, const std::string& text, const std::string& subItem);
     void setSubItem(std::size_t row, const std::string& subItem);
-    /// Removes a row. If it was the selected one, none is selected afterwards.
+    /// Removes a row. If it was the selected one, the next is selected then, or else the last.
     void remove(std::size_t row);
     void clear() { setContent({}); }
     const Content& content() const { return m_content; }

@@ -107,6 +107,8 @@ private:
         const auto selected = m_window.aboard.lvCurrentWeapons.selected();
         expect(!selected || *selected < m_window.aboard.lvCurrentWeapons.rows().size(),
                "the selected row is none");
+        expect(selected || m_window.previews.lblWeapMass[1].caption().empty(),
+               "a mass is shown of no row");
     }
 
     void lookAtMenus() {

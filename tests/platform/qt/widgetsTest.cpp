@@ -101,6 +101,14 @@ private:
                                    .replace('\n', " | ")
                                    .toStdString();
              }},
+            {"listen",
+             [&] {  // to what Qt makes the event of that a screen reader hears
+                 QObject::connect(
+                     dynamic_cast<QTreeWidget&>(*widget).selectionModel(),
+                     &QItemSelectionModel::currentChanged, [this](const QModelIndex& current) {
+                         m_form.log += "now " + current.data().toString().toStdString() + ' ';
+                     });
+             }},
             {"focus", [&] { widget->setFocus(); }},
             {"click", [&] { QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(5, 5)); }},
             {"right",

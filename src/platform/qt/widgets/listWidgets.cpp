@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace fleetwright {
@@ -40,10 +41,7 @@ public:
             showColumns();
         }
         const auto& rows = m_list.rows();
-        while (topLevelItemCount() > std::ssize(rows)) {
-            delete takeTopLevelItem(topLevelItemCount() - 1);
-        }
-        m_shownRows.resize(static_cast<std::size_t>(topLevelItemCount()));
+        removeSurplus();
         QList<QTreeWidgetItem*> added;
         for (std::size_t i = 0; i < rows.size(); ++i) {
             if (i >= m_shownRows.size()) {
@@ -91,6 +89,25 @@ protected:
     }
 
 private:
+    /// Where rows have gone, so do their items, and not the last ones: the item that is selected
+    /// then is another one, which a screen reader hears.
+    void removeSurplus() {
+        const auto& rows = m_list.rows();
+        if (m_shownRows.size() <= rows.size()) {
+            return;
+        }
+        const auto first = std::mismatch(rows.begin(), rows.end(), m_shownRows.begin(),
+                                         [](const ListView::Row& row, const ListView::Row& shown) {
+                                             return row.key == shown.key;
+                                         })
+                               .second;
+        const auto last = first + (std::ssize(m_shownRows) - std::ssize(rows));
+        for (auto row = last; row != first; --row) {
+            delete takeTopLevelItem(static_cast<int>(row - m_shownRows.begin()) - 1);
+        }
+        m_shownRows.erase(first, last);
+    }
+
     /// Writes a row into its item.
     static QTreeWidgetItem* itemOf(const ListView::Row& row, QTreeWidgetItem* item) {
         int column = 0;
