@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "CatalogueCheck.h"
+#include "ControlTexts.h"
 #include "DrawingPack.h"
 #include "Error.h"
 #include "Globals.h"
@@ -111,6 +112,7 @@ public:
                .mainWindow = [this]() -> Form& { return m_main; },
                .isMainWindowLoaded = [this] { return m_main.g_bLoaded; }}),
           m_main({.appFolder = m_appFolder,
+                  .guide = m_programFolder / "guide" / "index.html",
                   .catalogueFile = m_catalogueFile,
                   .eventLoopTurn = [] { QApplication::processEvents(); },
                   .freeFormulaLibrary = [this] { freeFormulaLibrary(); },
@@ -282,7 +284,7 @@ int runProgram(int argc, char** argv, Run run) {
     QApplication::setDesktopFileName("org.fleetwright.fleetwright");
     QApplication::setWindowIcon(QIcon(":/pictures/icon.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
-    QtDesktop desktop;
+    QtDesktop desktop(whatsThis);
     try {
         Program program(desktop, run);
         return run == Run::Whole ? program.run() : program.runUntilPainted();

@@ -22,6 +22,7 @@ struct Globals;
 /// What the main window needs of the world around it. All of it outlives the window.
 struct MainWindowServices {
     std::filesystem::path appFolder;
+    std::filesystem::path guide = {};  ///< the first page of the player's guide
     CatalogueFile catalogueFile{appFolder / "weaps.dat"};
     std::function<void()> eventLoopTurn;  ///< lets pending events run
     std::function<void()> freeFormulaLibrary;

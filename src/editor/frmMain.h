@@ -4,6 +4,7 @@
 #include "DragPanel.h"
 #include "FiguresPanel.h"
 #include "FileCommands.h"
+#include "GuidePanel.h"
 #include "HullPanel.h"
 #include "MainWindowServices.h"
 #include "MassPanel.h"
@@ -79,6 +80,7 @@ public:
                       [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); }};
+    GuidePanel guide{m_context, mnuDesign};
     FileCommands files{m_context,
                        mnuFile,
                        {.CMRUList = CMRUList,

@@ -54,6 +54,10 @@ public:
     virtual void popUp(MenuEntry& menu) = 0;
     /// Shows a form above its owner and waits until it is unloaded.
     virtual void showModal(Form& form, Form& owner) = 0;
+    /// Has the pointer ask: the next click tells what a control is instead of acting on it.
+    virtual void askWhatsThis() = 0;
+    /// Opens a document with the desktop's own program for it; false if there is none.
+    virtual bool openDocument(const std::filesystem::path& document) = 0;
     /// Unloads every form of the program that is loaded.
     virtual void unloadAllForms() = 0;
 
@@ -82,6 +86,8 @@ public:
     std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
     void popUp(MenuEntry&) override {}
     void showModal(Form&, Form&) override {}
+    void askWhatsThis() override {}
+    bool openDocument(const std::filesystem::path&) override { return false; }
     void unloadAllForms() override {}
     ScreenSize screenSize() override { return {}; }
 };

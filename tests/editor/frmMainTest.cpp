@@ -301,7 +301,7 @@ private:
 }  // namespace
 
 TEST(FrmMain, ShowsWhatIsDone) {
-    for (const char* const file : {"design", "systems", "files", "acts", "sheets"}) {
+    for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });

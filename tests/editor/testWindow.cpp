@@ -51,6 +51,11 @@ public:
         m_test.m_log += dialog.fileName.empty() ? "" : "suggested: " + dialog.fileName + "; ";
         return choose();
     }
+    void askWhatsThis() override { m_test.m_log += "what's this; "; }
+    bool openDocument(const std::filesystem::path& document) override {
+        m_test.m_log += "document: " + document.filename().string() + "; ";
+        return m_test.hasTrash;  // a desktop without the one has no browser, either
+    }
     void unloadAllForms() override {
         m_test.m_log += "unload all; ";
         raise(m_test.atEnd);
@@ -204,6 +209,7 @@ TestWindow::TestWindow(std::string_view catalogue)
     m_folder.write("weaps.dat", catalogue);
     m_window = std::make_unique<frmMain>(
         MainWindowServices{.appFolder = m_folder.path(),
+                           .guide = m_folder.path() / "guide" / "index.html",
                            .eventLoopTurn =
                                [this] {
                                    takeTurn();

@@ -62,13 +62,14 @@ bool isAwaitingDesktop = false;
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, QWidget* owner)
+FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis)
     : QMainWindow(owner), m_form(form), m_scale(form.place().width, form.place().height),
-      m_inside(new Inside(form, this)) {
+      m_inside(new Inside(form, this)), m_whatsThis(std::move(whatsThis)) {
     setObjectName(toQt(form.name()));
     setFrame(owner);
     m_inside->resize(formSize());
     addControls(form, m_inside);
+    explainMenus(*this, form, m_whatsThis);
     setCentralWidget(new View(m_inside, this));
     const QSize size = fitting(m_inside->size());
     if (form.border() == Border::Sizable) {
@@ -129,6 +130,9 @@ QWidget* FormWindow::addControl(Control& control, QWidget* parent) {
         return nullptr;
     }
     QWidget* const widget = makeWidget(control, parent, m_scale, *this);
+    if (widget != nullptr) {
+        explainWidget(widget, control, m_whatsThis);
+    }
     if (auto* const frame = dynamic_cast<Frame*>(&control)) {
         addControls(*frame, widget);
     }
@@ -305,6 +309,10 @@ void FormWindow::changeEvent(QEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::WhatsThis)) {
+        explainFocused();
+        return;
+    }
     m_form.pressKey();
     QMainWindow::keyPressEvent(event);
 }

@@ -2,6 +2,7 @@
 
 #include "Scale.h"
 #include "Signal.h"
+#include "whatsThis.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -19,7 +20,8 @@ class Timer;
 /// keeps both in step, and hands what the user does to the models. It knows no form by name.
 class FormWindow : public QMainWindow {
 public:
-    explicit FormWindow(Form& form, QWidget* owner = nullptr);
+    /// `whatsThis` tells of the controls: their widgets show it when they are asked.
+    explicit FormWindow(Form& form, QWidget* owner = nullptr, WhatsThisText whatsThis = {});
 
 protected:
     bool event(QEvent* event) override;
@@ -53,6 +55,7 @@ private:
     Form& m_form;
     Scale m_scale;
     QWidget* m_inside;
+    WhatsThisText m_whatsThis;
     std::vector<Connection> m_connections;
     /// Where the form was last known to be, in twips.
     QPoint m_formPlace;

@@ -9,12 +9,15 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTreeView>
+#include <QUrl>
+#include <QWhatsThis>
 
 #include <algorithm>
 
@@ -99,17 +102,17 @@ bool mayReplace(const QString& chosen, const QString& extension) {
 
 }  // namespace
 
-QtDesktop::QtDesktop() = default;
+QtDesktop::QtDesktop(WhatsThisText whatsThis) : m_whatsThis(std::move(whatsThis)) {}
 
 QtDesktop::~QtDesktop() = default;
 
 void QtDesktop::present(Form& form) {
     Presented& presented = m_presented[&form];
-    const auto makeWhenShown = [&presented, &form] {
+    const auto makeWhenShown = [this, &presented, &form] {
         // A window that comes moves its form, which asks for a window again.
         if (form.isVisible() && !presented.isMade) {
             presented.isMade = true;
-            presented.window = std::make_unique<FormWindow>(form);
+            presented.window = std::make_unique<FormWindow>(form, nullptr, m_whatsThis);
         }
     };
     makeWhenShown();
@@ -199,7 +202,8 @@ void QtDesktop::popUp(MenuEntry& menu) {
 void QtDesktop::showModal(Form& form, Form& owner) {
     const auto presented = m_presented.find(&owner);
     FormWindow window(form,
-                      presented == m_presented.end() ? nullptr : presented->second.window.get());
+                      presented == m_presented.end() ? nullptr : presented->second.window.get(),
+                      m_whatsThis);
     QEventLoop loop;
     const Connection ended = form.Changed.connect([&] {
         if (!form.isVisible()) {
@@ -212,6 +216,14 @@ void QtDesktop::showModal(Form& form, Form& owner) {
         loop.exec();
     }
     std::erase(m_dialogs, &form);
+}
+
+void QtDesktop::askWhatsThis() {
+    QWhatsThis::enterWhatsThisMode();
+}
+
+bool QtDesktop::openDocument(const std::filesystem::path& document) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(document.string())));
 }
 
 void QtDesktop::unloadAllForms() {

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Signal.h"
+#include "whatsThis.h"
 
 #include <map>
 #include <memory>
@@ -17,7 +18,8 @@ class FormWindow;
 /// The desktop of the running Qt application.
 class QtDesktop : public Desktop {
 public:
-    QtDesktop();
+    /// What is told of the controls of all windows.
+    explicit QtDesktop(WhatsThisText whatsThis = {});
     QtDesktop(const QtDesktop&) = delete;
     QtDesktop& operator=(const QtDesktop&) = delete;
     ~QtDesktop() override;
@@ -34,12 +36,15 @@ public:
     std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override;
     void popUp(MenuEntry& menu) override;
     void showModal(Form& form, Form& owner) override;
+    void askWhatsThis() override;
+    bool openDocument(const std::filesystem::path& document) override;
     void unloadAllForms() override;
     ScreenSize screenSize() override;
 
 private:
     const QWidget* windowWith(const Control& control) const;
 
+    WhatsThisText m_whatsThis;
     struct Presented {
         Connection changed;
         bool isMade = false;

@@ -26,6 +26,9 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
     action->setObjectName(toQt(entry.name()));
     if (!entry.design().shortcut.empty()) {
         action->setShortcut(QKeySequence(toQt(entry.design().shortcut)));
+        if (action->shortcut() == QKeySequence(QKeySequence::WhatsThis)) {
+            action->setShortcutContext(Qt::WidgetShortcut);  // each window answers this key itself
+        }
     }
     keepInStep(menu, entry, [action, &entry] {
         action->setText(entry.design().isVerbatim
