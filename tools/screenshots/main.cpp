@@ -17,6 +17,7 @@
 #include "frmPutAside.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
+#include "guidePictures.h"
 #include "paths.h"
 #include "saveFile.h"
 #include "sheetPages.h"
@@ -197,6 +198,9 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     };
     form.setVisible(true);
     take("main-new");
+    buildFirstShip(form, appFolder / "first");
+    take("first-ship");
+    drawSheets(appFolder, appFolder / "first", output / "guide");
     showShip(form, data / "ships" / "Provost.shp", "Pulse Cannon III (FPS)");
     take("main");
     form.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
