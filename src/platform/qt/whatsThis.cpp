@@ -7,11 +7,18 @@
 #include <QApplication>
 #include <QHash>
 #include <QMenu>
+#include <QTextDocument>
 #include <QWhatsThis>
 
 namespace fleetwright {
 
 namespace {
+
+/// A text as the window of "What's This?" takes it, which breaks lines itself.
+QString toHelp(const std::string& text) {
+    const QString shown = toShown(text);
+    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
+}
 
 /// The actions of menus by the names of their entries.
 using Actions = QHash<QString, QAction*>;
@@ -34,7 +41,7 @@ void explainEntries(const Actions& actions, const Container& menu, const WhatsTh
             continue;
         }
         if (QAction* const action = actions.value(toQt(entry->name()))) {
-            action->setWhatsThis(toToolTip(textOf(*entry)));
+            action->setWhatsThis(toHelp(textOf(*entry)));
         }
         explainEntries(actions, *entry, textOf);
     }
@@ -47,7 +54,7 @@ void explainWidget(QWidget* widget, Control& control, const WhatsThisText& textO
     if (text.empty()) {
         return;
     }
-    widget->setWhatsThis(toToolTip(text));
+    widget->setWhatsThis(toHelp(text));
     if (control.design().accessibleDescription.empty() && !control.askToolTip) {
         keepInStep(widget, control, [widget, &control, description = toQt(text)] {
             // A tool tip is what screen readers say else.
