@@ -27,13 +27,25 @@ std::string navigation(const std::vector<GuidePage>& pages, const GuidePage& cur
     return list + "</ul>\n</nav>\n";
 }
 
+/// Links to the pages before and behind the one at hand.
+std::string neighbors(const std::vector<GuidePage>& pages, const GuidePage& current) {
+    const auto place = static_cast<std::size_t>(&current - pages.data());
+    const auto link = [](const char* way, const GuidePage& page) {
+        return std::string("<a rel=\"") + way + "\" href=\"" + page.htmlName() + "\">" +
+               page.title() + "</a>\n";
+    };
+    return "<footer>\n" + (place > 0 ? link("prev", pages[place - 1]) : "") +
+           (place + 1 < pages.size() ? link("next", pages[place + 1]) : "") + "</footer>\n";
+}
+
 std::string pageFile(const std::vector<GuidePage>& pages, GuidePage& page) {
     const std::string title =
         page.title() + (&page == &pages.front() ? "" : " - " + pages.front().title());
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
            title + "</title>\n<link rel=\"stylesheet\" href=\"guide.css\">\n</head>\n<body>\n" +
-           navigation(pages, page) + "<main>\n" + page.html(pages) + "</main>\n</body>\n</html>\n";
+           navigation(pages, page) + "<main>\n" + page.html(pages) + neighbors(pages, page) +
+           "</main>\n</body>\n</html>\n";
 }
 
 void makePages(const fs::path& source, const fs::path& output) {
