@@ -61,7 +61,8 @@ public:
                        {.name = "tvWeapons",
                         .place = {6825, 1365, 3900, 6000},
                         .toolTip = "The catalogue. Double-click a system, press Enter or drag it "
-                                   "to the list to fit one; right-click for more",
+                                   "to the list to fit one; right-click for more. Type words of a "
+                                   "name, or press Ctrl+F, to find a system",
                         .accessibleName = "Catalogue of systems"},
                        &ilWeapons};
 

@@ -106,6 +106,7 @@ void frmMain::RefreshScreen() {
     names.show();
     hull.show();
     previews.show(row);
+    find.show();
 }
 
 void frmMain::goBackTo(const ShipState& state) {

@@ -4,6 +4,7 @@
 #include "DragPanel.h"
 #include "FiguresPanel.h"
 #include "FileCommands.h"
+#include "FindPanel.h"
 #include "GuidePanel.h"
 #include "HullPanel.h"
 #include "MainWindowServices.h"
@@ -76,6 +77,7 @@ public:
     TrayPanel tray{m_context, mnuTaskBarFunctions};
     Timer tmrRefreshScreen{*this, "tmrRefreshScreen", 15000, true,
                            [this] { tmrRefreshScreen_Timer(); }};
+    FindPanel find{m_context, mnuDesign, tree.tvWeapons, sbStatus};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,

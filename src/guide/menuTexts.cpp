@@ -81,6 +81,10 @@ ControlRows designMenuTexts() {
     static constexpr std::array rows = {
         ControlText{"mnuDesign", "Design",
                     "What else can be done with the design at hand, and help with it."},
+        ControlText{"mnuFind", "Find System...",
+                    "Finds a system by words of its name, or by the letters that they begin with, "
+                    "as in \"pulse iii fps\". Typing in the catalogue does the same. Down, Up and "
+                    "F3 go on, Enter fits what is shown, Escape goes back."},
         ControlText{"mnuSheetPreview", "Sheet Preview...",
                     "Shows the pages of the ship's sheet as they would be printed, on the map that "
                     "fits it best."},

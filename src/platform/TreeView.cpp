@@ -36,6 +36,65 @@ void TreeView::setExpanded(Node& node, bool isExpanded) {
     }
 }
 
+void TreeView::openWayTo(const Node& node) {
+    for (Node* above = node.parent; above != nullptr; above = above->parent) {
+        setExpanded(*above, true);
+    }
+}
+
+TreeView::View TreeView::view() {
+    View view{.selected = m_selected, .top = askTop ? askTop() : nullptr};
+    for (Node& node : m_nodes) {
+        if (node.isExpanded) {
+            view.expanded.push_back(&node);
+        }
+    }
+    return view;
+}
+
+void TreeView::setView(const View& view) {
+    for (Node& node : m_nodes) {
+        node.isExpanded = false;
+    }
+    for (Node* const node : view.expanded) {
+        node->isExpanded = true;
+    }
+    m_selected = view.selected;
+    Changed.raise();
+    if (view.top != nullptr) {
+        TopWanted.raise(*view.top);
+    } else if (m_selected != nullptr) {
+        SightWanted.raise(*m_selected);
+    }
+}
+
+bool TreeView::pressKey(const std::string& key) {
+    if (!takesActs()) {
+        return false;
+    }
+    if (onKeyPress && onKeyPress(key)) {
+        return true;
+    }
+    if (key == "Enter") {
+        pressEnter();
+    }
+    return key == "Enter";
+}
+
+void TreeView::pressEnter() {
+    bool isInSight = true;
+    for (const Node* below = m_selected; below != nullptr && below->parent != nullptr;
+         below = below->parent) {
+        isInSight = isInSight && below->parent->isExpanded;
+    }
+    if (isInSight && (m_selected == nullptr || !askInSight || askInSight(*m_selected))) {
+        doubleClick();
+    } else {
+        openWayTo(*m_selected);
+        SightWanted.raise(*m_selected);
+    }
+}
+
 void TreeView::select(const Node& node) {
     if (takesActs() && m_selected != &node) {
         m_selected = &node;

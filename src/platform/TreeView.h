@@ -36,6 +36,8 @@ public:
     Node* find(std::string_view key);
 
     void setExpanded(Node& node, bool isExpanded);
+    /// Opens all that the node stands below.
+    void openWayTo(const Node& node);
 
     /// The selected node, if there is one.
     const Node* selected() const { return m_selected; }
@@ -43,10 +45,38 @@ public:
     /// The user has selected this node.
     void select(const Node& node);
 
+    /// What a user has before him.
+    struct View {
+        const Node* selected = nullptr;
+        std::vector<Node*> expanded = {};
+        const Node* top = nullptr;  ///< what stands in the uppermost line; null if nobody draws it
+    };
+    View view();
+    void setView(const View& view);
+
+    /// The user has pressed a key: a character, or a key of this name ("Shift+F3"). Enter is a
+    /// double-click, but a node that is out of sight is only brought into view. Whether that or the
+    /// form has dealt with it, so that nobody else does.
+    bool pressKey(const std::string& key);
+    /// The keyboard's focus has gone elsewhere.
+    void loseFocus() { raise(onLostFocus); }
+
+    std::function<bool(const std::string& key)> onKeyPress;
+    Handler onLostFocus;
+
+    /// For whoever draws it, who also sets the questions: a node is to be scrolled into view, or to
+    /// the uppermost line.
+    Signal<const Node&> SightWanted;
+    Signal<const Node&> TopWanted;
+    std::function<bool(const Node&)> askInSight;
+    std::function<const Node*()> askTop;
+
     /// What is to be said of a node that the pointer rests on. May be empty.
     std::function<std::string(const Node&)> nodeToolTip;
 
 private:
+    void pressEnter();
+
     std::deque<Node> m_nodes;  // whose places stay as it grows
     std::map<std::string, Node*, std::less<>> m_byKey;
     const Node* m_selected = nullptr;

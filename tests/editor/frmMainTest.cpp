@@ -271,10 +271,15 @@ private:
             {"drop another", [&] { control.drop(m_window.figures.txtCost); }},
             {"enter", [&] { m_says += box->pressKey(EnterKey) ? "taken; " : ""; }},
             {"key", [&] { m_says += box->pressKey('x') ? "taken; " : ""; }},
-            {"leave", [&] { box->loseFocus(); }},
+            {"leave",
+             [&] { box != nullptr ? box->loseFocus() : m_window.tree.tvWeapons.loseFocus(); }},
         };
         if (const auto known = acts.find(how); known != acts.end()) {
             known->second();
+        } else if (how.starts_with("key ") && box == nullptr) {
+            TreeView& tree = m_window.tree.tvWeapons;
+            m_says += tree.pressKey(how.substr(4)) ? "" : "not taken; ";
+            m_says += (tree.selected() == nullptr ? "" : tree.selected()->key) + "; ";
         } else if (box != nullptr) {
             box->type(how);
         } else if (list != nullptr && how == "tip") {
@@ -301,7 +306,7 @@ private:
 }  // namespace
 
 TEST(FrmMain, ShowsWhatIsDone) {
-    for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide"}) {
+    for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide", "find"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });

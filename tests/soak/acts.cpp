@@ -15,6 +15,10 @@ namespace {
 const std::vector<std::string> texts = {"",      "-1",        "7 guns", "99999999999", "Ship, one",
                                         "a: \"", "\xC3\x9C ", "Ship",   "ship.gif",    "x\t#"};
 
+/// What is pressed in a tree.
+const std::vector<std::string> keys = {"g",  "n",  "s",        " ",   "Backspace", "Down",
+                                       "Up", "F3", "Shift+F3", "Esc", "Enter"};
+
 template <typename Kind>
 Act on(const std::string& name, int weight, const std::function<void(Actor&, Kind&)>& perform) {
     return {name, weight,
@@ -115,6 +119,8 @@ const std::vector<Act> acts = {
     on<TreeView>("right-click", 8,
                  [](auto&, auto& tree) { tree.pressMouse({.button = RightButton}); }),
     on<TreeView>("double-click", 16, [](auto&, auto& tree) { tree.doubleClick(); }),
+    on<TreeView>("key", 16, [](auto& me, auto& tree) { tree.pressKey(me.choices.pick(keys)); }),
+    on<TreeView>("go on", 2, [](auto&, auto& tree) { tree.loseFocus(); }),
     on<TreeView>("drag", 8, dragNode),
     on<TreeView>("select", 16, selectNode),
     on<ListView>("double-click", 16, [](auto&, auto& list) { list.doubleClick(); }),

@@ -52,6 +52,10 @@ public:
         onFilesDrop = [this](const std::vector<std::string>& files) {
             log = std::accumulate(files.begin(), files.end(), log);
         };
+        tree.onKeyPress = [this](const std::string& key) {
+            log += key + ' ';
+            return key == "Ü";
+        };
         tree.nodeToolTip = [](const TreeView::Node& node) { return "node\n<" + node.key; };
         list.rowToolTip = [](const ListView::Row& row) { return "row\n<" + row.key; };
         list.addColumn("Name", 1500);

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWindow>
@@ -95,4 +96,40 @@ TEST_F(FormWindowTest, ARowChosenByTheRightButtonCountsAsClicked) {
     EXPECT_EQ(takeLog(), "row ");
     QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {},
                         rows->mapTo(&window, QPoint(5, 5)));
+}
+
+TEST_F(FormWindowTest, EnterActsOnWhatIsInSightAndATreeCanBeHadBackAsItWas) {
+    auto* const tree = find<QTreeWidget>("tree");
+    const auto pressEnter = [&] {
+        takeLog();
+        QTest::keyClick(tree, Qt::Key_Return);
+        return takeLog();
+    };
+    for (int i = 0; i < 40; ++i) {
+        form.tree.add("ROOT", "n" + std::to_string(i));
+    }
+    form.tree.setExpanded(*form.tree.find("ROOT"), true);
+    form.tree.select(*form.tree.find("n20"));
+    const TreeView::Node* const top = form.tree.view().top;
+    ASSERT_TRUE(top != nullptr && top->key.starts_with('n'));
+    for (const int place : {0, tree->verticalScrollBar()->maximum()}) {
+        tree->verticalScrollBar()->setValue(place);
+        EXPECT_EQ(pressEnter(), "Enter ") << place;
+        EXPECT_EQ(pressEnter(), "Enter fit n20 ");
+    }
+    form.tree.setExpanded(*form.tree.find("ROOT"), false);
+    EXPECT_EQ(pressEnter(), "Enter ");
+    EXPECT_EQ(pressEnter(), "Enter fit n20 ");
+
+    tree->verticalScrollBar()->setValue(3);
+    const TreeView::View before = form.tree.view();
+    form.tree.select(*form.tree.find("ROOT"));
+    form.tree.setExpanded(*form.tree.find("ROOT"), false);
+    form.tree.setView(before);
+    EXPECT_EQ(tree->currentItem()->text(0), "n20");
+    EXPECT_EQ(form.tree.view().top, before.top);
+    EXPECT_EQ(before.top->key, "n1");
+    form.tree.setView({});
+    EXPECT_EQ(tree->currentItem(), nullptr);
+    EXPECT_FALSE(tree->topLevelItem(0)->isExpanded());
 }

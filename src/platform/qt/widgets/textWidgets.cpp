@@ -11,7 +11,6 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -145,12 +144,7 @@ bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale)
         box.doubleClick();
         return false;
     case QEvent::FocusOut:
-        switch (static_cast<QFocusEvent&>(event).reason()) {
-        case Qt::ActiveWindowFocusReason:
-        case Qt::PopupFocusReason:
-        case Qt::MenuBarFocusReason:
-            break;  // it comes back by itself
-        default:
+        if (isLost(static_cast<QFocusEvent&>(event))) {
             box.loseFocus();
         }
         return false;

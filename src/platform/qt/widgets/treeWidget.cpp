@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QKeySequence>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <map>
@@ -29,6 +31,19 @@ public:
                 [this](QTreeWidgetItem* item) { takeExpanded(item, true); });
         connect(this, &QTreeWidget::itemCollapsed,
                 [this](QTreeWidgetItem* item) { takeExpanded(item, false); });
+        keepAttached(this, tree.SightWanted.connect([this](const TreeView::Node& node) {
+            scrollToItem(m_byNode.at(&node));
+        }));
+        keepAttached(this, tree.TopWanted.connect([this](const TreeView::Node& node) {
+            scrollToItem(m_byNode.at(&node), PositionAtTop);
+        }));
+        tree.askInSight = [self = QPointer(this)](const TreeView::Node& node) {
+            return self == nullptr || self->isInSight(node);
+        };
+        tree.askTop = [self = QPointer(this)] {
+            QTreeWidgetItem* const item = self == nullptr ? nullptr : self->itemAt(0, 0);
+            return item == nullptr ? nullptr : &self->nodeOf(item);
+        };
     }
 
     /// Brings the items to what the nodes are.
@@ -47,9 +62,7 @@ public:
                 m_items[i]->setExpanded(isExpanded);
             }
         }
-        if (m_tree.selected() != nullptr) {
-            setCurrentItem(m_byNode.at(m_tree.selected()));
-        }
+        setCurrentItem(m_tree.selected() == nullptr ? nullptr : m_byNode.at(m_tree.selected()));
     }
 
 protected:
@@ -85,11 +98,19 @@ protected:
     }
 
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-            m_tree.doubleClick();
-            return;
+        if (!m_tree.pressKey(nameOf(*event))) {
+            QTreeWidget::keyPressEvent(event);
         }
-        QTreeWidget::keyPressEvent(event);
+    }
+
+    /// What is typed is the form's.
+    void keyboardSearch(const QString& /*typed*/) override {}
+
+    void focusOutEvent(QFocusEvent* event) override {
+        QTreeWidget::focusOutEvent(event);
+        if (isLost(*event)) {
+            m_tree.loseFocus();
+        }
     }
 
     std::string describe(QTreeWidgetItem* item) const override {
@@ -97,6 +118,28 @@ protected:
     }
 
 private:
+    /// What a key types, or its name.
+    static std::string nameOf(const QKeyEvent& event) {
+        if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+            return "Enter";
+        }
+        const Qt::KeyboardModifiers modifiers =
+            event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+        const QString typed = event.text();
+        const bool isCommand = modifiers == Qt::ControlModifier || modifiers == Qt::AltModifier;
+        if (!typed.isEmpty() && typed.front().isPrint() && !isCommand) {
+            return typed.toStdString();
+        }
+        return QKeySequence(QKeyCombination(modifiers, Qt::Key(event.key())))
+            .toString()
+            .toStdString();
+    }
+
+    bool isInSight(const TreeView::Node& node) const {
+        const QPoint middle = visualItemRect(m_byNode.at(&node)).center();
+        return middle.y() >= 0 && middle.y() < viewport()->height();
+    }
+
     /// A move with a button down, which may drag.
     void takeMove(const MousePress& move) {
         if (QApplication::mouseButtons() == Qt::NoButton) {

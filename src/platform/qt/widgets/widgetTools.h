@@ -7,6 +7,7 @@
 #include "qtImage.h"
 #include "text.h"
 
+#include <QFocusEvent>
 #include <QIcon>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -102,6 +103,12 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     }
     keepAttached(widget,
                  control.FocusWanted.connect([widget] { widget->setFocus(Qt::OtherFocusReason); }));
+}
+
+/// Whether the keyboard's focus has gone for good, and does not come back by itself.
+inline bool isLost(const QFocusEvent& focusOut) {
+    return focusOut.reason() != Qt::ActiveWindowFocusReason &&
+           focusOut.reason() != Qt::PopupFocusReason && focusOut.reason() != Qt::MenuBarFocusReason;
 }
 
 /// Makes room for a text that is too long for its control's place: first to the right, as far as
