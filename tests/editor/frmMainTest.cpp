@@ -306,7 +306,8 @@ private:
 }  // namespace
 
 TEST(FrmMain, ShowsWhatIsDone) {
-    for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide", "find"}) {
+    for (const char* const file :
+         {"design", "systems", "files", "acts", "sheets", "guide", "find"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });
