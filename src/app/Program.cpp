@@ -6,7 +6,6 @@
 #include "Error.h"
 #include "Globals.h"
 #include "PictureCache.h"
-#include "PictureCheck.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
 #include "QtPagePrinter.h"
@@ -20,6 +19,7 @@
 #include "RecoveryFolder.h"
 #include "SheetOutput.h"
 #include "applicationFolder.h"
+#include "checkPicturesAtStart.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
@@ -54,6 +54,15 @@ std::string currentTime() {
     return QDateTime::currentDateTime().toString("yyyy-MM-dd HH.mm.ss").toStdString();
 }
 
+/// Where a start notes that all pictures are well; a user without a home has no such place.
+std::filesystem::path pictureMemory() {
+    try {
+        return userCacheFolder() / "pictures";
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
 /// What keeps the catalogue in an application folder from being used, and its pictures where they
 /// are given, as one text to show: a line for each fault, up to ten. Empty if nothing does. A
 /// catalogue that cannot be read at all has no faults: the main window has messages of its own for
@@ -65,9 +74,9 @@ std::string catalogueFaults(const CatalogueFile& file, PictureFiles* pictures = 
         const std::shared_ptr<const CatalogueText> catalogue = file.read();
         faults = checkCatalogue(*catalogue, CatalogueCheck::Start);
         if (pictures != nullptr) {
-            PictureCheck check(file.path().parent_path() / "images", *pictures,
-                               PictureCheck::Start);
-            for (Fault& fault : check.checkCatalogue(*catalogue)) {
+            for (Fault& fault :
+                 checkPicturesAtStart(*catalogue, file.path().parent_path() / "images", *pictures,
+                                      pictureMemory())) {
                 faults.push_back(std::move(fault));
             }
         }
@@ -253,7 +262,7 @@ private:
     QtClock m_clock;
     QtSounds m_sounds;
     QtPictureFiles m_pictureFiles;
-    PictureCache m_pictures{m_pictureFiles};  // the start looks at each picture twice
+    PictureCache m_pictures{m_pictureFiles};  // sheets look at the same again and again
     QtPrograms m_programs;
     DrawingPack m_drawings{drawingsFile(m_appFolder)};
     QtPrinter m_printer;

@@ -31,9 +31,12 @@ int openPlain(const fs::path& file, OpenFile::Use use) {
     return open(file.c_str(), how | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
 }
 
-bool isPlain(int descriptor) {
+/// Whether it is a plain file, and how large.
+bool isPlain(int descriptor, std::uintmax_t& size) {
     struct stat status {};
-    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    const bool isKnown = fstat(descriptor, &status) == 0;
+    size = isKnown ? static_cast<std::uintmax_t>(status.st_size) : 0;
+    return isKnown && S_ISREG(status.st_mode);
 }
 
 auto readSome(int descriptor, char* bytes, std::size_t most) {
@@ -58,13 +61,6 @@ bool changeMode(int descriptor, fs::perms mode) {
 
 }  // namespace
 
-std::uintmax_t OpenFile::size() const {
-    struct stat status {};
-    return isOpen() && fstat(m_descriptor, &status) == 0
-               ? static_cast<std::uintmax_t>(status.st_size)
-               : 0;
-}
-
 #else
 
 namespace {
@@ -76,7 +72,8 @@ int openPlain(const fs::path& file, OpenFile::Use use) {
     return _wopen(file.c_str(), how | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
 }
 
-bool isPlain(int) {
+bool isPlain(int descriptor, std::uintmax_t& size) {
+    size = static_cast<std::uintmax_t>(std::max(_filelengthi64(descriptor), 0LL));
     return true;
 }
 
@@ -106,10 +103,6 @@ bool changeMode(int, fs::perms) {
 
 }  // namespace
 
-std::uintmax_t OpenFile::size() const {
-    return static_cast<std::uintmax_t>(std::max(_filelengthi64(m_descriptor), 0LL));
-}
-
 #endif
 
 OpenFile::OpenFile(fs::path file, Use use, std::error_code& error) : m_path(std::move(file)) {
@@ -125,7 +118,7 @@ OpenFile::OpenFile(fs::path file, Use use, std::error_code& error) : m_path(std:
     m_descriptor = openPlain(m_path, use);
     error = errorUnless(isOpen());
     // What has just been made is a plain file.
-    if (!error && use != Use::Create && !isPlain(m_descriptor)) {
+    if (!error && use != Use::Create && !isPlain(m_descriptor, m_size)) {
         // Another one has been put there meanwhile.
         error = whyNoFile(fs::file_status(fs::file_type::unknown));
     }

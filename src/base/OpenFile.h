@@ -29,8 +29,8 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     /// The system's number for it, for calls that are not made here.
     int descriptor() const { return m_descriptor; }
-    /// Its bytes as the system counts them just now; 0 if it cannot tell.
-    std::uintmax_t size() const;
+    /// Its bytes when it was opened to be read or written; 0 if the system could not tell.
+    std::uintmax_t size() const { return m_size; }
 
     /// Reads on, at most so many bytes; how many have come. None, without an error: that was all.
     std::size_t read(char* bytes, std::size_t most, std::error_code& error);
@@ -50,6 +50,7 @@ public:
 private:
     std::filesystem::path m_path;
     int m_descriptor = -1;
+    std::uintmax_t m_size = 0;
 };
 
 }  // namespace fleetwright

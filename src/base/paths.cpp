@@ -105,6 +105,14 @@ fs::path homeFolder() {
     return home;
 }
 
+/// The program's folder in one that a variable of the desktop names, or else in one below the
+/// user's home.
+fs::path userFolder(const char* name, const char* belowHome) {
+    const fs::path folder = variable(name);
+    // The desktop's rule: a relative path there counts for nothing.
+    return (folder.is_absolute() ? folder : homeFolder() / belowHome) / "FleetWright";
+}
+
 }  // namespace
 
 std::string pathText(const fs::path& path) {
@@ -181,7 +189,13 @@ fs::path fileBelow(const fs::path& folder, std::string_view name) {
     const fs::path below = nativePath(text);
     const auto parts = std::distance(below.begin(), below.end());
     if (!leadsOut(text, below)) {
-        fs::path file = findFile(folder / below);
+        fs::path file = folder / below;
+        // Most names are those of plain files in the folder itself, for which one look is enough.
+        std::error_code unknown;
+        if (parts == 1 && fs::is_regular_file(fs::symlink_status(file, unknown))) {
+            return file;
+        }
+        file = findFile(file);
         if (!isLinkedOut(file, parts)) {
             return file;
         }
@@ -191,10 +205,11 @@ fs::path fileBelow(const fs::path& folder, std::string_view name) {
 }
 
 fs::path userDataFolder() {
-    constexpr const char* ours = "FleetWright";
-    const fs::path dataHome = variable("XDG_DATA_HOME");
-    // The desktop's rule: a relative path there counts for nothing.
-    return dataHome.is_absolute() ? dataHome / ours : homeFolder() / ".local" / "share" / ours;
+    return userFolder("XDG_DATA_HOME", ".local/share");
+}
+
+fs::path userCacheFolder() {
+    return userFolder("XDG_CACHE_HOME", ".cache");
 }
 
 std::string fileNameOf(const std::string& name) {

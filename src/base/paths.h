@@ -49,7 +49,10 @@ std::filesystem::path fileBelow(const std::filesystem::path& folder, std::string
 /// Throws FileError if the user has no home.
 std::filesystem::path userDataFolder();
 
-/// The folder in there for what is put aside, so that it is not lost. Throws as above.
+/// The same for what the program can work out again: below $XDG_CACHE_HOME or else "~/.cache".
+std::filesystem::path userCacheFolder();
+
+/// The folder in the user's data for what is put aside, so that it is not lost. Throws as above.
 std::filesystem::path putAsideFolder();
 
 /// The folder of the running program. `argv0`, the name that it was called by, serves where the

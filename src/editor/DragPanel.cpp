@@ -15,7 +15,7 @@ void DragPanel::tvWeapons_MouseMove(const MousePress& press) {
         return;
     }
     const Place& tree = m_tree.tvWeapons.place();
-    imgDrag.setPicture(m_tree.ilWeapons.picture(system->key));
+    imgDrag.setPicture(m_tree.ilWeapons.pictureIfAny(system->key));
     imgDrag.setVisible(true);
     imgDrag.setPlace({tree.left + static_cast<int>(press.x), tree.top + static_cast<int>(press.y),
                       imgDrag.place().width, imgDrag.place().height});

@@ -1,6 +1,7 @@
 #include "TreePanel.h"
 
 #include "Desktop.h"
+#include "Error.h"
 #include "PictureFiles.h"
 #include "StartUpProgress.h"
 #include "SystemsPanel.h"
@@ -60,11 +61,20 @@ void TreePanel::LoadWeaponTree() {
             services().progress.setText("Loading: " + std::string(fields.name));
             services().progress.repaint();
         }
-        Raster picture = pictures.load(fileBelow(services().appFolder / "images", fields.icon));
         const std::string categoryKey = toCapitals(fields.categoryKey);
         const std::string key = fields.isCategory() ? categoryKey : std::string(fields.name);
-        ilWeapons.add(key, std::move(picture));
+        ilWeapons.add(key, [this, icon = std::string(fields.icon)] { return readPicture(icon); });
         tvWeapons.add(fields.isCategory() ? toCapitals(fields.parentKey) : categoryKey, key);
+    }
+}
+
+/// The start has made sure that it can be read. What has happened to it since is said.
+Raster TreePanel::readPicture(const std::string& icon) const {
+    try {
+        return services().pictures.load(fileBelow(services().appFolder / "images", icon));
+    } catch (const FileError& error) {
+        window().say(complaint(error));
+        throw;
     }
 }
 

@@ -22,7 +22,8 @@ public:
               Handler collapsed);
 
     void addRoots();
-    /// Adds categories, systems and their pictures; says how far it has come.
+    /// Adds categories and systems, with their pictures, which are read when they are first looked
+    /// at; says how far it has come.
     void LoadWeaponTree();
     /// Adds so many pieces of the selected system to the ship. A category is none.
     void AddSelectedWeapon(std::int32_t amount);
@@ -79,6 +80,7 @@ private:
                   int left, int top);
     MenuEntry addEntry(MenuEntry& menu, const std::string& name, std::int32_t amount);
 
+    Raster readPicture(const std::string& icon) const;
     void toggleCategory(const std::string& root);
     void expandAll(bool isExpanded);
     void cmdExpandAll_Click();

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 namespace fleetwright {
 
@@ -23,29 +24,34 @@ bool isPicture(const fs::path& file) {
     return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
 }
 
-}  // namespace
+/// The name of a file below a folder, in capitals.
+std::string nameBelow(const fs::path& folder, const fs::path& file) {
+    return toCapitals(file.lexically_relative(folder).generic_string());
+}
 
-PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth depth)
-    : m_folder(folder), m_pictures(pictures), m_depth(depth) {
+/// All files below a folder, by their names in capitals.
+std::map<std::string, fs::path> pictureFilesIn(const fs::path& folder) {
+    std::map<std::string, fs::path> files;
     std::error_code error;
     constexpr auto options = fs::directory_options::skip_permission_denied;
     for (const fs::directory_entry& entry :
          fs::recursive_directory_iterator(folder, options, error)) {
         if (entry.is_regular_file(error)) {
-            const std::string name = entry.path().lexically_relative(folder).generic_string();
-            m_entries[toCapitals(name)] = {.file = entry.path()};
+            files[nameBelow(folder, entry.path())] = entry.path();
         }
     }
+    return files;
 }
 
-/// The file of this name, which is in use then; null if there is none.
-const fs::path* PictureCheck::find(std::string_view name) {
-    const auto found = m_entries.find(toCapitals(name));
-    if (found == m_entries.end()) {
-        return nullptr;
+}  // namespace
+
+PictureCheck::PictureCheck(const fs::path& folder, PictureFiles& pictures, Depth depth)
+    : m_folder(folder), m_pictures(pictures), m_depth(depth) {}
+
+void PictureCheck::noteUse(const fs::path& file) {
+    if (m_depth == All) {
+        m_used.insert(nameBelow(m_folder, file));
     }
-    found->second.isUsed = true;
-    return &found->second.file;
 }
 
 /// What keeps a picture from being read; nothing if it can be. Throws FileError for another file.
@@ -69,14 +75,11 @@ std::optional<std::string> PictureCheck::systemPictureFault(std::string_view nam
     } catch (const FileError& error) {
         return error.what();
     }
-    std::error_code unknown;
-    if (!fs::exists(file, unknown)) {
-        return "is missing";
-    }
-    find(file.lexically_relative(m_folder).generic_string());
+    noteUse(file);
     Raster picture;
     if (auto fault = readingFault(file, picture)) {
-        return fault;
+        std::error_code unknown;
+        return fs::exists(file, unknown) ? fault : "is missing";
     }
     if (picture.width() == systemPictureSize && picture.height() == systemPictureSize) {
         return std::nullopt;
@@ -106,18 +109,22 @@ std::vector<Fault> PictureCheck::checkCatalogue(const CatalogueText& catalogue) 
 
 std::vector<PictureFault> PictureCheck::checkRest() {
     std::vector<PictureFault> faults;
+    const std::map<std::string, fs::path> files = pictureFilesIn(m_folder);
     for (const std::string& name : sheetPictures()) {
-        const fs::path* const file = find(name);
-        Raster ignored;
-        if (file == nullptr) {
+        const auto found = files.find(toCapitals(name));
+        if (found == files.end()) {
             faults.push_back({m_folder / name, {0, "is missing; sheets need it"}});
-        } else if (const auto fault = readingFault(*file, ignored)) {
-            faults.push_back({*file, {0, *fault}});
+            continue;
+        }
+        noteUse(found->second);
+        Raster ignored;
+        if (const auto fault = readingFault(found->second, ignored)) {
+            faults.push_back({found->second, {0, *fault}});
         }
     }
-    for (const auto& [name, entry] : m_entries) {
-        if (!entry.isUsed && isPicture(entry.file)) {
-            faults.push_back({entry.file, {0, "nothing uses this picture"}});
+    for (const auto& [name, file] : files) {
+        if (!m_used.contains(name) && isPicture(file)) {
+            faults.push_back({file, {0, "nothing uses this picture"}});
         }
     }
     return faults;

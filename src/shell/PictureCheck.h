@@ -4,8 +4,8 @@
 #include "Raster.h"
 
 #include <filesystem>
-#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,13 +43,7 @@ public:
     std::vector<PictureFault> checkRest();
 
 private:
-    /// A file and whether anything needs it.
-    struct Entry {
-        std::filesystem::path file;
-        bool isUsed = false;
-    };
-
-    const std::filesystem::path* find(std::string_view name);
+    void noteUse(const std::filesystem::path& file);
     std::optional<std::string> readingFault(const std::filesystem::path& file,
                                             Raster& picture) const;
     std::optional<std::string> systemPictureFault(std::string_view name);
@@ -57,7 +51,7 @@ private:
     std::filesystem::path m_folder;
     PictureFiles& m_pictures;
     Depth m_depth;
-    std::map<std::string, Entry> m_entries;  // by name in capitals
+    std::set<std::string> m_used;  // names in capitals, from the folder on
 };
 
 }  // namespace fleetwright

@@ -8,6 +8,7 @@
 #include "SheetPictures.h"
 #include "TemporaryFolder.h"
 #include "caseFile.h"
+#include "checkPicturesAtStart.h"
 #include "faults.h"
 #include "readFile.h"
 #include "runCommand.h"
@@ -15,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <utility>
 
 using namespace fleetwright;
@@ -135,4 +137,45 @@ TEST(PictureCheck, NamesTheLinesWhosePicturesAreMissingOrFaulty) {
     const std::string cut = "3: picture \"Maw-F.gif\" is cut short\n";
     EXPECT_EQ(faults(PictureCheck::All), missing + cut + large);
     EXPECT_EQ(faults(PictureCheck::Start), missing + cut + large + "6: no picture\n");
+}
+
+TEST(PicturesAtStart, AreDecodedOnceUntilOneOfThemIsAnother) {
+    const TemporaryFolder folder;
+    const std::string whole = readBytes(PICTURES_FOLDER "/images/maw-f.gif");
+    const fs::path picture = folder.path() / "images/gun.gif";
+    const auto write = [&](const std::string& bytes, std::chrono::hours age) {
+        folder.write("images/gun.gif", bytes);
+        fs::last_write_time(picture, fs::file_time_type::clock::now() - age);
+    };
+    class Counting : public PictureFiles {
+    public:
+        Raster load(const fs::path& file) override {
+            ++count;
+            return QtPictureFiles().load(file);
+        }
+        Raster builtIn(const std::string&) override { return {}; }
+        int count = 0;
+    };
+    const auto start = [&](const std::string& catalogue) {
+        Counting files;
+        const fs::path memory = folder.path() / "cache/pictures";
+        const std::string faults =
+            textOf(checkPicturesAtStart(catalogue, picture.parent_path(), files, memory));
+        return faults + std::to_string(files.count);
+    };
+    const std::string gun = "Gun,1,1,BEAM,GUNS,F,gun.gif\r\n";
+    write(whole, std::chrono::hours(1));
+    EXPECT_EQ(start(gun), "1");
+    EXPECT_EQ(start(gun), "0");
+    EXPECT_EQ(start(gun + gun), "2");
+    std::string damaged = whole;
+    damaged.back() = ' ';
+    write(damaged, std::chrono::hours(1));
+    for (int i = 0; i < 2; ++i) {  // what is not well is not remembered
+        EXPECT_EQ(start(gun), "1: picture \"gun.gif\" is cut short\n1");
+    }
+    write(whole, std::chrono::hours(0));
+    for (int i = 0; i < 2; ++i) {  // nor what may still change without a trace
+        EXPECT_EQ(start(gun), "1");
+    }
 }

@@ -33,7 +33,7 @@ public:
 private:
     const QIcon& shown() {
         if (m_shown.isNull()) {
-            m_shown = QIcon(QPixmap::fromImage(toImage(m_images.picture(m_key))));
+            m_shown = QIcon(QPixmap::fromImage(toImage(m_images.pictureIfAny(m_key))));
         }
         return m_shown;
     }
