@@ -115,8 +115,7 @@ Actor::Actor(Choices& source)
     }
     scanMaps(m_app, test.globals.g_colSSDMaps, test.globals.g_iLargestSSD,
              [](const std::string&) {});
-    for (Form* const form :
-         std::initializer_list<Form*>{&main, &m_mapper, &m_mapCreator, &m_viewer}) {
+    for (Form* const form : windows()) {
         m_windows.push_back({form, chancesOf(*form)});
     }
     m_beside = m_windows.front().chances;

@@ -46,6 +46,8 @@ public:
     /// One act, with all that comes of it. Throws what is wrong then, behind the last acts.
     void act();
     bool hasEnded() const { return m_hasEnded; }
+    /// Those that stand beside each other, the main window first.
+    std::vector<Form*> windows() { return {&main, &m_mapper, &m_mapCreator, &m_viewer}; }
 
     // For the acts.
     /// A file of any kind, that need not be there; or none.
