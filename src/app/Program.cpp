@@ -205,6 +205,7 @@ public:
                         return m_sheets.acts(
                             [this, file, picture] { return m_sheets.ofPicture(file, picture); });
                     }}) {
+        desktop.equip(m_settings, m_drawings);
         takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {
             if (form != &m_splash || run == Run::Whole) {

@@ -84,6 +84,13 @@ void Form::setTopmost(bool isTopmost) {
     }
 }
 
+void Form::setZoom(Zoom zoom) {
+    if (zoom != m_zoom) {
+        m_zoom = zoom;
+        Zoomed.raise();
+    }
+}
+
 void Form::setPicture(Raster picture) {
     m_picture = std::move(picture);
     Changed.raise();

@@ -2,6 +2,7 @@
 
 #include "Control.h"
 #include "Raster.h"
+#include "Zoom.h"
 
 namespace fleetwright {
 
@@ -42,6 +43,8 @@ public:
     bool isTopmost() const { return m_isTopmost; }
     /// The picture behind the controls; empty at first.
     const Raster& picture() const { return m_picture; }
+    /// How large the user has made the window and all that is in it. Twips grow with it.
+    Zoom zoom() const { return m_zoom; }
     /// Place of the window's left and upper edge on the screen, in twips.
     int left() const { return m_left; }
     int top() const { return m_top; }
@@ -63,6 +66,7 @@ public:
     void resize(int width, int height);
     void moveTo(int left, int top);
     void setTopmost(bool isTopmost);
+    void setZoom(Zoom zoom);
     void setPicture(Raster picture);
     /// Paints the window at once, without a turn of the event loop for anything else.
     void repaint() { RepaintWanted.raise(); }
@@ -84,6 +88,7 @@ public:
 
     /// For whoever draws it.
     Signal<> RepaintWanted;
+    Signal<> Zoomed;
     Signal<> Raised;
 
 protected:
@@ -109,6 +114,7 @@ private:
     bool m_isUnloading = false;
     bool m_isTopmost = false;
     WindowState m_state = WindowState::Normal;
+    Zoom m_zoom;
     Raster m_picture;
     int m_left = 0;
     int m_top = 0;

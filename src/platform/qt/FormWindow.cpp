@@ -3,19 +3,26 @@
 #include "Form.h"
 #include "Frame.h"
 #include "Timer.h"
+#include "ZoomedStyle.h"
 #include "controlWidgets.h"
+#include "drawnImage.h"
 #include "widgetTools.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
+#include <QMenu>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QWindow>
+
+#include <algorithm>
+#include <cmath>
 
 namespace fleetwright {
 
@@ -24,7 +31,8 @@ namespace {
 /// What stands inside a window's border, with the form's picture behind the controls.
 class Inside : public QWidget {
 public:
-    Inside(const Form& form, QWidget* parent) : QWidget(parent), m_form(form) {}
+    Inside(const Form& form, const Scale& scale, QWidget* parent)
+        : QWidget(parent), m_form(form), m_scale(scale) {}
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -34,12 +42,31 @@ protected:
             QPainter painter(this);
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
             const double factor = double(width()) / picture.width();
-            painter.drawImage(QRectF(0, 0, width(), picture.height() * factor), toImage(picture));
+            const QRectF place(0, 0, width(), picture.height() * factor);
+            const QSize size = (place.size() * devicePixelRatio()).toSize();
+            if (size != m_shown.size() || picture.key() != m_key) {
+                m_shown = shown(picture, size);
+                m_key = picture.key();
+            }
+            painter.drawImage(place, m_shown);
         }
     }
 
 private:
+    QImage shown(const Raster& picture, const QSize& size) const {
+        // The pixels do for a little more than their size, and no start waits for a drawing.
+        constexpr double muchLarger = 1.25;
+        const std::shared_ptr<const Drawing> drawing =
+            size.width() < muchLarger * picture.width() ? nullptr : m_scale.drawingOf(picture);
+        return drawing == nullptr
+                   ? toImage(picture).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                   : drawnImage(*drawing, size);
+    }
+
     const Form& m_form;
+    Scale m_scale;
+    QImage m_shown;
+    Raster::Key m_key{};  // of what is shown
 };
 
 /// The view of a form's inside, which scrolls only where the screen is too small for the form.
@@ -56,21 +83,41 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 };
 
+/// The desktop's font for a window that is zoomed. It has nothing but a size.
+QFont zoomedFont(double zoom) {
+    const QFont plain = QApplication::font();
+    QFont font;
+    if (zoom == 1) {
+        return font;
+    }
+    if (plain.pointSizeF() > 0) {
+        font.setPointSizeF(plain.pointSizeF() * zoom);
+    } else {
+        font.setPixelSize(static_cast<int>(std::lround(plain.pixelSize() * zoom)));
+    }
+    return font;
+}
+
 /// A window that the rules have just asked to paint waits for the desktop. The rules are in the
 /// middle of their work then, and no timer may run into them.
 bool isAwaitingDesktop = false;
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis)
-    : QMainWindow(owner), m_form(form), m_scale(form.place().width, form.place().height),
-      m_inside(new Inside(form, this)), m_whatsThis(std::move(whatsThis)) {
+FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis,
+                       const Drawings* drawings)
+    : QMainWindow(owner), m_form(form), m_scale(form.place().width, form.place().height, drawings),
+      m_inside(new Inside(form, m_scale, this)), m_whatsThis(std::move(whatsThis)) {
     setObjectName(toQt(form.name()));
     setFrame(owner);
     m_inside->resize(formSize());
     addControls(form, m_inside);
     explainMenus(*this, form, m_whatsThis);
     setCentralWidget(new View(m_inside, this));
+    if (form.border() != Border::None) {
+        addZoomKeys();
+        followZoom();
+    }
     const QSize size = fitting(m_inside->size());
     if (form.border() == Border::Sizable) {
         resize(size);
@@ -83,6 +130,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis)
     update();
     m_connections.push_back(form.Changed.connect([this] { update(); }));
     m_connections.push_back(form.Raised.connect([this] { raiseAndActivate(); }));
+    m_connections.push_back(form.Zoomed.connect([this] { followZoom(); }));
     m_connections.push_back(form.RepaintWanted.connect([this] { repaintNow(); }));
 }
 
@@ -156,6 +204,70 @@ void FormWindow::addTimer(Timer& timer) {
     };
     follow();
     m_connections.push_back(timer.Changed.connect(follow));
+}
+
+/// Those keys of which a menu of the form has no part.
+void FormWindow::addZoomKeys() {
+    const auto add = [this](const char* keys, Zoom (*wanted)(Zoom)) {
+        const QKeySequence sequence(keys);
+        const auto hasKeys = [&sequence](const auto* each) { return each->key() == sequence; };
+        const auto isMenus = [&sequence](const QAction* action) {
+            return action->shortcuts().contains(sequence);
+        };
+        if (std::ranges::none_of(findChildren<QShortcut*>(), hasKeys) &&
+            std::ranges::none_of(findChildren<QAction*>(), isMenus)) {
+            new QShortcut(sequence, this,
+                          [this, wanted] { m_form.setZoom(wanted(m_form.zoom())); });
+        }
+    };
+    for (const char* const keys : {"Ctrl++", "Ctrl+="}) {
+        add(keys, [](Zoom zoom) { return zoom.larger(); });
+    }
+    add("Ctrl+-", [](Zoom zoom) { return zoom.smaller(); });
+    add("Ctrl+0", [](Zoom) { return Zoom(); });
+}
+
+/// Brings texts, widgets and what is in them to the form's zoom.
+void FormWindow::followZoom() {
+    const double zoom = m_form.zoom().percent() / double(Zoom::actual);
+    if (zoom == m_scale.zoom()) {
+        return;
+    }
+    const QScopedValueRollback<bool> updating(m_isUpdating, true);
+    m_scale.setZoom(zoom);
+    const QFont font = zoomedFont(zoom);
+    setFont(font);
+    if (m_zoomedStyle == nullptr) {
+        m_zoomedStyle = new ZoomedStyle(m_scale, this);  // which goes after the widgets
+    }
+    for (QWidget* const widget : findChildren<QWidget*>()) {
+        const bool isMenu = qobject_cast<QMenu*>(widget) != nullptr;
+        if (isMenu) {
+            widget->setFont(font);
+        }
+        if (isMenu || widget->window() == this) {
+            widget->setStyle(zoom == 1 ? nullptr : m_zoomedStyle);
+        }
+    }
+    m_scale.Zoomed().raise();
+    updateSize();
+    keepOnScreen();
+    notePlace();
+}
+
+/// A window that has grown may have left the screen.
+void FormWindow::keepOnScreen() {
+    if (!isVisible() || m_form.state() != WindowState::Normal) {
+        return;
+    }
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    const QPoint corner(
+        std::max(std::min(frame.left(), room.right() + 1 - frame.width()), room.left()),
+        std::max(std::min(frame.top(), room.bottom() + 1 - frame.height()), room.top()));
+    if (corner != frame.topLeft()) {
+        move(corner);
+    }
 }
 
 void FormWindow::update() {
@@ -319,7 +431,11 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
-    // The user has moved the window; the form learns it without moving anything itself.
+    notePlace();
+}
+
+/// Where the user has moved the window; the form learns it without moving anything itself.
+void FormWindow::notePlace() {
     m_formPlace = {static_cast<int>(placeScale().twips(pos().x())),
                    static_cast<int>(placeScale().twips(pos().y()))};
     m_form.moveTo(m_formPlace.x(), m_formPlace.y());

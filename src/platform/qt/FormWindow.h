@@ -20,8 +20,10 @@ class Timer;
 /// keeps both in step, and hands what the user does to the models. It knows no form by name.
 class FormWindow : public QMainWindow {
 public:
-    /// `whatsThis` tells of the controls: their widgets show it when they are asked.
-    explicit FormWindow(Form& form, QWidget* owner = nullptr, WhatsThisText whatsThis = {});
+    /// `whatsThis` tells of the controls: their widgets show it when they are asked. `drawings` has
+    /// those of the form's pictures, and outlives the window.
+    explicit FormWindow(Form& form, QWidget* owner = nullptr, WhatsThisText whatsThis = {},
+                        const Drawings* drawings = nullptr);
 
 protected:
     bool event(QEvent* event) override;
@@ -38,14 +40,19 @@ private:
     QWidget* addControl(Control& control, QWidget* parent);
     void addTimer(Timer& timer);
 
+    void addZoomKeys();
+
     // Bringing the window in step with its form.
     void update();
+    void followZoom();
+    void keepOnScreen();
     QSize fitting(const QSize& inside) const;
     QSize formSize() const;
     const Scale& placeScale() const;
     void resizeInside();
     void updateSize();
     void updatePlace();
+    void notePlace();
     void updateState();
     void updateTopmost();
     void raiseAndActivate();
@@ -56,6 +63,7 @@ private:
     Scale m_scale;
     QWidget* m_inside;
     WhatsThisText m_whatsThis;
+    QStyle* m_zoomedStyle = nullptr;  // once it is needed
     std::vector<Connection> m_connections;
     /// Where the form was last known to be, in twips.
     QPoint m_formPlace;

@@ -1,10 +1,13 @@
 #include "QtDesktop.h"
 
+#include "Error.h"
 #include "Form.h"
 #include "FormWindow.h"
 #include "Menu.h"
+#include "SettingsStore.h"
 #include "controlWidgets.h"
 #include "text.h"
+#include "wholeNumber.h"
 #include "widgetTools.h"
 
 #include <QApplication>
@@ -106,13 +109,41 @@ QtDesktop::QtDesktop(WhatsThisText whatsThis) : m_whatsThis(std::move(whatsThis)
 
 QtDesktop::~QtDesktop() = default;
 
+void QtDesktop::equip(SettingsStore& settings, const Drawings& drawings) {
+    m_settings = &settings;
+    m_drawings = &drawings;
+}
+
+/// Zooms a form as far as its user has zoomed it last, and keeps what comes.
+Connection QtDesktop::keepZoom(Form& form) {
+    if (m_settings == nullptr) {
+        return {};
+    }
+    constexpr const char* section = "Zoom";
+    try {
+        form.setZoom(Zoom(
+            wholeNumber(m_settings->read(section, form.name(), std::to_string(Zoom::actual)))));
+    } catch (const Error&) {
+        // It has its actual size then.
+    }
+    return form.Zoomed.connect([this, &form] {
+        try {
+            m_settings->write(section, form.name(), std::to_string(form.zoom().percent()));
+        } catch (const FileError&) {
+            // It holds as long as the program runs.
+        }
+    });
+}
+
 void QtDesktop::present(Form& form) {
     Presented& presented = m_presented[&form];
     const auto makeWhenShown = [this, &presented, &form] {
         // A window that comes moves its form, which asks for a window again.
         if (form.isVisible() && !presented.isMade) {
             presented.isMade = true;
-            presented.window = std::make_unique<FormWindow>(form, nullptr, m_whatsThis);
+            presented.zoomed = keepZoom(form);
+            presented.window =
+                std::make_unique<FormWindow>(form, nullptr, m_whatsThis, m_drawings);
         }
     };
     makeWhenShown();
@@ -196,14 +227,17 @@ void QtDesktop::popUp(MenuEntry& menu) {
     const bool isByPointer = focus == nullptr || focus->underMouse() ||
                              focus->window() != windowWith(menu) ||
                              QApplication::mouseButtons() != Qt::NoButton;
-    popUpMenu(menu, isByPointer ? QCursor::pos() : focus->mapToGlobal(focus->rect().center()));
+    const QWidget* const window = windowWith(menu);
+    popUpMenu(menu, isByPointer ? QCursor::pos() : focus->mapToGlobal(focus->rect().center()),
+              window == nullptr ? QFont() : window->font());
 }
 
 void QtDesktop::showModal(Form& form, Form& owner) {
     const auto presented = m_presented.find(&owner);
+    const Connection zoomed = keepZoom(form);
     FormWindow window(form,
                       presented == m_presented.end() ? nullptr : presented->second.window.get(),
-                      m_whatsThis);
+                      m_whatsThis, m_drawings);
     QEventLoop loop;
     const Connection ended = form.Changed.connect([&] {
         if (!form.isVisible()) {

@@ -13,7 +13,9 @@ class QWidget;
 namespace fleetwright {
 
 class Control;
+class Drawings;
 class FormWindow;
+class SettingsStore;
 
 /// The desktop of the running Qt application.
 class QtDesktop : public Desktop {
@@ -23,6 +25,10 @@ public:
     QtDesktop(const QtDesktop&) = delete;
     QtDesktop& operator=(const QtDesktop&) = delete;
     ~QtDesktop() override;
+
+    /// What windows use, if this is called before they are made: it keeps how far they are zoomed,
+    /// and has the drawings of their pictures. Both outlive the windows.
+    void equip(SettingsStore& settings, const Drawings& drawings);
 
     /// Gives a form a window, which shows and hides with it. It is made when it is first shown: a
     /// form that is still loading changes too often for being drawn.
@@ -43,13 +49,17 @@ public:
 
 private:
     const QWidget* windowWith(const Control& control) const;
+    Connection keepZoom(Form& form);
 
     WhatsThisText m_whatsThis;
     struct Presented {
         Connection changed;
+        Connection zoomed;
         bool isMade = false;
         std::unique_ptr<FormWindow> window;
     };
+    SettingsStore* m_settings = nullptr;
+    const Drawings* m_drawings = nullptr;
     std::map<Form*, Presented> m_presented;
     std::vector<Form*> m_dialogs;  ///< the modal ones that are open
 };

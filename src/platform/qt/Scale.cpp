@@ -1,5 +1,8 @@
 #include "Scale.h"
 
+#include "Drawing.h"
+#include "Error.h"
+
 #include <QApplication>
 #include <QFontMetrics>
 #include <QScreen>
@@ -9,25 +12,49 @@
 
 namespace fleetwright {
 
-Scale::Scale(int formWidth, int formHeight) {
+Scale::Scale(int formWidth, int formHeight, const Drawings* drawings)
+    : m_shared(std::make_shared<Shared>()) {
     constexpr double twipsPerPixel = 15.0;
     constexpr double drawnLineHeight = 13.0;
     constexpr double frameAndMenu = 80.0;  // what a window needs around its inside
     const double lineHeight = QFontMetrics(QApplication::font()).height();
-    m_pixelsPerTwip = std::max(1.0, lineHeight / drawnLineHeight) / twipsPerPixel;
+    double& pixelsPerTwip = m_shared->pixelsPerTwip;
+    pixelsPerTwip = std::max(1.0, lineHeight / drawnLineHeight) / twipsPerPixel;
     if (const QScreen* const screen = QApplication::primaryScreen(); screen != nullptr) {
         const QSize available = screen->availableSize();
-        m_pixelsPerTwip = std::min({m_pixelsPerTwip, available.width() / double(formWidth),
-                                    (available.height() - frameAndMenu) / formHeight});
+        pixelsPerTwip = std::min({pixelsPerTwip, available.width() / double(formWidth),
+                                  (available.height() - frameAndMenu) / formHeight});
     }
+    m_shared->drawings = drawings;
 }
 
 int Scale::pixels(double twips) const {
-    return static_cast<int>(std::lround(twips * m_pixelsPerTwip));
+    return static_cast<int>(std::lround(twips * m_shared->pixelsPerTwip * m_shared->zoom));
+}
+
+double Scale::twips(double pixels) const {
+    return pixels / (m_shared->pixelsPerTwip * m_shared->zoom);
 }
 
 QRect Scale::rect(const Place& place) const {
     return {pixels(place.left), pixels(place.top), pixels(place.width), pixels(place.height)};
+}
+
+void Scale::setZoom(double zoom) const {
+    m_shared->zoom = zoom;
+    m_shared->Zoomed.raise();
+}
+
+int Scale::zoomed(int pixels) const {
+    return static_cast<int>(std::lround(pixels * m_shared->zoom));
+}
+
+std::shared_ptr<const Drawing> Scale::drawingOf(const Raster& picture) const {
+    try {
+        return m_shared->drawings == nullptr ? nullptr : m_shared->drawings->of(picture);
+    } catch (const Error&) {
+        return nullptr;  // the picture shows all the same
+    }
 }
 
 }  // namespace fleetwright

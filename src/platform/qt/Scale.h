@@ -1,25 +1,53 @@
 #pragma once
 
 #include "Control.h"
+#include "Signal.h"
 
 #include <QRect>
 
+#include <memory>
+
 namespace fleetwright {
+
+class Drawings;
+class Raster;
+struct Drawing;
 
 /// Turns twips into device-independent pixels: 15 to the pixel, times the desktop font's line
 /// height over the 13 pixels that the places of controls were drawn for, so that no text is cut
-/// off with a larger font; but never so large that a form leaves the screen.
+/// off with a larger font; but never so large that a form leaves the screen. What the user has
+/// zoomed comes on top of that.
+///
+/// All copies are the scale of one window, and zoom together.
 class Scale {
 public:
-    /// The scale for a form of this inner size in twips.
-    Scale(int formWidth, int formHeight);
+    /// The scale for a form of this inner size in twips. `drawings` has those of its pictures, and
+    /// outlives its window.
+    Scale(int formWidth, int formHeight, const Drawings* drawings = nullptr);
 
     int pixels(double twips) const;
-    double twips(double pixels) const { return pixels / m_pixelsPerTwip; }
+    double twips(double pixels) const;
     QRect rect(const Place& place) const;
 
+    /// How much larger the window is than by itself; 1 at first.
+    double zoom() const { return m_shared->zoom; }
+    void setZoom(double zoom) const;
+    /// What is so many pixels large by itself.
+    int zoomed(int pixels) const;
+    /// The window has been zoomed. For the widgets in it, whose places have followed already.
+    Signal<>& Zoomed() const { return m_shared->Zoomed; }
+
+    /// The drawing of a picture; null if it has none that can be read.
+    std::shared_ptr<const Drawing> drawingOf(const Raster& picture) const;
+
 private:
-    double m_pixelsPerTwip;
+    struct Shared {
+        double pixelsPerTwip = 1;  ///< at a zoom of 1
+        double zoom = 1;
+        Signal<> Zoomed;
+        const Drawings* drawings = nullptr;
+    };
+    std::shared_ptr<Shared> m_shared;
 };
 
 }  // namespace fleetwright

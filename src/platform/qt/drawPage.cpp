@@ -1,77 +1,24 @@
 #include "drawPage.h"
 
 #include "Raster.h"
+#include "drawShapes.h"
 #include "pageFontFiles.h"
-#include "pathSteps.h"
 #include "qtImage.h"
 
 #include <QColor>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPen>
 #include <QTransform>
 
-#include <algorithm>
-#include <cmath>
-#include <optional>
-#include <string_view>
 #include <variant>
 
 namespace fleetwright {
 
 namespace {
 
-double toUnits(double millimetres) {
-    return std::round(millimetres * pageUnits);
-}
-
-QRectF toUnits(const Box& box) {
+QRectF rectInUnits(const Box& box) {
     const QPointF corner(toUnits(box.x), toUnits(box.y));
     return {corner, QPointF(toUnits(box.x + box.width), toUnits(box.y + box.height))};
-}
-
-/// The path of a shape, with its points moved to where they lie on the page.
-QPainterPath pathOnPage(std::string_view text, const Drawing& drawing, const Box& place) {
-    const auto onPage = [scaleX = place.width / drawing.width,
-                         scaleY = place.height / drawing.height, &place](PathStep::Point point) {
-        return QPointF(toUnits(place.x + point.x * scaleX), toUnits(place.y + point.y * scaleY));
-    };
-    QPainterPath path;
-    while (const std::optional<PathStep> step = takePathStep(text)) {
-        const auto& points = step->points;
-        if (step->command == 'M') {
-            path.moveTo(onPage(points[0]));
-        } else if (step->command == 'L') {
-            path.lineTo(onPage(points[0]));
-        } else if (step->command == 'C') {
-            path.cubicTo(onPage(points[0]), onPage(points[1]), onPage(points[2]));
-        } else {
-            path.closeSubpath();
-        }
-    }
-    return path;
-}
-
-Qt::PenCapStyle capStyle(DrawnShape::Cap cap) {
-    switch (cap) {
-    case DrawnShape::Cap::Round:
-        return Qt::RoundCap;
-    case DrawnShape::Cap::Square:
-        return Qt::SquareCap;
-    default:
-        return Qt::FlatCap;
-    }
-}
-
-Qt::PenJoinStyle joinStyle(DrawnShape::Join join) {
-    switch (join) {
-    case DrawnShape::Join::Round:
-        return Qt::RoundJoin;
-    case DrawnShape::Join::Bevel:
-        return Qt::BevelJoin;
-    default:
-        return Qt::SvgMiterJoin;  // beyond its limit the other one is cut, not bevelled
-    }
 }
 
 /// Whether what a drawing shows lies within what shows of it.
@@ -127,27 +74,25 @@ public:
                                           : QPen(Qt::NoPen));
         if (rectangle.radius > 0) {
             const double radius = toUnits(rectangle.radius);
-            m_painter.drawRoundedRect(toUnits(rectangle.place), radius, radius);
+            m_painter.drawRoundedRect(rectInUnits(rectangle.place), radius, radius);
         } else {
-            m_painter.drawRect(toUnits(rectangle.place));
+            m_painter.drawRect(rectInUnits(rectangle.place));
         }
     }
 
     void operator()(const PagePicture& picture) const {
-        const QRectF clip = toUnits(picture.clip);
+        const QRectF clip = rectInUnits(picture.clip);
         if (picture.drawing == nullptr) {
-            clipped(clip, clip != toUnits(picture.place),
-                    [&] { m_painter.drawImage(toUnits(picture.place), toImage(*picture.raster)); });
+            clipped(clip, clip != rectInUnits(picture.place), [&] {
+                m_painter.drawImage(rectInUnits(picture.place), toImage(*picture.raster));
+            });
             return;
         }
         const Drawing& drawing = *picture.drawing;
         const double scale = picture.place.width / drawing.width;
         m_painter.fillRect(clip, Qt::white);
-        clipped(clip, !isWithin(drawing.ink, scale, picture), [&] {
-            for (const DrawnShape& shape : drawing.shapes) {
-                drawShape(shape, scale, pathOnPage(shape.path, drawing, picture.place));
-            }
-        });
+        clipped(clip, !isWithin(drawing.ink, scale, picture),
+                [&] { drawShapes(m_painter, drawing, picture.place); });
     }
 
 private:
@@ -161,24 +106,6 @@ private:
         if (isNeeded) {
             m_painter.restore();
         }
-    }
-
-    void drawShape(const DrawnShape& shape, double scale, QPainterPath path) const {
-        const auto colourOf = [&shape](std::uint32_t colour) {
-            QColor shown = QColor::fromRgb(colour);
-            shown.setAlphaF(static_cast<float>(shape.opacity));
-            return shown;
-        };
-        path.setFillRule(shape.isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
-        m_painter.setBrush(shape.fill ? QBrush(colourOf(*shape.fill)) : QBrush());
-        QPen pen(Qt::NoPen);
-        if (shape.stroke) {
-            pen = QPen(colourOf(*shape.stroke), shape.strokeWidth * scale * pageUnits,
-                       Qt::SolidLine, capStyle(shape.cap), joinStyle(shape.join));
-            pen.setMiterLimit(4);  // that of SVG
-        }
-        m_painter.setPen(pen);
-        m_painter.drawPath(path);
     }
 
     QPainter& m_painter;

@@ -6,6 +6,7 @@
 #include "OptionButton.h"
 #include "UpDown.h"
 #include "controlWidgets.h"
+#include "pictureIcon.h"
 #include "widgetTools.h"
 
 #include <QButtonGroup>
@@ -46,13 +47,23 @@ private:
 };
 
 /// Caption and picture of a button that shows either.
-void setFace(QAbstractButton* widget, const ControlDesign& design) {
+void setFace(QAbstractButton* widget, const ControlDesign& design, const Scale& scale) {
     widget->setText(toQt(design.caption));
     if (!design.picture.empty()) {
         constexpr int pictureSize = 32;
-        widget->setIcon(faceOf(design.picture));
-        widget->setIconSize({pictureSize, pictureSize});
+        widget->setIcon(faceIcon(design.picture, scale));
+        keepZoomed(widget, scale, [widget, scale] {
+            widget->setIconSize(QSize(pictureSize, pictureSize) * scale.zoom());
+        });
     }
+}
+
+/// Makes room for a caption that is too long for its place, at each zoom anew.
+void keepFitted(QWidget* widget, const Control& control, const Scale& scale) {
+    keepZoomed(widget, scale, [widget, &control, scale] {
+        widget->setFont(QFont());
+        fitText(widget, control, scale);
+    });
 }
 
 /// The group of the option buttons that stand in one frame.
@@ -110,7 +121,7 @@ QWidget* makeWidget(Frame& frame, QWidget* parent, const Scale& scale) {
 QWidget* makeWidget(Button& button, QWidget* parent, const Scale& scale) {
     auto* const widget = new QPushButton(parent);
     prepare(widget, button, scale);
-    setFace(widget, button.design());
+    setFace(widget, button.design(), scale);
     widget->setAutoDefault(false);
     QObject::connect(widget, &QPushButton::clicked, [&button] { button.press(); });
     new EventHook(widget, [widget](QEvent* event) {
@@ -136,10 +147,10 @@ QWidget* makeWidget(CheckBox& box, QWidget* parent, const Scale& scale) {
         widget = new QCheckBox(parent);
     }
     prepare(widget, box, scale);
-    setFace(widget, box.design());
+    setFace(widget, box.design(), scale);
     keepInStep(widget, box, [widget, &box] { widget->setChecked(box.isTicked()); });
     if (!box.design().isGraphical) {  // buttons stand in rows of equals
-        fitText(widget, box, scale);
+        keepFitted(widget, box, scale);
     }
     QObject::connect(widget, &QAbstractButton::clicked, [widget, &box] {
         box.press();
@@ -158,7 +169,7 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         widget = new QRadioButton(parent);
     }
     prepare(widget, button, scale);
-    setFace(widget, button.design());
+    setFace(widget, button.design(), scale);
     QButtonGroup* const group = groupIn(parent);
     group->addButton(widget);
     const auto showState = [widget, group, &button] {
@@ -180,7 +191,7 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         widget->setPalette(palette);
     };
     keepInStep(widget, button, showState);
-    fitText(widget, button, scale);
+    keepFitted(widget, button, scale);
     QObject::connect(widget, &QAbstractButton::clicked, [&button, showState] {
         button.choose();
         showState();
@@ -198,19 +209,22 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
 QWidget* makeWidget(UpDown& arrows, QWidget* parent, const Scale& scale) {
     auto* const widget = new QWidget(parent);
     prepare(widget, arrows, scale);
-    const auto addArrow = [&](Qt::ArrowType type, const QString& direction, int top) {
+    const auto addArrow = [&](Qt::ArrowType type, const QString& direction, bool isLower) {
         auto* const arrow = new QToolButton(widget);
         arrow->setArrowType(type);
         arrow->setAutoRepeat(true);
         arrow->setFocusPolicy(Qt::StrongFocus);
-        arrow->setGeometry(0, top, widget->width(), widget->height() / 2);
+        keepZoomed(arrow, scale, [arrow, widget, isLower] {
+            const int half = widget->height() / 2;
+            arrow->setGeometry(0, isLower ? half : 0, widget->width(), half);
+        });
         arrow->setObjectName(widget->objectName() + direction);
         arrow->setToolTip(widget->toolTip());
         arrow->setAccessibleName(widget->accessibleName() + ", " + direction.toLower());
         return arrow;
     };
-    auto* const up = addArrow(Qt::UpArrow, "Up", 0);
-    auto* const down = addArrow(Qt::DownArrow, "Down", widget->height() / 2);
+    auto* const up = addArrow(Qt::UpArrow, "Up", false);
+    auto* const down = addArrow(Qt::DownArrow, "Down", true);
     QObject::connect(up, &QToolButton::clicked, [&arrows] { arrows.pressUp(); });
     QObject::connect(down, &QToolButton::clicked, [&arrows] { arrows.pressDown(); });
     return widget;

@@ -78,8 +78,8 @@ QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMain
         new QShortcut(QKeySequence(toQt(control.design().shortcut)), &window,
                       [shortcut] { shortcut->press(); });
     } else if (auto* const image = dynamic_cast<DragImage*>(&control)) {
-        keepAttached(&window,
-                     image->DragWanted.connect([image, &window] { dragImage(*image, &window); }));
+        keepAttached(&window, image->DragWanted.connect(
+                                  [image, &window, scale] { dragImage(*image, &window, scale); }));
     }
     addKeys(control, window);
     return makeFirst<Frame, Label, TextBox, Button, OptionButton, CheckBox, ComboBox, UpDown,

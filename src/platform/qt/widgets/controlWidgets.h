@@ -58,10 +58,10 @@ void addTrayIcon(TrayIcon& tray, QWidget* window);
 /// Hands files that are dropped anywhere on the window to its form, if that takes any.
 void takeDroppedFiles(Form& form, QWidget* window);
 /// Drags a picture until the user lets go; it belongs to the window it came from.
-void dragImage(DragImage& image, QWidget* window);
+void dragImage(DragImage& image, QWidget* window, const Scale& scale);
 /// The picture that is being dragged inside this window, or null.
 DragImage* draggedImage(const QWidget* window);
-/// Shows a menu at a place of the screen and waits until it is gone.
-void popUpMenu(MenuEntry& menu, const QPoint& place);
+/// Shows a menu at a place of the screen, in its window's font, and waits until it is gone.
+void popUpMenu(MenuEntry& menu, const QPoint& place, const QFont& font);
 
 }  // namespace fleetwright

@@ -1,6 +1,7 @@
 #include "DragImage.h"
 
 #include "controlWidgets.h"
+#include "pictureIcon.h"
 #include "widgetTools.h"
 
 #include <QDrag>
@@ -22,7 +23,7 @@ Drag& theDrag() {
 
 }  // namespace
 
-void dragImage(DragImage& image, QWidget* window) {
+void dragImage(DragImage& image, QWidget* window, const Scale& scale) {
     if (theDrag().image != nullptr) {
         return;
     }
@@ -32,9 +33,10 @@ void dragImage(DragImage& image, QWidget* window) {
     auto* const data = new QMimeData;
     data->setData("application/x-fleetwright-control", {});
     drag->setMimeData(data);
-    const QPixmap picture = QPixmap::fromImage(toImage(image.picture()));
-    drag->setPixmap(picture);
-    drag->setHotSpot(picture.rect().center());
+    const QSize size(scale.zoomed(image.picture().width()), scale.zoomed(image.picture().height()));
+    drag->setPixmap(pictureIcon([&image] { return image.picture(); }, scale, QPalette::WindowText)
+                        .pixmap(size, window->devicePixelRatio()));
+    drag->setHotSpot(QRect(QPoint(), size).center());
     drag->exec(Qt::CopyAction);
     theDrag() = {};
 }

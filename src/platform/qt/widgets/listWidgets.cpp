@@ -13,13 +13,31 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
+#include <utility>
 
 namespace fleetwright {
 
 namespace {
+
+/// Rows that are as high as it takes to hit them without care, also with a finger.
+class EasyRows : public QStyledItemDelegate {
+public:
+    EasyRows(const Scale& scale, QObject* parent) : QStyledItemDelegate(parent), m_scale(scale) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        constexpr int easyToHit = 24;  // the least that WCAG asks for
+        return QStyledItemDelegate::sizeHint(option, index)
+            .expandedTo({0, m_scale.zoomed(easyToHit)});
+    }
+
+private:
+    Scale m_scale;
+};
 
 /// A list of rows with columns.
 class RowList : public ItemWidget {
@@ -27,11 +45,13 @@ public:
     RowList(ListView& list, QWidget* parent, const Scale& scale)
         : ItemWidget(list, parent), m_list(list), m_scale(scale) {
         setRootIsDecorated(false);
+        setItemDelegate(new EasyRows(scale, this));
         for (QWidget* const part : std::initializer_list<QWidget*>{
                  viewport(), header()->viewport(), horizontalScrollBar(), verticalScrollBar()}) {
             part->setAcceptDrops(true);
             new EventHook(part, [this](QEvent* event) { return takeDrag(*event); });
         }
+        keepZoomed(this, scale, [this] { zoomColumns(); });
     }
 
     /// Brings the items to what the rows are.
@@ -148,8 +168,18 @@ private:
         }
     }
 
+    /// Widths that the user has given keep their share.
+    void zoomColumns() {
+        const double growth = m_scale.zoom() / std::exchange(m_shownZoom, m_scale.zoom());
+        for (int i = 0; i < std::ssize(m_list.columns()) && growth != 1; ++i) {
+            setColumnWidth(i, static_cast<int>(std::lround(columnWidth(i) * growth)));
+        }
+        scheduleDelayedItemsLayout();
+    }
+
     ListView& m_list;
     Scale m_scale;
+    double m_shownZoom = m_scale.zoom();
     std::size_t m_shownColumns = 0;
     std::vector<ListView::Row> m_shownRows;  // there may be many, of which few change
 };

@@ -63,9 +63,13 @@ void addMenu(MenuEntry& menu, QMenuBar* bar) {
     }
 }
 
-void popUpMenu(MenuEntry& menu, const QPoint& place) {
+void popUpMenu(MenuEntry& menu, const QPoint& place, const QFont& font) {
     QMenu widget;
     fillMenu(&widget, menu);
+    widget.setFont(font);
+    for (QMenu* const below : widget.findChildren<QMenu*>()) {
+        below->setFont(font);
+    }
     widget.exec(place);
 }
 

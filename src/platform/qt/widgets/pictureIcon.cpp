@@ -1,13 +1,20 @@
 #include "pictureIcon.h"
 
-#include "ImageList.h"
+#include "Drawing.h"
+#include "Error.h"
+#include "QtPictureFiles.h"
+#include "drawnImage.h"
 #include "qtImage.h"
+#include "widgetTools.h"
 
+#include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPixmap>
+#include <QStyle>
+#include <QStyleOption>
 
-#include <utility>
+#include <optional>
+#include <vector>
 
 namespace fleetwright {
 
@@ -15,38 +22,147 @@ namespace {
 
 class PictureEngine : public QIconEngine {
 public:
-    PictureEngine(const ImageList& images, std::string key)
-        : m_images(images), m_key(std::move(key)) {}
+    /// `plain` is the icon as it is without a drawing; if it is null, it is made of the pixels.
+    PictureEngine(std::function<Raster()> read, QIcon plain, const Scale& scale,
+                  QPalette::ColorRole role)
+        : m_read(std::move(read)), m_plain(std::move(plain)), m_scale(scale), m_role(role) {}
 
-    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode,
-               QIcon::State state) override {
-        shown().paint(painter, place, Qt::AlignCenter, mode, state);
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return shown().pixmap(size, mode, state);
-    }
-    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return shown().actualSize(size, mode, state);
-    }
     QIconEngine* clone() const override { return new PictureEngine(*this); }
 
-private:
-    const QIcon& shown() {
-        if (m_shown.isNull()) {
-            m_shown = QIcon(QPixmap::fromImage(toImage(m_images.pictureIfAny(m_key))));
-        }
-        return m_shown;
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        const double fine = painter->device()->devicePixelRatio();
+        painter->drawPixmap(rect, scaledPixmap(rect.size() * fine, mode, state, fine));
     }
 
-    const ImageList& m_images;
-    std::string m_key;
-    QIcon m_shown;
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return scaledPixmap(size, mode, state, 1);
+    }
+
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state,
+                         double fine) override {
+        const Made wanted{
+            size, fine * m_scale.zoom(), mode, state, QApplication::palette().cacheKey(), {}};
+        for (const Made& made : m_made) {
+            if (made.isFor(wanted)) {
+                return made.pixmap;
+            }
+        }
+        constexpr std::size_t most = 4;
+        if (m_made.size() == most) {
+            m_made.clear();
+        }
+        m_made.push_back(wanted);
+        return m_made.back().pixmap = centred(size, wanted.factor, mode, state);
+    }
+
+private:
+    /// A pixmap that was made, and for what.
+    struct Made {
+        QSize size;
+        double factor;  ///< pixels of the screen to one of the picture
+        QIcon::Mode mode;
+        QIcon::State state;
+        qint64 palette;
+        QPixmap pixmap;
+
+        bool isFor(const Made& other) const {
+            return size == other.size && factor == other.factor && mode == other.mode &&
+                   state == other.state && palette == other.palette;
+        }
+    };
+
+    /// The picture in the middle of a pixmap of this size, and no larger.
+    QPixmap centred(const QSize& size, double factor, QIcon::Mode mode, QIcon::State state) {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        const QSize own = ownSize();
+        if (own.isEmpty() || size.isEmpty()) {
+            return pixmap;
+        }
+        QSize shown = (QSizeF(own) * factor).toSize();
+        if (shown.width() > size.width() || shown.height() > size.height()) {
+            shown.scale(size, Qt::KeepAspectRatio);
+        }
+        QRect place(QPoint(), shown);
+        place.moveCenter(pixmap.rect().center());
+        QPainter(&pixmap).drawPixmap(place, drawn(shown, shown != own, mode, state));
+        return pixmap;
+    }
+
+    QPixmap drawn(const QSize& size, bool isScaled, QIcon::Mode mode, QIcon::State state) {
+        const QPalette palette = QApplication::palette();
+        const bool isDark = palette.color(QPalette::Window).lightness() <
+                            palette.color(QPalette::WindowText).lightness();
+        // Who sees the pixels as they were made needs no drawing.
+        const std::shared_ptr<const Drawing> drawing =
+            isScaled || isDark ? m_scale.drawingOf(raster()) : nullptr;
+        const bool isPaper = drawing != nullptr && isInk(*drawing);
+        if (isDark && isPaper) {
+            return QPixmap::fromImage(inkImage(*drawing, size, ink(palette, mode, state)));
+        }
+        QPixmap pixmap(size);
+        if (drawing == nullptr || !isScaled) {
+            pixmap = plain().pixmap(size, 1.0).scaled(size, Qt::IgnoreAspectRatio,
+                                                      Qt::SmoothTransformation);
+        } else {
+            pixmap.fill(isPaper ? Qt::white : Qt::transparent);
+            QPainter(&pixmap).drawImage(0, 0, drawnImage(*drawing, size));
+        }
+        QStyleOption option;
+        option.palette = palette;
+        return QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
+    }
+
+    QColor ink(const QPalette& palette, QIcon::Mode mode, QIcon::State state) const {
+        if (mode == QIcon::Disabled) {
+            return palette.color(QPalette::Disabled, m_role);
+        }
+        const bool isMarked = mode == QIcon::Selected || state == QIcon::On;
+        return palette.color(isMarked ? QPalette::HighlightedText : m_role);
+    }
+
+    /// In pixels of the picture.
+    QSize ownSize() {
+        const QList<QSize> sizes = m_plain.availableSizes();
+        return sizes.isEmpty() ? QSize(raster().width(), raster().height()) : sizes.first();
+    }
+
+    const Raster& raster() {
+        if (!m_raster) {
+            try {
+                m_raster = m_read();
+            } catch (const Error&) {
+                m_raster.emplace();
+            }
+        }
+        return *m_raster;
+    }
+
+    const QIcon& plain() {
+        if (m_plain.isNull()) {
+            m_plain = QPixmap::fromImage(toImage(raster()));
+        }
+        return m_plain;
+    }
+
+    std::function<Raster()> m_read;
+    std::optional<Raster> m_raster;
+    QIcon m_plain;
+    Scale m_scale;
+    QPalette::ColorRole m_role;
+    std::vector<Made> m_made;
 };
 
 }  // namespace
 
-QIcon pictureIcon(const ImageList& images, const std::string& key) {
-    return QIcon(new PictureEngine(images, key));
+QIcon pictureIcon(std::function<Raster()> read, const Scale& scale, QPalette::ColorRole role) {
+    return QIcon(new PictureEngine(std::move(read), {}, scale, role));
+}
+
+QIcon faceIcon(const std::string& name, const Scale& scale) {
+    return QIcon(new PictureEngine([name] { return QtPictureFiles().builtIn(name + ".png"); },
+                                   faceOf(name), scale, QPalette::ButtonText));
 }
 
 }  // namespace fleetwright

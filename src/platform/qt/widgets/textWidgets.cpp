@@ -27,18 +27,20 @@ namespace fleetwright {
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
     auto* const widget = new QLabel(parent);
     prepare(widget, label, scale);
-    QFont font = widget->font();
-    if (label.design().isHeading) {
-        constexpr double enlargement = 1.6;
-        font.setPointSizeF(font.pointSizeF() * enlargement);
-        font.setBold(true);
-    }
-    keepInStep(widget, label, [widget, &label, font, scale] {
+    const auto show = [widget, &label, scale] {
+        QFont font;
+        if (label.design().isHeading) {
+            constexpr double enlargement = 1.6;
+            font.setPointSizeF(widget->window()->font().pointSizeF() * enlargement);
+            font.setBold(true);
+        }
         widget->setFont(font);
         widget->setGeometry(scale.rect(label.place()));
         widget->setText(toQt(label.caption()));
         fitText(widget, label, scale);
-    });
+    };
+    keepInStep(widget, label, show);
+    keepZoomed(widget, scale, show);
     if (label.design().isFramed) {
         widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         widget->setAlignment(Qt::AlignCenter);
@@ -52,11 +54,11 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     prepare(widget, bar, scale);
     widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     widget->setMargin(2);
-    const int height = scale.pixels(StatusBar::height);
-    const auto dock = [widget, parent, height] {
+    const auto dock = [widget, parent, scale] {
+        const int height = scale.pixels(StatusBar::height);
         widget->setGeometry(0, parent->height() - height, parent->width(), height);
     };
-    dock();
+    keepZoomed(widget, scale, dock);
     new EventHook(parent, [dock](QEvent* event) {
         if (event->type() == QEvent::Resize) {
             dock();
@@ -85,27 +87,23 @@ std::string textOf(const QPlainTextEdit& edit) {
     return edit.document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n").toStdString();
 }
 
-/// The font of a line in letters of plain width.
-QFont plainFont(const QLineEdit& line) {
+/// How wide the letters of a line are, in percent: as those of its window, or narrower, if it is to
+/// show all of its text and that is too long for it.
+int stretchOf(const QLineEdit& line, bool isFitting) {
+    constexpr int narrowest = 70, step = 5, plain = 100, edges = 10;
     QFont font = line.font();
     font.setStretch(line.parentWidget()->font().stretch());
-    return font;
-}
-
-/// The same in narrower letters, if its text is too long for the line.
-QFont fittingFont(const QLineEdit& line) {
-    constexpr int narrowest = 70, step = 5, plain = 100, edges = 10;
-    QFont font = plainFont(line);
     const int needed = QFontMetrics(font).horizontalAdvance(line.text()) + edges;
-    if (needed > line.width()) {
-        font.setStretch(std::max(plain * line.width() / needed / step * step, narrowest));
-    }
-    return font;
+    return !isFitting || needed <= line.width()
+               ? font.stretch()
+               : std::max(plain * line.width() / needed / step * step, narrowest);
 }
 
-/// Each font that is set is looked up anew, which takes long.
-void changeFont(QLineEdit& line, const QFont& font) {
-    if (font != line.font()) {
+/// Each font that is set is looked up anew, which takes long. Its size is that of the window.
+void setStretch(QLineEdit& line, int stretch) {
+    if (stretch != line.font().stretch()) {
+        QFont font;
+        font.setStretch(stretch);
         line.setFont(font);
     }
 }
@@ -195,7 +193,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
         }
         widget->setReadOnly(box.isLocked());
         // What is typed stands in plain letters, what is only shown is shown whole.
-        changeFont(*widget, box.isLocked() ? fittingFont(*widget) : plainFont(*widget));
+        setStretch(*widget, stretchOf(*widget, box.isLocked()));
         QPalette palette = widget->parentWidget()->palette();
         if (box.isLocked() || box.design().isFlat) {
             palette.setColor(QPalette::Base, palette.color(QPalette::Window));
@@ -203,6 +201,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
         widget->setPalette(palette);
     };
     keepInStep(widget, box, show);
+    keepZoomed(widget, scale, show);
     QObject::connect(widget, &QLineEdit::textEdited,
                      [&box](const QString& text) { box.type(text.toStdString()); });
     new EventHook(widget, [widget, &box, scale, show](QEvent* event) {
@@ -238,7 +237,7 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
         if (widget->currentText() != text) {
             widget->setEditText(text);
         }
-        changeFont(*widget->lineEdit(), fittingFont(*widget->lineEdit()));
+        setStretch(*widget->lineEdit(), stretchOf(*widget->lineEdit(), true));
         // It may be longer than the box still. Without it, the tip of the whole box shows.
         const std::string more = box.toolTip().empty() ? "" : '\n' + box.toolTip();
         widget->lineEdit()->setToolTip(box.text().empty() ? "" : toToolTip(box.text() + more));

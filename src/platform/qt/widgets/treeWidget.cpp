@@ -25,8 +25,10 @@ public:
         : ItemWidget(tree, parent), m_tree(tree), m_scale(scale) {
         setColumnCount(1);
         header()->hide();
-        constexpr int pictureSize = 32;
-        setIconSize({pictureSize, pictureSize});
+        keepZoomed(this, scale, [this] {
+            constexpr int pictureSize = 32;
+            setIconSize(QSize(pictureSize, pictureSize) * m_scale.zoom());
+        });
         connect(this, &QTreeWidget::itemExpanded,
                 [this](QTreeWidgetItem* item) { takeExpanded(item, true); });
         connect(this, &QTreeWidget::itemCollapsed,
@@ -182,7 +184,8 @@ private:
         if (m_tree.images() == nullptr || !m_tree.images()->contains(key)) {
             return false;
         }
-        item->setIcon(0, pictureIcon(*m_tree.images(), key));
+        item->setIcon(0, pictureIcon([this, key] { return m_tree.images()->pictureIfAny(key); }, m_scale,
+                                     QPalette::Text));
         return true;
     }
 

@@ -51,6 +51,12 @@ inline void keepInStep(QWidget* widget, Control& control, std::function<void()> 
     keepAttached(widget, control.Changed.connect([update = std::move(update)] { update(); }));
 }
 
+/// Calls `update` now and whenever the window is zoomed, for as long as the widget lives.
+inline void keepZoomed(QWidget* widget, const Scale& scale, std::function<void()> update) {
+    update();
+    keepAttached(widget, scale.Zoomed().connect([update = std::move(update)] { update(); }));
+}
+
 /// Hands chosen events of a widget to a function, which says whether it has dealt with them.
 class EventHook : public QObject {
 public:
@@ -71,7 +77,6 @@ private:
 inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     const ControlDesign& design = control.design();
     widget->setObjectName(toQt(design.name));
-    widget->setGeometry(scale.rect(design.place));
     auto place = std::make_shared<Place>(design.place);
     if (!design.accessibleName.empty()) {
         widget->setAccessibleName(toQt(design.accessibleName));
@@ -92,6 +97,8 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
         widget->setVisible(control.isVisible());
         widget->setEnabled(control.isEnabled());
     });
+    keepZoomed(widget, scale,
+               [widget, &control, scale] { widget->setGeometry(scale.rect(control.place())); });
     if (control.askToolTip) {
         // It is worked out for the pointer, and for the keyboard, whose screen reader says it.
         new EventHook(widget, [widget, &control](QEvent* event) {
