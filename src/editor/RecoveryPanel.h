@@ -39,6 +39,7 @@ public:
     MenuEntry mnuPutAside{m_design,
                           {.name = "mnuPutAside", .caption = "Designs Put Aside..."},
                           [this] { mnuPutAside_Click(); }};
+    MenuEntry mnuSepPutAside{m_design, {.name = "mnuSepPutAside", .caption = "-"}};
     /// Two seconds after a change it puts the design aside.
     Timer tmrRecovery{form(), "tmrRecovery", 2000, false, [this] { tmrRecovery_Timer(); }};
 

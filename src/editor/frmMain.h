@@ -21,6 +21,7 @@
 #include "TrayPanel.h"
 #include "TreePanel.h"
 #include "WindowCommands.h"
+#include "ZoomPanel.h"
 #include "clsMRUFiles.h"
 #include "sheetShip.h"
 
@@ -82,6 +83,7 @@ public:
                       [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); }};
+    ZoomPanel zooms{m_context, mnuDesign};
     GuidePanel guide{m_context, mnuDesign};
     FileCommands files{m_context,
                        mnuFile,

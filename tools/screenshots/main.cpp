@@ -2,6 +2,7 @@
 // sees, and makes the pictures of the guides.
 
 #include "Clock.h"
+#include "DrawingPack.h"
 #include "Error.h"
 #include "FormWindow.h"
 #include "QtDesktop.h"
@@ -28,6 +29,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -37,9 +39,11 @@ namespace fs = std::filesystem;
 /// A desktop that takes a picture of each dialog and cancels it. Of files it chooses one.
 class PictureDesktop : public QtDesktop {
 public:
-    explicit PictureDesktop(fs::path folder) : m_folder(std::move(folder)) {}
+    PictureDesktop(const fs::path& pictures, fs::path folder)
+        : m_drawings(drawingsFile(pictures)), m_folder(std::move(folder)) {}
 
     fs::path choice;
+    std::string ending;  ///< of all names, for a state of the desktop
 
     std::optional<std::string> chooseFileToOpen(const FileDialog&) override {
         return choice.string();
@@ -47,21 +51,26 @@ public:
 
     void showModal(Form& form, Form&) override {
         form.load();
-        FormWindow window(form);
+        const std::unique_ptr<FormWindow> window = windowOf(form);
         form.show();
-        take(window, form.name());
+        take(*window, form.name());
         form.unload();
+    }
+
+    std::unique_ptr<FormWindow> windowOf(Form& form) const {
+        return std::make_unique<FormWindow>(form, nullptr, &m_drawings);
     }
 
     void take(QWidget& window, const std::string& name) const {
         QApplication::processEvents();
-        const fs::path file = m_folder / (name + ".png");
+        const fs::path file = m_folder / (name + ending + ".png");
         if (!window.grab().save(QString::fromStdString(file.string()))) {
             throw FileError(file, "cannot be saved");
         }
     }
 
 private:
+    DrawingPack m_drawings;
     fs::path m_folder;
 };
 
@@ -100,12 +109,12 @@ void takeMapper(PictureDesktop& desktop, const frmMain& form, const fs::path& ap
                       .lvCurrentWeapons = form.aboard.lvCurrentWeapons,
                       .ship = [&form] { return sheetShip(form); }});
     mapper.load();
-    FormWindow window(mapper);
+    const std::unique_ptr<FormWindow> window = desktop.windowOf(mapper);
     mapper.show();
-    desktop.take(window, "mapper-empty");
+    desktop.take(*window, "mapper-empty");
     mapper.cboMapSelection.type("Cruiser Warship - Halberd");
     mapper.cmdDrawIt.press();
-    desktop.take(window, "mapper");
+    desktop.take(*window, "mapper");
 }
 
 /// The question after a crash.
@@ -131,7 +140,7 @@ private:
 };
 
 /// The windows around maps: new, with an outline whose scan is on its way, and with its map.
-void takeAuthoring(const fs::path& pictures, PictureDesktop& desktop, const std::string& ending) {
+void takeAuthoring(const fs::path& pictures, PictureDesktop& desktop) {
     QtPictureFiles files;
     LateClock clock;
     SSDMaps maps;
@@ -145,25 +154,25 @@ void takeAuthoring(const fs::path& pictures, PictureDesktop& desktop, const std:
                                   [&] {
                                       constexpr int middle = 20;
                                       if (++turns == middle) {
-                                          desktop.take(*shown, "map-creator-scanning" + ending);
+                                          desktop.take(*shown, "map-creator-scanning");
                                       }
                                   },
                               .g_colSSDMaps = maps});
     creator.load();
-    FormWindow creatorWindow(creator);
-    shown = &creatorWindow;
-    desktop.take(creatorWindow, "map-creator-new" + ending);
+    const std::unique_ptr<FormWindow> creatorWindow = desktop.windowOf(creator);
+    shown = creatorWindow.get();
+    desktop.take(*creatorWindow, "map-creator-new");
     desktop.choice = pictures / "shipimages" / "Capital Warship - Sovereign.gif";
     creator.cmdSelect.press();
     creator.cmdDoit.press();
-    desktop.take(creatorWindow, "map-creator" + ending);
+    desktop.take(*creatorWindow, "map-creator");
 
     frmSSDView viewer({.appFolder = pictures, .desktop = desktop, .pictures = files});
     viewer.show();
-    FormWindow viewerWindow(viewer);
-    desktop.take(viewerWindow, "viewer-new" + ending);
+    const std::unique_ptr<FormWindow> viewerWindow = desktop.windowOf(viewer);
+    desktop.take(*viewerWindow, "viewer-new");
     viewer.cmdSelect.press();
-    desktop.take(viewerWindow, "viewer" + ending);
+    desktop.take(*viewerWindow, "viewer");
 }
 
 void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& output) {
@@ -177,7 +186,7 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     fs::create_symlink(fs::absolute(pictures) / "drawings.dat", appFolder / "drawings.dat");
     drawSheets(appFolder, data / "ships", output);
 
-    PictureDesktop desktop(output);
+    PictureDesktop desktop(pictures, output);
     QtPictureFiles files;
     QtPrograms programs;
     QtRegistry registry;
@@ -192,9 +201,17 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     frmMain form(services);
     form.load();
     const auto take = [&](const std::string& name) {
-        FormWindow window(form);
-        window.show();
-        desktop.take(window, name);
+        const std::unique_ptr<FormWindow> window = desktop.windowOf(form);
+        window->show();
+        desktop.take(*window, name);
+    };
+    frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
+    const auto takeDialogs = [&] {
+        form.windows.mnuExtrasPage.choose();
+        takePutAside(desktop, form);
+        desktop.showModal(about, form);
+        takeAuthoring(pictures, desktop);
+        takeMapper(desktop, form, appFolder);
     };
     form.setVisible(true);
     take("main-new");
@@ -204,21 +221,30 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     showShip(form, data / "ships" / "Provost.shp", "Pulse Cannon III (FPS)");
     take("main");
     form.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
-    form.windows.mnuExtrasPage.choose();
-    takePutAside(desktop, form);
-    frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
-    desktop.showModal(about, form);
-    takeAuthoring(pictures, desktop, "");
+    takeDialogs();
     const QPalette light = QApplication::palette();
-    QApplication::setPalette(darkPalette());
-    take("main-dark");
+    for (const bool isDark : {false, true}) {
+        QApplication::setPalette(isDark ? darkPalette() : light);
+        for (const int percent : {75, 100, 150, 200, 300}) {
+            desktop.ending = (isDark ? "-dark" : "") +
+                             (percent == Zoom::actual ? "" : '-' + std::to_string(percent));
+            form.setZoom(Zoom(percent));
+            if (!desktop.ending.empty()) {
+                take("main");
+            }
+            form.setZoom(Zoom());
+        }
+    }
+    desktop.ending = "-dark";
+    takeDialogs();
     QApplication::setPalette(light);
-    takeMapper(desktop, form, appFolder);
+    desktop.ending = "-large-font";
     QFont large = QApplication::font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     QApplication::setFont(large);
-    take("main-large-font");
-    takeAuthoring(pictures, desktop, "-large-font");
+    take("main");
+    takeAuthoring(pictures, desktop);
+    desktop.ending = "";
     form.hull.optStarBase.choose();
     form.mass.mnuAutoMass.choose();
     take("main-base");

@@ -1,73 +1,26 @@
 #include "FormWindow.h"
 
 #include "Form.h"
+#include "FormInside.h"
 #include "Frame.h"
 #include "Timer.h"
-#include "ZoomedStyle.h"
+#include "contrast.h"
 #include "controlWidgets.h"
-#include "drawnImage.h"
 #include "widgetTools.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
-#include <QMenu>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QWindow>
 
-#include <algorithm>
-#include <cmath>
-
 namespace fleetwright {
 
 namespace {
-
-/// What stands inside a window's border, with the form's picture behind the controls.
-class Inside : public QWidget {
-public:
-    Inside(const Form& form, const Scale& scale, QWidget* parent)
-        : QWidget(parent), m_form(form), m_scale(scale) {}
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        const Raster& picture = m_form.picture();
-        if (!picture.isEmpty()) {
-            // Picture and window have grown by the same factor.
-            QPainter painter(this);
-            painter.setRenderHint(QPainter::SmoothPixmapTransform);
-            const double factor = double(width()) / picture.width();
-            const QRectF place(0, 0, width(), picture.height() * factor);
-            const QSize size = (place.size() * devicePixelRatio()).toSize();
-            if (size != m_shown.size() || picture.key() != m_key) {
-                m_shown = shown(picture, size);
-                m_key = picture.key();
-            }
-            painter.drawImage(place, m_shown);
-        }
-    }
-
-private:
-    QImage shown(const Raster& picture, const QSize& size) const {
-        // The pixels do for a little more than their size, and no start waits for a drawing.
-        constexpr double muchLarger = 1.25;
-        const std::shared_ptr<const Drawing> drawing =
-            size.width() < muchLarger * picture.width() ? nullptr : m_scale.drawingOf(picture);
-        return drawing == nullptr
-                   ? toImage(picture).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                   : drawnImage(*drawing, size);
-    }
-
-    const Form& m_form;
-    Scale m_scale;
-    QImage m_shown;
-    Raster::Key m_key{};  // of what is shown
-};
 
 /// The view of a form's inside, which scrolls only where the screen is too small for the form.
 class View : public QScrollArea {
@@ -83,21 +36,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
 };
 
-/// The desktop's font for a window that is zoomed. It has nothing but a size.
-QFont zoomedFont(double zoom) {
-    const QFont plain = QApplication::font();
-    QFont font;
-    if (zoom == 1) {
-        return font;
-    }
-    if (plain.pointSizeF() > 0) {
-        font.setPointSizeF(plain.pointSizeF() * zoom);
-    } else {
-        font.setPixelSize(static_cast<int>(std::lround(plain.pixelSize() * zoom)));
-    }
-    return font;
-}
-
 /// A window that the rules have just asked to paint waits for the desktop. The rules are in the
 /// middle of their work then, and no timer may run into them.
 bool isAwaitingDesktop = false;
@@ -107,8 +45,9 @@ bool isAwaitingDesktop = false;
 FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis,
                        const Drawings* drawings)
     : QMainWindow(owner), m_form(form), m_scale(form.place().width, form.place().height, drawings),
-      m_inside(new Inside(form, m_scale, this)), m_whatsThis(std::move(whatsThis)) {
+      m_inside(new FormInside(form, m_scale, this)), m_whatsThis(std::move(whatsThis)) {
     setObjectName(toQt(form.name()));
+    setPalette(readableColours(QApplication::palette()));
     setFrame(owner);
     m_inside->resize(formSize());
     addControls(form, m_inside);
@@ -206,70 +145,6 @@ void FormWindow::addTimer(Timer& timer) {
     m_connections.push_back(timer.Changed.connect(follow));
 }
 
-/// Those keys of which a menu of the form has no part.
-void FormWindow::addZoomKeys() {
-    const auto add = [this](const char* keys, Zoom (*wanted)(Zoom)) {
-        const QKeySequence sequence(keys);
-        const auto hasKeys = [&sequence](const auto* each) { return each->key() == sequence; };
-        const auto isMenus = [&sequence](const QAction* action) {
-            return action->shortcuts().contains(sequence);
-        };
-        if (std::ranges::none_of(findChildren<QShortcut*>(), hasKeys) &&
-            std::ranges::none_of(findChildren<QAction*>(), isMenus)) {
-            new QShortcut(sequence, this,
-                          [this, wanted] { m_form.setZoom(wanted(m_form.zoom())); });
-        }
-    };
-    for (const char* const keys : {"Ctrl++", "Ctrl+="}) {
-        add(keys, [](Zoom zoom) { return zoom.larger(); });
-    }
-    add("Ctrl+-", [](Zoom zoom) { return zoom.smaller(); });
-    add("Ctrl+0", [](Zoom) { return Zoom(); });
-}
-
-/// Brings texts, widgets and what is in them to the form's zoom.
-void FormWindow::followZoom() {
-    const double zoom = m_form.zoom().percent() / double(Zoom::actual);
-    if (zoom == m_scale.zoom()) {
-        return;
-    }
-    const QScopedValueRollback<bool> updating(m_isUpdating, true);
-    m_scale.setZoom(zoom);
-    const QFont font = zoomedFont(zoom);
-    setFont(font);
-    if (m_zoomedStyle == nullptr) {
-        m_zoomedStyle = new ZoomedStyle(m_scale, this);  // which goes after the widgets
-    }
-    for (QWidget* const widget : findChildren<QWidget*>()) {
-        const bool isMenu = qobject_cast<QMenu*>(widget) != nullptr;
-        if (isMenu) {
-            widget->setFont(font);
-        }
-        if (isMenu || widget->window() == this) {
-            widget->setStyle(zoom == 1 ? nullptr : m_zoomedStyle);
-        }
-    }
-    m_scale.Zoomed().raise();
-    updateSize();
-    keepOnScreen();
-    notePlace();
-}
-
-/// A window that has grown may have left the screen.
-void FormWindow::keepOnScreen() {
-    if (!isVisible() || m_form.state() != WindowState::Normal) {
-        return;
-    }
-    const QRect room = screen()->availableGeometry();
-    const QRect frame = frameGeometry();
-    const QPoint corner(
-        std::max(std::min(frame.left(), room.right() + 1 - frame.width()), room.left()),
-        std::max(std::min(frame.top(), room.bottom() + 1 - frame.height()), room.top()));
-    if (corner != frame.topLeft()) {
-        move(corner);
-    }
-}
-
 void FormWindow::update() {
     const QScopedValueRollback<bool> updating(m_isUpdating, true);
     setWindowTitle(toQt(m_form.caption()));
@@ -289,7 +164,8 @@ void FormWindow::update() {
 QSize FormWindow::fitting(const QSize& inside) const {
     constexpr QSize usualFrame(10, 40);  // until the desktop has given the window one
     const QSize frame = (frameGeometry().size() - geometry().size()).expandedTo(usualFrame);
-    const QSize room = screen()->availableSize() - frame;
+    const QSize menus(0, menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height());
+    const QSize room = screen()->availableSize() - frame - menus;
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     QSize view = inside;
     if (inside.height() > room.height()) {
@@ -407,6 +283,8 @@ void FormWindow::repaintNow() {
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && m_form.isVisible()) {
         m_form.activate();
+    } else if (event->type() == QEvent::ApplicationPaletteChange) {
+        setPalette(readableColours(QApplication::palette()));
     }
     return QMainWindow::event(event);
 }

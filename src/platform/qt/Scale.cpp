@@ -42,7 +42,6 @@ QRect Scale::rect(const Place& place) const {
 
 void Scale::setZoom(double zoom) const {
     m_shared->zoom = zoom;
-    m_shared->Zoomed.raise();
 }
 
 int Scale::zoomed(int pixels) const {

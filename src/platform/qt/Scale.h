@@ -31,10 +31,10 @@ public:
 
     /// How much larger the window is than by itself; 1 at first.
     double zoom() const { return m_shared->zoom; }
-    void setZoom(double zoom) const;
+    void setZoom(double zoom) const;  ///< `Zoomed` is the window's to raise
     /// What is so many pixels large by itself.
     int zoomed(int pixels) const;
-    /// The window has been zoomed. For the widgets in it, whose places have followed already.
+    /// The window has been zoomed, and its font with it. For the widgets in it.
     Signal<>& Zoomed() const { return m_shared->Zoomed; }
 
     /// The drawing of a picture; null if it has none that can be read.

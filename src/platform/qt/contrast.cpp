@@ -23,16 +23,41 @@ double contrast(const QColor& one, const QColor& other) {
     return (lighter + glare) / (darker + glare);
 }
 
-QColor readableOn(const QColor& ground, const QColor& colour) {
+QColor readableOn(const QColor& ground, const QColor& colour, double least) {
+    if (contrast(ground, colour) >= least) {
+        return colour;
+    }
     const bool isDarkBetter = contrast(ground, Qt::black) > contrast(ground, Qt::white);
     const float step = isDarkBetter ? -0.01F : 0.01F;
     QColor shade = colour.toHsl();
-    while (contrast(shade, ground) < readableContrast && shade.lightnessF() + step >= 0 &&
+    while (contrast(shade, ground) < least && shade.lightnessF() + step >= 0 &&
            shade.lightnessF() + step <= 1) {
         shade.setHslF(std::max(shade.hslHueF(), 0.0F), shade.hslSaturationF(),
                       shade.lightnessF() + step);
     }
     return shade.toRgb();
+}
+
+QPalette readableColours(const QPalette& palette) {
+    using Role = QPalette::ColorRole;
+    struct Pair {
+        Role changed, kept;
+    };
+    QPalette colours;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        // The ground of what is selected has no other use, that of all else has.
+        for (const auto& [changed, kept] :
+             {Pair{QPalette::Highlight, QPalette::HighlightedText},
+              Pair{QPalette::Text, QPalette::Base}, Pair{QPalette::ButtonText, QPalette::Button},
+              Pair{QPalette::WindowText, QPalette::Window}}) {
+            const QColor colour = palette.color(group, changed);
+            const QColor readable = readableOn(palette.color(group, kept), colour);
+            if (readable != colour) {
+                colours.setColor(group, changed, readable);
+            }
+        }
+    }
+    return colours;
 }
 
 QColor warningColour(const QPalette& palette) {

@@ -11,8 +11,12 @@ inline constexpr double readableContrast = 4.5;
 /// How far two colours are apart for the eye, as WCAG 2 counts: from 1 for equal ones to 21.
 double contrast(const QColor& one, const QColor& other);
 
-/// This colour, or the darker or lighter one of its hue that can be read on `ground`.
-QColor readableOn(const QColor& ground, const QColor& colour);
+/// This colour, or the darker or lighter one of its hue that is so far apart from `ground`.
+QColor readableOn(const QColor& ground, const QColor& colour, double least = readableContrast);
+
+/// Those colours of a palette that have to be others for what is written to be read; what is
+/// enabled has to.
+QPalette readableColours(const QPalette& palette);
 
 /// What a text that warns is written in, on windows and in boxes of a palette, light or dark.
 QColor warningColour(const QPalette& palette);

@@ -38,10 +38,14 @@ QImage drawnImage(const Drawing& drawing, const QSize& size) {
     return imageOn(Qt::transparent, drawing, size);
 }
 
-QImage inkImage(const Drawing& drawing, const QSize& size, const QColor& ink) {
-    QImage cover = imageOn(Qt::white, drawing, size).convertToFormat(QImage::Format_Grayscale8);
+QImage inkOf(const Drawing& drawing, const QSize& size, const QColor& ink) {
+    return inkOf(imageOn(Qt::white, drawing, size), ink);
+}
+
+QImage inkOf(const QImage& picture, const QColor& ink) {
+    QImage cover = picture.convertToFormat(QImage::Format_Grayscale8);
     cover.invertPixels();
-    QImage image(size, QImage::Format_ARGB32);
+    QImage image(picture.size(), QImage::Format_ARGB32);
     image.fill(ink);
     image.setAlphaChannel(cover);
     return image;

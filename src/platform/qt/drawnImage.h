@@ -14,6 +14,8 @@ bool isInk(const Drawing& drawing);
 QImage drawnImage(const Drawing& drawing, const QSize& size);
 
 /// The same as ink of one colour on no paper: what is white lets through what is behind.
-QImage inkImage(const Drawing& drawing, const QSize& size, const QColor& ink);
+QImage inkOf(const Drawing& drawing, const QSize& size, const QColor& ink);
+/// What is on a picture in greys.
+QImage inkOf(const QImage& picture, const QColor& ink);
 
 }  // namespace fleetwright

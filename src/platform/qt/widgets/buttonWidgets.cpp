@@ -5,6 +5,7 @@
 #include "Frame.h"
 #include "OptionButton.h"
 #include "UpDown.h"
+#include "contrast.h"
 #include "controlWidgets.h"
 #include "pictureIcon.h"
 #include "widgetTools.h"
@@ -185,8 +186,11 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         // Which button is down must be seen at once, in dark themes too.
         QPalette palette = widget->parentWidget()->palette();
         if (button.design().isGraphical && button.isOn()) {
-            palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
-            palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+            const QColor text = palette.color(QPalette::HighlightedText);
+            constexpr double clearly = 7;  // as styles draw buttons paler than they are told
+            palette.setColor(QPalette::Button,
+                             readableOn(text, palette.color(QPalette::Highlight), clearly));
+            palette.setColor(QPalette::ButtonText, text);
         }
         widget->setPalette(palette);
     };
@@ -197,7 +201,7 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         showState();
     });
     new EventHook(widget, [widget, showState](QEvent* event) {
-        if (event->type() == QEvent::ApplicationPaletteChange) {
+        if (isNewPalette(*event)) {
             showState();
         }
         return event->type() == QEvent::KeyPress &&

@@ -168,10 +168,10 @@ private:
         }
     }
 
-    /// Widths that the user has given keep their share.
+    /// Widths that the user has given keep their share. The last one is what is left.
     void zoomColumns() {
         const double growth = m_scale.zoom() / std::exchange(m_shownZoom, m_scale.zoom());
-        for (int i = 0; i < std::ssize(m_list.columns()) && growth != 1; ++i) {
+        for (int i = 0; i + 1 < std::ssize(m_list.columns()) && growth != 1; ++i) {
             setColumnWidth(i, static_cast<int>(std::lround(columnWidth(i) * growth)));
         }
         scheduleDelayedItemsLayout();

@@ -22,10 +22,11 @@ namespace {
 
 class PictureEngine : public QIconEngine {
 public:
-    /// `plain` is the icon as it is without a drawing; if it is null, it is made of the pixels.
-    PictureEngine(std::function<Raster()> read, QIcon plain, const Scale& scale,
+    /// `face` is a face of the program as it is without a drawing, or null.
+    PictureEngine(std::function<Raster()> read, QIcon face, const Scale& scale,
                   QPalette::ColorRole role)
-        : m_read(std::move(read)), m_plain(std::move(plain)), m_scale(scale), m_role(role) {}
+        : m_read(std::move(read)), m_isFace(!face.isNull()), m_plain(std::move(face)),
+          m_scale(scale), m_role(role) {}
 
     QIconEngine* clone() const override { return new PictureEngine(*this); }
 
@@ -94,32 +95,30 @@ private:
         const QPalette palette = QApplication::palette();
         const bool isDark = palette.color(QPalette::Window).lightness() <
                             palette.color(QPalette::WindowText).lightness();
-        // Who sees the pixels as they were made needs no drawing.
+        const bool isMarked = mode == QIcon::Selected || state == QIcon::On;
+        // On light ground the pixels look like the drawing, and no start waits for one.
         const std::shared_ptr<const Drawing> drawing =
-            isScaled || isDark ? m_scale.drawingOf(raster()) : nullptr;
-        const bool isPaper = drawing != nullptr && isInk(*drawing);
-        if (isDark && isPaper) {
-            return QPixmap::fromImage(inkImage(*drawing, size, ink(palette, mode, state)));
+            isScaled || (!m_isFace && (isDark || isMarked)) ? m_scale.drawingOf(raster()) : nullptr;
+        if (drawing != nullptr && isInk(*drawing)) {
+            return QPixmap::fromImage(inkOf(*drawing, size, ink(palette, mode, isMarked)));
         }
-        QPixmap pixmap(size);
-        if (drawing == nullptr || !isScaled) {
-            pixmap = plain().pixmap(size, 1.0).scaled(size, Qt::IgnoreAspectRatio,
-                                                      Qt::SmoothTransformation);
-        } else {
-            pixmap.fill(isPaper ? Qt::white : Qt::transparent);
-            QPainter(&pixmap).drawImage(0, 0, drawnImage(*drawing, size));
+        if (drawing != nullptr && isScaled) {
+            return QPixmap::fromImage(drawnImage(*drawing, size));
+        }
+        const QPixmap pixmap =
+            plain().pixmap(size, 1.0).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        if (const QImage image = pixmap.toImage(); m_isFace && image.allGray()) {
+            return QPixmap::fromImage(inkOf(image, ink(palette, mode, isMarked)));
         }
         QStyleOption option;
         option.palette = palette;
         return QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
     }
 
-    QColor ink(const QPalette& palette, QIcon::Mode mode, QIcon::State state) const {
-        if (mode == QIcon::Disabled) {
-            return palette.color(QPalette::Disabled, m_role);
-        }
-        const bool isMarked = mode == QIcon::Selected || state == QIcon::On;
-        return palette.color(isMarked ? QPalette::HighlightedText : m_role);
+    QColor ink(const QPalette& palette, QIcon::Mode mode, bool isMarked) const {
+        return mode == QIcon::Disabled
+                   ? palette.color(QPalette::Disabled, m_role)
+                   : palette.color(isMarked ? QPalette::HighlightedText : m_role);
     }
 
     /// In pixels of the picture.
@@ -148,7 +147,8 @@ private:
 
     std::function<Raster()> m_read;
     std::optional<Raster> m_raster;
-    QIcon m_plain;
+    bool m_isFace;
+    QIcon m_plain;  // what it looks like without a drawing
     Scale m_scale;
     QPalette::ColorRole m_role;
     std::vector<Made> m_made;

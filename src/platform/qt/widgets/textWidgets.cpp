@@ -205,7 +205,7 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     QObject::connect(widget, &QLineEdit::textEdited,
                      [&box](const QString& text) { box.type(text.toStdString()); });
     new EventHook(widget, [widget, &box, scale, show](QEvent* event) {
-        if (event->type() == QEvent::ApplicationPaletteChange) {
+        if (isNewPalette(*event)) {
             show();
         }
         return takeEvent(*event, box, *widget, scale);

@@ -57,6 +57,12 @@ inline void keepZoomed(QWidget* widget, const Scale& scale, std::function<void()
     keepAttached(widget, scale.Zoomed().connect([update = std::move(update)] { update(); }));
 }
 
+/// Whether the desktop's colours have become others, or those of the window.
+inline bool isNewPalette(const QEvent& event) {
+    return event.type() == QEvent::ApplicationPaletteChange ||
+           event.type() == QEvent::PaletteChange;
+}
+
 /// Hands chosen events of a widget to a function, which says whether it has dealt with them.
 class EventHook : public QObject {
 public:
