@@ -97,6 +97,13 @@ ControlRows designMenuTexts() {
         ControlText{"mnuPutAside", "Designs Put Aside...",
                     "Lists the designs that were never saved: after a crash, and whenever another "
                     "one took their place. Any of them can be opened."},
+        ControlText{"mnuZoomIn", "Zoom In",
+                    "Shows the window and all that is in it larger, up to 300 %. The keys, Ctrl++, "
+                    "do so in each window, and each keeps its own size. What the screen has no "
+                    "room for scrolls."},
+        ControlText{"mnuZoomOut", "Zoom Out",
+                    "Shows the window and all that is in it smaller, down to 75 %."},
+        ControlText{"mnuActualSize", "Actual Size", "Shows the window at 100 % again."},
         ControlText{
             "mnuGuide", "Player's Guide",
             "Opens the guide in the browser. It lies in the folder of the program and needs "
