@@ -58,7 +58,7 @@ public:
     }
 
     std::unique_ptr<FormWindow> windowOf(Form& form) const {
-        return std::make_unique<FormWindow>(form, nullptr, &m_drawings);
+        return std::make_unique<FormWindow>(form, nullptr, WhatsThisText(), &m_drawings);
     }
 
     void take(QWidget& window, const std::string& name) const {

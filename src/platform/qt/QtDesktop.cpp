@@ -142,8 +142,7 @@ void QtDesktop::present(Form& form) {
         if (form.isVisible() && !presented.isMade) {
             presented.isMade = true;
             presented.zoomed = keepZoom(form);
-            presented.window =
-                std::make_unique<FormWindow>(form, nullptr, m_whatsThis, m_drawings);
+            presented.window = std::make_unique<FormWindow>(form, nullptr, m_whatsThis, m_drawings);
         }
     };
     makeWhenShown();

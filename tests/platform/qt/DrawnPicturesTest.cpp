@@ -43,7 +43,7 @@ std::array<QColor, 3> coloursOf(const Drawings& drawings, const Raster& picture,
     AllKinds form;
     form.images.add("ROOT", Raster(picture));
     form.setZoom(Zoom(percent));
-    FormWindow window(form, nullptr, &drawings);
+    FormWindow window(form, nullptr, {}, &drawings);
     form.show();
     auto* const tree = window.findChild<QTreeWidget*>("tree");
     const QRect row = tree->visualItemRect(tree->topLevelItem(0));
