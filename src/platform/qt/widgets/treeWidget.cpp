@@ -184,8 +184,8 @@ private:
         if (m_tree.images() == nullptr || !m_tree.images()->contains(key)) {
             return false;
         }
-        item->setIcon(0, pictureIcon([this, key] { return m_tree.images()->pictureIfAny(key); }, m_scale,
-                                     QPalette::Text));
+        item->setIcon(0, pictureIcon([this, key] { return m_tree.images()->pictureIfAny(key); },
+                                     m_scale, QPalette::Text));
         return true;
     }
 
