@@ -45,6 +45,9 @@ public:
     std::vector<WeapRec>& records() { return m_records; }
     const std::vector<WeapRec>& records() const { return m_records; }
 
+    /// What they were taken from.
+    const std::shared_ptr<const CatalogueText>& text() const { return m_text; }
+
     /// What the catalogue tells players of a record, which is one of `records`; or nothing.
     std::string_view rulesOf(std::size_t index) const { return m_text->lines()[index].rules; }
 

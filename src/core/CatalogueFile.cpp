@@ -74,6 +74,12 @@ CatalogueFile CatalogueFile::readOnce(const std::filesystem::path& path) {
     return file;
 }
 
+CatalogueFile CatalogueFile::holding(std::shared_ptr<const CatalogueText> catalogue) {
+    CatalogueFile file = readOnce({});
+    file.m_cache->catalogue = std::move(catalogue);
+    return file;
+}
+
 const std::filesystem::path& CatalogueFile::path() const {
     return m_cache->path;
 }

@@ -73,6 +73,9 @@ public:
     /// it.
     static CatalogueFile readOnce(const std::filesystem::path& path);
 
+    /// The same of a text that was read already.
+    static CatalogueFile holding(std::shared_ptr<const CatalogueText> catalogue);
+
     template <typename Path>
     requires std::convertible_to<const Path&, std::filesystem::path> CatalogueFile(const Path& path)
         : m_cache(make(path)) {}

@@ -145,6 +145,8 @@ public:
     /// know the name.
     std::string_view rulesOf(std::string_view name) const;
 
+    /// The catalogue that the ship has its records from, one a line.
+    const std::shared_ptr<const CatalogueText>& catalogueText() const { return m_catalogue.text(); }
     /// All that the ship is now.
     ShipState state() const;
     /// Makes the ship what it was, or what another one with the same catalogue is, without an

@@ -2,8 +2,10 @@
 
 #include "HullRules.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -29,6 +31,20 @@ struct ShipNumbers {
     friend bool operator==(const ShipNumbers&, const ShipNumbers&) = default;
 };
 static_assert(std::is_trivially_copyable_v<ShipNumbers>);
+
+/// The whole numbers among them, one behind the other: all but the two flags at their end.
+inline constexpr std::size_t shipWordCount = offsetof(ShipNumbers, g_bAutoMass) / 4;
+static_assert(sizeof(ShipNumbers) == 4 * shipWordCount + 4);
+using ShipWords = std::array<std::uint32_t, shipWordCount>;
+
+inline ShipWords wordsOf(const ShipNumbers& numbers) {
+    ShipWords words;
+    std::memcpy(words.data(), &numbers, sizeof words);
+    return words;
+}
+inline void setWords(ShipNumbers& numbers, const ShipWords& words) {
+    std::memcpy(static_cast<void*>(&numbers), words.data(), sizeof words);
+}
 
 /// What a ship is called.
 struct ShipNames {

@@ -2,6 +2,8 @@
 
 #include <deque>
 #include <functional>
+#include <string>
+#include <string_view>
 
 namespace fleetwright {
 
@@ -29,6 +31,9 @@ public:
         /// Remembers the state as it is: what it returns goes back to that state and shows it.
         std::function<Work()> remember;
         Work overflowed;  ///< an act was undone because a number became too large
+        /// Nothing is under way any more; before that was one act, or more than one. `kind` is what
+        /// the one has said of itself, else empty. May be empty.
+        std::function<void(std::string_view kind)> rested = {};
     };
 
     explicit Acts(Subject subject);
@@ -36,8 +41,11 @@ public:
     Acts& operator=(const Acts&) = delete;
     ~Acts() = default;
 
-    /// Runs an act, or a part of the one that is under way.
-    void act(const Work& change);
+    /// Runs an act, or a part of the one that is under way. Acts of the same kind that follow each
+    /// other closely, such as those of an arrow that is held, are one to the user.
+    void act(const Work& change, std::string_view kind = {});
+    /// Runs what only shows the state as it is: controls that change there act on nothing.
+    void showOnly(const Work& show);
     /// Runs what runs the event loop: acts that come in there are acts of their own.
     void letActsIn(const Work& turn);
     /// Runs work that finds the ship at rest: now, or when what is under way has ended.
@@ -50,6 +58,7 @@ public:
 private:
     class Scope;
 
+    void rest();
     void runWaiting();
 
     Subject m_subject;
@@ -57,6 +66,8 @@ private:
     Work m_end;
     int m_depth = 0;            ///< what is under way, one inside the other
     bool m_letsActsIn = false;  ///< whether the innermost of that does
+    bool m_onlyShows = false;   ///< whether that shows, and acts on nothing
+    std::string m_kind;         ///< of the one act since the last rest
 };
 
 }  // namespace fleetwright

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "HistoryPanel.h"
 #include "Printer.h"
 #include "RecoveryPanel.h"
 #include "ReportPrinter.h"
@@ -117,8 +118,9 @@ void FileCommands::tmrOpen_Timer() {
 
 void FileCommands::openPutAside(const std::filesystem::path& file) {
     whenReplaceable([this, name = pathText(file)] {
-        readBytes(
-            nativePath(name));  // another run may have thrown it away: then nothing is replaced
+        // Another run may have thrown it away: then nothing is replaced.
+        const std::string shipFile = readBytes(nativePath(name));
+        const std::string steps = RecoveryFolder::stepsOf(nativePath(name));
         window().acts.letActsIn([&] {
             fileFault.reset();
             if (replaceBy(name)) {
@@ -129,7 +131,9 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
                     ship().g_bSaved = false;
                     window().RefreshScreen();
                 });
-                window().say("This design is not saved yet. Save As gives it a file.");
+                const bool hasSteps = steps.empty() || m_others.history.adopt(steps, shipFile);
+                window().say(std::string("This design is not saved yet. Save As gives it a file.") +
+                             (hasSteps ? "" : " Its steps cannot be undone any more."));
             } else if (fileFault) {
                 window().say("The design cannot be opened: " + fileFault->text);
             }
@@ -244,6 +248,7 @@ void FileCommands::saveAs(std::string fileName) {
     act([&] { isSaved = ship().saveShip(fileName); });
     if (isSaved) {
         m_others.recovery.noteSafe();
+        m_others.history.noteSaved();
         addRecentFile(fileName);
     }
 }

@@ -14,6 +14,7 @@
 
 namespace fleetwright {
 
+class HistoryPanel;
 class RecoveryPanel;
 class clsMRUFiles;
 
@@ -24,6 +25,7 @@ public:
     struct Others {
         const std::unique_ptr<clsMRUFiles>& CMRUList;
         RecoveryPanel& recovery;
+        HistoryPanel& history;
         Handler replaceShip;  ///< puts a new ship, without rows, into the place of the one at hand
         Handler clearAutoMass;  ///< takes the mark of AutoMass away
     };

@@ -8,6 +8,7 @@
 
 namespace fleetwright {
 
+class Clock;
 class Desktop;
 class PictureFiles;
 class Printer;
@@ -47,6 +48,8 @@ struct MainWindowServices {
     std::function<const SheetOutput*()> sheets = [] { return nullptr; };
     /// Whether nothing of the start is on the screen any more.
     std::function<bool()> isStartOver = [] { return true; };
+    /// By it the moments of a held arrow are one step; null if each is one of its own.
+    Clock* clock = nullptr;
     /// Without a screen nobody sees the tree, and it is not built.
     bool hasScreen = true;
 };

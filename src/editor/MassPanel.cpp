@@ -51,7 +51,8 @@ void MassPanel::markAutoMass(bool isOn) {
 }
 
 void MassPanel::stepMass(std::int32_t step) {
-    act([&] { txtMass.setText(std::to_string(checkedAdd(wholeNumber(txtMass.text()), step))); });
+    act([&] { txtMass.setText(std::to_string(checkedAdd(wholeNumber(txtMass.text()), step))); },
+        "mass " + std::to_string(step));
 }
 
 void MassPanel::raiseMassToSmallest() {

@@ -16,8 +16,10 @@ void NamesPanel::show() {
 }
 
 void NamesPanel::nameShip(const std::string& designer, const std::string& shipName) {
-    ship().g_sDesignerName = designer;
-    ship().g_sShipName = shipName;
+    act([&] {
+        ship().g_sDesignerName = designer;
+        ship().g_sShipName = shipName;
+    });
 }
 
 void NamesPanel::openOrCommit(const Name& name) {
@@ -38,7 +40,7 @@ bool NamesPanel::commitOnEnter(const Name& name, int KeyAscii) {
 
 void NamesPanel::commit(const Name& name) {
     name.box.setLocked(true);
-    ship().*name.name = name.box.text();
+    act([&] { ship().*name.name = name.box.text(); }, name.box.name());
     name.isEditing = false;
     m_changed();
 }

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace fleetwright {
 
@@ -38,7 +39,9 @@ protected:
     const MainWindowServices& services() const { return m_window.services; }
     /// The current ship; only inside an act or a `show`.
     ShipClass& ship() const { return *m_window.g_Ship; }
-    void act(const Acts::Work& change) const { m_window.acts.act(change); }
+    void act(const Acts::Work& change, std::string_view kind = {}) const {
+        m_window.acts.act(change, kind);
+    }
 
 private:
     const PanelContext& m_window;

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "fingerprint.h"
 #include "frmPutAside.h"
 
 #include <utility>
@@ -9,8 +10,9 @@
 namespace fleetwright {
 
 RecoveryPanel::RecoveryPanel(const PanelContext& context, MenuEntry& mnuDesign,
-                             std::function<void(const std::filesystem::path&)> open)
-    : Panel(context), m_design(mnuDesign), m_open(std::move(open)) {}
+                             std::function<void(const std::filesystem::path&)> open,
+                             std::function<std::string()> steps)
+    : Panel(context), m_design(mnuDesign), m_open(std::move(open)), m_steps(std::move(steps)) {}
 
 void RecoveryPanel::noteChange() {
     if (services().recovery != nullptr && !tmrRecovery.isEnabled()) {
@@ -21,13 +23,14 @@ void RecoveryPanel::noteChange() {
 void RecoveryPanel::noteSafe() {
     if (services().recovery != nullptr) {
         services().recovery->forget();
-        m_safeFile = ship().shipFile();
-        m_asideFile.clear();
+        m_safe = fingerprint(ship().shipFile());
+        m_aside.reset();
     }
 }
 
 bool RecoveryPanel::isSafe() const {
-    return services().recovery == nullptr || !window().g_Ship || ship().shipFile() == m_safeFile;
+    return services().recovery == nullptr || !window().g_Ship ||
+           fingerprint(ship().shipFile()) == m_safe;
 }
 
 void RecoveryPanel::tmrRecovery_Timer() {
@@ -35,17 +38,17 @@ void RecoveryPanel::tmrRecovery_Timer() {
     if (isSafe()) {
         if (services().recovery != nullptr) {
             services().recovery->forget();
-            m_asideFile.clear();
+            m_aside.reset();
         }
         return;
     }
-    const RecoveryFolder::Aside aside = design();
-    if (aside.shipFile == m_asideFile) {
+    RecoveryFolder::Aside aside = design();
+    if (aside == m_aside) {
         return;
     }
     try {
         services().recovery->put(aside);
-        m_asideFile = aside.shipFile;
+        m_aside = std::move(aside);
     } catch (const FileError& error) {
         window().say(std::string("The design cannot be put aside: ") + error.what());
     }
@@ -77,7 +80,7 @@ bool RecoveryPanel::giveUpDesign() {
 }
 
 RecoveryFolder::Aside RecoveryPanel::design() const {
-    return {ship().g_sShipName, ship().mass(), ship().shipFile()};
+    return {ship().g_sShipName, ship().mass(), ship().shipFile(), m_steps()};
 }
 
 void RecoveryPanel::tmrAsk_Timer() {
@@ -124,7 +127,7 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
         window().say(complaint(error));  // they will be offered again
     }
     // What is at work may have been among them, and be in the trash now.
-    m_asideFile.clear();
+    m_aside.reset();
     noteChange();
     if (dialog.chosen) {
         m_open(shown[*dialog.chosen].file);

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,14 +17,20 @@ namespace fleetwright {
 /// without trace, and offers them: once after a crash, and whenever the user wants to see them.
 class RecoveryPanel : public Panel {
 public:
-    /// `open` replaces the ship by the one in a file of a design put aside.
+    /// `open` replaces the ship by the one in a file of a design put aside; `steps` hands out what
+    /// is put aside with the design at hand.
     RecoveryPanel(const PanelContext& context, MenuEntry& mnuDesign,
-                  std::function<void(const std::filesystem::path&)> open);
+                  std::function<void(const std::filesystem::path&)> open,
+                  std::function<std::string()> steps);
 
     /// Something may have changed: looks at it in two seconds, if not sooner.
     void noteChange();
     /// From here on nothing of the design can be lost: it is new, or in its file.
     void noteSafe();
+    /// Which design that is, as a word; and the same of another design, which takes the place of
+    /// the one at hand. An empty word is none.
+    const std::string& safe() const { return m_safe; }
+    void setSafe(const std::string& safe) { m_safe = safe; }
     /// The design at hand is about to go. What has changed since it was safe is kept for good; if
     /// that is not possible, the user says whether it may go all the same. False if it may not.
     bool giveUpDesign();
@@ -55,9 +62,10 @@ private:
     void show(std::vector<RecoveryFolder::Design> designs);
 
     std::function<void(const std::filesystem::path&)> m_open;
+    std::function<std::string()> m_steps;
 
-    std::string m_asideFile;  ///< the design as it was put aside last
-    std::string m_safeFile;   ///< the design as it was when nothing of it could be lost
+    std::optional<RecoveryFolder::Aside> m_aside;  ///< the design as it was put aside last
+    std::string m_safe;  ///< the fingerprint of the design when nothing of it could be lost
 };
 
 }  // namespace fleetwright

@@ -52,6 +52,42 @@ void SystemsPanel::show() {
     }
 }
 
+std::vector<std::size_t> SystemsPanel::records() const {
+    std::vector<std::size_t> records;
+    for (const ListView::Row& row : lvCurrentWeapons.rows()) {
+        records.push_back(static_cast<std::size_t>(ship().weapNameToIndex(row.key)));
+    }
+    return records;
+}
+
+void SystemsPanel::showRows(const std::vector<std::size_t>& records) {
+    const ListView::Content& before = lvCurrentWeapons.content();
+    ListView::Content content;
+    const std::vector<WeapRec> aboard = ship().systemsAboard();
+    for (const std::size_t record : records) {
+        const std::string_view name = ship().catalogueText()->lines()[record].name;
+        const auto system = std::find_if(aboard.begin(), aboard.end(),
+                                         [&](const WeapRec& each) { return each.name == name; });
+        if (system != aboard.end()) {
+            content.rows.push_back(
+                {std::string(name), std::string(name), std::to_string(system->amount)});
+        }
+    }
+    if (before.rows == content.rows) {
+        return;
+    }
+    if (before.selected && !content.rows.empty()) {
+        const auto same =
+            std::find_if(content.rows.begin(), content.rows.end(), [&](const ListView::Row& row) {
+                return row.key == before.rows[*before.selected].key;
+            });
+        content.selected = same != content.rows.end()
+                               ? static_cast<std::size_t>(same - content.rows.begin())
+                               : std::min(*before.selected, content.rows.size() - 1);
+    }
+    lvCurrentWeapons.setContent(std::move(content));
+}
+
 void SystemsPanel::AddWeaponRow(const std::string& name, std::int32_t amount) {
     const std::optional<std::size_t> row = lvCurrentWeapons.find(name);
     if (!row) {

@@ -15,6 +15,10 @@ public:
     void addColumns();
     /// Brings the rows to what the ship has aboard. Rows that stay keep their order.
     void show();
+    /// The records of the systems in the list, in its order, and the same list again for what the
+    /// ship has aboard now. The selected system stays selected, or what takes its place.
+    std::vector<std::size_t> records() const;
+    void showRows(const std::vector<std::size_t>& records);
     /// Adds so many pieces of a system to the ship, or takes them away if negative.
     void changeAmount(std::string name, std::int32_t change);
 

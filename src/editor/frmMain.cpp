@@ -19,8 +19,9 @@ frmMain::frmMain(MainWindowServices services)
             .border = Border::FixedMin}),
       m_services(std::move(services)),
       m_acts({.isThere = [this] { return g_Ship != nullptr; },
-              .remember = [this] { return [this, state = g_Ship->state()] { goBackTo(state); }; },
-              .overflowed = [this] { sbStatus.setText("Number too large"); }}),
+              .remember = [this] { return [this, before = moment()] { goBackTo(before); }; },
+              .overflowed = [this] { sbStatus.setText("Number too large"); },
+              .rested = [this](std::string_view kind) { history.rest(kind); }}),
       m_context{.form = *this,
                 .g_Ship = g_Ship,
                 .acts = m_acts,
@@ -65,6 +66,7 @@ void frmMain::Form_Load() {
     RefreshScreen();
     windows.sayDroppedMaps();
     recovery.askAfterStart();
+    history.begin();
     g_bLoaded = true;
 }
 
@@ -109,19 +111,33 @@ void frmMain::RefreshScreen() {
     find.show();
 }
 
-void frmMain::goBackTo(const ShipState& state) {
-    const bool isAutoMassOther = g_Ship->g_bAutoMass != state.g_bAutoMass;
-    g_Ship->restore(state);
-    if (isAutoMassOther) {  // where it is not, a load may have left the mark on
-        mass.markAutoMass(state.g_bAutoMass);
-    }
-    aboard.show();
-    try {
-        RefreshScreen();
-    } catch (const OverflowError&) {
-        // A ship that a file has brought out of range is shown as far as it goes.
-    }
-    g_Ship->g_bSaved = state.g_bSaved;  // whatever the buttons have clicked
+DesignMoment frmMain::moment() const {
+    return {.ship = g_Ship->state(),
+            .rows = aboard.records(),
+            .isAutoMassMarked = mass.mnuAutoMass.isChecked(),
+            .catalogue = g_Ship->catalogueText()};
+}
+
+/// Shows a design as it was. No control writes anything back.
+void frmMain::goBackTo(const DesignMoment& moment) {
+    m_acts.showOnly([&] {
+        if (!isSameCatalogue(moment.catalogue, g_Ship->catalogueText())) {
+            putShip(CatalogueFile::holding(moment.catalogue));
+        }
+        if (const std::int32_t thrust = moment.ship.hull.thrust;
+            thrust < 0 || thrust > mostThrust) {
+            g_Ship->restore({});  // the button of a new ship stays on, as in a load
+            hull.show();
+        }
+        g_Ship->restore(moment.ship);
+        mass.markAutoMass(moment.isAutoMassMarked);
+        aboard.showRows(moment.rows);
+        try {
+            RefreshScreen();
+        } catch (const OverflowError&) {
+            // A ship that a file has brought out of range is shown as far as it goes.
+        }
+    });
 }
 
 void frmMain::tmrRefreshScreen_Timer() {
@@ -139,10 +155,16 @@ void frmMain::tmrRefreshScreen_Timer() {
 }
 
 void frmMain::replaceShip() {
+    putShip(m_services.catalogueFile);
+    recovery.noteSafe();
+    history.noteReplaced();
+}
+
+void frmMain::putShip(const CatalogueFile& catalogueFile) {
     assert(!g_Ship || !g_Ship->isBusy());  // whoever comes in between waits with whenIdle
     // What runs the event loop lets acts in, if there is an event loop.
     auto ship =
-        std::make_unique<ShipClass>(ShipServices{.catalogueFile = m_services.catalogueFile,
+        std::make_unique<ShipClass>(ShipServices{.catalogueFile = catalogueFile,
                                                  .formula = m_services.globals.formula,
                                                  .eventLoopTurn = [this] {
                                                      if (m_services.eventLoopTurn) {
@@ -160,7 +182,6 @@ void frmMain::replaceShip() {
     listen(g_Ship->ShipSaved, &frmMain::g_Ship_ShipSaved);
     listen(g_Ship->WeaponNotFound, &frmMain::g_Ship_WeaponNotFound);
     listen(g_Ship->AutoMassUnsettled, &frmMain::g_Ship_AutoMassUnsettled);
-    recovery.noteSafe();
 }
 
 void frmMain::g_Ship_CloakAndMerchant() {

@@ -6,6 +6,7 @@
 #include "FileCommands.h"
 #include "FindPanel.h"
 #include "GuidePanel.h"
+#include "HistoryPanel.h"
 #include "HullPanel.h"
 #include "MainWindowServices.h"
 #include "MassPanel.h"
@@ -78,17 +79,25 @@ public:
     TrayPanel tray{m_context, mnuTaskBarFunctions};
     Timer tmrRefreshScreen{*this, "tmrRefreshScreen", 15000, true,
                            [this] { tmrRefreshScreen_Timer(); }};
+    HistoryPanel history{m_context,
+                         mnuDesign,
+                         {.moment = [this] { return moment(); },
+                          .goBackTo = [this](const DesignMoment& moment) { goBackTo(moment); },
+                          .safe = [this] { return recovery.safe(); },
+                          .isSafe = [this](const std::string& safe) { recovery.setSafe(safe); }}};
     FindPanel find{m_context, mnuDesign, tree.tvWeapons, sbStatus};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,
-                           [this](const std::filesystem::path& file) { files.openPutAside(file); }};
+                           [this](const std::filesystem::path& file) { files.openPutAside(file); },
+                           [this] { return history.steps(); }};
     ZoomPanel zooms{m_context, mnuDesign};
     GuidePanel guide{m_context, mnuDesign};
     FileCommands files{m_context,
                        mnuFile,
                        {.CMRUList = CMRUList,
                         .recovery = recovery,
+                        .history = history,
                         .replaceShip =
                             [this] {
                                 replaceShip();
@@ -103,11 +112,13 @@ protected:
 
 private:
     void RefreshScreen();
-    void goBackTo(const ShipState& state);
+    DesignMoment moment() const;
+    void goBackTo(const DesignMoment& moment);
     void tmrRefreshScreen_Timer();
 
     // The ship and its events.
     void replaceShip();
+    void putShip(const CatalogueFile& catalogueFile);
     void g_Ship_Recalculated() { RefreshScreen(); }
     void g_Ship_CloakAndMerchant();
     void g_Ship_ShipLoaded();

@@ -81,6 +81,15 @@ ControlRows designMenuTexts() {
     static constexpr std::array rows = {
         ControlText{"mnuDesign", "Design",
                     "What else can be done with the design at hand, and help with it."},
+        ControlText{
+            "mnuUndo", "Undo",
+            "Takes the last step back, and then those before it, without limit. It says what "
+            "the step was. A new ship and a load are steps, too: the design from before comes "
+            "back with its file. Moments of an arrow that is held are one step."},
+        ControlText{
+            "mnuRedo", "Redo",
+            "Does again what was taken back, until something else is done. Ctrl+Shift+Z does "
+            "it, too."},
         ControlText{"mnuFind", "Find System...",
                     "Finds a system by words of its name, or by the letters that they begin with, "
                     "as in \"pulse iii fps\". Typing in the catalogue does the same. Down, Up and "

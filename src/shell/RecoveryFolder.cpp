@@ -32,6 +32,13 @@ std::optional<std::string> bytesIn(const fs::path& file) {
     }
 }
 
+/// Where the steps of a design are.
+fs::path stepsBeside(const fs::path& design) {
+    const std::string mark =
+        design.extension().string().substr(std::string_view(recoveryExtension).size());
+    return design.parent_path() / (design.stem().string() + recoverySteps + mark);
+}
+
 bool isThere(const fs::path& file) {
     std::error_code unknown;
     return fs::exists(fs::symlink_status(file, unknown));
@@ -114,7 +121,21 @@ void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
 
 bool RecoveryFolder::moveToTrash(const Design& design) {
     // Another run may have taken the mark off it.
-    return m_trash.moveToTrash(isThere(design.file) ? design.file : fileOf(design.recordName));
+    return throwAway(isThere(design.file) ? design.file : fileOf(design.recordName));
+}
+
+bool RecoveryFolder::throwAway(const fs::path& design) {
+    if (!m_trash.moveToTrash(design)) {
+        return false;
+    }
+    if (isThere(stepsBeside(design))) {
+        m_trash.moveToTrash(stepsBeside(design));
+    }
+    return true;
+}
+
+std::string RecoveryFolder::stepsOf(const fs::path& file) {
+    return RecoveryDesign::in(file) ? bytesIn(stepsBeside(file)).value_or("") : std::string();
 }
 
 void RecoveryFolder::put(const Aside& design) {
@@ -138,6 +159,9 @@ void RecoveryFolder::keep(const Aside& design) {
 
 void RecoveryFolder::forget() {
     if (m_own && isOwnAsWritten()) {
+        if (bytesIn(stepsBeside(ownFile())) == m_own->steps) {
+            removeFile(stepsBeside(ownFile()));
+        }
         removeForGood(ownFile());
         m_run.record.forget(m_own->name);
         m_own.reset();
@@ -170,7 +194,11 @@ fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) c
     for (int i = 2; rename(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
         plain = fileOf(name + " (" + std::to_string(i) + ')');
     }
-    return isThere(file) ? file : plain;
+    if (isThere(file)) {
+        return file;
+    }
+    rename(stepsBeside(file), stepsBeside(plain));
+    return plain;
 }
 
 bool RecoveryFolder::isOwnAsWritten() const {
@@ -191,11 +219,14 @@ void RecoveryFolder::writeOwn(const Aside& design) {
         letGo();
     }
     if (m_own && m_own->shipFile == design.shipFile) {
+        if (m_own->steps != design.steps) {
+            writeSteps(ownFile(), m_own->steps = design.steps);
+        }
         return;
     }
     const std::uint64_t number = m_own ? m_own->number : RecoveryListing(m_folder).highest + 1;
     const OwnFile next = {RecoveryName{design.shipName, design.mass, m_now(), number}.text(),
-                          number, design.shipFile};
+                          number, design.shipFile, design.steps};
     // Noted first: so it is known for certain whose the file is, and what is whole, at any time.
     m_run.record.forget(next.name);
     if (m_own) {
@@ -208,10 +239,24 @@ void RecoveryFolder::writeOwn(const Aside& design) {
         if (const std::error_code error = renameFile(ownFile(), file)) {
             throw FileError(file, "cannot be saved: " + error.message());
         }
+        renameFile(stepsBeside(ownFile()), stepsBeside(file));
         m_run.record.forget(std::exchange(m_own->name, next.name));
     }
+    // First, since the design before is among its steps, but not the next one.
+    writeSteps(file, next.steps);
     saveFile(file, next.shipFile);
     m_own = next;
+}
+
+void RecoveryFolder::writeSteps(const fs::path& design, const std::string& steps) {
+    if (steps.empty()) {
+        return;
+    }
+    try {
+        saveFile(stepsBeside(design), steps);
+    } catch (const FileError&) {
+        // No design has to wait for its steps.
+    }
 }
 
 /// Under which name this run, or one that has ended, has put the same design aside for good.
@@ -270,7 +315,7 @@ void RecoveryFolder::takeOldOnesAway() {
             }
             if (++count > mostKept && !isLast && known.isSeen(name) && !m_opened.contains(name) &&
                 known.isMade(name, bytesIn(design.file).value_or(""))) {
-                m_trash.moveToTrash(design.file);
+                throwAway(design.file);
             }
         }
     } catch (const FileError&) {

@@ -19,7 +19,9 @@ class Trash;
 
 /// Where designs are put aside, so that none is lost: the one at work again and again, as the file
 /// of this run, and every other that was given up without being saved. What the name of a file says
-/// is in RecoveryName. That of a run has the run's mark behind it: "… #12.shp~MARK".
+/// is in RecoveryName. That of a run has the run's mark behind it: "… #12.shp~MARK". The steps of
+/// the design are beside it, "… #12.steps~MARK", and go where it goes. If that fails, or one of the
+/// two is newer after a crash, the design does not care.
 ///
 /// Only what a run has made, and nobody has changed, is ever taken away without being asked for. Of
 /// that, old designs that the user has been shown go into the trash, but never the last one of a
@@ -32,7 +34,10 @@ public:
     struct Aside {
         std::string shipName;
         std::int32_t mass;
-        std::string shipFile;  ///< all of it
+        std::string shipFile;    ///< all of it
+        std::string steps = {};  ///< that have led to it and lie ahead of it, as a text; or none
+
+        friend bool operator==(const Aside&, const Aside&) = default;
     };
 
     /// How many of the designs that runs have made stay in any case.
@@ -65,6 +70,9 @@ public:
     /// Takes the file of this run away, if there is one. What somebody else has made of it stays.
     void forget();
 
+    /// The steps that were put aside with the design in this file; empty if there are none.
+    static std::string stepsOf(const std::filesystem::path& file);
+
     /// All designs in a folder, the newest first. Throws FileError if the folder is there and
     /// cannot be read.
     static std::vector<Design> list(const std::filesystem::path& folder);
@@ -75,6 +83,7 @@ private:
         std::string name;
         std::uint64_t number;
         std::string shipFile;
+        std::string steps;
     };
 
     void begin();
@@ -87,6 +96,8 @@ private:
     bool isOwnAsWritten() const;
     void letGo();
     void writeOwn(const Aside& design);
+    static void writeSteps(const std::filesystem::path& design, const std::string& steps);
+    bool throwAway(const std::filesystem::path& design);
 
     std::optional<std::string> whereKept(const std::string& shipFile) const;
     void takeUpLeftOvers(RecoveryListing& listing) const;

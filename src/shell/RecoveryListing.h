@@ -13,7 +13,8 @@ namespace fleetwright {
 
 // How files are named in a folder of designs put aside.
 inline constexpr const char* recoveryExtension = ".shp";
-inline constexpr const char* recoveryLock = ".lock";       ///< behind the mark of a run
+inline constexpr const char* recoverySteps = ".steps";  ///< in place of that, of a design's steps
+inline constexpr const char* recoveryLock = ".lock";    ///< behind the mark of a run
 inline constexpr const char* recoveryRecord = ".record-";  ///< in front of it
 inline constexpr char beforeRecoveryMark = '~';            ///< between ".shp" and it
 

@@ -204,6 +204,7 @@ TestWindow::TestWindow(std::string_view catalogue)
       m_putAside({.desktop = *m_desk, .moveToTrash = [this](const RecoveryDesign& design) {
                       return m_recovery.moveToTrash(design);
                   }}) {
+    clock.step = 2000;
     globals.formula = formula_calculate;
     globals.g_sDefaultDesigner = "Somebody";
     m_folder.write("weaps.dat", catalogue);
@@ -231,7 +232,8 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .recovery = &m_recovery,
                            .putAside = [this]() -> frmPutAside& { return m_putAside; },
                            .sheets = [this] { return m_output.get(); },
-                           .isStartOver = [this] { return isStartOver; }});
+                           .isStartOver = [this] { return isStartOver; },
+                           .clock = &clock});
     m_cached = std::make_unique<PictureCache>(*m_pictures);
     m_images = programImages(m_folder.path(), *m_cached, window().tree.ilWeapons);
     m_output = std::make_unique<SheetOutput>(SheetOutput::Services{

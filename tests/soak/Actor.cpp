@@ -167,6 +167,7 @@ void Actor::act() {
     test.catalogueFaults = choices.oneIn(30) ? "The catalogue is faulty" : "";
     test.printerFails = choices.oneIn(2);
     test.copies = choices.below(3);
+    test.clock.step = choices.oneIn(2) ? 100 : 2000;
     const bool isCatalogueAway = choices.oneIn(50);
     if (isCatalogueAway) {
         fs::rename(m_app / "weaps.dat", m_app / "away");

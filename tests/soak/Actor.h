@@ -56,6 +56,7 @@ public:
     TestWindow test;
     frmMain& main = test.window();
     TypedTexts typed;
+    bool mayEnd = true;  ///< whether the user closes the main window
 
 private:
     /// Small pictures, those of ships with a few marks.

@@ -31,7 +31,7 @@ Act on(const std::string& name, int weight, const std::function<void(Actor&, Kin
 /// Else no run would be long.
 bool mayEnd(Actor& actor, const Control& control) {
     return (&control != &actor.main && !control.name().starts_with("mnuExit")) ||
-           actor.choices.oneIn(20);
+           (actor.mayEnd && actor.choices.oneIn(20));
 }
 
 int anyEdge(Actor& me) {
@@ -61,7 +61,13 @@ void selectRow(Actor& me, ListView& list) {
     }
 }
 
+/// Of all entries of menus those that undo and redo are chosen most.
+bool isStep(const Control* control) {
+    return control->name() == "mnuUndo" || control->name() == "mnuRedo";
+}
+
 const std::vector<Act> acts = {
+    {"step", 20, isStep, [](auto&, auto& entry) { dynamic_cast<MenuEntry&>(entry).choose(); }},
     on<Form>("close", 1, [](auto& me, auto& form) { mayEnd(me, form) && form.unload(); }),
     on<Form>("minimize", 1,
              [](auto&, auto& form) {

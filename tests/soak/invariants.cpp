@@ -29,7 +29,8 @@ public:
                                             {"list of systems", &Look::lookAtList},
                                             {"menus", &Look::lookAtMenus},
                                             {"rules", &Look::lookAtRules},
-                                            {"files", &Look::lookAtFiles}};
+                                            {"files", &Look::lookAtFiles},
+                                            {"steps", &Look::lookAtSteps}};
         for (const Invariant& invariant : invariants) {
             m_about = invariant.about;
             (this->*invariant.look)();
@@ -189,6 +190,15 @@ private:
                                [&](const auto& each) { return readTextFile(each.file) == file; }),
                    "the ship is not put aside:\n" + file);
         }
+    }
+
+    /// Undo and redo start from what is at hand.
+    void lookAtSteps() {
+        const History& steps = *m_window.history.history();
+        expect(steps.now().ship == m_ship.state(), "the ship is another one than was noted");
+        expect(m_window.history.mnuUndo.isEnabled() == steps.canUndo() &&
+                   m_window.history.mnuRedo.isEnabled() == steps.canRedo(),
+               "a step cannot be reached, or can");
     }
 
     TestWindow& m_test;

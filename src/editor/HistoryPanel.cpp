@@ -1,0 +1,110 @@
+#include "HistoryPanel.h"
+
+#include "Clock.h"
+#include "text.h"
+
+#include <utility>
+
+namespace fleetwright {
+
+HistoryPanel::HistoryPanel(const PanelContext& context, MenuEntry& mnuDesign, Others others)
+    : Panel(context), m_design(mnuDesign), m_others(std::move(others)) {}
+
+void HistoryPanel::begin() {
+    if (services().hasScreen) {  // else nobody is there to take anything back
+        m_history.emplace(m_others.moment(), m_others.safe());
+        m_isReplaced = m_isSaved = false;
+    }
+}
+
+void HistoryPanel::rest(std::string_view kind) {
+    if (!m_history) {
+        return;
+    }
+    const DesignMoment moment = m_others.moment();
+    Clock* const clock = services().clock;
+    const History::News news = {.isReplaced = std::exchange(m_isReplaced, false),
+                                .isSaved = std::exchange(m_isSaved, false),
+                                .kind = clock == nullptr ? std::string_view() : kind,
+                                .time = clock == nullptr ? 0 : clock->tickCount(),
+                                .safe = m_others.safe(),
+                                .came = whatCame(moment)};
+    if (const auto steps = std::exchange(m_adopted, std::nullopt)) {
+        m_history->adopt(*steps, moment, news);
+    } else {
+        m_history->note(moment, news);
+    }
+    show();
+}
+
+/// What has brought a design that is not the one from before.
+std::string HistoryPanel::whatCame(const DesignMoment& moment) const {
+    const ShipState& state = moment.ship;
+    if (!state.g_sTrimmedFileName.empty()) {
+        return "Load " + shownText(state.g_sTrimmedFileName);
+    }
+    return state.g_bSaved ? "New Ship" : "Open " + shownText(state.g_sShipName);
+}
+
+std::string HistoryPanel::steps() const {
+    return m_history ? m_history->steps().text() : std::string();
+}
+
+bool HistoryPanel::adopt(const std::string& steps, const std::string& shipFile) {
+    if (!m_history) {
+        return true;
+    }
+    std::optional<StoredSteps> stored = StoredSteps::of(steps, ship().catalogueText());
+    const DesignMoment opened = m_others.moment();
+    const bool isFound = stored && stored->goTo([&](const DesignMoment& moment) {
+        ship().restore(moment.ship);
+        return ship().shipFile() == shipFile;
+    });
+    if (!isFound) {
+        ship().restore(opened.ship);
+        return false;
+    }
+    // What was its file may have become anything since then.
+    static_cast<ShipNames&>(stored->now.ship) = [&] {
+        ShipNames names = opened.ship;
+        names.g_sShipName = stored->now.ship.g_sShipName;
+        names.g_sDesignerName = stored->now.ship.g_sDesignerName;
+        return names;
+    }();
+    stored->now.ship.g_bSaved = opened.ship.g_bSaved;
+    m_others.goBackTo(stored->now);
+    m_adopted = std::move(stored);
+    return true;
+}
+
+void HistoryPanel::mnuUndo_Click() {
+    go("Undo: ", Way::Back);
+}
+
+void HistoryPanel::mnuRedo_Click() {
+    go("Redo: ", Way::Forth);
+}
+
+void HistoryPanel::go(const char* what, Way way) {
+    window().acts.whenIdle([this, what, way] {
+        const bool isBack = way == Way::Back;
+        if (!m_history || !(isBack ? m_history->canUndo() : m_history->canRedo())) {
+            return;
+        }
+        const std::string name = isBack ? m_history->undoName() : m_history->redoName();
+        m_others.goBackTo(isBack ? m_history->undo() : m_history->redo());
+        m_others.isSafe(m_history->safe());
+        window().say(what + name);
+    });
+}
+
+void HistoryPanel::show() {
+    const auto showStep = [](MenuEntry& entry, const char* what, const std::string& name) {
+        entry.setCaption(name.empty() ? what : what + (' ' + name));
+        entry.setEnabled(!name.empty());
+    };
+    showStep(mnuUndo, "Undo", m_history->canUndo() ? m_history->undoName() : "");
+    showStep(mnuRedo, "Redo", m_history->canRedo() ? m_history->redoName() : "");
+}
+
+}  // namespace fleetwright
