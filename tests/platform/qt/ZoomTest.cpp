@@ -6,6 +6,7 @@
 #include "fakeServices.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QScreen>
 #include <QTest>
 #include <QTreeWidget>
