@@ -114,17 +114,17 @@ void QtDesktop::equip(SettingsStore& settings, const Drawings& drawings) {
     m_drawings = &drawings;
 }
 
-/// Zooms a form as far as its user has zoomed it last, and keeps what comes.
-Connection QtDesktop::keepZoom(Form& form) {
+/// Zooms a form as far as its user has zoomed it last, or `otherwise`, and keeps what comes.
+Connection QtDesktop::keepZoom(Form& form, Zoom otherwise) {
     if (m_settings == nullptr) {
         return {};
     }
     constexpr const char* section = "Zoom";
     try {
-        form.setZoom(Zoom(
-            wholeNumber(m_settings->read(section, form.name(), std::to_string(Zoom::actual)))));
+        form.setZoom(Zoom(wholeNumber(
+            m_settings->read(section, form.name(), std::to_string(otherwise.percent())))));
     } catch (const Error&) {
-        // It has its actual size then.
+        // It has the size then that it had last in this run.
     }
     return form.Zoomed.connect([this, &form] {
         try {
@@ -233,7 +233,7 @@ void QtDesktop::popUp(MenuEntry& menu) {
 
 void QtDesktop::showModal(Form& form, Form& owner) {
     const auto presented = m_presented.find(&owner);
-    const Connection zoomed = keepZoom(form);
+    const Connection zoomed = keepZoom(form, owner.zoom());
     FormWindow window(form,
                       presented == m_presented.end() ? nullptr : presented->second.window.get(),
                       m_whatsThis, m_drawings);

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Signal.h"
+#include "Zoom.h"
 #include "whatsThis.h"
 
 #include <map>
@@ -49,7 +50,7 @@ public:
 
 private:
     const QWidget* windowWith(const Control& control) const;
-    Connection keepZoom(Form& form);
+    Connection keepZoom(Form& form, Zoom otherwise = Zoom());
 
     WhatsThisText m_whatsThis;
     struct Presented {

@@ -20,6 +20,7 @@ Scale::Scale(int formWidth, int formHeight, const Drawings* drawings)
     const double lineHeight = QFontMetrics(QApplication::font()).height();
     double& pixelsPerTwip = m_shared->pixelsPerTwip;
     pixelsPerTwip = std::max(1.0, lineHeight / drawnLineHeight) / twipsPerPixel;
+    m_shared->lettersPerTwip = pixelsPerTwip;
     if (const QScreen* const screen = QApplication::primaryScreen(); screen != nullptr) {
         const QSize available = screen->availableSize();
         pixelsPerTwip = std::min({pixelsPerTwip, available.width() / double(formWidth),
@@ -30,6 +31,10 @@ Scale::Scale(int formWidth, int formHeight, const Drawings* drawings)
 
 int Scale::pixels(double twips) const {
     return static_cast<int>(std::lround(twips * m_shared->pixelsPerTwip * m_shared->zoom));
+}
+
+int Scale::pixelsForLetters(double twips) const {
+    return static_cast<int>(std::lround(twips * m_shared->lettersPerTwip * m_shared->zoom));
 }
 
 double Scale::twips(double pixels) const {

@@ -27,6 +27,8 @@ public:
 
     int pixels(double twips) const;
     double twips(double pixels) const;
+    /// The same in proportion to the letters, even if the form has to be smaller for its screen.
+    int pixelsForLetters(double twips) const;
     QRect rect(const Place& place) const;
 
     /// How much larger the window is than by itself; 1 at first.
@@ -42,7 +44,8 @@ public:
 
 private:
     struct Shared {
-        double pixelsPerTwip = 1;  ///< at a zoom of 1
+        double pixelsPerTwip = 1;   ///< at a zoom of 1
+        double lettersPerTwip = 1;  ///< pixels as well, for letters
         double zoom = 1;
         Signal<> Zoomed;
         const Drawings* drawings = nullptr;

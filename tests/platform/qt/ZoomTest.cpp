@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 using namespace fleetwright;
@@ -121,6 +122,15 @@ TEST(Zoom, KeysZoomAnyWindowAndTheSettingsKeepItByItsName) {
     desktop.present(next);
     next.show();
     EXPECT_EQ(next.zoom(), Zoom(300));
+    // A dialog that nobody has zoomed is as its owner is.
+    AllKinds dialog;
+    dialog.setCaption("Dialog");
+    QTimer::singleShot(0, [&] {
+        EXPECT_EQ(dialog.zoom(), Zoom(300));
+        dialog.unload();
+    });
+    settings.values.clear();
+    desktop.showModal(dialog, next);
     desktop.dismiss(next);
     desktop.dismiss(form);
 }

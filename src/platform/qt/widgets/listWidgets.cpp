@@ -163,8 +163,15 @@ private:
             titles << toQt(column.title);
         }
         setHeaderLabels(titles);
-        for (std::size_t i = 0; i < m_shownColumns; ++i) {
-            setColumnWidth(static_cast<int>(i), m_scale.pixels(m_list.columns()[i].width));
+        // On a small screen letters are large for their places, and the last column has room to
+        // give.
+        int left = m_scale.pixels(m_list.place().width) - verticalScrollBar()->sizeHint().width();
+        for (int i = 0; i < std::ssize(m_list.columns()); ++i) {
+            const int width = m_list.columns()[static_cast<std::size_t>(i)].width;
+            const int wished = m_scale.pixelsForLetters(width);
+            left -= wished;
+            const bool isRoom = left >= header()->sectionSizeHint(header()->count() - 1);
+            setColumnWidth(i, isRoom ? wished : m_scale.pixels(width));
         }
     }
 
