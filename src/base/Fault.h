@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace fleetwright {
 
@@ -19,7 +18,8 @@ struct Fault {
 };
 
 /// Puts faults in the order of their lines; those of no single line come last.
-inline void sortByLine(std::vector<Fault>& faults) {
+template <typename Faults>
+void sortByLine(Faults& faults) {
     std::stable_sort(faults.begin(), faults.end(), [](const Fault& a, const Fault& b) {
         return a.line != 0 && (b.line == 0 || a.line < b.line);
     });

@@ -215,6 +215,11 @@ std::string toSmallLetters(std::string_view text) {
     return changeCase(text, 'A', &Letter::capital, &Letter::small);
 }
 
+std::string asSentence(std::string_view text) {
+    const std::size_t first = text.empty() ? 0 : characterLength(text);
+    return toCapitals(text.substr(0, first)).append(text.substr(first));
+}
+
 std::string_view trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) {

@@ -42,6 +42,9 @@ std::string toSmallLetters(std::string_view text);
 /// `text` without the blanks at both of its ends. Only the blank itself counts, no tab.
 std::string_view trimmed(std::string_view text);
 
+/// `text` with its first letter as a capital.
+std::string asSentence(std::string_view text);
+
 /// Whether a character does nothing but show: it controls nothing, ends no line and turns no
 /// direction of writing.
 bool onlyShows(char32_t character);

@@ -154,8 +154,10 @@ void ShipClass::readShipLine(std::string& line, int lineNumber) {
         if (!addWeap(cut.value, amount)) {
             const Refusal why =
                 weapNameToIndex(cut.value) == -1 ? Refusal::UnknownSystem : Refusal::CloakRule;
-            m_refusedLines.push_back(
-                {.text = line, .why = why, .fault = {lineNumber, refusalText(why, cut.value)}});
+            m_refusedLines.push_back({.text = line,
+                                      .system = cut.value,
+                                      .why = why,
+                                      .fault = {lineNumber, refusalText(why, cut.value)}});
         }
         break;
     }

@@ -23,9 +23,11 @@ public:
     ShipFileChecker(const ShipClass& ship, const std::optional<Fault>& loadFault)
         : m_ship(ship), m_loadFault(loadFault) {}
 
-    std::vector<Fault> check(std::string_view text);
+    std::vector<ShipFinding> checkFile(std::string_view text);
+    std::vector<ShipFinding> checkDesign();
 
 private:
+    void checkLines(std::string_view text);
     void checkLine(std::string_view line);
     void checkValue(const ShipFileLine& line);
     void checkMass(const ShipFileLine& line);
@@ -36,13 +38,16 @@ private:
     void checkHull();
     void checkCloak();
     void checkLoad();
+    void checkOverload();
     std::optional<std::int32_t> number(std::string_view text);
-    void complain(std::string text) { complainAt(m_line, std::move(text)); }
-    void complainAt(int line, std::string text) { m_faults.push_back({line, std::move(text)}); }
+    void complain(std::string text) { complainAt(m_line, m_about, std::move(text), m_system); }
+    void complainAt(int line, ShipKey about, std::string text, std::string_view system = {}) {
+        m_findings.push_back({{line, std::move(text)}, about, std::string(system)});
+    }
 
     const ShipClass& m_ship;
     const std::optional<Fault>& m_loadFault;
-    std::vector<Fault> m_faults;
+    std::vector<ShipFinding> m_findings;
     std::map<ShipKey, int> m_linesByKey;  // the last line of each key
     std::set<ShipKey> m_movingKeys;       // those whose value no base can have
     std::set<int> m_unknownSystems;       // lines that were said to name one
@@ -51,25 +56,51 @@ private:
     int m_cloakLine = 0;
     bool m_hasOtherSystems = false;
     int m_line = 0;
+    ShipKey m_about = ShipKey::Unknown;  // the key of that line
+    std::string m_system;                // and the system, if it names one
 };
 
-std::vector<Fault> ShipFileChecker::check(std::string_view text) {
+std::vector<ShipFinding> ShipFileChecker::checkFile(std::string_view text) {
+    checkLines(text);
+    checkHull();
+    // A type that stands behind the systems comes too late for the loader to refuse them.
+    if (std::none_of(m_ship.refusedLines().begin(), m_ship.refusedLines().end(),
+                     [](const RefusedLine& line) { return line.why == Refusal::CloakRule; })) {
+        checkCloak();
+    }
+    checkLoad();
+    if (!m_loadFault) {
+        checkOverload();
+    }
+    sortByLine(m_findings);
+    return std::move(m_findings);
+}
+
+std::vector<ShipFinding> ShipFileChecker::checkDesign() {
+    checkLines(m_ship.shipFile());
+    checkHull();
+    checkCloak();
+    checkOverload();
+    for (ShipFinding& finding : m_findings) {
+        finding.line = 0;
+    }
+    return std::move(m_findings);
+}
+
+void ShipFileChecker::checkLines(std::string_view text) {
     LineReader lines(text);
     std::string_view line;
     while (lines.next(line)) {
         m_line = lines.lineNumber();
         checkLine(line);
     }
-    checkHull();
-    checkCloak();
-    checkLoad();
-    sortByLine(m_faults);
-    return std::move(m_faults);
 }
 
 void ShipFileChecker::checkLine(std::string_view text) {
     std::string cuttable(text);
     const ShipFileLine line = cutShipFileLine(cuttable);
+    m_about = line.key;
+    m_system = line.key == ShipKey::System ? line.value : std::string();
     if (text.empty()) {
         if (line.key != ShipKey::Unknown) {
             complain("an empty line goes on with what was left before, " + quote(cuttable));
@@ -196,23 +227,20 @@ void ShipFileChecker::checkHull() {
     if (!isBase(m_hullType)) {
         return;
     }
-    const auto complainAbout = [this](ShipKey key, std::string text) {
+    const auto complainAbout = [this](ShipKey key, const char* text) {
         if (m_movingKeys.contains(key)) {
-            complainAt(m_linesByKey[key], std::move(text));
+            complainAt(m_linesByKey[key], key, text);
         }
     };
-    complainAbout(ShipKey::Thrust, "a base has no thrust");
-    complainAbout(ShipKey::Streamlining, "a base has no streamlining");
-    complainAbout(ShipKey::Ftl, "a base has no FTL drive");
+    complainAbout(ShipKey::Thrust, noThrust);
+    complainAbout(ShipKey::Streamlining, noStreamlining);
+    complainAbout(ShipKey::Ftl, noFtlDrive);
 }
 
-/// A type that stands behind the systems comes too late for the loader to refuse them.
 void ShipFileChecker::checkCloak() {
-    const bool isRefused =
-        std::any_of(m_ship.refusedLines().begin(), m_ship.refusedLines().end(),
-                    [](const RefusedLine& line) { return line.why == Refusal::CloakRule; });
-    if (!isRefused && isMerchantType(m_hullType) && m_cloakLine != 0 && m_hasOtherSystems) {
-        complainAt(m_cloakLine, refusalText(Refusal::CloakRule, Catalogue::cloakName));
+    if (isMerchantType(m_hullType) && m_cloakLine != 0 && m_hasOtherSystems) {
+        complainAt(m_cloakLine, ShipKey::System,
+                   refusalText(Refusal::CloakRule, Catalogue::cloakName), Catalogue::cloakName);
     }
 }
 
@@ -220,15 +248,17 @@ void ShipFileChecker::checkCloak() {
 void ShipFileChecker::checkLoad() {
     for (const RefusedLine& line : m_ship.refusedLines()) {
         if (line.why != Refusal::UnknownSystem || !m_unknownSystems.contains(line.fault.line)) {
-            m_faults.push_back(line.fault);
+            complainAt(line.fault.line, ShipKey::System, line.fault.text, line.system);
         }
     }
     if (m_loadFault && !m_badNumbers.contains(m_loadFault->line)) {
-        m_faults.push_back(*m_loadFault);
+        complainAt(m_loadFault->line, ShipKey::Unknown, m_loadFault->text);
     }
-    if (!m_loadFault && m_ship.g_iMassLeft < 0) {
-        complainAt(0, "overloaded: the systems are " + std::to_string(-m_ship.g_iMassLeft) +
-                          " mass units too heavy for the hull");
+}
+
+void ShipFileChecker::checkOverload() {
+    if (std::string text = overloadText(m_ship); !text.empty()) {
+        complainAt(0, ShipKey::Mass, std::move(text));
     }
 }
 
@@ -236,7 +266,25 @@ void ShipFileChecker::checkLoad() {
 
 std::vector<Fault> checkShipFile(std::string_view text, const ShipClass& ship,
                                  const std::optional<Fault>& loadFault) {
-    return ShipFileChecker(ship, loadFault).check(text);
+    const std::vector<ShipFinding> findings = findInShipFile(text, ship, loadFault);
+    return {findings.begin(), findings.end()};
+}
+
+std::vector<ShipFinding> findInShipFile(std::string_view text, const ShipClass& ship,
+                                        const std::optional<Fault>& loadFault) {
+    return ShipFileChecker(ship, loadFault).checkFile(text);
+}
+
+std::vector<ShipFinding> findInDesign(const ShipClass& ship) {
+    return ShipFileChecker(ship, {}).checkDesign();
+}
+
+std::string overloadText(const ShipClass& ship) {
+    const std::int64_t tooHeavy = -std::int64_t{ship.g_iMassLeft};
+    return tooHeavy <= 0
+               ? ""
+               : "overloaded: the systems are " + std::to_string(tooHeavy) +
+                     (tooHeavy == 1 ? " mass unit" : " mass units") + " too heavy for the hull";
 }
 
 }  // namespace fleetwright

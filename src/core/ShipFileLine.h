@@ -43,7 +43,8 @@ std::string refusalText(Refusal why, std::string_view system);
 
 /// A line of a ship file whose system the ship did not take.
 struct RefusedLine {
-    std::string text;  ///< the line as it stands in the file
+    std::string text;    ///< the line as it stands in the file
+    std::string system;  ///< the name in it
     Refusal why;
     Fault fault;
 };

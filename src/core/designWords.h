@@ -31,6 +31,11 @@ std::optional<std::int32_t> ftlOf(std::string_view word);
 /// The level, 1 or 2, of a word for streamlining, exact in its case.
 std::optional<std::int32_t> streamlineOf(std::string_view word);
 
+/// Why a base neither moves nor is streamlined.
+inline constexpr const char* noThrust = "a base has no thrust";
+inline constexpr const char* noStreamlining = "a base has no streamlining";
+inline constexpr const char* noFtlDrive = "a base has no FTL drive";
+
 /// The broad class of a ship of this mass: "Escort" to "Supership".
 std::string_view classOf(std::int32_t mass);
 
