@@ -37,6 +37,7 @@ struct ControlDesign {
     bool isGraphical = false;  ///< of an option button or check box: a button that stays down
     bool isFramed = false;     ///< of a label or picture box: with a border
     bool isHeading = false;    ///< of a label: in large letters
+    bool isAlarming = false;   ///< of a label: in the colour of what is wrong
     bool isFlat = false;       ///< of a text box: on the colour of its window, as a label
     bool isLocked = false;     ///< of a text box: shows, but takes no typing
     bool isMultiline = false;  ///< of a text box: with as many lines as it holds

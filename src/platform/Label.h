@@ -17,6 +17,13 @@ public:
             Changed.raise();
         }
     }
+
+    void setAlarming(bool isAlarming) {
+        if (isAlarming != design().isAlarming) {
+            changeableDesign().isAlarming = isAlarming;
+            Changed.raise();
+        }
+    }
 };
 
 }  // namespace fleetwright

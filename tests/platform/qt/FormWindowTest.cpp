@@ -1,6 +1,7 @@
 #include "FormWindowTest.h"
 
 #include "TemporaryFolder.h"
+#include "contrast.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -65,6 +66,26 @@ TEST_F(FormWindowTest, EnterAndEscapeAnswerDialogs) {
     EXPECT_EQ(takeLog(), "cancel ");
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_EQ(takeLog(), "cancel ");
+    // Keys that are off are the menu's, and the other way round.
+    QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(takeLog(), "formkey verbatim ");
+    form.verbatim.setEnabled(false);
+    form.keys.setEnabled(true);
+    QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(takeLog(), "formkey keys ");
+}
+
+TEST_F(FormWindowTest, AWarningCanBeReadAndToldApartInEachTheme) {
+    const auto colour = [this] { return find<QLabel>("label")->palette().windowText().color(); };
+    form.label.setAlarming(true);
+    for (const QPalette& theme : {QPalette(Qt::white), QPalette(QColor(45, 45, 48)), QPalette()}) {
+        QApplication::setPalette(theme);
+        const QPalette& shown = find<QGroupBox>("frame")->palette();
+        EXPECT_GE(contrast(colour(), shown.window().color()), readableContrast);
+        EXPECT_NE(colour(), shown.windowText().color());
+    }
+    form.label.setAlarming(false);
+    EXPECT_EQ(colour(), find<QGroupBox>("frame")->palette().windowText().color());
 }
 
 TEST_F(FormWindowTest, OnlyMovingTheFocusInsideTheWindowLosesIt) {

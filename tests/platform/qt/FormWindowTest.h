@@ -12,6 +12,7 @@
 #include "Menu.h"
 #include "OptionButton.h"
 #include "PictureBox.h"
+#include "Shortcut.h"
 #include "Slider.h"
 #include "StatusBar.h"
 #include "TextBox.h"
@@ -56,6 +57,7 @@ public:
             log += key + ' ';
             return key == "Ü";
         };
+        label.askToolTip = [this] { return "asked\n<" + status.text(); };
         tree.nodeToolTip = [](const TreeView::Node& node) { return "node\n<" + node.key; };
         list.rowToolTip = [](const ListView::Row& row) { return "row\n<" + row.key; };
         list.addColumn("Name", 1500);
@@ -122,7 +124,11 @@ public:
     MenuEntry more{menu, {.name = "more", .caption = "More"}};
     MenuEntry verbatim{
         more,
-        {.name = "verbatim", .caption = "Rock & Co", .shortcut = "Ctrl+R", .isVerbatim = true}};
+        {.name = "verbatim", .caption = "Rock & Co", .shortcut = "Ctrl+R", .isVerbatim = true},
+        [this] { log += "verbatim "; }};
+    Shortcut keys{*this, {.name = "keys", .shortcut = "Ctrl+R", .isEnabled = false}, [this] {
+                      log += "keys ";
+                  }};
     MenuEntry hiddenMenu{*this, {.name = "hidden", .caption = "Hidden", .isVisible = false}};
     Timer timer{*this, "timer", 10, true, [this] { ++ticks; }};
     ComboBox combo{*this, {.name = "combo", .place = {6450, 150, 1500, 300}}};

@@ -75,8 +75,10 @@ QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMain
     } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
         addTrayIcon(*tray, &window);
     } else if (auto* const shortcut = dynamic_cast<Shortcut*>(&control)) {
-        new QShortcut(QKeySequence(toQt(control.design().shortcut)), &window,
-                      [shortcut] { shortcut->press(); });
+        auto* const keys = new QShortcut(QKeySequence(toQt(control.design().shortcut)), &window,
+                                         [shortcut] { shortcut->press(); });
+        // Keys that are off are those of whatever else has them.
+        keepInStep(&window, control, [keys, shortcut] { keys->setEnabled(shortcut->isEnabled()); });
     } else if (auto* const image = dynamic_cast<DragImage*>(&control)) {
         keepAttached(&window, image->DragWanted.connect(
                                   [image, &window, scale] { dragImage(*image, &window, scale); }));

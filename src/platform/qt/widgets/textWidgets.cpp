@@ -4,7 +4,9 @@
 #include "Label.h"
 #include "StatusBar.h"
 #include "TextBox.h"
+#include "contrast.h"
 #include "controlWidgets.h"
+#include "explainedLabel.h"
 #include "widgetTools.h"
 
 #include <QAbstractItemView>
@@ -25,9 +27,24 @@
 namespace fleetwright {
 
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
-    auto* const widget = new QLabel(parent);
+    QLabel* const widget = label.askToolTip ? newExplainedLabel(label, parent) : new QLabel(parent);
     prepare(widget, label, scale);
-    const auto show = [widget, &label, scale] {
+    const auto colour = [widget, &label] {
+        QPalette palette;  // whose colours are those of the parent, but for what is set
+        if (label.design().isAlarming) {
+            palette.setColor(QPalette::WindowText,
+                             warningColour(widget->parentWidget()->palette()));
+        }
+        widget->setPalette(palette);
+    };
+    new EventHook(widget, [colour](QEvent* event) {
+        if (event->type() == QEvent::ApplicationPaletteChange) {
+            colour();
+        }
+        return false;
+    });
+    const auto show = [widget, &label, scale, colour] {
+        colour();
         QFont font;
         if (label.design().isHeading) {
             constexpr double enlargement = 1.6;
