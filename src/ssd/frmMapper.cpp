@@ -125,24 +125,32 @@ void frmMapper::drawSheet() {
     }
 }
 
+void frmMapper::say(const std::string& text) const {
+    if (m_services.say) {
+        m_services.say(text);
+    }
+}
+
+void frmMapper::noteFault(const std::exception& cause) {
+    const auto* const error = dynamic_cast<const FileError*>(&cause);
+    m_lastFault = error == nullptr ? cause.what() : complaint(*error);
+    say(m_lastFault);
+}
+
 void frmMapper::fail(const std::string& text, const std::string& title,
                      const std::exception& cause) {
-    m_lastFault = cause.what();
-    if (const auto* const error = dynamic_cast<const FileError*>(&cause)) {
-        m_lastFault = complaint(*error);
-    }
-    if (m_services.say) {
-        m_services.say(m_lastFault);
-    }
+    noteFault(cause);
     m_services.desktop.showMessage(text, title, Buttons::Ok, Icon::Critical);
 }
 
 void frmMapper::cmdSave_Click() {
     constexpr const char* extension = ".bmp";
+    const std::string ship = m_services.ship().txtShipName;
     std::optional<std::string> name =
         m_services.desktop.chooseFileToSave({.filter = "All Files (*.*)|*.*|BitMap Files",
                                              .filterIndex = 2,
                                              .initialFolder = m_services.appFolder / "ssds",
+                                             .fileName = fileNameOf(ship) + extension,
                                              .extension = extension});
     if (!name) {
         return;
@@ -158,9 +166,11 @@ void frmMapper::cmdSave_Click() {
                            m_emptySheet.height / PictureBox::twipsPerPixel);
         const Raster& sheet = picSSD.picture().isEmpty() ? empty : picSSD.picture();
         saveFile(nativePath(*name), m_services.encoder.encode(sheet, "bmp"));
-    } catch (const std::exception&) {
+    } catch (const std::exception& cause) {
+        noteFault(cause);
         return;  // the window stays, and the sheet in it
     }
+    say("Saved " + shownText(*name));
     unload();
 }
 

@@ -89,6 +89,8 @@ private:
     bool layOut();
     bool showOutline();
     void drawSheet();
+    void say(const std::string& text) const;
+    void noteFault(const std::exception& cause);
     void fail(const std::string& text, const std::string& title, const std::exception& cause);
     static std::int16_t largerOf(std::int16_t a, std::int16_t b);
     void fitToSheet();

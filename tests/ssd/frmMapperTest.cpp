@@ -96,7 +96,8 @@ struct Mapper : PictureEncoder {
             {"fault", window.lastFault()},
             {"maps", ""},
             {"tip", window.cboMapSelection.toolTip()},
-            {"dialog", desktop.asked.initialFolder.string() + " *" + desktop.asked.extension + ' ' +
+            {"dialog", desktop.asked.initialFolder.string() + ' ' + desktop.asked.fileName + " *" +
+                           desktop.asked.extension + ' ' +
                            std::to_string(desktop.asked.filterIndex)}};
         for (const std::string& map : window.cboMapSelection.items()) {
             seen["maps"] += map + ' ';
