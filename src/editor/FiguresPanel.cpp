@@ -1,18 +1,31 @@
 #include "FiguresPanel.h"
 
+#include "ShipFileCheck.h"
 #include "explainShip.h"
+#include "text.h"
 
 #include <array>
 
 namespace fleetwright {
+
+namespace {
+
+/// What the figure of this number is made of, and what is wrong with it.
+std::string explainFigure(ShipClass& ship, std::size_t figure) {
+    constexpr std::size_t massLeft = 2;
+    const std::string sum = textOf(explainShip(ship)[figure]);
+    const std::string fault = figure == massLeft ? asSentence(overloadText(ship)) : "";
+    return (fault.empty() ? "" : fault + "\n\n") + sum.substr(0, sum.find_last_not_of('\n') + 1);
+}
+
+}  // namespace
 
 FiguresPanel::FiguresPanel(const PanelContext& context, Control& lblMassLeft) : Panel(context) {
     const std::array<Control*, 3> explained = {&txtCost, &txtDP, &lblMassLeft};
     for (std::size_t i = 0; i < explained.size(); ++i) {
         explained[i]->askToolTip = [this, i] {
             const auto& current = window().g_Ship;
-            const std::string sum = current ? textOf(explainShip(*current)[i]) : std::string();
-            return sum.substr(0, sum.find_last_not_of('\n') + 1);
+            return current ? explainFigure(*current, i) : std::string();
         };
     }
 }

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "FindingsPanel.h"
 #include "HistoryPanel.h"
 #include "Printer.h"
 #include "RecoveryPanel.h"
@@ -16,6 +17,7 @@ namespace fleetwright {
 namespace {
 
 constexpr const char* shipExtension = ".shp";
+constexpr const char* hasNoFile = "This design has no file yet: Save As (Ctrl+A) gives it one";
 
 FileDialog shipDialog(const std::filesystem::path& appFolder) {
     return {.filter = "All Files (*.*)|*.*|Ship Files(*.shp)|*.shp",
@@ -48,7 +50,10 @@ FileCommands::FileCommands(const PanelContext& context, MenuEntry& mnuFile, Othe
     : Panel(context), m_file(mnuFile), m_others(std::move(others)) {}
 
 void FileCommands::show() {
-    mnuSave.setEnabled(!ship().g_sSaveName.empty());
+    const bool hasFile = !ship().g_sSaveName.empty();
+    keySaveNowhere.setEnabled(!hasFile);
+    mnuSave.setEnabled(hasFile);
+    mnuSave.setToolTip(hasFile ? "Saves the design into its file" : hasNoFile);
 }
 
 bool FileCommands::loadFile(const std::string& fileName) {
@@ -64,31 +69,37 @@ bool FileCommands::loadFile(const std::string& fileName) {
     return isLoaded;
 }
 
-/// Loads a file as a command does. A sheet from which no ship can be had leaves the one at hand.
-bool FileCommands::load(const std::string& fileName) {
+/// Loads a file as a command does, and says what is wrong with it. A sheet from which no ship can
+/// be had leaves the one at hand.
+void FileCommands::load(const std::string& fileName) {
     fileFault.reset();
-    bool isSheet = false;
+    ShipText file;
     try {
-        isSheet = readShip(nativePath(fileName)).isInSheet;
+        file = readShip(nativePath(fileName));
     } catch (const SheetError& error) {
         fileFault = Fault{0, error.what()};
         sayFault(fileName);
-        return false;
+        return;
     } catch (const FileError&) {
         // The load fails likewise.
     }
-    const bool isLoaded = loadFile(fileName);
-    if (isSheet && isLoaded) {
-        window().say("This design is from a sheet. Save As gives it a file of its own.");
-    } else if (isSheet) {
+    if (loadFile(fileName)) {
+        if (file.isInSheet) {
+            window().say("This design is from a sheet. Save As gives it a file of its own.");
+        }
+        m_others.findings.noteLoad(fileName, file.text);
+    } else {
         sayFault(fileName);
     }
-    return isLoaded;
+}
+
+std::string FileCommands::faultIn(const std::string& fileName) const {
+    return complaint(pathText(nativePath(fileName).filename()), *fileFault);
 }
 
 void FileCommands::sayFault(const std::string& fileName) {
     if (fileFault) {
-        window().say(complaint(pathText(nativePath(fileName).filename()), *fileFault));
+        window().say(faultIn(fileName));
     }
 }
 
@@ -97,11 +108,7 @@ void FileCommands::openFiles(const std::vector<std::string>& files) {
         window().say("One design at a time can be opened");
         return;
     }
-    whenReplaceable([this, name = files.front()] {
-        if (!load(name)) {
-            sayFault(name);
-        }
-    });
+    whenReplaceable([this, name = files.front()] { load(name); });
 }
 
 void FileCommands::openAfterStart(std::vector<std::string> files) {
@@ -134,8 +141,9 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
                 const bool hasSteps = steps.empty() || m_others.history.adopt(steps, shipFile);
                 window().say(std::string("This design is not saved yet. Save As gives it a file.") +
                              (hasSteps ? "" : " Its steps cannot be undone any more."));
+                m_others.findings.noteLoad(name, shipFile);
             } else if (fileFault) {
-                window().say("The design cannot be opened: " + fileFault->text);
+                window().say("The design cannot be opened: " + faultIn(name));
             }
         });
     });
@@ -222,9 +230,11 @@ void FileCommands::mnuMRUFile_Click(int Index) {
 
 void FileCommands::mnuSaveAs_Click() {
     FileDialog dialog = shipDialog(services().appFolder);
-    if (const auto& design = window().g_Ship;
-        design && design->g_sSaveName.empty() && !design->g_sTrimmedFileName.empty()) {
-        dialog.fileName = design->g_sTrimmedFileName + shipExtension;  // of the sheet
+    if (const auto& design = window().g_Ship) {
+        dialog.fileName = fileNameOf(design->g_sShipName) + shipExtension;
+        if (!design->g_sSaveName.empty()) {
+            dialog.initialFolder = nativePath(design->g_sSaveName).parent_path();
+        }
     }
     if (const auto file = services().desktop.chooseFileToSave(dialog)) {
         window().acts.whenIdle([this, name = *file] { saveAs(name); });
@@ -239,6 +249,10 @@ void FileCommands::mnuSave_Click() {
     });
 }
 
+void FileCommands::keySaveNowhere_Press() {
+    window().say(hasNoFile);
+}
+
 void FileCommands::saveAs(std::string fileName) {
     if (!maySave(services().desktop, nativePath(ShipClass::withExtension(fileName)))) {
         return;
@@ -246,6 +260,9 @@ void FileCommands::saveAs(std::string fileName) {
     window().say("Saving...");
     bool isSaved = false;
     act([&] { isSaved = ship().saveShip(fileName); });
+    if (!isSaved && ship().fileFault()) {
+        window().say("Saving... " + complaint(fileName, *ship().fileFault()));
+    }
     if (isSaved) {
         m_others.recovery.noteSafe();
         m_others.history.noteSaved();

@@ -3,6 +3,7 @@
 #include "Fault.h"
 #include "Menu.h"
 #include "Panel.h"
+#include "Shortcut.h"
 #include "Timer.h"
 #include "controlArray.h"
 
@@ -14,6 +15,7 @@
 
 namespace fleetwright {
 
+class FindingsPanel;
 class HistoryPanel;
 class RecoveryPanel;
 class clsMRUFiles;
@@ -25,6 +27,7 @@ public:
     struct Others {
         const std::unique_ptr<clsMRUFiles>& CMRUList;
         RecoveryPanel& recovery;
+        FindingsPanel& findings;
         HistoryPanel& history;
         Handler replaceShip;  ///< puts a new ship, without rows, into the place of the one at hand
         Handler clearAutoMass;  ///< takes the mark of AutoMass away
@@ -64,6 +67,10 @@ public:
     MenuEntry mnuSave{m_file,
                       {.name = "mnuSave", .caption = "&Save", .shortcut = "Ctrl+S"},
                       [this] { mnuSave_Click(); }};
+    /// Says why nothing is saved, while Save is disabled.
+    Shortcut keySaveNowhere{form(),
+                            {.name = "keySaveNowhere", .shortcut = "Ctrl+S", .isEnabled = false},
+                            [this] { keySaveNowhere_Press(); }};
     MenuEntry mnuPrint{m_file,
                        {.name = "mnuPrint", .caption = "Print", .shortcut = "Ctrl+P"},
                        [this] { mnuPrint_Click(); }};
@@ -91,6 +98,7 @@ private:
     void mnuLoad_Click();
     void mnuSaveAs_Click();
     void mnuSave_Click();
+    void keySaveNowhere_Press();
     void mnuPrint_Click();
     void mnuExit_Click();
     void mnuMRUFile_Click(int Index);
@@ -98,7 +106,8 @@ private:
 
     void whenReplaceable(std::function<void()> replace);
     bool replaceBy(const std::string& fileName);
-    bool load(const std::string& fileName);
+    void load(const std::string& fileName);
+    std::string faultIn(const std::string& fileName) const;
     void sayFault(const std::string& fileName);
     void showNewShip();
     void saveAs(std::string fileName);

@@ -1,6 +1,28 @@
 #include "HullPanel.h"
 
+#include "designWords.h"
+#include "text.h"
+
 namespace fleetwright {
+
+namespace {
+
+/// Has the tool tips in a group say why it is closed, if it is.
+void explain(Frame& group, bool isOpen, const std::string& why) {
+    if (group.isEnabled() == isOpen) {
+        return;
+    }
+    for (Control* const control : group.controls()) {
+        const std::string tip = control->toolTip();
+        const std::string own = tip.substr(0, tip.find('\n'));
+        control->setToolTip(isOpen        ? (own == why ? "" : own)
+                            : own.empty() ? why
+                                          : own + '\n' + why);
+    }
+    group.setToolTip(isOpen ? "" : why);
+}
+
+}  // namespace
 
 void HullPanel::show() {
     const std::array<OptionButton*, 7> hulls = {nullptr,     &optWarship,  &optMerchant,
@@ -62,6 +84,7 @@ void HullPanel::chooseBaseHull(HullType hullType) {
 }
 
 void HullPanel::EnableStreamlineGroup(bool isEnabled) {
+    explain(fraStreamling, isEnabled, asSentence(noStreamlining));
     optFullStreamling.setEnabled(isEnabled);
     optPartStreamline.setEnabled(isEnabled);
     optNoStreamline.setEnabled(isEnabled);
@@ -69,6 +92,7 @@ void HullPanel::EnableStreamlineGroup(bool isEnabled) {
 }
 
 void HullPanel::EnableFTLGroup(bool isEnabled) {
+    explain(fraFTL, isEnabled, asSentence(noFtlDrive));
     optNone.setEnabled(isEnabled);
     optNormal.setEnabled(isEnabled);
     optTug.setEnabled(isEnabled);
@@ -76,6 +100,7 @@ void HullPanel::EnableFTLGroup(bool isEnabled) {
 }
 
 void HullPanel::EnableThrustGroup(bool isEnabled) {
+    explain(fraThrust, isEnabled, asSentence(noThrust));
     for (OptionButton& button : optThrust) {
         button.setEnabled(isEnabled);
     }

@@ -42,6 +42,7 @@ MenuEntry MassPanel::merchant(const std::string& name, const std::string& captio
 
 void MassPanel::show() {
     lblMassLeft.setCaption(std::to_string(ship().g_iMassLeft));
+    lblMassLeft.setAlarming(ship().g_iMassLeft < 0);
     txtMass.setText(std::to_string(ship().mass()));
 }
 
@@ -75,6 +76,7 @@ void MassPanel::txtMass_MouseDown() {
     // A box that was out for a moment has dropped whatever it was doing with the press.
     txtMass.setEnabled(false);
     txtMass.setEnabled(true);
+    window().say("A standard hull sets hull type and mass of this design");
     services().desktop.popUp(m_stdHulls);
 }
 

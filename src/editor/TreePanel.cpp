@@ -116,7 +116,9 @@ void TreePanel::tvWeapons_DblClick() {
 }
 
 void TreePanel::tvWeapons_MouseDown(const MousePress& press) {
-    if (press.button == RightButton && selectedSystem() != nullptr) {
+    const TreeView::Node* const system = selectedSystem();
+    if (press.button == RightButton && system != nullptr) {
+        window().say("Fits so many of " + quote(system->key));
         services().desktop.popUp(m_addWeaps);
     }
 }

@@ -107,6 +107,7 @@ void frmMain::RefreshScreen() {
     mass.show();
     names.show();
     hull.show();
+    findings.show();
     previews.show(row);
     find.show();
 }
@@ -156,6 +157,7 @@ void frmMain::tmrRefreshScreen_Timer() {
 
 void frmMain::replaceShip() {
     putShip(m_services.catalogueFile);
+    findings.noteReplaced();
     recovery.noteSafe();
     history.noteReplaced();
 }
@@ -196,6 +198,7 @@ void frmMain::g_Ship_ShipLoaded() {
 }
 
 void frmMain::g_Ship_ShipSaved() {
+    findings.noteSaved();
     RefreshScreen();
     sbStatus.setText("Saved...");
 }

@@ -5,6 +5,7 @@
 #include "FiguresPanel.h"
 #include "FileCommands.h"
 #include "FindPanel.h"
+#include "FindingsPanel.h"
 #include "GuidePanel.h"
 #include "HistoryPanel.h"
 #include "HullPanel.h"
@@ -86,6 +87,7 @@ public:
                           .safe = [this] { return recovery.safe(); },
                           .isSafe = [this](const std::string& safe) { recovery.setSafe(safe); }}};
     FindPanel find{m_context, mnuDesign, tree.tvWeapons, sbStatus};
+    FindingsPanel findings{m_context, mnuDesign, sbStatus, {hull, mass, names, aboard, tree}};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,
@@ -98,6 +100,7 @@ public:
                        {.CMRUList = CMRUList,
                         .recovery = recovery,
                         .history = history,
+                        .findings = findings,
                         .replaceShip =
                             [this] {
                                 replaceShip();

@@ -61,6 +61,7 @@ std::span<const ControlTexts> allControlTexts() {
         ControlTexts{"frmMain", "Menu Help", helpMenuTexts()},
         ControlTexts{"frmMain", "Menus that pop up", popUpTexts()},
         ControlTexts{"frmExtras", "Extras Page", extrasPageTexts()},
+        ControlTexts{"frmFindings", "Findings", findingsTexts()},
         ControlTexts{"frmPutAside", "Designs Put Aside", putAsideTexts()},
         ControlTexts{"frmMapper", "Create SSD", mapperTexts()},
         ControlTexts{"frmSSDView", "View SSD", viewerTexts()},

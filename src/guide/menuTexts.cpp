@@ -94,6 +94,9 @@ ControlRows designMenuTexts() {
                     "Finds a system by words of its name, or by the letters that they begin with, "
                     "as in \"pulse iii fps\". Typing in the catalogue does the same. Down, Up and "
                     "F3 go on, Enter fits what is shown, Escape goes back."},
+        ControlText{"mnuFindings", "Findings...",
+                    "Lists what is wrong with the design at hand: systems that are too heavy for "
+                    "the hull or do not go together, and what was lost when it was loaded."},
         ControlText{"mnuSheetPreview", "Sheet Preview...",
                     "Shows the pages of the ship's sheet as they would be printed, on the map that "
                     "fits it best."},

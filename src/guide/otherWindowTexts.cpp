@@ -43,6 +43,18 @@ ControlRows extrasPageTexts() {
     return rows;
 }
 
+ControlRows findingsTexts() {
+    static constexpr std::array rows = {
+        ControlText{"lblAbout lvFindings", "Findings",
+                    "What is wrong with the design at hand, and where. The list changes as you "
+                    "change the design. Double-click a finding or press Enter to go to the control "
+                    "that it is about."},
+        ControlText{"cmdGoTo", "Go To",
+                    "Goes to the control that the selected finding is about."},
+        ControlText{"cmdClose", "Close", "Closes the window."}};
+    return rows;
+}
+
 ControlRows putAsideTexts() {
     static constexpr std::array rows = {
         ControlText{"lblAbout lvDesigns", "Designs put aside",

@@ -23,6 +23,7 @@ ControlRows popUpTexts();
 // The other windows.
 ControlRows amountTexts();
 ControlRows extrasPageTexts();
+ControlRows findingsTexts();
 ControlRows putAsideTexts();
 ControlRows mapperTexts();
 ControlRows viewerTexts();

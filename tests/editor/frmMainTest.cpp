@@ -36,6 +36,11 @@ public:
     explicit Play(const std::string& catalogue, const std::string& before = {})
         : m_test(catalogue.empty() ? windowCatalogue : catalogue) {
         collect(m_window, m_controls);
+        collect(m_window.findings.list, m_controls);
+        for (const auto& [name, control] : m_controls) {
+            m_focused.push_back(control->FocusWanted.connect(
+                [this, focused = name] { m_says += "to " + focused + "; "; }));
+        }
         fs::create_directory(m_test.folder().path() / "ships");
         m_window.tray.tray1.askAvailable = [this] { return m_hasTray; };
         m_dragged = m_window.drag.imgDrag.DragWanted.connect([this] { m_says += "dragged; "; });
@@ -75,6 +80,7 @@ public:
         seen["frmMain"] = std::string(m_window.isLoaded() ? "" : "closed ") +
                           (m_window.isVisible() ? "shown" : "hidden") +
                           (m_window.state() == WindowState::Minimized ? " minimized" : "");
+        seen["frmFindings"] = m_window.findings.list.isVisible() ? "shown" : "hidden";
         if (const ShipClass* const ship = m_window.g_Ship.get()) {
             seen["ship"] =
                 std::to_string(ship->Hull()) + ' ' + std::to_string(ship->mass()) + ' ' +
@@ -250,6 +256,8 @@ private:
             timer->tick();
         } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
             raise(how == "left" ? tray->onLeftClick : tray->onRightClick);
+        } else if (auto* const keys = dynamic_cast<Shortcut*>(&control)) {
+            keys->press();
         } else if (auto* const slider = dynamic_cast<Slider*>(&control)) {
             slider->slide(std::stoi(how));
             m_says += "of " + std::to_string(slider->max()) + " by " +
@@ -312,6 +320,7 @@ private:
     bool m_hasTray = false;
     std::string m_says;
     Connection m_dragged;
+    std::vector<Connection> m_focused;
     Connection m_counting;
 };
 
@@ -319,7 +328,7 @@ private:
 
 TEST(FrmMain, ShowsWhatIsDone) {
     for (const char* const file :
-         {"design", "systems", "files", "acts", "sheets", "guide", "find", "undo"}) {
+         {"design", "systems", "files", "acts", "sheets", "guide", "find", "undo", "findings"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });

@@ -47,7 +47,9 @@ public:
     void act();
     bool hasEnded() const { return m_hasEnded; }
     /// Those that stand beside each other, the main window first.
-    std::vector<Form*> windows() { return {&main, &m_mapper, &m_mapCreator, &m_viewer}; }
+    std::vector<Form*> windows() {
+        return {&main, &main.findings.list, &m_mapper, &m_mapCreator, &m_viewer};
+    }
 
     // For the acts.
     /// A file of any kind, that need not be there; or none.

@@ -6,6 +6,7 @@
 #include "DragImage.h"
 #include "ListView.h"
 #include "OptionButton.h"
+#include "Shortcut.h"
 #include "TextBox.h"
 #include "Timer.h"
 #include "TreeView.h"
@@ -50,15 +51,17 @@ inline std::string stateOf(const Control& control) {
     } else if (dynamic_cast<const OptionButton*>(&control) != nullptr) {
         const bool isAsItsGroup = control.isEnabled() == control.container()->isEnabled();
         return std::string(design.isOn ? "on" : "off") + (isAsItsGroup ? "" : " by itself");
-    } else if (dynamic_cast<const Timer*>(&control) == nullptr) {
+    } else if (dynamic_cast<const Timer*>(&control) == nullptr &&
+               dynamic_cast<const Shortcut*>(&control) == nullptr) {
         text = design.text + design.caption;
     } else {
         return {};
     }
     const bool isOpen =
         dynamic_cast<const TextBox*>(&control) != nullptr && !design.isFlat && !design.isLocked;
-    return text + (design.isOn ? " on" : "") + (isOpen ? " open" : "") +
-           (design.isVisible ? "" : " hidden") + (design.isEnabled ? "" : " disabled");
+    return text + (design.isOn ? " on" : "") + (design.isAlarming ? " alarming" : "") +
+           (isOpen ? " open" : "") + (design.isVisible ? "" : " hidden") +
+           (design.isEnabled ? "" : " disabled");
 }
 
 /// The controls of a container in their order, with what of their designs stays as it is.
