@@ -49,8 +49,7 @@ ControlRows findingsTexts() {
                     "What is wrong with the design at hand, and where. The list changes as you "
                     "change the design. Double-click a finding or press Enter to go to the control "
                     "that it is about."},
-        ControlText{"cmdGoTo", "Go To",
-                    "Goes to the control that the selected finding is about."},
+        ControlText{"cmdGoTo", "Go To", "Goes to the control that the selected finding is about."},
         ControlText{"cmdClose", "Close", "Closes the window."}};
     return rows;
 }
