@@ -27,8 +27,8 @@ public:
     struct Others {
         const std::unique_ptr<clsMRUFiles>& CMRUList;
         RecoveryPanel& recovery;
-        FindingsPanel& findings;
         HistoryPanel& history;
+        FindingsPanel& findings;
         Handler replaceShip;  ///< puts a new ship, without rows, into the place of the one at hand
         Handler clearAutoMass;  ///< takes the mark of AutoMass away
     };

@@ -256,8 +256,6 @@ private:
             timer->tick();
         } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
             raise(how == "left" ? tray->onLeftClick : tray->onRightClick);
-        } else if (auto* const keys = dynamic_cast<Shortcut*>(&control)) {
-            keys->press();
         } else if (auto* const slider = dynamic_cast<Slider*>(&control)) {
             slider->slide(std::stoi(how));
             m_says += "of " + std::to_string(slider->max()) + " by " +
