@@ -50,7 +50,8 @@ std::string_view formOf(const Control& control) {
 std::span<const ControlTexts> allControlTexts() {
     static const std::array sections = {
         ControlTexts{"frmMain", "Mass", massTexts()},
-        ControlTexts{"frmMain", "Hull and drives", hullTexts()},
+        ControlTexts{"frmMain", "Hull", hullTexts()},
+        ControlTexts{"frmMain", "Drives", driveTexts()},
         ControlTexts{"frmMain", "Figures and names", figureTexts()},
         ControlTexts{"frmMain", "Systems", systemTexts()},
         ControlTexts{"frmAmountSlider", "How many are to remain", amountTexts()},

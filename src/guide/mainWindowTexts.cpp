@@ -75,7 +75,12 @@ ControlRows hullTexts() {
                     "Defenses."},
         ControlText{"optNoArmor", "None, Lvl 1, Lvl 2",
                     "No armor, or armor of level 1 for half a point, of level 2 for one point more "
-                    "for each point of mass."},
+                    "for each point of mass."}};
+    return rows;
+}
+
+ControlRows driveTexts() {
+    static constexpr std::array rows = {
         ControlText{"fraFTL", "FTL", "The drive between the stars. Bases have none."},
         ControlText{"optNone", "None",
                     "No drive between the stars: others bring the ship to the battle. It costs "

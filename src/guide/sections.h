@@ -11,6 +11,7 @@ using ControlRows = std::span<const ControlText>;
 // The main window.
 ControlRows massTexts();
 ControlRows hullTexts();
+ControlRows driveTexts();
 ControlRows figureTexts();
 ControlRows systemTexts();
 ControlRows fileMenuTexts();

@@ -98,8 +98,7 @@ std::vector<cmark_node*> GuidePage::nodes(unsigned kind) const {
 
 fs::path GuidePage::target(cmark_node* node) const {
     const std::string address = cutAddress(cmark_node_get_url(node)).first;
-    const fs::path file =
-        address.empty() ? m_file : (m_file.parent_path() / address).lexically_normal();
+    fs::path file = address.empty() ? m_file : (m_file.parent_path() / address).lexically_normal();
     if (!fs::is_regular_file(file)) {
         throw FileError(m_file, "leads nowhere: " + quote(cmark_node_get_url(node)));
     }
