@@ -44,6 +44,7 @@ public:
 
     fs::path choice;
     std::string ending;  ///< of all names, for a state of the desktop
+    Zoom zoom;           ///< of all windows that come
 
     std::optional<std::string> chooseFileToOpen(const FileDialog&) override {
         return choice.string();
@@ -58,6 +59,7 @@ public:
     }
 
     std::unique_ptr<FormWindow> windowOf(Form& form) const {
+        form.setZoom(zoom);
         return std::make_unique<FormWindow>(form, nullptr, WhatsThisText(), &m_drawings);
     }
 
@@ -221,22 +223,18 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     showShip(form, data / "ships" / "Provost.shp", "Pulse Cannon III (FPS)");
     take("main");
     form.aboard.lvCurrentWeapons.pressMouse({.button = RightButton});
-    takeDialogs();
     const QPalette light = QApplication::palette();
     for (const bool isDark : {false, true}) {
         QApplication::setPalette(isDark ? darkPalette() : light);
         for (const int percent : {75, 100, 150, 200, 300}) {
+            desktop.zoom = Zoom(percent);
             desktop.ending = (isDark ? "-dark" : "") +
                              (percent == Zoom::actual ? "" : '-' + std::to_string(percent));
-            form.setZoom(Zoom(percent));
-            if (!desktop.ending.empty()) {
-                take("main");
-            }
-            form.setZoom(Zoom());
+            take("main");
+            takeDialogs();
         }
     }
-    desktop.ending = "-dark";
-    takeDialogs();
+    desktop.zoom = Zoom();
     QApplication::setPalette(light);
     desktop.ending = "-large-font";
     QFont large = QApplication::font();
