@@ -38,10 +38,12 @@ private:
     std::shared_ptr<Drawing> m_drawing;
 };
 
-/// The colours of a tree's first picture: in its upper half, its lower half and beside it.
+/// The colours of the picture of a tree's open branch: in its upper half, its lower half and beside
+/// it.
 std::array<QColor, 3> coloursOf(const Drawings& drawings, const Raster& picture, int percent) {
     AllKinds form;
     form.images.add("ROOT", Raster(picture));
+    form.tree.setExpanded(form.tree.nodes().front(), true);
     form.setZoom(Zoom(percent));
     FormWindow window(form, nullptr, {}, &drawings);
     form.show();

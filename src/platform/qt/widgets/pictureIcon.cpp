@@ -95,7 +95,8 @@ private:
         const QPalette palette = QApplication::palette();
         const bool isDark = palette.color(QPalette::Window).lightness() <
                             palette.color(QPalette::WindowText).lightness();
-        const bool isMarked = mode == QIcon::Selected || state == QIcon::On;
+        // A branch that is open is on, too, but looks like any other.
+        const bool isMarked = m_isFace ? state == QIcon::On : mode == QIcon::Selected;
         // On light ground the pixels look like the drawing, and no start waits for one.
         const std::shared_ptr<const Drawing> drawing =
             isScaled || (!m_isFace && (isDark || isMarked)) ? m_scale.drawingOf(raster()) : nullptr;
