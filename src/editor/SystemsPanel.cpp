@@ -3,6 +3,7 @@
 #include "Desktop.h"
 #include "checkedArithmetic.h"
 #include "explainShip.h"
+#include "text.h"
 #include "wholeNumber.h"
 
 #include <algorithm>

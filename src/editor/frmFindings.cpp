@@ -1,6 +1,7 @@
 #include "frmFindings.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 
