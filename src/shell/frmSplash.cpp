@@ -68,9 +68,10 @@ void frmSplash::Form_Load() {
 }
 
 void frmSplash::choosePicture() {
-    Picture1.setPicture(m_services.pictures.builtIn("splash-1.gif"));
-    Picture2.setPicture(m_services.pictures.builtIn("splash-2.bmp"));
-    const PictureBox& chosen = m_services.clock.tickCount() % 2 == 0 ? Picture2 : Picture1;
+    const bool isEven = m_services.clock.tickCount() % 2 == 0;
+    PictureBox& chosen = isEven ? Picture2 : Picture1;
+    // The other one never shows, and large pictures take long to decode.
+    chosen.setPicture(m_services.pictures.builtIn(isEven ? "splash-2.bmp" : "splash-1.gif"));
     Picture1.setVisible(false);
     Picture2.setVisible(false);
     setPicture(chosen.picture());

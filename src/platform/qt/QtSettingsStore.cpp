@@ -46,24 +46,31 @@ QString pathOf(const std::string& section, const std::string& key) {
     return QString::fromStdString(section + '/' + key);
 }
 
+/// What a hand has put there may read as a list, which is no text of ours but looks like one.
+std::string textOf(const QVariant& value) {
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(", ").toStdString()
+                                                    : value.toString().toStdString();
+}
+
 }  // namespace
 
 std::string QtSettingsStore::read(const std::string& section, const std::string& key,
                                   const std::string& otherwise) const {
-    // What a hand has put there may read as a list, which is no text of ours but looks like one.
-    const QVariant value = store().value(pathOf(section, key), QString::fromStdString(otherwise));
-    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(", ").toStdString()
-                                                    : value.toString().toStdString();
+    return textOf(store().value(pathOf(section, key), QString::fromStdString(otherwise)));
 }
 
 void QtSettingsStore::write(const std::string& section, const std::string& key,
                             const std::string& value) {
     // What is there already is not written once more: each write goes through to the disk.
     const QString path = pathOf(section, key);
-    if (store().contains(path) && read(section, key, "") == value) {
-        return;
+    std::string file;
+    {
+        const QSettings before = store();
+        if (before.contains(path) && textOf(before.value(path)) == value) {
+            return;
+        }
+        file = before.fileName().toStdString();
     }
-    const std::string file = store().fileName().toStdString();
     const std::filesystem::path folder = folderOf(file);
     if (!folder.empty()) {
         makeFolder(folder);
