@@ -1,5 +1,6 @@
 // The program from its start until its main window is painted, against a bare program with as many
-// widgets, nodes and pictures. Both are processes of their own, and the pictures are unpacked.
+// widgets, nodes and pictures. Both are processes of their own, the pictures are unpacked, and it
+// is not the first start.
 
 #include "BenchFolder.h"
 #include "BenchWindow.h"
@@ -14,8 +15,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <chrono>
 #include <cstdio>
 #include <fstream>
+#include <limits>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -56,8 +61,13 @@ void run(std::vector<std::string> command) {
 /// The program in an application folder, beside its files as it expects.
 std::string programStart() {
     const fs::path program = benchApplication() / "program-start";
-    if (!fs::exists(program)) {
-        fs::copy_file(PROGRAM_START, program);
+    fs::copy_file(PROGRAM_START, program);
+    fs::copy(APP_FOLDER "/maps", benchApplication() / "maps");
+    // As if they had been unpacked some time ago: the state of new files tells little.
+    for (const fs::directory_entry& picture :
+         fs::directory_iterator(benchApplication() / "images")) {
+        fs::last_write_time(picture.path(),
+                            fs::file_time_type::clock::now() - std::chrono::hours(1));
     }
     return program.string();
 }
@@ -114,17 +124,52 @@ std::string description() {
     return file.string();
 }
 
+/// Seconds that the program and the bare window take to start. They are started by turns, so that
+/// what slows the machine down for a while meets both.
+struct Starts {
+    Starts(const std::string& program, const std::string& description) {
+        constexpr int turns = 15;
+        for (int i = 0; i < turns; ++i) {
+            ofProgram = std::min(ofProgram, timed({program}));
+            ofBareWindow = std::min(ofBareWindow, timed({BARE_WINDOW, description}));
+        }
+    }
+
+    double ratio() const { return ofProgram / ofBareWindow; }
+
+    double ofProgram = std::numeric_limits<double>::max();
+    double ofBareWindow = std::numeric_limits<double>::max();
+
+private:
+    static double timed(const std::vector<std::string>& command) {
+        const auto begin = std::chrono::steady_clock::now();
+        run(command);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    }
+};
+
+/// Those with the median ratio of three.
+const Starts& medianStarts() {
+    static const Starts median = [] {
+        const std::string program = programStart(), window = description();
+        std::array<Starts, 3> runs = {Starts(program, window), Starts(program, window),
+                                      Starts(program, window)};
+        std::sort(runs.begin(), runs.end(),
+                  [](const Starts& a, const Starts& b) { return a.ratio() < b.ratio(); });
+        return runs[1];
+    }();
+    return median;
+}
+
 void startProgram(benchmark::State& state) {
-    const std::string program = programStart();
     for ([[maybe_unused]] auto _ : state) {
-        run({program});
+        state.SetIterationTime(medianStarts().ofProgram);
     }
 }
 
 void startBareWindow(benchmark::State& state) {
-    const std::string file = description();
     for ([[maybe_unused]] auto _ : state) {
-        run({BARE_WINDOW, file});
+        state.SetIterationTime(medianStarts().ofBareWindow);
     }
 }
 
@@ -154,13 +199,17 @@ void lookAtManyPutAside(benchmark::State& state) {
 
 const bool registered = [] {
     const char* const look = "look at 20,000 designs put aside";
-    for (auto* bench : {benchmark::RegisterBenchmark(look, lookAtManyPutAside),
-                        benchmark::RegisterBenchmark("program start", startProgram),
+    benchmark::RegisterBenchmark(look, lookAtManyPutAside)
+        ->Repetitions(25)
+        ->Iterations(1)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond);
+    for (auto* bench : {benchmark::RegisterBenchmark("program start", startProgram),
                         benchmark::RegisterBenchmark("bare window's start", startBareWindow)}) {
-        bench->Repetitions(25)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
+        bench->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
     }
     RegisterGoal({"Start until the window is painted: times a bare window's", "program start",
-                  "bare window's start", 1.5, false});
+                  "bare window's start", 1.2, false});
     // The window is there by then; it must only not seem to hang.
     RegisterGoal(
         {"Look at 20,000 designs put aside: times a start", look, "program start", 1.5, false});

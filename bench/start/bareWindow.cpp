@@ -18,6 +18,7 @@
 #include <QTextStream>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QWindow>
 
 namespace {
 
@@ -113,6 +114,10 @@ int main(int argc, char** argv) {
     QTextStream lines(&file);
     Window window(lines);
     window.show();
+    // Before the desktop has shown it nothing is painted, whatever is asked for.
+    while (!window.windowHandle()->isExposed()) {
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     window.repaint();
     return 0;
 }
