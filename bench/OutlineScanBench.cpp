@@ -83,6 +83,8 @@ private:
     std::optional<std::string> chooseFileToSave(const FileDialog&) override { return {}; }
     void popUp(MenuEntry&) override {}
     void showModal(Form&, Form&) override {}
+    void askWhatsThis() override {}
+    bool openDocument(const std::filesystem::path&) override { return false; }
     void unloadAllForms() override {}
     ScreenSize screenSize() override { return {}; }
     std::int32_t tickCount() override {
