@@ -277,7 +277,9 @@ void FormWindow::repaintNow() {
         QApplication::processEvents(
             QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, step);
     }
-    repaint();
+    // Only what has changed: the start asks for this with each system.
+    QEvent request(QEvent::UpdateRequest);
+    QApplication::sendEvent(this, &request);
 }
 
 bool FormWindow::event(QEvent* event) {
