@@ -2,6 +2,8 @@
 
 #include "Program.h"
 
+#include <cstdlib>
+
 int main(int argc, char** argv) {
-    return fleetwright::runProgram(argc, argv, fleetwright::Run::UntilPainted);
+    return fleetwright::runProgram(argc, argv, [] { std::_Exit(0); });
 }

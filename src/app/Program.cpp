@@ -30,6 +30,7 @@
 #include "frmSplash.h"
 #include "leftovers.h"
 #include "paths.h"
+#include "programIcon.h"
 #include "saveFile.h"
 #include "sheetShip.h"
 #include "svgFile.h"
@@ -37,7 +38,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QIcon>
 
 #include <algorithm>
 #include <array>
@@ -103,7 +103,7 @@ std::vector<std::string> filesOnCommandLine() {
 /// The services and the windows of the running program, joined.
 class Program {
 public:
-    Program(QtDesktop& desktop, Run run)
+    Program(QtDesktop& desktop, bool isMeasured)
         : m_programFolder(nativePath(QApplication::applicationDirPath().toStdString())),
           m_appFolder(applicationFolder(m_programFolder)), m_desktop(desktop),
           m_sounds(m_programFolder), m_recovery(RecoveryFolder::ofUser(), currentTime, m_trash),
@@ -209,7 +209,7 @@ public:
         desktop.equip(m_settings, m_drawings);
         takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {
-            if (form != &m_splash || run == Run::Whole) {
+            if (form != &m_splash || !isMeasured) {
                 desktop.present(*form);
             }
         }
@@ -229,10 +229,11 @@ public:
         return QApplication::exec();
     }
 
-    int runUntilPainted() {
+    int runUntilPainted(const std::function<void()>& painted) {
         m_splash.load();
         m_main.show();
         m_main.repaint();
+        painted();
         return 0;
     }
 
@@ -288,18 +289,18 @@ private:
 
 }  // namespace
 
-int runProgram(int argc, char** argv, Run run) {
+int runProgram(int argc, char** argv, const std::function<void()>& painted) {
     letFileSizeLimitFail();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(applicationTitle);
     // By this name desktops find the entry that a package has installed, and with it the icon.
     QApplication::setDesktopFileName("org.fleetwright.fleetwright");
-    QApplication::setWindowIcon(QIcon(":/pictures/icon.svg"));
+    QApplication::setWindowIcon(programIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     QtDesktop desktop(whatsThis);
     try {
-        Program program(desktop, run);
-        return run == Run::Whole ? program.run() : program.runUntilPainted();
+        Program program(desktop, painted != nullptr);
+        return painted ? program.runUntilPainted(painted) : program.run();
     } catch (const EndOfProgram&) {
         return 1;
     } catch (const FileError& error) {

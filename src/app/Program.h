@@ -1,15 +1,12 @@
 #pragma once
 
+#include <functional>
+
 namespace fleetwright {
 
-/// How the program runs. Players start it as it stands.
-enum class Run {
-    Whole,         ///< until the player closes it
-    UntilPainted,  ///< for measurements: nothing that waits on purpose, and the main window's first
-                   ///< paint is the end
-};
-
-/// Runs the program with its windows until it ends; its exit status.
-int runProgram(int argc, char** argv, Run run = Run::Whole);
+/// Runs the program with its windows until it ends; its exit status. For measurements it is told
+/// what to do as soon as the main window is painted: it waits for nothing on purpose then, and ends
+/// behind that.
+int runProgram(int argc, char** argv, const std::function<void()>& painted = {});
 
 }  // namespace fleetwright
