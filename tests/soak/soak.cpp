@@ -1,14 +1,18 @@
 // Acts at random on the windows of the program for as long as nobody would sit there, and shows
 // that memory does not grow:
 //
-//     soak [ACTS [SEED]]     1000000 and 1 if they are not said
+//     soak [steps] [ACTS [SEED]]     1000000 and 1 if they are not said
+//
+// With "steps" all of it is one course of acts, which is undone, redone and undone again.
 
-#include "Actor.h"
+#include "StepsWalk.h"
 
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <stdexcept>
 
@@ -48,9 +52,25 @@ long growthIn(int acts, Dice& dice) {
     return residentMemory() - firstTenth;
 }
 
+void walkSteps(int acts, Dice& dice) {
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    StepsWalk walk(dice);
+    walk.walk(acts);
+    const std::size_t steps = walk.history().count();
+    std::printf(
+        "%zu steps undone and redone, %zu bytes each, in %lld s\n", steps,
+        walk.history().size() / steps,
+        static_cast<long long>(
+            std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - start).count()));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    const bool areSteps = argc > 1 && std::strcmp(argv[1], "steps") == 0;
+    argc -= areSteps ? 1 : 0;
+    argv += areSteps ? 1 : 0;
     const int acts = argc > 1 ? std::atoi(argv[1]) : 1'000'000;
     const std::uint64_t seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
     // Each save waits for its disk; one in memory answers at once.
@@ -59,6 +79,10 @@ int main(int argc, char** argv) {
     }
     Dice dice(seed);
     try {
+        if (areSteps) {
+            walkSteps(acts, dice);
+            return 0;
+        }
         constexpr long slack = 1024;
         const long growth = growthIn(acts, dice);
         std::printf("%ld KiB more than after the first tenth; up to %ld may be\n", growth, slack);
