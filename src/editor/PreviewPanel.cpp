@@ -19,7 +19,7 @@ Label PreviewPanel::value(const std::string& what, int index, int left) {
 }
 
 void PreviewPanel::show(std::optional<std::size_t> row) {
-    if (!m_shownRow.empty() && !m_list.find(m_shownRow)) {
+    if (!m_shownRow.empty() && (!row || !m_list.find(m_shownRow))) {
         clear(1);  // for what has gone
         if (row) {
             previewRow(*row);
