@@ -32,7 +32,8 @@ class NoTrash : public Trash {
 
 void putAside(RecoveryFolder& folder, const fs::path& ships) {
     const auto put = [&](const char* name, const char* file) {
-        RecoveryFolder::Aside design = {name, 50, readBytes(ships / file)};
+        RecoveryFolder::Aside design = {name, 50, readBytes(ships / file),
+                                        std::string("steps of ") + file};
         folder.put(design);
         report();
         return design;

@@ -110,6 +110,13 @@ private:
             {"crash", [&] { crash(name); }},
             {"now", [&] { m_now = std::stoi(name); }},
             {"no", [&] { m_hasTrash = false; }},
+            {"steps", [&] { m_steps = name; }},
+            {"back",
+             [&] {
+                 for (const auto& design : runOf(name).lookAround()) {
+                     m_log += design.name + ": " + RecoveryFolder::stepsOf(design.file) + "; ";
+                 }
+             }},
             {"write", [&] { m_root.write("recovered/" + text, name); }},
             {"ship", [&] { m_root.write("recovered/" + text, designOf("Gnat", 9).shipFile); }},
             {"cut",
@@ -134,7 +141,11 @@ private:
         acts.at(act)();
     }
 
-    RecoveryFolder::Aside nextDesign(const std::string& ship) { return designOf(ship, ++m_mass); }
+    RecoveryFolder::Aside nextDesign(const std::string& ship) {
+        RecoveryFolder::Aside next = designOf(ship, ++m_mass);
+        next.steps = m_steps;
+        return next;
+    }
 
     void say(const std::vector<RecoveryFolder::Design>& designs) {
         for (const RecoveryFolder::Design& design : designs) {
@@ -169,6 +180,7 @@ private:
     int m_now = 0;
     int m_mass = 0;
     bool m_hasTrash = true;
+    std::string m_steps;  ///< of the designs to come
     std::string m_log;
 };
 

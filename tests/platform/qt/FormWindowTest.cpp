@@ -108,14 +108,22 @@ TEST_F(FormWindowTest, AKeyGoesToItsBoxFirstAndThenToTheForm) {
     EXPECT_EQ(window.focusWidget(), &name);
     QTest::keyClick(&window, Qt::Key_Space);
     EXPECT_EQ(takeLog(), "formkey ");
-    // What edits a text is a key of the menu where there is nothing to edit.
+    // What edits a text is a key of the menu where there is nothing to edit, or to take back.
+    const auto isOfText = [&name](Qt::Key key) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, Qt::ControlModifier);
+        event.ignore();
+        QApplication::sendEvent(&name, &event);
+        return event.isAccepted();
+    };
     for (const bool isLocked : {true, false}) {
         form.name.setLocked(isLocked);
-        QKeyEvent cut(QEvent::ShortcutOverride, Qt::Key_A, Qt::ControlModifier);
-        cut.ignore();
-        QApplication::sendEvent(&name, &cut);
-        EXPECT_EQ(cut.isAccepted(), !isLocked);
+        EXPECT_EQ(isOfText(Qt::Key_A), !isLocked);
     }
+    EXPECT_FALSE(isOfText(Qt::Key_Z));
+    QTest::keyClick(&name, Qt::Key_B);
+    EXPECT_TRUE(isOfText(Qt::Key_Z));
+    form.name.setText("of another ship");
+    EXPECT_FALSE(isOfText(Qt::Key_Z));
 }
 
 TEST_F(FormWindowTest, FilesMayBeDroppedAnywhereAndStayWhereTheyAre) {

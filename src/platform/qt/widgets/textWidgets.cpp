@@ -125,6 +125,14 @@ void setStretch(QLineEdit& line, int stretch) {
     }
 }
 
+/// Whether a key would undo or redo something in a line where there is nothing of the kind: then it
+/// is that of the window, which has more to undo.
+bool isBeyondUndo(QEvent& event, const QLineEdit& line) {
+    const auto& key = static_cast<QKeyEvent&>(event);
+    return (key.matches(QKeySequence::Undo) && !line.isUndoAvailable()) ||
+           (key.matches(QKeySequence::Redo) && !line.isRedoAvailable());
+}
+
 /// Hands what is done to a line to its model. Whether the line itself is to do nothing with it.
 bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale) {
     switch (event.type()) {
@@ -143,7 +151,7 @@ bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale)
         }
         return static_cast<bool>(box.onMouseDown);
     case QEvent::ShortcutOverride:
-        return takesEditKeys(event, box);
+        return takesEditKeys(event, box) || isBeyondUndo(event, line);
     case QEvent::DragEnter:
         return static_cast<QDropEvent&>(event).mimeData()->hasUrls();  // files are for the window
     case QEvent::KeyPress: {
