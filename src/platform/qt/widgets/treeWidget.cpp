@@ -33,8 +33,11 @@ public:
                 [this](QTreeWidgetItem* item) { takeExpanded(item, true); });
         connect(this, &QTreeWidget::itemCollapsed,
                 [this](QTreeWidgetItem* item) { takeExpanded(item, false); });
+        // With what stands around it, unless the tree need not move at all.
         keepAttached(this, tree.SightWanted.connect([this](const TreeView::Node& node) {
-            scrollToItem(m_byNode.at(&node));
+            if (!isInSight(node)) {
+                scrollToItem(m_byNode.at(&node), PositionAtCenter);
+            }
         }));
         keepAttached(this, tree.TopWanted.connect([this](const TreeView::Node& node) {
             scrollToItem(m_byNode.at(&node), PositionAtTop);
@@ -64,7 +67,9 @@ public:
                 m_items[i]->setExpanded(isExpanded);
             }
         }
+        setAutoScroll(false);  // whoever wants to see it says so
         setCurrentItem(m_tree.selected() == nullptr ? nullptr : m_byNode.at(m_tree.selected()));
+        setAutoScroll(true);
     }
 
 protected:
@@ -138,8 +143,8 @@ private:
     }
 
     bool isInSight(const TreeView::Node& node) const {
-        const QPoint middle = visualItemRect(m_byNode.at(&node)).center();
-        return middle.y() >= 0 && middle.y() < viewport()->height();
+        const QRect line = visualItemRect(m_byNode.at(&node));
+        return line.isValid() && viewport()->rect().contains(0, line.center().y());
     }
 
     /// A move with a button down, which may drag.
