@@ -122,4 +122,12 @@ TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
     click(node(battery), leftTwice);
     design[std::string("System: ") + battery] = "6";
     window->waitFor(expectedOf(design, true));
+
+    // By its name, from a branch that is closed.
+    press("ctrl+f");
+    type("cloak");
+    waitForSelected(tree, "Cloaking Field");
+    press("Return");
+    design["System: Cloaking Field"] = "1";
+    window->waitFor(expectedOf(design, true));
 }
