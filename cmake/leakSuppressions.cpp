@@ -1,10 +1,9 @@
 // For the sanitizer build: Qt keeps what it knows of a thread that it has not started itself, and
-// the tool's workers are such threads; fontconfig keeps the fonts that it was handed. Nothing is said
-// of it, since tests compare what is said.
+// the tool's workers are such threads. Nothing is said of it, since tests compare what is said.
 // NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer calls these by their names.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libQt6Core\nleak:libfontconfig\n";
+    return "leak:libQt6Core\n";
 }
 
 extern "C" const char* __lsan_default_options();

@@ -26,28 +26,27 @@ constexpr std::array<std::uint8_t, 256> digitValues = [] {
 
 }  // namespace
 
-std::string toBase64(std::string_view bytes) {
+std::string toBase64(std::string_view bytes, Base64Lines lines) {
     constexpr std::size_t digitsOfLine = 76;
+    constexpr std::size_t bytesOfGroup = digitsOfGroup - 1;
     std::string text;
-    std::size_t inLine = 0;
-    const auto append = [&](char digit) {
-        if (inLine == digitsOfLine) {
+    text.reserve(bytes.size() / 2 * 3);
+    for (std::size_t at = 0; at < bytes.size(); at += bytesOfGroup) {
+        if (lines == Base64Lines::Many && at > 0 &&
+            at % (digitsOfLine / digitsOfGroup * bytesOfGroup) == 0) {
             text += '\n';
-            inLine = 0;
         }
-        text += digit;
-        ++inLine;
-    };
-    for (std::size_t at = 0; at < bytes.size(); at += digitsOfGroup - 1) {
-        const std::string_view group = bytes.substr(at, digitsOfGroup - 1);
+        const std::string_view group = bytes.substr(at, bytesOfGroup);
         std::uint32_t bits = 0;
-        for (std::size_t i = 0; i < digitsOfGroup - 1; ++i) {
+        for (std::size_t i = 0; i < bytesOfGroup; ++i) {
             bits = bits << 8U | (i < group.size() ? static_cast<unsigned char>(group[i]) : 0U);
         }
+        char written[digitsOfGroup];
         for (std::size_t i = 0; i < digitsOfGroup; ++i) {
             const std::uint32_t digit = bits >> (digitsOfGroup - 1 - i) * bitsOfDigit & 0x3FU;
-            append(i <= group.size() ? digits[digit] : padding);
+            written[i] = i <= group.size() ? digits[digit] : padding;
         }
+        text.append(written, digitsOfGroup);
     }
     return text;
 }

@@ -46,7 +46,7 @@ std::string ToolPictures::encode(const Raster& picture, const std::string& forma
 void ToolPictures::prepareForPdf() {
     m_preparing = std::async(std::launch::async, [folder = m_programFolder] {
         try {
-            loadPictures(folder).prepareForPdf();
+            loadPictures(folder);
         } catch (const Error&) {
             // The one who makes the file finds it, too.
         }

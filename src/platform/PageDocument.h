@@ -28,7 +28,7 @@ inline constexpr double paperMargin = 10;
 
 enum class PageFont { Regular, Bold };
 
-/// One line of text, left to right, in the font that the program brings along.
+/// One line of text, in the font that the program brings along.
 struct PageText {
     enum class Anchor { Start, Middle, End };
 
@@ -67,7 +67,8 @@ struct PagePicture {
 using PageItem = std::variant<PageText, PageLine, PageRectangle, PagePicture>;
 
 struct Page {
-    std::vector<PageItem> items;  ///< later ones cover earlier ones
+    /// Later ones cover earlier ones, but text lies above all else.
+    std::vector<PageItem> items;
 };
 
 struct PageDocument {

@@ -5,96 +5,121 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
-#include <span>
 
 namespace fleetwright {
 
 namespace {
 
-/// A character's face and how far it moves the pen, in 2048ths of the font's size.
-struct PageGlyph {
+constexpr char32_t missing = U'\uFFFD';
+constexpr double unitsPerSize = 2048;
+
+PageFace faceOf(PageFont font) {
+    return font == PageFont::Bold ? PageFace::Bold : PageFace::Regular;
+}
+
+/// The run and the face that have a character, if any has.
+struct FoundLetter {
+    const LetterRun* run;
     PageFace face;
-    unsigned advance;
 };
 
-std::optional<PageGlyph> glyphIn(PageFace face, char32_t character) {
-    const std::span<const AdvanceRun> runs = pageFaces[static_cast<std::size_t>(face)];
-    const auto next =
-        std::upper_bound(runs.begin(), runs.end(), character,
-                         [](char32_t code, const AdvanceRun& run) { return code < run.first; });
-    if (next == runs.begin()) {
-        return std::nullopt;
-    }
-    const AdvanceRun& run = *std::prev(next);
-    return character - run.first < run.count ? std::optional(PageGlyph{face, run.advance})
-                                             : std::nullopt;
+FoundLetter findLetter(char32_t character, PageFont font) {
+    const PageFace face = faceOf(font);
+    const LetterRun* const run = letterRunOf(character, face);
+    return run != nullptr
+               ? FoundLetter{run, face}
+               : FoundLetter{letterRunOf(character, PageFace::Fallback), PageFace::Fallback};
 }
 
-std::optional<PageGlyph> glyphFor(char32_t character, PageFont font) {
-    const auto glyph =
-        glyphIn(font == PageFont::Bold ? PageFace::Bold : PageFace::Regular, character);
-    return glyph ? glyph : glyphIn(PageFace::Fallback, character);
-}
-
-/// Hands over what is drawn of a text, a character and its glyph each.
+/// Hands over what is drawn of a text, the sign and its characters each.
 template <typename Take>
-void walkGlyphs(std::string_view text, PageFont font, Take take) {
-    constexpr std::string_view missing = "\uFFFD";
+void walkSigns(std::string_view text, PageFont font, Take take) {
     while (!text.empty()) {
-        std::string_view shown = text.substr(0, characterLength(text));
-        text.remove_prefix(shown.size());
-        shown = shown == "\t" ? " " : shown;
-        const char32_t character = codePoint(shown);
-        if (isInvisible(character)) {
-            continue;
+        const std::size_t length = characterLength(text);
+        const char32_t character = text.front() == '\t' ? U' ' : codePoint(text);
+        if (!isInvisible(character)) {
+            take(pageSign(character, font), text.substr(0, length));
         }
-        std::optional<PageGlyph> glyph = glyphFor(character, font);
-        if (!glyph || character == U'\uFFFD') {
-            shown = missing;
-            glyph = glyphFor(U'\uFFFD', font);
-        }
-        take(shown, *glyph);
+        text.remove_prefix(length);
     }
 }
-
-constexpr double unitsPerSize = 2048;
 
 constexpr std::size_t asciiCount = 128;
 
-/// How far the characters of ASCII move the pen in a font; 0 for those that are not drawn.
-const std::array<unsigned, asciiCount>& asciiAdvances(PageFont font) {
+/// How far the characters of ASCII move the pen in a font, in 2048ths of its size; 0 for those that
+/// are not drawn.
+const std::array<double, asciiCount>& asciiAdvances(PageFont font) {
     const auto all = [](PageFont ofFont) {
-        std::array<unsigned, asciiCount> advances{};
+        std::array<double, asciiCount> advances{};
         for (std::size_t code = 0; code < asciiCount; ++code) {
             const char character = static_cast<char>(code);
-            walkGlyphs({&character, 1}, ofFont, [&](std::string_view, const PageGlyph& glyph) {
-                advances[code] = glyph.advance;
+            walkSigns({&character, 1}, ofFont, [&](const PageSign& sign, std::string_view) {
+                advances[code] = sign.width * unitsPerSize;
             });
         }
         return advances;
     };
-    static const std::array<unsigned, asciiCount> regular = all(PageFont::Regular);
-    static const std::array<unsigned, asciiCount> bold = all(PageFont::Bold);
+    static const std::array<double, asciiCount> regular = all(PageFont::Regular);
+    static const std::array<double, asciiCount> bold = all(PageFont::Bold);
     return font == PageFont::Bold ? bold : regular;
 }
 
 }  // namespace
 
+const LetterRun* letterRunOf(char32_t character, PageFace face) {
+    const std::span<const LetterRun> runs = pageLetters[static_cast<std::size_t>(face)];
+    const auto next =
+        std::upper_bound(runs.begin(), runs.end(), character,
+                         [](char32_t code, const LetterRun& run) { return code < run.first; });
+    if (next == runs.begin() || character - std::prev(next)->first >= std::prev(next)->count) {
+        return nullptr;
+    }
+    return &*std::prev(next);
+}
+
+PageSign pageSign(char32_t character, PageFont font) {
+    char32_t drawn = character;
+    FoundLetter found = findLetter(drawn, font);
+    if (found.run == nullptr) {
+        drawn = missing;
+        found = findLetter(drawn, font);
+    }
+    return {character, drawn, found.face, found.run->advance / unitsPerSize};
+}
+
+std::vector<PageSign> pageSigns(std::string_view text, PageFont font) {
+    std::vector<PageSign> signs;
+    walkSigns(text, font,
+              [&signs](const PageSign& sign, std::string_view) { signs.push_back(sign); });
+    return signs;
+}
+
 std::vector<PageRun> pageRuns(std::string_view text, PageFont font) {
     std::vector<PageRun> runs;
-    walkGlyphs(text, font, [&runs](std::string_view shown, const PageGlyph& glyph) {
-        if (runs.empty() || runs.back().face != glyph.face) {
-            runs.push_back({.face = glyph.face, .text = {}, .width = 0});
+    walkSigns(text, font, [&runs](const PageSign& sign, std::string_view character) {
+        if (runs.empty() || runs.back().face != sign.face) {
+            runs.push_back({.face = sign.face, .text = {}, .width = 0});
         }
-        runs.back().text += shown;
-        runs.back().width += glyph.advance / unitsPerSize;
+        if (sign.drawn == missing) {
+            runs.back().text += "\uFFFD";
+        } else {
+            runs.back().text += character == "\t" ? " " : character;
+        }
+        runs.back().width += sign.width;
     });
     return runs;
 }
 
+double startOf(const PageText& text) {
+    if (text.anchor == PageText::Anchor::Start) {
+        return text.x;
+    }
+    const double width = textWidth(text.text, text.size, text.font);
+    return text.x - (text.anchor == PageText::Anchor::Middle ? width / 2 : width);
+}
+
 double textWidth(std::string_view text, double size, PageFont font) {
-    const std::array<unsigned, asciiCount>& advances = asciiAdvances(font);
+    const std::array<double, asciiCount>& advances = asciiAdvances(font);
     double width = 0;
     for (std::string_view rest = text; !rest.empty();) {
         if (const auto code = static_cast<unsigned char>(rest.front()); code < asciiCount) {
@@ -103,8 +128,9 @@ double textWidth(std::string_view text, double size, PageFont font) {
             continue;
         }
         const std::string_view character = rest.substr(0, characterLength(rest));
-        walkGlyphs(character, font,
-                   [&width](std::string_view, const PageGlyph& glyph) { width += glyph.advance; });
+        walkSigns(character, font, [&width](const PageSign& sign, std::string_view) {
+            width += sign.width * unitsPerSize;
+        });
         rest.remove_prefix(character.size());
     }
     return width / unitsPerSize * size;

@@ -7,6 +7,7 @@
 #include "svgFile.h"
 
 #include <cmath>
+#include <regex>
 
 using namespace fleetwright;
 
@@ -106,8 +107,11 @@ TEST(SheetPages, BecomeAnSvgFile) {
                                PagePicture{drawing, nullptr, {1, 2, 5, 10}, {1, 2, 2.5, 10}},
                                PagePicture{nullptr, raster, {0, 0, 3, 4}, {0, 0, 3, 4}},
                                PageLine{1, 2, 3, 1.0 / 3, 0.25, 0xABCDEF}};
-    document.pages[1].items = {
-        PageRectangle{{1, 1, 2, 2}, 0xFFFFFF, 0, 0.5, 1},
-        PageText{"a  <b>\r\x02", 1, 2, 3, PageFont::Bold, PageText::Anchor::End, 0x123456}};
-    expectCases("paper/golden/svg.txt", [&](const Case&) { return svgFile(document, paper); });
+    document.pages[1].items = {PageText{"a  <b>\r\x02\u5DE1\U0001F680", 1, 2, 3, PageFont::Bold,
+                                        PageText::Anchor::End, 0x123456},
+                               PageRectangle{{1, 1, 2, 2}, 0xFFFFFF, 0, 0.5, 1}};
+    const std::regex fontBytes("(font/ttf;base64,AAEAAAAK)[A-Za-z0-9+/]*=*");
+    expectCases("paper/golden/svg.txt", [&](const Case&) {
+        return std::regex_replace(svgFile(document, paper), fontBytes, "$1");
+    });
 }

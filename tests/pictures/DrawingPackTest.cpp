@@ -5,7 +5,7 @@
 #include "QtPictureFiles.h"
 #include "TemporaryFolder.h"
 #include "caseFile.h"
-#include "drawPage.h"
+#include "drawPageShapes.h"
 #include "faults.h"
 #include "paths.h"
 #include "qtImage.h"
@@ -30,8 +30,8 @@ QImage rendered(const std::shared_ptr<const Drawing>& drawing, int fine) {
     QImage image(QSize(drawing->width, drawing->height) * fine, QImage::Format_RGB32);
     QPainter painter(&image);
     painter.scale(double(fine) / pageUnits, double(fine) / pageUnits);
-    drawPage(painter,
-             {{PagePicture{.drawing = drawing, .raster = {}, .place = place, .clip = place}}});
+    drawPageShapes(
+        painter, {{PagePicture{.drawing = drawing, .raster = {}, .place = place, .clip = place}}});
     return image.scaled(image.size() / fine, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 

@@ -1,4 +1,4 @@
-// Packs a font of single-pixel letters into C++ source, for src/ssd/glyphData.h.
+// Packs a font of single-pixel letters into C++ source, for src/platform/glyphData.h.
 //
 //   pack-glyphs FONT.hex COMBINING.txt OUT.cpp
 //

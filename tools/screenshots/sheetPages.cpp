@@ -7,6 +7,7 @@
 #include "ShipOnScreen.h"
 #include "bestMap.h"
 #include "drawPage.h"
+#include "drawPageShapes.h"
 #include "drawnSheet.h"
 #include "frmMain.h"
 #include "paths.h"

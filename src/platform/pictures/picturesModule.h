@@ -14,7 +14,6 @@ class PictureReader;
 struct Pictures {
     PictureReader& files;
     PictureEncoder& encoder;
-    void (*prepareForPdf)();                  ///< so that the first file is made sooner
     std::string (*pdf)(const PageDocument&);  ///< any number of threads may call it
 };
 using CreatePictures = const Pictures* (*)();

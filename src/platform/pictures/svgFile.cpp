@@ -3,6 +3,7 @@
 #include "PictureFiles.h"
 #include "Raster.h"
 #include "base64.h"
+#include "svgFonts.h"
 #include "svgText.h"
 
 #include <cstddef>
@@ -130,8 +131,7 @@ void SvgWriter::defineDrawing(const std::string& name, const Drawing& drawing) {
 }
 
 void SvgWriter::defineRaster(const std::string& name, const Raster& raster) {
-    std::string png = toBase64(m_encoder.encode(raster, "png"));
-    std::erase(png, '\n');
+    const std::string png = toBase64(m_encoder.encode(raster, "png"), Base64Lines::One);
     SvgTag(m_definitions, "image")
         .set("id", name)
         .set("width", double(raster.width()))
@@ -247,8 +247,12 @@ void SvgWriter::writePage(const Page& page, std::size_t index) {
     }
     paper.close();
     m_body += '\n';
-    for (const PageItem& item : page.items) {
-        std::visit([this](const auto& shown) { write(shown); }, item);
+    for (const bool isText : {false, true}) {
+        for (const PageItem& item : page.items) {
+            if (std::holds_alternative<PageText>(item) == isText) {
+                std::visit([this](const auto& shown) { write(shown); }, item);
+            }
+        }
     }
     m_body += "</g>\n";
 }
@@ -285,7 +289,7 @@ std::string SvgWriter::file() {
     }
     const auto count = double(m_document.pages.size());
     const double height = count * m_document.size.height + (count - 1) * pageGap;
-    std::string text = head(height);
+    std::string text = head(height) + svgFonts(m_document);
     if (!m_definitions.empty()) {
         ((text += "<defs>\n") += m_definitions) += "</defs>\n";
     }

@@ -9,9 +9,9 @@ namespace fleetwright {
 class PictureEncoder;
 
 /// Pages as an SVG file, one below the other: the same bytes for the same document, wherever it is
-/// made. Each drawing is in it once. Texts are text, in the program's font if whoever looks at it
-/// has that, and as wide as they are in it if not. Pictures without a drawing are in it as PNG
-/// files, which `encoder` makes. Throws Error.
+/// made. Each drawing is in it once. Texts are text, in the program's font, which it holds, and as
+/// wide as they are in it if whoever shows the file takes another one. Pictures without a drawing
+/// are in it as PNG files, which `encoder` makes. Throws Error.
 std::string svgFile(const PageDocument& document, PictureEncoder& encoder);
 
 }  // namespace fleetwright

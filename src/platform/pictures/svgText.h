@@ -8,9 +8,6 @@
 
 namespace fleetwright {
 
-/// The fonts of text, the program's own first.
-inline constexpr const char* svgFontFamily = "FleetWright Sans, DejaVu Sans, sans-serif";
-
 /// A number with at most four decimals.
 std::string svgNumber(double value);
 

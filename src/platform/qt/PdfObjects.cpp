@@ -2,6 +2,8 @@
 
 #include "Error.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <charconv>
 #include <iterator>
@@ -72,6 +74,25 @@ std::map<std::size_t, std::size_t> placesOf(std::string_view file) {
 std::size_t pdfReference(std::string_view dictionary, std::string_view key) {
     std::string_view value = behindLast(dictionary, key);
     return takeNumber(value);
+}
+
+std::string pdfStream(std::string_view bytes) {
+    constexpr int lengthInFront = 4;  // which is Qt's own
+    const QByteArray packed = qCompress(reinterpret_cast<const uchar*>(bytes.data()),
+                                        static_cast<qsizetype>(bytes.size()))
+                                  .mid(lengthInFront);
+    return "\n<< /Length " + std::to_string(packed.size()) + " /Filter /FlateDecode >>\nstream\n" +
+           packed.toStdString() + "\nendstream\n";
+}
+
+std::vector<std::size_t> pdfPages(const PdfObjects& objects) {
+    std::vector<std::size_t> pages;
+    for (std::size_t number = 0; number < objects.count(); ++number) {
+        if (objects.at(number).find("/Type /Page\n") != std::string::npos) {
+            pages.push_back(number);
+        }
+    }
+    return pages;
 }
 
 PdfObjects::PdfObjects(std::string_view file) {

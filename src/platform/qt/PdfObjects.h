@@ -33,6 +33,12 @@ private:
     std::size_t m_catalog = 0;
 };
 
+/// An object that holds bytes, packed.
+std::string pdfStream(std::string_view bytes);
+
+/// The numbers of the objects of the pages, in their order.
+std::vector<std::size_t> pdfPages(const PdfObjects& objects);
+
 /// The number of the object that a dictionary names behind a key such as "/Pages". Throws Error if
 /// it names none.
 std::size_t pdfReference(std::string_view dictionary, std::string_view key);

@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "choosePrinter.h"
 #include "drawPage.h"
+#include "drawPageShapes.h"
 #include "paths.h"
 #include "pdfFile.h"
 

@@ -1,122 +1,42 @@
 #include "drawPage.h"
 
-#include "Raster.h"
-#include "drawShapes.h"
+#include "drawPageShapes.h"
 #include "pageFontFiles.h"
-#include "qtImage.h"
 
 #include <QColor>
 #include <QPainter>
-#include <QPen>
+#include <QString>
 #include <QTransform>
-
-#include <variant>
 
 namespace fleetwright {
 
 namespace {
 
-QRectF rectInUnits(const Box& box) {
-    const QPointF corner(toUnits(box.x), toUnits(box.y));
-    return {corner, QPointF(toUnits(box.x + box.width), toUnits(box.y + box.height))};
+void drawText(QPainter& painter, const PageText& text) {
+    double x = startOf(text);
+    painter.setPen(QColor::fromRgb(text.colour));
+    const QTransform page = painter.transform();
+    // Letters of all sizes are those of one font, so that they are looked up once.
+    const double scale = toUnits(text.size) / pageFontSize;
+    for (const PageRun& run : pageRuns(text.text, text.font)) {
+        painter.setFont(pageFont(run.face));
+        painter.setTransform(QTransform(scale, 0, 0, scale, toUnits(x), toUnits(text.y)) * page);
+        painter.drawText(QPointF(), QString::fromStdString(run.text));
+        x += run.width * text.size;
+    }
+    painter.setTransform(page);
 }
-
-/// Whether what a drawing shows lies within what shows of it.
-bool isWithin(const Box& ink, double scale, const PagePicture& picture) {
-    constexpr double tolerance = 0.001;
-    const double left = picture.place.x + ink.x * scale - picture.clip.x;
-    const double top = picture.place.y + ink.y * scale - picture.clip.y;
-    return left >= -tolerance && top >= -tolerance &&
-           left + ink.width * scale <= picture.clip.width + tolerance &&
-           top + ink.height * scale <= picture.clip.height + tolerance;
-}
-
-class PagePainter {
-public:
-    explicit PagePainter(QPainter& painter) : m_painter(painter) {
-        m_painter.setLayoutDirection(Qt::LeftToRight);
-        m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                                 QPainter::LosslessImageRendering);
-    }
-
-    void operator()(const PageText& text) const {
-        double x = text.x;
-        if (text.anchor != PageText::Anchor::Start) {
-            const double width = textWidth(text.text, text.size, text.font);
-            x -= text.anchor == PageText::Anchor::Middle ? width / 2 : width;
-        }
-        m_painter.setPen(QColor::fromRgb(text.colour));
-        const QTransform page = m_painter.transform();
-        // Letters of all sizes are those of one font, so that they are looked up once.
-        const double scale = toUnits(text.size) / pageFontSize;
-        for (const PageRun& run : pageRuns(text.text, text.font)) {
-            m_painter.setFont(pageFont(run.face));
-            m_painter.setTransform(QTransform(scale, 0, 0, scale, toUnits(x), toUnits(text.y)) *
-                                   page);
-            m_painter.drawText(QPointF(), QString::fromStdString(run.text));
-            x += run.width * text.size;
-        }
-        m_painter.setTransform(page);
-    }
-
-    void operator()(const PageLine& line) const {
-        m_painter.setPen(
-            QPen(QColor::fromRgb(line.colour), line.width * pageUnits, Qt::SolidLine, Qt::FlatCap));
-        m_painter.drawLine(QPointF(toUnits(line.x1), toUnits(line.y1)),
-                           QPointF(toUnits(line.x2), toUnits(line.y2)));
-    }
-
-    void operator()(const PageRectangle& rectangle) const {
-        m_painter.setBrush(rectangle.fill ? QBrush(QColor::fromRgb(*rectangle.fill)) : QBrush());
-        m_painter.setPen(rectangle.stroke ? QPen(QColor::fromRgb(*rectangle.stroke),
-                                                 rectangle.strokeWidth * pageUnits, Qt::SolidLine,
-                                                 Qt::FlatCap, Qt::MiterJoin)
-                                          : QPen(Qt::NoPen));
-        if (rectangle.radius > 0) {
-            const double radius = toUnits(rectangle.radius);
-            m_painter.drawRoundedRect(rectInUnits(rectangle.place), radius, radius);
-        } else {
-            m_painter.drawRect(rectInUnits(rectangle.place));
-        }
-    }
-
-    void operator()(const PagePicture& picture) const {
-        const QRectF clip = rectInUnits(picture.clip);
-        if (picture.drawing == nullptr) {
-            clipped(clip, clip != rectInUnits(picture.place), [&] {
-                m_painter.drawImage(rectInUnits(picture.place), toImage(*picture.raster));
-            });
-            return;
-        }
-        const Drawing& drawing = *picture.drawing;
-        const double scale = picture.place.width / drawing.width;
-        m_painter.fillRect(clip, Qt::white);
-        clipped(clip, !isWithin(drawing.ink, scale, picture),
-                [&] { drawShapes(m_painter, drawing, picture.place); });
-    }
-
-private:
-    template <typename Draw>
-    void clipped(const QRectF& clip, bool isNeeded, const Draw& draw) const {
-        if (isNeeded) {
-            m_painter.save();
-            m_painter.setClipRect(clip);
-        }
-        draw();
-        if (isNeeded) {
-            m_painter.restore();
-        }
-    }
-
-    QPainter& m_painter;
-};
 
 }  // namespace
 
 void drawPage(QPainter& painter, const Page& page) {
-    const PagePainter draw(painter);
+    drawPageShapes(painter, page);
+    painter.setLayoutDirection(Qt::LeftToRight);
+    painter.setRenderHint(QPainter::TextAntialiasing);
     for (const PageItem& item : page.items) {
-        std::visit(draw, item);
+        if (const auto* const text = std::get_if<PageText>(&item)) {
+            drawText(painter, *text);
+        }
     }
 }
 

@@ -1,6 +1,6 @@
 #include "drawShapes.h"
 
-#include "drawPage.h"
+#include "drawPageShapes.h"
 #include "pathSteps.h"
 
 #include <QColor>

@@ -1,6 +1,6 @@
 #include "drawnImage.h"
 
-#include "drawPage.h"
+#include "drawPageShapes.h"
 #include "drawShapes.h"
 
 #include <QPainter>

@@ -2,13 +2,13 @@
 
 #include "Error.h"
 #include "PdfObjects.h"
-#include "drawPage.h"
+#include "PdfText.h"
+#include "drawPageShapes.h"
 #include "text.h"
 
 #include <QBuffer>
 #include <QByteArray>
 #include <QDateTime>
-#include <QHashFunctions>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -35,10 +35,9 @@ QSize wholePoints(const PageSize& size) {
             static_cast<int>(std::ceil(toPoints(size.height)))};
 }
 
-/// The document as Qt writes it: with the time of now, and without most of what is said of it.
+/// The document as Qt writes it: without text, with the time of now, and without most of what is
+/// said of it.
 std::string drawnPages(const PageDocument& document) {
-    // Qt goes through its fonts in an order that would be another one in each process.
-    QHashSeed::setDeterministicGlobalSeed();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -52,7 +51,7 @@ std::string drawnPages(const PageDocument& document) {
     for (const Page& page : document.pages) {
         isDrawn = isDrawn && (&page == document.pages.data() || writer.newPage());
         if (isDrawn) {
-            drawPage(painter, page);
+            drawPageShapes(painter, page);
         }
     }
     if (!isDrawn || !painter.end()) {
@@ -125,10 +124,9 @@ void setPageSize(PdfObjects& objects, const PageSize& size) {
                                 .arg(toPoints(size.width), 0, 'f', 3)
                                 .arg(top)
                                 .toStdString();
-    for (std::size_t number = 0; number < objects.count(); ++number) {
+    for (const std::size_t number : pdfPages(objects)) {
         std::string object = objects.at(number);
-        const std::size_t start = object.find(key);
-        if (object.find("/Type /Page\n") != std::string::npos && start != std::string::npos) {
+        if (const std::size_t start = object.find(key); start != std::string::npos) {
             objects.set(number, object.replace(start, object.find(']', start) + 1 - start, box));
         }
     }
@@ -139,6 +137,7 @@ void setPageSize(PdfObjects& objects, const PageSize& size) {
 std::string pdfFile(const PageDocument& document) {
     PdfObjects objects(drawnPages(document));
     setPageSize(objects, document.size);
+    PdfText(document).putInto(objects);
     objects.set(objects.info(), infoOf(document));
     const std::string packet = packetOf(document);
     // Not compressed, so that other programs find it without reading the document.

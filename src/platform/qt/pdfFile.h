@@ -6,8 +6,8 @@
 
 namespace fleetwright {
 
-/// The bytes of a PDF file: the same for the same document, wherever it is made. An application
-/// object must be there; any number of threads may make files. Throws Error.
+/// The bytes of a PDF file: the same for the same document, wherever it is made. Any number of
+/// threads may make files. Throws Error.
 std::string pdfFile(const PageDocument& document);
 
 }  // namespace fleetwright
