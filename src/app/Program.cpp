@@ -34,6 +34,7 @@
 #include "saveFile.h"
 #include "sheetShip.h"
 #include "svgFile.h"
+#include "windowApplication.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -291,7 +292,7 @@ private:
 
 int runProgram(int argc, char** argv, const std::function<void()>& painted) {
     letFileSizeLimitFail();
-    const QApplication application(argc, argv);
+    const QApplication application = windowApplication(argc, argv);
     QApplication::setApplicationName(applicationTitle);
     // By this name desktops find the entry that a package has installed, and with it the icon.
     QApplication::setDesktopFileName("org.fleetwright.fleetwright");
