@@ -65,7 +65,7 @@ public:
         int width;
         int height;
     };
-    /// What the screen has room for, in device-independent pixels.
+    /// Of the screen as a whole, task bars included, in device-independent pixels.
     virtual ScreenSize screenSize() = 0;
 };
 

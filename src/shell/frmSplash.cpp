@@ -79,7 +79,8 @@ void frmSplash::choosePicture() {
 }
 
 void frmSplash::checkScreen() {
-    constexpr int smallestWidth = 800, smallestHeight = 600;
+    // Larger windows shrink or scroll; on less than this nobody would see enough of them.
+    constexpr int smallestWidth = 640, smallestHeight = 400;
     const Desktop::ScreenSize screen = m_services.desktop.screenSize();
     if (screen.width < smallestWidth || screen.height < smallestHeight) {
         fail("Need to have 800x600 resolution to run.", "Screen Size Error");

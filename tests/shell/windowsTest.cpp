@@ -39,7 +39,7 @@ public:
     std::set<std::string> has;
     std::map<std::string, std::string> registry;
     std::int32_t ticks = 0;
-    ScreenSize screen = {800, 600};
+    ScreenSize screen = {640, 400};
 
     ScreenSize screenSize() override { return screen; }
     std::int32_t tickCount() override { return ticks; }

@@ -273,7 +273,7 @@ void QtDesktop::unloadAllForms() {
 }
 
 Desktop::ScreenSize QtDesktop::screenSize() {
-    const QSize size = QApplication::primaryScreen()->availableSize();
+    const QSize size = QApplication::primaryScreen()->size();
     return {size.width(), size.height()};
 }
 

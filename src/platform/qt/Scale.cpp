@@ -23,8 +23,10 @@ Scale::Scale(int formWidth, int formHeight, const Drawings* drawings)
     m_shared->lettersPerTwip = pixelsPerTwip;
     if (const QScreen* const screen = QApplication::primaryScreen(); screen != nullptr) {
         const QSize available = screen->availableSize();
-        pixelsPerTwip = std::min({pixelsPerTwip, available.width() / double(formWidth),
-                                  (available.height() - frameAndMenu) / formHeight});
+        constexpr double smallest = 0.8 / twipsPerPixel;  // below, too much of a text is cut off
+        pixelsPerTwip = std::clamp(std::min(available.width() / double(formWidth),
+                                            (available.height() - frameAndMenu) / formHeight),
+                                   smallest, pixelsPerTwip);
     }
     m_shared->drawings = drawings;
 }

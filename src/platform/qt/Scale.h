@@ -15,8 +15,8 @@ struct Drawing;
 
 /// Turns twips into device-independent pixels: 15 to the pixel, times the desktop font's line
 /// height over the 13 pixels that the places of controls were drawn for, so that no text is cut
-/// off with a larger font; but never so large that a form leaves the screen. What the user has
-/// zoomed comes on top of that.
+/// off with a larger font; but never so large that a form leaves the screen, unless its texts could
+/// not be read then. What the user has zoomed comes on top of that.
 ///
 /// All copies are the scale of one window, and zoom together.
 class Scale {

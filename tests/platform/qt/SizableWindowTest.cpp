@@ -104,6 +104,7 @@ TEST_F(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
     const QSize shown = window.size();
     EXPECT_LT(shown.height(), window.screen()->availableSize().height());
     EXPECT_EQ(form.place().height, 30000) << "the screen is no matter of the form's";
+    EXPECT_EQ(Scale(60000, 60000).pixels(1500), 80) << "it can be read, and scrolls";
     auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(view->viewport()->width(), view->widget()->width()) << "the bar stands beside it";
