@@ -80,6 +80,9 @@ ControlRows mapperTexts() {
         ControlText{"cmdDrawIt", "Draw It!",
                     "Draws the sheet of the ship at hand on this map. Another sheet takes another "
                     "window: close this one and open it anew."},
+        ControlText{"lblOther", "Lists the systems of an earlier design",
+                    "Told when other systems are aboard than this window lists, so that a sheet "
+                    "would mix two designs: close it and open it anew."},
         ControlText{"cmdSave", "Save It!",
                     "Saves the sheet as a bitmap, which knows nothing of the design, and closes "
                     "the window. Ctrl+E exports a PDF, SVG or PNG file with the design in it."},

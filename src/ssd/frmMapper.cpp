@@ -35,6 +35,7 @@ void frmMapper::Form_Load() {
     std::int32_t iShipWeapCount = 0;
     try {
         m_aboard = m_services.lvCurrentWeapons.rows();
+        sayIfOther();
         iShipWeapCount = m_lists.fillShipWeap(m_aboard);
     } catch (const Error& error) {
         // So many pieces of one system are on no map.
@@ -68,7 +69,20 @@ void frmMapper::startAnew() {
     resize(m_firstPlace.width + frameWidth, m_firstPlace.height + frameHeight);
 }
 
+/// A sheet that is drawn then has the systems of one design and the figures of another.
+void frmMapper::sayIfOther() {
+    const std::vector<ListView::Row>& rows = m_services.lvCurrentWeapons.rows();
+    const bool isOther = !std::is_permutation(rows.begin(), rows.end(), m_aboard.begin(),
+                                              m_aboard.end());  // a load sorts them
+    lblOther.setVisible(isOther);
+    const std::string remedy =
+        isOther ? lblOther.caption() + ": close this window and choose Create SSD again" : "";
+    lblOther.setToolTip(remedy);
+    cmdDrawIt.setToolTip(remedy);
+}
+
 void frmMapper::cmdDrawIt_Click() {
+    sayIfOther();
     if (cboMapSelection.text().empty() || !layOut() || !showOutline()) {
         return;
     }

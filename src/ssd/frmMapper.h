@@ -4,6 +4,7 @@
 #include "ComboBox.h"
 #include "Form.h"
 #include "Frame.h"
+#include "Label.h"
 #include "PictureBox.h"
 #include "SSDMaps.h"
 #include "SheetImages.h"
@@ -52,6 +53,12 @@ public:
                               .place = {105, 210, 2115, 315},
                               .text = "Selection",
                               .accessibleName = "Map"}};
+    /// Says that the window lists other systems than are aboard by now.
+    Label lblOther{fraControls,
+                   {.name = "lblOther",
+                    .place = {105, 15, 4425, 195},
+                    .caption = "Lists the systems of an earlier design",
+                    .isVisible = false}};
     Button cmdDrawIt{fraControls,
                      {.name = "cmdDrawIt", .place = {2310, 210, 1065, 330}, .caption = "Draw It!"},
                      [this] { cmdDrawIt_Click(); }};
@@ -78,6 +85,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Activate() override { sayIfOther(); }
     void Form_Paint() override { keepMinimumSize(bInPaint); }
     void Form_Resize() override { keepMinimumSize(bInResize); }
 
@@ -86,6 +94,7 @@ private:
     void cmdSave_Click();
 
     void startAnew();
+    void sayIfOther();
     bool layOut();
     bool showOutline();
     void drawSheet();

@@ -50,6 +50,12 @@ struct Mapper : PictureEncoder {
             {"show", [&] { window.show(); }},
             {"unload", [&] { window.unload(); }},
             {"paint", [&] { window.paint(); }},
+            {"activate", [&] { window.activate(); }},
+            {"add",
+             [&] {
+                 const std::size_t colon = what.find(": ");
+                 systems.add(what.substr(0, colon), "", what.substr(colon + 2));
+             }},
             {"maximize", [&] { window.setState(WindowState::Maximized); }},
             {"restore", [&] { window.setState(WindowState::Normal); }},
             {"resize", [&] { window.resize(width, height); }},
@@ -96,6 +102,7 @@ struct Mapper : PictureEncoder {
             {"fault", window.lastFault()},
             {"maps", ""},
             {"tip", window.cboMapSelection.toolTip()},
+            {"note", window.lblOther.isVisible() ? window.cmdDrawIt.toolTip() : ""},
             {"dialog", desktop.asked.initialFolder.string() + ' ' + desktop.asked.fileName + " *" +
                            desktop.asked.extension + ' ' +
                            std::to_string(desktop.asked.filterIndex)}};
