@@ -31,18 +31,25 @@ void NamesPanel::openOrCommit(const Name& name) {
     }
 }
 
-bool NamesPanel::commitOnEnter(const Name& name, int KeyAscii) {
-    if (KeyAscii == EnterKey && name.isEditing) {
+bool NamesPanel::leaveByKey(const Name& name, int KeyAscii) {
+    if (name.isEditing && KeyAscii == EnterKey) {
         commit(name);
+    } else if (name.isEditing && KeyAscii == EscapeKey) {
+        name.box.setText(ship().*name.name);
+        close(name);
     }
     return false;
 }
 
 void NamesPanel::commit(const Name& name) {
-    name.box.setLocked(true);
+    close(name);
     act([&] { ship().*name.name = name.box.text(); }, name.box.name());
-    name.isEditing = false;
     m_changed();
+}
+
+void NamesPanel::close(const Name& name) {
+    name.box.setLocked(true);
+    name.isEditing = false;
 }
 
 }  // namespace fleetwright

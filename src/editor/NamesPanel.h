@@ -6,7 +6,8 @@
 namespace fleetwright {
 
 /// The names of the ship and of its designer. A double-click, or F2, opens a box; the Enter key or
-/// another double-click commits what it holds. Names are written past the recalculation.
+/// another double-click commits what it holds, and Escape takes it back. Names are written past the
+/// recalculation.
 class NamesPanel : public Panel {
 public:
     /// Stands below the figures. `changed` hears of a name that was committed.
@@ -44,14 +45,15 @@ private:
 
     void txtShipName_DblClick() { openOrCommit(nameOfShip()); }
     void txtDesigner_DblClick() { openOrCommit(nameOfDesigner()); }
-    bool txtShipName_KeyPress(int KeyAscii) { return commitOnEnter(nameOfShip(), KeyAscii); }
-    bool txtDesigner_KeyPress(int KeyAscii) { return commitOnEnter(nameOfDesigner(), KeyAscii); }
+    bool txtShipName_KeyPress(int KeyAscii) { return leaveByKey(nameOfShip(), KeyAscii); }
+    bool txtDesigner_KeyPress(int KeyAscii) { return leaveByKey(nameOfDesigner(), KeyAscii); }
 
     Name nameOfShip() { return {txtShipName, bShipNameEditing, &ShipClass::g_sShipName}; }
     Name nameOfDesigner() { return {txtDesigner, bDesignerEditing, &ShipClass::g_sDesignerName}; }
     void openOrCommit(const Name& name);
-    bool commitOnEnter(const Name& name, int KeyAscii);
+    bool leaveByKey(const Name& name, int KeyAscii);
     void commit(const Name& name);
+    static void close(const Name& name);
 
     bool bShipNameEditing = false;  ///< the name's box is open
     bool bDesignerEditing = false;  ///< the designer's box is open

@@ -4,8 +4,8 @@
 
 namespace fleetwright {
 
-/// The code of the Enter key in key events.
-inline constexpr int EnterKey = 13;
+/// The codes of keys in key events.
+inline constexpr int EnterKey = 13, EscapeKey = 27;
 
 /// A text of one line, or of many, which then end in CR LF. Its change event is raised whenever the
 /// text changes, whoever changed it.

@@ -288,6 +288,7 @@ private:
             {"drop", [&] { control.drop(m_window.drag.imgDrag); }},
             {"drop another", [&] { control.drop(m_window.figures.txtCost); }},
             {"enter", [&] { m_says += box->pressKey(EnterKey) ? "taken; " : ""; }},
+            {"escape", [&] { box->pressKey(EscapeKey); }},
             {"key", [&] { m_says += box->pressKey('x') ? "taken; " : ""; }},
             {"leave",
              [&] { box != nullptr ? box->loseFocus() : m_window.tree.tvWeapons.loseFocus(); }},
