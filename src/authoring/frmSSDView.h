@@ -40,7 +40,8 @@ public:
                         .place = {1425, 105, 1215, 435},
                         .caption = "Cancel",
                         .toolTip = "Closes the window",
-                        .isGraphical = true},
+                        .isGraphical = true,
+                        .isCancel = true},
                        [this] { chkCancel_Click(); }};
     PictureBox picImage{*this,
                         {.name = "picImage",

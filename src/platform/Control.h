@@ -42,7 +42,7 @@ struct ControlDesign {
     bool isLocked = false;     ///< of a text box: shows, but takes no typing
     bool isMultiline = false;  ///< of a text box: with as many lines as it holds
     bool isDefault = false;    ///< of a button: answers the Enter key
-    bool isCancel = false;     ///< of a button: answers the Escape key
+    bool isCancel = false;     ///< of a button or check box: answers the Escape key
     bool isVisible = true;
     bool isEnabled = true;
 };

@@ -1,6 +1,7 @@
 // Designs a ship as a player does, from the very first start on.
 
 #include "DesktopTest.h"
+#include "runCommand.h"
 
 #include <algorithm>
 
@@ -41,12 +42,12 @@ TEST_F(DesigningTest, HullMassAndDrives) {
                              {"push button", "Mass in steps of 50, up", "Mass", "52"},
                              {"push button", "Mass in steps of 10, up", "Mass", "62"},
                              {"push button", "Mass in steps of 2, down", "Mass", "60"},
-                             {"check box", "Thrust 4", "Thrust", "4"},
-                             {"check box", "Tug FTL drive", "FTL", "Tug"}}) {
+                             {"radio button", "Thrust 4", "Thrust", "4"},
+                             {"radio button", "Tug FTL drive", "FTL", "Tug"}}) {
         window->click(step.role, step.name);
         waitToShow(step.field, step.value);
     }
-    click(window->get("check box", "Lvl 1", "Armor"));
+    click(window->get("radio button", "Lvl 1", "Armor"));
     waitToShow("Armor", "Level 1");
 
     pointAt(window->get("text", "Cost"));
@@ -57,10 +58,14 @@ TEST_F(DesigningTest, HullMassAndDrives) {
         });
     });
 
+    press("F10");
+    window->waitUntil("menu item", "New", ATSPI_STATE_SHOWING);
+    press("Escape Escape");
+
     window->click("radio button", "Star Base");
     design = {{"Mass", "60"}, {"Thrust", "0"}, {"Armor", "Level 1"}, {"FTL", "None"}};
     waitToShow("Type", "Starbase");
-    window->waitUntil("check box", "Thrust 4", ATSPI_STATE_ENABLED, false);
+    window->waitUntil("radio button", "Thrust 4", ATSPI_STATE_ENABLED, false);
 }
 
 TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
@@ -130,4 +135,14 @@ TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
     press("Return");
     design["System: Cloaking Field"] = "1";
     window->waitFor(expectedOf(design, true));
+}
+
+TEST_F(DesigningTest, WithoutADisplayTheProgramSaysSoAndEnds) {
+    const std::string program = path("FleetWright").string();
+    for (const std::string setting : {"-u DISPLAY", "DISPLAY=:9999", "QT_QPA_PLATFORM=wayland"}) {
+        const CommandResult run = runCommand("env " + setting + ' ' + program);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_TRUE(run.output.starts_with("FleetWright: no display answers")) << run.output;
+        EXPECT_EQ(std::ranges::count(run.output, '\n'), 1) << run.output;
+    }
 }

@@ -79,7 +79,7 @@ void DesktopTest::waitToShow(const std::string& name, const std::string& value) 
 }
 
 void DesktopTest::setThrust(const std::string& thrust) {
-    window->click("check box", "Thrust " + thrust);
+    window->click("radio button", "Thrust " + thrust);
     waitToShow("Thrust", thrust);
 }
 

@@ -79,7 +79,9 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     press("ctrl+p");
     waitForKeyboard("Print");
     press("Escape");
-    close("View SSD");
+    waitForKeyboard("View SSD");
+    press("Escape");
+    viewer.waitUntilGone();
     const auto exported = [&](const char* from, const char* to) {
         window->load(path("ships/Wren.shp"));
         window->load(path(from));

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 
 #include <functional>
@@ -47,7 +48,10 @@ std::function<void()> textOf(QWidget* widget) {
         return emptied(label);
     }
     if (auto* const line = qobject_cast<QLineEdit*>(widget)) {
-        return emptied(line);
+        return [line] {
+            const QSignalBlocker blocker(line);  // or its model brings the text back
+            line->setText("");
+        };
     }
     if (auto* const frame = qobject_cast<QGroupBox*>(widget)) {
         return [frame] { frame->setTitle(" "); };

@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QSlider>
@@ -231,4 +232,23 @@ TEST_F(FormWindowTest, StaysOnTheScreenWhenItComesToTheTop) {
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint), isTopmost);
         EXPECT_EQ(window.winId(), handle);
     }
+}
+
+// As a click does that comes before the screen knows that the menu is closed.
+TEST_F(FormWindowTest, AClosedMenuHandsClicksOnToWhatIsBelow) {
+    auto* const menu = find<QMenu>("menu");
+    const QPoint place = find<QWidget>("button")->mapToGlobal(QPoint(5, 5));
+    const auto click = [&] {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const bool isPress = type == QEvent::MouseButtonPress;
+            QMouseEvent event(type, menu->mapFromGlobal(place), place, Qt::LeftButton,
+                              isPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+            QApplication::sendEvent(menu, &event);
+        }
+    };
+    menu->popup({});
+    click();  // which closes it
+    EXPECT_EQ(takeLog(), "");
+    click();
+    EXPECT_EQ(takeLog(), "button ");
 }

@@ -79,6 +79,13 @@ public:
                         {.name = "second", .place = {150, 900, 900, 300}, .caption = "2"},
                         [this] { log += "second "; }};
     Frame inner{frame, {.name = "inner", .place = {1500, 300, 1200, 900}, .caption = "Inner"}};
+    OptionButton faced{
+        inner,
+        {.name = "faced", .place = {0, 600, 300, 300}, .isOn = true, .isGraphical = true},
+        [this] { log += "faced "; }};
+    OptionButton other{inner,
+                       {.name = "other", .place = {600, 600, 300, 300}, .isGraphical = true},
+                       [this] { log += "other "; }};
     TextBox text{*this, {.name = "text", .place = {3300, 150, 900, 300}}, [this] {
                      log += "text=" + text.text() + ' ';
                  }};

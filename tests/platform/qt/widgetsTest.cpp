@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
+#include <QWheelEvent>
 
 using namespace fleetwright;
 
@@ -36,6 +37,12 @@ std::string shownBy(QWidget& widget) {
     if (auto* const combo = dynamic_cast<QComboBox*>(&widget)) {
         text += " of " + QString::number(combo->count());
     }
+    text += told->role() == QAccessible::RadioButton ? " choice" : "";
+    // A button that is down stands out, and looks closed where it is.
+    const QPalette& colours = widget.palette();
+    text += colours.button() == colours.brush(QPalette::Disabled, QPalette::Highlight) ? " grey"
+            : colours.buttonText() == colours.highlightedText()                        ? " bright"
+                                                                                       : "";
     const QAccessible::State state = told->state();
     return text.toStdString() + (state.checked ? " on" : "") + (state.disabled ? " disabled" : "") +
            (state.invisible ? " hidden" : "") + (state.readOnly ? " locked" : "") +
@@ -126,6 +133,18 @@ private:
              [&] {
                  const auto keys = QKeySequence::fromString(QString::fromStdString(rest));
                  QTest::keyClick(widget, keys[0].key(), keys[0].keyboardModifiers());
+             }},
+            {"voice",
+             [&] {
+                 QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
+                 rest.empty()
+                     ? told->actionInterface()->doAction(told->actionInterface()->toggleAction())
+                     : told->setText(QAccessible::Value, QString::fromStdString(rest));
+             }},
+            {"wheel",
+             [&] {
+                 QWheelEvent turned({}, {}, {}, {0, std::stoi(rest)}, {}, {}, {}, false);
+                 QApplication::sendEvent(widget, &turned);
              }},
             {"trigger", [&] { m_window.findChild<QAction*>(name.c_str())->trigger(); }},
             {"set", [&] { set(*control, replaced(rest, "+", "\r\n")); }},

@@ -17,7 +17,10 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace fleetwright {
 
@@ -45,6 +48,45 @@ protected:
 
 private:
     static constexpr int corner = 3, inset = 8;  // pixels
+};
+
+/// An option button with a face that stays down. It only looks like a tool button: to those who
+/// have it read to them it is one of several choices.
+class FacedOption : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+    QSize sizeHint() const override {
+        const QStyleOptionToolButton look = currentLook();
+        const int blank = fontMetrics().horizontalAdvance(' ');
+        const QSize face =
+            icon().isNull() ? fontMetrics().size(Qt::TextShowMnemonic, text()) + QSize(2 * blank, 0)
+                            : iconSize();
+        return style()->sizeFromContents(QStyle::CT_ToolButton, &look, face, this);
+    }
+
+protected:
+    bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+
+    void paintEvent(QPaintEvent*) override {
+        QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, currentLook());
+    }
+
+private:
+    QStyleOptionToolButton currentLook() const {
+        QStyleOptionToolButton look;
+        look.initFrom(this);
+        look.text = text();
+        look.icon = icon();
+        look.iconSize = iconSize();
+        look.font = font();
+        look.toolButtonStyle = icon().isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly;
+        look.subControls = QStyle::SC_ToolButton;
+        look.state.setFlag(QStyle::State_On, isChecked());
+        look.state.setFlag(QStyle::State_Sunken, isDown());
+        look.state.setFlag(QStyle::State_Raised, !isDown() && !isChecked());
+        return look;
+    }
 };
 
 /// Caption and picture of a button that shows either.
@@ -153,22 +195,19 @@ QWidget* makeWidget(CheckBox& box, QWidget* parent, const Scale& scale) {
     if (!box.design().isGraphical) {  // buttons stand in rows of equals
         keepFitted(widget, box, scale);
     }
-    QObject::connect(widget, &QAbstractButton::clicked, [widget, &box] {
-        box.press();
-        widget->setChecked(box.isTicked());
+    // Whoever has it read to him switches it without a click.
+    QObject::connect(widget, &QAbstractButton::toggled, [widget, &box](bool isTicked) {
+        if (isTicked != box.isTicked()) {
+            box.press();
+            widget->setChecked(box.isTicked());
+        }
     });
     return widget;
 }
 
 QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
-    QAbstractButton* widget = nullptr;
-    if (button.design().isGraphical) {
-        auto* const graphical = new QToolButton(parent);
-        graphical->setCheckable(true);
-        widget = graphical;
-    } else {
-        widget = new QRadioButton(parent);
-    }
+    auto* const widget =
+        button.design().isGraphical ? new FacedOption(parent) : new QRadioButton(parent);
     prepare(widget, button, scale);
     setFace(widget, button.design(), scale);
     QButtonGroup* const group = groupIn(parent);
@@ -186,19 +225,25 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         // Which button is down must be seen at once, in dark themes too.
         QPalette palette = widget->parentWidget()->palette();
         if (button.design().isGraphical && button.isOn()) {
-            const QColor text = palette.color(QPalette::HighlightedText);
             constexpr double clearly = 7;  // as styles draw buttons paler than they are told
-            palette.setColor(QPalette::Button,
-                             readableOn(text, palette.color(QPalette::Highlight), clearly));
-            palette.setColor(QPalette::ButtonText, text);
+            for (const auto state : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+                const QColor text = palette.color(state, QPalette::HighlightedText);
+                const QColor ground = palette.color(state, QPalette::Highlight);
+                const bool isClosed = state == QPalette::Disabled;
+                palette.setColor(state, QPalette::Button,
+                                 isClosed ? ground : readableOn(text, ground, clearly));
+                palette.setColor(state, QPalette::ButtonText, text);
+            }
         }
         widget->setPalette(palette);
     };
     keepInStep(widget, button, showState);
     keepFitted(widget, button, scale);
-    QObject::connect(widget, &QAbstractButton::clicked, [&button, showState] {
-        button.choose();
-        showState();
+    QObject::connect(widget, &QAbstractButton::toggled, [&button, showState](bool isOn) {
+        if (isOn && !button.isOn()) {
+            button.choose();
+            showState();
+        }
     });
     new EventHook(widget, [widget, showState](QEvent* event) {
         if (isNewPalette(*event)) {
@@ -231,6 +276,22 @@ QWidget* makeWidget(UpDown& arrows, QWidget* parent, const Scale& scale) {
     auto* const down = addArrow(Qt::DownArrow, "Down", true);
     QObject::connect(up, &QToolButton::clicked, [&arrows] { arrows.pressUp(); });
     QObject::connect(down, &QToolButton::clicked, [&arrows] { arrows.pressDown(); });
+    // Fine wheels turn by parts of a notch.
+    new EventHook(widget, [&arrows, turned = 0](QEvent* event) mutable {
+        if (event->type() != QEvent::Wheel) {
+            return false;
+        }
+        constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+        turned += static_cast<QWheelEvent*>(event)->angleDelta().y();
+        for (; turned >= notch; turned -= notch) {
+            arrows.pressUp();
+        }
+        for (; turned <= -notch; turned += notch) {
+            arrows.pressDown();
+        }
+        event->accept();
+        return true;
+    });
     return widget;
 }
 

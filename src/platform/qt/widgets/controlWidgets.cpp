@@ -46,6 +46,9 @@ QWidget* makeFirst(Control& control, QWidget* parent, const Scale& scale) {
 
 /// The keys that press a window's default button and its cancel button.
 void addKeys(Control& control, QMainWindow& window) {
+    if (auto* const box = dynamic_cast<CheckBox*>(&control); box && box->design().isCancel) {
+        new QShortcut(Qt::Key_Escape, &window, [box] { box->press(); });
+    }
     auto* const button = dynamic_cast<Button*>(&control);
     if (button == nullptr) {
         return;

@@ -3,8 +3,11 @@
 #include "text.h"
 #include "widgetTools.h"
 
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
+#include <QWindow>
 
 namespace fleetwright {
 
@@ -47,9 +50,33 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
     });
 }
 
+/// What a quick hand clicks before the screen has heard that a menu is closed, as in the middle of
+/// the work that it began, still arrives at the menu. It is meant for what is below.
+void handClicksOn(QMenu* menu) {
+    new EventHook(menu, [menu](QEvent* event) {
+        const bool isClick = event->type() == QEvent::MouseButtonPress ||
+                             event->type() == QEvent::MouseButtonDblClick ||
+                             event->type() == QEvent::MouseButtonRelease;
+        if (!isClick || menu->isVisible()) {
+            return false;
+        }
+        const auto& click = static_cast<QMouseEvent&>(*event);
+        QWindow* const below = QGuiApplication::topLevelAt(click.globalPosition().toPoint());
+        if (below == nullptr) {
+            return false;
+        }
+        QMouseEvent handedOn(click.type(), below->mapFromGlobal(click.globalPosition()),
+                             click.globalPosition(), click.button(), click.buttons(),
+                             click.modifiers());
+        QCoreApplication::sendEvent(below, &handedOn);
+        return true;
+    });
+}
+
 void fillMenu(QMenu* menu, MenuEntry& entry) {
     menu->setObjectName(toQt(entry.name()));
     menu->setToolTipsVisible(true);
+    handClicksOn(menu);
     for (Control* const control : entry.controls()) {
         addEntry(menu, *dynamic_cast<MenuEntry*>(control));
     }
@@ -58,8 +85,16 @@ void fillMenu(QMenu* menu, MenuEntry& entry) {
 }  // namespace
 
 void addMenu(MenuEntry& menu, QMenuBar* bar) {
-    if (menu.isVisible()) {
-        fillMenu(bar->addMenu(toQt(menu.caption())), menu);
+    if (!menu.isVisible()) {
+        return;
+    }
+    QMenu* const widget = bar->addMenu(toQt(menu.caption()));
+    fillMenu(widget, menu);
+    if (bar->actions().size() == 1) {
+        new QShortcut(Qt::Key_F10, bar, [bar, widget] {
+            bar->setActiveAction(widget->menuAction());
+            widget->setActiveAction(widget->actions().value(0));
+        });
     }
 }
 

@@ -227,8 +227,11 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     };
     keepInStep(widget, box, show);
     keepZoomed(widget, scale, show);
-    QObject::connect(widget, &QLineEdit::textEdited,
-                     [&box](const QString& text) { box.type(text.toStdString()); });
+    // Of what a voice writes into it, the line says only that its text is another.
+    QObject::connect(widget, &QLineEdit::textChanged, [&box, show](const QString& text) {
+        box.type(text.toStdString());
+        show();  // a locked box takes nothing
+    });
     new EventHook(widget, [widget, &box, scale, show](QEvent* event) {
         if (isNewPalette(*event)) {
             show();
