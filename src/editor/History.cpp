@@ -59,7 +59,7 @@ void History::begin(const DesignMoment& moment, const News& news) {
 
 bool History::joins(const News& news) const {
     constexpr std::uint32_t second = 1000;
-    return !news.kind.empty() && news.kind == m_kind && !canRedo() &&
+    return canUndo() && !news.kind.empty() && news.kind == m_kind && !canRedo() &&
            static_cast<std::uint32_t>(news.time) - static_cast<std::uint32_t>(m_time) <= second;
 }
 
@@ -91,14 +91,18 @@ void History::note(const DesignMoment& moment, const News& news) {
         if (isOther) {
             begin(moment, news);
         }
-        if (isOther || !isSameDesign(m_now, moment)) {
+        const bool isStep = isOther || !isSameDesign(m_now, moment);
+        if (isStep) {
             push(deltaBetween(m_now, moment));
         }
-        m_kind = isOther ? std::string_view() : news.kind;
+        // What has come back to where it began is no step, and none can join the one before it.
+        m_kind = isStep && !isOther ? news.kind : std::string_view();
         m_time = news.time;
     }
     if (news.isSaved) {
         markSaved(moment.ship);
+    } else if (news.isReplaced && moment.ship.g_bSaved && !moment.ship.g_sSaveName.empty()) {
+        markRead(moment.ship, news.safe);
     }
     arriveAt(moment, news);
 }
@@ -127,13 +131,23 @@ void History::markSaved(const ShipNames& names) {
     m_kind.clear();
     setFile(document(), names);
     ++document().version;
-    std::map<std::uint32_t, bool> areFile = {{document().g_sSaveName, true}};
+    loseFile(names, [this](const Document& other) { return &other != &document(); });
+}
+
+/// The file of this document was read. Others that are in it may not be what it was at their time.
+void History::markRead(const ShipNames& names, const std::string& safe) {
+    loseFile(names, [&safe](const Document& other) { return other.safe != safe; });
+}
+
+/// What these documents of a file hold is in no file any more.
+void History::loseFile(const ShipNames& names, const std::function<bool(const Document&)>& which) {
+    std::map<std::uint32_t, bool> areFile;
     for (Document& other : m_documents) {
         const auto [known, isNew] = areFile.try_emplace(other.g_sSaveName, false);
         if (isNew) {
             known->second = isOneFile(*m_texts[other.g_sSaveName], names.g_sSaveName);
         }
-        if (known->second && &other != &document()) {
+        if (known->second && which(other)) {
             ++other.version;
             other.safe.clear();
         }
@@ -153,6 +167,15 @@ const DesignMoment& History::go(Way way) {
     m_now.ship.g_bSaved = m_marks[m_at].savedAs == here.version;
     m_now.catalogue = here.catalogue;
     return m_now;
+}
+
+bool History::leavesDocument(Way way) const {
+    const std::size_t other = way == Way::Forth ? m_at + 1 : m_at - 1;
+    return m_marks[other].document != m_marks[m_at].document;
+}
+
+bool History::isAhead() const {
+    return canRedo() && !leavesDocument(Way::Forth);
 }
 
 std::string History::nameOf(std::size_t number, Way way) const {

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -55,6 +56,11 @@ public:
     const DesignMoment& undo() { return go(Way::Back); }
     const DesignMoment& redo() { return go(Way::Forth); }
 
+    /// Whether the next step that way, which there must be, leads to another document.
+    bool leavesDocument(Way way) const;
+    /// Whether there are steps of this document to be redone.
+    bool isAhead() const;
+
     /// The steps of this document, as far as they are put aside with it.
     StoredSteps steps() const;
 
@@ -89,6 +95,8 @@ private:
     void push(std::string_view delta);
     void arriveAt(const DesignMoment& moment, const News& news);
     void markSaved(const ShipNames& names);
+    void markRead(const ShipNames& names, const std::string& safe);
+    void loseFile(const ShipNames& names, const std::function<bool(const Document&)>& which);
     const DesignMoment& go(Way way);
     std::string nameOf(std::size_t number, Way way) const;
 

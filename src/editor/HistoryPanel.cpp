@@ -91,9 +91,14 @@ void HistoryPanel::go(const char* what, Way way) {
         if (!m_history || !(isBack ? m_history->canUndo() : m_history->canRedo())) {
             return;
         }
+        // The next step may cut off the way back to a design that is in no file.
+        if (m_history->leavesDocument(way) && !m_others.giveUp()) {
+            return;
+        }
         const std::string name = isBack ? m_history->undoName() : m_history->redoName();
-        m_others.goBackTo(isBack ? m_history->undo() : m_history->redo());
+        const DesignMoment& moment = isBack ? m_history->undo() : m_history->redo();
         m_others.isSafe(m_history->safe());
+        m_others.goBackTo(moment);
         window().say(what + name);
     });
 }

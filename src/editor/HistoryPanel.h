@@ -22,6 +22,7 @@ public:
         std::function<void(const DesignMoment&)> goBackTo;
         std::function<std::string()> safe;               ///< what is known to be safe, to recovery
         std::function<void(const std::string&)> isSafe;  ///< puts that back
+        std::function<bool()> giveUp;  ///< keeps the design, which is about to go; see recovery
     };
 
     HistoryPanel(const PanelContext& context, MenuEntry& mnuDesign, Others others);
@@ -36,6 +37,8 @@ public:
 
     /// The steps of the design at hand, as a text to be put aside with it.
     std::string steps() const;
+    /// Whether steps of the design at hand can be redone.
+    bool isAhead() const { return m_history && m_history->isAhead(); }
     /// The design at hand was put aside as this ship file with these steps: has them back. False if
     /// they are damaged, or are not those of this design. Only in the work that has opened it.
     bool adopt(const std::string& steps, const std::string& shipFile);

@@ -11,8 +11,10 @@ namespace fleetwright {
 
 RecoveryPanel::RecoveryPanel(const PanelContext& context, MenuEntry& mnuDesign,
                              std::function<void(const std::filesystem::path&)> open,
-                             std::function<std::string()> steps)
-    : Panel(context), m_design(mnuDesign), m_open(std::move(open)), m_steps(std::move(steps)) {}
+                             std::function<std::string()> steps,
+                             std::function<bool()> areStepsAhead)
+    : Panel(context), m_design(mnuDesign), m_open(std::move(open)), m_steps(std::move(steps)),
+      m_areStepsAhead(std::move(areStepsAhead)) {}
 
 void RecoveryPanel::noteChange() {
     if (services().recovery != nullptr && !tmrRecovery.isEnabled()) {
@@ -35,11 +37,13 @@ bool RecoveryPanel::isSafe() const {
 
 void RecoveryPanel::tmrRecovery_Timer() {
     tmrRecovery.setEnabled(false);
-    if (isSafe()) {
-        if (services().recovery != nullptr) {
-            services().recovery->forget();
-            m_aside.reset();
-        }
+    if (services().recovery == nullptr || !window().g_Ship) {
+        return;
+    }
+    // What can be redone is in no file.
+    if (isSafe() && !m_areStepsAhead()) {
+        services().recovery->forget();
+        m_aside.reset();
         return;
     }
     RecoveryFolder::Aside aside = design();
@@ -62,6 +66,7 @@ bool RecoveryPanel::giveUpDesignFor(const std::filesystem::path& file) {
 }
 
 bool RecoveryPanel::giveUpDesign() {
+    m_aside.reset();
     if (isSafe()) {
         if (services().recovery != nullptr) {
             services().recovery->forget();

@@ -18,10 +18,11 @@ namespace fleetwright {
 class RecoveryPanel : public Panel {
 public:
     /// `open` replaces the ship by the one in a file of a design put aside; `steps` hands out what
-    /// is put aside with the design at hand.
+    /// is put aside with the design at hand, and `areStepsAhead` says whether some of them can be
+    /// redone.
     RecoveryPanel(const PanelContext& context, MenuEntry& mnuDesign,
                   std::function<void(const std::filesystem::path&)> open,
-                  std::function<std::string()> steps);
+                  std::function<std::string()> steps, std::function<bool()> areStepsAhead);
 
     /// Something may have changed: looks at it in two seconds, if not sooner.
     void noteChange();
@@ -63,6 +64,7 @@ private:
 
     std::function<void(const std::filesystem::path&)> m_open;
     std::function<std::string()> m_steps;
+    std::function<bool()> m_areStepsAhead;
 
     std::optional<RecoveryFolder::Aside> m_aside;  ///< the design as it was put aside last
     std::string m_safe;  ///< the fingerprint of the design when nothing of it could be lost

@@ -85,14 +85,16 @@ public:
                          {.moment = [this] { return moment(); },
                           .goBackTo = [this](const DesignMoment& moment) { goBackTo(moment); },
                           .safe = [this] { return recovery.safe(); },
-                          .isSafe = [this](const std::string& safe) { recovery.setSafe(safe); }}};
+                          .isSafe = [this](const std::string& safe) { recovery.setSafe(safe); },
+                          .giveUp = [this] { return recovery.giveUpDesign(); }}};
     FindPanel find{m_context, mnuDesign, tree.tvWeapons, sbStatus};
     FindingsPanel findings{m_context, mnuDesign, sbStatus, {hull, mass, names, aboard, tree}};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); },
-                           [this] { return history.steps(); }};
+                           [this] { return history.steps(); },
+                           [this] { return history.isAhead(); }};
     ZoomPanel zooms{m_context, mnuDesign};
     GuidePanel guide{m_context, mnuDesign};
     FileCommands files{m_context,

@@ -147,6 +147,7 @@ void RecoveryFolder::keep(const Aside& design) {
     begin();
     if (const auto kept = whereKept(design.shipFile)) {
         m_run.record.noteMade(*kept, m_run.mark(), design.shipFile);  // by this run as well
+        writeSteps(fileOf(*kept), design.steps);
         m_run.saveRecord();
         forget();
         return;
@@ -235,16 +236,20 @@ void RecoveryFolder::writeOwn(const Aside& design) {
     m_run.record.noteMade(next.name, m_run.mark(), next.shipFile);
     m_run.saveRecord();
     const fs::path file = fileOf(next.name, m_run.mark());
+    // First, since the design before is among its steps, but not the next one.
+    writeSteps(file, next.steps);
+    std::optional<fs::path> oldSteps;
     if (m_own && m_own->name != next.name) {
+        oldSteps = stepsBeside(ownFile());
         if (const std::error_code error = renameFile(ownFile(), file)) {
             throw FileError(file, "cannot be saved: " + error.message());
         }
-        renameFile(stepsBeside(ownFile()), stepsBeside(file));
         m_run.record.forget(std::exchange(m_own->name, next.name));
     }
-    // First, since the design before is among its steps, but not the next one.
-    writeSteps(file, next.steps);
     saveFile(file, next.shipFile);
+    if (oldSteps) {
+        removeFile(*oldSteps);
+    }
     m_own = next;
 }
 

@@ -30,7 +30,7 @@ std::optional<RecoveryDesign> RecoveryDesign::in(const fs::path& file) {
         dot == std::string::npos ? "" : std::string_view(name).substr(dot);
     const bool hasMark = ending.size() > extension.size() + 1 && ending.starts_with(extension) &&
                          ending[extension.size()] == beforeRecoveryMark;
-    if (ending != extension && !hasMark) {
+    if (dot == 0 || (ending != extension && !hasMark)) {
         return std::nullopt;
     }
     const std::string stem = name.substr(0, dot);
