@@ -39,14 +39,12 @@ bool FindPanel::tvWeapons_KeyPress(const std::string& key) {
             find(key);
             return true;
         }
-        if (key.ends_with("F3") && m_names && !matches().empty()) {
-            resume(isForward);
-            return true;
-        }
-        return false;
+        return key.ends_with("F3") && resume(isForward);
     }
     if (isTyped) {
-        find(m_typed + key);
+        if (characterCount(m_typed) < m_longest) {  // else nothing can be found any more
+            find(m_typed + key);
+        }
     } else if (key == "Backspace") {
         find(std::string(withoutLastCharacters(m_typed, 1)));
     } else if (key == "Esc") {
@@ -73,6 +71,7 @@ void FindPanel::begin() {
             if (node.parent != nullptr && node.children.empty()) {
                 m_systems.push_back(&node);
                 names.emplace_back(node.key);
+                m_longest = std::max(m_longest, characterCount(node.key));
             }
         }
         m_names.emplace(names);
@@ -85,14 +84,16 @@ void FindPanel::find(const std::string& typed) {
     m_typed = typed;
     m_names->find(typed);
     m_at = 0;
-    if (!matches().empty()) {
-        showMatch();
-        return;
-    }
     if (trimmed(typed).empty()) {
         showTree(*m_before);
+    } else {
+        m_last = typed;
     }
-    say();
+    if (matches().empty()) {
+        say();
+    } else {
+        showMatch();
+    }
 }
 
 void FindPanel::goOn(bool isForward) {
@@ -100,8 +101,17 @@ void FindPanel::goOn(bool isForward) {
     showMatch();
 }
 
-/// Takes the last search up again, next to what is selected if that is a match.
-void FindPanel::resume(bool isForward) {
+/// Takes the last search up again, next to what is selected if that is a match. False if it has
+/// found nothing.
+bool FindPanel::resume(bool isForward) {
+    if (m_last.empty()) {
+        return false;
+    }
+    m_names->find(m_last);
+    if (matches().empty()) {
+        return false;
+    }
+    m_typed = m_last;
     begin();
     const auto selected =
         std::find_if(matches().begin(), matches().end(),
@@ -113,6 +123,7 @@ void FindPanel::resume(bool isForward) {
         m_at = static_cast<std::size_t>(selected - matches().begin());
         goOn(isForward);
     }
+    return true;
 }
 
 void FindPanel::showMatch() {

@@ -41,7 +41,7 @@ private:
     void begin();
     void find(const std::string& typed);
     void goOn(bool isForward);
-    void resume(bool isForward);
+    bool resume(bool isForward);
     void showMatch();
     void showTree(const TreeView::View& view);
     void end();
@@ -53,9 +53,11 @@ private:
     std::optional<SystemSearch> m_names;      ///< of the systems; made by the first search
     std::optional<TreeView::View> m_before;   ///< the tree where the search began, while it lasts
     const TreeView::Node* m_shown = nullptr;  ///< what was selected then, or is so by the search
-    std::string m_typed;                      ///< by the last search also when it has ended
-    std::size_t m_at = 0;                     ///< which of the matches is shown
-    std::string m_said;                       ///< on the status line
+    std::string m_typed;
+    std::string m_last;         ///< what was typed last in any search, if only blanks not
+    std::size_t m_longest = 0;  ///< so many letters the longest name of a system has
+    std::size_t m_at = 0;       ///< which of the matches is shown
+    std::string m_said;         ///< on the status line
 };
 
 }  // namespace fleetwright
