@@ -56,7 +56,10 @@ void SystemsPanel::show() {
 std::vector<std::size_t> SystemsPanel::records() const {
     std::vector<std::size_t> records;
     for (const ListView::Row& row : lvCurrentWeapons.rows()) {
-        records.push_back(static_cast<std::size_t>(ship().weapNameToIndex(row.key)));
+        // A row that the ship is about to refuse may be of another catalogue.
+        if (const std::int32_t record = ship().weapNameToIndex(row.key); record != -1) {
+            records.push_back(static_cast<std::size_t>(record));
+        }
     }
     return records;
 }
@@ -65,8 +68,12 @@ void SystemsPanel::showRows(const std::vector<std::size_t>& records) {
     const ListView::Content& before = lvCurrentWeapons.content();
     ListView::Content content;
     const std::vector<WeapRec> aboard = ship().systemsAboard();
+    const auto& lines = ship().catalogueText()->lines();
     for (const std::size_t record : records) {
-        const std::string_view name = ship().catalogueText()->lines()[record].name;
+        if (record >= lines.size()) {
+            continue;
+        }
+        const std::string_view name = lines[record].name;
         const auto system = std::find_if(aboard.begin(), aboard.end(),
                                          [&](const WeapRec& each) { return each.name == name; });
         if (system != aboard.end()) {
