@@ -1,5 +1,6 @@
 #include "StoredSteps.h"
 
+#include "Error.h"
 #include "HullRules.h"
 #include "base64.h"
 #include "fingerprint.h"
@@ -16,6 +17,9 @@ namespace {
 
 constexpr std::string_view title = "FleetWright steps 1";
 
+/// Far more than steps take, whatever they change.
+constexpr std::size_t mostBytes = std::size_t{64} << 20U;
+
 /// Base64 in one line.
 std::string inLine(std::string_view bytes) {
     std::string text = toBase64(bytes);
@@ -23,23 +27,40 @@ std::string inLine(std::string_view bytes) {
     return text;
 }
 
+/// Whether the rules know the parts of a hull. Its mass and thrust can be any.
+bool isKnown(const HullDesign& hull) {
+    return hull.hullType >= Warship && hull.hullType <= QSpaceStation && hull.armor >= 0 &&
+           hull.armor <= mostArmor && hull.streamline >= 0 && hull.streamline <= mostStreamline &&
+           (hull.ftl == NoDrive || hull.ftl == NormalDrive || hull.ftl == TugDrive);
+}
+
+/// Whether the figures of a hull are what the rules make of it, or none yet.
+bool areWorkedOut(const HullFigures& figures) {
+    try {
+        return figures == HullFigures{} || figures == hullFigures(figures.design);
+    } catch (const OverflowError&) {
+        return false;
+    }
+}
+
 /// Whether such a design can be: its systems are in the catalogue, and its list shows what is
 /// aboard, once each.
 bool canBe(const DesignMoment& moment) {
-    const HullDesign& hull = moment.ship.hull;
     const std::size_t records = moment.catalogue->lines().size();
     std::vector<std::size_t> aboard, rows = moment.rows;
+    std::size_t next = 0;
     for (const auto& [record, amount] : moment.ship.amounts) {
-        if (record >= records) {
+        if (record < next || record >= records || amount == 0) {
             return false;
         }
+        next = record + 1;
         if (amount > 0) {
             aboard.push_back(record);
         }
     }
     std::sort(rows.begin(), rows.end());
-    return rows == aboard && hull.armor >= 0 && hull.armor <= mostArmor && hull.streamline >= 0 &&
-           hull.streamline <= mostStreamline;
+    return rows == aboard && isKnown(moment.ship.hull) && isKnown(moment.ship.lastHull.design) &&
+           areWorkedOut(moment.ship.lastHull);
 }
 
 /// Reads the lines of a text one by one; what is missing or wrong is noticed at the end.
@@ -160,6 +181,9 @@ std::string StoredSteps::text() const {
 
 std::optional<StoredSteps> StoredSteps::of(std::string_view text,
                                            std::shared_ptr<const CatalogueText> catalogue) {
+    if (text.size() > mostBytes) {
+        return std::nullopt;
+    }
     const std::string_view head = text.substr(0, text.find('\n'));
     const std::string_view rest = text.substr(std::min(text.size(), head.size() + 1));
     if (head != std::string(title) + ' ' + fingerprint(rest)) {
@@ -172,6 +196,9 @@ std::optional<StoredSteps> StoredSteps::of(std::string_view text,
     readNow(lines, stored.now);
     const std::vector<std::int64_t> at = lines.numbers("at");
     while (std::optional<std::string> step = lines.nextBytes()) {
+        if (stored.steps.size() == 2 * most) {
+            return std::nullopt;
+        }
         stored.steps.push_back(*std::move(step));
     }
     lines.require(at.size() == 1 && at[0] >= 0 && at[0] <= std::ssize(stored.steps));
