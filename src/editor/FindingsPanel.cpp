@@ -107,6 +107,8 @@ void FindingsPanel::noteLoad(const std::string& path, std::string_view shipFile)
                      (findings.size() == 1 ? "" : std::string("; for more, ") + restInList));
     }
     m_ofFiles[ship().origin] = std::move(findings);
+    m_firstStep = m_step + 1;
+    m_isLoaded = true;
 }
 
 void FindingsPanel::noteSaved() {
@@ -115,6 +117,16 @@ void FindingsPanel::noteSaved() {
 
 void FindingsPanel::noteReplaced() {
     m_ofFiles.erase("");
+}
+
+void FindingsPanel::rest(std::size_t step) {
+    m_step = step;
+    if (std::exchange(m_isLoaded, false)) {
+        m_firstStep = std::min(m_firstStep, step);  // no step leads to what was there already
+    }
+    if (step < m_firstStep) {
+        m_ofFiles.erase("");
+    }
 }
 
 void FindingsPanel::mnuFindings_Click() {

@@ -7,6 +7,7 @@
 #include "Timer.h"
 #include "frmFindings.h"
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
@@ -46,6 +47,9 @@ public:
     void noteSaved();
     /// Another ship takes the place of the one at hand.
     void noteReplaced();
+    /// The window has come to rest behind this step of the history. In front of those of a design
+    /// without a file there is another design.
+    void rest(std::size_t step);
 
 private:
     MenuEntry& m_design;
@@ -77,6 +81,9 @@ private:
     /// What was wrong with files, by the path that a ship knows; nothing for one without.
     std::map<std::string, std::vector<ShipFinding>> m_ofFiles;
     std::vector<ShipFinding> m_listed;
+    std::size_t m_step = 0;       ///< of the last rest
+    std::size_t m_firstStep = 0;  ///< of the design that was loaded last with findings
+    bool m_isLoaded = false;      ///< that was since the last rest
 };
 
 }  // namespace fleetwright

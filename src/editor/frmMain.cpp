@@ -21,7 +21,11 @@ frmMain::frmMain(MainWindowServices services)
       m_acts({.isThere = [this] { return g_Ship != nullptr; },
               .remember = [this] { return [this, before = moment()] { goBackTo(before); }; },
               .overflowed = [this] { sbStatus.setText("Number too large"); },
-              .rested = [this](std::string_view kind) { history.rest(kind); }}),
+              .rested =
+                  [this](std::string_view kind) {
+                      history.rest(kind);
+                      findings.rest(history.history() ? history.history()->place() : 0);
+                  }}),
       m_context{.form = *this,
                 .g_Ship = g_Ship,
                 .acts = m_acts,
