@@ -1,5 +1,5 @@
 // Acts at random on the windows of the program for as long as nobody would sit there, and shows
-// that memory does not grow:
+// that memory does not grow but by the steps that can be undone:
 //
 //     soak [steps] [ACTS [SEED]]     1000000 and 1 if they are not said
 //
@@ -34,6 +34,12 @@ long residentMemory() {
     return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
+/// The same but for what the steps take that can be undone, which is theirs by right.
+long memoryBesidesSteps(const Actor& actor) {
+    const std::optional<History>& history = actor.main.history.history();
+    return residentMemory() - (history ? static_cast<long>(history->size() / 1024) : 0);
+}
+
 /// By how much memory has grown between the first tenth of all acts and their end, in KiB.
 long growthIn(int acts, Dice& dice) {
     std::optional<Actor> actor;
@@ -44,12 +50,14 @@ long growthIn(int acts, Dice& dice) {
         }
         actor->act();
         if ((done + 1) % std::max(1, acts / 10) == 0) {
-            std::printf("%8d acts: %6ld KiB resident\n", done + 1, residentMemory());
+            const long memory = memoryBesidesSteps(*actor);
+            std::printf("%8d acts: %6ld KiB resident, and %ld KiB of steps\n", done + 1, memory,
+                        residentMemory() - memory);
             std::fflush(stdout);
-            firstTenth = firstTenth == 0 ? residentMemory() : firstTenth;
+            firstTenth = firstTenth == 0 ? memory : firstTenth;
         }
     }
-    return residentMemory() - firstTenth;
+    return memoryBesidesSteps(*actor) - firstTenth;
 }
 
 void walkSteps(int acts, Dice& dice) {
