@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
-#include <regex>
+#include <string_view>
 
 namespace fleetwright {
 
@@ -165,13 +165,14 @@ std::string GuidePage::html(const std::vector<GuidePage>& pages) {
     std::free(rendered);
     cmark_llist_free(cmark_get_default_mem_allocator(), extensions);
     // The renderer knows no anchors.
-    static const std::regex heading("<h([1-6])>");
-    std::string named;
     auto anchor = anchors.begin();
-    for (std::smatch found; std::regex_search(html, found, heading); html = found.suffix()) {
-        named += found.prefix().str() + "<h" + found[1].str() + " id=\"" + *anchor++ + "\">";
+    for (std::size_t at = html.find("<h"); at != std::string::npos; at = html.find("<h", at + 1)) {
+        const std::size_t end = at + std::string_view("<h1").size();
+        if (html.compare(end, 1, ">") == 0 && html[end - 1] >= '1' && html[end - 1] <= '6') {
+            html.insert(end, " id=\"" + *anchor++ + '"');
+        }
     }
-    return named + html;
+    return html;
 }
 
 }  // namespace fleetwright
