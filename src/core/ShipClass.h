@@ -12,6 +12,7 @@
 #include "Catalogue.h"
 #include "Fault.h"
 #include "HullRules.h"
+#include "ShipDesign.h"
 #include "ShipFileLine.h"
 #include "ShipState.h"
 #include "Signal.h"
@@ -126,6 +127,10 @@ public:
     /// carries one. A sheet is no file to save to: the ship then has no file. After a failure the
     /// ship holds what was read before the fault.
     bool loadShip(const std::string& in_sFileName);
+    /// The same from the text of a ship file, in UTF-8. The ship gets no file.
+    bool loadText(std::string_view shipFile);
+    /// What a ship file tells of the ship.
+    ShipDesign design() const;
     /// The design as a ship file.
     std::string shipFile() const;
     const std::optional<Fault>& fileFault() const { return m_fileFault; }

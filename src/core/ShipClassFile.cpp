@@ -30,13 +30,6 @@ HullDesign asShown(HullDesign hull) {
     return hull;
 }
 
-void appendLine(std::string& text, std::string_view line) {
-    if (!line.empty()) {
-        text += line;
-        text += "\r\n";
-    }
-}
-
 }  // namespace
 
 std::string ShipClass::withExtension(std::string fileName) {
@@ -66,14 +59,20 @@ bool ShipClass::loadShip(const std::string& in_sFileName) {
         g_bAutoMass = false;
         const ShipText file = readShip(nativePath(in_sFileName));
         readShipFile(file.text, line);
-        line = 0;
-        // Without systems nothing has been recalculated yet. A ship whose figures will not fit
-        // their fields is refused here, and not when it is first shown.
-        workOut(asShown(hull));
         takeFileName(in_sFileName);
         if (file.isInSheet) {
             g_sSaveName.clear();
         }
+        ShipLoaded.raise();
+        g_bSaved = true;
+    });
+}
+
+bool ShipClass::loadText(std::string_view shipFile) {
+    m_refusedLines.clear();
+    return succeeds([&](int& line) {
+        g_bAutoMass = false;
+        readShipFile(shipFile, line);
         ShipLoaded.raise();
         g_bSaved = true;
     });
@@ -93,21 +92,16 @@ bool ShipClass::succeeds(const std::function<void(int& line)>& fileOperation) {
     }
 }
 
-std::string ShipClass::shipFile() const {
-    std::string text;
-    appendLine(text, "Ship Name: " + g_sShipName);
-    appendLine(text, "Designer Name: " + g_sDesignerName);
-    appendLine(text, "Mass: " + std::to_string(hull.mass));
-    appendLine(text, "Thrust: " + std::to_string(hull.thrust));
-    appendLine(text, hullLine(hull.hullType));
-    appendLine(text, streamlineLine(Streamline()));
-    appendLine(text, armorLine(Armor()));
-    appendLine(text, ftlLine(hull.ftl));
+ShipDesign ShipClass::design() const {
+    ShipDesign design{g_sShipName, g_sDesignerName, hull, {}};
     for (const WeapRec& record : systemsAboard()) {
-        appendLine(text,
-                   "System: " + std::string(record.name) + ", " + std::to_string(record.amount));
+        design.systems.emplace_back(record.name, record.amount);
     }
-    return text;
+    return design;
+}
+
+std::string ShipClass::shipFile() const {
+    return shipFileOf(design());
 }
 
 void ShipClass::readShipFile(std::string_view text, int& lineNumber) {
@@ -118,6 +112,10 @@ void ShipClass::readShipFile(std::string_view text, int& lineNumber) {
         std::string cuttable(line);
         readShipLine(cuttable, lineNumber);
     }
+    lineNumber = 0;
+    // Without systems nothing has been recalculated yet. A ship whose figures will not fit
+    // their fields is refused here, and not when it is first shown.
+    workOut(asShown(hull));
 }
 
 void ShipClass::readShipLine(std::string& line, int lineNumber) {

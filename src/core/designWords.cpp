@@ -80,6 +80,11 @@ std::string ftlLine(std::int32_t ftl) {
     return lineOf("FTL", ftlWords, ftl);
 }
 
+std::string wordOf(const std::string& line, std::string_view otherwise) {
+    const std::size_t colon = line.find(": ");
+    return colon == std::string::npos ? std::string(otherwise) : line.substr(colon + 2);
+}
+
 std::optional<std::int32_t> hullTypeOf(std::string_view word) {
     const std::string capitals = toCapitals(word);
     return codeOf(hullWords, [&](std::string_view known) { return toCapitals(known) == capitals; });

@@ -22,6 +22,9 @@ std::string armorLine(std::int32_t level);
 /// "FTL: None", "FTL: Normal" or "FTL: Tug"; empty for an unknown code.
 std::string ftlLine(std::int32_t ftl);
 
+/// The word of such a line, or another text if the line is empty.
+std::string wordOf(const std::string& line, std::string_view otherwise = {});
+
 /// The code of a hull type's word, in any case.
 std::optional<std::int32_t> hullTypeOf(std::string_view word);
 
