@@ -12,12 +12,6 @@ namespace fleetwright {
 
 namespace {
 
-/// The word behind "Key: " in a line of designWords.
-std::string wordOf(const std::string& line) {
-    const std::size_t colon = line.find(": ");
-    return colon == std::string::npos ? line : line.substr(colon + 2);
-}
-
 std::string describeHull(const HullDesign& hull) {
     std::string text =
         wordOf(hullLine(hull.hullType)) + " hull of mass " + std::to_string(hull.mass);

@@ -17,11 +17,6 @@ std::string shortened(const std::string& name) {
     return shownText(name, most);
 }
 
-std::string wordOf(const std::string& line, const char* otherwise) {
-    const std::size_t colon = line.find(": ");
-    return colon == std::string::npos ? otherwise : line.substr(colon + 2);
-}
-
 std::int32_t amountOfRecord(const ShipState& ship, std::size_t record) {
     for (const auto& [each, amount] : ship.amounts) {
         if (each == record) {
