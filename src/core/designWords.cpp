@@ -3,6 +3,7 @@
 #include "HullRules.h"
 #include "text.h"
 
+#include <algorithm>
 #include <array>
 
 namespace fleetwright {
@@ -51,6 +52,26 @@ struct SizeName {
     std::string_view name;
 };
 
+constexpr std::array<SizeName, 3> classNames = {
+    {{escortMass, "Escort"}, {cruiserMass, "Cruiser"}, {capitalMass, "Capital"}}};
+constexpr std::string_view classAbove = "Supership";
+
+constexpr std::array<SizeName, 12> designations = {{{4, "Scout"},
+                                                    {6, "Corvette"},
+                                                    {10, "Frigate"},
+                                                    {14, "Destroyer"},
+                                                    {18, "Super Destroyer"},
+                                                    {22, "Light Cruiser"},
+                                                    {26, "Escort Cruiser"},
+                                                    {36, "Heavy Cruiser"},
+                                                    {40, "Battle Cruiser"},
+                                                    {48, "BattleShip"},
+                                                    {70, "BattleDreadnought"},
+                                                    {100, "SuperDreadnought"}}};
+constexpr std::string_view designationAbove = "SuperShip";
+constexpr std::int32_t courierMass = 2;
+constexpr std::string_view courierName = "Courier";
+
 template <std::size_t Size>
 std::string_view nameOf(std::int32_t mass, const std::array<SizeName, Size>& names,
                         std::string_view nameAbove) {
@@ -63,6 +84,13 @@ std::string_view nameOf(std::int32_t mass, const std::array<SizeName, Size>& nam
 }
 
 }  // namespace
+
+std::string_view hullWord(std::int32_t hullType) {
+    const auto* const found =
+        std::find_if(hullWords.begin(), hullWords.end(),
+                     [&](const CodeWord& entry) { return entry.code == hullType; });
+    return found == hullWords.end() ? std::string_view() : found->word;
+}
 
 std::string hullLine(std::int32_t hullType) {
     return lineOf("Type", hullWords, hullType);
@@ -99,26 +127,26 @@ std::optional<std::int32_t> streamlineOf(std::string_view word) {
 }
 
 std::string_view classOf(std::int32_t mass) {
-    static constexpr std::array<SizeName, 3> names = {
-        {{escortMass, "Escort"}, {cruiserMass, "Cruiser"}, {capitalMass, "Capital"}}};
-    return nameOf(mass, names, "Supership");
+    return nameOf(mass, classNames, classAbove);
 }
 
 std::string_view designationOf(std::int32_t mass) {
-    static constexpr std::array<SizeName, 12> names = {{{4, "Scout"},
-                                                        {6, "Corvette"},
-                                                        {10, "Frigate"},
-                                                        {14, "Destroyer"},
-                                                        {18, "Super Destroyer"},
-                                                        {22, "Light Cruiser"},
-                                                        {26, "Escort Cruiser"},
-                                                        {36, "Heavy Cruiser"},
-                                                        {40, "Battle Cruiser"},
-                                                        {48, "BattleShip"},
-                                                        {70, "BattleDreadnought"},
-                                                        {100, "SuperDreadnought"}}};
-    constexpr std::int32_t courierMass = 2;
-    return mass == courierMass ? "Courier" : nameOf(mass, names, "SuperShip");
+    return mass == courierMass ? courierName : nameOf(mass, designations, designationAbove);
+}
+
+std::vector<std::string_view> shipKinds() {
+    std::vector<std::string_view> kinds;
+    for (const CodeWord& hull : hullWords) {
+        kinds.push_back(hull.word);
+    }
+    for (const SizeName& entry : classNames) {
+        kinds.push_back(entry.name);
+    }
+    kinds.insert(kinds.end(), {classAbove, courierName});
+    for (const SizeName& entry : designations) {
+        kinds.push_back(entry.name);
+    }
+    return kinds;
 }
 
 }  // namespace fleetwright

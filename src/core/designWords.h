@@ -7,11 +7,15 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace fleetwright {
 
 /// "Type: Warship" and so on; empty for an unknown code.
 std::string hullLine(std::int32_t hullType);
+
+/// "Warship" and so on; empty for an unknown code.
+std::string_view hullWord(std::int32_t hullType);
 
 /// "Streamlining: Partial" or "Streamlining: Full"; empty for none.
 std::string streamlineLine(std::int32_t level);
@@ -44,5 +48,9 @@ std::string_view classOf(std::int32_t mass);
 
 /// The designation of a ship of this mass: "Courier" to "SuperShip".
 std::string_view designationOf(std::int32_t mass);
+
+/// The words for all kinds of ships: hull types, classes and designations. The class and the
+/// designation of the heaviest ships differ in their case alone, so there is only the class.
+std::vector<std::string_view> shipKinds();
 
 }  // namespace fleetwright

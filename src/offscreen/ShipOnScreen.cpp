@@ -20,8 +20,9 @@ public:
 
 class ShipOnScreen::Program {
 public:
-    Program(const std::filesystem::path& appFolder, const CatalogueFile& catalogueFile)
-        : window(withoutScreen(m_silent.services(appFolder, m_pictures), catalogueFile)) {}
+    Program(const std::filesystem::path& appFolder, const CatalogueFile& catalogueFile,
+            FormulaFunction formula)
+        : window(withoutScreen(m_silent.services(appFolder, m_pictures, formula), catalogueFile)) {}
 
 private:
     static MainWindowServices withoutScreen(MainWindowServices services,
@@ -41,14 +42,16 @@ public:
 ShipOnScreen::ShipOnScreen(const std::filesystem::path& appFolder)
     : ShipOnScreen(appFolder, CatalogueFile::readOnce(appFolder / "weaps.dat")) {}
 
-ShipOnScreen::ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile)
-    : m_appFolder(std::move(appFolder)), m_catalogueFile(std::move(catalogueFile)) {}
+ShipOnScreen::ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile,
+                           FormulaFunction formula)
+    : m_appFolder(std::move(appFolder)), m_catalogueFile(std::move(catalogueFile)),
+      m_formula(formula) {}
 
 ShipOnScreen::~ShipOnScreen() = default;
 
 std::optional<Fault> ShipOnScreen::load(const std::string& file) {
     m_catalogueFile.read();  // the window would not say what is wrong with it
-    m_program = std::make_unique<Program>(m_appFolder, m_catalogueFile);
+    m_program = std::make_unique<Program>(m_appFolder, m_catalogueFile, m_formula);
     frmMain& window = m_program->window;
     try {
         window.show();

@@ -19,8 +19,9 @@ public:
 
     /// The services of a window in this application folder. Whoever has more of the world than
     /// this puts it in their place.
-    MainWindowServices services(const std::filesystem::path& appFolder, PictureFiles& pictures) {
-        globals.formula = formula_calculate;
+    MainWindowServices services(const std::filesystem::path& appFolder, PictureFiles& pictures,
+                                FormulaFunction formula = formula_calculate) {
+        globals.formula = formula;
         return {.appFolder = appFolder,
                 .eventLoopTurn = {},
                 .freeFormulaLibrary = [] {},

@@ -2,6 +2,7 @@
 
 #include "CatalogueFile.h"
 #include "ShipClass.h"
+#include "formula_calculate.h"
 
 #include <filesystem>
 #include <memory>
@@ -17,8 +18,10 @@ class frmMain;
 class ShipOnScreen {
 public:
     explicit ShipOnScreen(const std::filesystem::path& appFolder);
-    /// The same, with that folder's catalogue, which is to be one that is read once.
-    ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile);
+    /// The same, with that folder's catalogue, which is to be one that is read once, and with what
+    /// works formulas out.
+    ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalogueFile,
+                 FormulaFunction formula = formula_calculate);
     ShipOnScreen(const ShipOnScreen&) = delete;
     ShipOnScreen& operator=(const ShipOnScreen&) = delete;
     ~ShipOnScreen();
@@ -41,6 +44,7 @@ private:
 
     std::filesystem::path m_appFolder;
     CatalogueFile m_catalogueFile;
+    FormulaFunction m_formula;
     std::unique_ptr<Program> m_program;
 };
 

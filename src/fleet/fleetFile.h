@@ -1,0 +1,40 @@
+#pragma once
+
+// The fleet file, `.fleet`, which docs/file-formats.md describes.
+
+#include "Fault.h"
+#include "Fleet.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fleetwright {
+
+/// A fleet file as it was understood.
+struct ReadFleet {
+    Fleet fleet;
+    /// What is wrong with single lines, by line. They count for nothing, and stay in the file.
+    std::vector<Fault> faults;
+    std::vector<int> shipLines;  ///< where each ship begins, from 1 on
+};
+
+/// Reads the text of a fleet file, in UTF-8. Throws Error if it is none, or one of a later version.
+ReadFleet parseFleet(std::string_view text);
+
+/// Reads a fleet file. Throws FileError.
+ReadFleet readFleet(const std::filesystem::path& file);
+
+/// The text of a fleet file. Lines that mean nothing to this program, such as comments and keys of
+/// a later version, stay where they were, and so do all lines whose value has not changed. A line
+/// break inside a name becomes a blank.
+std::string fleetText(const Fleet& fleet);
+
+/// Saves a fleet file. Throws FileError.
+void saveFleet(const std::filesystem::path& file, const Fleet& fleet);
+
+/// A limit as files have it and as it is shown: "Capital: 2 ships", "Merchant: 300 points".
+std::string limitText(const FleetLimit& limit);
+
+}  // namespace fleetwright

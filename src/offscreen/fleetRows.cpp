@@ -1,0 +1,29 @@
+#include "fleetRows.h"
+
+#include "Error.h"
+#include "ShipOnScreen.h"
+#include "fingerprint.h"
+#include "paths.h"
+#include "readShip.h"
+
+namespace fleetwright {
+
+FleetRow fleetRow(ShipOnScreen& screen, const std::string& ship) {
+    FleetRow row;
+    try {
+        row.fingerprint = fingerprint(readShip(nativePath(ship)).text);
+    } catch (const Error&) {
+        // The load fails likewise, and says why.
+    }
+    if (const auto fault = screen.load(ship)) {
+        row.faults.push_back(*fault);
+        return row;
+    }
+    row.figures = shipFigures(screen.ship());
+    for (const RefusedLine& line : screen.ship().refusedLines()) {
+        row.faults.push_back(line.fault);
+    }
+    return row;
+}
+
+}  // namespace fleetwright
