@@ -149,4 +149,19 @@ std::vector<std::string_view> shipKinds() {
     return kinds;
 }
 
+std::string thrustDriveName(std::int32_t thrust) {
+    return "Thrust Drive " + std::to_string(thrust);
+}
+
+std::string_view ftlDriveName(std::int32_t ftl) {
+    switch (ftl) {
+    case NormalDrive:
+        return "FTL Drive";
+    case TugDrive:
+        return "FTL Tug Drive";
+    default:
+        return {};
+    }
+}
+
 }  // namespace fleetwright

@@ -53,4 +53,11 @@ std::string_view designationOf(std::int32_t mass);
 /// designation of the heaviest ships differ in their case alone, so there is only the class.
 std::vector<std::string_view> shipKinds();
 
+// What is drawn on a sheet like a system, and is none of the catalogue.
+inline constexpr const char* fireControlName = "Fire Control";
+/// "Thrust Drive 4".
+std::string thrustDriveName(std::int32_t thrust);
+/// "FTL Drive" or "FTL Tug Drive"; empty for none.
+std::string_view ftlDriveName(std::int32_t ftl);
+
 }  // namespace fleetwright

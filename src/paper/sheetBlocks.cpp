@@ -68,21 +68,6 @@ std::string priceOf(const LegendRow& row, std::int32_t bought) {
     return price;
 }
 
-/// "fore, port; mass 3, 10 points each", or "2 with the hull; 1 more: mass 1, 4 points".
-std::string particulars(const LegendRow& row) {
-    const std::int32_t bought = row.count - row.withHull;
-    std::string text = row.arcs;
-    if (row.withHull > 0) {
-        appendPart(text, "; ", together(std::to_string(row.withHull) + " with the hull"));
-    }
-    std::string price = priceOf(row, bought);
-    if (row.withHull > 0 && !price.empty()) {
-        price.insert(0, together(std::to_string(bought) + " more:") + ' ');
-    }
-    appendPart(text, "; ", price);
-    return text;
-}
-
 PageBlock legendBlock(const LegendRow& row, double width, double factor) {
     constexpr double pictureSide = 8.5;
     constexpr std::size_t mostNameLines = 3, mostRulesLines = 8;
@@ -114,6 +99,20 @@ PageBlock legendBlock(const LegendRow& row, double width, double factor) {
 }
 
 }  // namespace
+
+std::string particulars(const LegendRow& row) {
+    const std::int32_t bought = row.count - row.withHull;
+    std::string text = row.arcs;
+    if (row.withHull > 0) {
+        appendPart(text, "; ", together(std::to_string(row.withHull) + " with the hull"));
+    }
+    std::string price = priceOf(row, bought);
+    if (row.withHull > 0 && !price.empty()) {
+        price.insert(0, together(std::to_string(bought) + " more:") + ' ');
+    }
+    appendPart(text, "; ", price);
+    return text;
+}
 
 SheetText sheetText(std::string_view text) {
     constexpr std::string_view separator = "=================================";

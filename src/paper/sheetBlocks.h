@@ -28,6 +28,9 @@ std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double 
 /// is not empty.
 std::vector<PageBlock> listBlocks(const SheetText& text, double width, double size,
                                   std::string_view heading);
+/// "fore, port; mass 3, 10 points each", or "2 with the hull; 1 more: mass 1, 4 points", in which
+/// blanks that part no line are no-break spaces.
+std::string particulars(const LegendRow& row);
 /// The legend, its letters larger or smaller than usual by this factor.
 std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
                                     double factor);

@@ -52,6 +52,7 @@ struct SheetFacts {
 struct VectorSheet {
     SheetRecord record;
     SheetFacts facts;
+    std::int32_t mapMass = 0;          ///< SIZE of the map that it is drawn on
     std::string shipFile;              ///< the text of the ship file that it carries
     std::optional<std::int64_t> date;  ///< of the ship file, seconds since 1970
 };

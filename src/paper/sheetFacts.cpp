@@ -121,7 +121,7 @@ void Legend::addSystem(const std::string& name, std::int32_t count) {
 void Legend::addFireControls() {
     const std::int32_t count = wholeNumber(m_figures.txtFireCon);
     if (count > 0) {
-        add(filePicture(fireControlPicture), "Fire Control", count).rules =
+        add(filePicture(fireControlPicture), fireControlName, count).rules =
             "One for each target that the ship fires at in a turn.";
     }
 }
@@ -148,13 +148,12 @@ void Legend::addDrives() {
     const HullFigures& hull = m_ship.hullFigures();
     const std::int16_t thrust = m_ship.THRUST();
     if (!isBase(m_ship.Hull()) && thrust > 0) {
-        add(filePicture(thrustPicture(thrust)), "Thrust Drive " + std::to_string(thrust), 1)
-            .points = hull.thrustCost;
+        add(filePicture(thrustPicture(thrust)), thrustDriveName(thrust), 1).points =
+            hull.thrustCost;
     }
-    const std::string drive = drivePicture(m_ship.FTL());
-    if (drive != noDrivePicture) {
-        add(filePicture(drive), m_ship.FTL() == TugDrive ? "FTL Tug Drive" : "FTL Drive", 1)
-            .points = hull.ftlCost;
+    const std::string_view drive = ftlDriveName(m_ship.FTL());
+    if (!drive.empty()) {
+        add(filePicture(drivePicture(m_ship.FTL())), std::string(drive), 1).points = hull.ftlCost;
     }
 }
 

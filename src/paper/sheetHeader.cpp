@@ -13,9 +13,7 @@ constexpr std::uint32_t labelColour = 0x555555;
 constexpr double leastWideHeader = 150;
 constexpr double besideWidth = 62, besideHeight = 14.4;
 
-struct Figure {
-    std::string label;
-    std::string value;
+struct Figure : HeadFigure {
     double width = 0;
 };
 
@@ -31,22 +29,12 @@ std::string damageOf(const SheetFacts& facts) {
     return text;
 }
 
-std::vector<Figure> figuresOf(const SheetFacts& facts) {
-    std::vector<Figure> figures = {{"HULL", facts.hull},
-                                   {"MASS", std::to_string(facts.mass)},
-                                   {"POINTS", std::to_string(facts.points)},
-                                   {"THRUST", facts.thrust},
-                                   {"DRIVE", facts.drive},
-                                   {"DAMAGE", damageOf(facts)}};
-    if (!facts.armor.empty()) {
-        figures.push_back({"ARMOR", facts.armor});
-    }
-    if (!facts.streamlining.empty()) {
-        figures.push_back({"STREAMLINING", facts.streamlining});
-    }
-    for (Figure& figure : figures) {
-        figure.width = std::max(textWidth(figure.label, labelSize),
-                                textWidth(figure.value, valueSize, PageFont::Bold));
+std::vector<Figure> measuredFigures(const SheetFacts& facts) {
+    std::vector<Figure> figures;
+    for (HeadFigure& figure : headFigures(facts)) {
+        const double width = std::max(textWidth(figure.label, labelSize),
+                                      textWidth(figure.value, valueSize, PageFont::Bold));
+        figures.push_back({std::move(figure), width});
     }
     return figures;
 }
@@ -113,7 +101,7 @@ void HeaderBlock::writeFigures(const SheetFacts& facts) {
     rule(0.5);
     std::vector<Figure> row;
     double used = 0;
-    for (Figure& figure : figuresOf(facts)) {
+    for (Figure& figure : measuredFigures(facts)) {
         if (!row.empty() && used + leastGap + figure.width > m_width) {
             writeRow(std::exchange(row, {}));
             used = 0;
@@ -126,6 +114,22 @@ void HeaderBlock::writeFigures(const SheetFacts& facts) {
 }
 
 }  // namespace
+
+std::vector<HeadFigure> headFigures(const SheetFacts& facts) {
+    std::vector<HeadFigure> figures = {{"HULL", facts.hull},
+                                       {"MASS", std::to_string(facts.mass)},
+                                       {"POINTS", std::to_string(facts.points)},
+                                       {"THRUST", facts.thrust},
+                                       {"DRIVE", facts.drive},
+                                       {"DAMAGE", damageOf(facts)}};
+    if (!facts.armor.empty()) {
+        figures.push_back({"ARMOR", facts.armor});
+    }
+    if (!facts.streamlining.empty()) {
+        figures.push_back({"STREAMLINING", facts.streamlining});
+    }
+    return figures;
+}
 
 Box roomInHeader(double width) {
     return {width - besideWidth, 0, width < leastWideHeader ? 0 : besideWidth, besideHeight};

@@ -8,6 +8,13 @@
 
 namespace fleetwright {
 
+/// One of the figures in the head of a sheet.
+struct HeadFigure {
+    std::string label;  ///< in capitals
+    std::string value;
+};
+std::vector<HeadFigure> headFigures(const SheetFacts& facts);
+
 /// The head of a sheet: the ship's name, what kind of ship it is, and its figures. Beside the name
 /// stand the lines of the drawing's text that are handed in.
 PageBlock sheetHeader(const SheetFacts& facts, const std::vector<PageBlock>& lines, double width);

@@ -29,7 +29,7 @@ void addGreatTrack(SheetRecord& record, const ShipClass& ship, const SSDMap& map
     }
     record.pastes.insert(
         record.pastes.begin(),
-        {{track, nullptr}, map.getDAMPntX(), map.getDAMPntY(), track->width, track->height});
+        {{track, nullptr}, map.getDAMPntX(), map.getDAMPntY(), track->width, track->height, {}});
 }
 
 }  // namespace
@@ -46,6 +46,7 @@ VectorSheet vectorSheet(const SheetShip& ship, const std::vector<ListView::Row>&
     addGreatTrack(record, ship.ship, map);
     return {.record = std::move(record),
             .facts = sheetFacts(ship, lvCurrentWeapons, sources),
+            .mapMass = map.iMaxMass,
             .shipFile = ship.ship.shipFile(),
             .date = std::nullopt};
 }

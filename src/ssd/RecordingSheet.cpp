@@ -32,8 +32,13 @@ void RecordingSheet::paint(const Raster& picture, int x, int y) {
     m_record.pastes.push_back(pasteOf(picture, x, y));
 }
 
+void RecordingSheet::paintPiece(const Raster& picture, int x, int y, std::string_view system) {
+    paint(picture, x, y);
+    m_record.pastes.back().system = system;
+}
+
 SheetRecord::Paste RecordingSheet::pasteOf(const Raster& picture, int x, int y) {
-    SheetRecord::Paste paste{{}, x, y, picture.width(), picture.height()};
+    SheetRecord::Paste paste{{}, x, y, picture.width(), picture.height(), {}};
     paste.picture.drawing = m_drawings.of(picture);
     if (!paste.picture.drawing) {
         paste.picture.raster = kept(picture);

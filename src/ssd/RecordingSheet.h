@@ -19,6 +19,7 @@ public:
     int scaleWidth() const override { return m_record.outline.width; }
     int scaleHeight() const override { return m_height; }
     void paint(const Raster& picture, int x, int y) override;
+    void paintPiece(const Raster& picture, int x, int y, std::string_view system) override;
     /// Nothing: a sheet is white where it grows.
     void fill(Pen, Pen, std::uint32_t) override {}
     /// White. Where the text ends is of no meaning to a record.

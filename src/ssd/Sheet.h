@@ -37,6 +37,10 @@ public:
 
     /// Copies a whole picture to the sheet, its upper left corner at this pixel.
     virtual void paint(const Raster& picture, int x, int y) = 0;
+    /// The same for the picture of a piece of a system, by its name on the sheet.
+    virtual void paintPiece(const Raster& picture, int x, int y, std::string_view) {
+        paint(picture, x, y);
+    }
     /// Fills from one corner up to, but without, the row and the column of the other.
     virtual void fill(Pen from, Pen to, std::uint32_t colour) = 0;
     /// Prints black text whose lines end in CR, and leaves what shows between the letters. The

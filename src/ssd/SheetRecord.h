@@ -25,6 +25,7 @@ struct SheetRecord {
         int y = 0;
         int width = 0;
         int height = 0;
+        std::string system;  ///< whose piece it is, by its name on the sheet; or empty
     };
 
     Paste outline;

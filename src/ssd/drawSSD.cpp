@@ -6,6 +6,7 @@
 #include "SheetPictures.h"
 #include "ShipClass.h"
 #include "checkedArithmetic.h"
+#include "designWords.h"
 #include "text.h"
 #include "wholeNumber.h"
 
@@ -61,14 +62,15 @@ private:
     std::string mapName() const { return "the map " + quote(m_map.sDisplayName); }
     Raster file(std::string_view name, const std::string& what) const;
     const Raster& system(std::string_view name) const;
-    void paintAtWeapon(const Raster& picture, std::int16_t point) {
-        m_sheet.paint(picture, m_map.getWeapPntX(point), m_map.getWeapPntY(point));
+    // No name means that it is no piece of a system.
+    void paintAtWeapon(const Raster& picture, std::int16_t point, std::string_view name = {}) {
+        m_sheet.paintPiece(picture, m_map.getWeapPntX(point), m_map.getWeapPntY(point), name);
     }
-    void paintAtParty(const Raster& picture, std::int16_t point) {
-        m_sheet.paint(picture, m_map.getDCPPntX(point), m_map.getDCPPntY(point));
+    void paintAtParty(const Raster& picture, std::int16_t point, std::string_view name = {}) {
+        m_sheet.paintPiece(picture, m_map.getDCPPntX(point), m_map.getDCPPntY(point), name);
     }
-    void paintAtFireControl(const Raster& picture, std::int16_t point) {
-        m_sheet.paint(picture, m_map.getFIRECONPntX(point), m_map.getFIRECONPntY(point));
+    void paintAtFireControl(const Raster& picture, std::int16_t point, std::string_view name = {}) {
+        m_sheet.paintPiece(picture, m_map.getFIRECONPntX(point), m_map.getFIRECONPntY(point), name);
     }
 
     Sheet& m_sheet;
@@ -150,13 +152,13 @@ void SheetDrawing::paintSystems() {
 void SheetDrawing::paintSystem(const std::string& name) {
     if (name == Catalogue::partyName) {
         const std::int16_t point = takeParty(std::ssize(m_lists.lstDCP) - 1);
-        paintAtParty(system(name), point);
+        paintAtParty(system(name), point, name);
     } else if (m_ship.PaintableWeap(name)) {
         if (m_map.iWeapNDX == 0) {
             throw Error("no point for " + quote(name) + " on " + mapName());
         }
         const std::int16_t point = m_lists.pickWeapPoint(m_ship, name);
-        paintAtWeapon(system(name), point);
+        paintAtWeapon(system(name), point, name);
     } else {
         m_unpainted += name + '\r';
     }
@@ -165,14 +167,14 @@ void SheetDrawing::paintSystem(const std::string& name) {
 void SheetDrawing::paintParties() {
     for (std::int16_t i = narrow<std::int16_t>(number(m_figures.txtDCP) - 1); i >= 0; --i) {
         const std::int16_t point = takeParty(i);
-        paintAtParty(system(Catalogue::partyName), point);
+        paintAtParty(system(Catalogue::partyName), point, Catalogue::partyName);
     }
 }
 
 void SheetDrawing::paintFireControls() {
     for (std::int16_t i = narrow<std::int16_t>(number(m_figures.txtFireCon) - 1); i >= 0; --i) {
         const std::int16_t point = takeFireControl(i);
-        paintAtFireControl(file(fireControlPicture, "of a fire control"), point);
+        paintAtFireControl(file(fireControlPicture, "of a fire control"), point, fireControlName);
     }
 }
 
@@ -183,11 +185,11 @@ void SheetDrawing::paintDrives() {
         m_sheet.paint(system(SheetImages::blank), thrustX, thrustY);
     } else {
         const std::int16_t thrust = m_ship.THRUST();
-        m_sheet.paint(file(thrustPicture(thrust), "for thrust " + std::to_string(thrust)), thrustX,
-                      thrustY);
+        m_sheet.paintPiece(file(thrustPicture(thrust), "for thrust " + std::to_string(thrust)),
+                           thrustX, thrustY, thrust > 0 ? thrustDriveName(thrust) : std::string());
     }
-    m_sheet.paint(file(drivePicture(m_ship.FTL()), "of the FTL drive"), m_map.getFTLPntX(),
-                  m_map.getFTLPntY());
+    m_sheet.paintPiece(file(drivePicture(m_ship.FTL()), "of the FTL drive"), m_map.getFTLPntX(),
+                       m_map.getFTLPntY(), ftlDriveName(m_ship.FTL()));
 }
 
 void SheetDrawing::coverWhatIsLeft() {

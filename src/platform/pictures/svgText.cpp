@@ -97,4 +97,12 @@ SvgTag& SvgTag::set(std::string_view name, double value) {
     return *this;
 }
 
+SvgTag& SvgTag::set(const Box& box) {
+    return set("x", box.x).set("y", box.y).set("width", box.width).set("height", box.height);
+}
+
+SvgTag& SvgTag::setPaint(std::string_view name, const std::optional<std::uint32_t>& colour) {
+    return set(name, colour ? svgColour(*colour) : "none");
+}
+
 }  // namespace fleetwright

@@ -2,7 +2,10 @@
 
 // How values are written in an SVG file, whatever the process's locale.
 
+#include "Drawing.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +29,10 @@ public:
     /// Sets an attribute, the value as it is.
     SvgTag& set(std::string_view name, std::string_view value);
     SvgTag& set(std::string_view name, double value);
+    /// Sets "x", "y", "width" and "height".
+    SvgTag& set(const Box& box);
+    /// Sets "fill" or "stroke".
+    SvgTag& setPaint(std::string_view name, const std::optional<std::uint32_t>& colour);
     /// Ends the tag of an element that goes on.
     void open() { m_text += '>'; }
     /// Ends the tag of an element that holds nothing.

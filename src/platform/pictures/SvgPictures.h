@@ -1,0 +1,41 @@
+#pragma once
+
+#include "PageDocument.h"
+
+#include <map>
+#include <string>
+#include <tuple>
+
+namespace fleetwright {
+
+class PictureEncoder;
+
+/// The pictures of an SVG document. Each is defined once and used wherever it shows. Those without
+/// a drawing are in it as PNG files, which the encoder makes.
+class SvgPictures {
+public:
+    /// The encoder outlives this, and so do all pictures, which are told apart by their places in
+    /// memory.
+    explicit SvgPictures(PictureEncoder& encoder) : m_encoder(encoder) {}
+
+    /// Adds the element that shows a picture. Throws Error.
+    void use(const PagePicture& picture, std::string& body);
+    /// The id of a picture's definition, in pixels of the picture. Throws Error.
+    std::string nameOf(const PagePicture& picture);
+    /// The element "defs" for all that was asked for so far; nothing if that is nothing.
+    std::string definitions() const;
+
+private:
+    using BoxKey = std::tuple<double, double, double, double>;
+
+    void defineDrawing(const std::string& name, const Drawing& drawing);
+    void defineRaster(const std::string& name, const Raster& raster);
+    std::string clipOf(const Box& box);
+
+    PictureEncoder& m_encoder;
+    std::string m_definitions;
+    std::map<const void*, std::string> m_pictures;  // names of definitions
+    std::map<BoxKey, std::string> m_clips;
+};
+
+}  // namespace fleetwright
