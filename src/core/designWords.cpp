@@ -150,7 +150,7 @@ std::vector<std::string_view> shipKinds() {
 }
 
 std::string thrustDriveName(std::int32_t thrust) {
-    return "Thrust Drive " + std::to_string(thrust);
+    return std::string(thrustDriveWords) + std::to_string(thrust);
 }
 
 std::string_view ftlDriveName(std::int32_t ftl) {

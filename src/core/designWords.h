@@ -55,6 +55,7 @@ std::vector<std::string_view> shipKinds();
 
 // What is drawn on a sheet like a system, and is none of the catalogue.
 inline constexpr const char* fireControlName = "Fire Control";
+inline constexpr std::string_view thrustDriveWords = "Thrust Drive ";
 /// "Thrust Drive 4".
 std::string thrustDriveName(std::int32_t thrust);
 /// "FTL Drive" or "FTL Tug Drive"; empty for none.

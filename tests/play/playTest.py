@@ -1,0 +1,261 @@
+"""Plays a fleet in a browser as its owner does: playTest.py MAKE_PAGE APP_FOLDER PICTURES_FOLDER."""
+
+import base64
+import json
+import pathlib
+import subprocess
+import sys
+import time
+
+from Browser import Browser
+
+SHIPS = ["<b>One</b>", "<img src=x onerror=alert(1)>", "\u202e</script><script>alert(2)</script>\u2028"]
+faults = []
+
+
+def expect(seen, wanted, what):
+    if seen != wanted:
+        faults.append(f"{what}: {seen!r} instead of {wanted!r}")
+
+
+def plain(text):
+    """Without what keeps the writing's direction of a name to it."""
+    return text.replace("\u2068", "").replace("\u2069", "")
+
+
+def words():
+    return plain(browser.run("[...document.querySelectorAll('.ship:not([hidden]) .words li')]"
+                       ".map(e => e.textContent).join('|')"))
+
+
+def said():
+    return plain(browser.run("document.getElementById('said').textContent"))
+
+
+def crossed():
+    return browser.run("[...document.querySelectorAll('.ship:not([hidden]) .box')]"
+                       ".map(e => e.getAttribute('aria-pressed') === 'true' ? 'x' : '.').join('')")
+
+
+def shown(css):
+    return f"document.querySelector('.ship:not([hidden]) {css}')"
+
+
+def box(number):
+    return f"document.querySelectorAll('.ship:not([hidden]) .box')[{number}]"
+
+
+def by_id(name):
+    return f"document.getElementById('{name}')"
+
+
+def choose(kind):
+    browser.wait_for("document.getElementById('chooser').open")
+    browser.tap(f"[...document.querySelectorAll('#chooser .choice')].find(e => e.textContent === '{kind}')")
+
+
+def tap_drawn(list_name, number):
+    """Where the drawing shows a damage box or a piece."""
+    browser.tap_at(browser.run(f"""(() => {{
+        const svg = {shown('.drawing svg')};
+        svg.scrollIntoView({{block: 'center'}});
+        const sheet = JSON.parse(document.getElementById('data').textContent).sheets[0];
+        const place = sheet.{list_name}[{number}];
+        const [x, y, width, height] = Array.isArray(place[1]) ? place[1] : place;
+        const seen = svg.getBoundingClientRect(), scale = seen.width / sheet.size[0];
+        return [seen.left + (x + width / 2) * scale, seen.top + (y + height / 2) * scale];
+    }})()"""))
+
+
+def damage_boxes():
+    browser.tap(box(2))
+    expect(crossed(), "..x.....", "a tap on the third box")
+    expect(words(), "7 of 8 damage points left, 2 of 2 rows left|All systems work", "words of a box")
+    first, last = browser.middle_of(box(0)), browser.middle_of(box(3))
+    browser.tap_at(first, [(first[0] + last[0]) / 2 - 22, first[1]], [first[0] + 44, first[1]], last)
+    expect(crossed(), "xxxx....", "a finger drawn over the first row")
+    expect(said(), "<b>One</b>: 3 damage points. 4 of 8 damage points left, 1 of 2 rows left. "
+                   "A row is full: 1 system fails", "what a full row means")
+    browser.tap(box(0))
+    expect(crossed(), ".xxx....", "a tap on a crossed box")
+    tap_drawn("boxes", 7)
+    expect(crossed(), ".xxx...x", "a tap on a box of the drawing")
+    browser.tap(shown(".hit"))
+    expect(crossed(), "xxxx...x", "a hit")
+    browser.run(f"{box(3)}.focus()")
+    for key, code in (("ArrowRight", 39), (" ", 32)):
+        for kind in ("keyDown", "keyUp"):
+            browser.call("Input.dispatchKeyEvent", type=kind, key=key, windowsVirtualKeyCode=code,
+                         code="Space" if key == " " else key, text=key if key == " " else "")
+    expect(crossed(), "xxxxx..x", "arrow and blank")
+
+
+def systems():
+    tap_drawn("pieces", 0)
+    choose("Destroyed")
+    name = browser.run(f"{by_id('said')}.textContent.split('\\u2068')[2].split('\\u2069')[0]")
+    expect(words().split("|")[1], f"Destroyed: {name}", "a system destroyed on the drawing")
+    browser.tap("[...document.querySelectorAll('.piece')].find(e => e.ariaLabel.includes('Thrust'))")
+    choose("Damaged")
+    expect(browser.run(f"{shown('.figures')}.innerText").count("(damaged)"), 1, "the thrust in the head")
+    tap_drawn("pieces", 0)
+    choose("Whole")
+    expect(words().split("|")[1], "Damaged: Thrust Drive 6", "a system whole again")
+    expect(browser.run(f"{shown('.marks')}.querySelectorAll('path.damaged').length"), 1, "marks on the drawing")
+
+
+def undo_and_turns():
+    before = words()
+    browser.tap(by_id("undo"))
+    expect(words() == before, False, "undo")
+    browser.tap(by_id("redo"))
+    expect(words(), before, "redo")
+    browser.tap(by_id("turnOn"))
+    expect(browser.run(f"{by_id('turn')}.textContent"), "Turn 2", "the turn")
+    browser.run(f"{shown('textarea')}.focus()")
+    browser.call("Input.insertText", text="<i>Admiral</i> aboard")
+
+
+def after_reload():
+    marks = (words(), crossed())
+    browser.reload()
+    expect((words(), crossed()), marks, "marks after a reload")
+    expect(browser.run(f"{shown('textarea')}.value"), "<i>Admiral</i> aboard", "notes after a reload")
+    browser.tap(by_id("undo"))
+    expect(browser.run(f"{by_id('turn')}.textContent"), "Turn 1", "undo after a reload")
+    browser.tap(by_id("redo"))
+    return marks
+
+
+def load(text):
+    file = pathlib.Path(browser.folder) / "loaded.json"
+    file.write_text(text)
+    browser.run("document.getElementById('said').textContent = document.getElementById('notice').textContent = ''")
+    browser.choose_file("#file", str(file))
+    browser.wait_for("document.getElementById('said').textContent + document.getElementById('notice').textContent")
+    return browser.run("document.getElementById('notice').textContent")
+
+
+def files(marks):
+    browser.tap(by_id("more"))
+    browser.tap(by_id("save"))
+    saved = pathlib.Path(browser.folder) / "script-alert-1-script-turn-2.json"
+    end = time.monotonic() + 20
+    while not saved.exists() and time.monotonic() < end:
+        time.sleep(0.02)
+    text = saved.read_text()
+    game = json.loads(text)
+    browser.tap(by_id("more"))
+    browser.tap(by_id("newGame"))
+    expect(crossed(), "........", "a new game")
+    expect(load(text), "", "loading what was saved")
+    expect((words(), crossed()), marks, "marks from a file")
+    for change, word in ((text[:-9], "damaged"), ("[1]", "no game of a fleet"),
+                         (json.dumps({**game, "id": "1-2"}), "another fleet"),
+                         (json.dumps({**game, "turn": "2"}), "turn"),
+                         (json.dumps({**game, "more": 1}), "has to be"),
+                         (text.replace('"damage": [', '"damage": [99,', 1), "box"),
+                         (text.replace('"systems": {', '"systems": {"__proto__": "damaged",', 1), "system"),
+                         (text.replace('"damaged"', '"constructor"'), "system")):
+        expect(word in load(change), True, f"{word} in what is said of a bad file")
+        expect((words(), crossed()), marks, f"marks behind a bad file ({word})")
+
+
+def paper():
+    printed = pathlib.Path(browser.folder) / "printed.pdf"
+    printed.write_bytes(base64.b64decode(browser.call("Page.printToPDF")["data"]))
+    text = subprocess.run(["pdftotext", "-layout", printed, "-"], capture_output=True, text=True).stdout
+    text = plain(text)
+    for wanted in ("Turn 2", "<b>One</b>", "onerror", "Damaged: Thrust Drive 6", "<i>Admiral</i> aboard"):
+        expect(wanted in text, True, f"{wanted} on paper")
+
+
+def strangers():
+    ships = browser.run("[...document.querySelectorAll('.tab .name')].map(e => e.textContent)")
+    expect(ships, [name.replace("\u202e", "\ufffd").replace("\u2028", "\ufffd") for name in SHIPS],
+           "names of ships")
+    expect(browser.run("document.title"), "<script>alert(1)</script>", "the title")
+    expect(browser.run("document.querySelectorAll('img, iframe, b, i, script:not([type]) ~ script').length"), 0,
+           "elements that nobody has written")
+    # What the policy says holds.
+    expect(browser.run("(() => { try { return eval('1'); } catch (e) { return e.name; } })()"), "EvalError", "eval")
+    browser.run("""(() => {
+        window.blocked = [];
+        document.addEventListener('securitypolicyviolation', e => window.blocked.push(e.effectiveDirective));
+        document.body.insertAdjacentHTML('beforeend', '<p id="bad" onclick="alert(3)"></p>');
+        document.getElementById('bad').click();
+        document.getElementById('bad').remove();
+        const image = new Image();
+        image.src = 'http://127.0.0.1:9/picture';
+        fetch('http://127.0.0.1:9/').catch(() => {});
+        const script = document.createElement('script');
+        script.textContent = 'alert(4)';
+        document.body.append(script);
+        script.remove();
+    })()""")
+    browser.wait_for("window.blocked.length >= 4")
+    expect(sorted(browser.run("window.blocked")),
+           ["connect-src", "img-src", "script-src-attr", "script-src-elem"], "what the policy has stopped")
+
+
+def fingers():
+    for width, height in ((360, 740), (768, 1024), (1280, 800)):
+        browser.resize(width, height)
+        expect(browser.run("document.documentElement.scrollWidth <= innerWidth"), True, f"no scrolling at {width}")
+        small = browser.run("[...document.querySelectorAll('button')].map(e => [e.getBoundingClientRect(), e])"
+                            ".filter(([r]) => r.width && (r.width < 44 || r.height < 44))"
+                            ".map(([, e]) => e.textContent || e.ariaLabel)")
+        expect(small, [], f"small buttons at {width}")
+
+
+def without_storage():
+    browser.call("Page.addScriptToEvaluateOnNewDocument",
+                 source="Object.defineProperty(window, 'localStorage', {get() { throw new Error('no'); }})")
+    browser.open(other)
+    expect("keeps nothing" in browser.run("document.getElementById('notice').textContent"), True,
+           "a word where nothing is kept")
+    browser.tap(box(0))
+    expect(crossed().count("x"), 1, "a box where nothing is kept")
+
+
+def make_pages(folder):
+    """The page, and one of another fleet with the same ships."""
+    tool, app, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:4])
+    own = folder / "app"
+    own.mkdir()
+    for file in app.iterdir():
+        if file.name != "images":
+            (own / file.name).symlink_to(file)
+    (own / "images").symlink_to(pictures / "images")
+    ships = [f"{name}={own}/ships/Sparrow-Toll.shp" for name in SHIPS]
+    pages = []
+    for fleet, count in (("<script>alert(1)</script>", 3), ("Other", 1), ("Other", 1)):
+        pages.append(str(folder / f"page{len(pages)}.html"))
+        subprocess.run([tool, own, pages[-1], fleet, *ships[:count]], check=True)
+    texts = [pathlib.Path(page).read_bytes() for page in pages]
+    expect(texts[1] == texts[2], True, "the same bytes twice")
+    return pages[:2]
+
+
+browser = Browser(768, 1024)
+try:
+    page, other = make_pages(pathlib.Path(browser.folder))
+    browser.open(page)
+    damage_boxes()
+    systems()
+    undo_and_turns()
+    files(after_reload())
+    paper()
+    fingers()
+    expect(browser.complaints, [], "complaints of the browser")
+    requests = [url for url in browser.requests if not url.startswith(("file:" + "//" + page, "data:", "blob:"))]
+    expect(requests, [], "requests")
+    strangers()
+    without_storage()
+    expect(browser.dialogs, [], "dialogs")
+except (AssertionError, RuntimeError) as error:
+    faults.append(str(error))
+finally:
+    browser.close()
+print("\n".join(faults) or "played")
+sys.exit(1 if faults else 0)
