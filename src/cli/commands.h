@@ -34,7 +34,7 @@ std::string figuresOf(const std::string& file, ShipClass& ship);
 inline constexpr OptionRow outOption = {
     .name = "-o",
     .value = "OUT",
-    .help = "Where to write; by default sheets to SHIP.bmp here, maps to standard output",
+    .help = "Where to write; by default sheets to SHIP.bmp here, all else to standard output",
     .check =
         [](std::string_view, const std::string& value) {
             if (value.empty()) {

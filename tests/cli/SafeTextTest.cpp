@@ -53,6 +53,7 @@ public:
         write("NAME.shp", "Ship Name: LINE\nDesigner Name: LINE\nSystem: GunLINE, 1\n"
                           "System: LONG, 1\nType: LINE\nLINE: 1\n");
         write("ships/badNAME.shp", "Mass: LINE\n");
+        write("NAME.json", "{\"LINE\": 1}");
         write("old.shp", "Mass: \x81\x8D\x1B\n");  // Windows-1252
         write("maps/NAME.map", "IMAGE: x.gif\nSIZE: 10\nFTL: (1,1)\n");
         write("badNAME.map", "IMAGE: LINE\nSIZE: LINE\nLINE: 1\nWEAP: (LINE,1,LINE)\nDCP: LONG\n");
@@ -101,6 +102,8 @@ constexpr const char* commandLines[] = {"report NAME.shp",
                                         "maps NAME.shp",
                                         "save NAME.shp NAME/none",
                                         "save NAME out",
+                                        "export NAME.shp",
+                                        "import NAME.json",
                                         "recovered",
                                         "recovered LONG out",
                                         "recovered NAME NAME/none",

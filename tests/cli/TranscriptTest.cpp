@@ -48,12 +48,12 @@ std::string played(const std::string& transcript) {
         if (!line.starts_with("$ ")) {
             continue;
         }
-        const std::string script =
-            captured.write("script", "cd " + folder.path().string() +
-                                         "\nAPP=" APP_FOLDER "\nHELLO=" CLI_WITH_HELLO
-                                         "\nMANUAL=" MANUAL "\nCOMPLETION=" COMPLETION "\n. " +
-                                         (transcripts / "prelude.sh").string() + '\n' +
-                                         std::string(line.substr(2)) + '\n');
+        const std::string script = captured.write(
+            "script", "cd " + folder.path().string() +
+                          "\nAPP=" APP_FOLDER "\nHELLO=" CLI_WITH_HELLO "\nMANUAL=" MANUAL
+                          "\nCOMPLETION=" COMPLETION "\nSOURCE=" SOURCE_FOLDER "\n. " +
+                          (transcripts / "prelude.sh").string() + '\n' +
+                          std::string(line.substr(2)) + '\n');
         const int status = std::system(
             ("bash " + script + " >" + output + " 2>" + errors + " </dev/null").c_str());
         text += marked(captured.read("output"), '>') + marked(captured.read("errors"), '!');

@@ -59,3 +59,14 @@ with_icon() {
     tool check weaps.dat | grep :3:
     mv weaps.before weaps.dat
 }
+
+# valid FILE...: the names of those that the schema of ships takes.
+valid() {
+    /usr/bin/python3 -c '
+import json, sys, jsonschema
+schema = json.load(open(sys.argv[1]))
+jsonschema.Draft202012Validator.check_schema(schema)
+ships = jsonschema.Draft202012Validator(schema)
+print(*[file for file in sys.argv[2:] if ships.is_valid(json.load(open(file)))])
+' "$SOURCE/docs/ship.schema.json" "$@"
+}
