@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -18,9 +17,9 @@ namespace {
 using Words = std::vector<std::string>;
 
 Options read(const Words& words) {
-    std::vector<const char*> arguments = {"fleetwright-cli"};
-    std::ranges::transform(words, std::back_inserter(arguments), &std::string::c_str);
-    return readOptions(commandRows(), static_cast<int>(arguments.size()), arguments.data());
+    Words line = {"fleetwright-cli"};
+    line.insert(line.end(), words.begin(), words.end());
+    return readOptions(commandRows(), line);
 }
 
 /// The options that were given, each value in the word of its option or in one of its own.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -16,6 +17,8 @@ struct FileStamp {
     /// Clocks of file systems are coarse: a file that was written just now can be written once more
     /// without a change of its stamp.
     bool isFresh = false;
+    /// How old a file is at least whose next change shows.
+    static constexpr std::chrono::seconds coarsest{2};
 
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };

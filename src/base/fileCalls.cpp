@@ -1,15 +1,9 @@
 #include "fileCalls.h"
 
+#include "entryCalls.h"
+
 #include <cerrno>
 #include <utility>
-
-#if __has_include(<unistd.h>)
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cstdio>
-#endif
 
 namespace fleetwright {
 
@@ -37,49 +31,6 @@ std::error_code unlessObjected(FileCall call, const fs::path& path, Call make) {
 
 fs::path orCurrent(const fs::path& folder) {
     return folder.empty() ? fs::path(".") : folder;
-}
-
-#if __has_include(<unistd.h>)
-
-std::error_code syncOpenFolder(const fs::path& folder) {
-    const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) {
-        if (errno != EACCES) {
-            return lastError();
-        }
-        sync();  // who may write there, but not look, has everything synced instead
-        return {};
-    }
-    // Some file systems have nothing to sync.
-    const std::error_code error = errorUnless(fsync(descriptor) == 0 || errno == EINVAL);
-    close(descriptor);
-    return error;
-}
-
-#else
-
-std::error_code syncOpenFolder(const fs::path&) {
-    return {};
-}
-
-#endif
-
-std::error_code renamed(const fs::path& from, const fs::path& to) {
-    std::error_code error;
-    fs::rename(from, to, error);
-    return error;
-}
-
-/// Whether the system can rename a file without the danger that it replaces another; if so, it has.
-bool renamesToNew([[maybe_unused]] const fs::path& from, [[maybe_unused]] const fs::path& to,
-                  [[maybe_unused]] std::error_code& error) {
-#ifdef RENAME_NOREPLACE
-    error =
-        errorUnless(renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0);
-    return error != std::errc::invalid_argument && error != std::errc::function_not_supported;
-#else
-    return false;
-#endif
 }
 
 std::error_code andSync(std::error_code error, const fs::path& entry) {
@@ -115,7 +66,7 @@ std::error_code whyNoFile(const fs::file_status& status) {
 
 std::error_code renameFile(const fs::path& from, const fs::path& to) {
     return unlessObjected(FileCall::Rename, to,
-                          [&](std::error_code& error) { error = renamed(from, to); });
+                          [&](std::error_code& error) { error = entryCalls::rename(from, to); });
 }
 
 std::error_code renameForGood(const fs::path& from, const fs::path& to) {
@@ -126,27 +77,20 @@ std::error_code renameForGood(const fs::path& from, const fs::path& to) {
 std::error_code renameToNew(const fs::path& from, const fs::path& to) {
     const std::error_code error =
         unlessObjected(FileCall::Rename, to, [&](std::error_code& notRenamed) {
-            if (!renamesToNew(from, to, notRenamed)) {
+            if (!entryCalls::renamesToNew(from, to, notRenamed)) {
                 notRenamed = fs::exists(fs::symlink_status(to, notRenamed))
                                  ? std::make_error_code(std::errc::file_exists)
-                                 : renamed(from, to);
+                                 : entryCalls::rename(from, to);
             }
         });
     const std::error_code synced = andSync(error, to);
     return synced || from.parent_path() == to.parent_path() ? synced : andSync(synced, from);
 }
 
-std::error_code exchangeForGood([[maybe_unused]] const fs::path& one, const fs::path& other) {
+std::error_code exchangeForGood(const fs::path& one, const fs::path& other) {
     const std::error_code error =
         unlessObjected(FileCall::Exchange, other, [&](std::error_code& notExchanged) {
-            notExchanged = std::make_error_code(std::errc::function_not_supported);
-#ifdef RENAME_EXCHANGE
-            if (renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0) {
-                notExchanged.clear();
-            } else if (errno != EINVAL) {  // file systems that cannot do it say so with that
-                notExchanged = lastError();
-            }
-#endif
+            notExchanged = entryCalls::exchange(one, other);
         });
     const std::error_code synced = andSync(error, other);
     return synced || one.parent_path() == other.parent_path() ? synced : andSync(synced, one);
@@ -175,15 +119,9 @@ std::error_code makeNewFolder(const fs::path& folder) {
 }
 
 std::error_code makeNewPrivateFolder(const fs::path& folder) {
-#if __has_include(<unistd.h>)
     return unlessObjected(FileCall::MakeFolder, folder, [&](std::error_code& error) {
-        if (mkdir(folder.c_str(), S_IRWXU) != 0) {
-            error = lastError();
-        }
+        error = entryCalls::makePrivateFolder(folder);
     });
-#else
-    return makeNewFolder(folder);
-#endif
 }
 
 std::error_code makeLink(const fs::path& to, const fs::path& link) {
@@ -203,7 +141,7 @@ std::error_code setFolderMode(const fs::path& folder, fs::perms mode) {
 
 std::error_code syncFolder(const fs::path& folder) {
     return unlessObjected(FileCall::SyncFolder, folder, [&](std::error_code& error) {
-        error = syncOpenFolder(orCurrent(folder));
+        error = entryCalls::syncFolder(orCurrent(folder));
     });
 }
 

@@ -3,16 +3,11 @@
 #include "Error.h"
 #include "fileCalls.h"
 #include "text.h"
+#include "userPlaces.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
-
-#if __has_include(<pwd.h>)
-#include <pwd.h>
-#include <unistd.h>
-#endif
 
 namespace fleetwright {
 
@@ -84,33 +79,6 @@ bool isLinkedOut(const fs::path& file, std::ptrdiff_t parts) {
     const fs::path inside = fs::canonical(folder.empty() ? "." : folder, unknown);
     const auto [left, other] = std::mismatch(inside.begin(), inside.end(), end.begin(), end.end());
     return !end.empty() && left != inside.end();
-}
-
-fs::path variable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value == nullptr ? fs::path() : fs::path(value);
-}
-
-fs::path homeFolder() {
-    fs::path home = variable("HOME");
-#if __has_include(<pwd.h>)
-    if (home.empty()) {
-        const passwd* const user = getpwuid(getuid());
-        home = user == nullptr ? fs::path() : fs::path(user->pw_dir);
-    }
-#endif
-    if (home.empty()) {
-        throw FileError("~", "the user has no home folder");
-    }
-    return home;
-}
-
-/// The program's folder in one that a variable of the desktop names, or else in one below the
-/// user's home.
-fs::path userFolder(const char* name, const char* belowHome) {
-    const fs::path folder = variable(name);
-    // The desktop's rule: a relative path there counts for nothing.
-    return (folder.is_absolute() ? folder : homeFolder() / belowHome) / "FleetWright";
 }
 
 }  // namespace
@@ -205,11 +173,11 @@ fs::path fileBelow(const fs::path& folder, std::string_view name) {
 }
 
 fs::path userDataFolder() {
-    return userFolder("XDG_DATA_HOME", ".local/share");
+    return userPlaces::data() / "FleetWright";
 }
 
 fs::path userCacheFolder() {
-    return userFolder("XDG_CACHE_HOME", ".cache");
+    return userPlaces::cache() / "FleetWright";
 }
 
 std::string fileNameOf(const std::string& name) {
@@ -235,16 +203,16 @@ fs::path putAsideFolder() {
     return userDataFolder() / "recovered";
 }
 
-fs::path executableFolder(const char* argv0) {
-    std::error_code error;
-    fs::path executable = fs::read_symlink("/proc/self/exe", error);
-    if (error) {
-        executable = argv0;
+fs::path executableFolder(const std::string& word) {
+    fs::path executable = userPlaces::executable();
+    if (executable.empty()) {
+        executable = nativePath(word);
         // A bare name was found somewhere else than here.
         if (!executable.has_parent_path()) {
             throw FileError(executable, "the folder of the program cannot be found");
         }
-        executable = fs::absolute(executable, error);
+        std::error_code unknown;
+        executable = fs::absolute(executable, unknown);
     }
     return executable.parent_path();
 }

@@ -55,9 +55,9 @@ std::filesystem::path userCacheFolder();
 /// The folder in the user's data for what is put aside, so that it is not lost. Throws as above.
 std::filesystem::path putAsideFolder();
 
-/// The folder of the running program. `argv0`, the name that it was called by, serves where the
+/// The folder of the running program. `word`, the name that it was called by, serves where the
 /// system does not tell; throws FileError if it has no folder, since what lies in the current one
 /// is not the program's.
-std::filesystem::path executableFolder(const char* argv0);
+std::filesystem::path executableFolder(const std::string& word);
 
 }  // namespace fleetwright

@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "TemporaryFile.h"
+#include "entryCalls.h"
 #include "fileCalls.h"
 #include "fileTraits.h"
 #include "overwriteFile.h"
@@ -14,11 +15,6 @@
 #include <mutex>
 #include <set>
 #include <system_error>
-
-#if __has_include(<unistd.h>)
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 namespace fleetwright {
 
@@ -37,20 +33,14 @@ void failOn(const std::error_code& error, const fs::path& target) {
 }
 
 /// Why an existing file may not be written to, if that is so.
-std::error_code writeProtection([[maybe_unused]] const fs::path& file,
-                                const fs::file_status& status) {
+std::error_code writeProtection(const fs::path& file, const fs::file_status& status) {
     constexpr fs::perms anyWrite =
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((status.permissions() & anyWrite) == fs::perms::none) {
         // Protected, even from those who may do anything.
         return std::make_error_code(std::errc::permission_denied);
     }
-#if __has_include(<unistd.h>)
-    if (faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
-        return lastError();
-    }
-#endif
-    return {};
+    return entryCalls::mayWrite(file);
 }
 
 bool isPutAsideFolder(const fs::path& folder) {
@@ -138,6 +128,9 @@ std::uintmax_t otherNames(const fs::path& target) {
 }  // namespace
 
 void saveFile(const fs::path& target, std::string_view contents) {
+    if (const std::string_view why = entryCalls::whyNoName(target); !why.empty()) {
+        fail(target, std::string(why));
+    }
     const fs::path file = linkTarget(target);
     std::error_code unknown;
     if (fs::is_symlink(file, unknown)) {

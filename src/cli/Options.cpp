@@ -9,6 +9,8 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <iterator>
+#include <ranges>
 
 namespace fleetwright {
 
@@ -202,18 +204,18 @@ std::string Options::value(std::string_view option) const {
     return row == command->options.end() ? std::string() : std::string(row->byDefault);
 }
 
-Options readOptions(CommandRows commands, int argc, const char* const* argv) {
+Options readOptions(CommandRows commands, const std::vector<std::string>& line) {
     Options options;
     try {
-        std::vector<std::string> words(argv + 1, argv + argc);
-        std::ranges::transform(words, words.begin(), withMark);
+        std::vector<std::string> words;
+        std::ranges::transform(line | std::views::drop(1), std::back_inserter(words), withMark);
         readWords(readCommand(commands, std::move(words), options), options);
     } catch (const Answer& answer) {
         options.command = nullptr;
         options.answer = answer.text;
         return options;
     }
-    options.programFolder = executableFolder(argv[0]);
+    options.programFolder = executableFolder(line.empty() ? "" : line.front());
     if (options.appFolder.empty()) {
         options.appFolder = applicationFolder(options.programFolder);
     }

@@ -40,7 +40,9 @@ public:
     NoCommandError() : UsageError("no command") {}
 };
 
-/// Reads the command line of a tool that has these commands. Throws UsageError.
-Options readOptions(std::span<const CommandRow* const> commands, int argc, const char* const* argv);
+/// Reads the command line, the program's own word in front, of a tool that has these commands.
+/// Throws UsageError.
+Options readOptions(std::span<const CommandRow* const> commands,
+                    const std::vector<std::string>& line);
 
 }  // namespace fleetwright

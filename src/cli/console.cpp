@@ -1,10 +1,7 @@
 #include "console.h"
 
+#include "terminal.h"
 #include "text.h"
-
-#if __has_include(<unistd.h>)
-#include <unistd.h>
-#endif
 
 namespace fleetwright {
 
@@ -16,14 +13,6 @@ std::string wholeLine(std::string_view text) {
 }
 
 }  // namespace
-
-bool isTerminal([[maybe_unused]] std::FILE* stream) {
-#if __has_include(<unistd.h>)
-    return isatty(fileno(stream)) != 0;
-#else
-    return false;
-#endif
-}
 
 void printResults(std::string_view text) {
     static const bool isShown = isTerminal(stdout);

@@ -1,13 +1,9 @@
 #pragma once
 
-#include <cstdio>
 #include <string>
 #include <string_view>
 
 namespace fleetwright {
-
-/// Whether somebody looks at what is written to `stream`.
-bool isTerminal(std::FILE* stream);
 
 /// Prints results. Their bytes go into a file or a pipe as they are; on a terminal nothing in them
 /// does more than show.

@@ -3,17 +3,19 @@
 #include "console.h"
 #include "helpText.h"
 #include "saveFile.h"
+#include "terminal.h"
 
 #include <cstdio>
 #include <exception>
 #include <string>
+#include <vector>
 
 namespace {
 
 using namespace fleetwright;
 
-int run(int argc, char** argv) {
-    const Options options = readOptions(commandRows(), argc, argv);
+int run(const std::vector<std::string>& commandLine) {
+    const Options options = readOptions(commandRows(), commandLine);
     if (options.command != nullptr) {
         return options.command->run(options);
     }
@@ -31,7 +33,7 @@ int main(int argc, char** argv) {
     letFileSizeLimitFail();
     int status = SomeRefused;
     try {
-        status = run(argc, argv);
+        status = run(commandLine(argc, argv));
     } catch (const NoCommandError& error) {
         complainOf(error);
         std::fputs(helpText(commandRows()).c_str(), stderr);

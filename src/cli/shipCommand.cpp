@@ -6,6 +6,7 @@
 #include "console.h"
 #include "inOrder.h"
 #include "paths.h"
+#include "terminal.h"
 
 #include <cstdio>
 #include <thread>

@@ -4,11 +4,7 @@
 
 #include <system_error>
 
-#if __has_include(<dlfcn.h>)
 #include <dlfcn.h>
-#else
-#include <windows.h>
-#endif
 
 namespace fleetwright {
 
@@ -29,8 +25,6 @@ bool isPlainFile(const std::filesystem::path& file) {
 
 }  // namespace
 
-#if __has_include(<dlfcn.h>)
-
 void* loadModule(const std::filesystem::path& file) {
     // Modules of ours are bound at once as they are linked; the large libraries behind them are
     // loaded in less time if their calls are not.
@@ -46,25 +40,5 @@ void freeModule(void* module) {
 void* moduleSymbol(void* module, const char* name) {
     return module == nullptr ? nullptr : dlsym(module, name);
 }
-
-#else
-
-void* loadModule(const std::filesystem::path& file) {
-    return isPlainFile(file) ? LoadLibraryW(placeOf(file).c_str()) : nullptr;
-}
-
-void freeModule(void* module) {
-    if (module != nullptr) {
-        FreeLibrary(static_cast<HMODULE>(module));
-    }
-}
-
-void* moduleSymbol(void* module, const char* name) {
-    return module == nullptr
-               ? nullptr
-               : reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module), name));
-}
-
-#endif
 
 }  // namespace fleetwright

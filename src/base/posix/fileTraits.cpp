@@ -5,10 +5,8 @@
 
 #include <optional>
 
-#if __has_include(<unistd.h>)
 #include <sys/stat.h>
 #include <unistd.h>
-#endif
 #if __has_include(<sys/xattr.h>) && defined(__linux__)
 #include <sys/xattr.h>
 
@@ -107,8 +105,6 @@ std::error_code copyAttributes(const OpenFile&, OpenFile&) {
 
 #endif
 
-#if __has_include(<unistd.h>)
-
 /// Gives a file one of its two owners, unless it has it already.
 std::error_code giveTo(OpenFile& file, FileCall call, uid_t owner, gid_t group, bool hasIt) {
     if (hasIt) {
@@ -136,16 +132,6 @@ std::error_code copyOwnersAndMode(const OpenFile& from, OpenFile& to) {
     const bool hasMode = given.st_mode == wanted.st_mode;
     return error || hasMode ? error : to.setMode(fs::perms(wanted.st_mode) & fs::perms::mask);
 }
-
-#else
-
-std::error_code copyOwnersAndMode(const OpenFile& from, OpenFile& to) {
-    std::error_code error;
-    const fs::file_status status = fs::status(from.path(), error);
-    return error ? error : to.setMode(status.permissions());
-}
-
-#endif
 
 }  // namespace
 

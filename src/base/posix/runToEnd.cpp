@@ -1,18 +1,14 @@
 #include "runToEnd.h"
 
-#if __has_include(<spawn.h>)
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
-#endif
 
 namespace fleetwright {
 
 namespace fs = std::filesystem;
-
-#if __has_include(<spawn.h>)
 
 bool runToEnd(const fs::path& program, const std::string& argument, const fs::path& folder) {
     // Found from here, and not from the folder in which it is to run.
@@ -32,13 +28,5 @@ bool runToEnd(const fs::path& program, const std::string& argument, const fs::pa
     }
     return ended >= 0 && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
-
-#else
-
-bool runToEnd(const fs::path&, const std::string&, const fs::path&) {
-    return false;
-}
-
-#endif
 
 }  // namespace fleetwright

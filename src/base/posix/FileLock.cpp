@@ -2,18 +2,14 @@
 
 #include "fileCalls.h"
 
-#if __has_include(<unistd.h>)
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#endif
 
 namespace fleetwright {
-
-#if __has_include(<unistd.h>)
 
 namespace {
 
@@ -49,13 +45,5 @@ FileLock::~FileLock() {
         close(m_file);
     }
 }
-
-#else
-
-FileLock::FileLock(const std::filesystem::path&, IfTaken) {}
-
-FileLock::~FileLock() = default;
-
-#endif
 
 }  // namespace fleetwright

@@ -1,0 +1,17 @@
+# The toolchain for 64-bit Windows on Debian: MinGW-w64 with POSIX threads.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+# Where tools/windows/build-libraries keeps what Debian does not package for this system.
+if(DEFINED ENV{XDG_CACHE_HOME})
+  set(windows_libraries $ENV{XDG_CACHE_HOME}/fleetwright/windows/root)
+else()
+  set(windows_libraries $ENV{HOME}/.cache/fleetwright/windows/root)
+endif()
+set(CMAKE_FIND_ROOT_PATH ${windows_libraries} /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)

@@ -1,0 +1,85 @@
+#include "entryCalls.h"
+
+#include "paths.h"
+#include "systemError.h"
+#include "text.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace fleetwright::entryCalls {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::error_code errorUnlessMoved(BOOL isMoved) {
+    return isMoved != 0 ? std::error_code() : systemError();
+}
+
+/// Names that belong to devices, with whatever ending.
+bool isDevice(const fs::path& name) {
+    std::string stem = toCapitals(pathText(name));
+    stem = stem.substr(0, stem.find('.'));
+    stem.resize(stem.find_last_not_of(' ') + 1);
+    constexpr std::string_view devices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+    if (std::find(std::begin(devices), std::end(devices), stem) != std::end(devices)) {
+        return true;
+    }
+    const bool hasNumber = stem.size() == 4 && stem[3] >= '1' && stem[3] <= '9';
+    return hasNumber && (stem.starts_with("COM") || stem.starts_with("LPT"));
+}
+
+}  // namespace
+
+std::error_code rename(const fs::path& from, const fs::path& to) {
+    // Written through: nothing else makes a name outlast a power cut here.
+    return errorUnlessMoved(
+        MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+}
+
+bool renamesToNew(const fs::path& from, const fs::path& to, std::error_code& error) {
+    error = errorUnlessMoved(MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH));
+    return true;
+}
+
+std::error_code exchange(const fs::path&, const fs::path&) {
+    return std::make_error_code(std::errc::function_not_supported);
+}
+
+std::error_code makePrivateFolder(const fs::path& folder) {
+    // It has its access list from the user's own folder, in which it stands.
+    return CreateDirectoryW(folder.c_str(), nullptr) != 0 ? std::error_code() : systemError();
+}
+
+std::error_code syncFolder(const fs::path&) {
+    return {};  // renames are written through, and the journal of the file system does the rest
+}
+
+std::error_code mayWrite(const fs::path& file) {
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        return systemError();
+    }
+    return (attributes & FILE_ATTRIBUTE_READONLY) == 0
+               ? std::error_code()
+               : std::make_error_code(std::errc::permission_denied);
+}
+
+const char* whyNoName(const fs::path& file) {
+    const std::string name = pathText(file.filename());
+    if (isDevice(file.filename())) {
+        return "Windows keeps this name for a device";
+    }
+    if (name.find_first_of("<>:\"|?*") != std::string::npos) {
+        return "on Windows a name has none of < > : \" | ? *";
+    }
+    return name.ends_with('.') || name.ends_with(' ')
+               ? "on Windows no name ends in a dot or a blank"
+               : "";
+}
+
+}  // namespace fleetwright::entryCalls

@@ -1,0 +1,16 @@
+#pragma once
+
+// Errors of Windows' own calls, in the words that all of the program uses.
+
+#include <system_error>
+
+namespace fleetwright {
+
+/// The last error of this thread, as one of the generic ones: so its text is in the language of the
+/// program, and comparing it with `std::errc` works.
+std::error_code systemError();
+
+/// The same for the callers that look at `errno`, which it sets.
+void setErrno();
+
+}  // namespace fleetwright
