@@ -174,20 +174,26 @@ class Game {
         this.changed(words);
     }
 
+    // Takes the last step back, and returns what of the game has changed by that; null if there is
+    // no such step.
     undo() {
-        if (this.canUndo) {
-            const step = this.steps[--this.done];
-            this.put(step.before);
-            this.changed('Taken back: ' + step.words);
+        if (!this.canUndo) {
+            return null;
         }
+        const step = this.steps[--this.done];
+        this.put(step.before);
+        this.changed('Taken back: ' + step.words);
+        return step.before;
     }
 
     redo() {
-        if (this.canRedo) {
-            const step = this.steps[this.done++];
-            this.put(step.after);
-            this.changed('Done again: ' + step.words);
+        if (!this.canRedo) {
+            return null;
         }
+        const step = this.steps[this.done++];
+        this.put(step.after);
+        this.changed('Done again: ' + step.words);
+        return step.after;
     }
 
     // Notes are no steps: their box has its own undo.

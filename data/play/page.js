@@ -60,8 +60,8 @@ class Page {
         const acts = {
             turnBack: () => this.turnTo(this.game.state.turn - 1),
             turnOn: () => this.turnTo(this.game.state.turn + 1),
-            undo: () => this.game.undo(),
-            redo: () => this.game.redo(),
+            undo: () => this.lookAt(this.game.undo()),
+            redo: () => this.lookAt(this.game.redo()),
             more: () => this.openMenu(byId('menu').hidden),
             save: () => this.save(),
             load: () => byId('file').click(),
@@ -145,7 +145,14 @@ class Page {
         const key = event.key.toLowerCase();
         if (key === 'z' || key === 'y') {
             event.preventDefault();
-            key === 'y' || event.shiftKey ? this.game.redo() : this.game.undo();
+            this.lookAt(key === 'y' || event.shiftKey ? this.game.redo() : this.game.undo());
+        }
+    }
+
+    // Shows the ship that a part of the game is about.
+    lookAt(part) {
+        if (part && 'ship' in part && part.ship !== this.current) {
+            this.choosePanel(part.ship);
         }
     }
 

@@ -47,6 +47,7 @@ class DamageTrack {
         this.element = element('div', {class: 'track'});
         sheet.rows.forEach((length, row) => {
             const boxes = element('div', {class: 'row', role: 'group', 'aria-label': 'Row ' + (row + 1)});
+            boxes.style.setProperty('--boxes', String(length));
             for (let i = 0; i < length; ++i) {
                 const box = this.boxes.length;
                 const made = button({class: 'box', 'aria-pressed': 'false', tabindex: '-1',

@@ -33,6 +33,9 @@ function isLost(sheet, marks) {
 }
 
 function damageWords(sheet, marks) {
+    if (sheet.boxCount === 0) {
+        return 'She has no damage points';
+    }
     const left = sheet.boxCount - marks.damage.length;
     if (isLost(sheet, marks)) {
         return 'Lost: no damage point left';

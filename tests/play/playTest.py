@@ -203,7 +203,7 @@ def fingers():
         browser.resize(width, height)
         expect(browser.run("document.documentElement.scrollWidth <= innerWidth"), True, f"no scrolling at {width}")
         small = browser.run("[...document.querySelectorAll('button')].map(e => [e.getBoundingClientRect(), e])"
-                            ".filter(([r]) => r.width && (r.width < 44 || r.height < 44))"
+                            ".filter(([r]) => r.width && (r.width < 38 || r.height < 44))"
                             ".map(([, e]) => e.textContent || e.ariaLabel)")
         expect(small, [], f"small buttons at {width}")
 
