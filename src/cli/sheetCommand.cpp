@@ -1,7 +1,7 @@
 #include "commands.h"
 
-#include "DrawingPack.h"
 #include "Error.h"
+#include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "carriedShips.h"
@@ -176,28 +176,13 @@ int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& 
 }
 
 int runSheet(const Options& options) {
-    const fs::path images = options.appFolder / "images";
-    if (!fs::is_directory(findFile(images))) {
-        throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
-    }
-    ToolPictures pictures(options.programFolder);
-    if (sheetOut(options) == SheetOut::Document) {
-        pictures.prepareForPdf();
-    }
-    const DrawingPack drawings(drawingsFile(options.appFolder));
+    const bool isDocument = sheetOut(options) == SheetOut::Document;
     int status = Done;
-    const LoadedMaps maps = mapsOf(options, status);
-    // The outline of a single ship is read once in any case, and is the largest picture.
-    const bool isOne = options.words.size() == 1;
-    const SheetTools tools{options.appFolder,
-                           picturesReadOnce(options.appFolder, pictures),
-                           isOne ? outlinesIn(pictures) : outlinesReadOnce(pictures),
-                           pictures,
-                           drawings,
-                           maps};
-    const int drawn = sheetOut(options) == SheetOut::Document
-                          ? drawDocument(options, tools, pictures)
-                          : drawFiles(options, tools);
+    SheetSupplies supplies(options, options.words.size(),
+                           isDocument ? SheetSupplies::Kind::Pdf : SheetSupplies::Kind::Other,
+                           status);
+    const int drawn = isDocument ? drawDocument(options, supplies.tools, supplies.pictures)
+                                 : drawFiles(options, supplies.tools);
     return std::max(status, drawn);
 }
 

@@ -1,0 +1,37 @@
+#include "SheetSupplies.h"
+
+#include "Error.h"
+#include "commands.h"
+#include "paths.h"
+
+namespace fleetwright {
+
+namespace {
+
+/// Pictures for documents of this kind.
+ToolPictures picturesFor(const Options& options, SheetSupplies::Kind kind) {
+    const std::filesystem::path images = options.appFolder / "images";
+    if (!std::filesystem::is_directory(findFile(images))) {
+        throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
+    }
+    ToolPictures pictures(options.programFolder);
+    if (kind == SheetSupplies::Kind::Pdf) {
+        pictures.prepareForPdf();
+    }
+    return pictures;
+}
+
+}  // namespace
+
+SheetSupplies::SheetSupplies(const Options& options, std::size_t sheets, Kind kind, int& status)
+    : pictures(picturesFor(options, kind)), m_drawings(drawingsFile(options.appFolder)),
+      m_maps(mapsOf(options, status)),
+      // The outline of a single ship is read once in any case, and is the largest picture.
+      tools{options.appFolder,
+            picturesReadOnce(options.appFolder, pictures),
+            sheets == 1 ? outlinesIn(pictures) : outlinesReadOnce(pictures),
+            pictures,
+            m_drawings,
+            m_maps} {}
+
+}  // namespace fleetwright
