@@ -8,7 +8,19 @@
 
 namespace fleetwright {
 
+void checkCanBePlayed(const Fleet& fleet) {
+    std::size_t count = 0;
+    for (const FleetShip& ship : fleet.ships) {
+        count += std::size_t(ship.count);
+    }
+    if (count > mostPlayShips) {
+        throw Error("a page to play with serves " + std::to_string(mostPlayShips) +
+                    " ships at the most, and the fleet has " + std::to_string(count));
+    }
+}
+
 PlayFleet playFleet(const Fleet& fleet, std::vector<std::optional<VectorSheet>> sheets) {
+    checkCanBePlayed(fleet);
     PlayFleet play{fleet.name, fleet.player, fleet.notes, {}, {}};
     for (std::size_t i = 0; i < fleet.ships.size(); ++i) {
         if (!sheets[i]) {
@@ -16,10 +28,6 @@ PlayFleet playFleet(const Fleet& fleet, std::vector<std::optional<VectorSheet>> 
         }
         const FleetShip& ship = fleet.ships[i];
         const std::string& shipName = sheets[i]->facts.shipName;
-        if (play.ships.size() + std::size_t(ship.count) > mostPlayShips) {
-            throw Error("a page to play with serves " + std::to_string(mostPlayShips) +
-                        " ships at the most");
-        }
         for (std::size_t one = 0; one < std::size_t(ship.count); ++one) {
             const std::string number = ship.count > 1 ? ' ' + std::to_string(one + 1) : "";
             play.ships.push_back(

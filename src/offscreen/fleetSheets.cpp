@@ -1,0 +1,39 @@
+#include "fleetSheets.h"
+
+#include "Error.h"
+#include "ShipOnScreen.h"
+#include "drawnSheet.h"
+#include "fleetPaths.h"
+
+#include <map>
+
+namespace fleetwright {
+
+std::vector<std::optional<VectorSheet>>
+fleetSheets(const Fleet& fleet, const std::filesystem::path& folder, const CatalogueFile& catalogue,
+            const SheetTools& tools,
+            const std::function<void(const std::string& ship, const Error& why)>& refuse) {
+    std::vector<std::optional<VectorSheet>> sheets;
+    std::map<std::string, std::size_t> known;
+    for (const FleetShip& ship : fleet.ships) {
+        const std::string path = shipPath(folder, ship);
+        const auto [first, isNew] = known.try_emplace(path, sheets.size());
+        if (!isNew) {
+            sheets.push_back(sheets[first->second]);
+            continue;
+        }
+        std::optional<VectorSheet>& sheet = sheets.emplace_back();
+        ShipOnScreen screen(tools.appFolder, catalogue);
+        if (screen.load(path)) {
+            continue;
+        }
+        try {
+            sheet = recordedSheet(screen, tools, {});
+        } catch (const Error& error) {
+            refuse(path, error);
+        }
+    }
+    return sheets;
+}
+
+}  // namespace fleetwright
