@@ -6,6 +6,7 @@
 #include "SSDMaps.h"
 #include "Silhouette.h"
 #include "bestMap.h"
+#include "damageBoxes.h"
 #include "paperWorld.h"
 #include "paths.h"
 #include "scaledDrawing.h"
@@ -13,7 +14,9 @@
 #include "sheetWorld.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <string>
 
 using namespace fleetwright;
 
@@ -96,6 +99,27 @@ void expectAddsUp(const std::vector<LegendRow>& legend, const ShipClass& ship) {
     EXPECT_EQ(mass, ship.hullFigures().freeMass);
 }
 
+/// Each picture is a piece of the system whose picture it is, and each damage point has its box.
+void expectKnowsItsPlaces(const VectorSheet& sheet) {
+    const std::vector<Box> boxes = damageBoxes(sheet);
+    const SheetRecord::Paste& track = sheet.record.pastes.at(0);
+    const Box ink = inkOf(track.picture);
+    ASSERT_EQ(std::ssize(boxes), sheet.facts.damagePoints);
+    EXPECT_EQ(boxes.back().y + boxes.back().height, track.y + ink.height);
+    EXPECT_EQ(boxes.front().x, track.x);
+    std::map<std::string, std::int32_t> pieces;
+    for (const SheetRecord::Paste& paste : sheet.record.pastes) {
+        ++pieces[paste.system];
+        const auto row = std::ranges::find(sheet.facts.legend, paste.system, &LegendRow::name);
+        const bool isBlank = paste.picture.drawing->ink.width == 0;
+        ASSERT_EQ(row != sheet.facts.legend.end(), !isBlank && &paste != &track) << paste.system;
+        EXPECT_TRUE(paste.system.empty() || row->picture.drawing == paste.picture.drawing);
+    }
+    for (const LegendRow& row : sheet.facts.legend) {
+        EXPECT_TRUE(row.arcs.empty() || pieces[row.name] == row.count) << row.name;
+    }
+}
+
 }  // namespace
 
 TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
@@ -122,6 +146,7 @@ TEST(DeliveredSheets, AreLargeEnoughAndWhole) {
             shownShip(ship), rowsOf(ship), *map, {outlinesIn(files), images, drawings}));
         EXPECT_EQ(sheet.record.pastes.at(0).width, room.width) << "no damage track";
         expectAddsUp(sheet.facts.legend, ship);
+        expectKnowsItsPlaces(sheet);
         expectGood(sheet, files.load(map->outlineFile()),
                    damageTrack(ship.g_iDP, rows, room).side - 1);
     }
