@@ -29,7 +29,7 @@ endfunction()
 
 set(data_folder ${CMAKE_SOURCE_DIR}/data)
 file(GLOB_RECURSE delivered_data CONFIGURE_DEPENDS RELATIVE ${data_folder}
-     ${data_folder}/weaps.dat ${data_folder}/ships/*)
+     ${data_folder}/weaps.dat ${data_folder}/fleets/* ${data_folder}/ships/*)
 list(TRANSFORM delivered_data PREPEND ${data_folder}/ OUTPUT_VARIABLE data_sources)
 fleetwright_deliver(application_data SOURCE ${data_folder} FILES ${delivered_data}
                     DEPENDS ${data_sources})

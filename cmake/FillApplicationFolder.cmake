@@ -15,7 +15,7 @@ if(EXISTS ${COPIED})
   endforeach()
 endif()
 
-file(MAKE_DIRECTORY ${TARGET}/ships ${TARGET}/maps ${TARGET}/shipimages ${TARGET}/ssds)
+file(MAKE_DIRECTORY ${TARGET}/fleets ${TARGET}/ships ${TARGET}/maps ${TARGET}/shipimages ${TARGET}/ssds)
 foreach(name IN LISTS wanted)
   file(COPY_FILE ${SOURCE}/${name} ${TARGET}/${name} ONLY_IF_DIFFERENT)
 endforeach()

@@ -3,6 +3,7 @@
 #include "CommandRow.h"
 #include "SSDMaps.h"
 #include "ShipClass.h"
+#include "inOrder.h"
 
 #include <functional>
 #include <string>
@@ -22,6 +23,11 @@ enum class RefusedLines { InOutput, AsComplaints };
 int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t index)>& taken = {});
+
+/// Works on the inputs 0 to `count` - 1, several at a time, prints their results in their order,
+/// and shows how far it has come. Returns an ExitStatus.
+int printInOrder(std::size_t count, const std::function<Result(std::size_t)>& work,
+                 const std::function<void(std::size_t index)>& taken = {});
 
 /// The maps of the application folder. Those that cannot be used are named on standard error, and
 /// `status` becomes SomeRefused.

@@ -120,7 +120,13 @@ constexpr KeyRow<Fleet> fleetRows[] = {
 
 constexpr KeyRow<FleetShip> shipRows[] = {
     {.key = "ship",
-     .take = [](FleetShip& ship, const std::string& value, bool) { ship.file = value; },
+     .take =
+         [](FleetShip& ship, const std::string& value, bool) {
+             ship.file = value;
+             if (value.empty()) {
+                 throw Error("names no ship");
+             }
+         },
      .values = [](const FleetShip& ship) { return Values{oneLine(ship.file)}; }},
     {.key = "count",
      .take = [](FleetShip& ship, const std::string& value,

@@ -15,7 +15,7 @@ bool isCode(const std::string& file) {
 }
 
 std::string shipPath(const fs::path& fleetFolder, const FleetShip& ship) {
-    if (isCode(ship.file)) {
+    if (isCode(ship.file) || ship.file.empty()) {
         return ship.file;
     }
     std::string name = ship.file;

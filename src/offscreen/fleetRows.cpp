@@ -10,6 +10,9 @@ namespace fleetwright {
 
 FleetRow fleetRow(ShipOnScreen& screen, const std::string& ship) {
     FleetRow row;
+    if (ship.empty()) {
+        return row;  // whoever has read the fleet has said so
+    }
     try {
         row.fingerprint = fingerprint(readShip(nativePath(ship)).text);
     } catch (const Error&) {

@@ -5,7 +5,7 @@
 namespace fleetwright {
 
 void takeLeftoversAway(const std::filesystem::path& appFolder) {
-    for (const char* const folder : {"", "ships", "maps", "ssds", "shipimages"}) {
+    for (const char* const folder : {"", "fleets", "ships", "maps", "ssds", "shipimages"}) {
         TemporaryFile::takeLeftOnesAway(appFolder / folder);
     }
 }
