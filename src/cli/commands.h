@@ -36,6 +36,9 @@ LoadedMaps mapsOf(const Options& options, int& status);
 /// One ship's JSON object, without a line end.
 std::string figuresOf(const std::string& file, ShipClass& ship);
 
+/// The option of commands that have results for programs as well.
+inline constexpr OptionRow jsonOption = {.name = "--json", .help = "As JSON, for other programs"};
+
 /// The option of commands that write files.
 inline constexpr OptionRow outOption = {
     .name = "-o",

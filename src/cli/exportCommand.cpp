@@ -38,7 +38,7 @@ int runExport(const Options& options) {
 }  // namespace
 
 constexpr OptionRow exportOptions[] = {
-    {.name = "--json", .help = "As JSON, which is the only format so far"},
+    jsonOption,
     outOption,
 };
 

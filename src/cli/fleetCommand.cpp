@@ -104,7 +104,7 @@ int runFleet(const Options& options) {
 }  // namespace
 
 constexpr OptionRow fleetOptions[] = {
-    {.name = "--json", .help = "Print one JSON object instead of a table"},
+    jsonOption,
 };
 
 extern const CommandRow fleetCommand = {
