@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include "console.h"
+#include "terminal.h"
 
 #include <cstdio>
 #include <thread>

@@ -4,7 +4,6 @@
 #include "Error.h"
 #include "ShipOnScreen.h"
 #include "paths.h"
-#include "terminal.h"
 
 namespace fleetwright {
 
