@@ -145,10 +145,14 @@ void FindPanel::showTree(const TreeView::View& view) {
 }
 
 void FindPanel::end() {
-    if (m_before && m_status.text() == m_said) {
+    if (!m_before) {
+        return;
+    }
+    if (m_status.text() == m_said) {
         window().say("");
     }
     m_before.reset();
+    m_names->find("");  // what was found needs no more room
 }
 
 void FindPanel::say() {

@@ -1,5 +1,7 @@
 #include "TreeView.h"
 
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 namespace fleetwright {
@@ -18,6 +20,9 @@ TreeView::Node& TreeView::add(std::string_view parent, const std::string& key) {
     Node& node = m_nodes.emplace_back(Node{.key = key, .parent = above});
     m_byKey[key] = &node;
     if (above != nullptr) {
+        if (above->children.empty()) {
+            m_branches.push_back(above);
+        }
         above->children.push_back(&node);
     }
     Changed.raise();
@@ -30,7 +35,7 @@ TreeView::Node* TreeView::find(std::string_view key) {
 }
 
 void TreeView::setExpanded(Node& node, bool isExpanded) {
-    if (node.isExpanded != isExpanded) {
+    if (node.isExpanded != isExpanded && !node.children.empty()) {
         node.isExpanded = isExpanded;
         Changed.raise();
     }
@@ -44,17 +49,14 @@ void TreeView::openWayTo(const Node& node) {
 
 TreeView::View TreeView::view() {
     View view{.selected = m_selected, .top = askTop ? askTop() : nullptr};
-    for (Node& node : m_nodes) {
-        if (node.isExpanded) {
-            view.expanded.push_back(&node);
-        }
-    }
+    std::copy_if(m_branches.begin(), m_branches.end(), std::back_inserter(view.expanded),
+                 [](const Node* node) { return node->isExpanded; });
     return view;
 }
 
 void TreeView::setView(const View& view) {
-    for (Node& node : m_nodes) {
-        node.isExpanded = false;
+    for (Node* const node : m_branches) {
+        node->isExpanded = false;
     }
     for (Node* const node : view.expanded) {
         node->isExpanded = true;

@@ -35,6 +35,7 @@ public:
     std::deque<Node>& nodes() { return m_nodes; }
     Node* find(std::string_view key);
 
+    /// A node with nothing below it stays closed.
     void setExpanded(Node& node, bool isExpanded);
     /// Opens all that the node stands below.
     void openWayTo(const Node& node);
@@ -77,7 +78,8 @@ public:
 private:
     void pressEnter();
 
-    std::deque<Node> m_nodes;  // whose places stay as it grows
+    std::deque<Node> m_nodes;       // whose places stay as it grows
+    std::vector<Node*> m_branches;  // those with others below: there are few
     std::map<std::string, Node*, std::less<>> m_byKey;
     const Node* m_selected = nullptr;
     const ImageList* m_images;
