@@ -35,7 +35,7 @@ TreeView::Node* TreeView::find(std::string_view key) {
 }
 
 void TreeView::setExpanded(Node& node, bool isExpanded) {
-    if (node.isExpanded != isExpanded && !node.children.empty()) {
+    if (node.isExpanded != isExpanded) {
         node.isExpanded = isExpanded;
         Changed.raise();
     }

@@ -35,7 +35,6 @@ public:
     std::deque<Node>& nodes() { return m_nodes; }
     Node* find(std::string_view key);
 
-    /// A node with nothing below it stays closed.
     void setExpanded(Node& node, bool isExpanded);
     /// Opens all that the node stands below.
     void openWayTo(const Node& node);
@@ -49,7 +48,7 @@ public:
     /// What a user has before him.
     struct View {
         const Node* selected = nullptr;
-        std::vector<Node*> expanded = {};
+        std::vector<Node*> expanded = {};  ///< of those with others below them
         const Node* top = nullptr;  ///< what stands in the uppermost line; null if nobody draws it
     };
     View view();

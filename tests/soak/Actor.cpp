@@ -186,8 +186,14 @@ void Actor::act() {
     }
 }
 
-/// What was put aside for good goes nowhere but into the trash.
+/// What was put aside for good goes nowhere but into the trash. Many designs are looked at less
+/// often than few, so that it costs each act the same.
 void Actor::lookAtPutAside() {
+    constexpr std::size_t designsAnAct = 20;
+    if (++m_actsNotLooked * designsAnAct < m_putAside.size()) {
+        return;
+    }
+    m_actsNotLooked = 0;
     std::set<std::string> names;
     for (const RecoveryDesign& design : RecoveryFolder::list(m_app / "recovered")) {
         if (design.mark.empty()) {

@@ -108,6 +108,7 @@ private:
     std::string m_trail;  ///< the last acts, a line each
     std::string m_faults;
     std::set<std::string> m_putAside;  ///< the designs that were put aside for good, by their files
+    std::size_t m_actsNotLooked = 0;   ///< since the folder of those was looked at
     std::size_t m_depth = 0;
     int m_actsLeft = 0;  ///< in the middle of the act at rest
     bool m_hasEnded = false;
