@@ -89,6 +89,9 @@ public:
     std::int32_t weapCalc(std::string& in_arg);
     /// Recalculates.
     void weapChange();
+    /// Whether all figures are what the rules make of the systems, and of the hull that the last
+    /// recalculation has found.
+    bool isWorkedOut();
     /// Whether an operation of this ship is under way, further out.
     bool isBusy() const { return m_passDepth > 0; }
 

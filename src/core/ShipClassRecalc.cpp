@@ -88,6 +88,16 @@ ShipNumbers ShipClass::workOut(const HullDesign& design) {
     return figures;
 }
 
+bool ShipClass::isWorkedOut() {
+    try {
+        ShipNumbers figures = workOut(lastHull.design);
+        figures.hull = hull;
+        return figures == numbers();
+    } catch (const OverflowError&) {
+        return false;
+    }
+}
+
 /// One step of AutoMass: a large difference is closed in one jump, the rest in steps of 2.
 void ShipClass::fitMass() {
     constexpr std::int32_t nearby = 10, step = 2;

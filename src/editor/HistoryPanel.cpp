@@ -54,7 +54,7 @@ bool HistoryPanel::adopt(const std::string& steps, const std::string& shipFile) 
     if (!m_history) {
         return true;
     }
-    std::optional<StoredSteps> stored = StoredSteps::of(steps, ship().catalogueText());
+    std::optional<StoredSteps> stored = StoredSteps::of(steps, ship());
     const DesignMoment opened = m_others.moment();
     const bool isFound = stored && stored->goTo([&](const DesignMoment& moment) {
         ship().restore(moment.ship);

@@ -1,7 +1,7 @@
 #include "StoredSteps.h"
 
-#include "Error.h"
 #include "HullRules.h"
+#include "ShipClass.h"
 #include "base64.h"
 #include "fingerprint.h"
 #include "momentDelta.h"
@@ -34,15 +34,6 @@ bool isKnown(const HullDesign& hull) {
            (hull.ftl == NoDrive || hull.ftl == NormalDrive || hull.ftl == TugDrive);
 }
 
-/// Whether the figures of a hull are what the rules make of it, or none yet.
-bool areWorkedOut(const HullFigures& figures) {
-    try {
-        return figures == HullFigures{} || figures == hullFigures(figures.design);
-    } catch (const OverflowError&) {
-        return false;
-    }
-}
-
 /// Whether such a design can be: its systems are in the catalogue, and its list shows what is
 /// aboard, once each.
 bool canBe(const DesignMoment& moment) {
@@ -59,8 +50,7 @@ bool canBe(const DesignMoment& moment) {
         }
     }
     std::sort(rows.begin(), rows.end());
-    return rows == aboard && isKnown(moment.ship.hull) && isKnown(moment.ship.lastHull.design) &&
-           areWorkedOut(moment.ship.lastHull);
+    return rows == aboard && isKnown(moment.ship.hull) && isKnown(moment.ship.lastHull.design);
 }
 
 /// Reads the lines of a text one by one; what is missing or wrong is noticed at the end.
@@ -179,8 +169,7 @@ std::string StoredSteps::text() const {
     return std::string(title) + ' ' + fingerprint(text) + '\n' + text;
 }
 
-std::optional<StoredSteps> StoredSteps::of(std::string_view text,
-                                           std::shared_ptr<const CatalogueText> catalogue) {
+std::optional<StoredSteps> StoredSteps::of(std::string_view text, ShipClass& ship) {
     if (text.size() > mostBytes) {
         return std::nullopt;
     }
@@ -191,7 +180,7 @@ std::optional<StoredSteps> StoredSteps::of(std::string_view text,
     }
     Lines lines(rest);
     StoredSteps stored;
-    stored.now.catalogue = std::move(catalogue);
+    stored.now.catalogue = ship.catalogueText();
     lines.require(lines.next("catalogue ") == fingerprint(stored.now.catalogue->text()));
     readNow(lines, stored.now);
     const std::vector<std::int64_t> at = lines.numbers("at");
@@ -206,11 +195,16 @@ std::optional<StoredSteps> StoredSteps::of(std::string_view text,
         return std::nullopt;
     }
     stored.at = static_cast<std::size_t>(at[0]);
+    const ShipState before = ship.state();
     std::size_t moments = 0;
-    stored.goTo([&moments](const DesignMoment& moment) {
-        moments += canBe(moment) ? 1U : 0U;
+    stored.goTo([&](const DesignMoment& moment) {
+        if (canBe(moment)) {
+            ship.restore(moment.ship);
+            moments += ship.isWorkedOut() ? 1U : 0U;
+        }
         return false;
     });
+    ship.restore(before);
     return moments == stored.steps.size() + 2 ? std::optional(std::move(stored)) : std::nullopt;
 }
 

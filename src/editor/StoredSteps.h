@@ -3,13 +3,14 @@
 #include "DesignMoment.h"
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace fleetwright {
+
+class ShipClass;
 
 /// The steps of one design, as they are put aside with it. docs/file-formats.md describes the text.
 struct StoredSteps {
@@ -24,10 +25,10 @@ struct StoredSteps {
     DesignMoment first() const;
 
     std::string text() const;
-    /// The steps that such a text tells of a design of this catalogue. Nothing if it is damaged or
-    /// tells of another catalogue.
-    static std::optional<StoredSteps> of(std::string_view text,
-                                         std::shared_ptr<const CatalogueText> catalogue);
+    /// The steps that such a text tells of a design of this ship's catalogue. Nothing if it is
+    /// damaged, tells of another catalogue, or leads to a design that cannot be or has figures that
+    /// the rules would not give. The ship works those out, and is the same afterwards.
+    static std::optional<StoredSteps> of(std::string_view text, ShipClass& ship);
 
     /// Goes to the moment, the one that is now or another one, of which `isIt` says that it is the
     /// one. False, and nothing has changed, if there is none.

@@ -1,6 +1,7 @@
 #include "RecoveryFolder.h"
 
 #include "Error.h"
+#include "RecoverySteps.h"
 #include "Trash.h"
 #include "WrittenShip.h"
 #include "fileCalls.h"
@@ -30,13 +31,6 @@ std::optional<std::string> bytesIn(const fs::path& file) {
     } catch (const FileError&) {
         return std::nullopt;
     }
-}
-
-/// Where the steps of a design are.
-fs::path stepsBeside(const fs::path& design) {
-    const std::string mark =
-        design.extension().string().substr(std::string_view(recoveryExtension).size());
-    return design.parent_path() / (design.stem().string() + recoverySteps + mark);
 }
 
 bool isThere(const fs::path& file) {
@@ -128,14 +122,12 @@ bool RecoveryFolder::throwAway(const fs::path& design) {
     if (!m_trash.moveToTrash(design)) {
         return false;
     }
-    if (isThere(stepsBeside(design))) {
-        m_trash.moveToTrash(stepsBeside(design));
-    }
+    removeSteps(design);  // the trash gets one entry a design
     return true;
 }
 
 std::string RecoveryFolder::stepsOf(const fs::path& file) {
-    return RecoveryDesign::in(file) ? bytesIn(stepsBeside(file)).value_or("") : std::string();
+    return RecoveryDesign::in(file) ? stepsOfDesign(file) : std::string();
 }
 
 void RecoveryFolder::put(const Aside& design) {
@@ -160,9 +152,7 @@ void RecoveryFolder::keep(const Aside& design) {
 
 void RecoveryFolder::forget() {
     if (m_own && isOwnAsWritten()) {
-        if (bytesIn(stepsBeside(ownFile())) == m_own->steps) {
-            removeFile(stepsBeside(ownFile()));
-        }
+        removeSteps(ownFile());
         removeForGood(ownFile());
         m_run.record.forget(m_own->name);
         m_own.reset();
@@ -179,6 +169,7 @@ void RecoveryFolder::begin() {
         RecoveryListing listing(m_folder);
         takeUpLeftOvers(listing);
         m_run.begin(listing);
+        joinSteps(listing, m_run.running(listing));
     }
 }
 
@@ -220,14 +211,16 @@ void RecoveryFolder::writeOwn(const Aside& design) {
         letGo();
     }
     if (m_own && m_own->shipFile == design.shipFile) {
-        if (m_own->steps != design.steps) {
-            writeSteps(ownFile(), m_own->steps = design.steps);
+        if (m_own->steps != design.steps && writeSteps(ownFile(), design.steps)) {
+            m_own->steps = design.steps;
         }
         return;
     }
     const std::uint64_t number = m_own ? m_own->number : RecoveryListing(m_folder).highest + 1;
     const OwnFile next = {RecoveryName{design.shipName, design.mass, m_now(), number}.text(),
-                          number, design.shipFile, design.steps};
+                          number,
+                          design.shipFile,
+                          {}};
     // Noted first: so it is known for certain whose the file is, and what is whole, at any time.
     m_run.record.forget(next.name);
     if (m_own) {
@@ -237,31 +230,20 @@ void RecoveryFolder::writeOwn(const Aside& design) {
     m_run.saveRecord();
     const fs::path file = fileOf(next.name, m_run.mark());
     // First, since the design before is among its steps, but not the next one.
-    writeSteps(file, next.steps);
-    std::optional<fs::path> oldSteps;
-    if (m_own && m_own->name != next.name) {
-        oldSteps = stepsBeside(ownFile());
+    const std::string steps = writeSteps(file, design.steps) ? design.steps : std::string();
+    const fs::path before = m_own ? ownFile() : file;
+    if (before != file) {
         if (const std::error_code error = renameFile(ownFile(), file)) {
             throw FileError(file, "cannot be saved: " + error.message());
         }
         m_run.record.forget(std::exchange(m_own->name, next.name));
     }
     saveFile(file, next.shipFile);
-    if (oldSteps) {
-        removeFile(*oldSteps);
+    if (before != file) {
+        removeSteps(before);
     }
     m_own = next;
-}
-
-void RecoveryFolder::writeSteps(const fs::path& design, const std::string& steps) {
-    if (steps.empty()) {
-        return;
-    }
-    try {
-        saveFile(stepsBeside(design), steps);
-    } catch (const FileError&) {
-        // No design has to wait for its steps.
-    }
+    m_own->steps = steps;
 }
 
 /// Under which name this run, or one that has ended, has put the same design aside for good.

@@ -35,7 +35,7 @@ public:
         std::string shipName;
         std::int32_t mass;
         std::string shipFile;    ///< all of it
-        std::string steps = {};  ///< that have led to it and lie ahead of it, as a text; or none
+        std::string steps = {};  ///< see RecoverySteps.h; or none
 
         friend bool operator==(const Aside&, const Aside&) = default;
     };
@@ -83,7 +83,7 @@ private:
         std::string name;
         std::uint64_t number;
         std::string shipFile;
-        std::string steps;
+        std::string steps;  ///< beside it; empty if they could not be written
     };
 
     void begin();
@@ -96,7 +96,6 @@ private:
     bool isOwnAsWritten() const;
     void letGo();
     void writeOwn(const Aside& design);
-    static void writeSteps(const std::filesystem::path& design, const std::string& steps);
     bool throwAway(const std::filesystem::path& design);
 
     std::optional<std::string> whereKept(const std::string& shipFile) const;

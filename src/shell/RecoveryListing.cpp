@@ -74,10 +74,14 @@ RecoveryListing::RecoveryListing(const fs::path& folder) {
 }
 
 void RecoveryListing::take(const fs::path& file) {
+    const std::string ending = file.extension().string();
     if (std::optional<RecoveryDesign> design = RecoveryDesign::in(file)) {
         highest = std::max(highest, design->about.number);
         designs.push_back(*std::move(design));
-    } else if (file.extension() == recoveryLock && isMark(file.stem().string())) {
+    } else if (ending == recoverySteps ||
+               ending.starts_with(std::string(recoverySteps) + beforeRecoveryMark)) {
+        steps.push_back(file);
+    } else if (ending == recoveryLock && isMark(file.stem().string())) {
         locks.push_back(file);
     } else if (TemporaryFile::isOne(file)) {
         leftOvers.push_back(file);

@@ -48,7 +48,7 @@ struct RecoveryListing {
     std::set<std::string> recordNames() const;
 
     std::vector<RecoveryDesign> designs;
-    std::vector<std::filesystem::path> locks, records, leftOvers;
+    std::vector<std::filesystem::path> locks, records, leftOvers, steps;
     std::uint64_t highest = 0;  ///< of the designs' numbers
 };
 

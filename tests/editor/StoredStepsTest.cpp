@@ -30,7 +30,7 @@ TEST(StoredSteps, AreTakenOnlyWhereTheyLeadToDesignsThatCanBe) {
         StoredSteps stored{.now = now, .steps = {}, .at = count};
         change(stored.now);
         stored.steps.assign(count, deltaBetween(stored.now, stored.now));
-        return StoredSteps::of(stored.text(), catalogue).has_value();
+        return StoredSteps::of(stored.text(), test.ship()).has_value();
     };
     const Change none = [](DesignMoment&) {};
     EXPECT_TRUE(isTaken(none, 2 * StoredSteps::most));
@@ -39,11 +39,7 @@ TEST(StoredSteps, AreTakenOnlyWhereTheyLeadToDesignsThatCanBe) {
     const std::vector<Change> thatCanBe = {
         [](DesignMoment& moment) { moment.ship.hull.mass = -1; },
         [](DesignMoment& moment) { moment.ship.hull.thrust = 99; },
-        [](DesignMoment& moment) { moment.ship.lastHull = {}; },
-        [](DesignMoment& moment) {
-            moment.ship.amounts.front().second = -1;
-            moment.rows.erase(moment.rows.begin());
-        }};
+        [](DesignMoment& moment) { moment.ship.amounts.emplace_back(4, -1); }};
     for (std::size_t i = 0; i < thatCanBe.size(); ++i) {
         EXPECT_TRUE(isTaken(thatCanBe[i], 1)) << i;
     }
@@ -51,7 +47,14 @@ TEST(StoredSteps, AreTakenOnlyWhereTheyLeadToDesignsThatCanBe) {
         [](DesignMoment& moment) { moment.ship.hull.hullType = 0; },
         [](DesignMoment& moment) { moment.ship.hull.hullType = 7; },
         [](DesignMoment& moment) { moment.ship.hull.ftl = 2; },
+        [](DesignMoment& moment) { moment.ship.lastHull = {}; },
         [](DesignMoment& moment) { moment.ship.lastHull.hullCost += 1; },
+        [](DesignMoment& moment) { moment.ship.g_lCost -= 1; },
+        [](DesignMoment& moment) { moment.ship.g_iMassLeft += 1; },
+        [](DesignMoment& moment) { moment.ship.g_iDP += 1; },
+        [](DesignMoment& moment) { moment.ship.g_iDamRows += 1; },
+        [](DesignMoment& moment) { moment.ship.g_iDCP += 1; },
+        [](DesignMoment& moment) { moment.ship.g_iFCS += 1; },
         [](DesignMoment& moment) { moment.ship.lastHull.design.mass = 2147483647; },
         [](DesignMoment& moment) { moment.ship.lastHull = hullFigures({.hullType = 7}); },
         [](DesignMoment& moment) { moment.ship.amounts.emplace_back(0, 0); },

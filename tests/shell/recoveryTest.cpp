@@ -4,9 +4,11 @@
 #include "Error.h"
 #include "FileFaults.h"
 #include "RecoveryFolder.h"
+#include "RecoverySteps.h"
 #include "TemporaryFolder.h"
 #include "Trash.h"
 #include "caseFile.h"
+#include "fingerprint.h"
 #include "forSeeds.h"
 #include "readFile.h"
 
@@ -28,6 +30,11 @@ RecoveryFolder::Aside designOf(const std::string& ship, int mass) {
     return {ship, mass,
             "Ship Name: " + ship + "\r\nDesigner Name: X\r\nMass: " + std::to_string(mass) +
                 "\r\nThrust: 2\r\nType: Warship\r\nFTL: Normal\r\nSystem: Gun, 1\r\n"};
+}
+
+/// What is in steps that are whole.
+std::string unsealed(const std::string& text) {
+    return areStepsWhole(text) ? text.substr(text.find('\n') + 1) : text;
 }
 
 /// A folder of designs put aside, with a trash beside it.
@@ -68,7 +75,7 @@ private:
                 ++counts["locks"];
             } else if (entry.is_regular_file()) {
                 const std::string text =
-                    replaced(replaced(m_root.read(name), "\r\n", ", "), "\r", "|");
+                    replaced(replaced(unsealed(m_root.read(name)), "\r\n", ", "), "\r", "|");
                 const std::size_t mass = text.find("Mass: ");  // tells a design
                 seen[std::regex_replace(replaced(name, "recovered/", ""), std::regex("~[0-9]{2,}$"),
                                         "~MARK")] =
@@ -110,11 +117,12 @@ private:
             {"crash", [&] { crash(name); }},
             {"now", [&] { m_now = std::stoi(name); }},
             {"no", [&] { m_hasTrash = false; }},
-            {"steps", [&] { m_steps = name; }},
+            {"steps", [&] { m_steps = "steps " + fingerprint(name) + '\n' + name; }},
             {"back",
              [&] {
                  for (const auto& design : runOf(name).lookAround()) {
-                     m_log += design.name + ": " + RecoveryFolder::stepsOf(design.file) + "; ";
+                     m_log +=
+                         design.name + ": " + unsealed(RecoveryFolder::stepsOf(design.file)) + "; ";
                  }
              }},
             {"write", [&] { m_root.write("recovered/" + text, name); }},

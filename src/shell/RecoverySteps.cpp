@@ -1,0 +1,83 @@
+#include "RecoverySteps.h"
+
+#include "Error.h"
+#include "RecoveryListing.h"
+#include "fileCalls.h"
+#include "fingerprint.h"
+#include "readFile.h"
+#include "saveFile.h"
+
+#include <algorithm>
+
+namespace fleetwright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isDesignThere(const fs::path& design) {
+    std::error_code unknown;
+    return fs::exists(fs::symlink_status(design, unknown));
+}
+
+std::string stepsIn(const fs::path& file) {
+    try {
+        return readBytes(file);
+    } catch (const FileError&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+fs::path stepsBeside(const fs::path& design) {
+    const std::string mark =
+        design.extension().string().substr(std::string_view(recoveryExtension).size());
+    return design.parent_path() / (design.stem().string() + recoverySteps + mark);
+}
+
+std::string stepsOfDesign(const fs::path& design) {
+    return stepsIn(stepsBeside(design));
+}
+
+bool areStepsWhole(std::string_view steps) {
+    const std::string_view head = steps.substr(0, steps.find('\n'));
+    return head.size() < steps.size() && head.ends_with(fingerprint(steps.substr(head.size() + 1)));
+}
+
+bool writeSteps(const fs::path& design, const std::string& steps) {
+    const fs::path file = stepsBeside(design);
+    if (steps.empty() || (isDesignThere(file) && !areStepsWhole(stepsIn(file)))) {
+        return false;
+    }
+    try {
+        saveFile(file, steps);
+        return true;
+    } catch (const FileError&) {
+        return false;
+    }
+}
+
+void removeSteps(const fs::path& design) {
+    if (areStepsWhole(stepsOfDesign(design))) {
+        removeFile(stepsBeside(design));
+    }
+}
+
+void joinSteps(const RecoveryListing& listing, const std::set<std::string>& running) {
+    for (const fs::path& file : listing.steps) {
+        const std::string ending = file.extension().string(), stem = file.stem().string();
+        const std::string mark =
+            ending.substr(std::min(ending.size(), std::string_view(recoverySteps).size()));
+        const fs::path plain = file.parent_path() / (stem + recoveryExtension);
+        const fs::path design = file.parent_path() / (stem + recoveryExtension + mark);
+        if (isDesignThere(design) || (!mark.empty() && running.contains(mark.substr(1)))) {
+            continue;
+        }
+        if (!isDesignThere(plain) || renameToNew(file, stepsBeside(plain))) {
+            removeSteps(design);
+        }
+    }
+}
+
+}  // namespace fleetwright
