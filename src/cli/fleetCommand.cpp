@@ -11,6 +11,8 @@
 #include "fleetTable.h"
 #include "fleetWords.h"
 #include "paths.h"
+#include "playedFleet.h"
+#include "text.h"
 
 #include <algorithm>
 #include <memory>
@@ -23,6 +25,8 @@ namespace fleetwright {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::string_view playOption = "--play";
 
 /// The ships of a fleet that have to be loaded: each file once.
 struct FleetFiles {
@@ -98,6 +102,16 @@ int runFleet(const Options& options) {
             refuse(complaint(file, Fault{0, limit.text}));
         }
     }
+    if (options.has(playOption)) {
+        try {
+            status = std::max(status, savePlayedFleet(options, report.fleet, path.parent_path(),
+                                                      nativePath(options.value(playOption))));
+        } catch (const FileError& error) {
+            refuse(complaint(error));
+        } catch (const Error& error) {
+            refuse(complaint(path, error));
+        }
+    }
     return status;
 }
 
@@ -105,11 +119,20 @@ int runFleet(const Options& options) {
 
 constexpr OptionRow fleetOptions[] = {
     jsonOption,
+    {.name = playOption,
+     .value = "OUT.html",
+     .help = "Save a page by which the fleet is played in a browser",
+     .check =
+         [](std::string_view, const std::string& value) {
+             if (!toCapitals(value).ends_with(".HTML")) {
+                 throw UsageError("--play: a page is an .html file: " + shownText(value));
+             }
+         }},
 };
 
 extern const CommandRow fleetCommand = {
     .name = "fleet",
-    .words = "FLEET [--json]",
+    .words = "FLEET [--json] [--play OUT]",
     .least = 1,
     .most = 1,
     .options = fleetOptions,
@@ -118,7 +141,10 @@ extern const CommandRow fleetCommand = {
         "The ships are those of the fleet file, each with its count, class, mass, points and "
         "their sum; below them stands what is left of the limits. A limit that is broken and "
         "a ship that does not load are errors. A * behind a ship, and a word on the "
-        "catalogue, say that they have changed since the fleet was written, which is none.",
+        "catalogue, say that they have changed since the fleet was written, which is none. "
+        "--play saves one file for any browser, with the sheets of all ships, on which damage and "
+        "systems are marked at the table; it works without a network. The pictures must have been "
+        "unpacked for that.",
     .run = runFleet,
 };
 

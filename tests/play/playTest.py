@@ -1,4 +1,4 @@
-"""Plays a fleet in a browser as its owner does: playTest.py MAKE_PAGE APP_FOLDER PICTURES_FOLDER."""
+"""Plays a fleet in a browser as its owner does: playTest.py APP_FOLDER PICTURES_FOLDER."""
 
 import base64
 import json
@@ -175,7 +175,7 @@ def strangers():
     expect(ships, [name.replace("\u202e", "\ufffd").replace("\u2028", "\ufffd") for name in SHIPS],
            "names of ships")
     expect(browser.run("document.title"), "<script>alert(1)</script>", "the title")
-    expect(browser.run("document.querySelectorAll('img, iframe, b, i, script:not([type]) ~ script').length"), 0,
+    expect(browser.run("document.querySelectorAll('img, iframe, b, i, u, script:not([type]) ~ script').length"), 0,
            "elements that nobody has written")
     # What the policy says holds.
     expect(browser.run("(() => { try { return eval('1'); } catch (e) { return e.name; } })()"), "EvalError", "eval")
@@ -220,18 +220,22 @@ def without_storage():
 
 def make_pages(folder):
     """The page, and one of another fleet with the same ships."""
-    tool, app, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:4])
+    app, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
     own = folder / "app"
     own.mkdir()
     for file in app.iterdir():
         if file.name != "images":
             (own / file.name).symlink_to(file)
     (own / "images").symlink_to(pictures / "images")
-    ships = [f"{name}={own}/ships/Sparrow-Toll.shp" for name in SHIPS]
     pages = []
-    for fleet, count in (("<script>alert(1)</script>", 3), ("Other", 1), ("Other", 1)):
+    for name, count in (("<script>alert(1)</script>", 3), ("Other", 1), ("Other", 1)):
+        fleet = folder / "a.fleet"
+        fleet.write_text("\n".join(["FleetWright fleet 1", f"name = {name}", "note = <u>All</u>",
+                                    "ship = app/ships/Sparrow-Toll.shp", f"count = {count}",
+                                    *(f"named = {ship}" for ship in SHIPS[:count])]) + "\n")
         pages.append(str(folder / f"page{len(pages)}.html"))
-        subprocess.run([tool, own, pages[-1], fleet, *ships[:count]], check=True)
+        subprocess.run([app / "fleetwright-cli", "--app", own, "fleet", fleet, "--play", pages[-1]],
+                       check=True, stdout=subprocess.DEVNULL)
     texts = [pathlib.Path(page).read_bytes() for page in pages]
     expect(texts[1] == texts[2], True, "the same bytes twice")
     return pages[:2]
