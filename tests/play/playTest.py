@@ -10,6 +10,8 @@ import time
 from Browser import Browser
 
 SHIPS = ["<b>One</b>", "<img src=x onerror=alert(1)>", "\u202e</script><script>alert(2)</script>\u2028"]
+GREAT_SHIPS = ["Anvil-Roads", "Weigh-Station-Nine", "Widow-Tarrant", "Deep-Undertow", "Monitor-Ironmonger",
+               "Cold-Harbor-Fort", "Queen-of-Sevens", "Halfway-Market", "Far-Pasture", "Emperors-Patience"]
 faults = []
 
 
@@ -216,6 +218,7 @@ def without_storage():
            "a word where nothing is kept")
     browser.tap(box(0))
     expect(crossed().count("x"), 1, "a box where nothing is kept")
+    fingers()
 
 
 def make_pages(folder):
@@ -227,17 +230,18 @@ def make_pages(folder):
         if file.name != "images":
             (own / file.name).symlink_to(file)
     (own / "images").symlink_to(pictures / "images")
+    same = ["ship = app/ships/Sparrow-Toll.shp", f"count = {len(SHIPS)}", *(f"named = {ship}" for ship in SHIPS)]
+    great = [f"ship = app/ships/{ship}.shp" for ship in GREAT_SHIPS]
     pages = []
-    for name, count in (("<script>alert(1)</script>", 3), ("Other", 1), ("Other", 1)):
+    for name, ships in (("<script>alert(1)</script>", same), ("Great ships", great), ("Great ships", great)):
         fleet = folder / "a.fleet"
-        fleet.write_text("\n".join(["FleetWright fleet 1", f"name = {name}", "note = <u>All</u>",
-                                    "ship = app/ships/Sparrow-Toll.shp", f"count = {count}",
-                                    *(f"named = {ship}" for ship in SHIPS[:count])]) + "\n")
+        fleet.write_text("\n".join(["FleetWright fleet 1", f"name = {name}", "note = <u>All</u>", *ships, ""]))
         pages.append(str(folder / f"page{len(pages)}.html"))
         subprocess.run([app / "fleetwright-cli", "--app", own, "fleet", fleet, "--play", pages[-1]],
                        check=True, stdout=subprocess.DEVNULL)
     texts = [pathlib.Path(page).read_bytes() for page in pages]
     expect(texts[1] == texts[2], True, "the same bytes twice")
+    expect(len(texts[1]) < 1000000, True, f"ten great ships in a megabyte, which take {len(texts[1])}")
     return pages[:2]
 
 
@@ -251,6 +255,7 @@ try:
     files(after_reload())
     paper()
     fingers()
+    browser.resize(768, 1024)
     expect(browser.complaints, [], "complaints of the browser")
     requests = [url for url in browser.requests if not url.startswith(("file:" + "//" + page, "data:", "blob:"))]
     expect(requests, [], "requests")
