@@ -39,6 +39,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <algorithm>
 #include <array>
@@ -92,11 +93,14 @@ std::string catalogueFaults(const CatalogueFile& file, PictureFiles* pictures = 
     return text;
 }
 
-/// The files that the program was started with.
+/// The files that the program was started with. Some launchers name them by URLs.
 std::vector<std::string> filesOnCommandLine() {
     std::vector<std::string> files;
-    for (const QString& file : QApplication::arguments().mid(1)) {
-        files.push_back(QFileInfo(file).absoluteFilePath().toStdString());
+    for (const QString& word : QApplication::arguments().mid(1)) {
+        const QUrl url(word);
+        files.push_back(QFileInfo(url.isLocalFile() ? url.toLocalFile() : word)
+                            .absoluteFilePath()
+                            .toStdString());
     }
     return files;
 }

@@ -57,4 +57,8 @@ std::string ToolPictures::pdf(const PageDocument& document) {
     return module().pdf(document);
 }
 
+Raster ToolPictures::pixels(const Page& page, double millimetres, int pixels) {
+    return module().pixels(page, millimetres, pixels);
+}
+
 }  // namespace fleetwright

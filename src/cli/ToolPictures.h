@@ -21,11 +21,14 @@ public:
     Raster decode(const std::string& bytes, const std::string& format) override;
     Raster builtIn(const std::string& name) override;
     std::string encode(const Raster& picture, const std::string& format) override;
-    /// Begins to load the module, which `pdf` takes, while the caller does something else. Called
-    /// before other threads come in; whoever needs the module waits for the end of it.
+    /// Begins to load the module, which `pdf` and `pixels` take, while the caller does something
+    /// else. Called before other threads come in; whoever needs the module waits for the end of it.
     void prepareForPdf();
     /// The bytes of a PDF file, the same for the same document.
     std::string pdf(const PageDocument& document);
+    /// What a page shows but its text, in a square of so many millimetres, in so many pixels each
+    /// way.
+    Raster pixels(const Page& page, double millimetres, int pixels);
 
 private:
     /// What knows of picture files and documents; it is loaded for as long as the program lives.

@@ -19,10 +19,10 @@ constexpr std::string_view version = "1";
 
 /// Throws Error if a text does not begin like a fleet file of this version.
 void checkBeginning(std::string_view text) {
-    const std::string_view line = text.empty() ? text : cutFleetLine(text).text;
-    if (!line.starts_with(firstWords)) {
+    if (!isFleet(text)) {
         throw Error("is no fleet file");
     }
+    const std::string_view line = cutFleetLine(text).text;
     if (trimmed(line.substr(firstWords.size())) != version) {
         throw Error("is a fleet file of another version: " + quote(line));
     }
@@ -184,6 +184,10 @@ private:
 };
 
 }  // namespace
+
+bool isFleet(std::string_view text) {
+    return text.starts_with(firstWords);
+}
 
 ReadFleet parseFleet(std::string_view text) {
     checkBeginning(text);

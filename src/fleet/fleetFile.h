@@ -20,6 +20,9 @@ struct ReadFleet {
     std::vector<int> shipLines;  ///< where each ship begins, from 1 on
 };
 
+/// Whether a text begins like a fleet file, of whatever version.
+bool isFleet(std::string_view text);
+
 /// Reads the text of a fleet file, in UTF-8. Throws Error if it is none, or one of a later version.
 ReadFleet parseFleet(std::string_view text);
 

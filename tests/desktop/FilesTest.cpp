@@ -75,11 +75,11 @@ TEST_F(DesktopTest, ShipIsSavedLoadedAndAskedAbout) {
     EXPECT_EQ(waitForEnd(), 0);
 }
 
-TEST_F(DesktopTest, StartedWithASheetItShowsTheShipInIt) {
-    const std::string ship = path("ships/Provost.shp"), sheet = path("Provost.png");
+TEST_F(DesktopTest, StartedWithASheetByItsUrlItShowsTheShipInIt) {
+    const std::string ship = path("ships/Provost.shp");
     tool({"unpack"});
-    tool({"sheet", ship, "-o", sheet});
-    startProgram(sheet.c_str());
+    tool({"sheet", ship, "-o", path("A sheet.png")});
+    startProgram(("file://" + path("A%20sheet.png").string()).c_str());
     window.emplace();
     window->waitFor(expectedOf(ship));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PageDocument.h"
+#include "Raster.h"
 
 #include <string>
 
@@ -15,6 +16,8 @@ struct Pictures {
     PictureReader& files;
     PictureEncoder& encoder;
     std::string (*pdf)(const PageDocument&);  ///< any number of threads may call it
+    /// A square of a page but its text: millimetres and pixels of its side.
+    Raster (*pixels)(const Page&, double, int);
 };
 using CreatePictures = const Pictures* (*)();
 
