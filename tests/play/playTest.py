@@ -84,6 +84,9 @@ def damage_boxes():
     expect(crossed(), ".xxx...x", "a tap on a box of the drawing")
     browser.tap(shown(".hit"))
     expect(crossed(), "xxxx...x", "a hit")
+    x, y = browser.middle_of(box(6))
+    browser.tap_at((x, y), (x, y - 30), (x, y - 90), (x, y - 150))
+    expect(crossed(), "xxxx...x", "a finger that scrolls")
     browser.run(f"{box(3)}.focus()")
     for key, code in (("ArrowRight", 39), (" ", 32)):
         for kind in ("keyDown", "keyUp"):
