@@ -1,4 +1,4 @@
-"""Plays a fleet in a browser as its owner does: playTest.py APP_FOLDER PICTURES_FOLDER."""
+"""Plays a fleet in a browser as its owner does: playTest.py TOOL PICTURES_FOLDER."""
 
 import base64
 import json
@@ -226,10 +226,10 @@ def without_storage():
 
 def make_pages(folder):
     """The page, and one of another fleet with the same ships."""
-    app, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
+    tool, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
     own = folder / "app"
     own.mkdir()
-    for file in app.iterdir():
+    for file in tool.parent.iterdir():
         if file.name != "images":
             (own / file.name).symlink_to(file)
     (own / "images").symlink_to(pictures / "images")
@@ -240,7 +240,7 @@ def make_pages(folder):
         fleet = folder / "a.fleet"
         fleet.write_text("\n".join(["FleetWright fleet 1", f"name = {name}", "note = <u>All</u>", *ships, ""]))
         pages.append(str(folder / f"page{len(pages)}.html"))
-        subprocess.run([app / "fleetwright-cli", "--app", own, "fleet", fleet, "--play", pages[-1]],
+        subprocess.run([tool, "--app", own, "fleet", fleet, "--play", pages[-1]],
                        check=True, stdout=subprocess.DEVNULL)
     texts = [pathlib.Path(page).read_bytes() for page in pages]
     expect(texts[1] == texts[2], True, "the same bytes twice")
