@@ -6,6 +6,7 @@
 #include "saveResult.h"
 #include "shipJson.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -13,12 +14,18 @@ namespace fleetwright {
 
 namespace {
 
+/// The name of a ship's file without its folder; nothing for a ship that is given in another way.
+std::string fileOf(const std::string& ship) {
+    const std::filesystem::path file = nativePath(ship);
+    std::error_code ignored;
+    return std::filesystem::exists(file, ignored) ? pathText(file.filename()) : std::string();
+}
+
 int runExport(const Options& options) {
     std::vector<std::string> ships(options.words.size());
     const int status =
         forEachShip(options, RefusedLines::AsComplaints, [&](std::size_t index, auto& screen) {
-            const std::string file = pathText(nativePath(options.words[index]).filename());
-            ships[index] = shipJson(screen.ship(), file);
+            ships[index] = shipJson(screen.ship(), fileOf(options.words[index]));
             return std::string();
         });
     std::erase_if(ships, [](const std::string& ship) { return ship.empty(); });

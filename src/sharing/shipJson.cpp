@@ -12,7 +12,7 @@ namespace fleetwright {
 std::string shipJson(ShipClass& ship, std::string_view file) {
     const ShipDesign design = ship.design();
     const HullDesign& hull = design.hull;
-    const nlohmann::ordered_json json = {
+    nlohmann::ordered_json json = {
         {"format", shipJsonFormat},
         {"file", file},
         {"shipName", design.shipName},
@@ -25,6 +25,9 @@ std::string shipJson(ShipClass& ship, std::string_view file) {
         {"ftl", wordOf(ftlLine(hull.ftl))},
         {"systems", systemsJson(ship)},
         {"figures", figuresJson(ship)}};
+    if (file.empty()) {
+        json.erase("file");
+    }
     return jsonText(json, 2);
 }
 

@@ -15,7 +15,8 @@ namespace fleetwright {
 class ShipClass;
 
 /// One ship as a JSON object over several lines, without a line end behind it: its design, and its
-/// figures for readers. `file` names the ship file or the sheet that it comes from. Throws
+/// figures for readers. `file` names the ship file or the sheet that it comes from;
+/// nothing where there is none. Throws
 /// OverflowError where a system's mass or cost does not fit.
 std::string shipJson(ShipClass& ship, std::string_view file);
 
