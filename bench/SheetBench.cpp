@@ -16,9 +16,9 @@ namespace fleetwright {
 namespace {
 
 void sheets(benchmark::State& state, unsigned threads) {
-    makeSheets(state, threads,
-               [](const ShipOnScreen& screen, const SheetTools& tools, ToolPictures& files) {
-                   return files.encode(drawnSheet(screen, tools, std::string()), "bmp");
+    makeSheets(state, threads, SheetKind::Pixels,
+               [](const ShipOnScreen& screen, const SheetRun& run) {
+                   return run.files.encode(drawnSheet(screen, run.tools, std::string()), "bmp");
                });
 }
 

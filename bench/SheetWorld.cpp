@@ -2,6 +2,7 @@
 
 #include "BenchFolder.h"
 #include "DrawingPack.h"
+#include "DrawnPictureFiles.h"
 #include "Error.h"
 #include "inOrder.h"
 #include "paths.h"
@@ -57,27 +58,32 @@ const SheetWorld& sheetWorld() {
     return world;
 }
 
-void makeSheets(benchmark::State& state, unsigned threads,
-                const std::function<std::string(const ShipOnScreen&, const SheetTools&,
-                                                ToolPictures&)>& fileOf) {
+void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
+                const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf) {
     const SheetWorld& world = sheetWorld();
     for ([[maybe_unused]] auto _ : state) {
         ToolPictures files(APP_FOLDER);
         const DrawingPack drawings(drawingsFile(startedFolder()));
+        DrawnPictureFiles drawn(files, drawings);
+        PictureFiles& pictures =
+            kind == SheetKind::Pixels ? static_cast<PictureFiles&>(files) : drawn;
+        Silhouette::Outlines outlines;
+        KeptSvgFonts fonts;
         const auto catalogue = CatalogueFile::readOnce(startedFolder() / "weaps.dat");
         const SheetTools tools{startedFolder(),
-                               picturesReadOnce(startedFolder(), files),
-                               outlinesReadOnce(files),
+                               picturesReadOnce(startedFolder(), pictures),
+                               outlinesReadOnce(pictures),
                                files,
                                drawings,
                                world.maps};
+        const SheetRun run{tools, files, outlines, fonts};
         std::size_t bytes = 0;
         inOrder(
             sheetCount, threads,
             [&](std::size_t index) {
                 ShipOnScreen screen(startedFolder(), catalogue);
                 screen.load(world.ships[index]);
-                return Result{.output = fileOf(screen, tools, files), .complaints = {}};
+                return Result{.output = fileOf(screen, run), .complaints = {}};
             },
             [&](std::size_t, const Result& result) { bytes += result.output.size(); });
         benchmark::DoNotOptimize(bytes);

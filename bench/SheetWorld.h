@@ -8,6 +8,7 @@
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "drawnSheet.h"
+#include "svgFonts.h"
 
 #include <benchmark/benchmark.h>
 
@@ -52,10 +53,18 @@ struct SheetWorld {
 
 const SheetWorld& sheetWorld();
 
+/// What one run makes all its sheets with.
+struct SheetRun {
+    const SheetTools& tools;
+    ToolPictures& files;
+    Silhouette::Outlines& outlines;
+    KeptSvgFonts& fonts;
+};
+enum class SheetKind { Pixels, Lines };
+
 /// Makes a file of the sheet of each ship, as the tool does with so many threads in one process.
-void makeSheets(benchmark::State& state, unsigned threads,
-                const std::function<std::string(const ShipOnScreen&, const SheetTools&,
-                                                ToolPictures&)>& fileOf);
+void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
+                const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf);
 
 /// Runs a command of the shell. Throws std::runtime_error if it fails.
 void runCommand(const std::string& command);

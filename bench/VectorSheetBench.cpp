@@ -17,15 +17,17 @@ namespace fs = std::filesystem;
 
 namespace {
 
-PageDocument documentOf(const ShipOnScreen& screen, const SheetTools& tools) {
-    return sheetDocument({recordedSheet(screen, tools, std::string())}, {});
+PageDocument documentOf(const ShipOnScreen& screen, const SheetRun& run) {
+    return sheetDocument({recordedSheet(screen, run.tools, std::string())},
+                         {.outlines = &run.outlines});
 }
 
 void vectorSheets(benchmark::State& state, unsigned threads, const std::string& format) {
-    makeSheets(state, threads,
-               [&format](const ShipOnScreen& screen, const SheetTools& tools, ToolPictures& files) {
-                   const PageDocument document = documentOf(screen, tools);
-                   return format == "svg" ? svgFile(document, files) : files.pdf(document);
+    makeSheets(state, threads, SheetKind::Lines,
+               [&format](const ShipOnScreen& screen, const SheetRun& run) {
+                   const PageDocument document = documentOf(screen, run);
+                   return format == "svg" ? svgFile(document, run.files, &run.fonts)
+                                          : run.files.pdf(document);
                });
 }
 

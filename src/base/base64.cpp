@@ -1,5 +1,6 @@
 #include "base64.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -27,27 +28,27 @@ constexpr std::array<std::uint8_t, 256> digitValues = [] {
 }  // namespace
 
 std::string toBase64(std::string_view bytes, Base64Lines lines) {
-    constexpr std::size_t digitsOfLine = 76;
+    constexpr std::size_t groupsOfLine = 19;
     constexpr std::size_t bytesOfGroup = digitsOfGroup - 1;
-    std::string text;
-    text.reserve(bytes.size() / 2 * 3);
-    for (std::size_t at = 0; at < bytes.size(); at += bytesOfGroup) {
-        if (lines == Base64Lines::Many && at > 0 &&
-            at % (digitsOfLine / digitsOfGroup * bytesOfGroup) == 0) {
-            text += '\n';
+    const std::size_t groups = (bytes.size() + bytesOfGroup - 1) / bytesOfGroup;
+    const bool hasLines = lines == Base64Lines::Many && groups > 0;
+    std::string text(groups * digitsOfGroup + (hasLines ? (groups - 1) / groupsOfLine : 0), '\n');
+    auto written = text.begin();
+    const auto byteAt = [bytes](std::size_t at) -> std::uint32_t {
+        return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0U;
+    };
+    for (std::size_t group = 0; group < groups; ++group) {
+        if (hasLines && group > 0 && group % groupsOfLine == 0) {
+            ++written;
         }
-        const std::string_view group = bytes.substr(at, bytesOfGroup);
-        std::uint32_t bits = 0;
-        for (std::size_t i = 0; i < bytesOfGroup; ++i) {
-            bits = bits << 8U | (i < group.size() ? static_cast<unsigned char>(group[i]) : 0U);
+        const std::size_t at = group * bytesOfGroup;
+        const std::uint32_t bits = byteAt(at) << 16U | byteAt(at + 1) << 8U | byteAt(at + 2);
+        for (unsigned digit = digitsOfGroup; digit-- > 0;) {
+            *written++ = digits[bits >> digit * bitsOfDigit & 0x3FU];
         }
-        char written[digitsOfGroup];
-        for (std::size_t i = 0; i < digitsOfGroup; ++i) {
-            const std::uint32_t digit = bits >> (digitsOfGroup - 1 - i) * bitsOfDigit & 0x3FU;
-            written[i] = i <= group.size() ? digits[digit] : padding;
-        }
-        text.append(written, digitsOfGroup);
     }
+    const std::size_t missing = groups * bytesOfGroup - bytes.size();
+    std::fill_n(text.rbegin(), missing, padding);
     return text;
 }
 

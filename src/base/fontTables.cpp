@@ -29,9 +29,12 @@ std::uint32_t sumOf(std::string_view table) {
 }  // namespace
 
 void addFontNumber(std::string& bytes, std::uint32_t number, int count) {
-    for (int byte = count - 1; byte >= 0; --byte) {
-        bytes += static_cast<char>(number >> (byteBits * static_cast<unsigned>(byte)) & 0xFFU);
+    char written[4];
+    for (int byte = 3; byte >= 0; --byte) {
+        written[byte] = static_cast<char>(number & 0xFFU);
+        number >>= byteBits;
     }
+    bytes.append(written + 4 - count, static_cast<std::size_t>(count));
 }
 
 std::uint32_t fontNumber(std::string_view bytes, std::size_t at, int count) {

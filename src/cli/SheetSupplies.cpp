@@ -25,13 +25,19 @@ ToolPictures picturesFor(const Options& options, SheetSupplies::Kind kind) {
 
 SheetSupplies::SheetSupplies(const Options& options, std::size_t sheets, Kind kind, int& status)
     : pictures(picturesFor(options, kind)), m_drawings(drawingsFile(options.appFolder)),
-      m_maps(mapsOf(options, status)),
-      // The outline of a single ship is read once in any case, and is the largest picture.
-      tools{options.appFolder,
-            picturesReadOnce(options.appFolder, pictures),
-            sheets == 1 ? outlinesIn(pictures) : outlinesReadOnce(pictures),
+      m_drawnPictures(pictures, m_drawings), m_maps(mapsOf(options, status)),
+      tools(toolsFor(options, sheets, kind)) {}
+
+SheetTools SheetSupplies::toolsFor(const Options& options, std::size_t sheets, Kind kind) {
+    PictureFiles& files =
+        kind == Kind::Other ? static_cast<PictureFiles&>(pictures) : m_drawnPictures;
+    // The outline of a single ship is read once in any case, and is the largest picture.
+    return {options.appFolder,
+            picturesReadOnce(options.appFolder, files),
+            sheets == 1 ? outlinesIn(files) : outlinesReadOnce(files),
             pictures,
             m_drawings,
-            m_maps} {}
+            m_maps};
+}
 
 }  // namespace fleetwright

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DrawingPack.h"
+#include "DrawnPictureFiles.h"
 #include "Options.h"
 #include "SSDMaps.h"
 #include "ToolPictures.h"
@@ -13,7 +14,7 @@ namespace fleetwright {
 /// All that commands draw sheets with.
 class SheetSupplies {
 public:
-    enum class Kind { Pdf, Other };
+    enum class Kind { Pdf, Svg, Other };
 
     /// For so many sheets, of which documents of this kind are made. Maps that cannot be used are
     /// named on standard error, and `status` becomes SomeRefused. Throws FileError if the pictures
@@ -26,7 +27,10 @@ public:
     ToolPictures pictures;
 
 private:
+    SheetTools toolsFor(const Options& options, std::size_t sheets, Kind kind);
+
     DrawingPack m_drawings;
+    DrawnPictureFiles m_drawnPictures;
     LoadedMaps m_maps;
 
 public:

@@ -11,6 +11,7 @@
 #include "saveResult.h"
 #include "sheetDocument.h"
 #include "svgFile.h"
+#include "svgFonts.h"
 #include "text.h"
 #include "wholeNumber.h"
 
@@ -64,6 +65,17 @@ void checkSheet(const Options& options) {
     sheetOut(options);
 }
 
+/// What sheets are made of.
+SheetSupplies::Kind kindOf(const Options& options) {
+    const SheetOut out = sheetOut(options);
+    if (out == SheetOut::Document) {
+        return SheetSupplies::Kind::Pdf;
+    }
+    return out == SheetOut::File && sheetFormat(options.value(outOption.name)) == "svg"
+               ? SheetSupplies::Kind::Svg
+               : SheetSupplies::Kind::Other;
+}
+
 PageSize paperOf(const std::string& name) {
     if (toCapitals(name) == "A4") {
         return paperA4;
@@ -84,10 +96,11 @@ void checkPerPage(std::string_view, const std::string& number) {
     }
 }
 
-SheetOptions sheetOptionsOf(const Options& options) {
+SheetOptions sheetOptionsOf(const Options& options, Silhouette::Outlines& outlines) {
     return {.paper = paperOf(options.value("--paper")),
             .perPage = wholeNumber(options.value("--per-page")),
-            .isPlain = options.has("--plain")};
+            .isPlain = options.has("--plain"),
+            .outlines = &outlines};
 }
 
 /// Where the sheet of each ship goes.
@@ -137,11 +150,13 @@ VectorSheet sheetFor(const Options& options, std::size_t index, const ShipOnScre
 
 int drawFiles(const Options& options, const SheetTools& tools) {
     const SheetFiles files(options);
+    Silhouette::Outlines outlines;
+    KeptSvgFonts fonts;
+    const SheetOptions pages = sheetOptionsOf(options, outlines);
     const auto bytesOf = [&](std::size_t index, ShipOnScreen& screen, const std::string& format) {
         if (format == "svg") {
-            return svgFile(
-                sheetDocument({sheetFor(options, index, screen, tools)}, sheetOptionsOf(options)),
-                tools.encoder);
+            return svgFile(sheetDocument({sheetFor(options, index, screen, tools)}, pages),
+                           tools.encoder, &fonts);
         }
         const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
         std::string bytes = tools.encoder.encode(sheet, format);
@@ -169,8 +184,9 @@ int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& 
         }
     }
     if (!sheets.empty()) {
+        Silhouette::Outlines outlines;
         saveResult(nativePath(options.value(outOption.name)),
-                   pictures.pdf(sheetDocument(sheets, sheetOptionsOf(options))));
+                   pictures.pdf(sheetDocument(sheets, sheetOptionsOf(options, outlines))));
     }
     return status;
 }
@@ -178,9 +194,7 @@ int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& 
 int runSheet(const Options& options) {
     const bool isDocument = sheetOut(options) == SheetOut::Document;
     int status = Done;
-    SheetSupplies supplies(options, options.words.size(),
-                           isDocument ? SheetSupplies::Kind::Pdf : SheetSupplies::Kind::Other,
-                           status);
+    SheetSupplies supplies(options, options.words.size(), kindOf(options), status);
     const int drawn = isDocument ? drawDocument(options, supplies.tools, supplies.pictures)
                                  : drawFiles(options, supplies.tools);
     return std::max(status, drawn);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 
 namespace fleetwright {
 
@@ -38,15 +39,15 @@ void appendBlocks(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more)
     std::move(more.begin(), more.end(), std::back_inserter(blocks));
 }
 
-void putBlock(Page& page, const PageBlock& block, double x, double y) {
-    for (const PageItem& item : block.items) {
-        page.items.push_back(item);
-        std::visit(Mover{x, y}, page.items.back());
+void putBlock(Page& page, PageBlock block, double x, double y) {
+    for (PageItem& item : block.items) {
+        std::visit(Mover{x, y}, item);
+        page.items.push_back(std::move(item));
     }
 }
 
-/// Fills a column, only in thought if there is no page; the first block that found no room.
-std::size_t PageFlow::fillColumn(std::size_t first, const Box& column, Page* page) const {
+/// The first block, of those from one on, that finds no room in a column of this height.
+std::size_t PageFlow::endOfColumn(std::size_t first, double columnHeight) const {
     double y = 0;
     std::size_t next = first;
     while (next < m_blocks.size()) {
@@ -55,41 +56,54 @@ std::size_t PageFlow::fillColumn(std::size_t first, const Box& column, Page* pag
         while (m_blocks[end].staysWithNext && end + 1 < m_blocks.size()) {
             height += m_blocks[++end].height;
         }
-        if (y + height > column.height + lengthTolerance) {
+        if (y + height > columnHeight + lengthTolerance) {
             break;
         }
         for (; next <= end; ++next) {
-            if (page != nullptr) {
-                putBlock(*page, m_blocks[next], column.x, column.y + y);
-            }
             y += m_blocks[next].height;
         }
     }
     return next;
 }
 
+double PageFlow::height() const {
+    return std::accumulate(
+        m_blocks.begin() + std::ptrdiff_t(m_next), m_blocks.end(), 0.0,
+        [](double height, const PageBlock& block) { return height + block.height; });
+}
+
 bool PageFlow::fitsInto(const std::vector<Box>& columns) const {
     std::size_t next = m_next;
     for (const Box& column : columns) {
-        next = fillColumn(next, column, nullptr);
+        next = endOfColumn(next, column.height);
     }
     return next == m_blocks.size();
 }
 
 void PageFlow::fill(const std::vector<Box>& columns, Page& page) {
     for (const Box& column : columns) {
-        m_next = fillColumn(m_next, column, &page);
+        const std::size_t end = endOfColumn(m_next, column.height);
+        for (double y = 0; m_next < end; ++m_next) {
+            const double height = m_blocks[m_next].height;
+            putBlock(page, std::move(m_blocks[m_next]), column.x, column.y + y);
+            y += height;
+        }
     }
 }
 
 void PageFlow::force(const Box& column, Page& page) {
-    putBlock(page, m_blocks[m_next++], column.x, column.y);
+    putBlock(page, std::move(m_blocks[m_next++]), column.x, column.y);
 }
 
 double PageFlow::balancedHeight(const std::vector<Box>& columns) const {
-    const double own = columns.empty() ? 0 : columns.front().height;
-    for (int height = 1; height < own; ++height) {
-        std::vector<Box> lower = columns;
+    if (columns.empty()) {
+        return 0;
+    }
+    const double own = columns.front().height;
+    std::vector<Box> lower = columns;
+    // All of it fits into no lower ones.
+    const double least = height() / static_cast<double>(columns.size()) - 1;
+    for (int height = std::max(static_cast<int>(std::min(least, own)), 1); height < own; ++height) {
         for (Box& column : lower) {
             column.height = height;
         }

@@ -25,7 +25,7 @@ struct PageBlock {
 void appendBlocks(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more);
 
 /// Puts a block on a page, its upper left corner here.
-void putBlock(Page& page, const PageBlock& block, double x, double y);
+void putBlock(Page& page, PageBlock block, double x, double y);
 
 /// Blocks on their way to their columns, in their order.
 class PageFlow {
@@ -33,6 +33,8 @@ public:
     explicit PageFlow(std::vector<PageBlock> blocks) : m_blocks(std::move(blocks)) {}
 
     bool isDone() const { return m_next == m_blocks.size(); }
+    /// Of all that is left, below each other.
+    double height() const;
     /// Whether columns have room for all that is left.
     bool fitsInto(const std::vector<Box>& columns) const;
     /// Fills columns with what fits.
@@ -46,7 +48,7 @@ public:
     std::vector<PageBlock> takeRest();
 
 private:
-    std::size_t fillColumn(std::size_t first, const Box& column, Page* page) const;
+    std::size_t endOfColumn(std::size_t first, double columnHeight) const;
 
     std::vector<PageBlock> m_blocks;
     std::size_t m_next = 0;

@@ -1,7 +1,6 @@
 #include "SheetCard.h"
 
 #include "SheetPictures.h"
-#include "Silhouette.h"
 #include "scaledDrawing.h"
 #include "sheetHeader.h"
 
@@ -99,9 +98,12 @@ std::vector<Box> SheetCard::Columns::inOrder() const {
     return all;
 }
 
-SheetCard::SheetCard(const VectorSheet& sheet, const Box& box, Room room, bool isPlain)
-    : m_sheet(sheet), m_box(box), m_room(room), m_isPlain(isPlain),
-      m_text(sheetText(sheet.record.text)), m_body(box), m_ink(inkOf(sheet.record)) {
+SheetCard::SheetCard(const VectorSheet& sheet, const Box& box, Room room,
+                     const SheetOptions& options)
+    : m_sheet(sheet), m_box(box), m_room(room), m_isPlain(options.isPlain),
+      m_outlines(options.outlines), m_text(sheetText(sheet.record.text)),
+      m_legend(m_isPlain ? std::vector<LegendRow>() : sheet.facts.legend), m_body(box),
+      m_ink(inkOf(sheet.record)) {
     if (!m_isPlain) {
         constexpr double roomBelowHead = 2;
         m_linesInHead = linesForHead(m_text.lines, box.width);
@@ -120,7 +122,7 @@ double SheetCard::largestScale() const {
 
 bool SheetCard::isGoodHere() const {
     return m_leastScale >= scaleOfSymbol(leastSymbol) &&
-           fittingReadings(Silhouette(m_sheet.record, m_ink)).has_value();
+           fittingReadings(Silhouette(m_sheet.record, m_ink, m_outlines)).has_value();
 }
 
 /// The largest scale that leaves the usual room for reading, or else a little, in wide columns or
@@ -171,25 +173,30 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
     return columns;
 }
 
-/// From the top down, on both sides wherever the drawing is narrow enough.
-SheetCard::Columns SheetCard::columnsInCorners(const Silhouette& silhouette, double scale,
-                                               double columnWidth) const {
-    constexpr int leastHeight = 15;
+/// How much room there is on the left and on the right of the drawing, in the middle of the body,
+/// in each millimetre from the top down.
+SheetCard::Sides SheetCard::roomBeside(const Silhouette& silhouette, double scale) const {
     const double left = (m_body.width - m_ink.width * scale) / 2;
     const double top = (m_body.height - m_ink.height * scale) / 2;
-    const auto isFree = [&](int y, bool isOnTheLeft) {
+    Sides sides;
+    for (int y = 0; y + 1 <= m_body.height; ++y) {
         const Silhouette::Extent extent =
             silhouette.between((y - columnGap - top) / scale, (y + 1 + columnGap - top) / scale);
-        const double free =
-            isOnTheLeft ? left + extent.left * scale : m_body.width - left - extent.right * scale;
-        return free >= columnWidth + columnGap;
-    };
+        sides.push_back({left + extent.left * scale, m_body.width - left - extent.right * scale});
+    }
+    return sides;
+}
+
+/// From the top down, on both sides wherever the drawing is narrow enough.
+SheetCard::Columns SheetCard::columnsInCorners(const Sides& sides, double columnWidth) const {
+    constexpr int leastHeight = 15;
     Columns columns;
-    for (const bool isOnTheLeft : {true, false}) {
-        const double x = m_body.x + (isOnTheLeft ? 0 : m_body.width - columnWidth);
+    for (const std::size_t side : {0, 1}) {
+        const double x = m_body.x + (side == 0 ? 0 : m_body.width - columnWidth);
         int start = 0;
-        for (int y = 0; y <= m_body.height; ++y) {
-            if (y + 1 <= m_body.height && isFree(y, isOnTheLeft)) {
+        for (int y = 0; y <= std::ssize(sides); ++y) {
+            if (y < std::ssize(sides) &&
+                sides[static_cast<std::size_t>(y)][side] >= columnWidth + columnGap) {
                 continue;
             }
             if (y - start >= leastHeight) {
@@ -220,9 +227,7 @@ std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const 
         blocks = textOfDrawing(width, size);
     }
     appendPart(blocks, listBlocks(m_text, width, size, m_isPlain ? "" : "ALSO ABOARD"));
-    if (!m_isPlain) {
-        appendPart(blocks, legendBlocks(m_sheet.facts.legend, width, factor));
-    }
+    appendPart(blocks, m_legend.blocks(width, factor));
     return blocks;
 }
 
@@ -237,19 +242,20 @@ std::vector<SheetCard::Reading> SheetCard::readings(double factor) const {
 }
 
 /// Where all of the text has a place beside a drawing of this size, if it has.
-std::optional<SheetCard::Layout> SheetCard::layoutAt(double scale,
+std::optional<SheetCard::Places> SheetCard::placesAt(double scale,
                                                      const std::vector<Reading>& readings,
                                                      const Silhouette& silhouette) const {
-    for (const Reading& reading : readings) {
-        Columns columns = columnsAround(scale, reading.width);
-        if (reading.flow.fitsInto(columns.inOrder())) {
-            return Layout{scale, std::move(columns), reading.flow};
+    for (std::size_t i = 0; i < readings.size(); ++i) {
+        Columns columns = columnsAround(scale, readings[i].width);
+        if (readings[i].flow.fitsInto(columns.inOrder())) {
+            return Places{scale, std::move(columns), i};
         }
     }
-    for (const Reading& reading : readings) {
-        Columns columns = columnsInCorners(silhouette, scale, reading.width);
-        if (reading.flow.fitsInto(columns.inOrder())) {
-            return Layout{scale, std::move(columns), reading.flow};
+    const Sides sides = roomBeside(silhouette, scale);
+    for (std::size_t i = 0; i < readings.size(); ++i) {
+        Columns columns = columnsInCorners(sides, readings[i].width);
+        if (readings[i].flow.fitsInto(columns.inOrder())) {
+            return Places{scale, std::move(columns), i};
         }
     }
     return std::nullopt;
@@ -257,16 +263,15 @@ std::optional<SheetCard::Layout> SheetCard::layoutAt(double scale,
 
 /// All of the text in the largest font, up to the usual one, in which it has a place beside the
 /// least drawing, if there is one.
-std::optional<std::vector<SheetCard::Reading>>
-SheetCard::fittingReadings(const Silhouette& silhouette) const {
+std::optional<SheetCard::Fitting> SheetCard::fittingReadings(const Silhouette& silhouette) const {
     constexpr double smallestOfPage = 0.8;
     for (const double factor : {1.0, 0.92, smallestOfPage, 0.75}) {
         if (factor < smallestOfPage && m_room == Room::Page) {
             break;
         }
         std::vector<Reading> text = readings(factor);
-        if (layoutAt(m_leastScale, text, silhouette)) {
-            return text;
+        if (std::optional<Places> places = placesAt(m_leastScale, text, silhouette)) {
+            return Fitting{std::move(text), *std::move(places)};
         }
     }
     return std::nullopt;
@@ -275,22 +280,29 @@ SheetCard::fittingReadings(const Silhouette& silhouette) const {
 /// The largest drawing that leaves the text a place, in a smaller font if that saves a page. What
 /// is left over lets the font be larger.
 SheetCard::Layout SheetCard::bestLayout() const {
-    const Silhouette silhouette(m_sheet.record, m_ink);
+    const Silhouette silhouette(m_sheet.record, m_ink, m_outlines);
     constexpr double comfortable = 1.2;  // where there is room
-    if (const auto text = fittingReadings(silhouette)) {
-        std::optional<Layout> best = layoutAt(m_leastScale, *text, silhouette);
+    const auto layout = [](Places&& places, std::vector<Reading>& readings) {
+        return Layout{places.scale, std::move(places.columns),
+                      std::move(readings[places.reading].flow)};
+    };
+    if (std::optional<Fitting> fitting = fittingReadings(silhouette)) {
+        auto& [text, best] = *fitting;
         double tooLarge = largestScale();
         double tried = tooLarge;
-        while (tooLarge - best->scale > scaleOfSymbol(0.1)) {
-            if (std::optional<Layout> larger = layoutAt(tried, *text, silhouette)) {
-                best = std::move(larger);
+        while (tooLarge - best.scale > scaleOfSymbol(0.1)) {
+            if (std::optional<Places> larger = placesAt(tried, text, silhouette)) {
+                best = *std::move(larger);
             } else {
                 tooLarge = tried;
             }
-            tried = (best->scale + tooLarge) / 2;
+            tried = (best.scale + tooLarge) / 2;
         }
-        std::optional<Layout> larger = layoutAt(best->scale, readings(comfortable), silhouette);
-        return larger ? *std::move(larger) : *std::move(best);
+        std::vector<Reading> larger = readings(comfortable);
+        if (std::optional<Places> places = placesAt(best.scale, larger, silhouette)) {
+            return layout(*std::move(places), larger);
+        }
+        return layout(std::move(best), text);
     }
     const double width = readingColumns(m_body).front().width;
     Columns columns = columnsAround(m_leastScale, width);

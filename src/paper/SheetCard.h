@@ -1,15 +1,16 @@
 #pragma once
 
 #include "PageFlow.h"
+#include "Silhouette.h"
 #include "sheetBlocks.h"
 #include "sheetDocument.h"
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <vector>
 
 namespace fleetwright {
-
-class Silhouette;
 
 /// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
 /// and below it, or in the corners that it leaves. The drawing gets as large as it can with all of
@@ -24,8 +25,8 @@ public:
     /// takes to have all of the text there, within what can be read and played with.
     enum class Room { Page, Part };
 
-    /// The sheet outlives the card.
-    SheetCard(const VectorSheet& sheet, const Box& box, Room room, bool isPlain);
+    /// The sheet outlives the card, and so does what is known of outlines.
+    SheetCard(const VectorSheet& sheet, const Box& box, Room room, const SheetOptions& options);
 
     /// Whether the drawing has that size here, and all of its text a place.
     bool isGoodHere() const;
@@ -42,12 +43,23 @@ private:
         std::vector<Box> inOrder() const;
     };
 
+    using Sides = std::vector<std::array<double, 2>>;
+
     /// All there is to read, for columns of one width.
     struct Reading {
         double width;
         PageFlow flow;
     };
-    /// A drawing of this size, and columns for the text.
+    /// A drawing of this size, and columns for one of several readings.
+    struct Places {
+        double scale;
+        Columns columns;
+        std::size_t reading;
+    };
+    struct Fitting {
+        std::vector<Reading> readings;
+        Places places;
+    };
     struct Layout {
         double scale;
         Columns columns;
@@ -57,20 +69,23 @@ private:
     double largestScale() const;
     double leastScale() const;
     Columns columnsAround(double scale, double columnWidth) const;
-    Columns columnsInCorners(const Silhouette& silhouette, double scale, double columnWidth) const;
+    Sides roomBeside(const Silhouette& silhouette, double scale) const;
+    Columns columnsInCorners(const Sides& sides, double columnWidth) const;
     std::vector<PageBlock> textOfDrawing(double width, double size) const;
     std::vector<PageBlock> textToRead(double width, double factor) const;
     std::vector<Reading> readings(double factor) const;
-    std::optional<Layout> layoutAt(double scale, const std::vector<Reading>& readings,
+    std::optional<Places> placesAt(double scale, const std::vector<Reading>& readings,
                                    const Silhouette& silhouette) const;
-    std::optional<std::vector<Reading>> fittingReadings(const Silhouette& silhouette) const;
+    std::optional<Fitting> fittingReadings(const Silhouette& silhouette) const;
     Layout bestLayout() const;
 
     const VectorSheet& m_sheet;
     Box m_box;  ///< all of it
     Room m_room;
     bool m_isPlain;
+    Silhouette::Outlines* m_outlines;
     SheetText m_text;
+    LegendText m_legend;
     std::vector<PageBlock> m_linesInHead;
     PageBlock m_head;
     Box m_body;           ///< what the head leaves

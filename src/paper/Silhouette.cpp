@@ -96,26 +96,42 @@ void unite(Silhouette::Extent& extent, double left, double right) {
     extent.right = std::max(extent.right, right);
 }
 
+bool areSame(const Box& a, const Box& b) {
+    return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
+}
+
 }  // namespace
 
-Silhouette::Silhouette(const SheetRecord& record, const Box& shown)
+Silhouette::Silhouette(const SheetRecord& record, const Box& shown, Outlines* kept)
     : m_shown(shown), m_rows(static_cast<std::size_t>(std::ceil(shown.height)), nothing) {
-    addPicture(record.outline);
+    addOutline(record.outline, kept);
     for (const SheetRecord::Paste& paste : record.pastes) {
         Box ink = inkOf(paste.picture);
         ink.x += paste.x;
         ink.y += paste.y;
         addBox(ink);
     }
-    uniteRows();
 }
 
-/// The outline; of other pictures their boxes will do.
-void Silhouette::addPicture(const SheetRecord::Paste& paste) {
-    if (paste.picture.drawing) {
-        addDrawing(*paste.picture.drawing, paste.x - m_shown.x, paste.y - m_shown.y);
+/// Kept are those of outlines that nothing leaves, as on most sheets: one for each of them.
+void Silhouette::addOutline(const SheetRecord::Paste& outline, Outlines* kept) {
+    const std::shared_ptr<const Drawing>& drawing = outline.picture.drawing;
+    if (!drawing) {
+        addPixels(outline);
         return;
     }
+    const bool isKept = kept != nullptr && areSame(m_shown, drawing->ink);
+    if (const auto known = isKept ? kept->of(drawing) : nullptr) {
+        m_rows = *known;
+        return;
+    }
+    addDrawing(*drawing, outline.x - m_shown.x, outline.y - m_shown.y);
+    if (isKept) {
+        kept->keep(drawing, m_rows);
+    }
+}
+
+void Silhouette::addPixels(const SheetRecord::Paste& paste) {
     const Raster& raster = *paste.picture.raster;
     for (int y = 0; y < raster.height(); ++y) {
         Box ink = inkOfRow(raster, y);
@@ -164,17 +180,19 @@ void Silhouette::addBox(const Box& box) {
     }
 }
 
-/// So that the extent of any number of rows is that of two unions of them.
-void Silhouette::uniteRows() {
-    m_unions.push_back(m_rows);
-    for (std::size_t half = 1; 2 * half <= m_rows.size(); half *= 2) {
-        std::vector<Extent> unions = m_unions.back();
-        for (std::size_t row = 0; row + half < unions.size(); ++row) {
-            const Extent& other = m_unions.back()[row + half];
-            unite(unions[row], other.left, other.right);
+/// What so many rows, 2 to the power of the level, have together from each one on, so that the
+/// extent of any number of rows is that of two unions of them.
+const std::vector<Silhouette::Extent>& Silhouette::unions(std::size_t level) const {
+    while (m_unions.size() < level) {
+        const std::vector<Extent>& halves = m_unions.empty() ? m_rows : m_unions.back();
+        const std::size_t half = std::size_t{1} << m_unions.size();
+        std::vector<Extent> united = halves;
+        for (std::size_t row = 0; row + half < united.size(); ++row) {
+            unite(united[row], halves[row + half].left, halves[row + half].right);
         }
-        m_unions.push_back(std::move(unions));
+        m_unions.push_back(std::move(united));
     }
+    return level == 0 ? m_rows : m_unions[level - 1];
 }
 
 Silhouette::Extent Silhouette::between(double top, double bottom) const {
@@ -184,9 +202,9 @@ Silhouette::Extent Silhouette::between(double top, double bottom) const {
         return nothing;
     }
     const auto count = static_cast<std::size_t>(last - first) + 1;
-    const std::vector<Extent>& unions = m_unions[std::bit_width(count) - 1];
-    Extent extent = unions[static_cast<std::size_t>(first)];
-    const Extent& other = unions[static_cast<std::size_t>(last) + 1 - std::bit_floor(count)];
+    const std::vector<Extent>& united = unions(static_cast<std::size_t>(std::bit_width(count)) - 1);
+    Extent extent = united[static_cast<std::size_t>(first)];
+    const Extent& other = united[static_cast<std::size_t>(last) + 1 - std::bit_floor(count)];
     unite(extent, other.left, other.right);
     return extent;
 }

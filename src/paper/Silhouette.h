@@ -2,6 +2,9 @@
 
 #include "SheetRecord.h"
 
+#include <map>
+#include <memory>
+#include <mutex>
 #include <vector>
 
 namespace fleetwright {
@@ -15,22 +18,47 @@ public:
         double right;
     };
 
+    /// Silhouettes of outlines alone, kept for the next sheets on them. Any number of threads may
+    /// use it.
+    class Outlines;
+
     /// Of what a drawing has inside this box of the outline, from which pixels count.
-    Silhouette(const SheetRecord& record, const Box& shown);
+    Silhouette(const SheetRecord& record, const Box& shown, Outlines* kept = nullptr);
 
     /// Of all rows that have a part between two heights, which may lie outside.
     Extent between(double top, double bottom) const;
 
 private:
-    void addPicture(const SheetRecord::Paste& paste);
+    void addOutline(const SheetRecord::Paste& outline, Outlines* kept);
+    void addPixels(const SheetRecord::Paste& paste);
     void addDrawing(const Drawing& drawing, double x, double y);
     void addBox(const Box& box);
-    void uniteRows();
+    const std::vector<Extent>& unions(std::size_t level) const;
 
     Box m_shown;
     std::vector<Extent> m_rows;
-    /// Of 1, 2, 4... rows from each one on, as far as there are so many.
-    std::vector<std::vector<Extent>> m_unions;
+    /// Of 2, 4, 8... rows from each one on, as far as somebody has asked.
+    mutable std::vector<std::vector<Extent>> m_unions;
+};
+
+class Silhouette::Outlines {
+public:
+    using Rows = std::vector<Extent>;
+
+    /// What is kept of a drawing, if there is something.
+    std::shared_ptr<const Rows> of(const std::shared_ptr<const Drawing>& drawing) const {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_rows.find(drawing);
+        return found == m_rows.end() ? nullptr : found->second;
+    }
+    void keep(const std::shared_ptr<const Drawing>& drawing, const Rows& rows) {
+        const std::lock_guard lock(m_mutex);
+        m_rows.try_emplace(drawing, std::make_shared<const Rows>(rows));
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::map<std::shared_ptr<const Drawing>, std::shared_ptr<const Rows>> m_rows;
 };
 
 }  // namespace fleetwright

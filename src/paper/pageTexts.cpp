@@ -36,14 +36,6 @@ std::string cutText(std::string_view text, const PageText& style, double width) 
     return std::string(text.substr(0, fittingBytes(text, style, room))) + std::string(ellipsis);
 }
 
-/// Cuts the next word off a text, without the blanks behind it.
-std::string_view nextWord(std::string_view& text) {
-    const std::size_t end = std::min(text.find(' '), text.size());
-    const std::string_view word = text.substr(0, end);
-    text.remove_prefix(std::min(text.find_first_not_of(' ', end), text.size()));
-    return word;
-}
-
 }  // namespace
 
 PageText fittedText(std::string_view text, PageText style, double width, double smallest) {
@@ -59,18 +51,34 @@ PageText fittedText(std::string_view text, PageText style, double width, double 
     return style;
 }
 
-std::vector<std::string> wrappedText(std::string_view text, const PageText& style, double width,
-                                     std::size_t most) {
-    const std::string shown = shownText(text, text.size());
-    if (widthIn(style, shown) <= width) {
-        return {shown};
+MeasuredText::MeasuredText(std::string_view text, PageFont font)
+    : m_text(shownText(text, text.size())), m_font(font), m_blank(textWidth(" ", 1, font)),
+      m_width(m_blank * static_cast<double>(std::ranges::count(m_text, ' '))) {
+    const std::string_view all = m_text;
+    for (std::size_t start = all.find_first_not_of(' '); start < all.size();) {
+        const std::size_t end = std::min(all.find(' ', start), all.size());
+        const double width = textWidth(all.substr(start, end - start), 1, font);
+        m_words.push_back({start, end - start, width});
+        m_width += width;
+        start = all.find_first_not_of(' ', end);
     }
+}
+
+std::vector<std::string> MeasuredText::lines(double size, double width, std::size_t most) const {
     std::vector<std::string> lines(1);
+    if (m_width * size <= width) {
+        lines.front() = m_text;
+        return lines;
+    }
+    const PageText style = {.text = {}, .size = size, .font = m_font};
     double used = 0;
-    const double blank = widthIn(style, " ");
-    for (std::string_view rest = shown; !rest.empty() && lines.size() <= most;) {
-        std::string_view word = nextWord(rest);
-        double wordWidth = widthIn(style, word);
+    const double blank = m_blank * size;
+    for (const Word& measured : m_words) {
+        if (lines.size() > most) {
+            break;
+        }
+        std::string_view word = std::string_view(m_text).substr(measured.start, measured.length);
+        double wordWidth = measured.width * size;
         if (!lines.back().empty() && used + blank + wordWidth <= width) {
             lines.back() += ' ';
             used += blank;

@@ -18,9 +18,30 @@ inline constexpr double letterHeight = 0.97;
 /// without its end, for which "…" stands, if that is not enough.
 PageText fittedText(std::string_view text, PageText style, double width, double smallest);
 
-/// A text as lines no wider than this, parted at blanks, or inside of words that are too long: one
-/// line at the least. If they are more than `most`, the last one ends in "…".
-std::vector<std::string> wrappedText(std::string_view text, const PageText& style, double width,
-                                     std::size_t most = static_cast<std::size_t>(-1));
+/// A text that is measured once, and set in lines of any width and size.
+class MeasuredText {
+public:
+    static constexpr std::size_t any = static_cast<std::size_t>(-1);
+
+    explicit MeasuredText(std::string_view text, PageFont font = PageFont::Regular);
+
+    bool isEmpty() const { return m_text.empty(); }
+    /// Lines no wider than this in a font of this size, parted at blanks, or inside of words that
+    /// are too long: one line at the least. If they are more than `most`, the last one ends in "…".
+    std::vector<std::string> lines(double size, double width, std::size_t most = any) const;
+
+private:
+    struct Word {
+        std::size_t start;
+        std::size_t length;  ///< bytes
+        double width;        ///< in sizes of the font
+    };
+
+    std::string m_text;
+    PageFont m_font;
+    double m_blank;  ///< the width of one, in sizes of the font
+    double m_width;  ///< of all of it, in sizes of the font
+    std::vector<Word> m_words;
+};
 
 }  // namespace fleetwright

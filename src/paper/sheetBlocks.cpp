@@ -1,7 +1,5 @@
 #include "sheetBlocks.h"
 
-#include "pageTexts.h"
-
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -18,13 +16,13 @@ class BlockWriter {
 public:
     explicit BlockWriter(double left = 0) : m_left(left) {}
 
-    void write(const std::vector<std::string>& lines, PageText style) {
-        for (const std::string& line : lines) {
-            style.text = line;
-            style.x = m_left;
+    void write(std::vector<std::string> lines, PageText style) {
+        style.text.clear();
+        style.x = m_left;
+        for (std::string& line : lines) {
             style.y = block.height + style.size * letterHeight;
-            block.items.emplace_back(style);
             block.height += style.size * lineHeight;
+            std::get<PageText>(block.items.emplace_back(style)).text = std::move(line);
         }
     }
 
@@ -68,36 +66,6 @@ std::string priceOf(const LegendRow& row, std::int32_t bought) {
     return price;
 }
 
-PageBlock legendBlock(const LegendRow& row, double width, double factor) {
-    constexpr double pictureSide = 8.5;
-    constexpr std::size_t mostNameLines = 3, mostRulesLines = 8;
-    const double side = pictureSide * factor;
-    const double left = side + 2;
-    BlockWriter writer(left);
-    const auto write = [&](const std::string& text, PageText style, std::size_t most) {
-        style.size *= factor;
-        writer.write(wrappedText(text, style, width - left, most), style);
-    };
-    write(row.name + (row.count == 1 ? "" : together(pieces(row.count))),
-          {.text = {}, .size = 3.1, .font = PageFont::Bold}, mostNameLines);
-    const std::string more = particulars(row);
-    if (!more.empty()) {
-        write(more, {.text = {}, .size = 2.6, .colour = quietColour}, mostNameLines);
-    }
-    if (!row.rules.empty()) {
-        write(row.rules, {.text = {}, .size = 2.6}, mostRulesLines);
-    }
-    PageBlock block = std::move(writer.block);
-    if (row.picture.drawing || row.picture.raster) {
-        const Box place = {0, 0.3, side, side};
-        block.items.emplace_back(
-            PagePicture{row.picture.drawing, row.picture.raster, place, place});
-    }
-    constexpr double roomBelow = 2.6;
-    block.height = std::max(block.height, side + 0.3) + roomBelow * factor;
-    return block;
-}
-
 }  // namespace
 
 std::string particulars(const LegendRow& row) {
@@ -135,9 +103,9 @@ std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double 
     const PageText style = {.text = {}, .size = size};
     std::vector<PageBlock> blocks;
     for (const std::string& text : lines) {
-        for (const std::string& line : wrappedText(text, style, width)) {
+        for (std::string& line : MeasuredText(text, style.font).lines(size, width)) {
             BlockWriter writer;
-            writer.write({line}, style);
+            writer.write({std::move(line)}, style);
             blocks.push_back(std::move(writer.block));
         }
     }
@@ -173,12 +141,51 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width, double si
     return blocks;
 }
 
-std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
-                                    double factor) {
-    std::vector<PageBlock> blocks;
-    blocks.reserve(legend.size());
+LegendText::LegendText(const std::vector<LegendRow>& legend) {
+    m_rows.reserve(legend.size());
     for (const LegendRow& row : legend) {
-        blocks.push_back(legendBlock(row, width, factor));
+        m_rows.push_back(
+            {row.picture,
+             MeasuredText(row.name + (row.count == 1 ? "" : together(pieces(row.count))),
+                          PageFont::Bold),
+             MeasuredText(particulars(row)), MeasuredText(row.rules)});
+    }
+}
+
+PageBlock LegendText::block(const Row& row, double width, double factor) {
+    constexpr double pictureSide = 8.5, nameSize = 3.1, wordSize = 2.6;
+    constexpr std::size_t mostNameLines = 3, mostRulesLines = 8;
+    const double side = pictureSide * factor;
+    const double left = side + 2;
+    BlockWriter writer(left);
+    const auto write = [&](const MeasuredText& text, PageText style, std::size_t most) {
+        style.size *= factor;
+        writer.write(text.lines(style.size, width - left, most), style);
+    };
+    write(row.name, {.text = {}, .size = nameSize, .font = PageFont::Bold}, mostNameLines);
+    if (!row.particulars.isEmpty()) {
+        write(row.particulars, {.text = {}, .size = wordSize, .colour = quietColour},
+              mostNameLines);
+    }
+    if (!row.rules.isEmpty()) {
+        write(row.rules, {.text = {}, .size = wordSize}, mostRulesLines);
+    }
+    PageBlock block = std::move(writer.block);
+    if (row.picture.drawing || row.picture.raster) {
+        const Box place = {0, 0.3, side, side};
+        block.items.emplace_back(
+            PagePicture{row.picture.drawing, row.picture.raster, place, place});
+    }
+    constexpr double roomBelow = 2.6;
+    block.height = std::max(block.height, side + 0.3) + roomBelow * factor;
+    return block;
+}
+
+std::vector<PageBlock> LegendText::blocks(double width, double factor) const {
+    std::vector<PageBlock> blocks;
+    blocks.reserve(m_rows.size());
+    for (const Row& row : m_rows) {
+        blocks.push_back(block(row, width, factor));
     }
     return blocks;
 }

@@ -3,6 +3,7 @@
 // What a sheet says, as blocks for columns of one width. All measures are in millimetres.
 
 #include "PageFlow.h"
+#include "pageTexts.h"
 #include "sheetDocument.h"
 
 #include <string>
@@ -31,9 +32,26 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width, double si
 /// "fore, port; mass 3, 10 points each", or "2 with the hull; 1 more: mass 1, 4 points", in which
 /// blanks that part no line are no-break spaces.
 std::string particulars(const LegendRow& row);
-/// The legend, its letters larger or smaller than usual by this factor.
-std::vector<PageBlock> legendBlocks(const std::vector<LegendRow>& legend, double width,
-                                    double factor);
+/// The legend, for columns of any width.
+class LegendText {
+public:
+    explicit LegendText(const std::vector<LegendRow>& legend);
+
+    /// The letters are larger or smaller than usual by this factor.
+    std::vector<PageBlock> blocks(double width, double factor) const;
+
+private:
+    struct Row {
+        SheetRecord::Picture picture;
+        MeasuredText name;
+        MeasuredText particulars;
+        MeasuredText rules;
+    };
+
+    static PageBlock block(const Row& row, double width, double factor);
+
+    std::vector<Row> m_rows;
+};
 /// A ship's name above what goes on on another page.
 PageBlock continuedBlock(const std::string& shipName, double width);
 

@@ -71,8 +71,7 @@ SheetPages::Fitting SheetPages::fitting(const Sheets& sheets, Cut cut) const {
     const Box cell = cells(cut).front();
     Fitting fitting = {cut, {}};
     for (std::size_t i = 0; i < sheets.size(); ++i) {
-        if (cut.count() == 1 ||
-            SheetCard(sheets[i], cell, cut.room(), m_options.isPlain).isGoodHere()) {
+        if (cut.count() == 1 || SheetCard(sheets[i], cell, cut.room(), m_options).isGoodHere()) {
             fitting.sheets.push_back(i);
         }
     }
@@ -112,7 +111,7 @@ void SheetPages::addPage(const Sheets& sheets, const Fitting& onIt) {
     Page page;
     for (std::size_t i = 0; i < onIt.sheets.size(); ++i) {
         const VectorSheet& sheet = sheets[onIt.sheets[i]];
-        const SheetCard card(sheet, boxes[i], onIt.cut.room(), m_options.isPlain);
+        const SheetCard card(sheet, boxes[i], onIt.cut.room(), m_options);
         std::vector<PageBlock> rest = card.putOn(page);
         if (!rest.empty()) {
             left.push_back(continuedBlock(sheet.facts.shipName, width));

@@ -6,6 +6,7 @@
 #include "PageDocument.h"
 #include "SheetImages.h"
 #include "SheetRecord.h"
+#include "Silhouette.h"
 #include "drawSSD.h"
 
 #include <cstdint>
@@ -75,6 +76,8 @@ struct SheetOptions {
     /// has room for them, so that large ones between them do not part them.
     int perPage = 1;
     bool isPlain = false;  ///< the drawing and its text alone
+    /// What is known of outlines, for whoever makes many documents; null if nothing is kept.
+    Silhouette::Outlines* outlines = nullptr;
 };
 
 /// The sheets as pages, which are 100 mm wide and high at the least: whoever has smaller paper

@@ -7,12 +7,34 @@
 
 namespace fleetwright {
 
+namespace {
+
+Raster::Key keyOf(const void* bytes, std::size_t count, std::uint64_t seed) {
+    const XXH128_hash_t hash = XXH3_128bits_withSeed(bytes, count, seed);
+    return {hash.high64, hash.low64};
+}
+
+}  // namespace
+
 /// Shares these pixels.
 Raster::Raster(int width, int height, std::vector<std::uint32_t>&& pixels)
     : m_width(width), m_height(height) {
     const auto shared = std::make_shared<Shared>();
     shared->pixels = std::move(pixels);
     m_shared = shared;
+}
+
+Raster::Raster(int width, int height, const Key& key, std::function<Raster()> decode)
+    : m_width(width), m_height(height) {
+    const auto shared = std::make_shared<Shared>();
+    shared->decode = std::move(decode);
+    std::call_once(shared->isKeyKnown, [&] { shared->key = key; });
+    m_shared = shared;
+}
+
+void Raster::decodeInto(const Shared& shared) {
+    Raster decoded = shared.decode();
+    shared.pixels = std::move(decoded.ownPixels());
 }
 
 Raster Raster::shared() const& {
@@ -33,10 +55,12 @@ Raster::Key Raster::key() const {
 }
 
 Raster::Key Raster::workOutKey() const {
-    const XXH128_hash_t hash =
-        XXH3_128bits_withSeed(pixels().data(), pixels().size() * sizeof(std::uint32_t),
-                              static_cast<XXH64_hash_t>(m_width));
-    return {hash.high64, hash.low64};
+    return keyOf(pixels().data(), pixels().size() * sizeof(std::uint32_t),
+                 static_cast<std::uint64_t>(m_width));
+}
+
+Raster::Key Raster::fileKey(std::string_view bytes) {
+    return keyOf(bytes.data(), bytes.size(), 0);
 }
 
 }  // namespace fleetwright

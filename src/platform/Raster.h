@@ -3,9 +3,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -19,11 +21,19 @@ public:
         : m_width(width), m_height(height),
           m_pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), white) {}
 
+    /// Tells pictures apart: 128 bits of a hash of width and pixels.
+    using Key = std::array<std::uint64_t, 2>;
+
+    /// A picture of which this much is known before it is decoded, for whoever may never look at
+    /// its pixels. `decode` is called when somebody first does, by any of the threads that have
+    /// copies; it gives a picture of this size and key.
+    Raster(int width, int height, const Key& key, std::function<Raster()> decode);
+
     static constexpr std::uint32_t white = 0xFFFFFF;
 
     int width() const { return m_width; }
     int height() const { return m_height; }
-    bool isEmpty() const { return pixels().empty(); }
+    bool isEmpty() const { return m_width == 0 || m_height == 0; }
 
     /// A pixel inside the picture.
     std::uint32_t& pixel(int x, int y) { return ownPixels()[index(x, y)]; }
@@ -50,30 +60,39 @@ public:
     Raster shared() const&;
     Raster shared() &&;  ///< without a copy of the pixels, and with an end to what refers to them
 
-    /// Tells pictures apart: 128 bits of a hash of width and pixels.
-    using Key = std::array<std::uint64_t, 2>;
     Key key() const;
+    /// The same of a picture file, of its bytes.
+    static Key fileKey(std::string_view bytes);
 
 private:
     /// Pixels that nobody can change any more, so that what is known of them stays true.
     struct Shared {
-        std::vector<std::uint32_t> pixels;
+        mutable std::vector<std::uint32_t> pixels;
+        std::function<Raster()> decode = {};  ///< makes the pixels, if they come later
+        mutable std::once_flag isDecoded = {};
         mutable std::once_flag isKeyKnown = {};
         mutable Key key = {};
     };
 
     const std::vector<std::uint32_t>& pixels() const {
         const Shared* const shared = m_shared.get();
-        return shared != nullptr ? shared->pixels : m_pixels;
+        if (shared == nullptr) {
+            return m_pixels;
+        }
+        if (shared->decode) {
+            std::call_once(shared->isDecoded, [shared] { decodeInto(*shared); });
+        }
+        return shared->pixels;
     }
     std::vector<std::uint32_t>& ownPixels() {
         if (m_shared != nullptr) {
-            m_pixels = m_shared->pixels;
+            m_pixels = pixels();
             m_shared.reset();
         }
         return m_pixels;
     }
     Raster(int width, int height, std::vector<std::uint32_t>&& pixels);
+    static void decodeInto(const Shared& shared);
     Key workOutKey() const;
     std::size_t index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +

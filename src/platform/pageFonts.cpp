@@ -44,23 +44,27 @@ void walkSigns(std::string_view text, PageFont font, Take take) {
     }
 }
 
-constexpr std::size_t asciiCount = 128;
+constexpr std::size_t asciiCount = 128, latinCount = 256;
 
-/// How far the characters of ASCII move the pen in a font, in 2048ths of its size; 0 for those that
-/// are not drawn.
-const std::array<double, asciiCount>& asciiAdvances(PageFont font) {
+/// How far the first characters of Unicode move the pen in a font, in 2048ths of its size; 0 for
+/// those that are not drawn.
+const std::array<double, latinCount>& latinAdvances(PageFont font) {
     const auto all = [](PageFont ofFont) {
-        std::array<double, asciiCount> advances{};
-        for (std::size_t code = 0; code < asciiCount; ++code) {
-            const char character = static_cast<char>(code);
-            walkSigns({&character, 1}, ofFont, [&](const PageSign& sign, std::string_view) {
+        std::array<double, latinCount> advances{};
+        for (std::size_t code = 0; code < latinCount; ++code) {
+            const char both[] = {static_cast<char>(0xC0U | code >> 6U),
+                                 static_cast<char>(0x80U | (code & 0x3FU))};
+            const char one = static_cast<char>(code);
+            const auto take = [&](const PageSign& sign, std::string_view) {
                 advances[code] = sign.width * unitsPerSize;
-            });
+            };
+            walkSigns(code < asciiCount ? std::string_view(&one, 1) : std::string_view(both, 2),
+                      ofFont, take);
         }
         return advances;
     };
-    static const std::array<double, asciiCount> regular = all(PageFont::Regular);
-    static const std::array<double, asciiCount> bold = all(PageFont::Bold);
+    static const std::array<double, latinCount> regular = all(PageFont::Regular);
+    static const std::array<double, latinCount> bold = all(PageFont::Bold);
     return font == PageFont::Bold ? bold : regular;
 }
 
@@ -119,7 +123,7 @@ double startOf(const PageText& text) {
 }
 
 double textWidth(std::string_view text, double size, PageFont font) {
-    const std::array<double, asciiCount>& advances = asciiAdvances(font);
+    const std::array<double, latinCount>& advances = latinAdvances(font);
     double width = 0;
     for (std::string_view rest = text; !rest.empty();) {
         if (const auto code = static_cast<unsigned char>(rest.front()); code < asciiCount) {
@@ -128,6 +132,11 @@ double textWidth(std::string_view text, double size, PageFont font) {
             continue;
         }
         const std::string_view character = rest.substr(0, characterLength(rest));
+        if (const char32_t code = codePoint(character); code < latinCount) {
+            width += advances[code];
+            rest.remove_prefix(character.size());
+            continue;
+        }
         walkSigns(character, font, [&width](const PageSign& sign, std::string_view) {
             width += sign.width * unitsPerSize;
         });

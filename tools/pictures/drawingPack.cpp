@@ -38,29 +38,34 @@ std::string drawingLines(const Drawing& drawing) {
     return lines;
 }
 
-std::string indexLine(const Raster::Key& key, const Drawing& drawing, std::size_t length) {
-    std::ostringstream line;
-    line << std::hex << std::setfill('0') << std::setw(16) << key[0] << std::setw(16) << key[1]
-         << std::dec << ' ' << drawing.width << ' ' << drawing.height << ' ' << length << '\n';
-    return line.str();
+std::string keyText(const Raster::Key& key) {
+    std::ostringstream text;
+    text << std::hex << std::setfill('0') << std::setw(16) << key[0] << std::setw(16) << key[1];
+    return text.str();
+}
+
+std::string indexLine(const Raster::Key& key, const PictureFile& file, std::size_t length) {
+    return keyText(key) + ' ' + std::to_string(file.drawing->width) + ' ' +
+           std::to_string(file.drawing->height) + ' ' + std::to_string(length) + ' ' +
+           keyText(Raster::fileKey(file.bytes)) + '\n';
 }
 
 }  // namespace
 
 std::string drawingPack(const std::vector<std::reference_wrapper<const PictureSet>>& sets) {
-    std::map<Raster::Key, const Drawing*> drawings;
+    std::map<Raster::Key, const PictureFile*> files;
     for (const PictureSet& set : sets) {
         for (const auto& [name, file] : set) {
             if (file.drawing) {
-                drawings.try_emplace(QtPictureFiles().read(file.bytes).key(), &*file.drawing);
+                files.try_emplace(QtPictureFiles().read(file.bytes).key(), &file);
             }
         }
     }
-    std::string index = "FleetWright drawings 1\n" + std::to_string(drawings.size()) + '\n';
+    std::string index = "FleetWright drawings 2\n" + std::to_string(files.size()) + '\n';
     std::string rest;
-    for (const auto& [key, drawing] : drawings) {
-        const std::string lines = drawingLines(*drawing);
-        index += indexLine(key, *drawing, lines.size());
+    for (const auto& [key, file] : files) {
+        const std::string lines = drawingLines(*file->drawing);
+        index += indexLine(key, *file, lines.size());
         rest += lines;
     }
     return index + rest;

@@ -16,7 +16,7 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::string_view firstLine = "FleetWright drawings 1";
+constexpr std::string_view firstLine = "FleetWright drawings 2";
 
 constexpr int largest = 1'000'000;  ///< of all numbers, and more than any picture has pixels
 
@@ -82,7 +82,31 @@ Drawing drawingIn(PackReader reader) {
     return drawing;
 }
 
+Raster::Key readKey(PackReader& reader) {
+    constexpr std::size_t digits = 16;
+    const std::string_view key = reader.word();
+    return {reader.hexadecimal(key.substr(0, digits), digits),
+            reader.hexadecimal(key.substr(std::min(digits, key.size())), digits)};
+}
+
 }  // namespace
+
+void DrawingPack::readEntry(PackReader& reader) const {
+    Entry entry;
+    entry.picture.key = readKey(reader);
+    entry.picture.width = static_cast<int>(reader.wholeNumber(largest));
+    entry.picture.height = static_cast<int>(reader.wholeNumber(largest));
+    entry.length = reader.wholeNumber(m_text.size());
+    if (!m_entries.empty()) {
+        const Entry& before = m_entries.back();
+        entry.place = before.place + before.length;
+        if (entry.picture.key <= before.picture.key) {
+            reader.fail("the keys are not in their order");
+        }
+    }
+    m_files.emplace_back(readKey(reader), m_entries.size());
+    m_entries.push_back(std::move(entry));
+}
 
 void DrawingPack::readIndex() const {
     std::error_code unknown;
@@ -91,6 +115,7 @@ void DrawingPack::readIndex() const {
         return;
     }
     m_entries.clear();
+    m_files.clear();
     m_text = readBytes(m_file);
     PackReader reader(m_text);
     reader.nextLine();
@@ -99,32 +124,21 @@ void DrawingPack::readIndex() const {
     }
     reader.nextLine();
     const std::size_t count = reader.wholeNumber(m_text.size());
-    std::size_t place = 0;  // behind the index, as yet
     while (m_entries.size() < count) {
         reader.nextLine();
-        const std::string_view key = reader.word();
-        constexpr std::size_t digits = 16;
-        Entry entry;
-        entry.key = {reader.hexadecimal(key.substr(0, digits), digits),
-                     reader.hexadecimal(key.substr(std::min(digits, key.size())), digits)};
-        entry.width = static_cast<int>(reader.wholeNumber(largest));
-        entry.height = static_cast<int>(reader.wholeNumber(largest));
-        entry.place = place;
-        entry.length = reader.wholeNumber(m_text.size());
-        place += entry.length;
-        if (!m_entries.empty() && entry.key <= m_entries.back().key) {
-            reader.fail("the keys are not in their order");
-        }
-        m_entries.push_back(std::move(entry));
+        readEntry(reader);
     }
     reader.endLine();
-    if (place != reader.rest().size()) {
-        throw PackError(0,
-                        place > reader.rest().size() ? "is cut short" : "goes on behind its end");
+    // As yet, places are behind the index.
+    const std::size_t end =
+        m_entries.empty() ? 0 : m_entries.back().place + m_entries.back().length;
+    if (end != reader.rest().size()) {
+        throw PackError(0, end > reader.rest().size() ? "is cut short" : "goes on behind its end");
     }
     for (Entry& entry : m_entries) {
         entry.place += m_text.size() - reader.rest().size();
     }
+    std::ranges::sort(m_files);
     m_isRead = true;
 }
 
@@ -140,9 +154,14 @@ void DrawingPack::readDrawing(Entry& entry) const {
         const auto linesBefore = std::ranges::count(text.substr(0, entry.place), '\n');
         throw PackError(static_cast<int>(linesBefore) + error.line(), error.what());
     }
-    drawing->width = entry.width;
-    drawing->height = entry.height;
+    drawing->width = entry.picture.width;
+    drawing->height = entry.picture.height;
     entry.drawing = drawing;
+}
+
+void DrawingPack::fail(const PackError& error) const {
+    const std::string line = error.line() == 0 ? "" : "line " + std::to_string(error.line()) + ": ";
+    throw FileError(m_file, line + error.what());
 }
 
 std::shared_ptr<const Drawing> DrawingPack::of(const Raster& picture) const {
@@ -150,18 +169,32 @@ std::shared_ptr<const Drawing> DrawingPack::of(const Raster& picture) const {
     const std::lock_guard lock(m_mutex);
     try {
         readIndex();
-        const auto found = std::ranges::lower_bound(m_entries, key, {}, &Entry::key);
-        if (found == m_entries.end() || found->key != key || found->width != picture.width() ||
-            found->height != picture.height()) {
+        const auto found = std::ranges::lower_bound(
+            m_entries, key, {}, [](const Entry& entry) { return entry.picture.key; });
+        if (found == m_entries.end() || found->picture.key != key ||
+            found->picture.width != picture.width() || found->picture.height != picture.height()) {
             return nullptr;
         }
         readDrawing(*found);
         return found->drawing;
     } catch (const PackError& error) {
-        const std::string line =
-            error.line() == 0 ? "" : "line " + std::to_string(error.line()) + ": ";
-        throw FileError(m_file, line + error.what());
+        fail(error);
     }
+}
+
+std::optional<DrawingPack::Picture> DrawingPack::pictureIn(std::string_view fileBytes) const {
+    const Raster::Key key = Raster::fileKey(fileBytes);
+    const std::lock_guard lock(m_mutex);
+    try {
+        readIndex();
+    } catch (const PackError& error) {
+        fail(error);
+    }
+    const auto found = std::ranges::lower_bound(m_files, std::pair(key, std::size_t{0}));
+    if (found == m_files.end() || found->first != key) {
+        return std::nullopt;
+    }
+    return m_entries[found->second].picture;
 }
 
 std::optional<Fault> DrawingPack::fault() const {

@@ -10,9 +10,14 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
+
+class PackError;
+class PackReader;
 
 /// Where the drawings of the delivered pictures are.
 inline std::filesystem::path drawingsFile(const std::filesystem::path& appFolder) {
@@ -29,6 +34,15 @@ public:
     /// Throws FileError for a pack that cannot be read or is damaged, as far as it is looked at.
     std::shared_ptr<const Drawing> of(const Raster& picture) const override;
 
+    /// The picture in these bytes, if that is known without decoding them: if the build has made a
+    /// file of exactly them. Throws as `of` does.
+    struct Picture {
+        int width = 0;   ///< pixels
+        int height = 0;  ///< pixels
+        Raster::Key key{};
+    };
+    std::optional<Picture> pictureIn(std::string_view fileBytes) const;
+
     /// The first thing that is wrong with the pack, all of which is read. Throws FileError for one
     /// that cannot be read.
     std::optional<Fault> fault() const;
@@ -36,22 +50,23 @@ public:
 private:
     /// A drawing, and where in the text it stands.
     struct Entry {
-        Raster::Key key{};
-        int width = 0;   ///< pixels
-        int height = 0;  ///< pixels
+        Picture picture;
         std::size_t place = 0;
         std::size_t length = 0;                  ///< bytes
         std::shared_ptr<const Drawing> drawing;  ///< once it has been read
     };
 
     void readIndex() const;
+    void readEntry(PackReader& reader) const;
+    [[noreturn]] void fail(const PackError& error) const;
     void readDrawing(Entry& entry) const;
 
     std::filesystem::path m_file;
     mutable std::mutex m_mutex;  // of what follows
     mutable bool m_isRead = false;
     mutable std::string m_text;
-    mutable std::vector<Entry> m_entries;  // in the order of their keys
+    mutable std::vector<Entry> m_entries;                              // in the order of their keys
+    mutable std::vector<std::pair<Raster::Key, std::size_t>> m_files;  // of entries, in order
 };
 
 }  // namespace fleetwright

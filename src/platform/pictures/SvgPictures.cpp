@@ -28,7 +28,7 @@ void setStroke(SvgTag& tag, const DrawnShape& shape) {
 
 void addShape(std::string& text, const DrawnShape& shape) {
     SvgTag path(text, "path");
-    path.set("d", svgText(shape.path));
+    path.setText("d", shape.path);
     path.setPaint("fill", shape.fill);
     if (shape.fill && shape.isEvenOdd) {
         path.set("fill-rule", "evenodd");

@@ -18,7 +18,7 @@ public:
     SvgWriter(const PageDocument& document, PictureEncoder& encoder)
         : m_document(document), m_pictures(encoder) {}
 
-    std::string file();
+    std::string file(KeptSvgFonts* kept);
 
 private:
     void write(const PageText& text);
@@ -118,7 +118,7 @@ std::string SvgWriter::head(double height) const {
         .set("width", svgNumber(width) + "mm")
         .set("height", svgNumber(height) + "mm")
         .set("viewBox", "0 0 " + svgNumber(width) + ' ' + svgNumber(height))
-        .set("xml:lang", svgText(m_document.language))
+        .setText("xml:lang", m_document.language)
         .set("font-family", svgFontFamily)
         .set("xml:space", "preserve")
         .open();
@@ -136,21 +136,24 @@ std::string SvgWriter::head(double height) const {
     return text;
 }
 
-std::string SvgWriter::file() {
+std::string SvgWriter::file(KeptSvgFonts* kept) {
     for (std::size_t i = 0; i < m_document.pages.size(); ++i) {
         writePage(m_document.pages[i], i);
     }
     const auto count = double(m_document.pages.size());
     const double height = count * m_document.size.height + (count - 1) * pageGap;
-    std::string text = head(height) + svgFonts(m_document);
-    text += m_pictures.definitions();
+    std::string text = head(height);
+    const std::string fonts = svgFonts(m_document, kept);
+    const std::string definitions = m_pictures.definitions();
+    text.reserve(text.size() + fonts.size() + definitions.size() + m_body.size() + 100);
+    (text += fonts) += definitions;
     return (text += m_body) += "</svg>\n";
 }
 
 }  // namespace
 
-std::string svgFile(const PageDocument& document, PictureEncoder& encoder) {
-    return SvgWriter(document, encoder).file();
+std::string svgFile(const PageDocument& document, PictureEncoder& encoder, KeptSvgFonts* kept) {
+    return SvgWriter(document, encoder).file(kept);
 }
 
 }  // namespace fleetwright

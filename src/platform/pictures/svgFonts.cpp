@@ -1,12 +1,12 @@
 #include "svgFonts.h"
 
-#include "FontSubset.h"
 #include "base64.h"
 #include "text.h"
 
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -27,6 +27,11 @@ public:
                 std::exchange(m_isKnown[static_cast<std::size_t>(text.font)][code], true)) {
                 continue;
             }
+            if (character.size() > 1 && !m_others[static_cast<std::size_t>(text.font)]
+                                             .insert(codePoint(character))
+                                             .second) {
+                continue;
+            }
             for (const PageSign& sign : pageSigns(character, text.font)) {
                 m_signs[static_cast<std::size_t>(sign.face)].push_back(
                     {sign.character, sign.drawn});
@@ -41,12 +46,32 @@ private:
     static constexpr std::size_t asciiCount = 128;
 
     std::array<std::array<bool, asciiCount>, 2> m_isKnown{};  // by the font
+    std::array<std::unordered_set<char32_t>, 2> m_others;     // by the font
     std::array<std::vector<FontSubset::Sign>, std::size(pageFaces)> m_signs;
 };
 
 }  // namespace
 
-std::string svgFonts(const PageDocument& document) {
+std::string KeptSvgFonts::of(PageFace face, const std::vector<FontSubset::Sign>& signs,
+                             const std::function<std::string()>& made) {
+    const Key key(face, signs);
+    {
+        const std::lock_guard lock(m_mutex);
+        if (const auto known = m_fonts.find(key); known != m_fonts.end()) {
+            return known->second;
+        }
+    }
+    std::string font = made();
+    const std::lock_guard lock(m_mutex);
+    constexpr std::size_t most = 512;  // of about 10 KB
+    if (m_fonts.size() >= most) {
+        m_fonts.clear();
+    }
+    m_fonts.try_emplace(key, font);
+    return font;
+}
+
+std::string svgFonts(const PageDocument& document, KeptSvgFonts* kept) {
     ShownSigns shown;
     for (const Page& page : document.pages) {
         for (const PageItem& item : page.items) {
@@ -61,11 +86,13 @@ std::string svgFonts(const PageDocument& document) {
             continue;
         }
         const FontSubset font(face, std::move(shown.of(face)));
+        const auto file = [&font] { return toBase64(font.file(), Base64Lines::One); };
         ((style += "@font-face{font-family:\"") += pageFamily(face)) += "\";font-weight:";
         style += face == PageFace::Bold       ? "bold"
                  : face == PageFace::Fallback ? "400 700"
                                               : "normal";
-        (style += ";src:url(data:font/ttf;base64,") += toBase64(font.file(), Base64Lines::One);
+        (style += ";src:url(data:font/ttf;base64,") +=
+            kept != nullptr ? kept->of(face, font.signs(), file) : file();
         style += ")}\n";
     }
     return style.empty() ? style : "<style>\n" + style + "</style>\n";

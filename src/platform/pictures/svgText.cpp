@@ -18,18 +18,44 @@ bool isXmlCharacter(char32_t character) {
     return (character < 0x7F || character > 0x9F) && character != 0xFFFE && character != 0xFFFF;
 }
 
-/// Whether a byte is a character that stands for itself.
-bool isPlain(char byte) {
-    return byte >= ' ' && byte < '\x7F' && byte != '&' && byte != '<' && byte != '>' && byte != '"';
+/// Whether all bytes are characters that stand for themselves. Looks at all of them in any case,
+/// which compilers make faster than an end at the first one that is none.
+bool arePlain(std::string_view text) {
+    unsigned others = 0;
+    for (const char byte : text) {
+        const bool isPlain = byte >= ' ' && byte < '\x7F' && byte != '&' && byte != '<' &&
+                             byte != '>' && byte != '"';
+        others |= isPlain ? 0U : 1U;
+    }
+    return others == 0;
 }
 
-void addNumber(std::string& text, double value) {
-    constexpr int decimals = 4;
-    constexpr double most = 1e9;  // no page comes near that
-    if (!(std::fabs(value) < most)) {
-        text += '0';
-        return;
+constexpr int decimals = 4;
+
+/// The digits of a number, which is not negative, times 10000 and rounded, from the right; where
+/// they begin.
+char* writeRounded(std::uint64_t scaled, char* end) {
+    char* at = end;
+    bool isShown = false;  // no zeros at the end of the decimals
+    for (int place = 0; place < decimals; ++place, scaled /= 10) {
+        const auto digit = static_cast<char>('0' + scaled % 10);
+        isShown = isShown || digit != '0';
+        if (isShown) {
+            *--at = digit;
+        }
     }
+    if (isShown) {
+        *--at = '.';
+    }
+    do {
+        *--at = static_cast<char>('0' + scaled % 10);
+        scaled /= 10;
+    } while (scaled != 0);
+    return at;
+}
+
+/// The number as it is exactly, rounded to its decimals.
+void addExactly(std::string& text, double value) {
     char buffer[32];
     const auto end =
         std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
@@ -39,6 +65,31 @@ void addNumber(std::string& text, double value) {
         number.remove_suffix(1);
     }
     text += number == "-0" ? "0" : number;
+}
+
+void addNumber(std::string& text, double value) {
+    constexpr double most = 1e9;  // no page comes near that
+    if (!(std::fabs(value) < most)) {
+        text += '0';
+        return;
+    }
+    // The product is off by less than a millionth: only near the middle between two results could
+    // that matter.
+    const double scaled = std::fabs(value) * 10'000;
+    const auto rounded = static_cast<std::uint64_t>(scaled + 0.5);
+    constexpr double unsure = 0.001;
+    if (scaled > 1e9 ||
+        std::fabs(std::fabs(scaled - static_cast<double>(rounded)) - 0.5) < unsure) {
+        addExactly(text, value);
+        return;
+    }
+    char buffer[32];
+    char* const end = buffer + sizeof buffer;
+    char* at = writeRounded(rounded, end);
+    if (value < 0 && rounded != 0) {
+        *--at = '-';
+    }
+    text.append(at, end);
 }
 
 }  // namespace
@@ -51,19 +102,19 @@ std::string svgNumber(double value) {
 
 std::string svgColour(std::uint32_t colour) {
     static constexpr char digits[] = "0123456789abcdef";
-    std::string text = "#";
-    for (int shift = 20; shift >= 0; shift -= 4) {
-        text += digits[colour >> static_cast<unsigned>(shift) & 0xFU];
+    std::string text = "#rrggbb";
+    for (std::size_t digit = text.size() - 1; digit > 0; --digit, colour >>= 4U) {
+        text[digit] = digits[colour & 0xFU];
     }
     return text;
 }
 
-std::string svgText(std::string_view text) {
+void addSvgText(std::string& written, std::string_view text) {
     // As most texts are, and all paths, of which there are many.
-    if (std::all_of(text.begin(), text.end(), isPlain)) {
-        return std::string(text);
+    if (arePlain(text)) {
+        written += text;
+        return;
     }
-    std::string written;
     while (!text.empty()) {
         const std::string_view character = text.substr(0, characterLength(text));
         const char32_t code = codePoint(text);
@@ -82,11 +133,23 @@ std::string svgText(std::string_view text) {
             written += character;
         }
     }
+}
+
+std::string svgText(std::string_view text) {
+    std::string written;
+    addSvgText(written, text);
     return written;
 }
 
 SvgTag& SvgTag::set(std::string_view name, std::string_view value) {
     ((((m_text += ' ') += name) += "=\"") += value) += '"';
+    return *this;
+}
+
+SvgTag& SvgTag::setText(std::string_view name, std::string_view text) {
+    ((m_text += ' ') += name) += "=\"";
+    addSvgText(m_text, text);
+    m_text += '"';
     return *this;
 }
 

@@ -19,6 +19,8 @@ std::string svgColour(std::uint32_t colour);
 
 /// A text that nothing is markup in, without what XML does not know: control characters.
 std::string svgText(std::string_view text);
+/// The same at the end of another text.
+void addSvgText(std::string& written, std::string_view text);
 
 /// Writes a tag at the end of a text.
 class SvgTag {
@@ -29,6 +31,8 @@ public:
     /// Sets an attribute, the value as it is.
     SvgTag& set(std::string_view name, std::string_view value);
     SvgTag& set(std::string_view name, double value);
+    /// Sets an attribute to a text that nothing is markup in.
+    SvgTag& setText(std::string_view name, std::string_view text);
     /// Sets "x", "y", "width" and "height".
     SvgTag& set(const Box& box);
     /// Sets "fill" or "stroke".
