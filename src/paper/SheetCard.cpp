@@ -191,7 +191,7 @@ SheetCard::Sides SheetCard::roomBeside(const Silhouette& silhouette, double scal
 SheetCard::Columns SheetCard::columnsInCorners(const Sides& sides, double columnWidth) const {
     constexpr int leastHeight = 15;
     Columns columns;
-    for (const std::size_t side : {0, 1}) {
+    for (const std::size_t side : {std::size_t{0}, std::size_t{1}}) {
         const double x = m_body.x + (side == 0 ? 0 : m_body.width - columnWidth);
         int start = 0;
         for (int y = 0; y <= std::ssize(sides); ++y) {

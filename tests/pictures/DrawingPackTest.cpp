@@ -1,6 +1,7 @@
 // The drawings of the pictures, in the pack that the build has made and in others.
 
 #include "DrawingPack.h"
+#include "DrawnPictureFiles.h"
 #include "OutlineMarks.h"
 #include "QtPictureFiles.h"
 #include "TemporaryFolder.h"
@@ -9,6 +10,7 @@
 #include "faults.h"
 #include "paths.h"
 #include "qtImage.h"
+#include "readFile.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>
@@ -83,16 +85,23 @@ TEST(DrawingPack, IsReadAsFarAsItIsWell) {
 
 TEST(DrawingPack, HasADrawingOfEachPictureThatShowsTheSameAndNoneOfOneThatWasChanged) {
     const DrawingPack pack(APP_FOLDER "/drawings.dat");
-    int count = 0;
+    QtPictureFiles reader;
+    DrawnPictureFiles drawn(reader, pack);
+    int count = 0, known = 0;
     for (const std::string folder : {"images", "window", "shipimages"}) {
         for (const fs::path& file : listFolder(PICTURES_FOLDER "/" + folder, "")) {
             if (file.extension() == ".svg" || file.extension() == ".qrc") {
                 continue;
             }
             SCOPED_TRACE(file.string());
-            Raster picture = QtPictureFiles().load(file);
+            Raster picture = reader.load(file);
             const auto drawing = pack.of(picture);
             ASSERT_NE(drawing, nullptr);
+            // Found without a look at its pixels, which are there for whoever looks.
+            const Raster found = drawn.load(file);
+            EXPECT_EQ(pack.of(found), drawing);
+            EXPECT_TRUE(!pack.pictureIn(readBytes(file)) || toImage(found) == toImage(picture));
+            known += pack.pictureIn(readBytes(file)) ? 1 : 0;
             QImage image = toImage(picture);
             cleanMarks(image, file);
             // A pixel of ink is black if more than half of it is covered: here it is white below 35
@@ -105,4 +114,10 @@ TEST(DrawingPack, HasADrawingOfEachPictureThatShowsTheSameAndNoneOfOneThatWasCha
         }
     }
     EXPECT_GT(count, 600);
+    EXPECT_GT(known, 600);
+    const TemporaryFolder folder;
+    const fs::path file = listFolder(PICTURES_FOLDER "/images", "").front();
+    const fs::path changed = folder.write("changed.gif", readBytes(file) + ' ');
+    EXPECT_FALSE(pack.pictureIn(readBytes(changed)));
+    EXPECT_EQ(toImage(drawn.load(changed)), toImage(reader.load(file)));
 }
