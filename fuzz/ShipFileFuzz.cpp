@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "FileFaults.h"
 #include "ShipFileCheck.h"
+#include "bringInOrder.h"
 #include "carriedShips.h"
 #include "readFile.h"
 #include "require.h"

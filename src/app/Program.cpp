@@ -245,9 +245,9 @@ public:
 private:
     /// The forms with windows of their own. The page of settings and the list of
     /// designs put aside are dialogs of the main window.
-    std::array<Form*, 7> windows() {
-        return {&m_splash,     &m_main,  &m_main.findings.list, &m_mapper, &m_about,
-                &m_mapCreator, &m_viewer};
+    std::array<Form*, 8> windows() {
+        return {&m_splash, &m_main,  &m_main.findings.list, &m_main.compare.beside,
+                &m_mapper, &m_about, &m_mapCreator,         &m_viewer};
     }
 
     /// Opens a window or, if it is open, brings it to the front.

@@ -6,6 +6,7 @@
 #include "inOrder.h"
 
 #include <functional>
+#include <span>
 #include <string>
 
 // What several commands share.
@@ -21,6 +22,13 @@ enum class RefusedLines { InOutput, AsComplaints };
 /// several at a time. An Error of `work` becomes a complaint. `taken`, if there is one, hears in
 /// their order of all ships that are done with. Returns an ExitStatus.
 int forEachShip(const Options& options, RefusedLines refusedLines,
+                const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
+                const std::function<void(std::size_t index)>& taken = {});
+
+/// The same with these ships and the catalogue that they are to have, which is to be one that is
+/// read once.
+int forEachShip(const Options& options, std::span<const std::string> ships,
+                const CatalogueFile& catalogueFile, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t index)>& taken = {});
 

@@ -10,9 +10,17 @@ namespace fleetwright {
 int forEachShip(const Options& options, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t)>& taken) {
-    const auto catalogueFile = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
+    return forEachShip(options, options.words,
+                       CatalogueFile::readOnce(options.appFolder / "weaps.dat"), refusedLines, work,
+                       taken);
+}
+
+int forEachShip(const Options& options, std::span<const std::string> ships,
+                const CatalogueFile& catalogueFile, RefusedLines refusedLines,
+                const std::function<std::string(std::size_t, ShipOnScreen&)>& work,
+                const std::function<void(std::size_t)>& taken) {
     const auto load = [&](std::size_t index) {
-        const std::string& file = options.words[index];
+        const std::string& file = ships[index];
         ShipOnScreen screen(options.appFolder, catalogueFile);
         Result result;
         if (const auto fault = screen.load(file)) {
@@ -32,7 +40,7 @@ int forEachShip(const Options& options, RefusedLines refusedLines,
         }
         return result;
     };
-    return printInOrder(options.words.size(), load, taken);
+    return printInOrder(ships.size(), load, taken);
 }
 
 }  // namespace fleetwright

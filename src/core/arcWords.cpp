@@ -1,8 +1,12 @@
 #include "arcWords.h"
 
+#include <algorithm>
+
 namespace fleetwright {
 
 namespace {
+
+constexpr std::string_view allRound = "All";
 
 std::string_view arcWord(char letter) {
     switch (letter) {
@@ -19,17 +23,11 @@ std::string_view arcWord(char letter) {
     }
 }
 
-/// The words for letters that all are directions, or nothing.
-std::string directions(std::string_view letters) {
-    std::string words;
-    for (const char letter : letters) {
-        const std::string_view word = arcWord(letter);
-        if (word.empty()) {
-            return {};
-        }
-        words += (words.empty() ? "" : ", ") + std::string(word);
-    }
-    return words;
+/// The letters if all are directions, or nothing.
+std::string_view directions(std::string_view letters) {
+    const bool areAll =
+        std::ranges::none_of(letters, [](char letter) { return arcWord(letter).empty(); });
+    return areAll ? letters : std::string_view();
 }
 
 /// What stands in brackets at the end of a name.
@@ -43,13 +41,24 @@ std::string_view mounting(std::string_view name) {
 
 }  // namespace
 
-std::string arcWords(std::string_view name, std::string_view arcLetters) {
+std::string_view fieldsOfFire(std::string_view name, std::string_view arcLetters) {
     const std::string_view field = mounting(name);
-    if (field == "All") {
+    if (field == allRound) {
+        return "FPSA";
+    }
+    const std::string_view letters = directions(field);
+    return letters.empty() ? directions(arcLetters) : letters;
+}
+
+std::string arcWords(std::string_view name, std::string_view arcLetters) {
+    if (mounting(name) == allRound) {
         return "all round";
     }
-    const std::string words = directions(field);
-    return words.empty() ? directions(arcLetters) : words;
+    std::string words;
+    for (const char letter : fieldsOfFire(name, arcLetters)) {
+        words += (words.empty() ? "" : ", ") + std::string(arcWord(letter));
+    }
+    return words;
 }
 
 }  // namespace fleetwright

@@ -5,10 +5,13 @@
 
 namespace fleetwright {
 
-/// The fields of fire of a system, as "fore, port". A name says them in brackets at its end, as
-/// "(FP)" or "(All)"; of another system the arc letters do, unless the centre line is among them:
-/// then they say where on the drawing there is room for it, and no direction. Nothing for a
-/// system with no place on the drawing.
+/// The fields of fire of a system, as letters: F fore, P port, S starboard, A aft. A name says them
+/// in brackets at its end, as "(FP)" or "(All)"; of another system the arc letters do, unless the
+/// centre line is among them: then they say where on the drawing there is room for it, and no
+/// direction. Nothing for a system with no place on the drawing.
+std::string_view fieldsOfFire(std::string_view name, std::string_view arcLetters);
+
+/// The same in words, as "fore, port" or "all round".
 std::string arcWords(std::string_view name, std::string_view arcLetters);
 
 }  // namespace fleetwright

@@ -112,6 +112,7 @@ void frmMain::RefreshScreen() {
     names.show();
     hull.show();
     findings.show();
+    compare.show();
     previews.show(row);
     find.show();
 }

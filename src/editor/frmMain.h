@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Acts.h"
+#include "ComparePanel.h"
 #include "DragPanel.h"
 #include "FiguresPanel.h"
 #include "FileCommands.h"
@@ -71,7 +72,10 @@ public:
                    }};
     HullPanel hull{m_context};
     FiguresPanel figures{m_context, mass.lblMassLeft};
-    NamesPanel names{m_context, figures.fraInfo, [this] { recovery.tmrRecovery.restart(); }};
+    NamesPanel names{m_context, figures.fraInfo, [this] {
+                         recovery.tmrRecovery.restart();
+                         compare.show();
+                     }};
     SystemsPanel aboard{m_context};
     TreePanel tree{m_context, mnuAddWeaps, aboard, [this] { previews.clear(0); }};
     PreviewPanel previews{m_context, tree.tvWeapons, aboard.lvCurrentWeapons};
@@ -91,6 +95,7 @@ public:
     FindingsPanel findings{m_context, mnuDesign, sbStatus, {hull, mass, names, aboard, tree}};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
+    ComparePanel compare{m_context, mnuDesign};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); },
                            [this] { return history.steps(); },
@@ -114,6 +119,7 @@ protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
     void Form_Resize() override;
+    void Form_Activate() override { compare.lookAgain(); }
 
 private:
     void RefreshScreen();

@@ -63,6 +63,7 @@ std::span<const ControlTexts> allControlTexts() {
         ControlTexts{"frmMain", "Menus that pop up", popUpTexts()},
         ControlTexts{"frmExtras", "Extras Page", extrasPageTexts()},
         ControlTexts{"frmFindings", "Findings", findingsTexts()},
+        ControlTexts{"frmCompare", "Compare", compareTexts()},
         ControlTexts{"frmPutAside", "Designs Put Aside", putAsideTexts()},
         ControlTexts{"frmMapper", "Create SSD", mapperTexts()},
         ControlTexts{"frmSSDView", "View SSD", viewerTexts()},

@@ -106,6 +106,9 @@ ControlRows designMenuTexts() {
         ControlText{"mnuExportSheet", "Export Sheet...",
                     "Saves the sheet as PDF, SVG or PNG file. The design is in that file, and Load "
                     "gets it out again."},
+        ControlText{"mnuCompare", "Compare With...",
+                    "Shows the design at hand beside another ship, and what differs: figures, "
+                    "systems, and what the weapons cover."},
         ControlText{"mnuPutAside", "Designs Put Aside...",
                     "Lists the designs that were never saved: after a crash, and whenever another "
                     "one took their place. Any of them can be opened."},

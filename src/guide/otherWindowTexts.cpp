@@ -54,6 +54,27 @@ ControlRows findingsTexts() {
     return rows;
 }
 
+ControlRows compareTexts() {
+    static constexpr std::array rows = {
+        ControlText{"lblAbout lvLines", "The two designs",
+                    "All figures and systems of the design at hand and of another ship, beside "
+                    "each other. Lines that differ are bold, and the last column says by how much. "
+                    "Of a system there stand the pieces, their mass and their cost. The table "
+                    "follows the design as you change it, and the file of the other ship."},
+        ControlText{"fraFire lblHere lblOther lblWeapons lblPoints picWeaponsHere picWeaponsOther "
+                    "picPointsHere picPointsOther",
+                    "Fire Power",
+                    "What the weapons of both ships cover, with the bow up: the larger a sector, "
+                    "the more weapons bear there, or the more points they cost. All of a row have "
+                    "one scale. A weapon that bears in several directions counts in each."},
+        ControlText{"chkOnlyDifferences", "Only what differs",
+                    "Leaves out the lines in which the two are alike."},
+        ControlText{"cmdChoose", "Choose File...",
+                    "Chooses the other ship: a ship file, or a sheet that carries one."},
+        ControlText{"cmdClose", "Close", "Closes the window."}};
+    return rows;
+}
+
 ControlRows putAsideTexts() {
     static constexpr std::array rows = {
         ControlText{"lblAbout lvDesigns", "Designs put aside",

@@ -25,6 +25,7 @@ ControlRows popUpTexts();
 ControlRows amountTexts();
 ControlRows extrasPageTexts();
 ControlRows findingsTexts();
+ControlRows compareTexts();
 ControlRows putAsideTexts();
 ControlRows mapperTexts();
 ControlRows viewerTexts();

@@ -16,6 +16,7 @@ public:
         std::string text;
         std::string subItem = {};                 ///< what stands in the second column
         std::vector<std::string> moreItems = {};  ///< and in those behind it
+        bool isStrong = false;                    ///< in bold letters
 
         bool operator==(const Row&) const = default;
     };

@@ -5,9 +5,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace fleetwright {
+
+struct Drawing;
 
 /// A box that holds a picture and, if it sizes itself, takes the picture's size and its border's.
 /// Without a picture it keeps the size that it has.
@@ -40,6 +43,14 @@ public:
         if (m_isAutoSize) {
             fitToPicture();
         }
+        Changed.raise();
+    }
+
+    /// What a box shows that has no picture: lines and areas in ink, in the colour of the window's
+    /// text. They fill the box, whatever its size on the screen.
+    const std::shared_ptr<const Drawing>& drawing() const { return m_drawing; }
+    void setDrawing(std::shared_ptr<const Drawing> drawing) {
+        m_drawing = std::move(drawing);
         Changed.raise();
     }
 
@@ -88,6 +99,7 @@ private:
     bool m_isAutoSize = true;
     double m_screenTwipsPerPixel = twipsPerPixel;
     Raster m_picture;
+    std::shared_ptr<const Drawing> m_drawing;
     // Rows painted since the last `showPainted`.
     int m_firstPainted = nothingPainted;
     int m_endPainted = 0;

@@ -37,6 +37,7 @@ public:
         : m_test(catalogue.empty() ? windowCatalogue : catalogue) {
         collect(m_window, m_controls);
         collect(m_window.findings.list, m_controls);
+        collectCompare();
         for (const auto& [name, control] : m_controls) {
             m_focused.push_back(control->FocusWanted.connect(
                 [this, focused = name] { m_says += "to " + focused + "; "; }));
@@ -80,6 +81,7 @@ public:
         seen["frmMain"] = std::string(m_window.isLoaded() ? "" : "closed ") +
                           (m_window.isVisible() ? "shown" : "hidden") +
                           (m_window.state() == WindowState::Minimized ? " minimized" : "");
+        seen["frmCompare"] = m_window.compare.beside.isVisible() ? "shown" : "hidden";
         seen["frmFindings"] = m_window.findings.list.isVisible() ? "shown" : "hidden";
         if (const ShipClass* const ship = m_window.g_Ship.get()) {
             seen["ship"] =
@@ -149,6 +151,15 @@ public:
     }
 
 private:
+    /// The window "Compare", whose names are those of other windows in part.
+    void collectCompare() {
+        Controls controls;
+        collect(m_window.compare.beside, controls);
+        for (const auto& [name, control] : controls) {
+            m_controls["compare." + name] = control;
+        }
+    }
+
     std::vector<std::string> paths(const std::string& names) {
         std::vector<std::string> found = parts(names, " ");
         for (std::string& name : found) {
@@ -186,6 +197,8 @@ private:
                  m_test.globals.g_iLargestSSD = maps.g_iLargestSSD;
              }},
             {"catalogue fault", [this] { m_test.catalogueFaults = "weaps.dat:3: double key\n"; }},
+            {"active", [this] { m_window.activate(); }},
+            {"compare active", [this] { m_window.compare.beside.activate(); }},
             {"saved", [this] { m_test.ship().g_bSaved = true; }},
             {"name", [this] { m_test.ship().g_sShipName = "Renamed"; }},
             {"no button",
@@ -244,6 +257,8 @@ private:
             m_says += stateOf(control) + "; ";
         } else if (auto* const button = dynamic_cast<Button*>(&control)) {
             button->press();
+        } else if (auto* const box = dynamic_cast<CheckBox*>(&control)) {
+            box->press();
         } else if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
             option->choose();
         } else if (auto* const entry = dynamic_cast<MenuEntry*>(&control)) {
@@ -326,18 +341,12 @@ private:
 }  // namespace
 
 TEST(FrmMain, ShowsWhatIsDone) {
-    for (const char* const file :
-         {"design", "systems", "files", "acts", "sheets", "guide", "find", "undo", "findings"}) {
+    for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide", "find",
+                                   "undo", "findings", "compare"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });
     }
-}
-
-TEST(FrmMain, IsLaidOutAsItIs) {
-    TestWindow test;
-    test.window().show();
-    expectCases("editor/golden/layout.txt", [&](const Case&) { return layoutOf(test.window()); });
 }
 
 // An act that is too large changes nothing, and a file brings back all that was designed.
@@ -384,12 +393,4 @@ TEST(FrmMain, ShowsADesignTheSameHoweverItCameAbout) {
         play.doLine("set saved");
         EXPECT_EQ(design(play), design(other));
     });
-}
-
-TEST(FrmMain, WithoutACatalogueSaysSoAndEnds) {
-    TestWindow test;
-    fs::remove(test.folder().path() / "weaps.dat");
-    EXPECT_THROW(test.window().load(), EndOfProgram);
-    EXPECT_EQ(test.takeLog(), "box: Error Creating Ship Object; ");
-    EXPECT_FALSE(test.window().g_bLoaded);
 }

@@ -6,6 +6,7 @@
 #include "SSDMaps.h"
 #include "Silhouette.h"
 #include "bestMap.h"
+#include "bringInOrder.h"
 #include "damageBoxes.h"
 #include "paperWorld.h"
 #include "paths.h"

@@ -2,6 +2,7 @@
 
 #include "Actor.h"
 #include "Error.h"
+#include "bringInOrder.h"
 #include "readFile.h"
 #include "readShip.h"
 

@@ -1,6 +1,7 @@
 // Map files: how they are read, what is said of their faults, and which maps are offered.
 
 #include "SSDMap.h"
+#include "bringInOrder.h"
 
 #include "SSDMapCheck.h"
 #include "SSDMaps.h"

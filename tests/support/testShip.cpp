@@ -65,15 +65,6 @@ std::int32_t amountOf(const ShipClass& ship, std::string_view name) {
     return record.amount;
 }
 
-void bringInOrder(ShipClass& ship) {
-    if (isBase(ship.Hull())) {
-        ship.FTL(NoDrive);
-        ship.THRUST(0);
-        ship.Streamline(0);
-    }
-    ship.mass(ship.mass());
-}
-
 std::string figures(const ShipClass& ship) {
     return std::to_string(ship.g_lCost) + ' ' + std::to_string(ship.g_iDP) + ' ' +
            std::to_string(ship.g_iDamRows) + ' ' + std::to_string(ship.g_iDCP) + ' ' +

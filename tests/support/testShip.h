@@ -55,10 +55,6 @@ private:
 /// How many pieces of a system that the catalogue has are aboard.
 std::int32_t amountOf(const ShipClass& ship, std::string_view name);
 
-/// Brings in order what AutoMass or a file has brought out of it, as a window does that loads the
-/// ship. Throws OverflowError where a figure does not fit.
-void bringInOrder(ShipClass& ship);
-
 /// "cost dp rows dcp fcs massLeft", to compare all figures at once.
 std::string figures(const ShipClass& ship);
 

@@ -136,6 +136,13 @@ private:
         for (const std::string& text : row.moreItems) {
             item->setText(column++, toShown(text));
         }
+        if (row.isStrong != item->font(0).bold()) {
+            QFont font;
+            font.setBold(row.isStrong);
+            for (int each = 0; each < column; ++each) {
+                item->setFont(each, font);
+            }
+        }
         return item;
     }
 

@@ -3,6 +3,7 @@
 #include "Line.h"
 #include "PictureBox.h"
 #include "controlWidgets.h"
+#include "drawnImage.h"
 #include "pictureIcon.h"
 #include "widgetTools.h"
 
@@ -39,6 +40,10 @@ protected:
             m_face.paint(&painter, contentsRect());
             return;
         }
+        if (m_box.drawing() != nullptr) {
+            QPainter(this).drawImage(contentsRect(), drawn());
+            return;
+        }
         // Of a large picture only what is to be seen anew is made ready for the screen.
         const QRect part = inPicture(event->rect());
         if (!part.isEmpty()) {
@@ -50,6 +55,11 @@ protected:
     }
 
 private:
+    QImage drawn() const {
+        const QSizeF pixels = QSizeF(contentsRect().size()) * devicePixelRatio();
+        return inkOf(*m_box.drawing(), pixels.toSize(), palette().color(QPalette::WindowText));
+    }
+
     QPoint pictureCorner() const {
         QRect place(0, 0, m_scale.zoomed(m_box.picture().width()),
                     m_scale.zoomed(m_box.picture().height()));

@@ -28,6 +28,7 @@ namespace fleetwright {
 
 QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
     QLabel* const widget = label.askToolTip ? newExplainedLabel(label, parent) : new QLabel(parent);
+    widget->setTextFormat(Qt::PlainText);  // names in it are no markup
     prepare(widget, label, scale);
     const auto colour = [widget, &label] {
         QPalette palette;  // whose colours are those of the parent, but for what is set
