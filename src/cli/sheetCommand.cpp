@@ -67,13 +67,13 @@ void checkSheet(const Options& options) {
 
 /// What sheets are made of.
 SheetSupplies::Kind kindOf(const Options& options) {
-    const SheetOut out = sheetOut(options);
-    if (out == SheetOut::Document) {
+    const std::string format = sheetOut(options) == SheetOut::Folder
+                                   ? options.value("--format")
+                                   : sheetFormat(options.value(outOption.name)).value_or("bmp");
+    if (format == "pdf") {
         return SheetSupplies::Kind::Pdf;
     }
-    return out == SheetOut::File && sheetFormat(options.value(outOption.name)) == "svg"
-               ? SheetSupplies::Kind::Svg
-               : SheetSupplies::Kind::Other;
+    return format == "svg" ? SheetSupplies::Kind::Svg : SheetSupplies::Kind::Other;
 }
 
 PageSize paperOf(const std::string& name) {
@@ -88,6 +88,12 @@ PageSize paperOf(const std::string& name) {
 
 void checkPaper(std::string_view, const std::string& name) {
     paperOf(name);
+}
+
+void checkFormat(std::string_view, const std::string& format) {
+    if (sheetFormat('.' + format) != format) {
+        throw UsageError("--format is bmp, png, svg or pdf");
+    }
 }
 
 void checkPerPage(std::string_view, const std::string& number) {
@@ -115,7 +121,8 @@ public:
             makeFolder(m_out);
         }
         for (const std::string& ship : options.words) {
-            m_files.push_back(m_out / nativePath(ship).stem().concat(".bmp"));
+            m_files.push_back(m_out /
+                              nativePath(ship).stem().concat('.' + options.value("--format")));
             m_firstShips.try_emplace(m_files.back(), m_files.size() - 1);
         }
     }
@@ -148,15 +155,17 @@ VectorSheet sheetFor(const Options& options, std::size_t index, const ShipOnScre
     return sheet;
 }
 
-int drawFiles(const Options& options, const SheetTools& tools) {
+int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pictures) {
     const SheetFiles files(options);
     Silhouette::Outlines outlines;
     KeptSvgFonts fonts;
     const SheetOptions pages = sheetOptionsOf(options, outlines);
     const auto bytesOf = [&](std::size_t index, ShipOnScreen& screen, const std::string& format) {
-        if (format == "svg") {
-            return svgFile(sheetDocument({sheetFor(options, index, screen, tools)}, pages),
-                           tools.encoder, &fonts);
+        if (format == "svg" || format == "pdf") {
+            const PageDocument document =
+                sheetDocument({sheetFor(options, index, screen, tools)}, pages);
+            return format == "svg" ? svgFile(document, tools.encoder, &fonts)
+                                   : pictures.pdf(document);
         }
         const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
         std::string bytes = tools.encoder.encode(sheet, format);
@@ -196,7 +205,7 @@ int runSheet(const Options& options) {
     int status = Done;
     SheetSupplies supplies(options, options.words.size(), kindOf(options), status);
     const int drawn = isDocument ? drawDocument(options, supplies.tools, supplies.pictures)
-                                 : drawFiles(options, supplies.tools);
+                                 : drawFiles(options, supplies.tools, supplies.pictures);
     return std::max(status, drawn);
 }
 
@@ -207,6 +216,11 @@ constexpr OptionRow sheetOptions[] = {
      .value = "NAME",
      .help = "The map to draw on, by default the one that fits best"},
     outOption,
+    {.name = "--format",
+     .value = "bmp|png|svg|pdf",
+     .help = "What a folder gets of each ship",
+     .byDefault = "bmp",
+     .check = checkFormat},
     {.name = "--paper",
      .value = "A4|Letter",
      .help = "The paper of a .pdf or .svg",
@@ -229,8 +243,9 @@ extern const CommandRow sheetCommand = {
     .help = "Draw the sheets of ships: OUT is a .bmp, .png, .svg or .pdf file, or a folder",
     .details =
         "The sheet is drawn on the outline of the map NAME, or else of the one that fits the ship "
-        "best. A folder is made if it is not there, and gets a .bmp file each, named after the "
-        "ship files. Maps that cannot be used are named as errors. A .bmp or .png file is a "
+        "best. A folder is made if it is not there, and gets a file each, named after the ship "
+        "files, a .bmp or what --format says. Maps that cannot be used are named as errors. A .bmp "
+        "or .png file is a "
         "picture of pixels; no ship above mass 100 gets one without --map. An .svg or .pdf file "
         "has lines and text, sharp at any size, and says what is aboard and how it is played. A "
         ".pdf takes any number of ships; the marks between small ones that share a page show where "
