@@ -29,10 +29,11 @@ void PreviewPanel::show(std::optional<std::size_t> row) {
         return;
     }
     previewNode();
-    if (m_list.rows().empty()) {
+    // Its message may have let acts in that have taken the row away, or the selection off it.
+    if (const auto selected = m_list.selected(); !selected) {
         clear(1);
     } else if (row) {
-        previewRow(*row);
+        previewRow(*selected);
     }
 }
 

@@ -116,19 +116,34 @@ void SystemsPanel::AddWeaponRow(const std::string& name, std::int32_t amount) {
 void SystemsPanel::changeAmount(const std::string name, std::int32_t change) {
     act([&] {
         const ListView::Content before = lvCurrentWeapons.content();
+        std::string selected;
         bool isTaken = false;
         try {
             AddWeaponRow(name, change);
+            selected = selectedSystem();
             isTaken = ship().addWeap(name, change);
         } catch (...) {
             lvCurrentWeapons.setContent(before);
             throw;
         }
         if (!isTaken) {
+            // AutoMass may have let other acts in, which have changed the list or chosen a row.
+            const std::string chosen = selectedSystem();
             lvCurrentWeapons.setContent(before);
-            show();  // AutoMass may have let other acts in
+            show();
+            if (chosen != selected) {
+                ListView::Content content = lvCurrentWeapons.content();
+                content.selected = lvCurrentWeapons.find(chosen);
+                lvCurrentWeapons.setContent(std::move(content));
+            }
         }
     });
+}
+
+/// The system of the selected row; nothing if there is none.
+std::string SystemsPanel::selectedSystem() const {
+    const auto row = lvCurrentWeapons.selected();
+    return row ? lvCurrentWeapons.rows()[*row].key : std::string();
 }
 
 void SystemsPanel::lvCurrentWeapons_DblClick() {

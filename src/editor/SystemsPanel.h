@@ -37,6 +37,7 @@ private:
     void lvCurrentWeapons_MouseDown(const MousePress& press);
     void frmSld_CountChanged(std::int32_t amount);
     void AddWeaponRow(const std::string& name, std::int32_t amount);
+    std::string selectedSystem() const;
 
     Connection m_countChanged;
 };
