@@ -14,6 +14,7 @@
 #include "carriedShips.h"
 #include "checkMapPlaces.h"
 #include "console.h"
+#include "designCode.h"
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
@@ -32,7 +33,7 @@ namespace {
 
 std::vector<Fault> checkShip(const Options& options, const CatalogueFile& catalogueFile,
                              const std::string& file) {
-    const std::string text = readShip(nativePath(file)).text;
+    const std::string text = readShip(file).text;
     ShipOnScreen screen(options.appFolder, catalogueFile);
     // Asked here, for the window drops a ship that does not load, and its fault with it.
     const std::optional<Fault> loadFault = screen.load(file);
@@ -122,7 +123,7 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
                              const std::string& file) {
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
-        if (extension == ".SHP") {
+        if (extension == ".SHP" || isDesignCode(file)) {
             return checkShip(options, catalogueFile, file);
         }
         if (extension == ".DAT") {

@@ -1,6 +1,7 @@
 #include "PngChunks.h"
 
-#include <array>
+#include <zlib.h>
+
 #include <cstdint>
 
 namespace fleetwright {
@@ -9,25 +10,10 @@ namespace {
 
 constexpr std::size_t numberSize = 4, typeSize = 4;
 
-constexpr std::array<std::uint32_t, 256> crcTable = [] {
-    std::array<std::uint32_t, 256> table{};
-    for (std::uint32_t byte = 0; byte < table.size(); ++byte) {
-        std::uint32_t crc = byte;
-        for (int bit = 0; bit < 8; ++bit) {
-            crc = (crc & 1U) != 0 ? 0xEDB88320U ^ crc >> 1U : crc >> 1U;
-        }
-        table[byte] = crc;
-    }
-    return table;
-}();
-
 /// The checksum of a chunk, which covers its type and its data.
 std::uint32_t crcOf(std::string_view bytes) {
-    std::uint32_t crc = 0xFFFFFFFFU;
-    for (const char byte : bytes) {
-        crc = crcTable[(crc ^ static_cast<unsigned char>(byte)) & 0xFFU] ^ crc >> 8U;
-    }
-    return ~crc;
+    return static_cast<std::uint32_t>(
+        crc32_z(0, reinterpret_cast<const Bytef*>(bytes.data()), bytes.size()));
 }
 
 std::uint32_t numberAt(std::string_view bytes) {

@@ -126,9 +126,10 @@ public:
     static std::string withExtension(std::string fileName);
     /// Saves the design; the name gets the extension ".shp" if it lacks it.
     bool saveShip(std::string& in_sFileName);
-    /// Loads a design into this ship, which should be new, from a ship file or from a sheet that
-    /// carries one. A sheet is no file to save to: the ship then has no file. After a failure the
-    /// ship holds what was read before the fault.
+    /// Loads a design into this ship, which should be new, from a ship file, from a sheet that
+    /// carries one, or from a design code in the place of a name. Those two are no file to save to:
+    /// the ship then has no file, and one from a code is not saved. After a failure the ship holds
+    /// what was read before the fault.
     bool loadShip(const std::string& in_sFileName);
     /// The same from the text of a ship file, in UTF-8. The ship gets no file.
     bool loadText(std::string_view shipFile);

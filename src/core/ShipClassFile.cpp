@@ -57,14 +57,16 @@ bool ShipClass::loadShip(const std::string& in_sFileName) {
     m_refusedLines.clear();
     return succeeds([&](int& line) {
         g_bAutoMass = false;
-        const ShipText file = readShip(nativePath(in_sFileName));
+        const ShipText file = readShip(in_sFileName);
         readShipFile(file.text, line);
-        takeFileName(in_sFileName);
-        if (file.isInSheet) {
+        if (file.source != ShipSource::Code) {
+            takeFileName(in_sFileName);
+        }
+        if (file.source == ShipSource::Sheet) {
             g_sSaveName.clear();
         }
         ShipLoaded.raise();
-        g_bSaved = true;
+        g_bSaved = file.source != ShipSource::Code;
     });
 }
 

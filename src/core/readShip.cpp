@@ -1,6 +1,8 @@
 #include "readShip.h"
 
 #include "carriedShips.h"
+#include "designCode.h"
+#include "paths.h"
 #include "readFile.h"
 
 #include <utility>
@@ -25,16 +27,26 @@ std::string shipIn(const std::string& sheet) {
 
 }  // namespace
 
-ShipText readShip(const std::filesystem::path& file) {
-    std::string bytes = readBytes(file);
-    if (!isSheet(bytes)) {
-        return {.text = toUtf8(std::move(bytes))};
-    }
+ShipText readShip(const std::string& fileOrCode) {
+    const std::filesystem::path file = nativePath(fileOrCode);
     try {
-        return {.text = toUtf8(shipIn(bytes)), .isInSheet = true};
+        if (isDesignCode(fileOrCode)) {
+            return {.text = toUtf8(shipInCode(fileOrCode)), .source = ShipSource::Code};
+        }
+        std::string bytes = readBytes(file);
+        if (!isSheet(bytes)) {
+            return {.text = toUtf8(std::move(bytes))};
+        }
+        return {.text = toUtf8(shipIn(bytes)), .source = ShipSource::Sheet};
+    } catch (const FileError&) {
+        throw;
     } catch (const Error& error) {
         throw SheetError(file, error.what());
     }
+}
+
+std::string shipSourceName(const std::string& fileOrCode) {
+    return isDesignCode(fileOrCode) ? "the code" : pathText(nativePath(fileOrCode).filename());
 }
 
 }  // namespace fleetwright

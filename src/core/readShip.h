@@ -1,29 +1,34 @@
 #pragma once
 
-// Reading ship files, be they files of their own or inside a sheet.
+// Reading ships, be they in a ship file, inside a sheet, or in a code.
 
 #include "Error.h"
 
-#include <filesystem>
 #include <string>
 
 namespace fleetwright {
 
-/// A sheet, or another picture or document, from which no ship can be had.
+/// A sheet, a code, or another picture or document, from which no ship can be had.
 class SheetError : public FileError {
 public:
     using FileError::FileError;
 };
 
+/// Where a ship was read from. Only a ship file may be overwritten with one.
+enum class ShipSource { File, Sheet, Code };
+
 /// The text of a ship file, in UTF-8.
 struct ShipText {
     std::string text;
-    bool isInSheet =
-        false;  ///< the file is a sheet, which is not to be overwritten with a ship file
+    ShipSource source = ShipSource::File;
 };
 
-/// Reads a ship file, or the one that a sheet carries; its contents tell, and not its name. Throws
-/// FileError; SheetError if it is a sheet and has not exactly one ship, whole and sound.
-ShipText readShip(const std::filesystem::path& file);
+/// Reads a ship file, or the one that a sheet carries: its contents tell, and not its name. In the
+/// place of a file's name there may be a design code. Throws FileError; SheetError if it is a sheet
+/// or a code and has not exactly one ship, whole and sound.
+ShipText readShip(const std::string& fileOrCode);
+
+/// What such a one is called in a message: the name of a file without its folder.
+std::string shipSourceName(const std::string& fileOrCode);
 
 }  // namespace fleetwright

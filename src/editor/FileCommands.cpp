@@ -8,6 +8,7 @@
 #include "RecoveryPanel.h"
 #include "ReportPrinter.h"
 #include "clsMRUFiles.h"
+#include "designCode.h"
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
@@ -61,7 +62,7 @@ bool FileCommands::loadFile(const std::string& fileName) {
     // What waits, the end of the window perhaps, waits for the last step.
     window().acts.letActsIn([&] {
         isLoaded = replaceBy(fileName);
-        if (isLoaded) {
+        if (isLoaded && !isDesignCode(fileName)) {
             m_others.recovery.noteSafe();
             addRecentFile(fileName);
         }
@@ -75,7 +76,7 @@ void FileCommands::load(const std::string& fileName) {
     fileFault.reset();
     ShipText file;
     try {
-        file = readShip(nativePath(fileName));
+        file = readShip(fileName);
     } catch (const SheetError& error) {
         fileFault = Fault{0, error.what()};
         sayFault(fileName);
@@ -84,8 +85,10 @@ void FileCommands::load(const std::string& fileName) {
         // The load fails likewise.
     }
     if (loadFile(fileName)) {
-        if (file.isInSheet) {
+        if (file.source == ShipSource::Sheet) {
             window().say("This design is from a sheet. Save As gives it a file of its own.");
+        } else if (file.source == ShipSource::Code) {
+            window().say("This design is from a code and not saved yet. Save As gives it a file.");
         }
         m_others.findings.noteLoad(fileName, file.text);
     } else {
@@ -94,7 +97,7 @@ void FileCommands::load(const std::string& fileName) {
 }
 
 std::string FileCommands::faultIn(const std::string& fileName) const {
-    return complaint(pathText(nativePath(fileName).filename()), *fileFault);
+    return complaint(shipSourceName(fileName), *fileFault);
 }
 
 void FileCommands::sayFault(const std::string& fileName) {
@@ -149,10 +152,13 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
     });
 }
 
-/// Replaces the ship by the one in a file, or by a new one if that does not load. False also if the
-/// one at hand may not go.
+/// Replaces the ship by the one in a file or a code, or by a new one if that does not load. False
+/// also if the one at hand may not go.
 bool FileCommands::replaceBy(const std::string& fileName) {
-    if (!m_others.recovery.giveUpDesignFor(nativePath(fileName))) {
+    const bool mayGo = isDesignCode(fileName)
+                           ? m_others.recovery.giveUpDesign()
+                           : m_others.recovery.giveUpDesignFor(nativePath(fileName));
+    if (!mayGo) {
         return false;
     }
     bool isLoaded = false;

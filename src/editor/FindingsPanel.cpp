@@ -5,7 +5,7 @@
 #include "NamesPanel.h"
 #include "SystemsPanel.h"
 #include "TreePanel.h"
-#include "paths.h"
+#include "readShip.h"
 
 #include <algorithm>
 #include <iterator>
@@ -17,15 +17,11 @@ namespace {
 
 constexpr const char* restInList = "see Findings... in the menu Design";
 
-std::string fileIn(const std::string& path) {
-    return pathText(nativePath(path).filename());
-}
-
 /// Where a finding is: a line of a file, or a part of the design.
 std::string whereIs(const ShipFinding& finding, const std::string& path) {
     if (finding.line != 0) {
         const std::string line = "line " + std::to_string(finding.line);
-        return path.empty() ? line : shownText(fileIn(path)) + ", " + line;
+        return path.empty() ? line : shownText(shipSourceName(path)) + ", " + line;
     }
     switch (finding.about) {
     case ShipKey::ShipName:
@@ -95,7 +91,7 @@ void FindingsPanel::noteLoad(const std::string& path, std::string_view shipFile)
             unknown.push_back(finding.system);
         }
     }
-    const std::string file = fileIn(path);
+    const std::string file = shipSourceName(path);
     if (unknown.size() > 1) {
         window().say(complaint(
             file, {0, std::to_string(unknown.size()) + " unknown systems: " + listOf(unknown)}));

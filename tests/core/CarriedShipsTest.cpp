@@ -2,6 +2,7 @@
 
 #include "carriedShips.h"
 #include "PngChunks.h"
+#include "designCode.h"
 #include "forSeeds.h"
 #include "readFile.h"
 #include "testShip.h"
@@ -64,7 +65,12 @@ TEST(CarriedShips, ComeBackWithoutADifference) {
             for (const std::string& sheet : sheets) {
                 EXPECT_EQ(shipsIn(sheet), std::vector{shipFile});
             }
-            EXPECT_EQ(stateIn(sheets[count % std::size(sheets)]), stateIn(shipFile));
+            const ShipState state = stateIn(shipFile);
+            EXPECT_EQ(stateIn(sheets[count % std::size(sheets)]), state);
+            ShipClass coded(services);
+            EXPECT_TRUE(coded.loadShip(designCode(shipFile)) && !coded.g_bSaved);
+            coded.g_bSaved = true;
+            EXPECT_EQ(coded.state(), state) << "nor has a code a file";
         }
     });
 }

@@ -1,0 +1,257 @@
+#include "designCode.h"
+
+#include "designDictionary.h"
+#include "text.h"
+
+#include <zlib.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <new>
+#include <optional>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::string_view codeStart = "FW1:";
+
+/// Five bits each. Chats take none of them for a mark, people mistake none for another, and the
+/// alphanumeric mode of QR codes has them all.
+constexpr std::string_view codeLetters = "0123456789ABCDEFGHJKMNPQRSTVWXYZ";
+constexpr std::size_t bitsOfLetter = 5, bitsOfByte = 8;
+
+constexpr std::size_t checksumSize = 4;
+
+/// Raw deflate: a window of 32 KiB, and neither a header nor a checksum of zlib's.
+constexpr int rawWindow = -15;
+
+[[noreturn]] void throwDamagedCode() {
+    throw DesignCodeError("the design code is damaged, or a part of it is missing");
+}
+
+constexpr std::size_t letterCount(std::size_t bytes) {
+    return (bytes * bitsOfByte + bitsOfLetter - 1) / bitsOfLetter;
+}
+
+std::string lettersOf(std::string_view bytes) {
+    std::string letters;
+    letters.reserve(letterCount(bytes.size()));
+    std::uint32_t bits = 0;
+    std::size_t count = 0;
+    const auto put = [&](std::uint32_t value) { letters += codeLetters[value & 0x1FU]; };
+    for (const char byte : bytes) {
+        bits = (bits << bitsOfByte | static_cast<unsigned char>(byte)) & 0xFFFFU;
+        for (count += bitsOfByte; count >= bitsOfLetter;) {
+            count -= bitsOfLetter;
+            put(bits >> count);
+        }
+    }
+    if (count > 0) {
+        put(bits << (bitsOfLetter - count));
+    }
+    return letters;
+}
+
+char asciiCapital(char character) {
+    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                : character;
+}
+
+/// What a letter stands for, also one that somebody has typed who took 0 for O or 1 for I or L.
+std::optional<std::uint32_t> valueOf(char character) {
+    const char letter = asciiCapital(character);
+    const std::size_t value = codeLetters.find(letter == 'O'                    ? '0'
+                                               : letter == 'I' || letter == 'L' ? '1'
+                                                                                : letter);
+    return value == std::string_view::npos ? std::nullopt
+                                           : std::optional(static_cast<std::uint32_t>(value));
+}
+
+/// Steps through the letters of a code, up to the first character that is neither one of them nor
+/// white space.
+class Letters {
+public:
+    explicit Letters(std::string_view text) : m_text(text) {}
+
+    std::optional<std::uint32_t> next() {
+        constexpr char32_t noBreakSpace = 0xA0;
+        while (m_at < m_text.size()) {
+            const std::string_view rest = m_text.substr(m_at);
+            if (const auto value = valueOf(rest.front())) {
+                ++m_at;
+                return value;
+            }
+            const char32_t character = codePoint(rest);
+            if (character != U' ' && character != noBreakSpace && !isInvisible(character)) {
+                break;
+            }
+            m_at += characterLength(rest);
+        }
+        return std::nullopt;
+    }
+
+    /// Behind the last letter.
+    std::size_t place() const { return m_at; }
+
+private:
+    std::string_view m_text;
+    std::size_t m_at = 0;
+};
+
+/// The bytes of all letters that follow each other.
+std::string bytesOfLetters(std::string_view text) {
+    std::string bytes;
+    std::uint32_t bits = 0;
+    std::size_t count = 0;
+    Letters letters(text);
+    while (const auto value = letters.next()) {
+        bits = (bits << bitsOfLetter | *value) & 0xFFFFU;
+        count += bitsOfLetter;
+        if (count >= bitsOfByte) {
+            count -= bitsOfByte;
+            bytes += static_cast<char>(bits >> count & 0xFFU);
+        }
+    }
+    return bytes;
+}
+
+Bytef* zlibBytes(std::string_view bytes) {
+    return reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
+}
+
+uInt zlibSize(std::string_view bytes) {
+    return static_cast<uInt>(bytes.size());
+}
+
+/// Covers both what is packed and how, for several packings mean the same.
+std::string checksumOf(std::string_view packing, std::string_view text) {
+    const uLong ofPacking = crc32_z(0, zlibBytes(packing), packing.size());
+    const uLong crc = crc32_z(ofPacking, zlibBytes(text), text.size());
+    std::string bytes;
+    for (const unsigned shift : {24U, 16U, 8U, 0U}) {
+        bytes += static_cast<char>(crc >> shift & 0xFFU);
+    }
+    return bytes;
+}
+
+std::string packed(std::string_view text) {
+    z_stream stream{};
+    if (deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, rawWindow, MAX_MEM_LEVEL,
+                     Z_DEFAULT_STRATEGY) != Z_OK) {
+        throw std::bad_alloc();
+    }
+    deflateSetDictionary(&stream, zlibBytes(designDictionary()), zlibSize(designDictionary()));
+    std::string bytes(deflateBound(&stream, text.size()), '\0');
+    stream.next_in = zlibBytes(text);
+    stream.avail_in = zlibSize(text);
+    stream.next_out = zlibBytes(bytes);
+    stream.avail_out = zlibSize(bytes);
+    deflate(&stream, Z_FINISH);
+    bytes.resize(stream.total_out);
+    deflateEnd(&stream);
+    return bytes;
+}
+
+/// The text that bytes begin with, and how many of them it takes.
+std::pair<std::string, std::size_t> unpacked(std::string_view bytes) {
+    z_stream stream{};
+    if (inflateInit2(&stream, rawWindow) != Z_OK) {
+        throw std::bad_alloc();
+    }
+    inflateSetDictionary(&stream, zlibBytes(designDictionary()), zlibSize(designDictionary()));
+    stream.next_in = zlibBytes(bytes);
+    stream.avail_in = zlibSize(bytes);
+    std::string text;
+    int state = Z_OK;
+    while (state == Z_OK && text.size() <= longestCodedShip) {
+        constexpr std::size_t step = 4096;
+        text.resize(text.size() + step);
+        stream.next_out = zlibBytes(std::string_view(text).substr(text.size() - step));
+        stream.avail_out = step;
+        state = inflate(&stream, Z_NO_FLUSH);
+        text.resize(text.size() - stream.avail_out);
+    }
+    inflateEnd(&stream);
+    if (text.size() > longestCodedShip) {
+        throw DesignCodeError("the design in the code is too large");
+    }
+    if (state != Z_STREAM_END) {
+        throwDamagedCode();
+    }
+    return {std::move(text), bytes.size() - stream.avail_in};
+}
+
+bool isLetterOrDigit(char character) {
+    const char letter = asciiCapital(character);
+    return (letter >= '0' && letter <= '9') || (letter >= 'A' && letter <= 'Z');
+}
+
+/// Takes the first code, which begins at the front of `text`, from it: its ship file. What packs it
+/// tells where it ends, so that words behind it do it no harm.
+std::string takeCode(std::string_view& text) {
+    text.remove_prefix(codeStart.size());
+    const std::string held = bytesOfLetters(text);
+    const std::string_view bytes = held;
+    auto [ship, size] = unpacked(bytes);
+    if (bytes.substr(size, checksumSize) != checksumOf(bytes.substr(0, size), ship)) {
+        throwDamagedCode();
+    }
+    size += checksumSize;
+    Letters letters(text);
+    std::uint32_t last = 0;
+    for (std::size_t count = letterCount(size); count > 0; --count) {
+        last = letters.next().value_or(0);
+    }
+    text.remove_prefix(letters.place());
+    const std::size_t unused = letterCount(size) * bitsOfLetter - size * bitsOfByte;
+    if ((last & ((1U << unused) - 1)) != 0 || (!text.empty() && isLetterOrDigit(text.front()))) {
+        throwDamagedCode();
+    }
+    return std::move(ship);
+}
+
+/// The rest of a text from where its first code begins; empty if there is none.
+std::string_view fromCodeOn(std::string_view text) {
+    const auto start = std::search(
+        text.begin(), text.end(), codeStart.begin(), codeStart.end(),
+        [](char character, char capital) { return asciiCapital(character) == capital; });
+    return text.substr(static_cast<std::size_t>(start - text.begin()));
+}
+
+}  // namespace
+
+std::string designCode(std::string_view shipFile) {
+    if (shipFile.size() > longestCodedShip) {
+        throw DesignCodeError("the design is too large for a code");
+    }
+    const std::string packing = packed(shipFile);
+    return std::string(codeStart) + lettersOf(packing + checksumOf(packing, shipFile));
+}
+
+bool hasDesignCode(std::string_view text) {
+    return !fromCodeOn(text).empty();
+}
+
+bool isDesignCode(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n<[(\"'`"), text.size()));
+    return !text.empty() && fromCodeOn(text).size() == text.size();
+}
+
+std::string shipInCode(std::string_view text) {
+    std::string_view rest = fromCodeOn(text);
+    if (rest.empty()) {
+        throw DesignCodeError("there is no design code in it");
+    }
+    std::string ship = takeCode(rest);
+    while (!(rest = fromCodeOn(rest)).empty()) {
+        if (takeCode(rest) != ship) {
+            throw DesignCodeError("there are codes of several designs in it");
+        }
+    }
+    return ship;
+}
+
+}  // namespace fleetwright
