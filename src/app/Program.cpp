@@ -6,6 +6,7 @@
 #include "Error.h"
 #include "Globals.h"
 #include "PictureCache.h"
+#include "QtClipboard.h"
 #include "QtClock.h"
 #include "QtDesktop.h"
 #include "QtPagePrinter.h"
@@ -20,6 +21,7 @@
 #include "SheetOutput.h"
 #include "applicationFolder.h"
 #include "checkPicturesAtStart.h"
+#include "designCode.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmMain.h"
@@ -93,10 +95,14 @@ std::string catalogueFaults(const CatalogueFile& file, PictureFiles* pictures = 
     return text;
 }
 
-/// The files that the program was started with. Some launchers name them by URLs.
+/// The files, or the code, that the program was started with. Some launchers name files by URLs.
 std::vector<std::string> filesOnCommandLine() {
     std::vector<std::string> files;
     for (const QString& word : QApplication::arguments().mid(1)) {
+        if (isDesignCode(word.toStdString())) {
+            files.push_back(word.toStdString());
+            continue;
+        }
         const QUrl url(word);
         files.push_back(QFileInfo(url.isLocalFile() ? url.toLocalFile() : word)
                             .absoluteFilePath()
@@ -145,6 +151,7 @@ public:
                   .recovery = &m_recovery,
                   .putAside = [this]() -> frmPutAside& { return m_putAside; },
                   .sheets = [this] { return &m_sheets; },
+                  .clipboard = &m_clipboard,
                   .isStartOver = [this] { return !m_splash.isLoaded() && m_main.isVisible(); },
                   .clock = &m_clock}),
           m_extras({.desktop = desktop,
@@ -268,6 +275,7 @@ private:
     CatalogueFile m_catalogueFile{m_appFolder / "weaps.dat"};  // read once, by whoever asks first
     QtDesktop& m_desktop;
     QtSettingsStore m_settings;
+    QtClipboard m_clipboard;
     QtClock m_clock;
     QtSounds m_sounds;
     QtPictureFiles m_pictureFiles;

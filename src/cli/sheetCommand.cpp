@@ -5,9 +5,11 @@
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "carriedShips.h"
+#include "designCode.h"
 #include "documentDate.h"
 #include "drawnSheet.h"
 #include "paths.h"
+#include "readShip.h"
 #include "saveResult.h"
 #include "sheetDocument.h"
 #include "svgFile.h"
@@ -109,6 +111,20 @@ SheetOptions sheetOptionsOf(const Options& options, Silhouette::Outlines& outlin
             .outlines = &outlines};
 }
 
+/// The name of a ship's sheet, without its ending: that of its file. A code has none, and its sheet
+/// gets the ship's.
+fs::path sheetName(const std::string& fileOrCode) {
+    if (!isDesignCode(fileOrCode)) {
+        return nativePath(fileOrCode).stem();
+    }
+    try {
+        return nativePath(
+            fileNameOf(valueIn(readShip(fileOrCode).text, ShipKey::ShipName).value_or("")));
+    } catch (const FileError&) {
+        return "Unnamed";  // it does not load either
+    }
+}
+
 /// Where the sheet of each ship goes.
 class SheetFiles {
 public:
@@ -122,7 +138,7 @@ public:
         }
         for (const std::string& ship : options.words) {
             m_files.push_back(m_out /
-                              nativePath(ship).stem().concat('.' + options.value("--format")));
+                              sheetName(ship).concat('.' + options.value("--format")));
             m_firstShips.try_emplace(m_files.back(), m_files.size() - 1);
         }
     }
@@ -148,10 +164,9 @@ std::string formatOf(const fs::path& file) {
 }
 
 /// The sheet of a ship of the command line, for pages.
-VectorSheet sheetFor(const Options& options, std::size_t index, const ShipOnScreen& screen,
-                     const SheetTools& tools) {
+VectorSheet sheetFor(const Options& options, ShipOnScreen& screen, const SheetTools& tools) {
     VectorSheet sheet = recordedSheet(screen, tools, options.value("--map"));
-    sheet.date = documentDate(nativePath(options.words[index]));
+    sheet.date = documentDate(nativePath(screen.ship().origin));
     return sheet;
 }
 
@@ -163,7 +178,7 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
     const auto bytesOf = [&](std::size_t index, ShipOnScreen& screen, const std::string& format) {
         if (format == "svg" || format == "pdf") {
             const PageDocument document =
-                sheetDocument({sheetFor(options, index, screen, tools)}, pages);
+                sheetDocument({sheetFor(options, screen, tools)}, pages);
             return format == "svg" ? svgFile(document, tools.encoder, &fonts)
                                    : pictures.pdf(document);
         }
@@ -183,7 +198,7 @@ int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& 
     std::vector<std::optional<VectorSheet>> drawn(options.words.size());
     const int status = forEachShip(options, RefusedLines::AsComplaints,
                                    [&](std::size_t index, ShipOnScreen& screen) {
-                                       drawn[index] = sheetFor(options, index, screen, tools);
+                                       drawn[index] = sheetFor(options, screen, tools);
                                        return std::string();
                                    });
     std::vector<VectorSheet> sheets;

@@ -64,4 +64,16 @@ ShipFileLine cutShipFileLine(std::string& line) {
     return cut;
 }
 
+std::optional<std::string> valueIn(std::string_view shipFile, ShipKey key) {
+    std::optional<std::string> value;
+    LineReader lines(shipFile);
+    for (std::string_view line; lines.next(line);) {
+        std::string cuttable(line);
+        if (ShipFileLine cut = cutShipFileLine(cuttable); cut.key == key) {
+            value = std::move(cut.value);
+        }
+    }
+    return value;
+}
+
 }  // namespace fleetwright

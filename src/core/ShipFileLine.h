@@ -2,6 +2,7 @@
 
 #include "Fault.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -51,5 +52,8 @@ struct RefusedLine {
 
 /// Cuts a line with `strTok`. An empty `line` becomes what the cutting before has left.
 ShipFileLine cutShipFileLine(std::string& line);
+
+/// What the last line with this key says in the text of a ship file; nothing if there is none.
+std::optional<std::string> valueIn(std::string_view shipFile, ShipKey key);
 
 }  // namespace fleetwright

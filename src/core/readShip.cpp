@@ -46,7 +46,8 @@ ShipText readShip(const std::string& fileOrCode) {
 }
 
 std::string shipSourceName(const std::string& fileOrCode) {
-    return isDesignCode(fileOrCode) ? "the code" : pathText(nativePath(fileOrCode).filename());
+    return isDesignCode(fileOrCode) ? "the pasted design"
+                                    : pathText(nativePath(fileOrCode).filename());
 }
 
 }  // namespace fleetwright

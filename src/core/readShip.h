@@ -28,7 +28,8 @@ struct ShipText {
 /// or a code and has not exactly one ship, whole and sound.
 ShipText readShip(const std::string& fileOrCode);
 
-/// What such a one is called in a message: the name of a file without its folder.
+/// What such a one is called in a message of the window: the name of a file without its folder.
+/// Codes are mostly pasted.
 std::string shipSourceName(const std::string& fileOrCode);
 
 }  // namespace fleetwright

@@ -3,6 +3,7 @@
 #include "Desktop.h"
 #include "Error.h"
 #include "FindingsPanel.h"
+#include "Globals.h"
 #include "HistoryPanel.h"
 #include "Printer.h"
 #include "RecoveryPanel.h"
@@ -71,7 +72,7 @@ bool FileCommands::loadFile(const std::string& fileName) {
 }
 
 /// Loads a file as a command does, and says what is wrong with it. A sheet from which no ship can
-/// be had leaves the one at hand.
+/// be had leaves the one at hand, and so does a code that does not load.
 void FileCommands::load(const std::string& fileName) {
     fileFault.reset();
     ShipText file;
@@ -84,11 +85,19 @@ void FileCommands::load(const std::string& fileName) {
     } catch (const FileError&) {
         // The load fails likewise.
     }
+    if (file.source == ShipSource::Code) {
+        ShipClass trial({services().catalogueFile, services().globals.formula, {}});
+        if (!trial.loadShip(fileName)) {
+            fileFault = trial.fileFault();
+            sayFault(fileName);
+            return;
+        }
+    }
     if (loadFile(fileName)) {
         if (file.source == ShipSource::Sheet) {
             window().say("This design is from a sheet. Save As gives it a file of its own.");
         } else if (file.source == ShipSource::Code) {
-            window().say("This design is from a code and not saved yet. Save As gives it a file.");
+            window().say("This design is not saved yet. Save As gives it a file.");
         }
         m_others.findings.noteLoad(fileName, file.text);
     } else {

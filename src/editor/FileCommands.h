@@ -42,8 +42,8 @@ public:
     /// Replaces the ship by the one in a file; only when idle. False if it does not load; the ship
     /// is a new one all the same, and `fileFault` says why.
     bool loadFile(const std::string& fileName);
-    /// Loads a file that was dropped on the window or named otherwise, when idle, and says why if
-    /// it does not load. Of several files it loads none.
+    /// Loads a file that was dropped on the window or named otherwise, or a code, when idle, and
+    /// says why if it does not load. Of several files it loads none.
     void openFiles(const std::vector<std::string>& files);
     /// The same as soon as the start is over. Nothing if there is no file.
     void openAfterStart(std::vector<std::string> files);

@@ -8,6 +8,7 @@
 
 namespace fleetwright {
 
+class Clipboard;
 class Clock;
 class Desktop;
 class PictureFiles;
@@ -46,6 +47,7 @@ struct MainWindowServices {
     std::function<frmPutAside&()> putAside = {};  ///< is shown above this window, too
     /// What shows, prints and exports sheets; null if nothing does.
     std::function<const SheetOutput*()> sheets = [] { return nullptr; };
+    Clipboard* clipboard = nullptr;  ///< null where nobody copies or pastes
     /// Whether nothing of the start is on the screen any more.
     std::function<bool()> isStartOver = [] { return true; };
     /// By it the moments of a held arrow are one step; null if each is one of its own.

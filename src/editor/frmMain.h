@@ -16,6 +16,7 @@
 #include "NamesPanel.h"
 #include "PreviewPanel.h"
 #include "RecoveryPanel.h"
+#include "SharePanel.h"
 #include "SheetPanel.h"
 #include "ShipClass.h"
 #include "StatusBar.h"
@@ -95,6 +96,8 @@ public:
     FindingsPanel findings{m_context, mnuDesign, sbStatus, {hull, mass, names, aboard, tree}};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
+    SharePanel share{m_context, mnuDesign,
+                     [this](const std::string& code) { files.openFiles({code}); }};
     ComparePanel compare{m_context, mnuDesign};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); },

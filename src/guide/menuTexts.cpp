@@ -106,6 +106,12 @@ ControlRows designMenuTexts() {
         ControlText{"mnuExportSheet", "Export Sheet...",
                     "Saves the sheet as PDF, SVG or PNG file. The design is in that file, and Load "
                     "gets it out again."},
+        ControlText{"mnuCopyDesign", "Copy Design",
+                    "Puts the design on the clipboard as a code, one line of letters to be pasted "
+                    "into a chat or a mail. While a text is open or marked, Ctrl+C copies that."},
+        ControlText{"mnuPasteDesign", "Paste Design",
+                    "Opens the design whose code was copied, with or without the words around it, "
+                    "or the text of a ship file. The design at hand comes back with Undo."},
         ControlText{"mnuCompare", "Compare With...",
                     "Shows the design at hand beside another ship, and what differs: figures, "
                     "systems, and what the weapons cover."},

@@ -142,6 +142,10 @@ public:
             m_window.files.openAfterStart(paths(rest));
         } else if (first == "choose") {
             m_test.file = (m_test.folder().path() / rest).string();
+        } else if (first == "hold") {
+            m_test.clipboard.held = replaced(rest, "; ", "\r\n");
+        } else if (first == "held") {
+            m_says += m_test.clipboard.held + "; ";
         } else if (first == "set") {
             set(rest);
         } else {
@@ -342,7 +346,7 @@ private:
 
 TEST(FrmMain, ShowsWhatIsDone) {
     for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide", "find",
-                                   "undo", "findings", "compare"}) {
+                                   "undo", "findings", "compare", "share"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });

@@ -232,6 +232,7 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .recovery = &m_recovery,
                            .putAside = [this]() -> frmPutAside& { return m_putAside; },
                            .sheets = [this] { return m_output.get(); },
+                           .clipboard = &clipboard,
                            .isStartOver = [this] { return isStartOver; },
                            .clock = &clock});
     m_cached = std::make_unique<PictureCache>(*m_pictures);

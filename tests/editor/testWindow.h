@@ -65,6 +65,7 @@ public:
     bool hasTrash = true;
     bool isStartOver = true;
     std::string catalogueFaults;
+    MemoryClipboard clipboard;
     SteppingClock clock;  ///< by which any two acts lie two seconds apart
 
 private:

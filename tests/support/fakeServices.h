@@ -2,6 +2,7 @@
 
 // Services of a desktop that exist in memory only. Whoever includes this links `platform`.
 
+#include "Clipboard.h"
 #include "Clock.h"
 #include "Desktop.h"
 #include "Error.h"
@@ -55,6 +56,14 @@ public:
         }
         values[section + '/' + key] = value;
     }
+};
+
+class MemoryClipboard : public Clipboard {
+public:
+    std::string held;
+
+    std::string text() override { return held; }
+    void setText(const std::string& text) override { held = text; }
 };
 
 /// Pictures by the paths of their files.

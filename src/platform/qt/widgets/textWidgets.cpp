@@ -134,6 +134,11 @@ bool isBeyondUndo(QEvent& event, const QLineEdit& line) {
            (key.matches(QKeySequence::Redo) && !line.isRedoAvailable());
 }
 
+/// Whether a key copies what is marked in a line, as it does in a locked one, too.
+bool copiesMarked(QEvent& event, const QLineEdit& line) {
+    return static_cast<QKeyEvent&>(event).matches(QKeySequence::Copy) && line.hasSelectedText();
+}
+
 /// Hands what is done to a line to its model. Whether the line itself is to do nothing with it.
 bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale) {
     switch (event.type()) {
@@ -152,7 +157,8 @@ bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale)
         }
         return static_cast<bool>(box.onMouseDown);
     case QEvent::ShortcutOverride:
-        return takesEditKeys(event, box) || isBeyondUndo(event, line);
+        return !copiesMarked(event, line) &&
+               (takesEditKeys(event, box) || isBeyondUndo(event, line));
     case QEvent::DragEnter:
         return static_cast<QDropEvent&>(event).mimeData()->hasUrls();  // files are for the window
     case QEvent::KeyPress: {
