@@ -22,9 +22,10 @@ extern const CommandRow codeCommand = {
     .least = 1,
     .most = CommandRow::any,
     .help = "Print ships as codes, one line each, for chats and mails",
-    .details = "A code is \"FW1:\" and letters. It holds all that a ship file does, and every "
-               "command takes it in the place of one; it may stand among other words then. A file "
-               "whose name begins like a code is named with its folder, as ./FW1:.shp.",
+    .details =
+        "A code is \"FW1:\" and letters. It holds all that a ship file does, and every "
+        "command takes it in the place of one. A file whose name begins like a code is named "
+        "with its folder, as ./FW1:.shp.",
     .run = runCode,
 };
 

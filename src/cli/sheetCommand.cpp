@@ -175,7 +175,7 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
     Silhouette::Outlines outlines;
     KeptSvgFonts fonts;
     const SheetOptions pages = sheetOptionsOf(options, outlines);
-    const auto bytesOf = [&](std::size_t index, ShipOnScreen& screen, const std::string& format) {
+    const auto bytesOf = [&](ShipOnScreen& screen, const std::string& format) {
         if (format == "svg" || format == "pdf") {
             const PageDocument document =
                 sheetDocument({sheetFor(options, screen, tools)}, pages);
@@ -189,7 +189,7 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
     return forEachShip(options, RefusedLines::AsComplaints,
                        [&](std::size_t index, ShipOnScreen& screen) {
                            const fs::path& file = files.of(index);
-                           saveResult(file, bytesOf(index, screen, formatOf(file)));
+                           saveResult(file, bytesOf(screen, formatOf(file)));
                            return std::string();
                        });
 }

@@ -46,8 +46,7 @@ ShipText readShip(const std::string& fileOrCode) {
 }
 
 std::string shipSourceName(const std::string& fileOrCode) {
-    return isDesignCode(fileOrCode) ? "the pasted design"
-                                    : pathText(nativePath(fileOrCode).filename());
+    return isDesignCode(fileOrCode) ? "Pasted design" : pathText(nativePath(fileOrCode).filename());
 }
 
 }  // namespace fleetwright
