@@ -3,7 +3,6 @@
 #include "Error.h"
 #include "ShipOnScreen.h"
 #include "fingerprint.h"
-#include "paths.h"
 #include "readShip.h"
 
 namespace fleetwright {
@@ -14,7 +13,7 @@ FleetRow fleetRow(ShipOnScreen& screen, const std::string& ship) {
         return row;  // whoever has read the fleet has said so
     }
     try {
-        row.fingerprint = fingerprint(readShip(nativePath(ship)).text);
+        row.fingerprint = fingerprint(readShip(ship).text);
     } catch (const Error&) {
         // The load fails likewise, and says why.
     }
