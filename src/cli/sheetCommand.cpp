@@ -137,8 +137,7 @@ public:
             makeFolder(m_out);
         }
         for (const std::string& ship : options.words) {
-            m_files.push_back(m_out /
-                              sheetName(ship).concat('.' + options.value("--format")));
+            m_files.push_back(m_out / sheetName(ship).concat('.' + options.value("--format")));
             m_firstShips.try_emplace(m_files.back(), m_files.size() - 1);
         }
     }
@@ -177,8 +176,7 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
     const SheetOptions pages = sheetOptionsOf(options, outlines);
     const auto bytesOf = [&](ShipOnScreen& screen, const std::string& format) {
         if (format == "svg" || format == "pdf") {
-            const PageDocument document =
-                sheetDocument({sheetFor(options, screen, tools)}, pages);
+            const PageDocument document = sheetDocument({sheetFor(options, screen, tools)}, pages);
             return format == "svg" ? svgFile(document, tools.encoder, &fonts)
                                    : pictures.pdf(document);
         }
