@@ -41,7 +41,7 @@ public:
                       .accessibleDescription = "Where the two differ, the last column says by how "
                                                "much"}};
     Frame fraFire{*this,
-                  {.name = "fraFire", .place = {9000, 390, 3450, 5100}, .caption = "Fire Power"}};
+                  {.name = "fraFire", .place = {9000, 390, 3450, 4470}, .caption = "Fire Power"}};
     Label lblHere{fraFire,
                   {.name = "lblHere", .place = {150, 345, 1500, 255}, .caption = "This design"}};
     Label lblOther{fraFire,
