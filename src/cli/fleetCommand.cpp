@@ -2,20 +2,28 @@
 
 #include "CatalogueFile.h"
 #include "Error.h"
+#include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "console.h"
+#include "documentDate.h"
+#include "drawnSheet.h"
 #include "fingerprint.h"
+#include "fleetDocument.h"
 #include "fleetFile.h"
 #include "fleetPaths.h"
 #include "fleetRows.h"
 #include "fleetTable.h"
 #include "fleetWords.h"
+#include "pageOptions.h"
 #include "paths.h"
 #include "playedFleet.h"
+#include "saveResult.h"
 #include "text.h"
 
 #include <algorithm>
 #include <memory>
+#include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -27,6 +35,14 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view playOption = "--play";
+constexpr std::string_view sheetsOption = "--sheets";
+constexpr int mostPerPage = 4;
+
+void checkSheets(std::string_view, const std::string& out) {
+    if (!toCapitals(out).ends_with(".PDF")) {
+        throw UsageError("--sheets: a fleet is printed as a .pdf file: " + shownText(out));
+    }
+}
 
 /// The ships of a fleet that have to be loaded: each file once.
 struct FleetFiles {
@@ -53,26 +69,55 @@ FleetFiles filesOf(const Fleet& fleet, const fs::path& folder) {
     return files;
 }
 
-/// Loads all ships of a fleet and names what is wrong with them.
-FleetRows rowsOf(const Options& options, const FleetFiles& files, const CatalogueFile& catalogue,
-                 int& status) {
-    FleetRows loaded(files.paths.size());
+/// What the ships of a fleet are, and their sheets if those are wanted.
+struct LoadedShips {
+    FleetRows rows;                                  ///< for each ship of the fleet
+    std::vector<std::optional<VectorSheet>> sheets;  ///< for each file
+};
+
+/// Loads all ships of a fleet and names what is wrong with them. With tools it draws their sheets.
+LoadedShips loadShips(const Options& options, const FleetFiles& files,
+                      const CatalogueFile& catalogue, const SheetTools* tools, int& status) {
+    LoadedShips loaded;
+    FleetRows rows(files.paths.size());
+    loaded.sheets.resize(files.paths.size());
     const auto load = [&](std::size_t index) {
+        const std::string& path = files.paths[index];
         ShipOnScreen screen(options.appFolder, catalogue);
-        auto row = std::make_shared<const FleetRow>(fleetRow(screen, files.paths[index]));
+        auto row = std::make_shared<const FleetRow>(fleetRow(screen, path));
         Result result;
         for (const Fault& fault : row->faults) {
-            result.complaints.push_back(complaint(files.paths[index], fault));
+            result.complaints.push_back(complaint(path, fault));
         }
-        loaded[index] = std::move(row);
+        try {
+            if (tools != nullptr && row->figures) {
+                loaded.sheets[index] = recordedSheet(screen, *tools, {});
+            }
+        } catch (const Error& error) {
+            result.complaints.push_back(complaint(nativePath(path), error));
+        }
+        rows[index] = std::move(row);
         return result;
     };
     status = std::max(status, printInOrder(files.paths.size(), load));
-    FleetRows rows;
     for (const std::size_t file : files.ofShip) {
-        rows.push_back(loaded[file]);
+        loaded.rows.push_back(rows[file]);
     }
-    return rows;
+    return loaded;
+}
+
+void saveSheets(const Options& options, const FleetReport& report, const FleetFiles& files,
+                const LoadedShips& loaded, ToolPictures& pictures) {
+    std::vector<const VectorSheet*> sheets;
+    for (const std::size_t file : files.ofShip) {
+        const std::optional<VectorSheet>& sheet = loaded.sheets[file];
+        sheets.push_back(sheet ? &*sheet : nullptr);
+    }
+    SheetOptions onPages = sheetOptionsOf(options);
+    onPages.perPage = options.has(perPageOption.name) ? onPages.perPage : mostPerPage;
+    PageDocument document = fleetDocument(report.fleet, report.rows, sheets, onPages);
+    document.date = documentDate(nativePath(options.words.front()));
+    saveResult(nativePath(options.value(sheetsOption)), pictures.pdf(document));
 }
 
 int runFleet(const Options& options) {
@@ -89,14 +134,27 @@ int runFleet(const Options& options) {
     }
     const auto catalogue = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
     const FleetFiles files = filesOf(read.fleet, path.parent_path());
+    std::optional<SheetSupplies> supplies;
+    if (options.has(sheetsOption)) {
+        supplies.emplace(options, files.paths.size(), SheetSupplies::Kind::Pdf, status);
+    }
+    LoadedShips loaded =
+        loadShips(options, files, catalogue, supplies ? &supplies->tools : nullptr, status);
     FleetReport report;
     report.fleet = std::move(read.fleet);
-    report.rows = rowsOf(options, files, catalogue, status);
+    report.rows = std::move(loaded.rows);
     report.sum = fleetSum(report.fleet, report.rows);
     if (!report.fleet.catalogue.empty()) {
         report.isOtherCatalogue = report.fleet.catalogue != fingerprint(catalogue.read()->text());
     }
-    options.has("--json") ? printJson(report, file) : printTable(report);
+    if (options.has(jsonOption.name)) {
+        printJson(report, file);
+    } else if (!supplies) {
+        printTable(report);
+    }
+    if (supplies) {
+        saveSheets(options, report, files, loaded, supplies->pictures);
+    }
     for (const LimitWords& limit : limitWords(report.fleet, report.sum)) {
         if (limit.isBroken) {
             refuse(complaint(file, Fault{0, limit.text}));
@@ -119,6 +177,10 @@ int runFleet(const Options& options) {
 
 constexpr OptionRow fleetOptions[] = {
     jsonOption,
+    {.name = sheetsOption,
+     .value = "OUT",
+     .help = "Make a .pdf of the fleet: its roster, and the sheets of all of its ships",
+     .check = checkSheets},
     {.name = playOption,
      .value = "OUT.html",
      .help = "Save a page by which the fleet is played in a browser",
@@ -128,11 +190,14 @@ constexpr OptionRow fleetOptions[] = {
                  throw UsageError("--play: a page is an .html file: " + shownText(value));
              }
          }},
+    paperOption,
+    perPageOption,
+    plainOption,
 };
 
 extern const CommandRow fleetCommand = {
     .name = "fleet",
-    .words = "FLEET [--json] [--play OUT]",
+    .words = "FLEET [--sheets OUT] [--play OUT]",
     .least = 1,
     .most = 1,
     .options = fleetOptions,
@@ -141,7 +206,10 @@ extern const CommandRow fleetCommand = {
         "The ships are those of the fleet file, each with its count, class, mass, points and "
         "their sum; below them stands what is left of the limits. A limit that is broken and "
         "a ship that does not load are errors. A * behind a ship, and a word on the "
-        "catalogue, say that they have changed since the fleet was written, which is none. "
+        "catalogue, say that they have changed since the fleet was written, which is no error. "
+        "With --sheets there is no table but a document: a roster with all of that and the "
+        "notes, and behind it the sheet of each ship under its own name, or the name and a "
+        "number. Small ones share a page, unless --per-page says otherwise. "
         "--play saves one file for any browser, with the sheets of all ships, on which damage and "
         "systems are marked at the table; it works without a network. The pictures must have been "
         "unpacked for that.",

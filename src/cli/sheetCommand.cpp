@@ -8,6 +8,7 @@
 #include "designCode.h"
 #include "documentDate.h"
 #include "drawnSheet.h"
+#include "pageOptions.h"
 #include "paths.h"
 #include "readShip.h"
 #include "saveResult.h"
@@ -15,7 +16,6 @@
 #include "svgFile.h"
 #include "svgFonts.h"
 #include "text.h"
-#include "wholeNumber.h"
 
 #include <algorithm>
 #include <map>
@@ -78,37 +78,16 @@ SheetSupplies::Kind kindOf(const Options& options) {
     return format == "svg" ? SheetSupplies::Kind::Svg : SheetSupplies::Kind::Other;
 }
 
-PageSize paperOf(const std::string& name) {
-    if (toCapitals(name) == "A4") {
-        return paperA4;
-    }
-    if (toCapitals(name) == "LETTER") {
-        return paperLetter;
-    }
-    throw UsageError("--paper is A4 or Letter");
-}
-
-void checkPaper(std::string_view, const std::string& name) {
-    paperOf(name);
-}
-
 void checkFormat(std::string_view, const std::string& format) {
     if (sheetFormat('.' + format) != format) {
         throw UsageError("--format is bmp, png, svg or pdf");
     }
 }
 
-void checkPerPage(std::string_view, const std::string& number) {
-    if (number != "1" && number != "2" && number != "4") {
-        throw UsageError("--per-page is 1, 2 or 4");
-    }
-}
-
 SheetOptions sheetOptionsOf(const Options& options, Silhouette::Outlines& outlines) {
-    return {.paper = paperOf(options.value("--paper")),
-            .perPage = wholeNumber(options.value("--per-page")),
-            .isPlain = options.has("--plain"),
-            .outlines = &outlines};
+    SheetOptions asked = sheetOptionsOf(options);
+    asked.outlines = &outlines;
+    return asked;
 }
 
 /// The name of a ship's sheet, without its ending: that of its file. A code has none, and its sheet
@@ -234,17 +213,9 @@ constexpr OptionRow sheetOptions[] = {
      .help = "What a folder gets of each ship",
      .byDefault = "bmp",
      .check = checkFormat},
-    {.name = "--paper",
-     .value = "A4|Letter",
-     .help = "The paper of a .pdf or .svg",
-     .byDefault = "A4",
-     .check = checkPaper},
-    {.name = "--per-page",
-     .value = "1|2|4",
-     .help = "How many small sheets share a page of a .pdf",
-     .byDefault = "1",
-     .check = checkPerPage},
-    {.name = "--plain", .help = "Leave out all but the drawing and its text in a .pdf or .svg"},
+    paperOption,
+    perPageOption,
+    plainOption,
 };
 
 extern const CommandRow sheetCommand = {

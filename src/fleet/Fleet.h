@@ -30,8 +30,8 @@ struct FleetShip {
     /// holds the design.
     std::string file;
     std::int32_t count = 1;  ///< 1 to `mostCount`
-    /// The names of its ships, `count` at most. A ship has the name of the design where there is
-    /// none, or an empty one.
+    /// The names of its ships, `count` at most. See `ownName` for those that
+    /// have none, or an empty one.
     std::vector<std::string> names;
     std::string notes;        ///< lines with "\n" between them
     std::string fingerprint;  ///< of its text when the fleet was written; empty if not known
@@ -55,10 +55,13 @@ struct Fleet {
     friend bool operator==(const Fleet&, const Fleet&) = default;
 };
 
-/// The name of one of a design's ships, `index` from 0 on. `shipName` is that of the design.
-inline const std::string& ownName(const FleetShip& ship, std::size_t index,
-                                  const std::string& shipName) {
-    return index < ship.names.size() && !ship.names[index].empty() ? ship.names[index] : shipName;
+/// The name of one of a design's ships, `index` from 0 on. `shipName` is that of the design, which
+/// is numbered where there are several.
+inline std::string ownName(const FleetShip& ship, std::size_t index, const std::string& shipName) {
+    if (index < ship.names.size() && !ship.names[index].empty()) {
+        return ship.names[index];
+    }
+    return ship.count == 1 ? shipName : shipName + ' ' + std::to_string(index + 1);
 }
 
 }  // namespace fleetwright

@@ -29,9 +29,9 @@ std::string damageOf(const SheetFacts& facts) {
     return text;
 }
 
-std::vector<Figure> measuredFigures(const SheetFacts& facts) {
+std::vector<Figure> measured(std::vector<HeadFigure> given) {
     std::vector<Figure> figures;
-    for (HeadFigure& figure : headFigures(facts)) {
+    for (HeadFigure& figure : given) {
         const double width = std::max(textWidth(figure.label, labelSize),
                                       textWidth(figure.value, valueSize, PageFont::Bold));
         figures.push_back({std::move(figure), width});
@@ -44,7 +44,7 @@ public:
     explicit HeaderBlock(double width) : m_width(width) {}
 
     void writeName(const SheetFacts& facts, double room, double size);
-    void writeFigures(const SheetFacts& facts);
+    void writeFigures(std::vector<HeadFigure> figures);
 
     PageBlock block;
 
@@ -96,12 +96,11 @@ void HeaderBlock::writeRow(const std::vector<Figure>& row) {
     block.height += 7.9;
 }
 
-/// The figures between two lines, in as many rows as they need.
-void HeaderBlock::writeFigures(const SheetFacts& facts) {
+void HeaderBlock::writeFigures(std::vector<HeadFigure> figures) {
     rule(0.5);
     std::vector<Figure> row;
     double used = 0;
-    for (Figure& figure : measuredFigures(facts)) {
+    for (Figure& figure : measured(std::move(figures))) {
         if (!row.empty() && used + leastGap + figure.width > m_width) {
             writeRow(std::exchange(row, {}));
             used = 0;
@@ -131,6 +130,12 @@ std::vector<HeadFigure> headFigures(const SheetFacts& facts) {
     return figures;
 }
 
+PageBlock figuresBlock(std::vector<HeadFigure> figures, double width) {
+    HeaderBlock header(width);
+    header.writeFigures(std::move(figures));
+    return std::move(header.block);
+}
+
 Box roomInHeader(double width) {
     return {width - besideWidth, 0, width < leastWideHeader ? 0 : besideWidth, besideHeight};
 }
@@ -141,7 +146,7 @@ PageBlock sheetHeader(const SheetFacts& facts, const std::vector<PageBlock>& lin
     HeaderBlock header(width);
     header.writeName(facts, lines.empty() ? width : beside.x - gap,
                      width < leastWideHeader ? smallName : largeName);
-    header.writeFigures(facts);
+    header.writeFigures(headFigures(facts));
     Page page;
     double y = 0;
     for (const PageBlock& line : lines) {

@@ -29,9 +29,7 @@ PlayFleet playFleet(const Fleet& fleet, std::vector<std::optional<VectorSheet>> 
         const FleetShip& ship = fleet.ships[i];
         const std::string& shipName = sheets[i]->facts.shipName;
         for (std::size_t one = 0; one < std::size_t(ship.count); ++one) {
-            const std::string number = ship.count > 1 ? ' ' + std::to_string(one + 1) : "";
-            play.ships.push_back(
-                {ownName(ship, one, shipName + number), ship.notes, play.sheets.size()});
+            play.ships.push_back({ownName(ship, one, shipName), ship.notes, play.sheets.size()});
         }
         play.sheets.push_back(std::move(*sheets[i]));
     }

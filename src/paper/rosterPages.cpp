@@ -1,0 +1,269 @@
+#include "rosterPages.h"
+
+#include "PageFlow.h"
+#include "fleetWords.h"
+#include "pageTexts.h"
+#include "sheetHeader.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr std::uint32_t inkColour = 0x000000, quietColour = 0x555555, lineColour = 0xBBBBBB;
+constexpr double lineHeight = 1.28;  // times the size of the font
+constexpr double nameSize = 3.7, smallSize = 2.7, labelSize = 2.1;
+constexpr double nameLeft = 11;  // the count stands in front of it
+
+/// A column of figures.
+struct Column {
+    std::string_view label;
+    double right;  ///< its right edge, from that of the page
+};
+constexpr std::array<Column, 6> columns = {{{"MASS", 80},
+                                            {"POINTS", 65},
+                                            {"TOGETHER", 46},
+                                            {"DAMAGE / ROWS", 29},
+                                            {"THRUST", 15},
+                                            {"DRIVE", 0}}};
+constexpr double figuresWidth = 92;  // with room in front of them
+
+/// Puts lines below each other.
+class RosterBlock {
+public:
+    explicit RosterBlock(double width) : m_width(width) {}
+
+    /// Text from `left` on, in lines no wider than the block.
+    void write(std::string_view text, double left, PageText style, std::size_t most) {
+        for (const std::string& line : MeasuredText(text, style.font).lines(style.size, m_width - left, most)) {
+            style.text = line;
+            style.x = left;
+            style.y = block.height + style.size * letterHeight;
+            block.items.emplace_back(style);
+            block.height += style.size * lineHeight;
+        }
+    }
+
+    void writeNotes(std::string_view notes, double left, double size) {
+        constexpr std::size_t mostLines = 12;
+        while (!notes.empty()) {
+            const std::size_t end = std::min(notes.find('\n'), notes.size());
+            write(notes.substr(0, end), left, {.text = {}, .size = size, .colour = quietColour},
+                  mostLines);
+            notes.remove_prefix(std::min(end + 1, notes.size()));
+        }
+    }
+
+    void rule(double lineWidth, std::uint32_t colour) {
+        block.items.emplace_back(
+            PageLine{0, block.height, m_width, block.height, lineWidth, colour});
+    }
+
+    PageBlock block;
+
+private:
+    double m_width;
+};
+
+PageText figureText(std::string text, double right, double y) {
+    return {.text = std::move(text),
+            .x = right,
+            .y = y,
+            .size = nameSize,
+            .font = PageFont::Regular,
+            .anchor = PageText::Anchor::End};
+}
+
+std::string joinedNames(const FleetShip& ship) {
+    std::string names;
+    for (const std::string& name : ship.names) {
+        names += name.empty() ? "" : (names.empty() ? "" : " · ") + name;
+    }
+    return names;
+}
+
+PageBlock headBlock(double width) {
+    RosterBlock head(width);
+    const double y = labelSize * letterHeight;
+    const auto label = [&](std::string_view text, double x, PageText::Anchor anchor) {
+        head.block.items.emplace_back(PageText{.text = std::string(text),
+                                               .x = x,
+                                               .y = y,
+                                               .size = labelSize,
+                                               .font = PageFont::Regular,
+                                               .anchor = anchor,
+                                               .colour = quietColour});
+    };
+    label("SHIP", nameLeft, PageText::Anchor::Start);
+    for (const Column& column : columns) {
+        label(column.label, width - column.right, PageText::Anchor::End);
+    }
+    head.block.height = labelSize * 1.6;
+    head.rule(0.2, inkColour);
+    return std::move(head.block);
+}
+
+/// A design: its count, name and figures, and below them what kind of ship it is, the names of its
+/// ships and what is noted of it.
+PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
+    constexpr double roomAbove = 1.2, roomBelow = 1.4;
+    constexpr std::size_t mostNameLines = 400;
+    RosterBlock text(width);
+    text.block.height = roomAbove;
+    const double y = roomAbove + nameSize * letterHeight;
+    PageText count = figureText(std::to_string(ship.count) + " ×", nameLeft - 2, y);
+    count.size = ship.count < 1000 ? nameSize : smallSize;
+    text.block.items.emplace_back(std::move(count));
+    const std::string name = !row.figures ? ship.file : row.figures->name;
+    PageText shown = fittedText(name.empty() ? "Unnamed Ship" : name,
+                                {.text = {}, .size = nameSize, .font = PageFont::Bold},
+                                width - nameLeft - figuresWidth, smallSize);
+    shown.x = nameLeft;
+    shown.y = y;
+    text.block.items.emplace_back(std::move(shown));
+    text.block.height += nameSize * lineHeight;
+
+    const PageText quiet = {.text = {}, .size = smallSize, .colour = quietColour};
+    if (row.figures) {
+        const ShipFigures& figures = *row.figures;
+        const std::array<std::string, columns.size()> values = {
+            std::to_string(figures.mass),
+            std::to_string(figures.points),
+            std::to_string(std::int64_t{ship.count} * figures.points),
+            std::to_string(figures.damagePoints) + " / " + std::to_string(figures.damageRows),
+            thrustWord(figures),
+            std::string(driveWord(figures))};
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            text.block.items.emplace_back(figureText(values[i], width - columns[i].right, y));
+        }
+        text.write(figures.hull + ", " + sizeWords(figures) +
+                       (hasChanged(ship, row) ? ", changed since the fleet was written" : ""),
+                   nameLeft, quiet, 2);
+    } else {
+        text.write("does not load" +
+                       (row.faults.empty() ? std::string() : ": " + row.faults.front().text),
+                   nameLeft, quiet, 2);
+    }
+    if (const std::string names = joinedNames(ship); !names.empty()) {
+        text.write(names, nameLeft, {.text = {}, .size = smallSize + 0.3}, mostNameLines);
+    }
+    text.writeNotes(ship.notes, nameLeft, smallSize);
+    text.block.height += roomBelow;
+    text.rule(0.15, lineColour);
+    return std::move(text.block);
+}
+
+PageBlock limitsBlock(const std::vector<LimitWords>& limits, double width) {
+    RosterBlock block(width);
+    block.block.height = 3;
+    for (const LimitWords& limit : limits) {
+        block.write(
+            limit.text, nameLeft,
+            {.text = {}, .size = 3.2, .font = limit.isBroken ? PageFont::Bold : PageFont::Regular},
+            2);
+    }
+    return std::move(block.block);
+}
+
+PageBlock titleBlock(const Fleet& fleet, const FleetSum& sum, double width) {
+    RosterBlock title(width);
+    const double size = 9;
+    PageText name = fittedText(fleet.name.empty() ? "Unnamed Fleet" : fleet.name,
+                               {.text = {}, .size = size, .font = PageFont::Bold}, width, size / 2);
+    name.y = size * letterHeight;
+    title.block.items.emplace_back(std::move(name));
+    title.block.height = size * 1.15;
+    if (!fleet.player.empty()) {
+        title.write(fleet.player, 0, {.text = {}, .size = 3.3, .colour = quietColour}, 1);
+    }
+    title.block.height += 1.5;
+    std::vector<HeadFigure> figures = {{"SHIPS", std::to_string(sum.ships)},
+                                       {"POINTS", std::to_string(sum.points)}};
+    if (sum.pointsLeft) {
+        figures.push_back({"POINTS LIMIT", std::to_string(*fleet.pointsLimit)});
+        figures.push_back(
+            {*sum.pointsLeft < 0 ? "TOO MANY" : "LEFT", std::to_string(std::abs(*sum.pointsLeft))});
+    }
+    figures.push_back({"MASS", std::to_string(sum.mass)});
+    figures.push_back({"DAMAGE POINTS", std::to_string(sum.damagePoints)});
+    const PageBlock between = figuresBlock(figures, width);
+    Page page;
+    putBlock(page, between, 0, title.block.height);
+    title.block.height += between.height + 1.5;
+    std::move(page.items.begin(), page.items.end(), std::back_inserter(title.block.items));
+    title.writeNotes(fleet.notes, 0, 3);
+    title.block.height += 3;
+    return std::move(title.block);
+}
+
+/// The name of the fleet and the number of the page, at the bottom of each page.
+void addPageNumbers(std::vector<Page>& pages, const Fleet& fleet, const Box& inside) {
+    for (std::size_t i = 0; i < pages.size() && pages.size() > 1; ++i) {
+        const double y = inside.y + inside.height - 0.5;
+        const std::string number =
+            "Page " + std::to_string(i + 1) + " of " + std::to_string(pages.size());
+        PageText name =
+            fittedText(fleet.name, {.text = {}, .size = smallSize, .colour = quietColour},
+                       inside.width - 40, smallSize);
+        name.x = inside.x;
+        name.y = y;
+        pages[i].items.emplace_back(std::move(name));
+        pages[i].items.emplace_back(PageText{.text = number,
+                                             .x = inside.x + inside.width,
+                                             .y = y,
+                                             .size = smallSize,
+                                             .font = PageFont::Regular,
+                                             .anchor = PageText::Anchor::End,
+                                             .colour = quietColour});
+    }
+}
+
+}  // namespace
+
+std::vector<Page> rosterPages(const Fleet& fleet, const FleetRows& rows, const PageSize& paper) {
+    constexpr double footHeight = 5;
+    const Box inside = {paperMargin, paperMargin, paper.width - 2 * paperMargin,
+                        paper.height - 2 * paperMargin};
+    const FleetSum sum = fleetSum(fleet, rows);
+    const PageBlock title = titleBlock(fleet, sum, inside.width), head = headBlock(inside.width);
+    std::vector<PageBlock> blocks;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        blocks.push_back(shipBlock(fleet.ships[i], *rows[i], inside.width));
+    }
+    if (const std::vector<LimitWords> limits = limitWords(fleet, sum); !limits.empty()) {
+        blocks.push_back(limitsBlock(limits, inside.width));
+    }
+    PageFlow flow(std::move(blocks));
+    std::vector<Page> pages;
+    do {
+        Page& page = pages.emplace_back();
+        Box room = inside;
+        room.height -= footHeight;
+        const auto put = [&](const PageBlock& block) {
+            putBlock(page, block, room.x, room.y);
+            room.y += block.height;
+            room.height -= block.height;
+        };
+        if (pages.size() == 1) {
+            put(title);
+        }
+        put(head);
+        const std::size_t before = page.items.size();
+        flow.fill({room}, page);
+        // What is higher than a page goes onto one of its own.
+        if (page.items.size() == before && pages.size() > 1 && !flow.isDone()) {
+            flow.force(room, page);
+        }
+    } while (!flow.isDone());
+    addPageNumbers(pages, fleet, inside);
+    return pages;
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "FleetSum.h"
+#include "PageDocument.h"
+
+#include <vector>
+
+namespace fleetwright {
+
+/// A fleet on paper: its ships with their figures, names and notes, what they come to, and what is
+/// left of its limits. There is a row for each of its ships.
+std::vector<Page> rosterPages(const Fleet& fleet, const FleetRows& rows, const PageSize& paper);
+
+}  // namespace fleetwright
