@@ -27,13 +27,13 @@ struct Column {
     std::string_view label;
     double right;  ///< its right edge, from that of the page
 };
-constexpr std::array<Column, 6> columns = {{{"MASS", 80},
-                                            {"POINTS", 65},
-                                            {"TOGETHER", 46},
-                                            {"DAMAGE / ROWS", 29},
+constexpr std::array<Column, 6> columns = {{{"MASS", 88},
+                                            {"POINTS", 73},
+                                            {"TOGETHER", 53},
+                                            {"DAMAGE / ROWS", 30},
                                             {"THRUST", 15},
                                             {"DRIVE", 0}}};
-constexpr double figuresWidth = 92;  // with room in front of them
+constexpr double figuresWidth = 98;  // with room in front of them
 
 /// Puts lines below each other.
 class RosterBlock {
