@@ -42,7 +42,8 @@ public:
 
     /// Text from `left` on, in lines no wider than the block.
     void write(std::string_view text, double left, PageText style, std::size_t most) {
-        for (const std::string& line : MeasuredText(text, style.font).lines(style.size, m_width - left, most)) {
+        for (const std::string& line :
+             MeasuredText(text, style.font).lines(style.size, m_width - left, most)) {
             style.text = line;
             style.x = left;
             style.y = block.height + style.size * letterHeight;
