@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "CatalogueCheck.h"
 #include "ShipOnScreen.h"
 #include "comparisonJson.h"
 #include "comparisonTexts.h"
@@ -93,14 +94,29 @@ Json jsonOf(const Impact& impact, const CatalogueChanges& catalogue) {
         json["massLeft"] = impact.massLeft;
         json["noLongerFits"] = impact.massLeft[0] >= 0 && impact.massLeft[1] < 0;
         json["figures"] = changesOf(impact, ComparedLine::About::Figure, catalogue);
+        json["fire"] = changesOf(impact, ComparedLine::About::Fire, catalogue);
         json["systems"] = changesOf(impact, ComparedLine::About::System, catalogue);
     }
     return json;
 }
 
+/// Whether a catalogue can be designed with. What is wrong with it is said: with a formula or a
+/// parent in pieces, all that is compared would be wrong.
+bool isSound(const CatalogueText& catalogue, const std::string& file) {
+    const std::vector<Fault> faults = checkCatalogue(catalogue, CatalogueCheck::Start);
+    for (const Fault& fault : faults) {
+        complain(complaint(file, fault));
+    }
+    return faults.empty();
+}
+
 int runImpact(const Options& options) {
     const auto before = CatalogueFile::readOnce(nativePath(options.words[0]));
     const auto after = CatalogueFile::readOnce(nativePath(options.words[1]));
+    const bool isBeforeSound = isSound(*before.read(), options.words[0]);
+    if (!isSound(*after.read(), options.words[1]) || !isBeforeSound) {
+        return SomeRefused;
+    }
     const CatalogueChanges catalogue = changesOf(*before.read(), *after.read());
     const bool isJson = options.has("--json");
     printResults(isJson ? jsonText(jsonOf(options, catalogue)) + '\n' : textOf(catalogue));
@@ -132,9 +148,11 @@ extern const CommandRow impactCommand = {
     .options = {&jsonOption, 1},
     .help = "Say what a change of the catalogue does to designs",
     .details = "OLD and NEW are catalogues (.dat). Named are systems that are gone or new, and for "
-               "each ship all that is other with NEW: figures, systems with their mass and cost, "
-               "what the ship loses, and whether it no longer fits. A system that is gone may only "
-               "have another name: one that is alike in all else is named, with a question mark. "
+               "each ship all that is other with NEW: figures, what its weapons cover, systems "
+               "with their mass and cost, what the ship loses, and whether it no longer fits. A "
+               "system that is gone may only have another name: one with the same mass, cost, "
+               "category and arcs is named, with a question mark. Catalogues that the program "
+               "would not start with are refused. "
                "With --json, one object for the catalogues and one for each ship, a line each.",
     .run = runImpact,
 };

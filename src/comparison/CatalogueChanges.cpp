@@ -56,7 +56,7 @@ std::map<Likeness, Systems> byLikeness(const Systems& systems,
     return groups;
 }
 
-/// Notes those pairs of a gone and a new system of which nothing else is alike.
+/// Notes those pairs of a gone and a new system that have a likeness for themselves.
 void noteRenamed(const Systems& gone, const Systems& added,
                  Likeness likenessOf(const CatalogueLine&),
                  std::map<const CatalogueLine*, const CatalogueLine*>& renamed) {

@@ -14,9 +14,9 @@ class CatalogueText;
 struct CatalogueChanges {
     struct Gone {
         std::string name;
-        /// The new system that is alike in all but the name: formulas, category, arcs, and picture
-        /// and rules as well where only these tell which one it is. Nothing where there is none, or
-        /// more than one: then nobody can say. It is a guess, and to be shown as one.
+        /// The new system with the same formulas, category and arcs; picture and rules count only
+        /// where several have these. Nothing where there is none, or still more than one: then
+        /// nobody can say. It is a guess, and to be shown as one.
         std::optional<std::string> renamed = {};
     };
 

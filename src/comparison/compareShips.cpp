@@ -124,9 +124,7 @@ std::vector<ComparedLine> compareShips(std::span<const ShipProfile> ships) {
 
 std::vector<ComparedLine> impactOn(const ShipProfile& before, const ShipProfile& after) {
     std::vector<ComparedLine> lines = compareShips(std::array{before, after});
-    std::erase_if(lines, [](const ComparedLine& line) {
-        return line.about == ComparedLine::About::Fire || !line.differs();
-    });
+    std::erase_if(lines, [](const ComparedLine& line) { return !line.differs(); });
     return lines;
 }
 

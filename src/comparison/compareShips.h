@@ -43,8 +43,7 @@ struct ComparedLine {
 /// weapons cover, and their systems, those that any of them has.
 std::vector<ComparedLine> compareShips(std::span<const ShipProfile> ships);
 
-/// What of a ship is other with another catalogue: those lines of its figures and systems that
-/// differ.
+/// What of a ship is other with another catalogue: those lines that differ.
 std::vector<ComparedLine> impactOn(const ShipProfile& before, const ShipProfile& after);
 
 /// How many lines differ, in a sentence of one line.

@@ -52,7 +52,8 @@ std::vector<std::string> rowOf(const ComparedLine& line) {
 }
 
 std::string renamedTo(const CatalogueChanges::Gone& gone) {
-    return gone.renamed ? "; renamed? " + quote(*gone.renamed) + " is alike in all but the name"
+    return gone.renamed ? "; renamed? " + quote(*gone.renamed) +
+                              " has the same mass, cost, category and arcs"
                         : "";
 }
 

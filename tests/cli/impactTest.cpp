@@ -26,7 +26,7 @@ using Lines = std::vector<std::string>;
 /// What a thing was and what it is, by its name.
 using Changes = std::map<std::string, std::pair<Json, Json>>;
 
-/// The figures of a ship and its systems, by their names.
+/// The figures of a ship, what its weapons cover, and its systems, by their names.
 std::map<std::string, Json> thingsOf(ShipClass& ship) {
     std::map<std::string, Json> things;
     const Json figures = Json::parse(figuresOf("", ship));
@@ -39,6 +39,11 @@ std::map<std::string, Json> thingsOf(ShipClass& ship) {
         const std::string name = system["name"];
         system.erase("name");
         things["system " + name] = system;
+    }
+    const FirePower fire = firePowerOf(ship);
+    for (std::size_t i = 0; i < FirePower::names.size(); ++i) {
+        things["fire " + std::string(FirePower::names[i])] = {{"weapons", fire.sectors[i].weapons},
+                                                              {"cost", fire.sectors[i].points}};
     }
     return things;
 }
@@ -61,9 +66,11 @@ Changes expected(const std::map<std::string, Json>& before,
 Changes named(const std::vector<ComparedLine>& lines) {
     Changes changes;
     for (const ComparedLine& line : lines) {
-        const bool isSystem = line.about == ComparedLine::About::System;
-        changes[(isSystem ? "system " : "") + line.key] = {cellJson(line.cells[0], line.about),
-                                                           cellJson(line.cells[1], line.about)};
+        const std::string kind = line.about == ComparedLine::About::System ? "system "
+                                 : line.about == ComparedLine::About::Fire ? "fire "
+                                                                           : "";
+        changes[kind + line.key] = {cellJson(line.cells[0], line.about),
+                                    cellJson(line.cells[1], line.about)};
     }
     return changes;
 }
