@@ -4,7 +4,10 @@
 #include "Error.h"
 #include "Globals.h"
 #include "bringInOrder.h"
+#include "designCode.h"
+#include "pastedCode.h"
 #include "paths.h"
+#include "readShip.h"
 #include "text.h"
 
 namespace fleetwright {
@@ -22,7 +25,7 @@ std::string refusedBy(const ShipClass& ship) {
 }  // namespace
 
 std::string ComparePanel::otherName() const {
-    return shownText(pathText(nativePath(m_source).filename()));
+    return isDesignCode(m_source) ? "the pasted one" : shownText(shipSourceName(m_source));
 }
 
 void ComparePanel::show() {
@@ -56,10 +59,22 @@ void ComparePanel::chooseFile() {
         {.filter = "Ships and Sheets|*.shp *.svg *.pdf *.png|All Files (*.*)|*.*",
          .initialFolder = services().appFolder / "ships"});
     if (file) {
-        m_source = *file;
-        m_other.reset();
-        window().acts.whenIdle([this] { look(); });
+        take(*file);
     }
+}
+
+void ComparePanel::pasteCode() {
+    try {
+        take(pastedCode(*services().clipboard));
+    } catch (const DesignCodeError& error) {
+        beside.say(nothingPasted(error));
+    }
+}
+
+void ComparePanel::take(const std::string& source) {
+    m_source = source;
+    m_other.reset();
+    window().acts.whenIdle([this] { look(); });
 }
 
 /// Only with the design at rest: loads read their lines with what they share.
@@ -68,7 +83,8 @@ void ComparePanel::look() {
         return;
     }
     if (m_source.empty()) {
-        beside.showNone("Choose a ship file or a sheet to see this design beside its ship.");
+        beside.showNone(
+            "Choose a ship file or a sheet, or paste a code, to see its ship beside this one.");
         return;
     }
     readOther();
@@ -83,9 +99,10 @@ void ComparePanel::look() {
 /// Reads the other ship, unless it is read already: with the catalogue of the one at hand, so that
 /// what differs is the design.
 void ComparePanel::readOther() {
-    const std::optional<FileStamp> stamp = fileStamp(nativePath(m_source));
-    if (m_other && stamp && !stamp->isFresh && stamp == m_stamp &&
-        m_other->catalogueText() == ship().catalogueText()) {
+    const bool isCode = isDesignCode(m_source);
+    const auto stamp = isCode ? std::nullopt : fileStamp(nativePath(m_source));
+    const bool isSame = isCode || (stamp && !stamp->isFresh && stamp == m_stamp);
+    if (m_other && isSame && m_other->catalogueText() == ship().catalogueText()) {
         return;
     }
     m_stamp = stamp;
@@ -98,9 +115,9 @@ void ComparePanel::readOther() {
             bringInOrder(*m_other);
             return;
         }
-        m_fault = complaint(otherName(), *m_other->fileFault());
+        m_fault = complaint(shipSourceName(m_source), *m_other->fileFault());
     } catch (const OverflowError& error) {
-        m_fault = complaint(otherName(), {0, error.what()});
+        m_fault = complaint(shipSourceName(m_source), {0, error.what()});
     }
     m_other.reset();
 }

@@ -35,19 +35,22 @@ public:
                          [this] { mnuCompare_Click(); }};
     /// Brings the comparison up to date when the design has come to rest.
     Timer tmrCompare{form(), "tmrCompare", 100, false, [this] { tmrCompare_Timer(); }};
-    frmCompare beside{
-        {.chooseFile = [this] { chooseFile(); }, .activated = [this] { lookAgain(); }}};
+    frmCompare beside{{.chooseFile = [this] { chooseFile(); },
+                       .pasteCode = [this] { pasteCode(); },
+                       .activated = [this] { lookAgain(); }}};
 
 private:
     void mnuCompare_Click();
     void tmrCompare_Timer();
     void chooseFile();
+    void pasteCode();
+    void take(const std::string& source);
     void look();
     void readOther();
     std::string otherName() const;
 
-    std::string m_source;              ///< the other ship: the path of a file; empty at first
-    std::optional<FileStamp> m_stamp;  ///< of that, before it was read
+    std::string m_source;  ///< the other ship: the path of a file, or a code; empty at first
+    std::optional<FileStamp> m_stamp;  ///< of that file, before it was read
     std::unique_ptr<ShipClass> m_other;
     std::string m_fault;  ///< why there is no other ship any more
 };

@@ -1,28 +1,12 @@
 #include "SharePanel.h"
 
 #include "Clipboard.h"
-#include "ShipFileLine.h"
 #include "designCode.h"
+#include "pastedCode.h"
 
 #include <utility>
 
 namespace fleetwright {
-
-namespace {
-
-/// The code in a text, or that of the ship file which the text is. Throws DesignCodeError if there
-/// is neither, or if the code is damaged.
-std::string pastedCode(const std::string& text) {
-    if (hasDesignCode(text)) {
-        return designCode(shipInCode(text));
-    }
-    if (!valueIn(text, ShipKey::ShipName) || !valueIn(text, ShipKey::Mass)) {
-        throw DesignCodeError("there is neither a design code nor a ship file on the clipboard");
-    }
-    return designCode(text);
-}
-
-}  // namespace
 
 SharePanel::SharePanel(const PanelContext& context, MenuEntry& mnuDesign,
                        std::function<void(const std::string& code)> openCode)
@@ -43,9 +27,9 @@ void SharePanel::mnuCopyDesign_Click() {
 
 void SharePanel::mnuPasteDesign_Click() {
     try {
-        m_openCode(pastedCode(services().clipboard->text()));
+        m_openCode(pastedCode(*services().clipboard));
     } catch (const DesignCodeError& error) {
-        window().say(std::string("Nothing was pasted: ") + error.what());
+        window().say(nothingPasted(error));
     }
 }
 

@@ -23,6 +23,7 @@ public:
     /// What the user asks for. `activated`: the window has become the active one.
     struct Acts {
         Handler chooseFile;
+        Handler pasteCode;
         Handler activated;
     };
 
@@ -32,6 +33,8 @@ public:
     void showShips(const ShipProfile& here, const ShipProfile& other, const std::string& about);
     /// Shows the design alone, and why.
     void showNone(const std::string& why);
+    /// Says something in the place of what is beside the design, until that is shown again.
+    void say(const std::string& text) { lblAbout.setCaption(text); }
 
     Label lblAbout{*this, {.name = "lblAbout", .place = {150, 120, 12300, 285}}};
     ListView lvLines{*this,
@@ -74,6 +77,12 @@ public:
                                  .place = {150, 6330, 4500, 285},
                                  .caption = "Only what &differs"},
                                 [this] { showLines(); }};
+    Button cmdPaste{*this,
+                    {.name = "cmdPaste",
+                     .place = {5100, 6285, 1800, 375},
+                     .caption = "&Paste Code",
+                     .toolTip = "Compares with the design whose code, or ship file, was copied"},
+                    [this] { m_acts.pasteCode(); }};
     Button cmdChoose{*this,
                      {.name = "cmdChoose",
                       .place = {7050, 6285, 1800, 375},

@@ -69,6 +69,9 @@ ControlRows compareTexts() {
                     "one scale. A weapon that bears in several directions counts in each."},
         ControlText{"chkOnlyDifferences", "Only what differs",
                     "Leaves out the lines in which the two are alike."},
+        ControlText{"cmdPaste", "Paste Code",
+                    "Takes the other ship from the clipboard: the line of letters from Copy "
+                    "Design, be it in the midst of a message, or the text of a ship file."},
         ControlText{"cmdChoose", "Choose File...",
                     "Chooses the other ship: a ship file, or a sheet that carries one."},
         ControlText{"cmdClose", "Close", "Closes the window."}};
