@@ -5,6 +5,7 @@
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "console.h"
+#include "designCode.h"
 #include "documentDate.h"
 #include "drawnSheet.h"
 #include "fingerprint.h"
@@ -17,6 +18,7 @@
 #include "pageOptions.h"
 #include "paths.h"
 #include "playedFleet.h"
+#include "readFile.h"
 #include "saveResult.h"
 #include "text.h"
 
@@ -47,14 +49,16 @@ void checkSheets(std::string_view, const std::string& out) {
 /// The ships of a fleet that have to be loaded: each file once.
 struct FleetFiles {
     std::vector<std::string> paths;
+    std::vector<int> lines;           ///< of the fleet file, where each is named first
     std::vector<std::size_t> ofShip;  ///< the path of each ship of the fleet
 };
 
-FleetFiles filesOf(const Fleet& fleet, const fs::path& folder) {
+FleetFiles filesOf(const ReadFleet& read, const fs::path& folder) {
     FleetFiles files;
     std::unordered_map<std::string, std::size_t> known;
     std::unordered_map<std::string, std::size_t> named;  // spares a look at the disk
-    for (const FleetShip& ship : fleet.ships) {
+    for (std::size_t i = 0; i < read.fleet.ships.size(); ++i) {
+        const FleetShip& ship = read.fleet.ships[i];
         const auto [name, isNew] = named.try_emplace(ship.file, 0);
         if (isNew) {
             const std::string path = shipPath(folder, ship);
@@ -62,11 +66,21 @@ FleetFiles filesOf(const Fleet& fleet, const fs::path& folder) {
             name->second = place->second;
             if (isFirst) {
                 files.paths.push_back(path);
+                files.lines.push_back(read.shipLines[i]);
             }
         }
         files.ofShip.push_back(name->second);
     }
     return files;
+}
+
+/// What is wrong with a ship: the line in its own file, or where the fleet names it.
+std::string shipComplaint(const std::string& fleetFile, const FleetFiles& files, std::size_t index,
+                          const Fault& fault) {
+    const std::string& path = files.paths[index];
+    const std::string ofShip = complaint(path, fault);
+    const bool hasOwnLine = fault.line != 0 && !isDesignCode(path);
+    return hasOwnLine ? ofShip : complaint(fleetFile, Fault{files.lines[index], ofShip});
 }
 
 /// What the ships of a fleet are, and their sheets if those are wanted.
@@ -81,13 +95,14 @@ LoadedShips loadShips(const Options& options, const FleetFiles& files,
     LoadedShips loaded;
     FleetRows rows(files.paths.size());
     loaded.sheets.resize(files.paths.size());
+    const std::string& fleetFile = options.words.front();
     const auto load = [&](std::size_t index) {
         const std::string& path = files.paths[index];
         ShipOnScreen screen(options.appFolder, catalogue);
         auto row = std::make_shared<const FleetRow>(fleetRow(screen, path));
         Result result;
         for (const Fault& fault : row->faults) {
-            result.complaints.push_back(complaint(path, fault));
+            result.complaints.push_back(shipComplaint(fleetFile, files, index, fault));
         }
         try {
             if (tools != nullptr && row->figures) {
@@ -120,20 +135,38 @@ void saveSheets(const Options& options, const FleetReport& report, const FleetFi
     saveResult(nativePath(options.value(sheetsOption)), pictures.pdf(document));
 }
 
+std::vector<Fault> brokenLimits(const FleetReport& report, const std::vector<int>& lines) {
+    std::vector<Fault> faults;
+    auto line = lines.begin();
+    for (const LimitWords& limit : limitWords(report.fleet, report.sum)) {
+        if (limit.isBroken) {
+            faults.push_back({*line, limit.text});
+        }
+        ++line;
+    }
+    return faults;
+}
+
 int runFleet(const Options& options) {
     const std::string& file = options.words.front();
     const fs::path path = nativePath(file);
-    ReadFleet read = readFleet(path);
     int status = Done;
     const auto refuse = [&status](const std::string& line) {
         complain(line);
         status = SomeRefused;
     };
+    ReadFleet read;
+    try {
+        read = parseFleet(readTextFile(path));
+    } catch (const FleetError& error) {
+        refuse(complaint(file, error.fault()));
+        return status;
+    }
     for (const Fault& fault : read.faults) {
         refuse(complaint(file, fault));
     }
     const auto catalogue = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
-    const FleetFiles files = filesOf(read.fleet, path.parent_path());
+    const FleetFiles files = filesOf(read, path.parent_path());
     std::optional<SheetSupplies> supplies;
     if (options.has(sheetsOption)) {
         supplies.emplace(options, files.paths.size(), SheetSupplies::Kind::Pdf, status);
@@ -155,10 +188,8 @@ int runFleet(const Options& options) {
     if (supplies) {
         saveSheets(options, report, files, loaded, supplies->pictures);
     }
-    for (const LimitWords& limit : limitWords(report.fleet, report.sum)) {
-        if (limit.isBroken) {
-            refuse(complaint(file, Fault{0, limit.text}));
-        }
+    for (const Fault& fault : brokenLimits(report, read.limitLines)) {
+        refuse(complaint(file, fault));
     }
     if (options.has(playOption)) {
         try {

@@ -41,6 +41,9 @@ struct FleetShip {
 };
 
 struct Fleet {
+    /// Of designs, in a file. What so many ships come to fits into 64 bits, whatever they are.
+    static constexpr std::size_t mostDesigns = 100'000;
+
     std::string name;
     std::string player;
     std::string notes;                        ///< lines with "\n" between them

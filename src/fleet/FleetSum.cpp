@@ -1,8 +1,14 @@
 #include "FleetSum.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace fleetwright {
+
+static_assert(std::numeric_limits<std::int64_t>::max() / std::int64_t{Fleet::mostDesigns} /
+                      FleetShip::mostCount / 2 >
+                  std::numeric_limits<std::int32_t>::max(),
+              "sums of a fleet are not checked");
 
 bool FleetSum::breaksLimit() const {
     return pointsLeft.value_or(0) < 0 || std::any_of(limitsLeft.begin(), limitsLeft.end(),

@@ -1,6 +1,5 @@
 #include "fleetFile.h"
 
-#include "Error.h"
 #include "fleetKeys.h"
 #include "fleetLines.h"
 #include "readFile.h"
@@ -17,14 +16,14 @@ namespace {
 constexpr std::string_view firstWords = "FleetWright fleet ";
 constexpr std::string_view version = "1";
 
-/// Throws Error if a text does not begin like a fleet file of this version.
+/// Throws FleetError if a text does not begin like a fleet file of this version.
 void checkBeginning(std::string_view text) {
     if (!isFleet(text)) {
-        throw Error("is no fleet file");
+        throw FleetError({0, "is no fleet file"});
     }
     const std::string_view line = cutFleetLine(text).text;
     if (trimmed(line.substr(firstWords.size())) != version) {
-        throw Error("is a fleet file of another version: " + quote(line));
+        throw FleetError({1, "is a fleet file of another version: " + quote(line)});
     }
 }
 
@@ -45,6 +44,10 @@ Sections sectionsOf(std::string_view text) {
         const std::size_t at = text.size() - rest.size();
         const FleetLine cut = cutFleetLine(rest);
         if (cut.key == shipKeys().front().key) {
+            if (sections.texts.size() >= Fleet::mostDesigns) {
+                throw FleetError({line, "a fleet has " + std::to_string(Fleet::mostDesigns) +
+                                            " designs at the most"});
+            }
             sections.texts.push_back(text.substr(begin, above - begin));
             sections.firstLines.push_back(lineAbove);
             begin = above;
@@ -183,6 +186,16 @@ private:
     std::vector<Piece> m_pieces;
 };
 
+/// Adds the numbers of the lines that say something with this key.
+void addLinesOf(std::string_view key, const std::vector<KeyLine>& lines,
+                std::vector<int>& numbers) {
+    for (const KeyLine& line : lines) {
+        if (line.cut.key == key && line.row != KeyLine::none && !line.isFaulty) {
+            numbers.push_back(line.number);
+        }
+    }
+}
+
 }  // namespace
 
 bool isFleet(std::string_view text) {
@@ -193,7 +206,11 @@ ReadFleet parseFleet(std::string_view text) {
     checkBeginning(text);
     ReadFleet read;
     const Sections sections = sectionsOf(text);
-    readLines(headKeys(), sections.texts.front(), read.fleet, 1, read.faults);
+    const std::vector<KeyLine> head =
+        readLines(headKeys(), sections.texts.front(), read.fleet, 1, read.faults);
+    for (const std::string_view key : {pointsLimitKey, limitKey}) {
+        addLinesOf(key, head, read.limitLines);
+    }
     for (std::size_t i = 1; i < sections.texts.size(); ++i) {
         FleetShip& ship = read.fleet.ships.emplace_back();
         const std::vector<KeyLine> lines =

@@ -2,6 +2,7 @@
 
 // The fleet file, `.fleet`, which docs/file-formats.md describes.
 
+#include "Error.h"
 #include "Fault.h"
 #include "Fleet.h"
 
@@ -12,18 +13,32 @@
 
 namespace fleetwright {
 
+/// A text that is no fleet file, or one that this program cannot take.
+class FleetError : public Error {
+public:
+    explicit FleetError(const Fault& fault) : Error(fault.text), m_line(fault.line) {}
+
+    Fault fault() const { return {m_line, what()}; }
+
+private:
+    int m_line;
+};
+
 /// A fleet file as it was understood.
 struct ReadFleet {
     Fleet fleet;
     /// What is wrong with single lines, by line. They count for nothing, and stay in the file.
     std::vector<Fault> faults;
     std::vector<int> shipLines;  ///< where each ship begins, from 1 on
+    /// Where the points limit stands, if there is one, and behind it where the other limits do.
+    std::vector<int> limitLines;
 };
 
 /// Whether a text begins like a fleet file, of whatever version.
 bool isFleet(std::string_view text);
 
-/// Reads the text of a fleet file, in UTF-8. Throws Error if it is none, or one of a later version.
+/// Reads the text of a fleet file, in UTF-8. Throws FleetError if it is none, or one of a
+/// later version or with more than `Fleet::mostDesigns`.
 ReadFleet parseFleet(std::string_view text);
 
 /// Reads a fleet file. Throws FileError.

@@ -89,14 +89,14 @@ constexpr KeyRow<Fleet> fleetRows[] = {
     {.key = "player",
      .take = [](Fleet& fleet, const std::string& value, bool) { fleet.player = value; },
      .values = [](const Fleet& fleet) { return valuesOf(fleet.player); }},
-    {.key = "points limit",
+    {.key = pointsLimitKey,
      .take = [](Fleet& fleet, const std::string& value,
                 bool) { fleet.pointsLimit = numberOf(value, 0, mostPoints); },
      .values =
          [](const Fleet& fleet) {
              return fleet.pointsLimit ? Values{std::to_string(*fleet.pointsLimit)} : Values();
          }},
-    {.key = "limit",
+    {.key = limitKey,
      .isList = true,
      .take = [](Fleet& fleet, const std::string& value,
                 bool) { fleet.limits.push_back(limitOf(value)); },

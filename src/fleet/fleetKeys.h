@@ -15,6 +15,8 @@
 
 namespace fleetwright {
 
+inline constexpr std::string_view pointsLimitKey = "points limit", limitKey = "limit";
+
 /// A key of a section, `Fleet` or `FleetShip`. Files have them in the order of their table.
 template <typename Section>
 struct KeyRow {
