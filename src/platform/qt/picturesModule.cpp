@@ -5,12 +5,36 @@
 #include "pagePixels.h"
 #include "pdfFile.h"
 
-#include <QtGlobal>
+#include <QThread>
 
-namespace fleetwright {}  // namespace fleetwright
+#include <chrono>
+#include <future>
+#include <memory>
+#include <thread>
+
+namespace {
+
+/// Qt takes the first thread that meets it for the program's main one, and leaves its plug-ins to
+/// that until the program ends. Those that decode pictures for the tool end before; so it gets one
+/// that never does.
+bool giveQtItsThread() {
+    const auto isThere = std::make_shared<std::promise<void>>();
+    std::thread([isThere] {
+        QThread::currentThread();
+        isThere->set_value();
+        for (;;) {
+            std::this_thread::sleep_for(std::chrono::hours(1));
+        }
+    }).detach();
+    isThere->get_future().wait();
+    return true;
+}
+
+}  // namespace
 
 extern "C" Q_DECL_EXPORT const fleetwright::Pictures* createPictures() {
     using namespace fleetwright;
+    [[maybe_unused]] static const bool hasThread = giveQtItsThread();
     QtMessages::silence();  // the tool has its own words for what goes wrong
     static QtPictureFiles files;
     static const Pictures pictures{files, files, pdfFile, pagePixels};
