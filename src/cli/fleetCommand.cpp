@@ -228,7 +228,7 @@ constexpr OptionRow fleetOptions[] = {
 
 extern const CommandRow fleetCommand = {
     .name = "fleet",
-    .words = "FLEET [--sheets OUT] [--play OUT]",
+    .words = "FLEET [--json] [--sheets OUT] [--play OUT]",
     .least = 1,
     .most = 1,
     .options = fleetOptions,
@@ -238,9 +238,9 @@ extern const CommandRow fleetCommand = {
         "their sum; below them stands what is left of the limits. A limit that is broken and "
         "a ship that does not load are errors. A * behind a ship, and a word on the "
         "catalogue, say that they have changed since the fleet was written, which is no error. "
-        "With --sheets there is no table but a document: a roster with all of that and the "
-        "notes, and behind it the sheet of each ship under its own name, or the name and a "
-        "number. Small ones share a page, unless --per-page says otherwise. "
+        "With --sheets there is no table, but still what --json prints, and a document: a roster "
+        "with all of that and the notes, and behind it the sheet of each ship under its own name, "
+        "or the name and a number. Small ones share a page, unless --per-page says otherwise. "
         "--play saves one file for any browser, with the sheets of all ships, on which damage and "
         "systems are marked at the table; it works without a network. The pictures must have been "
         "unpacked for that.",

@@ -82,6 +82,19 @@ PageText figureText(std::string text, double right, double y) {
             .anchor = PageText::Anchor::End};
 }
 
+using Figures = std::array<std::string, columns.size()>;
+
+/// The size in which all figures of a ship keep to their columns.
+double sizeOf(const Figures& figures) {
+    constexpr double between = 1.5;
+    double size = nameSize, left = figuresWidth;
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        const double room = std::exchange(left, columns[i].right) - columns[i].right - between;
+        size = std::min(size, fittedText(figures[i], {.text = {}, .size = nameSize}, room, 0).size);
+    }
+    return size;
+}
+
 std::string joinedNames(const FleetShip& ship) {
     std::string names;
     for (const std::string& name : ship.names) {
@@ -120,7 +133,7 @@ PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
     text.block.height = roomAbove;
     const double y = roomAbove + nameSize * letterHeight;
     PageText count = figureText(std::to_string(ship.count) + " ×", nameLeft - 2, y);
-    count.size = ship.count < 1000 ? nameSize : smallSize;
+    count.size = fittedText(count.text, {.text = {}, .size = nameSize}, nameLeft - 2, 0).size;
     text.block.items.emplace_back(std::move(count));
     const std::string name = !row.figures ? ship.file : row.figures->name;
     PageText shown = fittedText(name.empty() ? "Unnamed Ship" : name,
@@ -134,15 +147,18 @@ PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
     const PageText quiet = {.text = {}, .size = smallSize, .colour = quietColour};
     if (row.figures) {
         const ShipFigures& figures = *row.figures;
-        const std::array<std::string, columns.size()> values = {
-            std::to_string(figures.mass),
-            std::to_string(figures.points),
-            std::to_string(std::int64_t{ship.count} * figures.points),
-            std::to_string(figures.damagePoints) + " / " + std::to_string(figures.damageRows),
-            thrustWord(figures),
-            std::string(driveWord(figures))};
+        const Figures values = {std::to_string(figures.mass),
+                                std::to_string(figures.points),
+                                std::to_string(std::int64_t{ship.count} * figures.points),
+                                std::to_string(figures.damagePoints) + " / " +
+                                    std::to_string(figures.damageRows),
+                                thrustWord(figures),
+                                std::string(driveWord(figures))};
+        const double size = sizeOf(values);
         for (std::size_t i = 0; i < values.size(); ++i) {
-            text.block.items.emplace_back(figureText(values[i], width - columns[i].right, y));
+            PageText figure = figureText(values[i], width - columns[i].right, y);
+            figure.size = size;
+            text.block.items.emplace_back(std::move(figure));
         }
         text.write(figures.hull + ", " + sizeWords(figures) +
                        (hasChanged(ship, row) ? ", changed since the fleet was written" : ""),
