@@ -1,43 +1,28 @@
 #include "comparisonTexts.h"
 
+#include "TextColumns.h"
 #include "text.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace fleetwright {
 
 namespace {
 
-/// Lines of cells, which stand below each other.
-class Columns {
-public:
-    void add(std::vector<std::string> cells) {
-        m_widths.resize(std::max(m_widths.size(), cells.size()));
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            m_widths[i] = std::max(m_widths[i], characterCount(cells[i]));
-        }
-        m_lines.push_back(std::move(cells));
+using Rows = std::vector<std::vector<std::string>>;
+
+/// Rows of as many cells, which stand below each other.
+std::string textOf(const Rows& rows) {
+    TextColumns columns(std::vector(rows.front().size(), TextColumns::Align::Left));
+    for (const std::vector<std::string>& row : rows) {
+        columns.measure(row);
     }
-
-    std::string text() const {
-        std::string text;
-        for (const std::vector<std::string>& cells : m_lines) {
-            std::string line;
-            for (std::size_t i = 0; i < cells.size(); ++i) {
-                line += cells[i] + std::string(m_widths[i] - characterCount(cells[i]) + gap, ' ');
-            }
-            text += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
-        }
-        return text;
+    std::string text;
+    for (const std::vector<std::string>& row : rows) {
+        text += columns.line(row) + '\n';
     }
-
-private:
-    static constexpr std::size_t gap = 2;
-
-    std::vector<std::size_t> m_widths;
-    std::vector<std::vector<std::string>> m_lines;
-};
+    return text;
+}
 
 std::vector<std::string> rowOf(const ComparedLine& line) {
     std::vector<std::string> row = {(line.differs() ? "* " : "  ") + shownText(line.title)};
@@ -80,20 +65,20 @@ std::string columnName(std::size_t ship) {
 }
 
 std::string tableOf(std::span<const std::string> names, std::span<const ComparedLine> lines) {
-    Columns ships, table;
+    Rows ships, table;
     std::vector<std::string> head = {""};
     for (std::size_t i = 0; i < names.size(); ++i) {
-        ships.add({columnName(i), shownText(names[i])});
+        ships.push_back({columnName(i), shownText(names[i])});
         head.push_back(columnName(i));
     }
     if (names.size() == 2) {
         head.emplace_back("Difference");
     }
-    table.add(std::move(head));
+    table.push_back(std::move(head));
     for (const ComparedLine& line : lines) {
-        table.add(rowOf(line));
+        table.push_back(rowOf(line));
     }
-    return ships.text() + '\n' + table.text() + '\n' + differencesIn(lines) + '\n';
+    return textOf(ships) + '\n' + textOf(table) + '\n' + differencesIn(lines) + '\n';
 }
 
 std::string textOf(const CatalogueChanges& changes) {
