@@ -210,7 +210,8 @@ bool JsonReader::parse_error(std::size_t, const std::string&,
             words.remove_prefix(at + end.size());
         }
     }
-    fail("is no JSON: " + shownText(words));
+    const bool isJson = dynamic_cast<const nlohmann::json::out_of_range*>(&error) != nullptr;
+    fail((isJson ? "" : "is no JSON: ") + shownText(words));
 }
 
 bool JsonReader::take(const Value& value) {
