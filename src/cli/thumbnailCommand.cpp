@@ -6,6 +6,7 @@
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "console.h"
+#include "designCode.h"
 #include "drawnSheet.h"
 #include "fleetFile.h"
 #include "fleetPaths.h"
@@ -52,10 +53,13 @@ void checkIsSmall(const fs::path& file) {
 
 /// Others use the ending of ship files, too, and nearly any text loads. Throws FileError for one
 /// in which nothing is about a ship, or which takes long.
-void checkIsShip(const fs::path& file) {
+void checkIsShip(const std::string& fileOrCode) {
     constexpr std::size_t most = 1 << 16;
-    checkIsSmall(file);
-    const ShipText ship = readShip(file);
+    const fs::path file = nativePath(fileOrCode);
+    if (!isDesignCode(fileOrCode)) {
+        checkIsSmall(file);
+    }
+    const ShipText ship = readShip(fileOrCode);
     if (ship.text.size() > most) {
         throw FileError(file, "is too large for a thumbnail");
     }
@@ -94,22 +98,23 @@ public:
         }
     }
 
-    std::string pngOf(const std::string& file, int side) {
-        const fs::path path = nativePath(file);
-        checkIsSmall(path);
-        std::vector<SheetRecord> ships;
-        if (const std::string text = toUtf8(readBytes(path)); isFleet(text)) {
-            ships = shipsOf(parseFleet(text).fleet, path.parent_path());
-        } else {
-            ships.push_back(shipIn(file));
-        }
-        const Page page = thumbnailPage(ships);
+    std::string pngOf(const std::string& fileOrCode, int side) {
+        const Page page = thumbnailPage(isDesignCode(fileOrCode) ? std::vector{shipIn(fileOrCode)}
+                                                                 : shipsIn(fileOrCode));
         return m_pictures.encode(m_pictures.pixels(page, thumbnailSide, side), "png");
     }
 
 private:
+    std::vector<SheetRecord> shipsIn(const std::string& file) {
+        const fs::path path = nativePath(file);
+        checkIsSmall(path);
+        const std::string text = toUtf8(readBytes(path));
+        return isFleet(text) ? shipsOf(parseFleet(text).fleet, path.parent_path())
+                             : std::vector{shipIn(file)};
+    }
+
     SheetRecord shipIn(const std::string& file) {
-        checkIsShip(nativePath(file));
+        checkIsShip(file);
         if (const std::optional<Fault> fault = m_screen.load(file)) {
             throw LoadError(*fault);
         }
