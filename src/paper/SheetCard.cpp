@@ -1,6 +1,8 @@
 #include "SheetCard.h"
 
+#include "FreeRoom.h"
 #include "SheetPictures.h"
+#include "designQr.h"
 #include "scaledDrawing.h"
 #include "sheetHeader.h"
 
@@ -279,8 +281,7 @@ std::optional<SheetCard::Fitting> SheetCard::fittingReadings(const Silhouette& s
 
 /// The largest drawing that leaves the text a place, in a smaller font if that saves a page. What
 /// is left over lets the font be larger.
-SheetCard::Layout SheetCard::bestLayout() const {
-    const Silhouette silhouette(m_sheet.record, m_ink, m_outlines);
+SheetCard::Layout SheetCard::bestLayout(const Silhouette& silhouette) const {
     constexpr double comfortable = 1.2;  // where there is room
     const auto layout = [](Places&& places, std::vector<Reading>& readings) {
         return Layout{places.scale, std::move(places.columns),
@@ -310,8 +311,26 @@ SheetCard::Layout SheetCard::bestLayout() const {
     return {m_leastScale, std::move(columns), std::move(flow)};
 }
 
+/// Adds the design as a QR code to what stands beside the drawing, if that leaves room for it.
+void SheetCard::addCode(Page& text, const Silhouette& silhouette, const Box& drawing) const {
+    constexpr double strip = 2, gapBelow = 2;
+    FreeRoom room(m_body);
+    for (const PageItem& item : text.items) {
+        const Box box = boxOf(item);
+        room.take({box.x, box.y - gapBelow, box.width, box.height + gapBelow});
+    }
+    const double scale = drawing.width / m_ink.width;
+    for (double y = 0; y < drawing.height; y += strip) {
+        const Silhouette::Extent extent = silhouette.between(y / scale, (y + strip) / scale);
+        room.take({drawing.x + extent.left * scale, drawing.y + y,
+                   (extent.right - extent.left) * scale, strip});
+    }
+    putDesignQr(text, m_sheet.shipFile, room);
+}
+
 std::vector<PageBlock> SheetCard::putOn(Page& page) const {
-    auto [scale, columns, flow] = bestLayout();
+    const Silhouette silhouette(m_sheet.record, m_ink, m_outlines);
+    auto [scale, columns, flow] = bestLayout(silhouette);
     Page text;
     Box free = m_body;
     flow.fill(columns.inCorners, text);
@@ -327,8 +346,13 @@ std::vector<PageBlock> SheetCard::putOn(Page& page) const {
     }
     putBlock(page, m_head, m_box.x, m_box.y);
     // Its paper would cover text in its corners.
-    putDrawing(page, m_sheet.record, m_ink, free.x + (free.width - m_ink.width * scale) / 2,
-               free.y + (free.height - m_ink.height * scale) / 2, scale);
+    const double width = m_ink.width * scale, height = m_ink.height * scale;
+    const Box drawing = {free.x + (free.width - width) / 2, free.y + (free.height - height) / 2,
+                         width, height};
+    putDrawing(page, m_sheet.record, m_ink, drawing.x, drawing.y, scale);
+    if (!m_isPlain) {
+        addCode(text, silhouette, drawing);
+    }
     std::ranges::move(text.items, std::back_inserter(page.items));
     return flow.takeRest();
 }

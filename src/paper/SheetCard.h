@@ -14,8 +14,8 @@ namespace fleetwright {
 
 /// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
 /// and below it, or in the corners that it leaves. The drawing gets as large as it can with all of
-/// that beside it; much to read makes it no smaller than the room alone asks for. Measures are in
-/// millimetres.
+/// that beside it; much to read makes it no smaller than the room alone asks for. Where all of that
+/// leaves room, there is the design as a QR code. Measures are in millimetres.
 class SheetCard {
 public:
     /// The least side of a system's picture that can be played with.
@@ -77,7 +77,8 @@ private:
     std::optional<Places> placesAt(double scale, const std::vector<Reading>& readings,
                                    const Silhouette& silhouette) const;
     std::optional<Fitting> fittingReadings(const Silhouette& silhouette) const;
-    Layout bestLayout() const;
+    Layout bestLayout(const Silhouette& silhouette) const;
+    void addCode(Page& text, const Silhouette& silhouette, const Box& drawing) const;
 
     const VectorSheet& m_sheet;
     Box m_box;  ///< all of it

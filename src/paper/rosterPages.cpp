@@ -17,9 +17,9 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::uint32_t inkColour = 0x000000, quietColour = 0x555555, lineColour = 0xBBBBBB;
-constexpr double lineHeight = 1.28;  // times the size of the font
-constexpr double nameSize = 3.7, smallSize = 2.7, labelSize = 2.1;
+constexpr std::uint32_t inkColour = 0x000000, quietInk = 0x555555, lineColour = 0xBBBBBB;
+constexpr double rosterLineHeight = 1.28;  // times the size of the font
+constexpr double rosterNameSize = 3.7, smallSize = 2.7, rosterLabelSize = 2.1;
 constexpr double nameLeft = 11;  // the count stands in front of it
 
 /// A column of figures.
@@ -27,12 +27,12 @@ struct Column {
     std::string_view label;
     double right;  ///< its right edge, from that of the page
 };
-constexpr std::array<Column, 6> columns = {{{"MASS", 88},
-                                            {"POINTS", 73},
-                                            {"TOGETHER", 53},
-                                            {"DAMAGE / ROWS", 30},
-                                            {"THRUST", 15},
-                                            {"DRIVE", 0}}};
+constexpr std::array<Column, 6> figureColumns = {{{"MASS", 88},
+                                                  {"POINTS", 73},
+                                                  {"TOGETHER", 53},
+                                                  {"DAMAGE / ROWS", 30},
+                                                  {"THRUST", 15},
+                                                  {"DRIVE", 0}}};
 constexpr double figuresWidth = 98;  // with room in front of them
 
 /// Puts lines below each other.
@@ -48,7 +48,7 @@ public:
             style.x = left;
             style.y = block.height + style.size * letterHeight;
             block.items.emplace_back(style);
-            block.height += style.size * lineHeight;
+            block.height += style.size * rosterLineHeight;
         }
     }
 
@@ -56,7 +56,7 @@ public:
         constexpr std::size_t mostLines = 12;
         while (!notes.empty()) {
             const std::size_t end = std::min(notes.find('\n'), notes.size());
-            write(notes.substr(0, end), left, {.text = {}, .size = size, .colour = quietColour},
+            write(notes.substr(0, end), left, {.text = {}, .size = size, .colour = quietInk},
                   mostLines);
             notes.remove_prefix(std::min(end + 1, notes.size()));
         }
@@ -77,20 +77,22 @@ PageText figureText(std::string text, double right, double y) {
     return {.text = std::move(text),
             .x = right,
             .y = y,
-            .size = nameSize,
+            .size = rosterNameSize,
             .font = PageFont::Regular,
             .anchor = PageText::Anchor::End};
 }
 
-using Figures = std::array<std::string, columns.size()>;
+using Figures = std::array<std::string, figureColumns.size()>;
 
 /// The size in which all figures of a ship keep to their columns.
 double sizeOf(const Figures& figures) {
     constexpr double between = 1.5;
-    double size = nameSize, left = figuresWidth;
+    double size = rosterNameSize, left = figuresWidth;
     for (std::size_t i = 0; i < figures.size(); ++i) {
-        const double room = std::exchange(left, columns[i].right) - columns[i].right - between;
-        size = std::min(size, fittedText(figures[i], {.text = {}, .size = nameSize}, room, 0).size);
+        const double room =
+            std::exchange(left, figureColumns[i].right) - figureColumns[i].right - between;
+        size = std::min(size,
+                        fittedText(figures[i], {.text = {}, .size = rosterNameSize}, room, 0).size);
     }
     return size;
 }
@@ -105,21 +107,21 @@ std::string joinedNames(const FleetShip& ship) {
 
 PageBlock headBlock(double width) {
     RosterBlock head(width);
-    const double y = labelSize * letterHeight;
+    const double y = rosterLabelSize * letterHeight;
     const auto label = [&](std::string_view text, double x, PageText::Anchor anchor) {
         head.block.items.emplace_back(PageText{.text = std::string(text),
                                                .x = x,
                                                .y = y,
-                                               .size = labelSize,
+                                               .size = rosterLabelSize,
                                                .font = PageFont::Regular,
                                                .anchor = anchor,
-                                               .colour = quietColour});
+                                               .colour = quietInk});
     };
     label("SHIP", nameLeft, PageText::Anchor::Start);
-    for (const Column& column : columns) {
+    for (const Column& column : figureColumns) {
         label(column.label, width - column.right, PageText::Anchor::End);
     }
-    head.block.height = labelSize * 1.6;
+    head.block.height = rosterLabelSize * 1.6;
     head.rule(0.2, inkColour);
     return std::move(head.block);
 }
@@ -131,20 +133,20 @@ PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
     constexpr std::size_t mostNameLines = 400;
     RosterBlock text(width);
     text.block.height = roomAbove;
-    const double y = roomAbove + nameSize * letterHeight;
+    const double y = roomAbove + rosterNameSize * letterHeight;
     PageText count = figureText(std::to_string(ship.count) + " ×", nameLeft - 2, y);
-    count.size = fittedText(count.text, {.text = {}, .size = nameSize}, nameLeft - 2, 0).size;
+    count.size = fittedText(count.text, {.text = {}, .size = rosterNameSize}, nameLeft - 2, 0).size;
     text.block.items.emplace_back(std::move(count));
     const std::string name = !row.figures ? ship.file : row.figures->name;
     PageText shown = fittedText(name.empty() ? "Unnamed Ship" : name,
-                                {.text = {}, .size = nameSize, .font = PageFont::Bold},
+                                {.text = {}, .size = rosterNameSize, .font = PageFont::Bold},
                                 width - nameLeft - figuresWidth, smallSize);
     shown.x = nameLeft;
     shown.y = y;
     text.block.items.emplace_back(std::move(shown));
-    text.block.height += nameSize * lineHeight;
+    text.block.height += rosterNameSize * rosterLineHeight;
 
-    const PageText quiet = {.text = {}, .size = smallSize, .colour = quietColour};
+    const PageText quiet = {.text = {}, .size = smallSize, .colour = quietInk};
     if (row.figures) {
         const ShipFigures& figures = *row.figures;
         const Figures values = {std::to_string(figures.mass),
@@ -156,7 +158,7 @@ PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
                                 std::string(driveWord(figures))};
         const double size = sizeOf(values);
         for (std::size_t i = 0; i < values.size(); ++i) {
-            PageText figure = figureText(values[i], width - columns[i].right, y);
+            PageText figure = figureText(values[i], width - figureColumns[i].right, y);
             figure.size = size;
             text.block.items.emplace_back(std::move(figure));
         }
@@ -198,7 +200,7 @@ PageBlock titleBlock(const Fleet& fleet, const FleetSum& sum, double width) {
     title.block.items.emplace_back(std::move(name));
     title.block.height = size * 1.15;
     if (!fleet.player.empty()) {
-        title.write(fleet.player, 0, {.text = {}, .size = 3.3, .colour = quietColour}, 1);
+        title.write(fleet.player, 0, {.text = {}, .size = 3.3, .colour = quietInk}, 1);
     }
     title.block.height += 1.5;
     std::vector<HeadFigure> figures = {{"SHIPS", std::to_string(sum.ships)},
@@ -226,9 +228,8 @@ void addPageNumbers(std::vector<Page>& pages, const Fleet& fleet, const Box& ins
         const double y = inside.y + inside.height - 0.5;
         const std::string number =
             "Page " + std::to_string(i + 1) + " of " + std::to_string(pages.size());
-        PageText name =
-            fittedText(fleet.name, {.text = {}, .size = smallSize, .colour = quietColour},
-                       inside.width - 40, smallSize);
+        PageText name = fittedText(fleet.name, {.text = {}, .size = smallSize, .colour = quietInk},
+                                   inside.width - 40, smallSize);
         name.x = inside.x;
         name.y = y;
         pages[i].items.emplace_back(std::move(name));
@@ -238,7 +239,7 @@ void addPageNumbers(std::vector<Page>& pages, const Fleet& fleet, const Box& ins
                                              .size = smallSize,
                                              .font = PageFont::Regular,
                                              .anchor = PageText::Anchor::End,
-                                             .colour = quietColour});
+                                             .colour = quietInk});
     }
 }
 

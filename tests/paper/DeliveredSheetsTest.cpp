@@ -2,14 +2,17 @@
 
 #include "DamageTrack.h"
 #include "DrawingPack.h"
+#include "FreeRoom.h"
 #include "PictureReader.h"
 #include "SSDMaps.h"
 #include "Silhouette.h"
 #include "bestMap.h"
 #include "bringInOrder.h"
 #include "damageBoxes.h"
+#include "designCode.h"
 #include "paperWorld.h"
 #include "paths.h"
+#include "readQr.h"
 #include "scaledDrawing.h"
 #include "sheetDocument.h"
 #include "sheetWorld.h"
@@ -30,6 +33,17 @@ struct GifFiles : PictureReader {
     Raster builtIn(const std::string&) override { return {}; }
 };
 
+/// Nothing lies on a code, nor on the white around it. What the drawing has is looked at apart.
+void expectAlone(const PageItem& code, const Page& page) {
+    const Box box = boxOf(code);
+    for (const PageItem& item : page.items) {
+        const Box other = boxOf(item);
+        const bool isApart = other.x >= box.x + box.width || box.x >= other.x + other.width ||
+                             other.y >= box.y + box.height || box.y >= other.y + other.height;
+        EXPECT_TRUE(isApart || &item == &code || std::holds_alternative<PagePicture>(item));
+    }
+}
+
 /// Holds a sheet against the pixels of its outline. Damage boxes are measured from line to line.
 void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) {
     const PageDocument document = sheetDocument({sheet}, {});
@@ -46,6 +60,7 @@ void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) 
     }
     Box drawing;
     double scale = 0;
+    int codes = 0;
     for (const Page& page : document.pages) {
         std::size_t onDrawing = scale == 0 ? 0 : sheet.record.pastes.size() + 1;
         for (const PageItem& item : page.items) {
@@ -57,7 +72,11 @@ void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) 
                 scale = drawing.width / ink.width;
                 continue;
             }
-            if (picture != nullptr) {
+            if (picture != nullptr && picture->drawing->shapes.size() == 1 &&
+                readQr(*picture->drawing, box) == designCode(sheet.shipFile)) {
+                ++codes;
+                expectAlone(item, page);
+            } else if (picture != nullptr) {
                 inLegend.insert(picture->drawing.get());
             }
             const auto [left, right] = silhouette.between((box.y - drawing.y) / scale,
@@ -69,6 +88,7 @@ void expectGood(const VectorSheet& sheet, const Raster& outline, int damageBox) 
         }
     }
     EXPECT_EQ(inLegend, expected);
+    EXPECT_EQ(codes, 1) << "no room for the code";
     EXPECT_GE(scale * systemPictureSize, 9 - tolerance);
     EXPECT_GE(scale * damageBox, 4.5 - tolerance);
 }

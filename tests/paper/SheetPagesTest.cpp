@@ -1,5 +1,6 @@
 // Sheets on pages: what stands where, and what they become as a file.
 
+#include "FreeRoom.h"
 #include "PictureFiles.h"
 #include "caseFile.h"
 #include "paperWorld.h"

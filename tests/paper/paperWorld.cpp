@@ -1,27 +1,11 @@
 #include "paperWorld.h"
 
+#include "FreeRoom.h"
 #include "ShipClass.h"
 
 #include <gtest/gtest.h>
 
 namespace fleetwright {
-
-namespace {
-
-struct Covered {
-    Box operator()(const PageText& text) const {
-        // From accents on capitals to the lower ends of letters.
-        return {text.x, text.y - 0.96 * text.size, textWidth(text.text, text.size, text.font),
-                1.21 * text.size};
-    }
-    Box operator()(const PageLine& line) const {
-        return {line.x1, line.y1, line.x2 - line.x1, line.y2 - line.y1};
-    }
-    Box operator()(const PageRectangle& rectangle) const { return rectangle.place; }
-    Box operator()(const PagePicture& picture) const { return picture.clip; }
-};
-
-}  // namespace
 
 SheetShip shownShip(ShipClass& ship) {
     return {std::to_string(ship.g_iDP),
@@ -39,10 +23,6 @@ std::vector<ListView::Row> rowsOf(const ShipClass& ship) {
         rows.push_back({std::string(record.name), {}, std::to_string(record.amount)});
     }
     return rows;
-}
-
-Box boxOf(const PageItem& item) {
-    return std::visit(Covered(), item);
 }
 
 void expectInsideMargins(const PageDocument& document) {

@@ -12,9 +12,6 @@ namespace fleetwright {
 SheetShip shownShip(ShipClass& ship);
 std::vector<ListView::Row> rowsOf(const ShipClass& ship);
 
-/// What an item covers of its page.
-Box boxOf(const PageItem& item);
-
 /// Fails a test for each item that leaves the margins.
 void expectInsideMargins(const PageDocument& document);
 

@@ -1,0 +1,130 @@
+#include "designQr.h"
+
+#include "FreeRoom.h"
+#include "designCode.h"
+#include "pageTexts.h"
+
+#include <qrencode.h>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+constexpr int quietZone = 4;  // modules, as the standard asks for
+constexpr int largestVersion = 12;
+constexpr int largestSide = 17 + 4 * largestVersion + 2 * quietZone;
+static_assert(largestSide < 100, "coordinates have two digits");
+
+using Symbol = std::unique_ptr<QRcode, decltype(&QRcode_free)>;
+
+/// The smallest symbol that can do without a seventh of itself, for folds and pencils; null if
+/// that is a large one.
+Symbol symbolOf(std::string_view code) {
+    const std::unique_ptr<QRinput, decltype(&QRinput_free)> input(QRinput_new2(0, QR_ECLEVEL_M),
+                                                                  &QRinput_free);
+    if (!input || QRinput_append(input.get(), QR_MODE_AN, static_cast<int>(code.size()),
+                                 reinterpret_cast<const unsigned char*>(code.data())) != 0) {
+        return {nullptr, &QRcode_free};
+    }
+    Symbol symbol(QRcode_encodeInput(input.get()), &QRcode_free);
+    if (symbol && symbol->version > largestVersion) {
+        symbol.reset();
+    }
+    return symbol;
+}
+
+/// Writes a number of up to two digits, and returns where the next one goes.
+char* putNumber(char* at, int number) {
+    if (number >= 10) {
+        *at++ = static_cast<char>('0' + number / 10);
+    }
+    *at++ = static_cast<char>('0' + number % 10);
+    return at;
+}
+
+void addBox(std::string& path, int left, int top, int right, int bottom) {
+    std::array<char, sizeof("M00 00L00 00L00 00L00 00Z")> text;
+    char* at = text.data();
+    const auto step = [&at](char command, int x, int y) {
+        *at++ = command;
+        at = putNumber(at, x);
+        *at++ = ' ';
+        at = putNumber(at, y);
+    };
+    step('M', left, top);
+    step('L', right, top);
+    step('L', right, bottom);
+    step('L', left, bottom);
+    *at++ = 'Z';
+    path.append(text.data(), at);
+}
+
+/// Its dark modules, a box for each run in a row.
+std::string modulesOf(const QRcode& symbol) {
+    std::string path;
+    path.reserve(std::size_t(symbol.width) * std::size_t(symbol.width) * 8);
+    const unsigned char* module = symbol.data;
+    for (int y = quietZone; y < symbol.width + quietZone; ++y) {
+        int start = -1;  // of the run, if there is one
+        for (int x = quietZone; x < symbol.width + quietZone; ++x) {
+            const bool isDark = (*module++ & 1) != 0;
+            if (isDark && start < 0) {
+                start = x;
+            } else if (!isDark && start >= 0) {
+                addBox(path, std::exchange(start, -1), y, x, y + 1);
+            }
+        }
+        if (start >= 0) {
+            addBox(path, start, y, symbol.width + quietZone, y + 1);
+        }
+    }
+    return path;
+}
+
+}  // namespace
+
+std::shared_ptr<const Drawing> designQr(std::string_view code) {
+    const Symbol symbol = symbolOf(code);
+    if (!symbol) {
+        return nullptr;
+    }
+    const int side = symbol->width + 2 * quietZone;
+    const Box ink = {quietZone, quietZone, double(symbol->width), double(symbol->width)};
+    return std::make_shared<const Drawing>(
+        Drawing{.width = side,
+                .height = side,
+                .ink = ink,
+                .shapes = {{.path = modulesOf(*symbol), .fill = 0x000000, .stroke = {}}}});
+}
+
+void putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room) {
+    constexpr std::string_view label = "DESIGN CODE";
+    constexpr double labelSize = 2.1, labelRoom = 2.6;
+    constexpr std::size_t longestShip =
+        4096;  // longer ones hardly have a code that is short enough
+    const auto drawing = shipFile.empty() || shipFile.size() > longestShip
+                             ? nullptr
+                             : designQr(designCode(shipFile));
+    if (!drawing) {
+        return;
+    }
+    const double side = drawing->width * qrModule;
+    if (const std::optional<Box> free = room.find(side, side + labelRoom)) {
+        const Box place = {free->x, free->y, side, side};
+        page.items.emplace_back(PagePicture{drawing, nullptr, place, place});
+        const double x = place.x + (side - textWidth(label, labelSize)) / 2;
+        page.items.emplace_back(PageText{.text = std::string(label),
+                                         .x = x,
+                                         .y = place.y + side + labelSize * letterHeight,
+                                         .size = labelSize,
+                                         .colour = 0x555555});
+    }
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "PageDocument.h"
+
+#include <memory>
+#include <string_view>
+
+namespace fleetwright {
+
+class FreeRoom;
+
+/// The side of a module of a QR code on paper, in millimetres: any phone reads it from a print or
+/// a copy, and any program from 150 dots to the inch.
+inline constexpr double qrModule = 0.5;
+
+/// A design code as a QR code: its modules, one unit each, as one area, with the white around them
+/// that readers need. Null if it is too long for one that people care to scan.
+std::shared_ptr<const Drawing> designQr(std::string_view code);
+
+/// Puts the code of a ship file on a page, with a word about it, where there is room. A ship whose
+/// code is too long gets none.
+void putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room);
+
+}  // namespace fleetwright
