@@ -29,7 +29,9 @@ int runRecovered(const Options& options) {
     const std::string& out = options.words.back();
     for (const RecoveryFolder::Design& design : designs) {
         if (design.name == name) {
-            saveResult(nativePath(ShipClass::withExtension(out)), readBytes(design.file));
+            const bool isFleet = design.about.kind == RecoveryKind::Fleet;
+            saveResult(nativePath(isFleet ? out : ShipClass::withExtension(out)),
+                       readBytes(design.file));
             return Done;
         }
     }
@@ -45,7 +47,7 @@ extern const CommandRow recoveredCommand = {
     .most = 2,
     .help = "List designs that were put aside, or write one as OUT",
     .details = "Designs are put aside because they were never saved; the newest is listed first. "
-               "OUT is a ship file.",
+               "OUT is a ship file, or a fleet file.",
     .check = checkRecovered,
     .run = runRecovered,
 };

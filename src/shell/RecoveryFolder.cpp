@@ -43,11 +43,29 @@ std::error_code renameUnlessThere(const fs::path& from, const fs::path& to) {
     return isThere(to) ? std::make_error_code(std::errc::file_exists) : renameFile(from, to);
 }
 
+/// Whether records know a fleet by such a name.
+bool isFleet(const std::string& name) {
+    return name.ends_with(recoveryFleet);
+}
+
+/// By which name records know what has such a name.
+std::string recordNameOf(const RecoveryName& name) {
+    return name.text() + (name.kind == RecoveryKind::Fleet ? recoveryFleet : "");
+}
+
+/// What is known of the design that a kill has left, which a run has announced by these names.
+RecoveryName leftOver(const std::set<std::string>& announced, const WrittenShip& ship) {
+    if (announced.empty() || !isFleet(*announced.begin())) {
+        return {ship.name, ship.mass, "", 0};
+    }
+    return RecoveryName::of(fs::path(*announced.begin()).stem().string(), RecoveryKind::Fleet);
+}
+
 /// Reads the masses that names do not say, but not of more designs than are read at once.
 void readMasses(std::vector<RecoveryDesign>& designs) {
     constexpr std::size_t most = 50;
     for (std::size_t i = 0; i < std::min(designs.size(), most); ++i) {
-        if (!designs[i].about.mass) {
+        if (!designs[i].about.mass && designs[i].about.kind == RecoveryKind::Ship) {
             designs[i].about.mass = WrittenShip::of(bytesIn(designs[i].file).value_or("")).mass;
         }
     }
@@ -141,23 +159,25 @@ void RecoveryFolder::keep(const Aside& design) {
         m_run.record.noteMade(*kept, m_run.mark(), design.shipFile);  // by this run as well
         writeSteps(fileOf(*kept), design.steps);
         m_run.saveRecord();
-        forget();
+        forget(design.kind);
         return;
     }
     writeOwn(design);
-    takeMarkOff(ownFile(), renameToNew);
-    m_own.reset();
+    std::optional<OwnFile>& own = ownOf(design.kind);
+    takeMarkOff(fileOf(*own), renameToNew);
+    own.reset();
     takeOldOnesAway();
 }
 
-void RecoveryFolder::forget() {
-    if (m_own && isOwnAsWritten()) {
-        removeSteps(ownFile());
-        removeForGood(ownFile());
-        m_run.record.forget(m_own->name);
-        m_own.reset();
-    } else if (m_own) {
-        letGo();
+void RecoveryFolder::forget(RecoveryKind kind) {
+    std::optional<OwnFile>& own = ownOf(kind);
+    if (own && isAsWritten(*own)) {
+        removeSteps(fileOf(*own));
+        removeForGood(fileOf(*own));
+        m_run.record.forget(own->name);
+        own.reset();
+    } else if (own) {
+        letGo(own);
     }
 }
 
@@ -174,17 +194,18 @@ void RecoveryFolder::begin() {
 }
 
 fs::path RecoveryFolder::fileOf(const std::string& name, const std::string& mark) const {
-    return m_folder /
-           (name + recoveryExtension + (mark.empty() ? mark : beforeRecoveryMark + mark));
+    return m_folder / (name + (isFleet(name) ? "" : recoveryExtension) +
+                       (mark.empty() ? mark : beforeRecoveryMark + mark));
 }
 
 /// Takes the mark of its run off a file, never over another one; where it is then.
 fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) const {
     constexpr int mostNames = 100;
-    const std::string name = file.stem().string();
-    fs::path plain = fileOf(name);
+    const std::string name = file.stem().string(), extension = file.extension().string();
+    const std::string ending = extension.substr(0, extension.find(beforeRecoveryMark));
+    fs::path plain = m_folder / (name + ending);
     for (int i = 2; rename(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
-        plain = fileOf(name + " (" + std::to_string(i) + ')');
+        plain = m_folder / (name + " (" + std::to_string(i) + ')' + ending);
     }
     if (isThere(file)) {
         return file;
@@ -193,57 +214,56 @@ fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) c
     return plain;
 }
 
-bool RecoveryFolder::isOwnAsWritten() const {
-    return bytesIn(ownFile()) == m_own->shipFile;
+bool RecoveryFolder::isAsWritten(const OwnFile& own) const {
+    return bytesIn(fileOf(own)) == own.shipFile;
 }
 
 /// Somebody else has written over the file of this run, or taken it away: it is theirs.
-void RecoveryFolder::letGo() {
-    if (isThere(ownFile())) {
-        takeMarkOff(ownFile(), renameToNew);
+void RecoveryFolder::letGo(std::optional<OwnFile>& own) {
+    if (isThere(fileOf(*own))) {
+        takeMarkOff(fileOf(*own), renameToNew);
     }
-    m_run.record.forget(m_own->name);
-    m_own.reset();
+    m_run.record.forget(own->name);
+    own.reset();
 }
 
 void RecoveryFolder::writeOwn(const Aside& design) {
-    if (m_own && !isOwnAsWritten()) {
-        letGo();
+    std::optional<OwnFile>& own = ownOf(design.kind);
+    if (own && !isAsWritten(*own)) {
+        letGo(own);
     }
-    if (m_own && m_own->shipFile == design.shipFile) {
-        if (m_own->steps != design.steps && writeSteps(ownFile(), design.steps)) {
-            m_own->steps = design.steps;
+    if (own && own->shipFile == design.shipFile) {
+        if (own->steps != design.steps && writeSteps(fileOf(*own), design.steps)) {
+            own->steps = design.steps;
         }
         return;
     }
-    const std::uint64_t number = m_own ? m_own->number : RecoveryListing(m_folder).highest + 1;
-    const OwnFile next = {RecoveryName{design.shipName, design.mass, m_now(), number}.text(),
-                          number,
-                          design.shipFile,
-                          {}};
+    const std::uint64_t number = own ? own->number : RecoveryListing(m_folder).highest + 1;
+    const RecoveryName name = {design.shipName, design.mass, m_now(), number, design.kind};
+    const OwnFile next = {recordNameOf(name), number, design.shipFile, {}};
     // Noted first: so it is known for certain whose the file is, and what is whole, at any time.
     m_run.record.forget(next.name);
-    if (m_own) {
-        m_run.record.noteMade(next.name, m_run.mark(), m_own->shipFile);
+    if (own) {
+        m_run.record.noteMade(next.name, m_run.mark(), own->shipFile);
     }
     m_run.record.noteMade(next.name, m_run.mark(), next.shipFile);
     m_run.saveRecord();
     const fs::path file = fileOf(next.name, m_run.mark());
     // First, since the design before is among its steps, but not the next one.
     const std::string steps = writeSteps(file, design.steps) ? design.steps : std::string();
-    const fs::path before = m_own ? ownFile() : file;
+    const fs::path before = own ? fileOf(*own) : file;
     if (before != file) {
-        if (const std::error_code error = renameFile(ownFile(), file)) {
+        if (const std::error_code error = renameFile(before, file)) {
             throw FileError(file, "cannot be saved: " + error.message());
         }
-        m_run.record.forget(std::exchange(m_own->name, next.name));
+        m_run.record.forget(std::exchange(own->name, next.name));
     }
     saveFile(file, next.shipFile);
     if (before != file) {
         removeSteps(before);
     }
-    m_own = next;
-    m_own->steps = steps;
+    own = next;
+    own->steps = steps;
 }
 
 /// Under which name this run, or one that has ended, has put the same design aside for good.
@@ -269,13 +289,16 @@ void RecoveryFolder::takeUpLeftOvers(RecoveryListing& listing) const {
         if (!bytes) {
             continue;  // somebody is writing it, or it cannot be read
         }
+        const std::set<std::string> names = known.namesOf(*bytes);
         const WrittenShip ship = WrittenShip::of(*bytes);
-        if (known.namesOf(*bytes).empty() && (!ship.isWhole || known.isCut(*bytes))) {
+        if (names.empty() && (!ship.isWhole || known.isCut(*bytes))) {
             removeFile(file);
             continue;
         }
-        const RecoveryName name = {ship.name, ship.mass, m_now(), listing.highest + 1};
-        const fs::path taken = fileOf(name.text(), noRun);
+        RecoveryName name = leftOver(names, ship);
+        name.time = m_now();
+        name.number = listing.highest + 1;
+        const fs::path taken = fileOf(recordNameOf(name), noRun);
         if (!renameToNew(file, taken)) {
             listing.take(taken);
         }

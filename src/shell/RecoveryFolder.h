@@ -21,7 +21,8 @@ class Trash;
 /// of this run, and every other that was given up without being saved. What the name of a file says
 /// is in RecoveryName. That of a run has the run's mark behind it: "… #12.shp~MARK". The steps of
 /// the design are beside it, "… #12.steps~MARK", and go where it goes. If that fails, or one of the
-/// two is newer after a crash, the design does not care.
+/// two is newer after a crash, the design does not care. A fleet is such a design, too; a run has a
+/// file for the one at work beside that of the ship, "… #13.fleet~MARK".
 ///
 /// Only what a run has made, and nobody has changed, is ever taken away without being asked for. Of
 /// that, old designs that the user has been shown go into the trash, but never the last one of a
@@ -32,10 +33,11 @@ public:
 
     /// A design to be put aside.
     struct Aside {
-        std::string shipName;
-        std::int32_t mass;
+        std::string shipName;    ///< or the fleet's
+        std::int32_t mass;       ///< or how many ships the fleet has
         std::string shipFile;    ///< all of it
         std::string steps = {};  ///< see RecoverySteps.h; or none
+        RecoveryKind kind = RecoveryKind::Ship;
 
         friend bool operator==(const Aside&, const Aside&) = default;
     };
@@ -68,7 +70,7 @@ public:
     /// Throws FileError.
     void keep(const Aside& design);
     /// Takes the file of this run away, if there is one. What somebody else has made of it stays.
-    void forget();
+    void forget(RecoveryKind kind = RecoveryKind::Ship);
 
     /// The steps that were put aside with the design in this file; empty if there are none.
     static std::string stepsOf(const std::filesystem::path& file);
@@ -80,7 +82,7 @@ public:
 private:
     /// The file of this run, as it was written last.
     struct OwnFile {
-        std::string name;
+        std::string name;  ///< as records know it
         std::uint64_t number;
         std::string shipFile;
         std::string steps;  ///< beside it; empty if they could not be written
@@ -88,13 +90,18 @@ private:
 
     void begin();
     std::filesystem::path fileOf(const std::string& name, const std::string& mark = {}) const;
+    std::optional<OwnFile>& ownOf(RecoveryKind kind) {
+        return kind == RecoveryKind::Fleet ? m_ownFleet : m_own;
+    }
     using RenameToNew = std::error_code (*)(const std::filesystem::path&,
                                             const std::filesystem::path&);
     std::filesystem::path takeMarkOff(const std::filesystem::path& file, RenameToNew rename) const;
 
-    std::filesystem::path ownFile() const { return fileOf(m_own->name, m_run.mark()); }
-    bool isOwnAsWritten() const;
-    void letGo();
+    std::filesystem::path fileOf(const OwnFile& own) const {
+        return fileOf(own.name, m_run.mark());
+    }
+    bool isAsWritten(const OwnFile& own) const;
+    void letGo(std::optional<OwnFile>& own);
     void writeOwn(const Aside& design);
     bool throwAway(const std::filesystem::path& design);
 
@@ -106,7 +113,7 @@ private:
     std::function<std::string()> m_now;
     Trash& m_trash;
     RecoveryRun m_run;
-    std::optional<OwnFile> m_own;
+    std::optional<OwnFile> m_own, m_ownFleet;
     std::set<std::string> m_opened;  ///< by the names in records
 };
 

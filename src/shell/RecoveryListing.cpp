@@ -23,23 +23,24 @@ bool isMark(std::string_view text) {
 }  // namespace
 
 std::optional<RecoveryDesign> RecoveryDesign::in(const fs::path& file) {
-    constexpr std::string_view extension = recoveryExtension;
     const std::string name = file.filename().string();
     const std::size_t dot = name.rfind('.');
     const std::string_view ending =
         dot == std::string::npos ? "" : std::string_view(name).substr(dot);
+    const bool isFleet = ending.starts_with(recoveryFleet);
+    const std::string_view extension = isFleet ? recoveryFleet : recoveryExtension;
     const bool hasMark = ending.size() > extension.size() + 1 && ending.starts_with(extension) &&
                          ending[extension.size()] == beforeRecoveryMark;
     if (dot == 0 || (ending != extension && !hasMark)) {
         return std::nullopt;
     }
-    const std::string stem = name.substr(0, dot);
+    const std::string stem = name.substr(0, dot), known = isFleet ? stem + recoveryFleet : stem;
     return RecoveryDesign{
         .file = file,
-        .recordName = stem,
+        .recordName = known,
         .mark = std::string(hasMark ? ending.substr(extension.size() + 1) : std::string_view()),
-        .name = stem,
-        .about = RecoveryName::of(stem)};
+        .name = known,
+        .about = RecoveryName::of(stem, isFleet ? RecoveryKind::Fleet : RecoveryKind::Ship)};
 }
 
 bool isAnyLeftBehind(const std::vector<RecoveryDesign>& designs) {

@@ -13,10 +13,11 @@ namespace fleetwright {
 
 // How files are named in a folder of designs put aside.
 inline constexpr const char* recoveryExtension = ".shp";
+inline constexpr const char* recoveryFleet = ".fleet";  ///< in place of that, of a fleet
 inline constexpr const char* recoverySteps = ".steps";  ///< in place of that, of a design's steps
 inline constexpr const char* recoveryLock = ".lock";    ///< behind the mark of a run
 inline constexpr const char* recoveryRecord = ".record-";  ///< in front of it
-inline constexpr char beforeRecoveryMark = '~';            ///< between ".shp" and it
+inline constexpr char beforeRecoveryMark = '~';            ///< between ".shp" or ".fleet" and it
 
 /// A design that was put aside.
 struct RecoveryDesign {
@@ -24,7 +25,7 @@ struct RecoveryDesign {
     static std::optional<RecoveryDesign> in(const std::filesystem::path& file);
 
     std::filesystem::path file;
-    std::string recordName;  ///< that of the file without the ending; under it records know it
+    std::string recordName;  ///< that of the file without ".shp" and mark; records know it by that
     std::string
         mark;  ///< of the run that has it at work, or had; empty if it was put aside for good
     std::string name;           ///< the record's, or that of the whole file where two are the same

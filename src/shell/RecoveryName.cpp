@@ -12,7 +12,11 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::string_view beforeMass = ", mass ";
+/// Stands in front of how large the design is.
+std::string_view beforeMass(RecoveryKind kind) {
+    return kind == RecoveryKind::Fleet ? ", ships " : ", mass ";
+}
+
 constexpr std::string_view beforeTime = ", ";
 constexpr std::string_view beforeNumber = " #";
 
@@ -52,35 +56,40 @@ bool isTime(std::string_view text) {
 }
 
 /// What a name of before there were numbers says.
-RecoveryName olderName(std::string_view text) {
+RecoveryName olderName(std::string_view text, RecoveryKind kind) {
     constexpr std::size_t timeLength = 19;
     const std::size_t shipLength = text.size() - std::min(text.size(), timeLength + 1);
     if (shipLength > 0 && text[shipLength] == ' ' && isTime(text.substr(shipLength + 1))) {
         return {.ship = std::string(text.substr(0, shipLength)),
                 .mass = {},
-                .time = std::string(text.substr(shipLength + 1))};
+                .time = std::string(text.substr(shipLength + 1)),
+                .kind = kind};
     }
-    return {.ship = std::string(text), .mass = {}, .time = {}};
+    return {.ship = std::string(text), .mass = {}, .time = {}, .kind = kind};
 }
 
 }  // namespace
 
-RecoveryName RecoveryName::of(std::string_view text) {
+RecoveryName RecoveryName::of(std::string_view text, RecoveryKind kind) {
     constexpr std::uint64_t mostNumber = 1'000'000'000'000;  // so that others can follow it
     std::string_view rest = withoutCount(text);
     const auto number = numberIn<std::uint64_t>(cutOff(rest, beforeNumber).value_or(""));
     const auto time = cutOff(rest, beforeTime);
-    const auto mass = numberIn<std::int32_t>(cutOff(rest, beforeMass).value_or(""));
+    const auto mass = numberIn<std::int32_t>(cutOff(rest, beforeMass(kind)).value_or(""));
     if (!number || *number == 0 || *number > mostNumber || !time || !mass || rest.empty()) {
-        return olderName(withoutCount(text));
+        return olderName(withoutCount(text), kind);
     }
-    return {.ship = std::string(rest), .mass = mass, .time = std::string(*time), .number = *number};
+    return {.ship = std::string(rest),
+            .mass = mass,
+            .time = std::string(*time),
+            .number = *number,
+            .kind = kind};
 }
 
 std::string RecoveryName::text() const {
     std::string name = fileNameOf(ship);
     if (mass) {
-        name.append(beforeMass).append(std::to_string(*mass));
+        name.append(beforeMass(kind)).append(std::to_string(*mass));
     }
     return name.append(beforeTime).append(time).append(beforeNumber).append(std::to_string(number));
 }

@@ -31,9 +31,9 @@ std::string stepsIn(const fs::path& file) {
 }  // namespace
 
 fs::path stepsBeside(const fs::path& design) {
-    const std::string mark =
-        design.extension().string().substr(std::string_view(recoveryExtension).size());
-    return design.parent_path() / (design.stem().string() + recoverySteps + mark);
+    const std::string extension = design.extension().string();
+    const std::size_t mark = std::min(extension.find(beforeRecoveryMark), extension.size());
+    return design.parent_path() / (design.stem().string() + recoverySteps + extension.substr(mark));
 }
 
 std::string stepsOfDesign(const fs::path& design) {

@@ -14,10 +14,15 @@ namespace {
 ListView::Row rowOf(const RecoveryDesign& design) {
     std::string time = design.about.time;
     std::replace(time.begin(), time.end(), '.', ':');  // which no file's name may hold
+    const bool isFleet = design.about.kind == RecoveryKind::Fleet;
+    const std::string count = design.about.mass ? std::to_string(*design.about.mass) : "";
     return {.key = design.name,
             .text = shownText(design.about.ship),
-            .subItem = design.about.mass ? std::to_string(*design.about.mass) : "",
-            .moreItems = {shownText(time), design.isLeftBehind ? "Left by a crash" : ""}};
+            .subItem = isFleet ? "" : count,
+            .moreItems = {shownText(time),
+                          std::string(design.isLeftBehind ? "Left by a crash" : "") +
+                              (design.isLeftBehind && isFleet ? "; " : "") +
+                              (isFleet ? count.empty() ? "Fleet" : "Fleet, ships: " + count : "")}};
 }
 
 }  // namespace

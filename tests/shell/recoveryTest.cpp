@@ -105,7 +105,7 @@ private:
             {"put", [&] { runOf(name).put(m_last = nextDesign(text)); }},
             {"again", [&] { runOf(name).keep(m_last); }},
             {"keep", [&] { runOf(name).keep(m_last = nextDesign(text)); }},
-            {"forget", [&] { runOf(name).forget(); }},
+            {"forget", [&] { runOf(name).forget(kindOf(text)); }},
             {"look", [&] { say(runOf(name).lookAround()); }},
             {"see",
              [&] {
@@ -152,7 +152,12 @@ private:
     RecoveryFolder::Aside nextDesign(const std::string& ship) {
         RecoveryFolder::Aside next = designOf(ship, ++m_mass);
         next.steps = m_steps;
+        next.kind = kindOf(ship);
         return next;
+    }
+
+    static RecoveryKind kindOf(const std::string& name) {
+        return name.starts_with("Fleet") ? RecoveryKind::Fleet : RecoveryKind::Ship;
     }
 
     void say(const std::vector<RecoveryFolder::Design>& designs) {
