@@ -3,6 +3,7 @@
 #include "Desktop.h"
 #include "Error.h"
 #include "FindingsPanel.h"
+#include "FleetWindow.h"
 #include "Globals.h"
 #include "HistoryPanel.h"
 #include "Printer.h"
@@ -13,6 +14,7 @@
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
+#include "text.h"
 
 namespace fleetwright {
 
@@ -118,6 +120,11 @@ void FileCommands::sayFault(const std::string& fileName) {
 void FileCommands::openFiles(const std::vector<std::string>& files) {
     if (files.size() != 1) {
         window().say("One design at a time can be opened");
+        return;
+    }
+    FleetWindow* const fleet = services().fleet();
+    if (fleet != nullptr && toSmallLetters(files.front()).ends_with(fleetExtension)) {
+        fleet->openFleet(files.front());
         return;
     }
     whenReplaceable([this, name = files.front()] { load(name); });

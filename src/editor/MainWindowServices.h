@@ -11,6 +11,7 @@ namespace fleetwright {
 class Clipboard;
 class Clock;
 class Desktop;
+class FleetWindow;
 class PictureFiles;
 class Printer;
 class RecoveryFolder;
@@ -48,6 +49,8 @@ struct MainWindowServices {
     /// What shows, prints and exports sheets; null if nothing does.
     std::function<const SheetOutput*()> sheets = [] { return nullptr; };
     Clipboard* clipboard = nullptr;  ///< null where nobody copies or pastes
+    /// The window of fleets; null if there is none.
+    std::function<FleetWindow*()> fleet = [] { return nullptr; };
     /// Whether nothing of the start is on the screen any more.
     std::function<bool()> isStartOver = [] { return true; };
     /// By it the moments of a held arrow are one step; null if each is one of its own.

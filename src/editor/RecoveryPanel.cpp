@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "FleetWindow.h"
 #include "fingerprint.h"
 #include "frmPutAside.h"
 
@@ -134,7 +135,11 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     // What is at work may have been among them, and be in the trash now.
     m_aside.reset();
     noteChange();
-    if (dialog.chosen) {
+    if (dialog.chosen && shown[*dialog.chosen].about.kind == RecoveryKind::Fleet) {
+        if (FleetWindow* const fleet = services().fleet()) {
+            fleet->openPutAside(shown[*dialog.chosen].file);
+        }
+    } else if (dialog.chosen) {
         m_open(shown[*dialog.chosen].file);
     } else if (isQuestion) {
         window().say("The designs stay put aside: see the menu Design");

@@ -85,7 +85,7 @@ void frmMain::Form_Unload(bool& cancel) {
             m_services.desktop.showMessage("Ship not saved, continue with exit?", "Ship not saved!",
                                            Buttons::YesNo, Icon::Information) == Answer::No;
     }
-    cancel = cancel || !recovery.giveUpDesign();
+    cancel = cancel || !fleet.end() || !recovery.giveUpDesign();
     if (cancel) {
         return;
     }
@@ -204,6 +204,7 @@ void frmMain::g_Ship_ShipLoaded() {
 
 void frmMain::g_Ship_ShipSaved() {
     findings.noteSaved();
+    fleet.noteSaved();
     RefreshScreen();
     sbStatus.setText("Saved...");
 }

@@ -7,6 +7,7 @@
 #include "FileCommands.h"
 #include "FindPanel.h"
 #include "FindingsPanel.h"
+#include "FleetPanel.h"
 #include "GuidePanel.h"
 #include "HistoryPanel.h"
 #include "HullPanel.h"
@@ -99,6 +100,7 @@ public:
     SharePanel share{m_context, mnuDesign,
                      [this](const std::string& code) { files.openFiles({code}); }};
     ComparePanel compare{m_context, mnuDesign};
+    FleetPanel fleet{m_context, mnuDesign};
     RecoveryPanel recovery{m_context, mnuDesign,
                            [this](const std::filesystem::path& file) { files.openPutAside(file); },
                            [this] { return history.steps(); },

@@ -64,6 +64,8 @@ std::span<const ControlTexts> allControlTexts() {
         ControlTexts{"frmExtras", "Extras Page", extrasPageTexts()},
         ControlTexts{"frmFindings", "Findings", findingsTexts()},
         ControlTexts{"frmCompare", "Compare", compareTexts()},
+        ControlTexts{"frmFleet", "Fleet", fleetTexts()},
+        ControlTexts{"frmFleet", "Menus of the fleet", fleetMenuTexts()},
         ControlTexts{"frmPutAside", "Designs Put Aside", putAsideTexts()},
         ControlTexts{"frmMapper", "Create SSD", mapperTexts()},
         ControlTexts{"frmSSDView", "View SSD", viewerTexts()},

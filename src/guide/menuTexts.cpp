@@ -115,6 +115,9 @@ ControlRows designMenuTexts() {
         ControlText{"mnuCompare", "Compare With...",
                     "Shows the design at hand beside another ship, and what differs: figures, "
                     "systems, and what the weapons cover."},
+        ControlText{"mnuFleet", "Fleet...",
+                    "Opens the window in which ships are put together to a fleet: with counts, own "
+                    "names, limits, and all their sheets in one print."},
         ControlText{"mnuPutAside", "Designs Put Aside...",
                     "Lists the designs that were never saved: after a crash, and whenever another "
                     "one took their place. Any of them can be opened."},

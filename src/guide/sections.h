@@ -27,6 +27,8 @@ ControlRows extrasPageTexts();
 ControlRows findingsTexts();
 ControlRows compareTexts();
 ControlRows putAsideTexts();
+ControlRows fleetTexts();
+ControlRows fleetMenuTexts();
 ControlRows mapperTexts();
 ControlRows viewerTexts();
 ControlRows mapCreatorTexts();

@@ -41,6 +41,7 @@ struct ControlDesign {
     bool isFlat = false;       ///< of a text box: on the colour of its window, as a label
     bool isLocked = false;     ///< of a text box: shows, but takes no typing
     bool isMultiline = false;  ///< of a text box: with as many lines as it holds
+    bool isUndoneByForm = false;  ///< of a text box: the keys that undo and redo are its form's
     bool isDefault = false;    ///< of a button: answers the Enter key
     bool isCancel = false;     ///< of a button or check box: answers the Escape key
     bool isVisible = true;

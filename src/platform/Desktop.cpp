@@ -5,6 +5,11 @@
 
 namespace fleetwright {
 
+std::vector<std::string> Desktop::chooseFilesToOpen(const FileDialog& dialog) {
+    const std::optional<std::string> file = chooseFileToOpen(dialog);
+    return file ? std::vector{*file} : std::vector<std::string>();
+}
+
 void showFileError(Desktop& desktop, const FileError& error) {
     desktop.showMessage(complaint(error), "", Buttons::Ok, Icon::Critical);
 }

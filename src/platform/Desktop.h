@@ -49,6 +49,8 @@ public:
                                Buttons buttons = Buttons::Ok, Icon icon = Icon::None) = 0;
     /// The file chosen, or nothing when the dialog was cancelled.
     virtual std::optional<std::string> chooseFileToOpen(const FileDialog& dialog) = 0;
+    /// Any number of files; none when the dialog was cancelled.
+    virtual std::vector<std::string> chooseFilesToOpen(const FileDialog& dialog);
     virtual std::optional<std::string> chooseFileToSave(const FileDialog& dialog) = 0;
     /// Shows a menu at the pointer and waits until an entry was chosen or none.
     virtual void popUp(MenuEntry& menu) = 0;

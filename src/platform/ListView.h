@@ -17,6 +17,7 @@ public:
         std::string subItem = {};                 ///< what stands in the second column
         std::vector<std::string> moreItems = {};  ///< and in those behind it
         bool isStrong = false;                    ///< in bold letters
+        bool isAlarming = false;                  ///< in the colour of what is wrong
 
         bool operator==(const Row&) const = default;
     };

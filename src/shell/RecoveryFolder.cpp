@@ -131,6 +131,12 @@ void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
     }
 }
 
+void RecoveryFolder::noteOpened(const fs::path& file) {
+    if (const std::optional<Design> design = RecoveryDesign::in(file)) {
+        m_opened.insert(design->recordName);
+    }
+}
+
 bool RecoveryFolder::moveToTrash(const Design& design) {
     // Another run may have taken the mark off it.
     return throwAway(isThere(design.file) ? design.file : fileOf(design.recordName));

@@ -52,6 +52,8 @@ public:
     /// `now` says the time as it is to stand in the name of a file.
     RecoveryFolder(std::filesystem::path folder, std::function<std::string()> now, Trash& trash);
 
+    const std::filesystem::path& folder() const { return m_folder; }
+
     /// All designs but those at work in some run: first those that a crash has left behind, then
     /// the newest first. Takes up what the kill of a save has left. Throws FileError as `list`
     /// does.
@@ -60,7 +62,7 @@ public:
     /// change the names of their files. Throws FileError.
     void noteSeen(std::vector<Design>& designs);
     /// The user opens this file. If it is a design put aside, this run takes it away no more.
-    void noteOpened(const std::filesystem::path& file) { m_opened.insert(file.stem().string()); }
+    void noteOpened(const std::filesystem::path& file);
     /// Moves a design into the trash because the user wants it; whether it is there.
     bool moveToTrash(const Design& design);
 

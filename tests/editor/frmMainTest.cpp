@@ -38,6 +38,7 @@ public:
         collect(m_window, m_controls);
         collect(m_window.findings.list, m_controls);
         collectCompare();
+        collect(m_test.fleet(), m_controls);
         for (const auto& [name, control] : m_controls) {
             m_focused.push_back(control->FocusWanted.connect(
                 [this, focused = name] { m_says += "to " + focused + "; "; }));
@@ -82,6 +83,7 @@ public:
                           (m_window.isVisible() ? "shown" : "hidden") +
                           (m_window.state() == WindowState::Minimized ? " minimized" : "");
         seen["frmCompare"] = m_window.compare.beside.isVisible() ? "shown" : "hidden";
+        seen["frmFleet"] = m_test.fleet().isVisible() ? m_test.fleet().caption() : "hidden";
         seen["frmFindings"] = m_window.findings.list.isVisible() ? "shown" : "hidden";
         if (const ShipClass* const ship = m_window.g_Ship.get()) {
             seen["ship"] =
@@ -100,7 +102,8 @@ public:
         for (const auto& file : fs::recursive_directory_iterator(m_test.folder().path())) {
             const std::string name =
                 file.path().lexically_relative(m_test.folder().path()).string();
-            if (name.find(".shp") != std::string::npos || name.starts_with("ssds/")) {
+            if (name.find(".shp") != std::string::npos || name.starts_with("ssds/") ||
+                name.find(".fleet") != std::string::npos) {
                 const std::string shown =  // without the number of its run
                     name.substr(0, name.find_first_of("0123456789", name.find('~')));
                 const std::string held = name.ends_with(".png") ? readShip(file.path()).text
@@ -138,6 +141,15 @@ public:
             m_test.file.reset();
         } else if (first == "drop") {
             m_window.dropFiles(paths(rest));
+        } else if (first == "frmFleet") {
+            const auto [act, files] = cut(rest);
+            if (act == "close") {
+                m_says += m_test.fleet().unload() ? "" : "stays; ";
+            } else if (act == "drop") {
+                m_test.fleet().dropFiles(paths(files));
+            } else {
+                m_test.fleet().activate();
+            }
         } else if (first == "start") {
             m_window.files.openAfterStart(paths(rest));
         } else if (first == "choose") {
@@ -275,6 +287,8 @@ private:
             timer->tick();
         } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
             raise(how == "left" ? tray->onLeftClick : tray->onRightClick);
+        } else if (auto* const box = dynamic_cast<ComboBox*>(&control)) {
+            box->type(how);
         } else if (auto* const slider = dynamic_cast<Slider*>(&control)) {
             slider->slide(std::stoi(how));
             m_says += "of " + std::to_string(slider->max()) + " by " +
@@ -319,7 +333,7 @@ private:
             m_says += tree.pressKey(how.substr(4)) ? "" : "not taken; ";
             m_says += (tree.selected() == nullptr ? "" : tree.selected()->key) + "; ";
         } else if (box != nullptr) {
-            box->type(how);
+            box->type(replaced(how, "\\n", "\r\n"));
         } else if (list != nullptr && how == "tip") {
             m_says += replaced(list->rowToolTip(list->rows()[0]), "\n", " | ") + "; ";
         } else if (list != nullptr) {
@@ -346,7 +360,7 @@ private:
 
 TEST(FrmMain, ShowsWhatIsDone) {
     for (const char* const file : {"design", "systems", "files", "acts", "sheets", "guide", "find",
-                                   "undo", "findings", "compare", "share"}) {
+                                   "undo", "findings", "compare", "share", "fleet"}) {
         expectCases(std::string("editor/golden/") + file + ".txt", [](const Case& each) {
             return Play(each["catalogue"], each["before"]).run(each["acts"]);
         });

@@ -3,6 +3,8 @@
 #include "Error.h"
 #include "PngChunks.h"
 #include "Trash.h"
+#include "fingerprint.h"
+#include "shipAtHand.h"
 
 #include <cmath>
 
@@ -233,6 +235,7 @@ TestWindow::TestWindow(std::string_view catalogue)
                            .putAside = [this]() -> frmPutAside& { return m_putAside; },
                            .sheets = [this] { return m_output.get(); },
                            .clipboard = &clipboard,
+                           .fleet = [this] { return m_fleet.get(); },
                            .isStartOver = [this] { return isStartOver; },
                            .clock = &clock});
     m_cached = std::make_unique<PictureCache>(*m_pictures);
@@ -248,6 +251,47 @@ TestWindow::TestWindow(std::string_view catalogue)
         .g_iLargestSSD = globals.g_iLargestSSD,
         .newShip = {},
         .say = [this](const std::string& text) { window().sbStatus.setText(text); }});
+    makeFleet();
+}
+
+void TestWindow::makeFleet() {
+    m_fleet = std::make_unique<frmFleet>(FleetServices{
+        .appFolder = m_folder.path(),
+        .desktop = *m_desk,
+        .clock = clock,
+        .confirmsExit = globals.g_bConfirmExit,
+        .recovery = &m_recovery,
+        .readShip = [this](const std::string& name) { return readShip(name); },
+        .catalogue = [this] { return "catalogue of " + std::to_string(m_folder.read("weaps.dat").size()); },
+        .shipAtHand = [this] { return shipAtHand(window()); },
+        .openShip = [this](const std::string& name) { window().files.openFiles({name}); },
+        .sheets = [this]() -> const SheetOutput& { return *m_output; },
+        .pages =
+            [](const Fleet& fleet, const std::filesystem::path&, const PageSize& paper) {
+                PageDocument pages;
+                pages.title = fleet.name;
+                pages.size = paper;
+                pages.pages.resize(fleet.ships.size());
+                return pages;
+            },
+        .playPage = [](const Fleet& fleet,
+                       const std::filesystem::path&) { return "To play: " + fleet.name; }});
+}
+
+FleetRow TestWindow::readShip(const std::string& name) const {
+    FleetRow row;
+    ShipClass ship({CatalogueFile(m_folder.path() / "weaps.dat"), globals.formula, {}});
+    if (!ship.loadShip(name)) {
+        row.faults.push_back(*ship.fileFault());
+        return row;
+    }
+    row.fingerprint = fingerprint(ship.shipFile());
+    ship.weapChange();
+    row.figures = shipFigures(ship);
+    for (const RefusedLine& line : ship.refusedLines()) {
+        row.faults.push_back(line.fault);
+    }
+    return row;
 }
 
 TestWindow::~TestWindow() = default;

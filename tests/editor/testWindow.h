@@ -11,6 +11,7 @@
 #include "StartUpProgress.h"
 #include "fakeServices.h"
 #include "frmExtras.h"
+#include "frmFleet.h"
 #include "frmMain.h"
 #include "frmPutAside.h"
 #include "testShip.h"
@@ -33,6 +34,7 @@ public:
     ~TestWindow();
 
     frmMain& window() { return *m_window; }
+    frmFleet& fleet() { return *m_fleet; }
     ShipClass& ship() { return *m_window->g_Ship; }
     Desktop& desktop();
     /// Everything shown on the desktop since the last call: "box: text; " and the like.
@@ -78,6 +80,8 @@ private:
 
     void takeTurn();
     void openOther(const std::string& name);
+    void makeFleet();
+    FleetRow readShip(const std::string& name) const;
 
     TemporaryFolder m_folder;
     std::string m_log;
@@ -96,6 +100,7 @@ private:
     std::unique_ptr<PictureCache> m_cached;
     SheetImages m_images;
     std::unique_ptr<SheetOutput> m_output;
+    std::unique_ptr<frmFleet> m_fleet;
 };
 
 }  // namespace fleetwright

@@ -294,9 +294,21 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && !m_isUpdating) {
-        m_form.setState(isMinimized()   ? WindowState::Minimized
-                        : isMaximized() ? WindowState::Maximized
-                                        : WindowState::Normal);
+        noteState(isMinimized()   ? WindowState::Minimized
+                  : isMaximized() ? WindowState::Maximized
+                                  : WindowState::Normal);
+    }
+}
+
+/// A form lays itself out in a maximized window, too, and then has the size again that it had.
+void FormWindow::noteState(WindowState state) {
+    const bool wasMaximized = m_form.state() == WindowState::Maximized;
+    if (state == WindowState::Maximized && !wasMaximized) {
+        m_usualSize = {m_form.width(), m_form.height()};
+    }
+    m_form.setState(state);
+    if (wasMaximized && state == WindowState::Normal && m_form.border() == Border::Sizable) {
+        m_form.resize(m_usualSize.width(), m_usualSize.height());
     }
 }
 
@@ -324,7 +336,7 @@ void FormWindow::notePlace() {
 void FormWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (m_form.border() != Border::Sizable || m_isUpdating ||
-        m_form.state() != WindowState::Normal) {
+        m_form.state() == WindowState::Minimized) {
         return;
     }
     const Place& form = m_form.place();

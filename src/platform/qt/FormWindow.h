@@ -15,6 +15,7 @@ class Container;
 class Control;
 class Form;
 class Timer;
+enum class WindowState;
 
 /// The window of a form: one piece of code for all of them. It makes a widget for each control,
 /// keeps both in step, and hands what the user does to the models. It knows no form by name.
@@ -54,6 +55,7 @@ private:
     void updatePlace();
     void notePlace();
     void updateState();
+    void noteState(WindowState state);
     void updateTopmost();
     void raiseAndActivate();
     void repaintNow();
@@ -67,6 +69,7 @@ private:
     std::vector<Connection> m_connections;
     /// Where the form was last known to be, in twips.
     QPoint m_formPlace;
+    QSize m_usualSize;  // of the form, in twips, while it is maximized
     bool m_isTopmost = false;
     // The size that the desktop has offered last.
     QSize m_offered;

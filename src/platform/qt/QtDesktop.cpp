@@ -67,6 +67,14 @@ void prepareDialog(QFileDialog& dialog, const FileDialog& wanted) {
     widenColumns(dialog);
 }
 
+/// The existing files that the user chooses in a dialog; none when that was cancelled.
+QStringList chosenFiles(const FileDialog& wanted, QFileDialog::FileMode mode) {
+    QFileDialog dialog(QApplication::activeWindow(), "Open");
+    prepareDialog(dialog, wanted);
+    dialog.setFileMode(mode);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
 /// What is added to a name that does not say which kind of file is meant.
 QString missingEnding(const QFileDialog& dialog, const FileDialog& wanted, const QString& chosen) {
     const auto says = [&chosen](const std::string& ending) {
@@ -181,13 +189,16 @@ Answer QtDesktop::showMessage(const std::string& text, const std::string& title,
 }
 
 std::optional<std::string> QtDesktop::chooseFileToOpen(const FileDialog& wanted) {
-    QFileDialog dialog(QApplication::activeWindow(), "Open");
-    prepareDialog(dialog, wanted);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    if (dialog.exec() != QDialog::Accepted) {
-        return std::nullopt;
+    const QStringList chosen = chosenFiles(wanted, QFileDialog::ExistingFile);
+    return chosen.isEmpty() ? std::nullopt : std::optional(chosen.front().toStdString());
+}
+
+std::vector<std::string> QtDesktop::chooseFilesToOpen(const FileDialog& wanted) {
+    std::vector<std::string> files;
+    for (const QString& file : chosenFiles(wanted, QFileDialog::ExistingFiles)) {
+        files.push_back(file.toStdString());
     }
-    return dialog.selectedFiles().value(0).toStdString();
+    return files;
 }
 
 std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted) {

@@ -40,6 +40,7 @@ public:
     Answer showMessage(const std::string& text, const std::string& title, Buttons buttons,
                        Icon icon) override;
     std::optional<std::string> chooseFileToOpen(const FileDialog& dialog) override;
+    std::vector<std::string> chooseFilesToOpen(const FileDialog& dialog) override;
     std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override;
     void popUp(MenuEntry& menu) override;
     void showModal(Form& form, Form& owner) override;

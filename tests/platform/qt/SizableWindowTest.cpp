@@ -64,8 +64,10 @@ TEST_F(SizableWindow, TheFormDecidesHowSmallItGets) {
     const QSize large = window.size();
     form.setCaption("Other");
     EXPECT_EQ(window.size(), large);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.place().width > 9000; })) << "it has the room";
     window.showNormal();
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() <= first.width() + 1; }));
+    EXPECT_NEAR(form.place().width, 6000, 15);
     // A desktop that insists on a size of its own is not asked for ever.
     form.refusals = 0;
     for (int i = 0; i < 100; ++i) {

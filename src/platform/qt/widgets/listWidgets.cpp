@@ -4,6 +4,7 @@
 #include "ItemWidget.h"
 #include "ListView.h"
 #include "Slider.h"
+#include "contrast.h"
 #include "controlWidgets.h"
 #include "widgetTools.h"
 
@@ -24,6 +25,8 @@ namespace fleetwright {
 
 namespace {
 
+constexpr int isAlarmingRole = Qt::UserRole;
+
 /// Rows that are as high as it takes to hit them without care, also with a finger.
 class EasyRows : public QStyledItemDelegate {
 public:
@@ -33,6 +36,14 @@ public:
         constexpr int easyToHit = 24;  // the least that WCAG asks for
         return QStyledItemDelegate::sizeHint(option, index)
             .expandedTo({0, m_scale.zoomed(easyToHit)});
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.data(isAlarmingRole).toBool()) {
+            option->palette.setColor(QPalette::Text, warningColour(option->palette));
+        }
     }
 
 private:
@@ -142,6 +153,9 @@ private:
             for (int each = 0; each < column; ++each) {
                 item->setFont(each, font);
             }
+        }
+        for (int each = 0; each < column; ++each) {
+            item->setData(each, isAlarmingRole, row.isAlarming);
         }
         return item;
     }

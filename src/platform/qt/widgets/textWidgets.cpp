@@ -94,9 +94,15 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
 
 namespace {
 
-/// Keys that edit a text are the menu's where there is nothing to edit.
-bool takesEditKeys(const QEvent& event, const TextBox& box) {
-    return event.type() == QEvent::ShortcutOverride && box.isLocked();
+/// Keys that edit a text are the menu's where there is nothing to edit, or where that knows more.
+bool takesEditKeys(QEvent& event, const TextBox& box) {
+    if (event.type() != QEvent::ShortcutOverride) {
+        return false;
+    }
+    const auto& key = static_cast<QKeyEvent&>(event);
+    return box.isLocked() ||
+           (box.design().isUndoneByForm &&
+            (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)));
 }
 
 /// The text of a box with many lines as models keep it. Its plain text would have blanks for

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "FleetPart.h"
+#include "TextBox.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace fleetwright {
+
+/// A box in which a part of the fleet is written. What is typed is of the fleet at once; all that
+/// is typed without a second's rest is one step.
+class FleetField {
+public:
+    struct Rules {
+        std::string name;                               ///< of the step, in words
+        std::function<std::string()> read;              ///< what the fleet holds
+        std::function<void(Fleet&, std::string)> write;  ///< of a text that is well
+        /// A text as the fleet would hold it, which is what `read` would return then; nothing for
+        /// one that it cannot hold.
+        std::function<std::optional<std::string>(const std::string&)> held;
+        std::function<std::string()> about = [] { return std::string(); };  ///< tells kinds apart
+    };
+
+    FleetField(const FleetContext& window, TextBox& box, Rules rules);
+
+    /// Copies the fleet to the box, unless what was typed there means the same.
+    void show();
+
+private:
+    void change();
+    void leave();
+
+    const FleetContext& m_window;
+    TextBox& m_box;
+    Rules m_rules;
+    bool m_isTyped = false;    ///< the box is being typed in
+    bool m_isShowing = false;  ///< it is being written
+};
+
+/// The whole number from `least` to `most` that a text is, without what else stands around it.
+std::optional<std::string> numberText(std::string_view text, std::int32_t least, std::int32_t most);
+
+/// The lines of a box with "\n" between them, without the empty ones at the end.
+std::string linesIn(const std::string& text);
+/// The same as a box holds it.
+std::string linesForBox(const std::string& text);
+
+}  // namespace fleetwright

@@ -1,0 +1,152 @@
+#include "FleetFilePanel.h"
+
+#include "Desktop.h"
+#include "Error.h"
+#include "FleetRecoveryPanel.h"
+#include "FleetWindow.h"
+#include "fleetFile.h"
+#include "paths.h"
+#include "text.h"
+
+#include <utility>
+#include <vector>
+
+namespace fleetwright {
+
+namespace {
+
+FileDialog fleetDialog(const std::filesystem::path& folder) {
+    return {.filter = "All Files (*.*)|*.*|Fleets (*.fleet)|*.fleet",
+            .filterIndex = 2,
+            .initialFolder = folder,
+            .extension = fleetExtension};
+}
+
+std::string faultsIn(const std::filesystem::path& file, const std::vector<Fault>& faults) {
+    return faults.empty()
+               ? std::string()
+               : complaint(pathText(file.filename()), faults.front()) +
+                     (faults.size() == 1 ? ""
+                                         : ", and " + std::to_string(faults.size() - 1) + " more");
+}
+
+}  // namespace
+
+FleetFilePanel::FleetFilePanel(const FleetContext& context, MenuEntry& mnuFleetFile,
+                               MenuEntry& mnuFleetEdit, FleetRecoveryPanel& recovery)
+    : FleetPart(context), m_file(mnuFleetFile), m_edit(mnuFleetEdit), m_recovery(recovery) {}
+
+void FleetFilePanel::show() {
+    const auto showStep = [](MenuEntry& entry, const std::string& what, const std::string& name) {
+        entry.setCaption(name.empty() ? what : what + ' ' + name);
+        entry.setEnabled(!name.empty());
+    };
+    showStep(mnuUndoFleet, "Undo", document().history().undoName());
+    showStep(mnuRedoFleet, "Redo", document().history().redoName());
+    const std::string name = fleet().name.empty() ? "New Fleet" : shownText(fleet().name);
+    form().setCaption((document().isSaved() ? "" : "*") + name + " - Fleet");
+}
+
+void FleetFilePanel::open(const std::filesystem::path& file) {
+    try {
+        readFleet(file);  // what is none leaves the one at hand without a question
+        if (m_recovery.giveUpFleet(true)) {
+            const std::vector<Fault> faults = document().open(file);
+            m_recovery.noteOpened(file);
+            window().restart();
+            window().say(faultsIn(file, faults));
+        }
+    } catch (const FileError& error) {
+        showFileError(services().desktop, error);
+    }
+}
+
+void FleetFilePanel::openPutAside(const std::filesystem::path& file) {
+    try {
+        ReadFleet read = readFleet(file);
+        if (m_recovery.giveUpFleet(true)) {
+            document().begin(std::move(read.fleet), file.parent_path());
+            m_recovery.noteOpened(file);
+            window().restart();
+            window().say("This fleet is not saved yet. Save As gives it a file.");
+        }
+    } catch (const FileError& error) {
+        showFileError(services().desktop, error);
+    }
+}
+
+void FleetFilePanel::mnuNewFleet_Click() {
+    if (m_recovery.giveUpFleet(true)) {
+        document().begin({}, services().appFolder / "ships");
+        window().restart();
+        window().say("");
+    }
+}
+
+void FleetFilePanel::mnuOpenFleet_Click() {
+    const auto file =
+        services().desktop.chooseFileToOpen(fleetDialog(services().appFolder / "ships"));
+    if (file) {
+        open(nativePath(*file));
+    }
+}
+
+void FleetFilePanel::mnuSaveFleet_Click() {
+    if (document().file().empty()) {
+        mnuSaveFleetAs_Click();
+        return;
+    }
+    const std::string name = shownText(pathText(document().file().filename()));
+    if (!document().isFileOther() ||
+        services().desktop.showMessage(name + " is not as this window has read or saved it: "
+                                              "somebody else has changed it.\nReplace it?",
+                                       "Changed on Disk", Buttons::YesNo,
+                                       Icon::Information) == Answer::Yes) {
+        save(document().file());
+    }
+}
+
+void FleetFilePanel::mnuSaveFleetAs_Click() {
+    const std::filesystem::path& file = document().file();
+    FileDialog dialog =
+        fleetDialog(file.empty() ? services().appFolder / "ships" : file.parent_path());
+    dialog.fileName = file.empty() ? fileNameOf(fleet().name.empty() ? "Fleet" : fleet().name) +
+                                         fleetExtension
+                                   : pathText(file.filename());
+    if (const auto chosen = services().desktop.chooseFileToSave(dialog)) {
+        const bool hasEnding = toSmallLetters(*chosen).ends_with(fleetExtension);
+        save(nativePath(hasEnding ? *chosen : *chosen + fleetExtension));
+    }
+}
+
+void FleetFilePanel::save(const std::filesystem::path& file) {
+    if (!maySave(services().desktop, file)) {
+        return;
+    }
+    try {
+        document().save(file, window().rows, services().catalogue());
+        m_recovery.noteSafe();
+        window().refresh();
+        window().say("Saved " + shownText(pathText(file)));
+    } catch (const FileError& error) {
+        showFileError(services().desktop, error);
+    }
+}
+
+void FleetFilePanel::mnuUndoFleet_Click() {
+    if (document().history().canUndo()) {
+        window().say("Undo: " + document().history().undoName());
+        document().undo();
+        window().refresh();
+    }
+}
+
+void FleetFilePanel::mnuRedoFleet_Click() {
+    if (document().history().canRedo()) {
+        window().say("Redo: " + document().history().redoName());
+        document().redo();
+        window().refresh();
+    }
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,82 @@
+#include "FleetOutputPanel.h"
+
+#include "Desktop.h"
+#include "Error.h"
+#include "SheetOutput.h"
+#include "paths.h"
+#include "saveFile.h"
+#include "text.h"
+
+#include <optional>
+#include <string>
+
+namespace fleetwright {
+
+namespace {
+
+std::string fleetName(const Fleet& fleet) {
+    return fleet.name.empty() ? "Fleet" : fleet.name;
+}
+
+/// A fleet as something to leave the program: one that does not change any more.
+OutgoingSheet outgoing(const FleetServices& services, const FleetDocument& document) {
+    return {.name = fleetName(document.fleet()),
+            .pages =
+                [pages = services.pages, fleet = document.fleet(),
+                 folder = document.folder()](const PageSize& paper) {
+                    return pages(fleet, folder, paper);
+                },
+            .bitmap = {},
+            .shipFile = {}};
+}
+
+}  // namespace
+
+void FleetOutputPanel::show() {
+    for (MenuEntry* const entry :
+         {&mnuPreviewFleet, &mnuPrintFleet, &mnuExportFleet, &mnuPlayFleet}) {
+        entry->setEnabled(!fleet().ships.empty());
+    }
+}
+
+void FleetOutputPanel::mnuPreviewFleet_Click() {
+    services().sheets().preview([this] { return outgoing(services(), document()); });
+}
+
+void FleetOutputPanel::mnuPrintFleet_Click() {
+    services().sheets().print([this] { return outgoing(services(), document()); });
+}
+
+void FleetOutputPanel::mnuExportFleet_Click() {
+    services().sheets().exportFile([this] { return outgoing(services(), document()); });
+}
+
+void FleetOutputPanel::mnuPlayFleet_Click() {
+    constexpr const char* ending = ".html";
+    const std::optional<std::string> chosen = services().desktop.chooseFileToSave(
+        {.filter = "All Files (*.*)|*.*|Pages for a Browser (*.html)|*.html",
+         .filterIndex = 2,
+         .initialFolder = services().appFolder / "ssds",
+         .fileName = fileNameOf(fleetName(fleet())) + ending,
+         .extension = ending});
+    if (!chosen) {
+        return;
+    }
+    const bool hasEnding = toSmallLetters(*chosen).ends_with(ending);
+    const std::filesystem::path file = nativePath(hasEnding ? *chosen : *chosen + ending);
+    try {
+        if (!maySave(services().desktop, file)) {
+            return;
+        }
+        saveFile(file, services().playPage(fleet(), document().folder()));
+        const bool isOpen = services().desktop.openDocument(file);
+        window().say("Saved " + shownText(pathText(file)) +
+                     (isOpen ? "" : ", which no browser could be found for"));
+    } catch (const FileError& error) {
+        showFileError(services().desktop, error);
+    } catch (const Error& error) {
+        services().desktop.showMessage(error.what(), "Fleet", Buttons::Ok, Icon::Critical);
+    }
+}
+
+}  // namespace fleetwright

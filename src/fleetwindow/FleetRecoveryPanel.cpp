@@ -1,0 +1,89 @@
+#include "FleetRecoveryPanel.h"
+
+#include "Desktop.h"
+#include "Error.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <utility>
+
+namespace fleetwright {
+
+void FleetRecoveryPanel::noteChange() {
+    if (services().recovery != nullptr && !tmrFleetRecovery.isEnabled()) {
+        tmrFleetRecovery.restart();
+    }
+}
+
+void FleetRecoveryPanel::noteSafe() {
+    m_aside.reset();
+    if (services().recovery != nullptr) {
+        services().recovery->forget(RecoveryKind::Fleet);
+    }
+}
+
+void FleetRecoveryPanel::noteOpened(const std::filesystem::path& file) {
+    if (services().recovery != nullptr) {
+        services().recovery->noteOpened(file);
+    }
+}
+
+bool FleetRecoveryPanel::giveUpFleet(bool asks) {
+    if (document().isSaved()) {
+        noteSafe();
+        return true;
+    }
+    if (asks && services().desktop.showMessage("Fleet not saved, delete?", "Fleet not saved!",
+                                               Buttons::YesNo, Icon::Information) == Answer::No) {
+        return false;
+    }
+    m_aside.reset();
+    if (services().recovery == nullptr) {
+        return true;
+    }
+    try {
+        services().recovery->keep(aside());
+        return true;
+    } catch (const FileError& error) {
+        return services().desktop.showMessage(
+                   std::string("The fleet is not saved and cannot be put aside: ") + error.what() +
+                       "\nLose it?",
+                   "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
+    }
+}
+
+void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
+    tmrFleetRecovery.setEnabled(false);
+    if (services().recovery == nullptr) {
+        return;
+    }
+    // What can be redone is in no file, but the fleet is.
+    if (document().isSaved()) {
+        noteSafe();
+        return;
+    }
+    RecoveryFolder::Aside now = aside();
+    if (now == m_aside) {
+        return;
+    }
+    try {
+        services().recovery->put(now);
+        m_aside = std::move(now);
+    } catch (const FileError& error) {
+        window().say(std::string("The fleet cannot be put aside: ") + error.what());
+    }
+}
+
+RecoveryFolder::Aside FleetRecoveryPanel::aside() const {
+    std::int64_t ships = 0;
+    for (const FleetShip& ship : fleet().ships) {
+        ships += ship.count;
+    }
+    return {.shipName = fleet().name.empty() ? "Fleet" : fleet().name,
+            .mass = static_cast<std::int32_t>(std::min<std::int64_t>(ships, INT32_MAX)),
+            .shipFile = document().textIn(services().recovery->folder()),
+            .kind = RecoveryKind::Fleet};
+}
+
+}  // namespace fleetwright

@@ -1,0 +1,80 @@
+#include "FleetSumPanel.h"
+
+#include "text.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace fleetwright {
+
+namespace {
+
+std::string counted(std::int64_t count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + ' ' + (count == 1 ? one : many);
+}
+
+}  // namespace
+
+void FleetSumPanel::show() {
+    lblSum.setCaption(totals());
+    const std::string warning = warnings();
+    lblWarning.setCaption(warning);
+    lblWarning.setToolTip(warning);
+}
+
+void FleetSumPanel::place(int left, int top, int width) {
+    lblSum.setPlace({left, top, width, 255});
+    lblWarning.setPlace({left, top + 285, width, 255});
+}
+
+std::string FleetSumPanel::totals() const {
+    const FleetSum& sum = window().sum;
+    std::string text = counted(sum.ships, "ship", "ships") + ", mass " + std::to_string(sum.mass) +
+                       ", damage points " + std::to_string(sum.damagePoints) + ", points " +
+                       std::to_string(sum.points);
+    if (sum.pointsLeft) {
+        text += " of " + std::to_string(*fleet().pointsLimit);
+        text += *sum.pointsLeft < 0 ? "" : ", " + std::to_string(*sum.pointsLeft) + " left";
+    }
+    const std::size_t unread = window().unread();
+    return unread == 0 ? text : text + "; " + std::to_string(unread) + " still to be read";
+}
+
+/// Each thing that is wrong, limits first.
+std::string FleetSumPanel::warnings() const {
+    const FleetSum& sum = window().sum;
+    std::vector<std::string> found;
+    if (sum.pointsLeft.value_or(0) < 0) {
+        found.push_back(std::to_string(-*sum.pointsLeft) + " points over the limit");
+    }
+    for (std::size_t i = 0; i < fleet().limits.size(); ++i) {
+        const FleetLimit& limit = fleet().limits[i];
+        if (sum.limitsLeft[i] < 0) {
+            const bool isPoints = limit.unit == FleetLimit::Unit::Points;
+            found.push_back(limit.kind + ": " + std::to_string(-sum.limitsLeft[i]) +
+                            (isPoints ? " points" : "") + " over the limit of " +
+                            std::to_string(limit.most));
+        }
+    }
+    if (sum.notLoaded > 0) {
+        found.push_back(counted(static_cast<std::int64_t>(sum.notLoaded), "design does not load",
+                                "designs do not load"));
+    }
+    if (sum.changed > 0) {
+        found.push_back(counted(static_cast<std::int64_t>(sum.changed), "design has changed",
+                                "designs have changed") +
+                        " since the fleet was saved");
+    }
+    if (!fleet().catalogue.empty() && fleet().catalogue != services().catalogue()) {
+        found.emplace_back("the catalogue has changed since the fleet was saved");
+    }
+    std::string text;
+    for (const std::string& each : found) {
+        text += (text.empty() ? "" : "; ") + each;
+    }
+    return asSentence(text);
+}
+
+}  // namespace fleetwright
