@@ -22,7 +22,7 @@ FleetRow FleetTools::readShip(const std::string& ship) {
         return fleetRow(*m_screen, ship);
     } catch (const Error& error) {
         FleetRow row;
-        row.faults.push_back(faultOf({}, error));
+        row.faults.push_back({0, faultOf({}, error)});
         return row;
     }
 }

@@ -12,8 +12,8 @@ namespace fleetwright {
 class CatalogueText;
 class ShipOnScreen;
 
-/// What the window of fleets learns of ships: from a main window that nobody sees, so that no figure
-/// can differ from the one on the screen.
+/// What the window of fleets learns of ships: from a main window that nobody sees, so that no
+/// figure can differ from the one on the screen.
 class FleetTools {
 public:
     FleetTools(std::filesystem::path appFolder, CatalogueFile catalogue);

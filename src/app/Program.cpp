@@ -4,6 +4,7 @@
 #include "ControlTexts.h"
 #include "DrawingPack.h"
 #include "Error.h"
+#include "FleetTools.h"
 #include "Globals.h"
 #include "PictureCache.h"
 #include "QtClipboard.h"
@@ -24,6 +25,7 @@
 #include "designCode.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
+#include "frmFleet.h"
 #include "frmMain.h"
 #include "frmMapper.h"
 #include "frmPutAside.h"
@@ -35,6 +37,7 @@
 #include "programIcon.h"
 #include "saveFile.h"
 #include "sheetShip.h"
+#include "shipAtHand.h"
 #include "svgFile.h"
 #include "windowApplication.h"
 
@@ -152,6 +155,7 @@ public:
                   .putAside = [this]() -> frmPutAside& { return m_putAside; },
                   .sheets = [this] { return &m_sheets; },
                   .clipboard = &m_clipboard,
+                  .fleet = [this] { return &m_fleet; },
                   .isStartOver = [this] { return !m_splash.isLoaded() && m_main.isVisible(); },
                   .clock = &m_clock}),
           m_extras({.desktop = desktop,
@@ -214,10 +218,30 @@ public:
           m_viewer({.appFolder = m_appFolder,
                     .desktop = desktop,
                     .pictures = m_pictures,
-                    .actsFor = [this](const std::filesystem::path& file, const Raster& picture) {
-                        return m_sheets.acts(
-                            [this, file, picture] { return m_sheets.ofPicture(file, picture); });
-                    }}) {
+                    .actsFor =
+                        [this](const std::filesystem::path& file, const Raster& picture) {
+                            return m_sheets.acts([this, file, picture] {
+                                return m_sheets.ofPicture(file, picture);
+                            });
+                        }}),
+          m_fleetTools(m_appFolder, m_catalogueFile),
+          m_fleet(
+              {.appFolder = m_appFolder,
+               .desktop = desktop,
+               .clock = m_clock,
+               .confirmsExit = m_globals.g_bConfirmExit,
+               .recovery = &m_recovery,
+               .readShip = [this](const std::string& ship) { return m_fleetTools.readShip(ship); },
+               .catalogue = [this] { return m_fleetTools.catalogue(); },
+               .shipAtHand = [this] { return shipAtHand(m_main); },
+               .openShip =
+                   [this](const std::string& ship) {
+                       bringUp(m_main);
+                       m_main.files.openFiles({ship});
+                   },
+               .sheets = [this]() -> const SheetOutput& { return m_sheets; },
+               .pages = {},
+               .playPage = {}}) {
         desktop.equip(m_settings, m_drawings);
         takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {
@@ -252,9 +276,16 @@ public:
 private:
     /// The forms with windows of their own. The page of settings and the list of
     /// designs put aside are dialogs of the main window.
-    std::array<Form*, 8> windows() {
-        return {&m_splash, &m_main,  &m_main.findings.list, &m_main.compare.beside,
-                &m_mapper, &m_about, &m_mapCreator,         &m_viewer};
+    std::array<Form*, 9> windows() {
+        return {&m_splash,
+                &m_main,
+                &m_main.findings.list,
+                &m_main.compare.beside,
+                &m_mapper,
+                &m_about,
+                &m_mapCreator,
+                &m_viewer,
+                &m_fleet};
     }
 
     /// Opens a window or, if it is open, brings it to the front.
@@ -298,6 +329,8 @@ private:
     frmAbout m_about;
     frmSSDMapCreator m_mapCreator;
     frmSSDView m_viewer;
+    FleetTools m_fleetTools;
+    frmFleet m_fleet;
 };
 
 }  // namespace

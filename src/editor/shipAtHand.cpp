@@ -13,10 +13,7 @@ ShipAtHand shipAtHand(const frmMain& window) {
     if (ship.origin.empty()) {
         throw Error("The ship at hand is in no file yet: save it first, in the main window");
     }
-    return {.name = ship.g_sShipName,
-            .file = ship.origin,
-            .code = {},
-            .isChanged = !ship.g_bSaved};
+    return {.name = ship.g_sShipName, .file = ship.origin, .code = {}, .isChanged = !ship.g_bSaved};
 }
 
 }  // namespace fleetwright

@@ -14,8 +14,8 @@ namespace fleetwright {
 class FleetField {
 public:
     struct Rules {
-        std::string name;                               ///< of the step, in words
-        std::function<std::string()> read;              ///< what the fleet holds
+        std::string name;                                ///< of the step, in words
+        std::function<std::string()> read;               ///< what the fleet holds
         std::function<void(Fleet&, std::string)> write;  ///< of a text that is well
         /// A text as the fleet would hold it, which is what `read` would return then; nothing for
         /// one that it cannot hold.

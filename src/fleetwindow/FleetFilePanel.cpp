@@ -110,9 +110,9 @@ void FleetFilePanel::mnuSaveFleetAs_Click() {
     const std::filesystem::path& file = document().file();
     FileDialog dialog =
         fleetDialog(file.empty() ? services().appFolder / "ships" : file.parent_path());
-    dialog.fileName = file.empty() ? fileNameOf(fleet().name.empty() ? "Fleet" : fleet().name) +
-                                         fleetExtension
-                                   : pathText(file.filename());
+    dialog.fileName =
+        file.empty() ? fileNameOf(fleet().name.empty() ? "Fleet" : fleet().name) + fleetExtension
+                     : pathText(file.filename());
     if (const auto chosen = services().desktop.chooseFileToSave(dialog)) {
         const bool hasEnding = toSmallLetters(*chosen).ends_with(fleetExtension);
         save(nativePath(hasEnding ? *chosen : *chosen + fleetExtension));

@@ -28,10 +28,12 @@ private:
     FleetRecoveryPanel& m_recovery;
 
 public:
-    MenuEntry mnuNewFleet{
-        m_file,
-        {.name = "mnuNewFleet", .caption = "New", .toolTip = "Begins a fleet", .shortcut = "Ctrl+N"},
-        [this] { mnuNewFleet_Click(); }};
+    MenuEntry mnuNewFleet{m_file,
+                          {.name = "mnuNewFleet",
+                           .caption = "New",
+                           .toolTip = "Begins a fleet",
+                           .shortcut = "Ctrl+N"},
+                          [this] { mnuNewFleet_Click(); }};
     MenuEntry mnuOpenFleet{m_file,
                            {.name = "mnuOpenFleet",
                             .caption = "Open...",

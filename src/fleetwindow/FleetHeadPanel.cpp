@@ -12,8 +12,7 @@ FleetField::Rules textRules(const std::string& name, const FleetDocument& docume
                             std::string Fleet::*text, bool isMultiline = false) {
     return {.name = name,
             .read = [&document, text] { return document.fleet().*text; },
-            .write =
-                [text](Fleet& fleet, std::string typed) { fleet.*text = std::move(typed); },
+            .write = [text](Fleet& fleet, std::string typed) { fleet.*text = std::move(typed); },
             .held = [isMultiline](const std::string& typed) -> std::optional<std::string> {
                 return isMultiline ? linesIn(typed) : typed;
             }};

@@ -59,9 +59,9 @@ void FleetLimitsPanel::set() {
                           : "Say how many there may be at most");
         return;
     }
-    const FleetLimit limit = {
-        cboKind.text(), std::stoi(*most),
-        optPoints.isOn() ? FleetLimit::Unit::Points : FleetLimit::Unit::Ships};
+    const FleetLimit limit = {cboKind.text(), std::stoi(*most),
+                              optPoints.isOn() ? FleetLimit::Unit::Points
+                                               : FleetLimit::Unit::Ships};
     window().act({"Limit"}, [&](Fleet& fleet) {
         const auto same = std::ranges::find_if(fleet.limits, [&](const FleetLimit& each) {
             return each.kind == limit.kind && each.unit == limit.unit;

@@ -30,12 +30,10 @@ public:
                       .place = {},
                       .toolTip = "The class, the hull or the size that the limit is about",
                       .accessibleName = "Kind of ship"}};
-    OptionButton optShips{fraLimits,
-                          {.name = "optShips",
-                           .place = {120, 690, 780, 300},
-                           .caption = "Ships",
-                           .isOn = true},
-                          {}};
+    OptionButton optShips{
+        fraLimits,
+        {.name = "optShips", .place = {120, 690, 780, 300}, .caption = "Ships", .isOn = true},
+        {}};
     OptionButton optPoints{
         fraLimits, {.name = "optPoints", .place = {930, 690, 840, 300}, .caption = "Points"}, {}};
     Button cmdSetLimit{fraLimits,

@@ -21,11 +21,8 @@ std::string fleetName(const Fleet& fleet) {
 /// A fleet as something to leave the program: one that does not change any more.
 OutgoingSheet outgoing(const FleetServices& services, const FleetDocument& document) {
     return {.name = fleetName(document.fleet()),
-            .pages =
-                [pages = services.pages, fleet = document.fleet(),
-                 folder = document.folder()](const PageSize& paper) {
-                    return pages(fleet, folder, paper);
-                },
+            .pages = [pages = services.pages, fleet = document.fleet(), folder = document.folder()](
+                         const PageSize& paper) { return pages(fleet, folder, paper); },
             .bitmap = {},
             .shipFile = {}};
 }
@@ -39,16 +36,9 @@ void FleetOutputPanel::show() {
     }
 }
 
-void FleetOutputPanel::mnuPreviewFleet_Click() {
-    services().sheets().preview([this] { return outgoing(services(), document()); });
-}
-
-void FleetOutputPanel::mnuPrintFleet_Click() {
-    services().sheets().print([this] { return outgoing(services(), document()); });
-}
-
-void FleetOutputPanel::mnuExportFleet_Click() {
-    services().sheets().exportFile([this] { return outgoing(services(), document()); });
+void FleetOutputPanel::send(void (SheetOutput::*way)(const SheetOutput::Source&) const) {
+    const SheetOutput sheets = services().sheets().saying(window().say);
+    (sheets.*way)([this] { return outgoing(services(), document()); });
 }
 
 void FleetOutputPanel::mnuPlayFleet_Click() {

@@ -2,11 +2,12 @@
 
 #include "FleetPart.h"
 #include "Menu.h"
+#include "SheetOutput.h"
 
 namespace fleetwright {
 
-/// The whole fleet as pages, its roster and its sheets: on the screen, on paper, in a file; and as a
-/// page to play from.
+/// The whole fleet as pages, its roster and its sheets: on the screen, on paper, in a file; and as
+/// a page to play from.
 class FleetOutputPanel : public FleetPart {
 public:
     FleetOutputPanel(const FleetContext& context, MenuEntry& mnuFleetFile)
@@ -23,19 +24,19 @@ public:
                                .caption = "Preview...",
                                .toolTip = "Shows the roster and all sheets as they will be "
                                           "printed"},
-                              [this] { mnuPreviewFleet_Click(); }};
+                              [this] { send(&SheetOutput::preview); }};
     MenuEntry mnuPrintFleet{m_file,
                             {.name = "mnuPrintFleet",
                              .caption = "Print All...",
                              .toolTip = "Prints the roster and all sheets",
                              .shortcut = "Ctrl+P"},
-                            [this] { mnuPrintFleet_Click(); }};
+                            [this] { send(&SheetOutput::print); }};
     MenuEntry mnuExportFleet{m_file,
                              {.name = "mnuExportFleet",
                               .caption = "Export PDF...",
                               .toolTip = "Saves the roster and all sheets as PDF or SVG",
                               .shortcut = "Ctrl+E"},
-                             [this] { mnuExportFleet_Click(); }};
+                             [this] { send(&SheetOutput::exportFile); }};
     MenuEntry mnuPlayFleet{m_file,
                            {.name = "mnuPlayFleet",
                             .caption = "Play in Browser...",
@@ -51,9 +52,7 @@ public:
                             [this] { form().unload(); }};
 
 private:
-    void mnuPreviewFleet_Click();
-    void mnuPrintFleet_Click();
-    void mnuExportFleet_Click();
+    void send(void (SheetOutput::*way)(const SheetOutput::Source&) const);
     void mnuPlayFleet_Click();
 };
 

@@ -26,8 +26,8 @@ public:
     bool giveUpFleet(bool asks);
 
     /// Two seconds after a change it puts the fleet aside.
-    Timer tmrFleetRecovery{
-        form(), "tmrFleetRecovery", 2000, false, [this] { tmrFleetRecovery_Timer(); }};
+    Timer tmrFleetRecovery{form(), "tmrFleetRecovery", 2000, false,
+                           [this] { tmrFleetRecovery_Timer(); }};
 
 private:
     void tmrFleetRecovery_Timer();

@@ -60,8 +60,9 @@ FleetShipPanel::FleetShipPanel(const FleetContext& context,
                                                 static_cast<std::int32_t>(ship.names.size())));
                     })),
       m_notes(context, txtShipNotes,
-              rules("Notes", [](const FleetShip& ship) { return ship.notes; },
-                    [](FleetShip& ship, const std::string& typed) { ship.notes = typed; })) {}
+              rules(
+                  "Notes", [](const FleetShip& ship) { return ship.notes; },
+                  [](FleetShip& ship, const std::string& typed) { ship.notes = typed; })) {}
 
 const FleetShip* FleetShipPanel::ship() const {
     const auto place = m_selected();

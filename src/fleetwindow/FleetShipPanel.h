@@ -12,7 +12,8 @@
 
 namespace fleetwright {
 
-/// The ship that is selected in the list: how many there are of it, what they are called, and notes.
+/// The ship that is selected in the list: how many there are of it, what they are called, and
+/// notes.
 class FleetShipPanel : public FleetPart {
 public:
     FleetShipPanel(const FleetContext& context,
@@ -22,20 +23,21 @@ public:
     void place(const Place& frame);
 
     Frame fraShip{form(), {.name = "fraShip", .place = {}, .caption = "Selected ship"}};
-    Label lblCount{fraShip, {.name = "lblCount", .place = {120, 345, 570, 255}, .caption = "Count"}};
+    Label lblCount{fraShip,
+                   {.name = "lblCount", .place = {120, 345, 570, 255}, .caption = "Count"}};
     TextBox txtCount{fraShip,
                      {.name = "txtCount",
                       .place = {720, 300, 750, 330},
                       .toolTip = "How many ships of this design the fleet has",
                       .accessibleName = "Count",
                       .isUndoneByForm = true}};
-    UpDown updwnCount{fraShip,
-                      {.name = "updwnCount",
-                       .place = {1485, 270, 240, 390},
-                       .toolTip = "One ship more or less",
-                       .accessibleName = "Count"},
-                      {.upClick = [this] { step(+1); }, .downClick = [this] { step(-1); },
-                       .change = {}}};
+    UpDown updwnCount{
+        fraShip,
+        {.name = "updwnCount",
+         .place = {1485, 270, 240, 390},
+         .toolTip = "One ship more or less",
+         .accessibleName = "Count"},
+        {.upClick = [this] { step(+1); }, .downClick = [this] { step(-1); }, .change = {}}};
     Label lblNames{
         fraShip,
         {.name = "lblNames", .place = {120, 720, 1800, 255}, .caption = "Own names, one a line"}};
@@ -46,8 +48,8 @@ public:
                       .accessibleName = "Own names",
                       .isMultiline = true,
                       .isUndoneByForm = true}};
-    Label lblShipNotes{
-        fraShip, {.name = "lblShipNotes", .place = {0, 720, 1200, 255}, .caption = "Notes"}};
+    Label lblShipNotes{fraShip,
+                       {.name = "lblShipNotes", .place = {0, 720, 1200, 255}, .caption = "Notes"}};
     TextBox txtShipNotes{fraShip,
                          {.name = "txtShipNotes",
                           .place = {},

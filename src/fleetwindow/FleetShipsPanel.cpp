@@ -94,8 +94,7 @@ ListView::Row FleetShipsPanel::rowOf(std::size_t place) const {
     const FleetRow& known = *window().rows[place];
     if (known.figures) {
         row.text = shownText(known.figures->name);
-        row.moreItems = {std::string(known.figures->shipClass),
-                         std::to_string(known.figures->mass),
+        row.moreItems = {std::string(known.figures->shipClass), std::to_string(known.figures->mass),
                          std::to_string(known.figures->points),
                          std::to_string(std::int64_t{ship.count} * known.figures->points), ""};
     }
@@ -150,8 +149,7 @@ void FleetShipsPanel::addShipAtHand() {
     try {
         const ShipAtHand ship = services().shipAtHand();
         const std::string file =
-            ship.file.empty() ? ship.code
-                              : fileInFleet(document().folder(), nativePath(ship.file));
+            ship.file.empty() ? ship.code : fileInFleet(document().folder(), nativePath(ship.file));
         window().act({"Add " + shownText(ship.name)},
                      [&](Fleet& fleet) { m_wanted = addShip(fleet, file); });
         window().say(

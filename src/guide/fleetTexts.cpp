@@ -36,9 +36,10 @@ ControlRows fleetTexts() {
         ControlText{"lblSum", "Totals",
                     "All ships together: how many, their mass, damage points and points, and what "
                     "is left of the points limit."},
-        ControlText{"lblWarning", "Warnings",
-                    "What is wrong with the fleet: limits that it breaks, designs that do not load, "
-                    "and what has changed since the fleet was saved, designs or the catalogue."},
+        ControlText{
+            "lblWarning", "Warnings",
+            "What is wrong with the fleet: limits that it breaks, designs that do not load, "
+            "and what has changed since the fleet was saved, designs or the catalogue."},
         ControlText{"fraShip", "Selected ship",
                     "How many there are of the ship that is selected in the list, what they are "
                     "called, and notes on them."},
@@ -48,8 +49,9 @@ ControlRows fleetTexts() {
                     "What the ships of this design are called, one name a line. A ship without one "
                     "has the name of the design. With more names than ships, there are as many "
                     "ships as names."},
-        ControlText{"lblShipNotes txtShipNotes", "Notes on the selected ship",
-                    "What there is to say about the ships of this design. It stands on the roster."},
+        ControlText{
+            "lblShipNotes txtShipNotes", "Notes on the selected ship",
+            "What there is to say about the ships of this design. It stands on the roster."},
         ControlText{"fraLimits lvLimits", "Limits by class",
                     "How many ships or points of one kind the fleet may have at most, and what is "
                     "left of that. Delete takes a limit away."},
@@ -84,8 +86,7 @@ ControlRows fleetMenuTexts() {
         ControlText{"mnuPrintFleet", "Print All...",
                     "Prints the roster of the fleet and the sheets of all its ships, small ones "
                     "together on a page."},
-        ControlText{"mnuExportFleet", "Export PDF...",
-                    "Saves the same pages as a file."},
+        ControlText{"mnuExportFleet", "Export PDF...", "Saves the same pages as a file."},
         ControlText{"mnuPlayFleet", "Play in Browser...",
                     "Saves the fleet as one page that opens in any browser, also on a tablet and "
                     "without a network, to cross off damage at the table; and opens it."},
@@ -96,8 +97,7 @@ ControlRows fleetMenuTexts() {
         ControlText{"mnuRedoFleet", "Redo", "Does again what was taken back."},
         ControlText{"mnuShips", "Ships", "What adds ships, takes them away and orders them."},
         ControlText{"mnuAddShipAtHand", "Add Ship at Hand", "Adds the ship in the main window."},
-        ControlText{"mnuAddFiles", "Add Files...",
-                    "Adds ship files, or sheets that carry a ship."},
+        ControlText{"mnuAddFiles", "Add Files...", "Adds ship files, or sheets that carry a ship."},
         ControlText{"mnuOpenShip", "Open Ship", "Opens the selected ship in the main window."},
         ControlText{"mnuMoveUp", "Move Up", "Moves the selected ship up in the list."},
         ControlText{"mnuMoveDown", "Move Down", "Moves the selected ship down in the list."},

@@ -113,6 +113,12 @@ void SheetOutput::attempt(const std::function<void()>& task) const {
     m_services.desktop.showMessage(fault, "Sheet", Buttons::Ok, Icon::Critical);
 }
 
+SheetOutput SheetOutput::saying(std::function<void(const std::string&)> say) const {
+    Services services = m_services;
+    services.say = std::move(say);
+    return SheetOutput(std::move(services));
+}
+
 void SheetOutput::preview(const Source& source) const {
     attempt([&] {
         const OutgoingSheet sheet = source();

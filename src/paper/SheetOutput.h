@@ -51,6 +51,9 @@ public:
 
     explicit SheetOutput(Services services) : m_services(std::move(services)) {}
 
+    /// The same for a window that says itself what was done.
+    SheetOutput saying(std::function<void(const std::string&)> say) const;
+
     void preview(const Source& sheet) const;
     void print(const Source& sheet) const;
     /// Lets the user choose a file, whose ending says the format.

@@ -34,16 +34,16 @@ struct ControlDesign {
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
     std::string accessibleDescription = {};  ///< where the caption is a value: what is told by it
     bool isOn = false;                       ///< of an option button or check box
-    bool isGraphical = false;  ///< of an option button or check box: a button that stays down
-    bool isFramed = false;     ///< of a label or picture box: with a border
-    bool isHeading = false;    ///< of a label: in large letters
-    bool isAlarming = false;   ///< of a label: in the colour of what is wrong
-    bool isFlat = false;       ///< of a text box: on the colour of its window, as a label
-    bool isLocked = false;     ///< of a text box: shows, but takes no typing
-    bool isMultiline = false;  ///< of a text box: with as many lines as it holds
+    bool isGraphical = false;     ///< of an option button or check box: a button that stays down
+    bool isFramed = false;        ///< of a label or picture box: with a border
+    bool isHeading = false;       ///< of a label: in large letters
+    bool isAlarming = false;      ///< of a label: in the colour of what is wrong
+    bool isFlat = false;          ///< of a text box: on the colour of its window, as a label
+    bool isLocked = false;        ///< of a text box: shows, but takes no typing
+    bool isMultiline = false;     ///< of a text box: with as many lines as it holds
     bool isUndoneByForm = false;  ///< of a text box: the keys that undo and redo are its form's
-    bool isDefault = false;    ///< of a button: answers the Enter key
-    bool isCancel = false;     ///< of a button or check box: answers the Escape key
+    bool isDefault = false;       ///< of a button: answers the Enter key
+    bool isCancel = false;        ///< of a button or check box: answers the Escape key
     bool isVisible = true;
     bool isEnabled = true;
 };

@@ -262,7 +262,8 @@ void TestWindow::makeFleet() {
         .confirmsExit = globals.g_bConfirmExit,
         .recovery = &m_recovery,
         .readShip = [this](const std::string& name) { return readShip(name); },
-        .catalogue = [this] { return "catalogue of " + std::to_string(m_folder.read("weaps.dat").size()); },
+        .catalogue =
+            [this] { return "catalogue of " + std::to_string(m_folder.read("weaps.dat").size()); },
         .shipAtHand = [this] { return shipAtHand(window()); },
         .openShip = [this](const std::string& name) { window().files.openFiles({name}); },
         .sheets = [this]() -> const SheetOutput& { return *m_output; },

@@ -40,8 +40,7 @@ inline std::string stateOf(const Control& control) {
             for (const std::string& item : shown.moreItems) {
                 text += item.empty() ? "" : ' ' + item;
             }
-            text += std::string(shown.isAlarming ? "!" : "") +
-                    (list->selected() == row ? "*" : "");
+            text += std::string(shown.isAlarming ? "!" : "") + (list->selected() == row ? "*" : "");
         }
     } else if (const auto* const tree = dynamic_cast<const TreeView*>(&control)) {
         for (const TreeView::Node& node : tree->nodes()) {

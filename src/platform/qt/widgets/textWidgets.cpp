@@ -100,9 +100,8 @@ bool takesEditKeys(QEvent& event, const TextBox& box) {
         return false;
     }
     const auto& key = static_cast<QKeyEvent&>(event);
-    return box.isLocked() ||
-           (box.design().isUndoneByForm &&
-            (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)));
+    return box.isLocked() || (box.design().isUndoneByForm &&
+                              (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)));
 }
 
 /// The text of a box with many lines as models keep it. Its plain text would have blanks for
