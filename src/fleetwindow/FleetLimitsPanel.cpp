@@ -17,6 +17,7 @@ FleetLimitsPanel::FleetLimitsPanel(const FleetContext& context) : FleetPart(cont
     }
     lvLimits.addColumn("Limit", 2100);
     lvLimits.addColumn("Left", 1200);
+    lvLimits.rowToolTip = [](const ListView::Row& row) { return row.text + '\n' + row.subItem; };
     lvLimits.onDelete = [this] { remove(); };
     lvLimits.onClick = [this] { takeSelected(); };
 }

@@ -45,7 +45,7 @@ public:
     Button cmdRemoveLimit{fraLimits,
                           {.name = "cmdRemoveLimit",
                            .place = {0, 660, 960, 345},
-                           .caption = "Dr&op",
+                           .caption = "Dro&p",
                            .toolTip = "Takes the selected limit away (Delete in the list)"},
                           [this] { remove(); }};
     ListView lvLimits{fraLimits,

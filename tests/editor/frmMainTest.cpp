@@ -333,7 +333,7 @@ private:
             m_says += tree.pressKey(how.substr(4)) ? "" : "not taken; ";
             m_says += (tree.selected() == nullptr ? "" : tree.selected()->key) + "; ";
         } else if (box != nullptr) {
-            box->type(replaced(how, "\\n", "\r\n"));
+            box->type(replaced(how, "\\n", "\n"));
         } else if (list != nullptr && how == "tip") {
             m_says += replaced(list->rowToolTip(list->rows()[0]), "\n", " | ") + "; ";
         } else if (list != nullptr) {

@@ -30,7 +30,7 @@ void forEachWindow(const Task& task) {
     frmAbout about({.desktop = actor.test.desktop(), .programs = programs, .registry = registry});
     frmAmountSlider amount;
     std::vector<Form*> forms = actor.windows();
-    forms.insert(forms.end(), {&about, &amount, &actor.test.fleet()});
+    forms.insert(forms.end(), {&about, &amount});
     actor.test.inDialog = [&](Form& form) {
         task(form);
         form.unload();

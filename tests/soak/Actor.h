@@ -49,7 +49,7 @@ public:
     /// Those that stand beside each other, the main window first.
     std::vector<Form*> windows() {
         return {&main,     &main.findings.list, &main.compare.beside,
-                &m_mapper, &m_mapCreator,       &m_viewer};
+                &m_mapper, &m_mapCreator,       &m_viewer, &test.fleet()};
     }
 
     // For the acts.
