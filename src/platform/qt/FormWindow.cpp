@@ -59,7 +59,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis,
     }
     const QSize size = fitting(m_inside->size());
     if (form.border() == Border::Sizable) {
-        resize(size);
+        resize(size + menuSize());
     } else {
         // A fixed border: the window is as large as its inside.
         centralWidget()->setFixedSize(size);
@@ -164,8 +164,7 @@ void FormWindow::update() {
 QSize FormWindow::fitting(const QSize& inside) const {
     constexpr QSize usualFrame(10, 40);  // until the desktop has given the window one
     const QSize frame = (frameGeometry().size() - geometry().size()).expandedTo(usualFrame);
-    const QSize menus(0, menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height());
-    const QSize room = screen()->availableSize() - frame - menus;
+    const QSize room = screen()->availableSize() - frame - menuSize();
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     QSize view = inside;
     if (inside.height() > room.height()) {
@@ -175,6 +174,11 @@ QSize FormWindow::fitting(const QSize& inside) const {
         view.rheight() += scrollBar;
     }
     return view.boundedTo(room);
+}
+
+/// How high the menus above the view are.
+QSize FormWindow::menuSize() const {
+    return {0, menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height()};
 }
 
 QSize FormWindow::formSize() const {
@@ -199,7 +203,7 @@ void FormWindow::updateSize() {
         return;
     }
     if (m_form.border() == Border::Sizable) {
-        resize(view);
+        resize(view + menuSize());
     } else {
         centralWidget()->setFixedSize(view);
         layout()->activate();

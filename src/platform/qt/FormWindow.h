@@ -48,6 +48,7 @@ private:
     void followZoom();
     void keepOnScreen();
     QSize fitting(const QSize& inside) const;
+    QSize menuSize() const;
     QSize formSize() const;
     const Scale& placeScale() const;
     void resizeInside();

@@ -1,5 +1,6 @@
 #include "Form.h"
 #include "FormWindow.h"
+#include "Menu.h"
 #include "PictureBox.h"
 #include "TrayIcon.h"
 
@@ -127,6 +128,16 @@ TEST_F(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
     const int bottom = window.findChild<QWidget*>("sheet")->geometry().bottom() + 1;
     EXPECT_GT(bottom, window.screen()->availableSize().height());
     EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(), bottom);
+}
+
+TEST(SizableWindowWithMenus, HasRoomForItsFormBelowThem) {
+    Form form({.name = "frmMenus", .width = 6000, .height = 3000, .border = Border::Sizable});
+    MenuEntry menu(form, {.name = "menu", .caption = "Menu"});
+    const FormWindow window(form);
+    form.show();
+    QApplication::processEvents();
+    const auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
+    EXPECT_EQ(view->viewport()->size(), view->widget()->size());
 }
 
 TEST(OwnedWindow, StandsWhereItsOwnerPutsIt) {
