@@ -1,25 +1,32 @@
 #include "FleetTools.h"
 
 #include "Error.h"
+#include "Globals.h"
 #include "ShipOnScreen.h"
+#include "drawnSheet.h"
 #include "fingerprint.h"
 #include "fleetRows.h"
+#include "fleetSheets.h"
+#include "playFleet.h"
 
 #include <utility>
 
 namespace fleetwright {
 
-FleetTools::FleetTools(std::filesystem::path appFolder, CatalogueFile catalogue)
-    : m_appFolder(std::move(appFolder)), m_catalogue(std::move(catalogue)) {}
+FleetTools::FleetTools(Services services) : m_services(std::move(services)) {}
 
 FleetTools::~FleetTools() = default;
 
+ShipOnScreen& FleetTools::screen() {
+    if (!m_screen) {
+        m_screen = std::make_unique<ShipOnScreen>(m_services.appFolder, m_services.catalogue);
+    }
+    return *m_screen;
+}
+
 FleetRow FleetTools::readShip(const std::string& ship) {
     try {
-        if (!m_screen) {
-            m_screen = std::make_unique<ShipOnScreen>(m_appFolder, m_catalogue);
-        }
-        return fleetRow(*m_screen, ship);
+        return fleetRow(screen(), ship);
     } catch (const Error& error) {
         FleetRow row;
         row.faults.push_back({0, faultOf({}, error)});
@@ -29,7 +36,7 @@ FleetRow FleetTools::readShip(const std::string& ship) {
 
 std::string FleetTools::catalogue() {
     try {
-        std::shared_ptr<const CatalogueText> now = m_catalogue.read();
+        std::shared_ptr<const CatalogueText> now = m_services.catalogue.read();
         if (now != m_known) {
             m_fingerprint = fingerprint(now->text());
             m_known = std::move(now);
@@ -38,6 +45,42 @@ std::string FleetTools::catalogue() {
     } catch (const FileError&) {
         return {};
     }
+}
+
+std::vector<std::optional<VectorSheet>> FleetTools::sheets(const Fleet& fleet,
+                                                           const std::filesystem::path& folder) {
+    const LoadedMaps maps = {.maps = m_services.globals.g_colSSDMaps,
+                             .g_iLargestSSD = m_services.globals.g_iLargestSSD,
+                             .dropped = m_services.globals.droppedMaps};
+    const SheetTools tools = {.appFolder = m_services.appFolder,
+                              .pictures =
+                                  picturesReadOnce(m_services.appFolder, m_services.pictures),
+                              .outlines = outlinesIn(m_services.pictures),
+                              .encoder = m_services.encoder,
+                              .drawings = m_services.drawings,
+                              .maps = maps};
+    // What has no sheet is left out: the list says what does not load.
+    return fleetSheets(fleet, folder, CatalogueFile::holding(m_services.catalogue.read()), tools,
+                       [](const std::string&, const Error&) {});
+}
+
+PageDocument FleetTools::pages(const Fleet& fleet, const std::filesystem::path& folder,
+                               const PageSize& paper) {
+    const std::vector<std::optional<VectorSheet>> drawn = sheets(fleet, folder);
+    std::vector<VectorSheet> all;
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        for (std::int32_t count = 0; drawn[i] && count < fleet.ships[i].count; ++count) {
+            all.push_back(*drawn[i]);
+        }
+    }
+    constexpr int mostOnAPage = 4;
+    PageDocument document = sheetDocument(all, {.paper = paper, .perPage = mostOnAPage});
+    document.title = fleet.name;
+    return document;
+}
+
+std::string FleetTools::playPage(const Fleet& fleet, const std::filesystem::path& folder) {
+    return fleetwright::playPage(playFleet(fleet, sheets(fleet, folder)), m_services.encoder);
 }
 
 }  // namespace fleetwright

@@ -1,22 +1,41 @@
 #pragma once
 
 #include "CatalogueFile.h"
+#include "Fleet.h"
 #include "FleetRow.h"
+#include "PageDocument.h"
+#include "sheetDocument.h"
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
 class CatalogueText;
+class Drawings;
+class PictureEncoder;
+class PictureFiles;
 class ShipOnScreen;
+struct Globals;
 
 /// What the window of fleets learns of ships: from a main window that nobody sees, so that no
-/// figure can differ from the one on the screen.
+/// figure and no sheet can differ from what is on the screen.
 class FleetTools {
 public:
-    FleetTools(std::filesystem::path appFolder, CatalogueFile catalogue);
+    /// What that takes of the program. All of it outlives this.
+    struct Services {
+        std::filesystem::path appFolder;
+        CatalogueFile catalogue;
+        PictureFiles& pictures;
+        PictureEncoder& encoder;
+        const Drawings& drawings;
+        const Globals& globals;
+    };
+
+    explicit FleetTools(Services services);
     FleetTools(const FleetTools&) = delete;
     FleetTools& operator=(const FleetTools&) = delete;
     ~FleetTools();
@@ -25,10 +44,19 @@ public:
     FleetRow readShip(const std::string& ship);
     /// The fingerprint of the catalogue; empty if it cannot be read.
     std::string catalogue();
+    /// The sheets of a fleet whose ships lie in and below a folder, each as often as the fleet has
+    /// the ship. Throws Error.
+    PageDocument pages(const Fleet& fleet, const std::filesystem::path& folder,
+                       const PageSize& paper);
+    /// The page by which such a fleet is played. Throws Error.
+    std::string playPage(const Fleet& fleet, const std::filesystem::path& folder);
 
 private:
-    std::filesystem::path m_appFolder;
-    CatalogueFile m_catalogue;
+    ShipOnScreen& screen();
+    std::vector<std::optional<VectorSheet>> sheets(const Fleet& fleet,
+                                                   const std::filesystem::path& folder);
+
+    Services m_services;
     std::shared_ptr<const CatalogueText> m_known;  ///< the catalogue that has this
     std::string m_fingerprint;
     std::unique_ptr<ShipOnScreen> m_screen;  ///< once it is needed

@@ -224,7 +224,12 @@ public:
                                 return m_sheets.ofPicture(file, picture);
                             });
                         }}),
-          m_fleetTools(m_appFolder, m_catalogueFile),
+          m_fleetTools({.appFolder = m_appFolder,
+                        .catalogue = m_catalogueFile,
+                        .pictures = m_pictures,
+                        .encoder = m_pictureFiles,
+                        .drawings = m_drawings,
+                        .globals = m_globals}),
           m_fleet(
               {.appFolder = m_appFolder,
                .desktop = desktop,
@@ -240,8 +245,15 @@ public:
                        m_main.files.openFiles({ship});
                    },
                .sheets = [this]() -> const SheetOutput& { return m_sheets; },
-               .pages = {},
-               .playPage = {}}) {
+               .pages =
+                   [this](const Fleet& fleet, const std::filesystem::path& folder,
+                          const PageSize& paper) {
+                       return m_fleetTools.pages(fleet, folder, paper);
+                   },
+               .playPage =
+                   [this](const Fleet& fleet, const std::filesystem::path& folder) {
+                       return m_fleetTools.playPage(fleet, folder);
+                   }}) {
         desktop.equip(m_settings, m_drawings);
         takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {
