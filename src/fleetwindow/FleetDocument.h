@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Fault.h"
 #include "FileStamp.h"
 #include "Fleet.h"
 #include "FleetHistory.h"
@@ -11,6 +12,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 

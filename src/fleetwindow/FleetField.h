@@ -3,9 +3,11 @@
 #include "FleetPart.h"
 #include "TextBox.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace fleetwright {
 

@@ -1,6 +1,7 @@
 #include "FleetHistory.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace fleetwright {
 

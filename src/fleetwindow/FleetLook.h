@@ -3,6 +3,7 @@
 #include "FileStamp.h"
 #include "FleetRow.h"
 
+#include <cstddef>
 #include <deque>
 #include <filesystem>
 #include <functional>
@@ -10,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 namespace fleetwright {
 

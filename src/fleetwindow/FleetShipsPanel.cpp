@@ -7,6 +7,8 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <initializer_list>
 #include <iterator>
 #include <utility>
 
@@ -42,7 +44,7 @@ std::string remarkOn(const FleetShip& ship, const FleetRow& row) {
         remark += (remark.empty() ? "" : "; ") + text;
     };
     if (hasChanged(ship, row)) {
-        add("Has changed since the fleet was saved");
+        add("Changed since it was saved");
     }
     if (!row.faults.empty()) {
         add("Not taken: " + row.faults.front().text +
@@ -59,12 +61,12 @@ std::string remarkOn(const FleetShip& ship, const FleetRow& row) {
 
 FleetShipsPanel::FleetShipsPanel(const FleetContext& context, MenuEntry& mnuShips)
     : FleetPart(context), m_ships(mnuShips) {
-    lvShips.addColumn("Ship", 2550);
-    lvShips.addColumn("Count", 750);
-    lvShips.addColumn("Class", 1050);
-    lvShips.addColumn("Mass", 750);
-    lvShips.addColumn("Points", 825);
-    lvShips.addColumn("Sum", 825);
+    lvShips.addColumn("Ship", 2250);
+    lvShips.addColumn("Count", 660);
+    lvShips.addColumn("Class", 960);
+    lvShips.addColumn("Mass", 660);
+    lvShips.addColumn("Points", 750);
+    lvShips.addColumn("Sum", 750);
     lvShips.addColumn("Remark", 1500);
     lvShips.onDblClick = [this] { openShip(); };
     lvShips.onDelete = [this] { remove(); };

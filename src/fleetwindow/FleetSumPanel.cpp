@@ -2,6 +2,7 @@
 
 #include "text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>

@@ -3,6 +3,8 @@
 #include "FleetPart.h"
 #include "Label.h"
 
+#include <string>
+
 namespace fleetwright {
 
 /// What the fleet comes to, and what is wrong with it.

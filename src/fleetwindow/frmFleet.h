@@ -17,6 +17,7 @@
 #include "Timer.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace fleetwright {

@@ -190,7 +190,12 @@ QSize FormWindow::formSize() const {
 void FormWindow::resizeInside() {
     QSize size = formSize();
     if (m_form.border() == Border::Sizable) {
-        const QRect controls = m_inside->childrenRect();
+        QRect controls;
+        for (const QWidget* const widget :
+             m_inside->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            const bool counts = !widget->isHidden() && !widget->property(followsWindow).toBool();
+            controls |= counts ? widget->geometry() : QRect();
+        }
         size = size.expandedTo(QSize(controls.right() + 1, controls.bottom() + 1));
     }
     m_inside->resize(size);

@@ -2,6 +2,7 @@
 #include "FormWindow.h"
 #include "Menu.h"
 #include "PictureBox.h"
+#include "StatusBar.h"
 #include "TrayIcon.h"
 
 #include <gtest/gtest.h>
@@ -133,8 +134,10 @@ TEST_F(SizableWindow, ScrollsToWhatHasOutgrownAWindowThatIsLeftAlone) {
 TEST(SizableWindowWithMenus, HasRoomForItsFormBelowThem) {
     Form form({.name = "frmMenus", .width = 6000, .height = 3000, .border = Border::Sizable});
     MenuEntry menu(form, {.name = "menu", .caption = "Menu"});
-    const FormWindow window(form);
+    StatusBar status(form, {.name = "status"});
+    FormWindow window(form);
     form.show();
+    window.resize(window.width() - 30, window.height() - 30);
     QApplication::processEvents();
     const auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
     EXPECT_EQ(view->viewport()->size(), view->widget()->size());

@@ -69,6 +69,7 @@ QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
 QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     auto* const widget = new QLabel(parent);
     widget->setTextFormat(Qt::PlainText);  // names in it are no markup
+    widget->setProperty(followsWindow, true);
     prepare(widget, bar, scale);
     widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     widget->setMargin(2);

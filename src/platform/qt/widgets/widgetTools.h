@@ -21,6 +21,9 @@
 
 namespace fleetwright {
 
+/// The property of a widget that is where the edge of its window is, and takes no room there.
+inline constexpr const char* followsWindow = "followsWindow";
+
 inline QString toQt(const std::string& text) {
     return QString::fromStdString(text);
 }
