@@ -1,11 +1,11 @@
 #include "FleetSumPanel.h"
 
+#include "fleetWords.h"
 #include "text.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -47,16 +47,9 @@ std::string FleetSumPanel::totals() const {
 std::string FleetSumPanel::warnings() const {
     const FleetSum& sum = window().sum;
     std::vector<std::string> found;
-    if (sum.pointsLeft.value_or(0) < 0) {
-        found.push_back(std::to_string(-*sum.pointsLeft) + " points over the limit");
-    }
-    for (std::size_t i = 0; i < fleet().limits.size(); ++i) {
-        const FleetLimit& limit = fleet().limits[i];
-        if (sum.limitsLeft[i] < 0) {
-            const bool isPoints = limit.unit == FleetLimit::Unit::Points;
-            found.push_back(limit.kind + ": " + std::to_string(-sum.limitsLeft[i]) +
-                            (isPoints ? " points" : "") + " over the limit of " +
-                            std::to_string(limit.most));
+    for (const LimitWords& limit : limitWords(fleet(), sum)) {
+        if (limit.isBroken) {
+            found.push_back(limit.text);
         }
     }
     if (sum.notLoaded > 0) {
