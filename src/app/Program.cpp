@@ -289,14 +289,8 @@ private:
     /// The forms with windows of their own. The page of settings and the list of
     /// designs put aside are dialogs of the main window.
     std::array<Form*, 9> windows() {
-        return {&m_splash,
-                &m_main,
-                &m_main.findings.list,
-                &m_main.compare.beside,
-                &m_mapper,
-                &m_about,
-                &m_mapCreator,
-                &m_viewer,
+        return {&m_splash, &m_main,  &m_main.findings.list, &m_main.compare.beside,
+                &m_mapper, &m_about, &m_mapCreator,         &m_viewer,
                 &m_fleet};
     }
 

@@ -48,8 +48,8 @@ public:
     bool hasEnded() const { return m_hasEnded; }
     /// Those that stand beside each other, the main window first.
     std::vector<Form*> windows() {
-        return {&main,     &main.findings.list, &main.compare.beside,
-                &m_mapper, &m_mapCreator,       &m_viewer, &test.fleet()};
+        return {&main,         &main.findings.list, &main.compare.beside, &m_mapper,
+                &m_mapCreator, &m_viewer,           &test.fleet()};
     }
 
     // For the acts.
