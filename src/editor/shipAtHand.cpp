@@ -1,6 +1,7 @@
 #include "shipAtHand.h"
 
 #include "Error.h"
+#include "designCode.h"
 #include "frmMain.h"
 
 namespace fleetwright {
@@ -10,10 +11,10 @@ ShipAtHand shipAtHand(const frmMain& window) {
         throw Error("There is no ship at hand");
     }
     const ShipClass& ship = *window.g_Ship;
-    if (ship.origin.empty()) {
-        throw Error("The ship at hand is in no file yet: save it first, in the main window");
-    }
-    return {.name = ship.g_sShipName, .file = ship.origin, .code = {}, .isChanged = !ship.g_bSaved};
+    return {.name = ship.g_sShipName,
+            .file = ship.origin,
+            .code = ship.origin.empty() ? designCode(ship.shipFile()) : std::string(),
+            .isChanged = !ship.g_bSaved};
 }
 
 }  // namespace fleetwright

@@ -287,8 +287,8 @@ private:
             timer->tick();
         } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
             raise(how == "left" ? tray->onLeftClick : tray->onRightClick);
-        } else if (auto* const box = dynamic_cast<ComboBox*>(&control)) {
-            box->type(how);
+        } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
+            combo->type(how);
         } else if (auto* const slider = dynamic_cast<Slider*>(&control)) {
             slider->slide(std::stoi(how));
             m_says += "of " + std::to_string(slider->max()) + " by " +
