@@ -5,6 +5,7 @@
 #include "ShipOnScreen.h"
 #include "drawnSheet.h"
 #include "fingerprint.h"
+#include "fleetDocument.h"
 #include "fleetRows.h"
 #include "fleetSheets.h"
 #include "playFleet.h"
@@ -64,19 +65,15 @@ std::vector<std::optional<VectorSheet>> FleetTools::sheets(const Fleet& fleet,
                        [](const std::string&, const Error&) {});
 }
 
-PageDocument FleetTools::pages(const Fleet& fleet, const std::filesystem::path& folder,
-                               const PageSize& paper) {
+PageDocument FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
+                               const std::filesystem::path& folder, const PageSize& paper) {
     const std::vector<std::optional<VectorSheet>> drawn = sheets(fleet, folder);
-    std::vector<VectorSheet> all;
-    for (std::size_t i = 0; i < drawn.size(); ++i) {
-        for (std::int32_t count = 0; drawn[i] && count < fleet.ships[i].count; ++count) {
-            all.push_back(*drawn[i]);
-        }
+    std::vector<const VectorSheet*> each;
+    for (const std::optional<VectorSheet>& sheet : drawn) {
+        each.push_back(sheet ? &*sheet : nullptr);
     }
     constexpr int mostOnAPage = 4;
-    PageDocument document = sheetDocument(all, {.paper = paper, .perPage = mostOnAPage});
-    document.title = fleet.name;
-    return document;
+    return fleetDocument(fleet, rows, each, {.paper = paper, .perPage = mostOnAPage});
 }
 
 std::string FleetTools::playPage(const Fleet& fleet, const std::filesystem::path& folder) {

@@ -44,10 +44,10 @@ public:
     FleetRow readShip(const std::string& ship);
     /// The fingerprint of the catalogue; empty if it cannot be read.
     std::string catalogue();
-    /// The sheets of a fleet whose ships lie in and below a folder, each as often as the fleet has
-    /// the ship. Throws Error.
-    PageDocument pages(const Fleet& fleet, const std::filesystem::path& folder,
-                       const PageSize& paper);
+    /// The roster of a fleet whose ships lie in and below a folder, and its sheets, each as often
+    /// as the fleet has the ship. Throws Error.
+    PageDocument pages(const Fleet& fleet, const FleetRows& rows,
+                       const std::filesystem::path& folder, const PageSize& paper);
     /// The page by which such a fleet is played. Throws Error.
     std::string playPage(const Fleet& fleet, const std::filesystem::path& folder);
 

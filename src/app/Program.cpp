@@ -246,9 +246,9 @@ public:
                    },
                .sheets = [this]() -> const SheetOutput& { return m_sheets; },
                .pages =
-                   [this](const Fleet& fleet, const std::filesystem::path& folder,
-                          const PageSize& paper) {
-                       return m_fleetTools.pages(fleet, folder, paper);
+                   [this](const Fleet& fleet, const FleetRows& rows,
+                          const std::filesystem::path& folder, const PageSize& paper) {
+                       return m_fleetTools.pages(fleet, rows, folder, paper);
                    },
                .playPage =
                    [this](const Fleet& fleet, const std::filesystem::path& folder) {

@@ -19,10 +19,12 @@ std::string fleetName(const Fleet& fleet) {
 }
 
 /// A fleet as something to leave the program: one that does not change any more.
-OutgoingSheet outgoing(const FleetServices& services, const FleetDocument& document) {
+OutgoingSheet outgoing(const FleetContext& window) {
+    const FleetDocument& document = window.document;
     return {.name = fleetName(document.fleet()),
-            .pages = [pages = services.pages, fleet = document.fleet(), folder = document.folder()](
-                         const PageSize& paper) { return pages(fleet, folder, paper); },
+            .pages = [pages = window.services.pages, fleet = document.fleet(), rows = window.rows,
+                      folder = document.folder()](
+                         const PageSize& paper) { return pages(fleet, rows, folder, paper); },
             .bitmap = {},
             .shipFile = {}};
 }
@@ -38,7 +40,7 @@ void FleetOutputPanel::show() {
 
 void FleetOutputPanel::send(void (SheetOutput::*way)(const SheetOutput::Source&) const) {
     const SheetOutput sheets = services().sheets().saying(window().say);
-    (sheets.*way)([this] { return outgoing(services(), document()); });
+    (sheets.*way)([this] { return outgoing(window()); });
 }
 
 void FleetOutputPanel::mnuPlayFleet_Click() {

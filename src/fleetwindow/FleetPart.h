@@ -34,7 +34,8 @@ struct FleetServices {
     std::function<void(const std::string& ship)> openShip;  ///< in the main window
     std::function<const SheetOutput&()> sheets;
     /// The roster and the sheets of a fleet whose ships lie in and below a folder. Throws Error.
-    std::function<PageDocument(const Fleet&, const std::filesystem::path& folder, const PageSize&)>
+    std::function<PageDocument(const Fleet&, const FleetRows&, const std::filesystem::path& folder,
+                               const PageSize&)>
         pages;
     /// A page for a browser, in which such a fleet is played. Throws Error.
     std::function<std::string(const Fleet&, const std::filesystem::path& folder)> playPage;

@@ -268,7 +268,8 @@ void TestWindow::makeFleet() {
         .openShip = [this](const std::string& name) { window().files.openFiles({name}); },
         .sheets = [this]() -> const SheetOutput& { return *m_output; },
         .pages =
-            [](const Fleet& fleet, const std::filesystem::path&, const PageSize& paper) {
+            [](const Fleet& fleet, const FleetRows&, const std::filesystem::path&,
+               const PageSize& paper) {
                 PageDocument pages;
                 pages.title = fleet.name;
                 pages.size = paper;
