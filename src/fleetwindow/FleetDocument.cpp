@@ -53,7 +53,9 @@ void FleetDocument::save(const fs::path& file, const FleetRows& rows,
             written.ships[i].fingerprint = rows[i]->fingerprint;
         }
     }
-    moveFleet(written, m_folder, file.parent_path());
+    if (file.parent_path() != m_folder) {
+        moveFleet(written, m_folder, file.parent_path());
+    }
     saveFleet(file, written);
     m_file = file;
     m_stamp = fileStamp(file);

@@ -27,13 +27,6 @@ std::vector<std::string> namesIn(const std::string& lines) {
     return names;
 }
 
-void setCount(FleetShip& ship, std::int32_t count) {
-    ship.count = std::clamp(count, std::int32_t{1}, FleetShip::mostCount);
-    if (ship.names.size() > static_cast<std::size_t>(ship.count)) {
-        ship.names.resize(static_cast<std::size_t>(ship.count));
-    }
-}
-
 }  // namespace
 
 FleetShipPanel::FleetShipPanel(const FleetContext& context,
@@ -43,7 +36,7 @@ FleetShipPanel::FleetShipPanel(const FleetContext& context,
               [this] {
                   FleetField::Rules count = rules(
                       "Count", [](const FleetShip& ship) { return std::to_string(ship.count); },
-                      [](FleetShip& ship, const std::string& typed) {
+                      [this](FleetShip& ship, const std::string& typed) {
                           setCount(ship, std::stoi(typed));
                       });
                   count.held = [](const std::string& typed) {
@@ -53,8 +46,9 @@ FleetShipPanel::FleetShipPanel(const FleetContext& context,
               }()),
       m_names(context, txtNames,
               rules("Own Names", namesText,
-                    [](FleetShip& ship, const std::string& typed) {
+                    [this](FleetShip& ship, const std::string& typed) {
                         ship.names = namesIn(typed);
+                        m_namesOf.clear();
                         // Who gives a name to one more ship has one more.
                         setCount(ship, std::max(ship.count,
                                                 static_cast<std::int32_t>(ship.names.size())));
@@ -86,6 +80,19 @@ FleetShipPanel::rules(const std::string& name, std::function<std::string(const F
                 },
             .held = [](const std::string& typed) { return std::optional(linesIn(typed)); },
             .about = [this] { return std::to_string(m_selected().value_or(0)); }};
+}
+
+/// A number may be typed by way of a smaller one: names that have no ship for a while come back.
+void FleetShipPanel::setCount(FleetShip& ship, std::int32_t count) {
+    const bool isKept = ship.file == m_namesOf && ship.names.size() <= m_keptNames.size() &&
+                        std::equal(ship.names.begin(), ship.names.end(), m_keptNames.begin());
+    if (!isKept) {
+        m_namesOf = ship.file;
+        m_keptNames = ship.names;
+    }
+    ship.count = std::clamp(count, std::int32_t{1}, FleetShip::mostCount);
+    ship.names = m_keptNames;
+    ship.names.resize(std::min(ship.names.size(), static_cast<std::size_t>(ship.count)));
 }
 
 void FleetShipPanel::show() {

@@ -7,9 +7,11 @@
 #include "UpDown.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -64,10 +66,13 @@ private:
     FleetField::Rules rules(const std::string& name,
                             std::function<std::string(const FleetShip&)> read,
                             std::function<void(FleetShip&, const std::string&)> write) const;
+    void setCount(FleetShip& ship, std::int32_t count);
     void step(int by);
 
     std::function<std::optional<std::size_t>()> m_selected;
     FleetField m_count, m_names, m_notes;
+    std::string m_namesOf;  ///< the ship whose names are kept, by its file
+    std::vector<std::string> m_keptNames;
 };
 
 }  // namespace fleetwright
