@@ -13,21 +13,12 @@
 
 #include <algorithm>
 #include <map>
-#include <ranges>
 
 using namespace fleetwright;
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::vector<std::string> parts(const std::string& text, const std::string& separator) {
-    std::vector<std::string> found;
-    for (const auto part : std::views::split(text, separator)) {
-        found.emplace_back(part.begin(), part.end());
-    }
-    return found;
-}
 
 /// Plays a case: does on a window what its lines say.
 class Play {
@@ -46,7 +37,7 @@ public:
         fs::create_directory(m_test.folder().path() / "ships");
         m_window.tray.tray1.askAvailable = [this] { return m_hasTray; };
         m_dragged = m_window.drag.imgDrag.DragWanted.connect([this] { m_says += "dragged; "; });
-        for (const std::string& line : parts(before, "\n")) {
+        for (const std::string& line : partsOf(before, "\n")) {
             doLine(line);
         }
         EXPECT_FALSE(m_window.g_bLoaded);
@@ -74,7 +65,7 @@ public:
     std::map<std::string, std::string> look() {
         std::map<std::string, std::string> seen;
         for (const auto& [name, control] : m_controls) {
-            seen[name] = stateOf(*control);
+            seen[name] = replaced(stateOf(*control), "\r\n", "\n");
         }
         // They change with each act: cases that are about them say so.
         seen.erase("mnuUndo");
@@ -177,7 +168,7 @@ private:
     }
 
     std::vector<std::string> paths(const std::string& names) {
-        std::vector<std::string> found = parts(names, " ");
+        std::vector<std::string> found = partsOf(names, " ");
         for (std::string& name : found) {
             name = (m_test.folder().path() / name).string();
         }
@@ -205,13 +196,7 @@ private:
             {"trash", [this] { m_test.hasTrash = true; }},
             {"no paper", [this] { m_test.printerFails = true; }},
             {"largest 4", [this] { m_test.globals.g_iLargestSSD = 4; }},
-            {"maps scanned",
-             [this] {
-                 const LoadedMaps maps = loadMaps(m_test.folder().path());
-                 m_test.globals.droppedMaps = maps.dropped;
-                 m_test.globals.g_colSSDMaps = maps.maps;
-                 m_test.globals.g_iLargestSSD = maps.g_iLargestSSD;
-             }},
+            {"maps scanned", [this] { m_test.scanMaps(); }},
             {"catalogue fault", [this] { m_test.catalogueFaults = "weaps.dat:3: double key\n"; }},
             {"active", [this] { m_window.activate(); }},
             {"compare active", [this] { m_window.compare.beside.activate(); }},
@@ -237,7 +222,7 @@ private:
     /// What is done in the next turn of the event loop, a box's included, or in the next dialog.
     void doLater(const std::string& where, const std::string& what) {
         const auto doAll = [this, what] {
-            for (const std::string& act : parts(what, what.starts_with("in ") ? "\n" : " / ")) {
+            for (const std::string& act : partsOf(what, what.starts_with("in ") ? "\n" : " / ")) {
                 doLine(act);
             }
         };
@@ -371,7 +356,7 @@ TEST(FrmMain, ShowsWhatIsDone) {
 TEST(FrmMain, ShowsADesignTheSameHoweverItCameAbout) {
     const std::string catalogue =
         std::string(windowCatalogue) + "Titan,2000000000,2000000000,x,HEAVY,F,titan.gif\n";
-    const std::vector<std::string> acts = parts(
+    const std::vector<std::string> acts = partsOf(
         "optWarship; optMerchant; optQship; optStarBase; optSpaceStation; optQstation; optTug; "
         "optPartStreamline; optFullStreamling; optNoStreamline; optNoArmor0; optNoArmor1; "
         "optNoArmor2; optNone; optNormal; optThrust0; optThrust5; optThrust8; mnuFrigate; "
@@ -388,7 +373,7 @@ TEST(FrmMain, ShowsADesignTheSameHoweverItCameAbout) {
                    each.first.find("lblWeap") == 0 || each.first == "sbStatus";
         });
         std::vector<std::string> rows =
-            parts(replaced(seen.extract("lvCurrentWeapons").mapped(), "*", ""), ", ");
+            partsOf(replaced(seen.extract("lvCurrentWeapons").mapped(), "*", ""), ", ");
         std::sort(rows.begin(), rows.end());
         return std::pair(seen, rows);
     };

@@ -7,6 +7,7 @@
 #include "shipAtHand.h"
 
 #include <cmath>
+#include <ranges>
 
 #include <utility>
 
@@ -296,7 +297,22 @@ FleetRow TestWindow::readShip(const std::string& name) const {
     return row;
 }
 
+std::vector<std::string> partsOf(const std::string& text, const std::string& separator) {
+    std::vector<std::string> found;
+    for (const auto part : std::views::split(text, separator)) {
+        found.emplace_back(part.begin(), part.end());
+    }
+    return found;
+}
+
 TestWindow::~TestWindow() = default;
+
+void TestWindow::scanMaps() {
+    const LoadedMaps maps = loadMaps(m_folder.path());
+    globals.droppedMaps = maps.dropped;
+    globals.g_colSSDMaps = maps.maps;
+    globals.g_iLargestSSD = maps.g_iLargestSSD;
+}
 
 void TestWindow::takeTurn() {
     raise(std::exchange(inTurn, {}));

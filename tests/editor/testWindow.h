@@ -19,11 +19,15 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
 /// A catalogue whose categories stand in the tree.
 extern const std::string_view windowCatalogue;
+
+/// The pieces of a text between separators.
+std::vector<std::string> partsOf(const std::string& text, const std::string& separator);
 
 /// The main window on a desktop that only writes down what it is asked to do.
 class TestWindow {
@@ -42,6 +46,9 @@ public:
     /// Selects the node of a system in the tree.
     void selectNode(std::string_view key);
     const TemporaryFolder& folder() const { return m_folder; }
+
+    /// Reads the maps in the folder, as the start does.
+    void scanMaps();
 
     Globals globals;
     Answer answer = Answer::No;
