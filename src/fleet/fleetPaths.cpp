@@ -36,10 +36,6 @@ bool isSameFolder(const fs::path& a, const fs::path& b) {
 
 }  // namespace
 
-bool isCode(const std::string& file) {
-    return isDesignCode(file);
-}
-
 std::string shipPath(const fs::path& fleetFolder, const FleetShip& ship) {
     if (isDesignCode(ship.file) || ship.file.empty()) {
         return ship.file;

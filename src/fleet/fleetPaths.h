@@ -9,9 +9,6 @@
 
 namespace fleetwright {
 
-/// Whether a ship of a fleet is a code that holds the design, and no file.
-bool isCode(const std::string& file);
-
 /// The file of a ship of a fleet in this folder, to be loaded, or the code that it is; empty
 /// if it names none. A fleet comes from anybody and may name any file: it is only ever to be read,
 /// as a ship.

@@ -35,7 +35,11 @@ std::vector<Fault> FleetDocument::open(const fs::path& file) {
 }
 
 bool FleetDocument::isFileOther() const {
-    return !m_file.empty() && fileStamp(m_file) != m_stamp;
+    std::optional<FileStamp> now = m_file.empty() ? m_stamp : fileStamp(m_file);
+    if (now && m_stamp) {
+        now->isFresh = m_stamp->isFresh;  // it grows old without anybody's doing
+    }
+    return now != m_stamp;
 }
 
 void FleetDocument::act(const FleetAct& act, const std::function<void(Fleet&)>& change,
@@ -53,9 +57,7 @@ void FleetDocument::save(const fs::path& file, const FleetRows& rows,
             written.ships[i].fingerprint = rows[i]->fingerprint;
         }
     }
-    if (file.parent_path() != m_folder) {
-        moveFleet(written, m_folder, file.parent_path());
-    }
+    moveFleet(written, m_folder, file.parent_path());
     saveFleet(file, written);
     m_file = file;
     m_stamp = fileStamp(file);

@@ -1,5 +1,6 @@
 #include "FleetLook.h"
 
+#include "designCode.h"
 #include "fleetPaths.h"
 #include "paths.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 /// Where a ship is now, and in which state its file is.
 std::optional<FileStamp> stampOf(const std::string& path) {
-    return isCode(path) ? std::nullopt : fileStamp(nativePath(path));
+    return isDesignCode(path) ? std::nullopt : fileStamp(nativePath(path));
 }
 
 }  // namespace

@@ -48,7 +48,6 @@ FleetShipPanel::FleetShipPanel(const FleetContext& context,
               rules("Own Names", namesText,
                     [this](FleetShip& ship, const std::string& typed) {
                         ship.names = namesIn(typed);
-                        m_namesOf.clear();
                         // Who gives a name to one more ship has one more.
                         setCount(ship, std::max(ship.count,
                                                 static_cast<std::int32_t>(ship.names.size())));
@@ -84,15 +83,13 @@ FleetShipPanel::rules(const std::string& name, std::function<std::string(const F
 
 /// A number may be typed by way of a smaller one: names that have no ship for a while come back.
 void FleetShipPanel::setCount(FleetShip& ship, std::int32_t count) {
-    const bool isKept = ship.file == m_namesOf && ship.names.size() <= m_keptNames.size() &&
-                        std::equal(ship.names.begin(), ship.names.end(), m_keptNames.begin());
-    if (!isKept) {
-        m_namesOf = ship.file;
+    if (ship != m_counted) {
         m_keptNames = ship.names;
     }
     ship.count = std::clamp(count, std::int32_t{1}, FleetShip::mostCount);
     ship.names = m_keptNames;
     ship.names.resize(std::min(ship.names.size(), static_cast<std::size_t>(ship.count)));
+    m_counted = ship;
 }
 
 void FleetShipPanel::show() {

@@ -71,8 +71,8 @@ private:
 
     std::function<std::optional<std::size_t>()> m_selected;
     FleetField m_count, m_names, m_notes;
-    std::string m_namesOf;  ///< the ship whose names are kept, by its file
-    std::vector<std::string> m_keptNames;
+    FleetShip m_counted;                   ///< as the last count has left it
+    std::vector<std::string> m_keptNames;  ///< those that it had, and has again with that count
 };
 
 }  // namespace fleetwright

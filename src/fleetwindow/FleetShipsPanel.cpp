@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "designCode.h"
 #include "fleetPaths.h"
 #include "paths.h"
 #include "text.h"
@@ -31,7 +32,7 @@ std::size_t addShip(Fleet& fleet, const std::string& file) {
 
 /// What is to be called a ship that cannot be read.
 std::string fileNameIn(const FleetShip& ship) {
-    return isCode(ship.file) ? "Design code" : pathText(nativePath(ship.file).filename());
+    return isDesignCode(ship.file) ? "Design code" : pathText(nativePath(ship.file).filename());
 }
 
 /// What is wrong with a ship; empty if nothing is.

@@ -209,6 +209,7 @@ private:
              }},
             {"status", [this] { m_window.sbStatus.setText("message"); }},
             {"load", [this] { m_test.ship().loadShip(m_test.folder().path() / "some.shp"); }},
+            {"old files", [] { TestWindow::letFilesGetOld(); }},
             {"held", [this] { m_test.clock.step = 500; }},
             {"counting",
              [this] {

@@ -1,6 +1,7 @@
 #include "testWindow.h"
 
 #include "Error.h"
+#include "FileStamp.h"
 #include "PngChunks.h"
 #include "Trash.h"
 #include "fingerprint.h"
@@ -8,7 +9,7 @@
 
 #include <cmath>
 #include <ranges>
-
+#include <thread>
 #include <utility>
 
 namespace fleetwright {
@@ -312,6 +313,10 @@ void TestWindow::scanMaps() {
     globals.droppedMaps = maps.dropped;
     globals.g_colSSDMaps = maps.maps;
     globals.g_iLargestSSD = maps.g_iLargestSSD;
+}
+
+void TestWindow::letFilesGetOld() {
+    std::this_thread::sleep_for(FileStamp::coarsest);
 }
 
 void TestWindow::takeTurn() {

@@ -49,6 +49,8 @@ public:
 
     /// Reads the maps in the folder, as the start does.
     void scanMaps();
+    /// Waits until what has just been written does not count as fresh any more.
+    static void letFilesGetOld();
 
     Globals globals;
     Answer answer = Answer::No;
