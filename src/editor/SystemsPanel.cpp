@@ -9,10 +9,12 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace fleetwright {
 
-SystemsPanel::SystemsPanel(const PanelContext& context) : Panel(context) {
+SystemsPanel::SystemsPanel(const PanelContext& context, std::function<void()> selectionGone)
+    : Panel(context), m_selectionGone(std::move(selectionGone)) {
     lvCurrentWeapons.onDblClick = [this] { lvCurrentWeapons_DblClick(); };
     lvCurrentWeapons.onDelete = lvCurrentWeapons.onDblClick;
     lvCurrentWeapons.onMouseDown = [this](const MousePress& press) {
@@ -135,6 +137,9 @@ void SystemsPanel::changeAmount(const std::string name, std::int32_t change) {
                 ListView::Content content = lvCurrentWeapons.content();
                 content.selected = lvCurrentWeapons.find(chosen);
                 lvCurrentWeapons.setContent(std::move(content));
+            }
+            if (!lvCurrentWeapons.selected()) {
+                m_selectionGone();  // it was on the row of what is no system
             }
         }
     });

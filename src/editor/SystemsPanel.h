@@ -4,13 +4,16 @@
 #include "Panel.h"
 #include "frmAmountSlider.h"
 
+#include <functional>
+
 namespace fleetwright {
 
 /// The list of the systems aboard. It is a second copy of the ship's amounts: each change of an
 /// amount changes a row and then the ship, and a refusal takes the row back.
 class SystemsPanel : public Panel {
 public:
-    explicit SystemsPanel(const PanelContext& context);
+    /// `selectionGone` hears when a refusal has taken the selected row away.
+    SystemsPanel(const PanelContext& context, std::function<void()> selectionGone);
 
     void addColumns();
     /// Brings the rows to what the ship has aboard. Rows that stay keep their order.
@@ -39,6 +42,7 @@ private:
     void AddWeaponRow(const std::string& name, std::int32_t amount);
     std::string selectedSystem() const;
 
+    std::function<void()> m_selectionGone;
     Connection m_countChanged;
 };
 

@@ -78,7 +78,7 @@ public:
                          recovery.tmrRecovery.restart();
                          compare.show();
                      }};
-    SystemsPanel aboard{m_context};
+    SystemsPanel aboard{m_context, [this] { previews.clear(1); }};
     TreePanel tree{m_context, mnuAddWeaps, aboard, [this] { previews.clear(0); }};
     PreviewPanel previews{m_context, tree.tvWeapons, aboard.lvCurrentWeapons};
     StatusBar sbStatus{*this, {.name = "sbStatus", .accessibleDescription = "Status"}};
