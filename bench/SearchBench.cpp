@@ -49,7 +49,7 @@ void passOverNames(benchmark::State& state, const std::string& typed) {
     for ([[maybe_unused]] auto _ : state) {
         std::size_t matches = 0;
         for (const std::string& name : names) {
-            matches += name.find(typed) != std::string::npos ? 1 : 0;
+            matches += name.find(typed) != std::string::npos ? 1U : 0U;
         }
         benchmark::DoNotOptimize(matches);
     }
