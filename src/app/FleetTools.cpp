@@ -8,7 +8,9 @@
 #include "fleetDocument.h"
 #include "fleetRows.h"
 #include "fleetSheets.h"
+#include "paths.h"
 #include "playFleet.h"
+#include "text.h"
 
 #include <utility>
 
@@ -60,9 +62,14 @@ std::vector<std::optional<VectorSheet>> FleetTools::sheets(const Fleet& fleet,
                               .encoder = m_services.encoder,
                               .drawings = m_services.drawings,
                               .maps = maps};
-    // What has no sheet is left out: the list says what does not load.
+    m_leftOut.clear();
+    // Of what does not load, the list says so already.
     return fleetSheets(fleet, folder, CatalogueFile::holding(m_services.catalogue.read()), tools,
-                       [](const std::string&, const Error&) {});
+                       [this](const std::string& ship, const Error& why) {
+                           m_leftOut += (m_leftOut.empty() ? "" : ", ") +
+                                        shownText(pathText(nativePath(ship).filename())) + " (" +
+                                        why.what() + ')';
+                       });
 }
 
 PageDocument FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
@@ -77,6 +84,7 @@ PageDocument FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
 }
 
 std::string FleetTools::playPage(const Fleet& fleet, const std::filesystem::path& folder) {
+    checkCanBePlayed(fleet);  // before all of it is drawn
     return fleetwright::playPage(playFleet(fleet, sheets(fleet, folder)), m_services.encoder);
 }
 

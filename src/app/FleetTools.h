@@ -50,6 +50,9 @@ public:
                        const std::filesystem::path& folder, const PageSize& paper);
     /// The page by which such a fleet is played. Throws Error.
     std::string playPage(const Fleet& fleet, const std::filesystem::path& folder);
+    /// The ships that load and of which the last of both has no sheet all the same, with the reason;
+    /// empty if there are none.
+    const std::string& leftOut() const { return m_leftOut; }
 
 private:
     ShipOnScreen& screen();
@@ -59,6 +62,7 @@ private:
     Services m_services;
     std::shared_ptr<const CatalogueText> m_known;  ///< the catalogue that has this
     std::string m_fingerprint;
+    std::string m_leftOut;
     std::unique_ptr<ShipOnScreen> m_screen;  ///< once it is needed
 };
 

@@ -253,7 +253,8 @@ public:
                .playPage =
                    [this](const Fleet& fleet, const std::filesystem::path& folder) {
                        return m_fleetTools.playPage(fleet, folder);
-                   }}) {
+                   },
+               .leftOut = [this] { return m_fleetTools.leftOut(); }}) {
         desktop.equip(m_settings, m_drawings);
         takeLeftoversAway(m_appFolder);
         for (Form* const form : windows()) {

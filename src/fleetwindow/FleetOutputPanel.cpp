@@ -39,8 +39,14 @@ void FleetOutputPanel::show() {
 }
 
 void FleetOutputPanel::send(void (SheetOutput::*way)(const SheetOutput::Source&) const) {
-    const SheetOutput sheets = services().sheets().saying(window().say);
+    const SheetOutput sheets =
+        services().sheets().saying([this](const std::string& done) { sayDone(done); });
     (sheets.*way)([this] { return outgoing(window()); });
+}
+
+void FleetOutputPanel::sayDone(const std::string& done) {
+    const std::string leftOut = services().leftOut();
+    window().say(done + (leftOut.empty() ? "" : "; without " + leftOut));
 }
 
 void FleetOutputPanel::mnuPlayFleet_Click() {
@@ -62,8 +68,8 @@ void FleetOutputPanel::mnuPlayFleet_Click() {
         }
         saveFile(file, services().playPage(fleet(), document().folder()));
         const bool isOpen = services().desktop.openDocument(file);
-        window().say("Saved " + shownText(pathText(file)) +
-                     (isOpen ? "" : ", which no browser could be found for"));
+        sayDone("Saved " + shownText(pathText(file)) +
+                (isOpen ? "" : ", which no browser could be found for"));
     } catch (const FileError& error) {
         showFileError(services().desktop, error);
     } catch (const Error& error) {

@@ -4,6 +4,8 @@
 #include "Menu.h"
 #include "SheetOutput.h"
 
+#include <string>
+
 namespace fleetwright {
 
 /// The whole fleet as pages, its roster and its sheets: on the screen, on paper, in a file; and as
@@ -54,6 +56,8 @@ public:
 private:
     void send(void (SheetOutput::*way)(const SheetOutput::Source&) const);
     void mnuPlayFleet_Click();
+    /// Puts what was done on the status line, with the ships that could not take part.
+    void sayDone(const std::string& done);
 };
 
 }  // namespace fleetwright

@@ -39,6 +39,8 @@ struct FleetServices {
         pages;
     /// A page for a browser, in which such a fleet is played. Throws Error.
     std::function<std::string(const Fleet&, const std::filesystem::path& folder)> playPage;
+    /// Which ships the last of both has left out, and why; empty if none.
+    std::function<std::string()> leftOut = [] { return std::string(); };
 };
 
 /// What the parts of the window know of it.

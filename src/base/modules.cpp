@@ -1,10 +1,9 @@
 #include "modules.h"
 
 #include "OpenFile.h"
+#include "moduleCalls.h"
 
 #include <system_error>
-
-#include <dlfcn.h>
 
 namespace fleetwright {
 
@@ -26,19 +25,17 @@ bool isPlainFile(const std::filesystem::path& file) {
 }  // namespace
 
 void* loadModule(const std::filesystem::path& file) {
-    // Modules of ours are bound at once as they are linked; the large libraries behind them are
-    // loaded in less time if their calls are not.
-    return isPlainFile(file) ? dlopen(placeOf(file).c_str(), RTLD_LAZY | RTLD_LOCAL) : nullptr;
+    return isPlainFile(file) ? moduleCalls::load(placeOf(file)) : nullptr;
 }
 
 void freeModule(void* module) {
     if (module != nullptr) {
-        dlclose(module);
+        moduleCalls::unload(module);
     }
 }
 
 void* moduleSymbol(void* module, const char* name) {
-    return module == nullptr ? nullptr : dlsym(module, name);
+    return module == nullptr ? nullptr : moduleCalls::symbol(module, name);
 }
 
 }  // namespace fleetwright
