@@ -50,8 +50,8 @@ public:
                        const std::filesystem::path& folder, const PageSize& paper);
     /// The page by which such a fleet is played. Throws Error.
     std::string playPage(const Fleet& fleet, const std::filesystem::path& folder);
-    /// The ships that load and of which the last of both has no sheet all the same, with the reason;
-    /// empty if there are none.
+    /// The ships that load and of which the last of both has no sheet all the same, with the
+    /// reason; empty if there are none.
     const std::string& leftOut() const { return m_leftOut; }
 
 private:
