@@ -5,7 +5,6 @@
 
 #include <zlib.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -70,24 +69,32 @@ std::optional<std::uint32_t> valueOf(char character) {
                                            : std::optional(static_cast<std::uint32_t>(value));
 }
 
+/// White space, and what has no picture, as mails and chats put it anywhere.
+bool isPassedOver(char32_t character) {
+    constexpr char32_t noBreakSpace = 0xA0, narrowNoBreakSpace = 0x202F;
+    return character == U' ' || character == noBreakSpace || character == narrowNoBreakSpace ||
+           isInvisible(character);
+}
+
 /// Steps through the letters of a code, up to the first character that is neither one of them nor
-/// white space.
+/// passed over. So is ">" at the front of a line, with which answers quote what they answer to.
 class Letters {
 public:
     explicit Letters(std::string_view text) : m_text(text) {}
 
     std::optional<std::uint32_t> next() {
-        constexpr char32_t noBreakSpace = 0xA0;
         while (m_at < m_text.size()) {
             const std::string_view rest = m_text.substr(m_at);
             if (const auto value = valueOf(rest.front())) {
                 ++m_at;
+                m_isAtFront = false;
                 return value;
             }
             const char32_t character = codePoint(rest);
-            if (character != U' ' && character != noBreakSpace && !isInvisible(character)) {
+            if (!isPassedOver(character) && !(m_isAtFront && character == U'>')) {
                 break;
             }
+            m_isAtFront = m_isAtFront || character == U'\n' || character == U'\r';
             m_at += characterLength(rest);
         }
         return std::nullopt;
@@ -99,6 +106,7 @@ public:
 private:
     std::string_view m_text;
     std::size_t m_at = 0;
+    bool m_isAtFront = false;  // of a line behind the first one
 };
 
 /// The bytes of all letters that follow each other.
@@ -189,10 +197,32 @@ bool isLetterOrDigit(char character) {
     return (letter >= '0' && letter <= '9') || (letter >= 'A' && letter <= 'Z');
 }
 
+/// How long "FW1:" at the front of a text is, as people and what corrects their typing write it:
+/// some put a space before a colon, some have wide ones. 0 if the text does not begin with it.
+std::size_t startLength(std::string_view text) {
+    constexpr char32_t wideColon = 0xFF1A;
+    constexpr std::size_t word = 3;
+    if (text.size() <= word || asciiCapital(text[0]) != codeStart[0] ||
+        asciiCapital(text[1]) != codeStart[1] || valueOf(text[2]) != 1U) {
+        return 0;
+    }
+    for (std::size_t at = word; at < text.size(); at += characterLength(text.substr(at))) {
+        const std::string_view rest = text.substr(at);
+        const char32_t character = codePoint(rest);
+        if (character == U':' || character == wideColon) {
+            return at + characterLength(rest);
+        }
+        if (!isPassedOver(character)) {
+            break;
+        }
+    }
+    return 0;
+}
+
 /// Takes the first code, which begins at the front of `text`, from it: its ship file. What packs it
 /// tells where it ends, so that words behind it do it no harm.
 std::string takeCode(std::string_view& text) {
-    text.remove_prefix(codeStart.size());
+    text.remove_prefix(startLength(text));
     const std::string held = bytesOfLetters(text);
     const std::string_view bytes = held;
     auto [ship, size] = unpacked(bytes);
@@ -215,10 +245,10 @@ std::string takeCode(std::string_view& text) {
 
 /// The rest of a text from where its first code begins; empty if there is none.
 std::string_view fromCodeOn(std::string_view text) {
-    const auto start = std::search(
-        text.begin(), text.end(), codeStart.begin(), codeStart.end(),
-        [](char character, char capital) { return asciiCapital(character) == capital; });
-    return text.substr(static_cast<std::size_t>(start - text.begin()));
+    while (!text.empty() && startLength(text) == 0) {
+        text.remove_prefix(1);
+    }
+    return text;
 }
 
 }  // namespace
@@ -236,8 +266,12 @@ bool hasDesignCode(std::string_view text) {
 }
 
 bool isDesignCode(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n<[(\"'`"), text.size()));
-    return !text.empty() && fromCodeOn(text).size() == text.size();
+    constexpr std::u32string_view marks = U"<>[(\"'`*_~“”„‘’‚«»‹›";
+    while (!text.empty() && (isPassedOver(codePoint(text)) ||
+                             marks.find(codePoint(text)) != std::u32string_view::npos)) {
+        text.remove_prefix(characterLength(text));
+    }
+    return startLength(text) > 0;
 }
 
 std::string shipInCode(std::string_view text) {

@@ -25,13 +25,13 @@ std::string designCode(std::string_view shipFile);
 /// Whether what looks like a code, be it sound or not, begins somewhere in a text.
 bool hasDesignCode(std::string_view text);
 
-/// Whether a text is meant as a code: it begins with one, perhaps in brackets or behind blanks.
-/// Names of files are not.
+/// Whether a text is meant as a code: it begins with one, perhaps in brackets, in quotation marks,
+/// in the marks by which chats set words off, or behind blanks. Names of files are not.
 bool isDesignCode(std::string_view text);
 
-/// The ship file, to the byte, in the code that stands somewhere in a text. White space in it, as
-/// mails and chats add it, and the case of its letters do not matter. Throws DesignCodeError if
-/// there is none, if it is damaged, or if there are codes of several designs.
+/// The ship file, to the byte, in the code that stands somewhere in a text. What mails and chats do
+/// to it does not matter: white space, the case of its letters, ">" in front of its lines. Throws
+/// DesignCodeError if there is none, if it is damaged, or if there are codes of several designs.
 std::string shipInCode(std::string_view text);
 
 }  // namespace fleetwright
