@@ -227,16 +227,16 @@ extern const CommandRow sheetCommand = {
     .help = "Draw the sheets of ships: OUT is a .bmp, .png, .svg or .pdf file, or a folder",
     .details =
         "The sheet is drawn on the outline of the map NAME, or else of the one that fits the ship "
-        "best. A folder is made if it is not there, and gets a file each, named after the ship "
-        "files, a .bmp or what --format says. Maps that cannot be used are named as errors. A .bmp "
-        "or .png file is a "
-        "picture of pixels; no ship above mass 100 gets one without --map. An .svg or .pdf file "
-        "has lines and text, sharp at any size, and says what is aboard and how it is played. A "
-        ".pdf takes any number of ships; the marks between small ones that share a page show where "
-        "to cut. They share one only if all of their text has room there, four of them mostly with "
-        "--plain. Its date is that of the ship file, or SOURCE_DATE_EPOCH of the environment. All "
-        "but a .bmp carry their ship: other commands take them in the place of its file. The "
-        "pictures must have been unpacked.",
+        "best. A folder is made if it is not there, and gets a file each, a .bmp or what --format "
+        "says, named after the ship file or, for a code, after the ship. Maps that cannot be used "
+        "are named as errors. A .bmp or .png file is a picture of pixels; no ship above mass 100 "
+        "gets one without --map. An .svg or .pdf file has lines and text, sharp at any size, and "
+        "says what is aboard and how it is played. A .pdf takes any number of ships; the marks "
+        "between small ones that share a page show where to cut. They share one only if all of "
+        "their text has room there, four of them mostly with --plain. Its date is that of the ship "
+        "file, or SOURCE_DATE_EPOCH of the environment; a code has none. All but a .bmp "
+        "carry their ship: other commands take them in the place of its file. The pictures must "
+        "have been unpacked.",
     .check = checkSheet,
     .run = runSheet,
 };

@@ -84,6 +84,15 @@ TEST_F(DesktopTest, StartedWithASheetByItsUrlItShowsTheShipInIt) {
     window->waitFor(expectedOf(ship));
 }
 
+TEST_F(DesktopTest, StartedWithACodeItShowsTheDesignInIt) {
+    const std::string ship = path("ships/Provost.shp");
+    std::string code = tool({"code", ship});
+    code.pop_back();
+    startProgram(code.c_str());
+    window.emplace();
+    window->waitFor(expectedOf(ship));
+}
+
 TEST_F(DesktopTest, SettingsWithTheKeyboardAlone) {
     start();
     press("Alt_L");
