@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             ShipClass loaded(services);
             checkShip(ship, loaded);
         }
-    } catch (const JsonError& error) {
+    } catch (const FaultError& error) {
         const Fault fault = error.fault();
         require(fault.line >= 1 && fault.line <= 1 + std::ranges::count(json, '\n'),
                 "a fault is in a line of the file");

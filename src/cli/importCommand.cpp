@@ -2,6 +2,7 @@
 
 #include "CatalogueFile.h"
 #include "Error.h"
+#include "FaultError.h"
 #include "ShipClass.h"
 #include "console.h"
 #include "paths.h"
@@ -56,7 +57,7 @@ public:
             m_file = file;
             try {
                 takeFile();
-            } catch (const JsonError& error) {
+            } catch (const FaultError& error) {
                 refuse(error.fault());
             } catch (const Error& error) {
                 refuse({0, faultOf(nativePath(file), error)});

@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include "Error.h"
+#include "FaultError.h"
 #include "SheetSupplies.h"
 #include "ShipFileLine.h"
 #include "ShipOnScreen.h"
@@ -73,17 +74,6 @@ void checkIsShip(const std::string& fileOrCode) {
     throw FileError(file, "is no ship file");
 }
 
-/// A ship file does not load.
-class LoadError : public Error {
-public:
-    explicit LoadError(const Fault& fault) : Error(fault.text), m_line(fault.line) {}
-
-    Fault fault() const { return {m_line, what()}; }
-
-private:
-    int m_line;
-};
-
 /// Draws what files show.
 class Thumbnails {
 public:
@@ -116,7 +106,7 @@ private:
     SheetRecord shipIn(const std::string& file) {
         checkIsShip(file);
         if (const std::optional<Fault> fault = m_screen.load(file)) {
-            throw LoadError(*fault);
+            throw FaultError(*fault);
         }
         try {
             if (m_supplies) {
@@ -160,7 +150,7 @@ int runThumbnail(const Options& options) {
             Thumbnails(options).pngOf(file, wholeNumber(options.value("--size")));
         saveResult(nativePath(options.words.back()), png);
         return Done;
-    } catch (const LoadError& error) {
+    } catch (const FaultError& error) {
         complain(complaint(file, error.fault()));
     } catch (const Error& error) {
         complain(complaint(nativePath(file), error));

@@ -188,9 +188,9 @@ bool JsonReader::end_object() {
          isShip ? std::span<const Field>(shipFields) : std::span<const Field>(systemFields)) {
         if (field.isNeeded && std::ranges::find(there, &field) == there.end()) {
             const JsonShip& ship = m_ships.back();
-            throw JsonError(isShip ? ship.line : ship.systemLines.back(),
-                            std::string(isShip ? "a ship" : "a system") + " without " +
-                                quote(field.key));
+            throw FaultError(
+                {isShip ? ship.line : ship.systemLines.back(),
+                 std::string(isShip ? "a ship" : "a system") + " without " + quote(field.key)});
         }
     }
     return true;
@@ -254,7 +254,7 @@ void JsonReader::failUnwanted() {
 }
 
 void JsonReader::fail(const std::string& fault) {
-    throw JsonError(line(), fault);
+    throw FaultError({line(), fault});
 }
 
 /// The line that the parser has come to. It has read one character beyond a number, which may be a

@@ -24,7 +24,7 @@ class JsonReader : private nlohmann::json_sax<nlohmann::json> {
 public:
     explicit JsonReader(const std::string& text) : m_text(text), m_stream(text) {}
 
-    /// Can be called once. Throws JsonError.
+    /// Can be called once. Throws FaultError.
     std::vector<JsonShip> read();
 
 private:

@@ -2,8 +2,7 @@
 
 // Ship files as JSON and back; docs/ship.schema.json and docs/file-formats.md describe it.
 
-#include "Error.h"
-#include "Fault.h"
+#include "FaultError.h"
 #include "ShipDesign.h"
 
 #include <string>
@@ -36,18 +35,7 @@ struct JsonShip {
     int lineOf(int shipFileLine) const;
 };
 
-/// What is wrong with a JSON text, and in which line.
-class JsonError : public Error {
-public:
-    JsonError(int line, const std::string& fault) : Error(fault), m_line(line) {}
-
-    Fault fault() const { return {m_line, what()}; }
-
-private:
-    int m_line;
-};
-
-/// The ship or the ships of a JSON text. Figures are passed over. Throws JsonError for what is no
+/// The ship or the ships of a JSON text. Figures are passed over. Throws FaultError for what is no
 /// JSON, does not keep to the schema, or has a text that no ship file can hold.
 std::vector<JsonShip> shipsInJson(const std::string& json);
 
