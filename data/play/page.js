@@ -66,7 +66,7 @@ class Page {
             save: () => this.save(),
             load: () => byId('file').click(),
             print: () => window.print(),
-            newGame: () => this.game.act('New game', freshState(this.fleet)),
+            newGame: () => this.startAnew(),
             theme: () => this.nextTheme(),
         };
         for (const [id, act] of Object.entries(acts)) {
@@ -159,6 +159,11 @@ class Page {
     openMenu(isOpen) {
         byId('menu').hidden = !isOpen;
         byId('more').setAttribute('aria-expanded', String(isOpen));
+    }
+
+    startAnew() {
+        this.game.act('New game', freshState(this.fleet));
+        this.openMenu(false);
     }
 
     turnTo(turn) {

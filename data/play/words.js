@@ -106,7 +106,8 @@ function kindList(sheet, marks, kind) {
 // All that is to be known of a ship, sentence by sentence.
 function shipWords(sheet, marks) {
     const lists = markKinds.map((kind) => kindList(sheet, marks, kind)).filter((list) => list !== '');
-    return [damageWords(sheet, marks), ...(lists.length > 0 ? lists : ['All systems work'])];
+    const whole = isLost(sheet, marks) ? [] : ['All systems work'];
+    return [damageWords(sheet, marks), ...(lists.length > 0 ? lists : whole)];
 }
 
 // The same in a few letters, for the list of ships.

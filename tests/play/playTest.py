@@ -8,6 +8,7 @@ import sys
 import time
 
 from Browser import Browser
+from toolFolder import make_page, tool_folder
 
 SHIPS = ["<b>One</b>", "<img src=x onerror=alert(1)>", "\u202e</script><script>alert(2)</script>\u2028"]
 GREAT_SHIPS = ["Anvil-Roads", "Weigh-Station-Nine", "Widow-Tarrant", "Deep-Undertow", "Monitor-Ironmonger",
@@ -69,6 +70,14 @@ def tap_drawn(list_name, number):
     }})()"""))
 
 
+def lost():
+    browser.tap("document.querySelectorAll('.tab')[1]")
+    for _ in range(8):
+        browser.tap(shown(".hit"))
+    expect(words(), "Lost: no damage point left", "a ship that is lost")
+    browser.tap("document.querySelectorAll('.tab')[0]")
+
+
 def damage_boxes():
     browser.tap(box(2))
     expect(crossed(), "..x.....", "a tap on the third box")
@@ -107,6 +116,12 @@ def systems():
     choose("Whole")
     expect(words().split("|")[1], "Damaged: Thrust Drive 6", "a system whole again")
     expect(browser.run(f"{shown('.marks')}.querySelectorAll('path.damaged').length"), 1, "marks on the drawing")
+    tap_drawn("pieces", 0)
+    choose("Used up")
+    expect(words().split("|")[1:], ["Damaged: Thrust Drive 6", "Used up: " + name], "a system used up")
+    expect(said(), f"<b>One</b>: {name} is used up", "what is said of it")
+    marks = browser.run(f"[...{shown('.marks')}.querySelectorAll('path')].map(e => e.className.baseVal).join()")
+    expect(marks.replace("halo,", "").replace("crossed,", ""), "used,damaged", "how it is marked on the drawing")
 
 
 def undo_and_turns():
@@ -143,6 +158,8 @@ def load(text):
 
 def files(marks):
     browser.tap(by_id("more"))
+    expect(browser.run("(scrollTo(0, 1e6), document.getElementById('save').getBoundingClientRect().top > 0)"), True,
+           "More on a page that is scrolled")
     browser.tap(by_id("save"))
     saved = pathlib.Path(browser.folder) / "script-alert-1-script-turn-2.json"
     end = time.monotonic() + 20
@@ -211,6 +228,11 @@ def fingers():
                             ".filter(([r]) => r.width && (r.width < 38 || r.height < 44))"
                             ".map(([, e]) => e.textContent || e.ariaLabel)")
         expect(small, [], f"small buttons at {width}")
+        drawn = f"{shown('.drawing svg')}.getBoundingClientRect().width"
+        before = browser.run(drawn)
+        browser.tap(shown(".sheet button"))
+        expect(browser.run(drawn) > before, True, f"a drawing that is enlarged at {width}")
+        browser.tap(shown(".sheet button"))
 
 
 def without_storage():
@@ -227,12 +249,7 @@ def without_storage():
 def make_pages(folder):
     """The page, and one of another fleet with the same ships."""
     tool, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
-    own = folder / "app"
-    own.mkdir()
-    for file in tool.parent.iterdir():
-        if file.name != "images":
-            (own / file.name).symlink_to(file)
-    (own / "images").symlink_to(pictures / "images")
+    own = tool_folder(folder, tool, pictures)
     same = ["ship = app/ships/Sparrow-Toll.shp", f"count = {len(SHIPS)}", *(f"named = {ship}" for ship in SHIPS)]
     great = [f"ship = app/ships/{ship}.shp" for ship in GREAT_SHIPS]
     pages = []
@@ -240,8 +257,7 @@ def make_pages(folder):
         fleet = folder / "a.fleet"
         fleet.write_text("\n".join(["FleetWright fleet 1", f"name = {name}", "note = <u>All</u>", *ships, ""]))
         pages.append(str(folder / f"page{len(pages)}.html"))
-        subprocess.run([tool, "--app", own, "fleet", fleet, "--play", pages[-1]],
-                       check=True, stdout=subprocess.DEVNULL)
+        make_page(tool, own, fleet, pages[-1])
     texts = [pathlib.Path(page).read_bytes() for page in pages]
     expect(texts[1] == texts[2], True, "the same bytes twice")
     expect(len(texts[1]) < 1000000, True, f"ten great ships in a megabyte, which take {len(texts[1])}")
@@ -252,6 +268,7 @@ browser = Browser(768, 1024)
 try:
     page, other = make_pages(pathlib.Path(browser.folder))
     browser.open(page)
+    lost()
     damage_boxes()
     systems()
     undo_and_turns()
