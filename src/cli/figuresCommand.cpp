@@ -9,8 +9,6 @@ namespace fleetwright {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 int runFigures(const Options& options) {
     return forEachShip(options, RefusedLines::InOutput,
                        [&options](std::size_t index, ShipOnScreen& screen) {

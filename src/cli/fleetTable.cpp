@@ -14,7 +14,6 @@ namespace fleetwright {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
 using Cells = std::vector<std::string>;
 using Align = TextColumns::Align;
 

@@ -8,8 +8,6 @@
 
 namespace fleetwright {
 
-using Json = nlohmann::ordered_json;
-
 Json figuresJson(const ShipClass& ship) {
     return {{"cost", ship.g_lCost},  {"dp", ship.g_iDP},         {"damRows", ship.g_iDamRows},
             {"dcp", ship.g_iDCP},    {"fcs", ship.g_iFCS},       {"massLeft", ship.g_iMassLeft},

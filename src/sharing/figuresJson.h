@@ -10,15 +10,18 @@ namespace fleetwright {
 
 class ShipClass;
 
+/// An object whose keys keep their order.
+using Json = nlohmann::ordered_json;
+
 /// Cost, damage points and so on to the name of the size.
-nlohmann::ordered_json figuresJson(const ShipClass& ship);
+Json figuresJson(const ShipClass& ship);
 
 /// The systems aboard: name, amount, and mass and cost of all pieces together.
-nlohmann::ordered_json systemsJson(ShipClass& ship);
+Json systemsJson(ShipClass& ship);
 
 /// JSON of which all characters do nothing but show: others stand in its texts as \u and their
 /// number. What is no UTF-8, as names of files can be, is replaced. On one line, or with so many
 /// blanks for each level.
-std::string jsonText(const nlohmann::ordered_json& json, int indent = -1);
+std::string jsonText(const Json& json, int indent = -1);
 
 }  // namespace fleetwright

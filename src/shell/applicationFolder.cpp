@@ -11,6 +11,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 #include <string>
 #include <string_view>
@@ -42,8 +43,8 @@ std::string stateOf(const fs::path& delivered, const std::vector<fs::path>& name
         const fs::directory_entry entry(delivered / name);
         state += name.generic_string() + '\n';
         if (entry.is_regular_file()) {
-            const auto time = entry.last_write_time().time_since_epoch().count();
-            state += std::to_string(entry.file_size()) + ' ' + std::to_string(time) + '\n';
+            const std::chrono::nanoseconds time = entry.last_write_time().time_since_epoch();
+            state += std::to_string(entry.file_size()) + ' ' + std::to_string(time.count()) + '\n';
         }
     }
     return fingerprint(state);

@@ -7,6 +7,7 @@
 #include "TemporaryFile.h"
 #include "TemporaryFolder.h"
 #include "saveFile.h"
+#include "testSystem.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ std::optional<FileCall> forbiddenFor(const std::string& kind) {
 /// A folder with the target of a save, and one for what is put aside.
 struct Place {
     explicit Place(const std::string& kind) : isNew(kind == "new"), forbidden(forbiddenFor(kind)) {
-        setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
+        setVariable(userDataVariable, folder.path().string());
         fs::create_directory(folder.path() / "here");
         if (!isNew) {
             folder.write("here/ship.shp", oldContents);
@@ -46,7 +47,7 @@ struct Place {
     }
     Place(const Place&) = delete;
     Place& operator=(const Place&) = delete;
-    ~Place() { unsetenv("XDG_DATA_HOME"); }
+    ~Place() { unsetVariable(userDataVariable); }
 
     std::string contents() const { return folder.read("here/ship.shp"); }
     bool isAsBefore() const { return isNew ? !fs::exists(target) : contents() == oldContents; }

@@ -2,13 +2,13 @@
 #include "formula_calculate.h"
 #include "runCommand.h"
 #include "testShip.h"
+#include "testSystem.h"
 #include "wholeNumber.h"
 
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <cstdio>
-#include <cstdlib>
 #include <locale>
 
 using namespace fleetwright;
@@ -33,7 +33,7 @@ TEST(Locale, OfTheProcessMakesNoDifference) {
     // It complains about what the source leaves out, and writes the rest.
     runCommand("localedef -c -i " + source + " -f UTF-8 " + (folder.path() / "comma").string() +
                " 2>&1");
-    ASSERT_EQ(setenv("LOCPATH", folder.path().c_str(), 1), 0);
+    setVariable("LOCPATH", folder.path().string());
     ASSERT_NE(std::setlocale(LC_ALL, "comma"), nullptr) << "localedef has failed";
     std::locale::global(std::locale("comma"));
     char text[10];
@@ -50,5 +50,5 @@ TEST(Locale, OfTheProcessMakesNoDifference) {
     EXPECT_NE(file.find("System: Gun, 1000\r\n"), std::string::npos);
 
     std::locale::global(std::locale::classic());
-    unsetenv("LOCPATH");
+    unsetVariable("LOCPATH");
 }

@@ -183,6 +183,16 @@ TEST(WindowPictures, AreResourcesInTheirSizes) {
     EXPECT_EQ(sharp.size(), 1U + 7U + 2U + 9U + 2U);  // tray, roots, tree, thrusts, drives
 }
 
+TEST(ProgramIcon, HoldsThoseOfTheWindowsForWindows) {
+    QImageReader reader(PICTURES_FOLDER "/fleetwright.ico");
+    EXPECT_EQ(reader.imageCount(), 6);
+    for (const int edge : {16, 24, 32, 48, 64, 256}) {
+        EXPECT_EQ(reader.read(), picture(":/pictures/icon-" + std::to_string(edge) + ".png")
+                                     .convertToFormat(QImage::Format_ARGB32));
+        reader.jumpToNextImage();
+    }
+}
+
 TEST(Renderer, TheSameSourcesGiveTheSameBytesAndTheSplashPicturesShowTheVersion) {
     const std::string differ[] = {"",
                                   PICTURES_FOLDER "/drawings.dat differ\n" PICTURES_FOLDER

@@ -9,6 +9,7 @@
 #include "faults.h"
 #include "leftovers.h"
 #include "paths.h"
+#include "testSystem.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,7 @@ namespace fs = std::filesystem;
 class Folders {
 public:
     Folders() {
-        setenv("XDG_DATA_HOME", m_root.path().c_str(), 1);
+        setVariable(userDataVariable, m_root.path().string());
         m_root.write("lib/w_dll.dll", "module");
         fs::create_directory_symlink("../share", m_root.path() / "lib/delivered");
         fs::create_directories(m_root.path() / "share/ssds");
@@ -36,8 +37,8 @@ public:
     Folders(const Folders&) = delete;
     Folders& operator=(const Folders&) = delete;
     ~Folders() {
-        setenv("HOME", m_home.c_str(), 1);
-        unsetenv("XDG_DATA_HOME");
+        setVariable("HOME", m_home);
+        unsetVariable(userDataVariable);
     }
 
     std::string run(const std::string& acts) {
@@ -92,8 +93,8 @@ private:
             {"open", [&] { fs::permissions(file, fs::perms::all); }},
             {"link", [&] { fs::create_symlink(m_root.path() / text, file); }},
             {"tidy", [&] { takeLeftoversAway(userDataFolder()); }},
-            {"set", [&] { setenv(name.c_str(), text.c_str(), 1); }},
-            {"unset", [&] { unsetenv(name.c_str()); }},
+            {"set", [&] { setVariable(name, text); }},
+            {"unset", [&] { unsetVariable(name); }},
             {"ask", [&] { m_log += replaced(userDataFolder(), m_passwd, "PASSWD"); }}};
         acts.at(act)();
     }

@@ -14,8 +14,6 @@
 
 #include <sstream>
 
-#include <sys/stat.h>
-
 using namespace fleetwright;
 namespace fs = std::filesystem;
 
@@ -121,11 +119,9 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
     folder.write("maps/broken.map", "SIZE: big");
     folder.write("maps/garbled.map", std::string("SIZE\0:\xFF\x1B\nDCP: \xFE\n", 16));
     folder.write("maps/Éclair.map", "SIZE: 5");
-    for (const char* const name : {"éclair.map", "Gamma.MAP", "notes.txt", "x.mapx", "y.map/x"}) {
+    for (const char* const name : {"Gamma.MAP", "notes.txt", "x.mapx", "y.map/x"}) {
         folder.write(std::string("maps/") + name, "SIZE: 7");
     }
-    fs::create_symlink("nowhere", folder.path() / "maps/link.map");
-    ASSERT_EQ(mkfifo((folder.path() / "maps/pipe.map").c_str(), 0600), 0);
     SSDMaps maps;
     std::int16_t largest = 0;
     std::string shown;
@@ -134,11 +130,9 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
         shown += complaint(map.file.filename().string(), map.fault) + '\n';
     }
     EXPECT_EQ(shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n"
-                     "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n"
+                     "Adding SSD Map: Éclair\n"
                      "broken.map:1: \"big\" is no number\n"
-                     "garbled.map:2: \"þ\" is too short for a point\n"
-                     "link.map: cannot be read: No such file or directory\n"
-                     "pipe.map: cannot be read: Not a plain file\n");
+                     "garbled.map:2: \"þ\" is too short for a point\n");
     EXPECT_EQ(largest, 100);
     const auto fitting = [&maps](std::int32_t mass, std::int32_t systems) {
         std::string names;

@@ -1,21 +1,15 @@
 #include "TemporaryFolder.h"
 
-#include <cstdlib>
+#include "testSystem.h"
+
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 
 namespace fleetwright {
 
 namespace fs = std::filesystem;
 
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (fs::temp_directory_path() / "fleetwright-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-    m_path = name;
-}
+TemporaryFolder::TemporaryFolder() : m_path(newTemporaryFolder()) {}
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;

@@ -6,9 +6,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <sstream>
-
-#include <unistd.h>
 
 namespace fleetwright {
 
@@ -71,8 +70,8 @@ void expectCases(const std::string& file, const std::function<std::string(const 
     }
     if (testing::Test::HasFailure()) {
         // Of another name in each run, since several may run at once.
-        const std::string kept =
-            testing::TempDir() + std::to_string(getpid()) + '-' + path.filename().string();
+        const std::string kept = testing::TempDir() + std::to_string(std::random_device()()) + '-' +
+                                 path.filename().string();
         std::ofstream(kept, std::ios::binary) << renewed.substr(0, renewed.size() - 1);
         ADD_FAILURE() << "what " << file << " would be now stands in " << kept;
     }

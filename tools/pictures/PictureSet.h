@@ -32,6 +32,9 @@ PictureSet cataloguePictures(const Artwork& artwork, const Catalogue& catalogue)
 /// The pictures that sheets are pasted together from besides those of systems.
 PictureSet sheetPictureFiles(const Artwork& artwork);
 
+/// The icon of a program for Windows: those of the windows, in one file.
+std::string programIconFile(const PictureSet& window);
+
 /// The pictures that the windows bring along: roots of the tree, buttons, faces, icons, splash.
 PictureSet windowPictures(const Artwork& artwork);
 

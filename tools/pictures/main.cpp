@@ -76,6 +76,7 @@ void run(char** arguments) {
     writeSet(out / "window", window);
     writeSet(out / "shipimages", outlines);
     writeFile(out / "window" / "window.qrc", resourceList(window));
+    writeFile(out / "fleetwright.ico", programIconFile(window));
     writeFile(out / "drawings.dat", drawingPack({systems, window, outlines}));
     writeFile(out / "blaster.wav", waveFile(artwork.file("blaster.txt")));
 }

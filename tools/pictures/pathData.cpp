@@ -32,10 +32,10 @@ std::string lineData(const QPainterPath& path, int begin, int end) {
 }  // namespace
 
 std::string shortNumber(double number) {
-    constexpr int parts = 100;
-    const long long hundredths = std::llround(number * parts);
-    std::string text = std::to_string(std::abs(hundredths) / parts);
-    if (const long long rest = std::abs(hundredths) % parts; rest != 0) {
+    constexpr int inWhole = 100;
+    const long long hundredths = std::llround(number * inWhole);
+    std::string text = std::to_string(std::abs(hundredths) / inWhole);
+    if (const long long rest = std::abs(hundredths) % inWhole; rest != 0) {
         text += '.' + std::to_string(rest / 10);
         text += rest % 10 == 0 ? "" : std::to_string(rest % 10);
     }

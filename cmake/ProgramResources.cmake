@@ -1,0 +1,17 @@
+# fleetwright_resources(TARGET FILE DESCRIPTION): gives a program for Windows its icon, its version and
+# its manifest: UTF-8 as the code page, scaling by monitor, long paths. Elsewhere it does nothing.
+function(fleetwright_resources target file description)
+  if(NOT WIN32)
+    return()
+  endif()
+  set(icon ${FLEETWRIGHT_PICTURES_DIR}/fleetwright.ico)
+  set(manifest ${CMAKE_CURRENT_BINARY_DIR}/${target}.manifest)
+  string(REPLACE "." "," version ${PROJECT_VERSION}.0)
+  set(templates ${CMAKE_SOURCE_DIR}/packaging/windows)
+  configure_file(${templates}/program.manifest.in ${manifest} @ONLY)
+  set(resources ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+  configure_file(${templates}/program.rc.in ${resources} @ONLY)
+  set_source_files_properties(${resources} PROPERTIES OBJECT_DEPENDS "${manifest};${icon}")
+  target_sources(${target} PRIVATE ${resources})
+  add_dependencies(${target} pictures)
+endfunction()
