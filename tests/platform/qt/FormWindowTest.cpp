@@ -116,9 +116,15 @@ TEST_F(FormWindowTest, AKeyGoesToItsBoxFirstAndThenToTheForm) {
         QApplication::sendEvent(&name, &event);
         return event.isAccepted();
     };
+    form.name.setText("marked");
     for (const bool isLocked : {true, false}) {
         form.name.setLocked(isLocked);
         EXPECT_EQ(isOfText(Qt::Key_A), !isLocked);
+        EXPECT_EQ(isOfText(Qt::Key_V), !isLocked);
+        name.deselect();
+        EXPECT_EQ(isOfText(Qt::Key_C), !isLocked);
+        name.selectAll();
+        EXPECT_TRUE(isOfText(Qt::Key_C));
     }
     EXPECT_FALSE(isOfText(Qt::Key_Z));
     QTest::keyClick(&name, Qt::Key_B);
