@@ -17,6 +17,8 @@ endif()
 
 file(MAKE_DIRECTORY ${TARGET}/fleets ${TARGET}/ships ${TARGET}/maps ${TARGET}/shipimages ${TARGET}/ssds)
 foreach(name IN LISTS wanted)
+  cmake_path(GET name PARENT_PATH folder)
+  file(MAKE_DIRECTORY ${TARGET}/${folder})
   file(COPY_FILE ${SOURCE}/${name} ${TARGET}/${name} ONLY_IF_DIFFERENT)
 endforeach()
 file(COPY_FILE ${WANTED} ${COPIED})

@@ -17,11 +17,16 @@ function(fleetwright_harden variable flag)
 endfunction()
 
 fleetwright_harden(HAS_STACK_PROTECTOR -fstack-protector-strong)
-fleetwright_harden(HAS_STACK_CLASH_PROTECTION -fstack-clash-protection)
-if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
-  fleetwright_harden(HAS_CONTROL_FLOW_PROTECTION -fcf-protection)
-elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
-  fleetwright_harden(HAS_BRANCH_PROTECTION -mbranch-protection=standard)
+if(WIN32)
+  # The check of the stack is in a library of its own. What stands below breaks the compiler there.
+  add_link_options(-fstack-protector-strong)
+else()
+  fleetwright_harden(HAS_STACK_CLASH_PROTECTION -fstack-clash-protection)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i.86)$")
+    fleetwright_harden(HAS_CONTROL_FLOW_PROTECTION -fcf-protection)
+  elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+    fleetwright_harden(HAS_BRANCH_PROTECTION -mbranch-protection=standard)
+  endif()
 endif()
 # Checks of the library of C that the compiler puts in while it optimizes. The third level knows
 # sizes that are known only at run time.

@@ -152,7 +152,7 @@ std::string packed(std::string_view text) {
         throw std::bad_alloc();
     }
     deflateSetDictionary(&stream, zlibBytes(designDictionary()), zlibSize(designDictionary()));
-    std::string bytes(deflateBound(&stream, text.size()), '\0');
+    std::string bytes(deflateBound(&stream, zlibSize(text)), '\0');
     stream.next_in = zlibBytes(text);
     stream.avail_in = zlibSize(text);
     stream.next_out = zlibBytes(bytes);
