@@ -20,13 +20,21 @@ public:
     std::string message(int) const override { return "Not a plain file"; }
 };
 
+/// An error in the words that it has on every system.
+std::error_code inCommonWords(const std::error_code& error) {
+    const std::error_condition meaning = error.default_error_condition();
+    return meaning.category() == std::generic_category()
+               ? std::error_code(meaning.value(), meaning.category())
+               : error;
+}
+
 template <typename Call>
 std::error_code unlessObjected(FileCall call, const fs::path& path, Call make) {
     std::error_code error = objection(call, path);
     if (!error) {
         make(error);
     }
-    return error;
+    return inCommonWords(error);
 }
 
 fs::path orCurrent(const fs::path& folder) {

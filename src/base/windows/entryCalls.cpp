@@ -29,8 +29,12 @@ bool isDevice(const fs::path& name) {
     if (std::find(std::begin(devices), std::end(devices), stem) != std::end(devices)) {
         return true;
     }
-    const bool hasNumber = stem.size() == 4 && stem[3] >= '1' && stem[3] <= '9';
-    return hasNumber && (stem.starts_with("COM") || stem.starts_with("LPT"));
+    const std::string_view number =
+        std::string_view(stem).substr(std::min<std::size_t>(stem.size(), 3));
+    constexpr std::string_view numbers[] = {"1", "2", "3", "4",      "5",      "6",
+                                            "7", "8", "9", "\u00B9", "\u00B2", "\u00B3"};
+    return (stem.starts_with("COM") || stem.starts_with("LPT")) &&
+           std::find(std::begin(numbers), std::end(numbers), number) != std::end(numbers);
 }
 
 }  // namespace
@@ -60,13 +64,15 @@ std::error_code syncFolder(const fs::path&) {
 }
 
 std::error_code mayWrite(const fs::path& file) {
-    const DWORD attributes = GetFileAttributesW(file.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) {
+    // Its access list is not for us to read: the system says what comes of it.
+    const HANDLE handle = CreateFileW(file.c_str(), FILE_WRITE_DATA,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
         return systemError();
     }
-    return (attributes & FILE_ATTRIBUTE_READONLY) == 0
-               ? std::error_code()
-               : std::make_error_code(std::errc::permission_denied);
+    CloseHandle(handle);
+    return {};
 }
 
 const char* whyNoName(const fs::path& file) {

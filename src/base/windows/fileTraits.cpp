@@ -20,9 +20,17 @@ std::error_code copyAccessList(const fs::path& from, OpenFile& to) {
     DWORD failure = GetNamedSecurityInfoW(from.c_str(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION,
                                           nullptr, nullptr, &list, nullptr, &descriptor);
     if (failure == ERROR_SUCCESS) {
+        SECURITY_DESCRIPTOR_CONTROL control = 0;
+        DWORD revision = 0;
+        GetSecurityDescriptorControl(descriptor, &control, &revision);
+        // Whether it takes over what its folder's list says.
+        const DWORD inheriting = (control & SE_DACL_PROTECTED) != 0
+                                     ? PROTECTED_DACL_SECURITY_INFORMATION
+                                     : UNPROTECTED_DACL_SECURITY_INFORMATION;
         std::wstring file = to.path().wstring();
-        failure = SetNamedSecurityInfoW(file.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION,
-                                        nullptr, nullptr, list, nullptr);
+        failure = SetNamedSecurityInfoW(file.data(), SE_FILE_OBJECT,
+                                        DACL_SECURITY_INFORMATION | inheriting, nullptr, nullptr,
+                                        list, nullptr);
         LocalFree(descriptor);
     }
     SetLastError(failure);

@@ -27,10 +27,10 @@ int open(const std::filesystem::path& file, OpenFile::Use use) {
     constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     // A link that is to be written to would be opened itself, which `isPlain` refuses.
     const DWORD links = use == OpenFile::Use::Write ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
-    const HANDLE handle = CreateFileW(
-        file.c_str(), reads ? GENERIC_READ : GENERIC_WRITE | FILE_READ_ATTRIBUTES | WRITE_DAC,
-        sharing, nullptr, use == OpenFile::Use::Create ? CREATE_NEW : OPEN_EXISTING,
-        FILE_ATTRIBUTE_NORMAL | links, nullptr);
+    const HANDLE handle =
+        CreateFileW(file.c_str(), reads ? GENERIC_READ : GENERIC_WRITE | FILE_READ_ATTRIBUTES,
+                    sharing, nullptr, use == OpenFile::Use::Create ? CREATE_NEW : OPEN_EXISTING,
+                    FILE_ATTRIBUTE_NORMAL | links, nullptr);
     if (handle == INVALID_HANDLE_VALUE) {
         setErrno();
         return -1;

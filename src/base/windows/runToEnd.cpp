@@ -33,8 +33,9 @@ bool runToEnd(const fs::path& program, const std::string& argument, const fs::pa
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};
-    // No console window flashes up for it.
-    if (CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
+    // No console window flashes up for it: it shares that which is there, if there is one.
+    const DWORD window = GetConsoleWindow() == nullptr ? CREATE_NO_WINDOW : 0;
+    if (CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, TRUE, window, nullptr,
                        folder.c_str(), &start, &process) == 0) {
         return false;
     }
