@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 
 namespace fleetwright {
@@ -29,7 +30,7 @@ public:
 private:
     enum class State { Held, WithOthers, Gone, Unknown };
 
-    int m_file = -1;
+    std::intptr_t m_file = -1;  // by which the system knows it
     State m_state = State::Unknown;
 };
 

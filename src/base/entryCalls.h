@@ -3,6 +3,7 @@
 // What the system does with names of files and folders, one source a system. The error is empty
 // where all went well.
 
+#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
@@ -21,6 +22,8 @@ std::error_code makePrivateFolder(const std::filesystem::path& folder);
 std::error_code syncFolder(const std::filesystem::path& folder);
 /// Whether the user may write to a file that is there.
 std::error_code mayWrite(const std::filesystem::path& file);
+/// How many names a file has; 0 if the system does not say.
+std::uintmax_t nameCount(const std::filesystem::path& file);
 /// Why no file can have this name, in words; empty if one can.
 const char* whyNoName(const std::filesystem::path& file);
 

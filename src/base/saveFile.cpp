@@ -121,8 +121,8 @@ std::uintmax_t otherNames(const fs::path& target) {
     std::error_code error;
     const fs::path file = linkTarget(target);
     const bool isFile = fs::is_regular_file(file, error);
-    const std::uintmax_t names = isFile ? fs::hard_link_count(file, error) : 0;
-    return names == 0 || error ? 0 : names - 1;
+    const std::uintmax_t names = isFile ? entryCalls::nameCount(file) : 0;
+    return names == 0 ? 0 : names - 1;
 }
 
 }  // namespace

@@ -29,20 +29,21 @@ FileLock::FileLock(const std::filesystem::path& path, IfTaken ifTaken) {
     if (objection(FileCall::Lock, path)) {
         return;
     }
-    m_file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int opened = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    m_file = opened;
     struct stat file {};
-    if (m_file < 0) {
+    if (opened < 0) {
         m_state = errno == ENOENT ? State::Gone : State::Unknown;
-    } else if (!isLocked(m_file, ifTaken)) {
+    } else if (!isLocked(opened, ifTaken)) {
         m_state = errno == EWOULDBLOCK ? State::WithOthers : State::Unknown;
-    } else if (fstat(m_file, &file) == 0) {
+    } else if (fstat(opened, &file) == 0) {
         m_state = file.st_nlink == 0 ? State::Gone : State::Held;
     }
 }
 
 FileLock::~FileLock() {
     if (m_file >= 0) {
-        close(m_file);
+        close(static_cast<int>(m_file));
     }
 }
 

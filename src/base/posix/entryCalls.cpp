@@ -66,6 +66,12 @@ std::error_code mayWrite(const fs::path& file) {
     return errorUnless(faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) == 0);
 }
 
+std::uintmax_t nameCount(const fs::path& file) {
+    std::error_code error;
+    const std::uintmax_t names = fs::hard_link_count(file, error);
+    return error ? 0 : names;
+}
+
 const char* whyNoName(const fs::path&) {
     return "";
 }

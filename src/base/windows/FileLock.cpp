@@ -2,9 +2,9 @@
 
 #include "fileCalls.h"
 
-#include <fcntl.h>
-#include <io.h>
 #include <windows.h>
+
+#include <string>
 
 namespace fleetwright {
 
@@ -30,6 +30,30 @@ bool isGone(HANDLE file) {
            (about.DeletePending != 0 || about.NumberOfLinks == 0);
 }
 
+/// A folder has no bytes to lock. Who has made something of this name has it, whatever became of
+/// its own name; it goes with the process, however that ends. Null if others have it.
+HANDLE lockOfFolder(const BY_HANDLE_FILE_INFORMATION& folder) {
+    const std::wstring name =
+        L"Global\\FleetWright-" + std::to_wstring(folder.dwVolumeSerialNumber) + L'-' +
+        std::to_wstring(folder.nFileIndexHigh) + L'-' + std::to_wstring(folder.nFileIndexLow);
+    const HANDLE lock = CreateEventW(nullptr, TRUE, FALSE, name.c_str());
+    if (lock == nullptr || GetLastError() != ERROR_ALREADY_EXISTS) {
+        return lock;
+    }
+    CloseHandle(lock);
+    return nullptr;
+}
+
+HANDLE lockOfFolder(const BY_HANDLE_FILE_INFORMATION& folder, FileLock::IfTaken ifTaken) {
+    constexpr DWORD pause = 20;  // milliseconds
+    HANDLE lock = lockOfFolder(folder);
+    while (lock == nullptr && ifTaken == FileLock::IfTaken::Wait) {
+        Sleep(pause);
+        lock = lockOfFolder(folder);
+    }
+    return lock;
+}
+
 }  // namespace
 
 FileLock::FileLock(const std::filesystem::path& path, IfTaken ifTaken) {
@@ -47,17 +71,26 @@ FileLock::FileLock(const std::filesystem::path& path, IfTaken ifTaken) {
         m_state = isMissing ? State::Gone : State::Unknown;
         return;
     }
-    if (isLocked(file, ifTaken)) {
+    m_file = reinterpret_cast<std::intptr_t>(file);
+    BY_HANDLE_FILE_INFORMATION about{};
+    if (GetFileInformationByHandle(file, &about) == 0) {
+        return;
+    }
+    if ((about.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        const HANDLE lock = lockOfFolder(about, ifTaken);
+        CloseHandle(file);
+        m_file = lock == nullptr ? -1 : reinterpret_cast<std::intptr_t>(lock);
+        m_state = lock == nullptr ? State::WithOthers : State::Held;
+    } else if (isLocked(file, ifTaken)) {
         m_state = isGone(file) ? State::Gone : State::Held;
     } else {
         m_state = GetLastError() == ERROR_LOCK_VIOLATION ? State::WithOthers : State::Unknown;
     }
-    m_file = _open_osfhandle(reinterpret_cast<intptr_t>(file), _O_RDONLY | _O_NOINHERIT);
 }
 
 FileLock::~FileLock() {
     if (m_file >= 0) {
-        _close(m_file);
+        CloseHandle(reinterpret_cast<HANDLE>(m_file));
     }
 }
 

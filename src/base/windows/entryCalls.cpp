@@ -20,6 +20,11 @@ std::error_code errorUnlessMoved(BOOL isMoved) {
     return isMoved != 0 ? std::error_code() : systemError();
 }
 
+HANDLE openedFor(DWORD access, const fs::path& file) {
+    return CreateFileW(file.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                       nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 /// Names that belong to devices, with whatever ending.
 bool isDevice(const fs::path& name) {
     std::string stem = toCapitals(pathText(name));
@@ -65,14 +70,23 @@ std::error_code syncFolder(const fs::path&) {
 
 std::error_code mayWrite(const fs::path& file) {
     // Its access list is not for us to read: the system says what comes of it.
-    const HANDLE handle = CreateFileW(file.c_str(), FILE_WRITE_DATA,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE handle = openedFor(FILE_WRITE_DATA, file);
     if (handle == INVALID_HANDLE_VALUE) {
         return systemError();
     }
     CloseHandle(handle);
     return {};
+}
+
+std::uintmax_t nameCount(const fs::path& file) {
+    const HANDLE handle = openedFor(FILE_READ_ATTRIBUTES, file);
+    BY_HANDLE_FILE_INFORMATION about{};
+    const bool isKnown =
+        handle != INVALID_HANDLE_VALUE && GetFileInformationByHandle(handle, &about) != 0;
+    if (handle != INVALID_HANDLE_VALUE) {
+        CloseHandle(handle);
+    }
+    return isKnown ? about.nNumberOfLinks : 0;
 }
 
 const char* whyNoName(const fs::path& file) {
