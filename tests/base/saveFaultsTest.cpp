@@ -118,6 +118,9 @@ TEST(SaveFaults, LoseNothingWhicheverCallFailsOrIsTheLast) {
     using Kind = FileFaults::Kind;
     for (const char* const target :
          {"new", "replaced", "linked", "hard link", "no new file", "no rename"}) {
+        if (std::string(target) == "linked" && !canMakeLinks) {
+            continue;
+        }
         std::map<std::string, int> outcomes;
         for (const Kind kind : {Kind::Fails, Kind::IsLast}) {
             int calls = 0;

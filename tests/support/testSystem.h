@@ -9,6 +9,8 @@ namespace fleetwright {
 
 /// The variable of the environment that says where a user's data are.
 extern const char* const userDataVariable;
+/// Whether anybody may make symbolic links.
+extern const bool canMakeLinks;
 
 /// Sets a variable of this process's environment.
 void setVariable(const std::string& name, const std::string& value);

@@ -6,6 +6,7 @@
 namespace fleetwright {
 
 const char* const userDataVariable = "XDG_DATA_HOME";
+const bool canMakeLinks = true;
 
 void setVariable(const std::string& name, const std::string& value) {
     setenv(name.c_str(), value.c_str(), 1);

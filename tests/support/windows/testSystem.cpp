@@ -8,6 +8,7 @@ namespace fleetwright {
 namespace fs = std::filesystem;
 
 const char* const userDataVariable = "APPDATA";
+const bool canMakeLinks = false;
 
 void setVariable(const std::string& name, const std::string& value) {
     _wputenv_s(fs::path(name).c_str(), fs::path(value).c_str());
