@@ -7,6 +7,7 @@
 #include "FileFaults.h"
 #include "FileLock.h"
 #include "FileStamp.h"
+#include "OpenFile.h"
 #include "TemporaryFolder.h"
 #include "readFile.h"
 #include "testSystem.h"
@@ -339,4 +340,32 @@ TEST(PosixFiles, LeavesTheSavesOfOtherProgramsAlone) {
         EXPECT_EQ(status, 0);
     }
     EXPECT_EQ(folder.entries(), 4);
+}
+
+TEST(PosixFiles, AreLinkedAndExchanged) {
+    const TemporaryFolder folder;
+    const fs::path a = folder.write("a", "a"), sub = folder.path() / "sub";
+    fs::create_directory(sub);
+    std::vector<FileCall> calls;
+    hookFileCalls([&calls](FileCall call, const fs::path&) {
+        calls.push_back(call);
+        return std::error_code();
+    });
+    EXPECT_FALSE(makeLink("../a", sub / "link"));
+    std::error_code error;
+    const OpenFile open(sub / "link", OpenFile::Use::Write, error);
+    EXPECT_EQ(error, std::errc::too_many_symbolic_link_levels);
+    EXPECT_FALSE(exchangeForGood(a, sub));
+    EXPECT_TRUE(fs::is_symlink(a / "link") && fs::is_regular_file(sub));
+    EXPECT_EQ(exchangeForGood(a, folder.path() / "none"), std::errc::no_such_file_or_directory);
+    hookFileCalls({});
+    using enum FileCall;
+    EXPECT_EQ(calls, (std::vector{MakeLink, Open, Exchange, SyncFolder, Exchange}));
+}
+
+TEST(PosixFiles, AreNotReadIfTheyAreTooLargeOrNeverEnd) {
+    const TemporaryFolder folder;
+    fs::resize_file(folder.write("huge", ""), std::uintmax_t{1} << 40);
+    EXPECT_THROW(readTextFile(folder.path() / "huge"), FileError);
+    EXPECT_THROW(readTextFile("/dev/zero"), FileError);
 }
