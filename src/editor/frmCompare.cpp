@@ -85,11 +85,8 @@ void frmCompare::showFire(const FirePower& here, const FirePower& other) {
     show(RoseOf::Points, picPointsHere, picPointsOther);
 }
 
-void frmCompare::Form_Activate() {
-    if (std::exchange(m_isNew, false)) {
-        (m_lines.empty() ? static_cast<Control&>(cmdChoose) : lvLines).setFocus();
-    }
-    raise(m_acts.activated);
+void frmCompare::Form_Opened() {
+    (m_lines.empty() ? static_cast<Control&>(cmdChoose) : lvLines).setFocus();
 }
 
 }  // namespace fleetwright

@@ -2,6 +2,7 @@
 
 #include "Button.h"
 #include "CheckBox.h"
+#include "CloseButton.h"
 #include "Form.h"
 #include "Frame.h"
 #include "Label.h"
@@ -90,16 +91,11 @@ public:
                       .toolTip = "Chooses the ship file or the sheet to compare with",
                       .isDefault = true},
                      [this] { m_acts.chooseFile(); }};
-    Button cmdClose{*this,
-                    {.name = "cmdClose",
-                     .place = {10875, 6285, 1575, 375},
-                     .caption = "&Close",
-                     .isCancel = true},
-                    [this] { unload(); }};
+    CloseButton cmdClose{*this, {10875, 6285, 1575, 375}};
 
 protected:
-    void Form_Load() override { m_isNew = true; }
-    void Form_Activate() override;
+    void Form_Opened() override;
+    void Form_Activate() override { raise(m_acts.activated); }
 
 private:
     void showLines();
@@ -107,7 +103,6 @@ private:
 
     Acts m_acts;
     std::vector<ComparedLine> m_lines;
-    bool m_isNew = true;  ///< it has not been the active window since it was loaded
 };
 
 }  // namespace fleetwright

@@ -38,12 +38,6 @@ void frmFindings::setFindings(std::vector<ListView::Row> findings) {
     lvFindings.setContent(std::move(content));
 }
 
-void frmFindings::Form_Activate() {
-    if (std::exchange(m_isNew, false)) {
-        lvFindings.setFocus();
-    }
-}
-
 void frmFindings::cmdGoTo_Click() {
     if (const auto selected = lvFindings.selected()) {
         m_goTo(*selected);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Button.h"
+#include "CloseButton.h"
 #include "Form.h"
 #include "Label.h"
 #include "ListView.h"
@@ -35,22 +36,15 @@ public:
                     .toolTip = "Goes to the control that the selected finding is about",
                     .isDefault = true},
                    [this] { cmdGoTo_Click(); }};
-    Button cmdClose{*this,
-                    {.name = "cmdClose",
-                     .place = {7425, 3285, 1575, 375},
-                     .caption = "&Close",
-                     .isCancel = true},
-                    [this] { unload(); }};
+    CloseButton cmdClose{*this, {7425, 3285, 1575, 375}};
 
 protected:
-    void Form_Load() override { m_isNew = true; }
-    void Form_Activate() override;
+    void Form_Opened() override { lvFindings.setFocus(); }
 
 private:
     void cmdGoTo_Click();
 
     std::function<void(std::size_t)> m_goTo;
-    bool m_isNew = true;  ///< it has not been the active window since it was loaded
 };
 
 }  // namespace fleetwright

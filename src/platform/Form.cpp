@@ -20,7 +20,7 @@ void Form::setCaption(const std::string& caption) {
 
 void Form::load() {
     if (!m_isLoaded) {
-        m_isLoaded = true;
+        m_isLoaded = m_isNew = true;
         Form_Load();
     }
 }

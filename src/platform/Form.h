@@ -4,6 +4,8 @@
 #include "Raster.h"
 #include "Zoom.h"
 
+#include <utility>
+
 namespace fleetwright {
 
 /// What stands around a window.
@@ -71,7 +73,12 @@ public:
     /// Paints the window at once, without a turn of the event loop for anything else.
     void repaint() { RepaintWanted.raise(); }
     /// The window has become the active one.
-    void activate() { Form_Activate(); }
+    void activate() {
+        if (std::exchange(m_isNew, false)) {
+            Form_Opened();
+        }
+        Form_Activate();
+    }
     /// The window has come to the screen.
     void paint() { Form_Paint(); }
     /// A key was pressed that no control has taken.
@@ -95,6 +102,8 @@ protected:
     virtual void Form_Load() {}
     /// Setting `cancel` keeps the window.
     virtual void Form_Unload(bool& cancel) { static_cast<void>(cancel); }
+    /// The first time after each load that the window is the active one; before Form_Activate.
+    virtual void Form_Opened() {}
     virtual void Form_Activate() {}
     virtual void Form_Resize() {}
     virtual void Form_Paint() {}
@@ -111,6 +120,7 @@ private:
 
     Border m_border;
     bool m_isLoaded = false;
+    bool m_isNew = false;  ///< it has not been the active window since it was loaded
     bool m_isUnloading = false;
     bool m_isTopmost = false;
     WindowState m_state = WindowState::Normal;

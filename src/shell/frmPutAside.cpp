@@ -45,19 +45,12 @@ frmPutAside::frmPutAside(Services services)
 
 void frmPutAside::Form_Load() {
     chosen.reset();
-    m_isNew = true;
     const bool isQuestion = isAnyLeftBehind(designs);
     setCaption(isQuestion ? "Designs Left by a Crash" : "Designs Put Aside");
     lblAbout.setCaption(isQuestion ? "The program was cut short. Nothing is lost: open a design "
                                      "that it has put aside, or leave them here."
                                    : "These designs were never saved, and so were put aside.");
     showDesigns(0);
-}
-
-void frmPutAside::Form_Activate() {
-    if (std::exchange(m_isNew, false)) {
-        lvDesigns.setFocus();
-    }
 }
 
 void frmPutAside::Form_Unload(bool&) {

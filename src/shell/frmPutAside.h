@@ -60,7 +60,7 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_Activate() override;
+    void Form_Opened() override { lvDesigns.setFocus(); }
     void Form_Unload(bool& cancel) override;
 
 private:
@@ -69,7 +69,6 @@ private:
     void showDesigns(std::size_t selected);
 
     Services m_services;
-    bool m_isNew = true;  ///< it has not been the active window since it was loaded
 };
 
 }  // namespace fleetwright
