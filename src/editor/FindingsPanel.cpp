@@ -1,5 +1,6 @@
 #include "FindingsPanel.h"
 
+#include "HistoryPanel.h"
 #include "HullPanel.h"
 #include "MassPanel.h"
 #include "NamesPanel.h"
@@ -8,7 +9,6 @@
 #include "readShip.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace fleetwright {
@@ -63,8 +63,9 @@ std::string listOf(std::vector<std::string> names) {
 }  // namespace
 
 FindingsPanel::FindingsPanel(const PanelContext& context, MenuEntry& mnuDesign, StatusBar& sbStatus,
-                             Places places)
-    : Panel(context), m_design(mnuDesign), m_status(sbStatus), m_places(places) {}
+                             HistoryPanel& history, Places places)
+    : Panel(context), m_design(mnuDesign), m_status(sbStatus), m_history(history),
+      m_places(places) {}
 
 void FindingsPanel::show() {
     m_base.follow(m_status, isBase(ship().Hull())
@@ -81,7 +82,6 @@ void FindingsPanel::noteLoad(const std::string& path, std::string_view shipFile)
     // What is wrong with the ship as a whole is looked for in the design.
     std::erase_if(findings, [](const ShipFinding& finding) { return finding.line == 0; });
     if (findings.empty()) {
-        m_ofFiles.erase(ship().origin);
         return;
     }
     std::vector<std::string> unknown;
@@ -102,27 +102,7 @@ void FindingsPanel::noteLoad(const std::string& path, std::string_view shipFile)
         window().say(complaint(file, *first) +
                      (findings.size() == 1 ? "" : std::string("; for more, ") + restInList));
     }
-    m_ofFiles[ship().origin] = std::move(findings);
-    m_firstStep = m_step + 1;
-    m_isLoaded = true;
-}
-
-void FindingsPanel::noteSaved() {
-    m_ofFiles.erase(ship().origin);
-}
-
-void FindingsPanel::noteReplaced() {
-    m_ofFiles.erase("");
-}
-
-void FindingsPanel::rest(std::size_t step) {
-    m_step = step;
-    if (std::exchange(m_isLoaded, false)) {
-        m_firstStep = std::min(m_firstStep, step);  // no step leads to what was there already
-    }
-    if (step < m_firstStep) {
-        m_ofFiles.erase("");
-    }
+    m_history.noteFound(std::move(findings));
 }
 
 void FindingsPanel::mnuFindings_Click() {
@@ -144,14 +124,12 @@ void FindingsPanel::look() {
     if (!window().g_Ship) {
         return;
     }
-    m_listed = findInDesign(ship());
-    if (const auto ofFile = m_ofFiles.find(ship().origin); ofFile != m_ofFiles.end()) {
-        const std::vector<ShipFinding> ofDesign = m_listed;
-        std::ranges::copy_if(ofFile->second, std::back_inserter(m_listed),
-                             [&](const ShipFinding& finding) {
-                                 return std::ranges::find(ofDesign, finding.text,
-                                                          &ShipFinding::text) == ofDesign.end();
-                             });
+    const std::vector<ShipFinding> ofDesign = findInDesign(ship());
+    m_listed = ofDesign;
+    for (ShipFinding& ofFile : m_history.found()) {
+        if (std::ranges::find(ofDesign, ofFile.text, &ShipFinding::text) == ofDesign.end()) {
+            m_listed.push_back(std::move(ofFile));
+        }
     }
     std::vector<ListView::Row> rows;
     for (const ShipFinding& finding : m_listed) {

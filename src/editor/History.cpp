@@ -21,7 +21,7 @@ bool isOneFile(const std::string& one, const std::string& other) {
 
 History::History(const DesignMoment& start, const std::string& safe) : m_now(start) {
     m_marks.push_back({0, 0, 0});
-    begin(start, {.kind = {}, .safe = safe, .came = {}});
+    begin(start, {.kind = {}, .safe = safe, .came = {}, .found = {}});
     m_marks[0].savedAs = start.ship.g_bSaved ? 1 : 0;
 }
 
@@ -52,7 +52,8 @@ void History::begin(const DesignMoment& moment, const News& news) {
                      .g_sSaveName = 0,
                      .g_sTrimmedFileName = 0,
                      .origin = 0,
-                     .came = numberOf(news.came)};
+                     .came = numberOf(news.came),
+                     .found = {}};
     setFile(next, moment.ship);
     m_documents.push_back(std::move(next));
 }
@@ -122,6 +123,9 @@ void History::adopt(const StoredSteps& steps, const DesignMoment& moment, const 
 void History::arriveAt(const DesignMoment& moment, const News& news) {
     m_marks[m_at].savedAs = moment.ship.g_bSaved ? document().version : 0;
     document().safe = news.safe;
+    if (news.isReplaced) {
+        document().found = news.found;
+    }
     m_now = moment;
     m_now.catalogue = document().catalogue;
 }
@@ -131,6 +135,7 @@ void History::markSaved(const ShipNames& names) {
     m_kind.clear();
     setFile(document(), names);
     ++document().version;
+    document().found.clear();
     loseFile(names, [this](const Document& other) { return &other != &document(); });
 }
 
@@ -150,6 +155,7 @@ void History::loseFile(const ShipNames& names, const std::function<bool(const Do
         if (known->second && which(other)) {
             ++other.version;
             other.safe.clear();
+            other.found.clear();
         }
     }
 }
@@ -211,7 +217,7 @@ std::size_t History::size() const {
     std::size_t size = m_steps.capacity() + m_marks.capacity() * sizeof(Mark) +
                        m_documents.capacity() * sizeof(Document);
     for (const Document& each : m_documents) {
-        size += each.safe.capacity();
+        size += each.safe.capacity() + each.found.capacity() * sizeof(ShipFinding);
     }
     for (const std::string* const text : m_texts) {
         constexpr std::size_t node = 2 * sizeof(std::string) + sizeof(text);

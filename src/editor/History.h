@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DesignMoment.h"
+#include "ShipFileCheck.h"
 #include "StoredSteps.h"
 #include "momentDelta.h"
 
@@ -25,12 +26,13 @@ class History {
 public:
     /// What is known of the moment at which the window has come to rest.
     struct News {
-        bool isReplaced = false;  ///< by another design
-        bool isSaved = false;     ///< as it is now
-        std::string_view kind;    ///< see `Acts::act`
-        std::int32_t time = 0;    ///< milliseconds, as a Clock counts them
-        std::string safe;         ///< what `RecoveryPanel` knows to be safe
-        std::string came;         ///< of a new document: what has brought it, in words
+        bool isReplaced = false;         ///< by another design
+        bool isSaved = false;            ///< as it is now
+        std::string_view kind;           ///< see `Acts::act`
+        std::int32_t time = 0;           ///< milliseconds, as a Clock counts them
+        std::string safe;                ///< what `RecoveryPanel` knows to be safe
+        std::string came;                ///< of a new document: what has brought it, in words
+        std::vector<ShipFinding> found;  ///< of a design that was loaded: what its file had wrong
     };
 
     History(const DesignMoment& start, const std::string& safe);
@@ -39,6 +41,8 @@ public:
     const DesignMoment& now() const { return m_now; }
     /// What the document's `News::safe` was last.
     const std::string& safe() const { return document().safe; }
+    /// What the load of the document has found, until its file is written.
+    const std::vector<ShipFinding>& found() const { return document().found; }
 
     /// The design has become this. That is a step if anything of it has changed; together with the
     /// last one if both are of one kind and no second lies between.
@@ -82,6 +86,7 @@ private:
         std::string safe;
         std::uint32_t g_sSaveName, g_sTrimmedFileName, origin, came;  ///< numbers of texts
         std::uint32_t version = 1;  ///< of the file; an older one is nowhere any more
+        std::vector<ShipFinding> found;
     };
 
     Document& document() { return m_documents[m_marks[m_at].document]; }

@@ -28,7 +28,8 @@ void HistoryPanel::rest(std::string_view kind) {
                                 .kind = clock == nullptr ? std::string_view() : kind,
                                 .time = clock == nullptr ? 0 : clock->tickCount(),
                                 .safe = m_others.safe(),
-                                .came = whatCame(moment)};
+                                .came = whatCame(moment),
+                                .found = std::exchange(m_found, {})};
     if (const auto steps = std::exchange(m_adopted, std::nullopt)) {
         m_history->adopt(*steps, moment, news);
     } else {

@@ -10,6 +10,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace fleetwright {
 
@@ -34,6 +36,12 @@ public:
     /// The ship is about to be another one, or is as its file is.
     void noteReplaced() { m_isReplaced = true; }
     void noteSaved() { m_isSaved = true; }
+    /// This is wrong with the file that the ship at hand was loaded from.
+    void noteFound(std::vector<ShipFinding> found) { m_found = std::move(found); }
+    /// The same of the design at hand; nothing once its file was written.
+    std::vector<ShipFinding> found() const {
+        return m_history ? m_history->found() : std::vector<ShipFinding>();
+    }
 
     /// The steps of the design at hand, as a text to be put aside with it.
     std::string steps() const;
@@ -80,6 +88,7 @@ private:
     std::optional<History> m_history;
     std::optional<StoredSteps> m_adopted;
     bool m_isReplaced = false, m_isSaved = false;  ///< since the last rest
+    std::vector<ShipFinding> m_found;              ///< likewise
 };
 
 }  // namespace fleetwright

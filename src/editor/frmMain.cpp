@@ -24,7 +24,7 @@ frmMain::frmMain(MainWindowServices services)
               .rested =
                   [this](std::string_view kind) {
                       history.rest(kind);
-                      findings.rest(history.history() ? history.history()->place() : 0);
+                      Rested.raise();
                   }}),
       m_context{.form = *this,
                 .g_Ship = g_Ship,
@@ -162,7 +162,6 @@ void frmMain::tmrRefreshScreen_Timer() {
 
 void frmMain::replaceShip() {
     putShip(m_services.catalogueFile);
-    findings.noteReplaced();
     recovery.noteSafe();
     history.noteReplaced();
 }
@@ -203,7 +202,6 @@ void frmMain::g_Ship_ShipLoaded() {
 }
 
 void frmMain::g_Ship_ShipSaved() {
-    findings.noteSaved();
     fleet.noteSaved();
     RefreshScreen();
     sbStatus.setText("Saved...");

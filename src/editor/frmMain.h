@@ -46,6 +46,7 @@ public:
     bool g_bLoaded = false;                 ///< the load has finished
     std::unique_ptr<clsMRUFiles> CMRUList;  ///< the ship files used last
     std::unique_ptr<ShipClass> g_Ship;      ///< the current ship; a load replaces the object
+    Signal<> Rested;                        ///< whatever was done to the design is done
 
     /// Shows the list of recent files in the menu.
     void fillMRU() { files.fillMRU(); }
@@ -94,7 +95,8 @@ public:
                           .isSafe = [this](const std::string& safe) { recovery.setSafe(safe); },
                           .giveUp = [this] { return recovery.giveUpDesign(); }}};
     FindPanel find{m_context, mnuDesign, tree.tvWeapons, sbStatus};
-    FindingsPanel findings{m_context, mnuDesign, sbStatus, {hull, mass, names, aboard, tree}};
+    FindingsPanel findings{
+        m_context, mnuDesign, sbStatus, history, {hull, mass, names, aboard, tree}};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
                       [this] { return sheetShip(*this); }};
     SharePanel share{m_context, mnuDesign,
