@@ -7,7 +7,7 @@
 namespace fleetwright {
 
 FindPanel::FindPanel(const PanelContext& context, MenuEntry& mnuDesign, TreeView& tvWeapons,
-                     const StatusBar& sbStatus)
+                     StatusBar& sbStatus)
     : Panel(context), m_design(mnuDesign), m_tree(tvWeapons), m_status(sbStatus) {
     m_tree.onKeyPress = [this](const std::string& key) { return tvWeapons_KeyPress(key); };
     m_tree.onLostFocus = [this] { tvWeapons_LostFocus(); };
@@ -15,7 +15,7 @@ FindPanel::FindPanel(const PanelContext& context, MenuEntry& mnuDesign, TreeView
 
 void FindPanel::show() {
     if (isUnderWay() && m_status.text().empty()) {
-        say();
+        say(false);
     }
 }
 
@@ -84,14 +84,15 @@ void FindPanel::find(const std::string& typed) {
     m_typed = typed;
     m_names->find(typed);
     m_at = 0;
+    if (matches().empty()) {
+        say(true);
+    }
     if (trimmed(typed).empty()) {
         showTree(*m_before);
     } else {
         m_last = typed;
     }
-    if (matches().empty()) {
-        say();
-    } else {
+    if (!matches().empty()) {
         showMatch();
     }
 }
@@ -134,7 +135,7 @@ void FindPanel::showMatch() {
         view.expanded.push_back(above);
     }
     showTree(view);
-    say();
+    say(false);
 }
 
 /// The labels below the tree follow, as they do at each refresh.
@@ -155,12 +156,13 @@ void FindPanel::end() {
     m_names->find("");  // what was found needs no more room
 }
 
-void FindPanel::say() {
+/// Screen readers read what has come to be selected; else what is said is news to them.
+void FindPanel::say(bool isNews) {
     m_said = trimmed(m_typed).empty() ? std::string("Find: type words of a system's name")
              : matches().empty()      ? "Find: " + quote(m_typed) + " - no match"
                                  : "Find: " + quote(m_typed) + " - " + std::to_string(m_at + 1) +
                                        " of " + std::to_string(matches().size());
-    window().say(m_said);
+    isNews ? m_status.setText(m_said) : m_status.setTextQuietly(m_said);
 }
 
 }  // namespace fleetwright

@@ -18,7 +18,7 @@ namespace fleetwright {
 class FindPanel : public Panel {
 public:
     FindPanel(const PanelContext& context, MenuEntry& mnuDesign, TreeView& tvWeapons,
-              const StatusBar& sbStatus);
+              StatusBar& sbStatus);
 
     /// Says what is looked for, where the status line says nothing.
     void show();
@@ -45,10 +45,10 @@ private:
     void showMatch();
     void showTree(const TreeView::View& view);
     void end();
-    void say();
+    void say(bool isNews);
 
     TreeView& m_tree;
-    const StatusBar& m_status;
+    StatusBar& m_status;
     std::vector<const TreeView::Node*> m_systems;
     std::optional<SystemSearch> m_names;      ///< of the systems; made by the first search
     std::optional<TreeView::View> m_before;   ///< the tree where the search began, while it lasts

@@ -15,11 +15,27 @@ public:
 
     const std::string& text() const { return design().text; }
 
+    /// Shows a text, and has screen readers say it.
     void setText(const std::string& text) {
-        if (text != design().text) {
+        if (show(text) && !text.empty()) {
+            Said.raise();
+        }
+    }
+
+    /// Shows a text that who cannot see it hears otherwise, or has heard.
+    void setTextQuietly(const std::string& text) { show(text); }
+
+    /// For whoever draws it: the text is to be said.
+    Signal<> Said;
+
+private:
+    bool show(const std::string& text) {
+        const bool isOther = text != design().text;
+        if (isOther) {
             changeableDesign().text = text;
             Changed.raise();
         }
+        return isOther;
     }
 };
 

@@ -45,7 +45,8 @@ public:
     explicit frmSplash(StartUpServices services);
 
     // StartUpProgress: what the main window says while it loads.
-    void setText(const std::string& text) override { sbInfo.setText(text); }
+    // Some hundred steps in a second: whoever hears what is shown would be told for minutes.
+    void setText(const std::string& text) override { sbInfo.setTextQuietly(text); }
     void repaint() override { Form::repaint(); }
 
     StatusBar sbInfo{*this, {.name = "sbInfo", .accessibleDescription = "Status"}};

@@ -1,8 +1,10 @@
 #include "ScreenReader.h"
 
+#include <algorithm>
 #include <chrono>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace fleetwright {
 
@@ -19,12 +21,26 @@ std::unique_ptr<Kind, void (*)(gpointer)> takenObject(Kind* object) {
     return {object, g_object_unref};
 }
 
-Element desktop() {
+void reachBus() {
     static const int started = atspi_init();
     if (started > 1) {
         throw std::runtime_error("the accessibility bus cannot be reached");
     }
+}
+
+Element desktop() {
+    reachBus();
     return Element(atspi_get_desktop(0));
+}
+
+constexpr const char* comesOrGoes = "object:state-changed:showing";
+
+void noteShown(AtspiEvent* event, void* shown) {
+    if (event->detail1 != 0) {
+        auto* const source = static_cast<AtspiAccessible*>(g_object_ref(event->source));
+        static_cast<std::vector<Element>*>(shown)->emplace_back(source);
+    }
+    g_boxed_free(ATSPI_TYPE_EVENT, event);
 }
 
 /// Menus and trees hold many entries and nothing else, and each question takes its time.
@@ -118,6 +134,27 @@ std::optional<Element> Element::find(std::string_view role,
 
 std::optional<Element> Element::find(std::string_view role, std::string_view name) const {
     return find(role, [&](const Element& each) { return each.name() == name; });
+}
+
+Announcements::Announcements()
+    : m_listener(atspi_event_listener_new(noteShown, &m_shown, nullptr)) {
+    reachBus();
+    atspi_event_listener_register(m_listener, comesOrGoes, nullptr);
+}
+
+Announcements::~Announcements() {
+    atspi_event_listener_deregister(m_listener, comesOrGoes, nullptr);
+    g_object_unref(m_listener);
+}
+
+void Announcements::waitFor(const std::string& text) {
+    fleetwright::waitFor("\"" + text + "\" to be said", [&] {
+        while (g_main_context_iteration(nullptr, FALSE) != 0) {
+        }
+        return std::ranges::any_of(std::exchange(m_shown, {}), [&](const Element& each) {
+            return each.role() == "notification" && each.name() == text;
+        });
+    });
 }
 
 std::vector<Element> windowsOnScreen() {

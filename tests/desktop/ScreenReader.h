@@ -36,6 +36,22 @@ private:
     std::shared_ptr<AtspiAccessible> m_accessible;
 };
 
+/// What programs have screen readers say at once, from the moment on that somebody listens.
+class Announcements {
+public:
+    Announcements();
+    Announcements(const Announcements&) = delete;
+    Announcements& operator=(const Announcements&) = delete;
+    ~Announcements();
+
+    /// Waits until this has been said.
+    void waitFor(const std::string& text);
+
+private:
+    std::vector<Element> m_shown;  ///< whatever has come to the screen
+    AtspiEventListener* m_listener;
+};
+
 /// All windows of all programs.
 std::vector<Element> windowsOnScreen();
 std::optional<Element> windowOnScreen(std::string_view title);

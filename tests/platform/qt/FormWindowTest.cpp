@@ -37,6 +37,7 @@ TEST_F(FormWindowTest, WidgetsStandWhereTheFormPutsThem) {
     EXPECT_EQ(find<QAbstractButton>("arrowsDown")->toolTip(), "Spin");
     form.slider.setSteps(3, 4);
     EXPECT_EQ(find<QSlider>("slider")->tickInterval(), 3);
+    QApplication::processEvents();  // until when the window has not its size yet
     EXPECT_EQ(find<QLabel>("status")->geometry().bottom() + 1,
               find<QLabel>("status")->parentWidget()->height());
 }

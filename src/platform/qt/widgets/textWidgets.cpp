@@ -1,8 +1,7 @@
-// Labels, text boxes, combo boxes and the status bar.
+// Labels, text boxes and combo boxes.
 
 #include "ComboBox.h"
 #include "Label.h"
-#include "StatusBar.h"
 #include "TextBox.h"
 #include "contrast.h"
 #include "controlWidgets.h"
@@ -63,33 +62,6 @@ QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
         widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         widget->setAlignment(Qt::AlignCenter);
     }
-    return widget;
-}
-
-QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
-    auto* const widget = new QLabel(parent);
-    widget->setTextFormat(Qt::PlainText);  // names in it are no markup
-    widget->setProperty(followsWindow, true);
-    prepare(widget, bar, scale);
-    widget->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    widget->setMargin(2);
-    const auto dock = [widget, parent, scale] {
-        const int height = scale.pixels(StatusBar::height);
-        widget->setGeometry(0, parent->height() - height, parent->width(), height);
-    };
-    keepZoomed(widget, scale, dock);
-    new EventHook(parent, [dock](QEvent* event) {
-        if (event->type() == QEvent::Resize) {
-            dock();
-        }
-        return false;
-    });
-    keepInStep(widget, bar, [widget, &bar] {
-        widget->setText(toShown(bar.text()));
-        // What the line has no room for can be read all the same.
-        const bool isCutOff = widget->sizeHint().width() > widget->width();
-        widget->setToolTip(isCutOff ? toToolTip(bar.text()) : QString());
-    });
     return widget;
 }
 
