@@ -47,6 +47,11 @@ void click(const Element& element, const char* how) {
     xdotool(moveTo(element) + "click " + how + outOfTheWay);
 }
 
+void pressAndClick(const std::string& keys, const Element& element, const char* how) {
+    const std::string there = moveTo(element);
+    xdotool("key " + keys + ' ' + there + "click " + how + outOfTheWay);
+}
+
 void pointAt(const Element& element) {
     xdotool(moveTo(element, -1) + moveTo(element));
 }

@@ -17,11 +17,14 @@ void xdotool(const std::string& arguments);
 /// How the mouse is pressed.
 inline constexpr const char* leftOnce = "1";
 inline constexpr const char* leftTwice = "--repeat 2 --delay 10 1";
+inline constexpr const char* leftTwiceAtOnce = "--repeat 2 --delay 0 1";
 inline constexpr const char* rightOnce = "3";
 
 /// Clicks on the middle of an element once it has come to rest, and takes the pointer out of the
 /// way again, so that no tool tip comes up in front of the next thing.
 void click(const Element& element, const char* how = leftOnce);
+/// The same at once behind some keys, as no hand can.
+void pressAndClick(const std::string& keys, const Element& element, const char* how);
 void pointAt(const Element& element);
 /// Drags what an element stands for onto another element.
 void dragOnto(const Element& from, const Element& to);

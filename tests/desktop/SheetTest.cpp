@@ -51,6 +51,7 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     press("ctrl+e");
     chooseFile("Save As", path("ssds/carrier.png"));
     waitForFile("ssds/carrier.png", "IEND");
+    mapper.get("status bar", "Saved " + path("ssds/carrier.png").string());
     mapper.click("push button", "Save It!");
     chooseFile("Save As", path("ssds/sheet"));
     mapper.waitUntilGone();

@@ -1,11 +1,8 @@
 // The texts of "What's This?" and the player's guide against the windows that they tell of.
 
-#include "Actor.h"
 #include "ControlTexts.h"
-#include "QtPrograms.h"
-#include "QtRegistry.h"
+#include "eachWindow.h"
 #include "formTexts.h"
-#include "frmAbout.h"
 #include "readFile.h"
 
 #include <gtest/gtest.h>
@@ -25,19 +22,7 @@ template <typename Task>
 void forEachWindow(const Task& task) {
     Dice dice(1);
     Actor actor(dice);
-    QtPrograms programs;
-    QtRegistry registry;
-    frmAbout about({.desktop = actor.test.desktop(), .programs = programs, .registry = registry});
-    frmAmountSlider amount;
-    std::vector<Form*> forms = actor.windows();
-    forms.insert(forms.end(), {&about, &amount});
-    actor.test.inDialog = [&](Form& form) {
-        task(form);
-        form.unload();
-    };
-    actor.main.windows.mnuExtrasPage.choose();
-    actor.main.recovery.mnuPutAside.choose();
-    std::for_each(forms.begin(), forms.end(), [&task](const Form* form) { task(*form); });
+    forEachWindow(actor, task);
 }
 
 /// What a player reads on a control.

@@ -233,13 +233,14 @@ const QWidget* QtDesktop::windowWith(const Control& control) const {
 void QtDesktop::popUp(MenuEntry& menu) {
     // A menu that was asked for by a key opens at what has the keyboard in the menu's own window:
     // the icon of a window in the tray is clicked while the keyboard is elsewhere.
-    const QWidget* const focus = QApplication::focusWidget();
-    const bool isByPointer = focus == nullptr || focus->underMouse() ||
-                             focus->window() != windowWith(menu) ||
-                             QApplication::mouseButtons() != Qt::NoButton;
     const QWidget* const window = windowWith(menu);
-    popUpMenu(menu, isByPointer ? QCursor::pos() : focus->mapToGlobal(focus->rect().center()),
-              window == nullptr ? QFont() : window->font());
+    const QWidget* const focus = QApplication::focusWidget();
+    const bool isByPointer = focus == nullptr || focus->underMouse() || focus->window() != window ||
+                             QApplication::mouseButtons() != Qt::NoButton;
+    if (window != nullptr) {
+        popUpMenu(menu, isByPointer ? QCursor::pos() : focus->mapToGlobal(focus->rect().center()),
+                  *window);
+    }
 }
 
 void QtDesktop::showModal(Form& form, Form& owner) {

@@ -21,7 +21,6 @@
 #include "widgetTools.h"
 
 #include <QMainWindow>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -74,7 +73,7 @@ void addKeys(Control& control, QMainWindow& window) {
 
 QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMainWindow& window) {
     if (auto* const menu = dynamic_cast<MenuEntry*>(&control)) {
-        addMenu(*menu, window.menuBar());
+        addMenu(*menu, window);
     } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
         addTrayIcon(*tray, &window);
     } else if (auto* const shortcut = dynamic_cast<Shortcut*>(&control)) {

@@ -8,7 +8,6 @@
 #include <QWidget>
 
 class QMainWindow;
-class QMenuBar;
 
 namespace fleetwright {
 
@@ -51,8 +50,8 @@ QWidget* makeWidget(UpDown& arrows, QWidget* parent, const Scale& scale);
 /// that have no place inside it, such as menus, which are added where they belong.
 QWidget* makeWidget(Control& control, QWidget* parent, const Scale& scale, QMainWindow& window);
 
-/// Adds a top-level menu to the bar. A hidden one is left out: it is a pop-up.
-void addMenu(MenuEntry& menu, QMenuBar* bar);
+/// Adds a top-level menu to the bar of a window. A hidden one is a pop-up.
+void addMenu(MenuEntry& menu, QMainWindow& window);
 /// Puts an icon into the tray whenever its model is on, for as long as the window lives.
 void addTrayIcon(TrayIcon& tray, QWidget* window);
 /// Hands files that are dropped anywhere on the window to its form, if that takes any.
@@ -61,7 +60,7 @@ void takeDroppedFiles(Form& form, QWidget* window);
 void dragImage(DragImage& image, QWidget* window, const Scale& scale);
 /// The picture that is being dragged inside this window, or null.
 DragImage* draggedImage(const QWidget* window);
-/// Shows a menu at a place of the screen, in its window's font, and waits until it is gone.
-void popUpMenu(MenuEntry& menu, const QPoint& place, const QFont& font);
+/// Shows a pop-up of a window at a place of the screen, and waits until it is gone.
+void popUpMenu(const MenuEntry& menu, const QPoint& place, const QWidget& window);
 
 }  // namespace fleetwright

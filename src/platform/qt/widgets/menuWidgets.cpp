@@ -1,9 +1,11 @@
 #include "Menu.h"
+#include "contrast.h"
 #include "controlWidgets.h"
 #include "text.h"
 #include "widgetTools.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
@@ -51,7 +53,8 @@ void addEntry(QMenu* menu, MenuEntry& entry) {
 }
 
 /// What a quick hand clicks before the screen has heard that a menu is closed, as in the middle of
-/// the work that it began, still arrives at the menu. It is meant for what is below.
+/// the work that it began, still arrives at the menu, which has to be there yet. It is meant for
+/// what is below.
 void handClicksOn(QMenu* menu) {
     new EventHook(menu, [menu](QEvent* event) {
         const bool isClick = event->type() == QEvent::MouseButtonPress ||
@@ -73,8 +76,21 @@ void handClicksOn(QMenu* menu) {
     });
 }
 
+/// A menu is a window of its own, which has none of its owner's colours.
+void keepReadable(QMenu* menu) {
+    const auto colour = [menu] { menu->setPalette(readableColours(QApplication::palette())); };
+    colour();
+    new EventHook(menu, [colour](QEvent* event) {
+        if (event->type() == QEvent::ApplicationPaletteChange) {
+            colour();
+        }
+        return false;
+    });
+}
+
 void fillMenu(QMenu* menu, MenuEntry& entry) {
     menu->setObjectName(toQt(entry.name()));
+    keepReadable(menu);
     menu->setToolTipsVisible(true);
     handClicksOn(menu);
     for (Control* const control : entry.controls()) {
@@ -84,10 +100,12 @@ void fillMenu(QMenu* menu, MenuEntry& entry) {
 
 }  // namespace
 
-void addMenu(MenuEntry& menu, QMenuBar* bar) {
+void addMenu(MenuEntry& menu, QMainWindow& window) {
     if (!menu.isVisible()) {
+        fillMenu(new QMenu(&window), menu);
         return;
     }
+    QMenuBar* const bar = window.menuBar();
     QMenu* const widget = bar->addMenu(toQt(menu.caption()));
     fillMenu(widget, menu);
     if (bar->actions().size() == 1) {
@@ -98,14 +116,8 @@ void addMenu(MenuEntry& menu, QMenuBar* bar) {
     }
 }
 
-void popUpMenu(MenuEntry& menu, const QPoint& place, const QFont& font) {
-    QMenu widget;
-    fillMenu(&widget, menu);
-    widget.setFont(font);
-    for (QMenu* const below : widget.findChildren<QMenu*>()) {
-        below->setFont(font);
-    }
-    widget.exec(place);
+void popUpMenu(const MenuEntry& menu, const QPoint& place, const QWidget& window) {
+    window.findChild<QMenu*>(toQt(menu.name()))->exec(place);
 }
 
 }  // namespace fleetwright
