@@ -203,9 +203,11 @@ public:
                     .actsFor =
                         [this](const SSDMap& map, const SheetOutput::Rows& aboard,
                                const Raster& bitmap) {
-                            return m_sheets.acts(SheetOutput::madeAtOnce([&] {
-                                return m_sheets.onMap(sheetShip(m_main), aboard, map, bitmap);
-                            }));
+                            return m_sheets.acts(
+                                SheetOutput::madeAtOnce([&] {
+                                    return m_sheets.onMap(sheetShip(m_main), aboard, map, bitmap);
+                                }),
+                                [this](const std::string& text) { m_mapper.say(text); });
                         },
                     .say = [this](const std::string& text) { m_main.sbStatus.setText(text); }}),
           m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}),
@@ -220,9 +222,9 @@ public:
                     .pictures = m_pictures,
                     .actsFor =
                         [this](const std::filesystem::path& file, const Raster& picture) {
-                            return m_sheets.acts([this, file, picture] {
-                                return m_sheets.ofPicture(file, picture);
-                            });
+                            return m_sheets.acts(
+                                [this, file, picture] { return m_sheets.ofPicture(file, picture); },
+                                [this](const std::string& text) { m_viewer.say(text); });
                         }}),
           m_fleetTools({.appFolder = m_appFolder,
                         .catalogue = m_catalogueFile,
@@ -333,6 +335,7 @@ private:
     SheetImages m_images;
     SheetOutput m_sheets;
     frmMapper m_mapper;
+    Connection m_sheetFollows = m_main.Rested.connect([this] { m_mapper.followDesign(); });
     frmAbout m_about;
     frmSSDMapCreator m_mapCreator;
     frmSSDView m_viewer;

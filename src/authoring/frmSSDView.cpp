@@ -30,6 +30,7 @@ void frmSSDView::Form_Load() {
     picImage.setPlace(emptyBox);
     picImage.setToolTip("");
     keys.offer({});
+    keys.say("");
     resize(emptyWidth + frameWidth, emptyHeight + frameHeight);
     fitWindow();
 }
@@ -39,7 +40,8 @@ void frmSSDView::fitWindow() {
     if (state() != WindowState::Normal) {
         return;
     }
-    constexpr int besides = 200, below = 500;
+    constexpr int besides = 200;
+    const int below = 500 + keys.lineHeight();
     const Place& commands = fraCommands.place();
     if (commands.left + commands.width + besides > width()) {
         resize(commands.width + commands.left + besides, height());
@@ -66,11 +68,18 @@ void frmSSDView::cmdSelect_Click() {
             keys.offer(m_services.actsFor(nativePath(*file), picImage.picture()));
         }
         cmdSelect.setToolTip("");
-        fitWindow();
+        say("");
     } catch (const std::exception& error) {
-        cmdSelect.setToolTip("Still the picture before: " + quote(file.value_or("")) + " " +
-                             error.what());
+        const std::string fault =
+            "Still the picture before: " + quote(file.value_or("")) + " " + error.what();
+        cmdSelect.setToolTip(fault);
+        say(fault);
     }
+}
+
+void frmSSDView::say(const std::string& text) {
+    keys.say(text);
+    fitWindow();
 }
 
 /// Its release, when the window opens anew, closes nothing.

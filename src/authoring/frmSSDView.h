@@ -51,6 +51,9 @@ public:
                          .isFramed = true}};
     SheetKeys keys{*this};  ///< on once a picture is shown
 
+    /// Says something at the lower edge of the window, which makes room for it.
+    void say(const std::string& text);
+
 protected:
     void Form_Load() override;
     void Form_Resize() override { fitWindow(); }

@@ -105,15 +105,19 @@ ControlRows mapperTexts() {
                     "Draws the sheet of the ship at hand on this map. Another sheet takes another "
                     "window: close this one and open it anew."},
         ControlText{"lblOther", "Lists the systems of an earlier design",
-                    "Told when other systems are aboard than this window lists, so that a sheet "
-                    "would mix two designs: close it and open it anew."},
+                    "Told when the design has changed since the window was opened, so that a "
+                    "sheet would mix two designs, or has mixed them, or is out of date: close it "
+                    "and open it anew."},
         ControlText{"cmdSave", "Save It!",
                     "Saves the sheet as a bitmap, which knows nothing of the design, and closes "
                     "the window. Ctrl+E exports a PDF, SVG or PNG file with the design in it."},
         ControlText{"picSSD", "Sheet",
                     "The sheet of the ship: its systems at their places, boxes for the damage, and "
                     "its names and points. Once it is drawn, Ctrl+P prints it and Ctrl+E exports "
-                    "it."}};
+                    "it."},
+        ControlText{"sbSheet", "Status line",
+                    "Says where the sheet was exported, that it is on its way to the printer, or "
+                    "what has failed and why. There is none until there is something to say."}};
     return rows;
 }
 
@@ -125,7 +129,11 @@ ControlRows viewerTexts() {
         ControlText{"chkCancel", "Cancel", "Closes the window."},
         ControlText{"picImage", "Sheet",
                     "The picture that was chosen. Ctrl+P prints it and Ctrl+E exports it; one that "
-                    "carries a design comes as a new sheet of that ship."}};
+                    "carries a design comes as a new sheet of that ship."},
+        ControlText{"sbSheet", "Status line",
+                    "Says where the picture was exported, that it is on its way to the printer, or "
+                    "why a file cannot be shown. There is none until there is something to "
+                    "say."}};
     return rows;
 }
 

@@ -168,9 +168,10 @@ void SheetOutput::exportFile(const Source& source) const {
     });
 }
 
-SheetActs SheetOutput::acts(const Source& sheet) const {
-    return {.print = [this, sheet] { print(sheet); },
-            .exportFile = [this, sheet] { exportFile(sheet); }};
+SheetActs SheetOutput::acts(const Source& sheet,
+                            const std::function<void(const std::string&)>& say) const {
+    return {.print = [this, sheet, say] { saying(say).print(sheet); },
+            .exportFile = [this, sheet, say] { saying(say).exportFile(sheet); }};
 }
 
 SheetOutput::Source SheetOutput::madeAtOnce(const Source& sheet) {

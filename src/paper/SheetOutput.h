@@ -59,8 +59,8 @@ public:
     /// Lets the user choose a file, whose ending says the format.
     void exportFile(const Source& sheet) const;
 
-    /// The same as acts of a window that shows the sheet.
-    SheetActs acts(const Source& sheet) const;
+    /// The same as acts of a window that shows the sheet, and says itself what was done.
+    SheetActs acts(const Source& sheet, const std::function<void(const std::string&)>& say) const;
     /// A sheet that is made at once, of the ship as it is. If that fails, the acts say so.
     static Source madeAtOnce(const Source& sheet);
 

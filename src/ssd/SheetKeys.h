@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Shortcut.h"
+#include "StatusBar.h"
 
+#include <string>
 #include <utility>
 
 namespace fleetwright {
@@ -12,7 +14,8 @@ struct SheetActs {
     Handler exportFile;
 };
 
-/// The keys for that, in a window that has no menu. They are off while there is no sheet.
+/// The keys for that, in a window that has no menu, and the line at its lower edge that says what
+/// has come of it. The keys are off while there is no sheet, the line is there when it has a text.
 class SheetKeys {
 public:
     explicit SheetKeys(Container& form) : m_form(form) {}
@@ -27,6 +30,14 @@ public:
         keyExport.setEnabled(static_cast<bool>(m_acts.exportFile));
     }
 
+    /// Says something until something else is said; an empty text takes the line away.
+    void say(const std::string& text) {
+        sbSheet.setVisible(!text.empty());
+        sbSheet.setText(text);
+    }
+    /// The room below a sheet that the line needs, in twips.
+    int lineHeight() const { return sbSheet.isVisible() ? StatusBar::height : 0; }
+
 private:
     Container& m_form;
     SheetActs m_acts;
@@ -38,6 +49,8 @@ public:
     Shortcut keyExport{m_form,
                        {.name = "keyExport", .shortcut = "Ctrl+E", .isEnabled = false},
                        [this] { raise(m_acts.exportFile); }};
+    StatusBar sbSheet{m_form,
+                      {.name = "sbSheet", .accessibleDescription = "Status", .isVisible = false}};
 };
 
 }  // namespace fleetwright

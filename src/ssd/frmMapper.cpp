@@ -32,19 +32,19 @@ void frmMapper::Form_Load() {
     cboMapSelection.clear();
     startAnew();
     picSSD.setAutoSize(true);
-    std::int32_t iShipWeapCount = 0;
+    const ShipClass& ship = m_services.ship().ship;
+    m_aboard = m_services.lvCurrentWeapons.rows();
+    m_mass = ship.mass();
+    m_iShipWeapCount = 0;
+    followDesign();
     try {
-        m_aboard = m_services.lvCurrentWeapons.rows();
-        sayIfOther();
-        iShipWeapCount = m_lists.fillShipWeap(m_aboard);
+        m_iShipWeapCount = m_lists.fillShipWeap(m_aboard);
     } catch (const Error& error) {
         // So many pieces of one system are on no map.
         fail("The ship has too many systems for a sheet!!!", "SSD Creation Error", error);
         return;
     }
-    const ShipClass& ship = m_services.ship().ship;
-    for (const std::string& name :
-         fittingMaps(m_services.g_colSSDMaps, ship.mass(), iShipWeapCount)) {
+    for (const std::string& name : fittingMaps(m_services.g_colSSDMaps, m_mass, m_iShipWeapCount)) {
         cboMapSelection.addItem(name);
     }
     m_bestFit = bestMap(m_services.g_colSSDMaps, ship, m_lists.lstShipWeap);
@@ -57,7 +57,9 @@ void frmMapper::startAnew() {
     m_lists = {};
     m_Map.reset();
     m_bestFit.reset();
+    m_drawn.reset();
     keys.offer({});
+    keys.say("");
     cboMapSelection.setToolTip("");
     m_lastFault.clear();
     cmdDrawIt.setEnabled(true);
@@ -69,20 +71,42 @@ void frmMapper::startAnew() {
     resize(m_firstPlace.width + frameWidth, m_firstPlace.height + frameHeight);
 }
 
-/// A sheet that is drawn then has the systems of one design and the figures of another.
-void frmMapper::sayIfOther() {
-    const std::vector<ListView::Row>& rows = m_services.lvCurrentWeapons.rows();
-    const bool isOther = !std::is_permutation(rows.begin(), rows.end(), m_aboard.begin(),
-                                              m_aboard.end());  // a load sorts them
-    lblOther.setVisible(isOther);
+void frmMapper::followDesign() {
+    if (!isLoaded()) {
+        return;
+    }
+    const std::string earlier = whatIsEarlier();
+    lblOther.setCaption(earlier);
+    lblOther.setVisible(!earlier.empty());
     const std::string remedy =
-        isOther ? lblOther.caption() + ": close this window and choose Create SSD again" : "";
+        earlier.empty() ? "" : earlier + ": close this window and choose Create SSD again";
     lblOther.setToolTip(remedy);
     cmdDrawIt.setToolTip(remedy);
 }
 
+/// What the window has of a ship that is another one by now, as a sentence; empty if nothing. The
+/// systems and the offer of maps are of the ship with which it was opened. All else is read when
+/// the sheet is drawn, which mixes the two.
+std::string frmMapper::whatIsEarlier() const {
+    const std::vector<ListView::Row>& rows = m_services.lvCurrentWeapons.rows();
+    if (!std::is_permutation(rows.begin(), rows.end(), m_aboard.begin(), m_aboard.end())) {
+        return "Lists the systems of an earlier design";  // in whatever order: a load sorts them
+    }
+    const ShipClass& ship = m_services.ship().ship;
+    if (m_drawn) {
+        return m_drawn->shipFile == ship.shipFile() ? "" : "Shows an earlier design";
+    }
+    const auto offerFor = [this](std::int32_t mass) {
+        return fittingMaps(m_services.g_colSSDMaps, mass, m_iShipWeapCount);
+    };
+    return ship.mass() == m_mass || offerFor(ship.mass()) == offerFor(m_mass)
+               ? ""
+               : "Offers the maps for an earlier design";
+}
+
 void frmMapper::cmdDrawIt_Click() {
-    sayIfOther();
+    followDesign();
+    say("");
     if (cboMapSelection.text().empty() || !layOut() || !showOutline()) {
         return;
     }
@@ -122,10 +146,12 @@ void frmMapper::drawSheet() {
         repaint();
     });
     try {
-        drawSSD(sheet, m_services.images, *m_Map, m_lists, m_services.ship());
+        const SheetShip ship = m_services.ship();
+        drawSSD(sheet, m_services.images, *m_Map, m_lists, ship);
         picSSD.fitToPicture();
         picSSD.showDrawn();
         fitToSheet();
+        m_drawn = {ship.txtShipName, ship.ship.shipFile()};
         if (m_services.actsFor) {
             keys.offer(m_services.actsFor(*m_Map, m_aboard, picSSD.picture()));
         }
@@ -139,9 +165,10 @@ void frmMapper::drawSheet() {
     }
 }
 
-void frmMapper::say(const std::string& text) const {
-    if (m_services.say) {
-        m_services.say(text);
+void frmMapper::say(const std::string& text) {
+    keys.say(text);
+    if (!text.empty()) {
+        keepMinimumSize(bInResize);
     }
 }
 
@@ -159,7 +186,7 @@ void frmMapper::fail(const std::string& text, const std::string& title,
 
 void frmMapper::cmdSave_Click() {
     constexpr const char* extension = ".bmp";
-    const std::string ship = m_services.ship().txtShipName;
+    const std::string ship = m_drawn ? m_drawn->name : m_services.ship().txtShipName;
     std::optional<std::string> name =
         m_services.desktop.chooseFileToSave({.filter = "All Files (*.*)|*.*|BitMap Files",
                                              .filterIndex = 2,
@@ -184,7 +211,9 @@ void frmMapper::cmdSave_Click() {
         noteFault(cause);
         return;  // the window stays, and the sheet in it
     }
-    say("Saved " + shownText(*name));
+    if (m_services.say) {
+        m_services.say("Saved " + shownText(*name));
+    }
     unload();
 }
 
@@ -217,7 +246,7 @@ void frmMapper::keepMinimumSize(bool& isInside) {
         return;
     }
     isInside = true;
-    constexpr int roomBelow = 500;
+    const int roomBelow = 500 + keys.lineHeight();
     const Place& sheet = picSSD.place();
     const Place& frame = fraControls.place();
     resize(std::max(width(), frame.left + frame.width + roomBeside),

@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,8 @@ public:
         /// nothing can.
         std::function<SheetActs(const SSDMap&, const std::vector<ListView::Row>&, const Raster&)>
             actsFor = {};
-        std::function<void(const std::string&)> say = {};  ///< shows a text on the status line
+        /// Says something in the main window, when this one closes.
+        std::function<void(const std::string&)> say = {};
     };
 
     explicit frmMapper(Services services);
@@ -53,7 +55,7 @@ public:
                               .place = {105, 210, 2115, 315},
                               .text = "Selection",
                               .accessibleName = "Map"}};
-    /// Says that the window lists other systems than are aboard by now.
+    /// Says that what the window has of the ship is of an earlier design by now.
     Label lblOther{fraControls,
                    {.name = "lblOther",
                     .place = {105, 15, 4425, 195},
@@ -78,6 +80,11 @@ public:
                        .accessibleDescription = SheetKeys::help}};
     SheetKeys keys{*this};  ///< on once a sheet was drawn
 
+    /// Says something at the lower edge of the window, which makes room for it.
+    void say(const std::string& text);
+    /// The design may have become another one.
+    void followDesign();
+
     /// The map that fits the ship best, as the tool tip of the list says; null if none does.
     const SSDMaps::Map& bestFit() const { return m_bestFit; }
     /// What was behind the message that was shown last.
@@ -85,20 +92,25 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_Activate() override { sayIfOther(); }
+    void Form_Activate() override { followDesign(); }
     void Form_Paint() override { keepMinimumSize(bInPaint); }
     void Form_Resize() override { keepMinimumSize(bInResize); }
 
 private:
+    /// The ship as it was when its sheet was drawn.
+    struct Drawn {
+        std::string name;
+        std::string shipFile;
+    };
+
     void cmdDrawIt_Click();
     void cmdSave_Click();
 
     void startAnew();
-    void sayIfOther();
+    std::string whatIsEarlier() const;
     bool layOut();
     bool showOutline();
     void drawSheet();
-    void say(const std::string& text) const;
     void noteFault(const std::exception& cause);
     void fail(const std::string& text, const std::string& title, const std::exception& cause);
     static std::int16_t largerOf(std::int16_t a, std::int16_t b);
@@ -111,9 +123,13 @@ private:
     SSDMaps::Map m_bestFit;
     SSDMaps::Map m_Map;  ///< the map of this sheet
     SheetLists m_lists;
-    std::vector<ListView::Row> m_aboard;  ///< the systems when the window has opened
-    bool bInPaint = false;                ///< the paint handler is at work
-    bool bInResize = false;               ///< the resize handler is at work
+    // The ship when the window has opened: its systems, how many of them need a weapon point, mass.
+    std::vector<ListView::Row> m_aboard;
+    std::int32_t m_iShipWeapCount = 0;
+    std::int32_t m_mass = 0;
+    std::optional<Drawn> m_drawn;
+    bool bInPaint = false;   ///< the paint handler is at work
+    bool bInResize = false;  ///< the resize handler is at work
     std::string m_lastFault;
 };
 

@@ -40,12 +40,6 @@ std::string pictureText(const Raster& picture) {
 struct AuthorsWindows {
     AuthorsWindows() { folder.write("maps/bad.map", ""); }
 
-    std::string play(const std::string& acts) {
-        return playActs(acts, {.act = [this](const std::string& line) { act(line); },
-                               .takeLog = [this] { return std::exchange(desktop.log, {}); },
-                               .look = [this] { return look(); },
-                               .folder = folder.path().string()});
-    }
     /// Carries an act out: a word and what it is about.
     void act(const std::string& line) {
         const std::string what = replaced(cut(line).second, "APP", folder.path().string());
@@ -122,6 +116,7 @@ struct AuthorsWindows {
             {"viewer", stateOf(viewer, viewer.chkCancel)},
             {"viewed", viewer.picImage.toolTip() + ' ' + pictureText(viewer.picImage.picture())},
             {"not viewed", viewer.cmdSelect.toolTip()},
+            {"viewer says", viewer.keys.sbSheet.isVisible() ? viewer.keys.sbSheet.text() : ""},
             {"dialog", desktop.asked.initialFolder.string() + " *" + desktop.asked.extension + ' ' +
                            std::to_string(desktop.asked.filterIndex)}};
         for (const SSDMaps::Map& map : maps.all()) {
@@ -157,6 +152,8 @@ struct AuthorsWindows {
 }  // namespace
 
 TEST(AuthorsWindows, MakeMapsAndShowSheets) {
-    expectCases("authoring/golden/windows.txt",
-                [](const Case& given) { return AuthorsWindows().play(given["acts"]); });
+    expectCases("authoring/golden/windows.txt", [](const Case& given) {
+        AuthorsWindows windows;
+        return playIn(windows, given["acts"]);
+    });
 }

@@ -34,12 +34,6 @@ struct Mapper : PictureEncoder {
         maps = loadMaps(folder.path()).maps;
     }
 
-    std::string play(const std::string& acts) {
-        return playActs(acts, {.act = [this](const std::string& line) { act(line); },
-                               .takeLog = [this] { return std::exchange(desktop.log, {}); },
-                               .look = [this] { return look(); },
-                               .folder = folder.path().string()});
-    }
     /// Carries an act out: a word and what it is about.
     void act(const std::string& line) {
         const std::size_t end = std::min(line.find(' '), line.size());
@@ -64,6 +58,12 @@ struct Mapper : PictureEncoder {
             {"forgetLater",
              [&] { gone = window.RepaintWanted.connect([this] { pictures.files.clear(); }); }},
             {"parties", [&] { parties = what; }},
+            {"name", [&] { shipName = what; }},
+            {"mass",
+             [&] {
+                 ship->mass(std::stoi(what));
+                 window.followDesign();
+             }},
             {"carry",
              [&] {
                  const std::size_t colon = what.find(": ");
@@ -103,6 +103,7 @@ struct Mapper : PictureEncoder {
             {"maps", ""},
             {"tip", window.cboMapSelection.toolTip()},
             {"note", window.lblOther.isVisible() ? window.cmdDrawIt.toolTip() : ""},
+            {"said", window.keys.sbSheet.isVisible() ? window.keys.sbSheet.text() : ""},
             {"dialog", desktop.asked.initialFolder.string() + ' ' + desktop.asked.fileName + " *" +
                            desktop.asked.extension + ' ' +
                            std::to_string(desktop.asked.filterIndex)}};
@@ -128,7 +129,7 @@ struct Mapper : PictureEncoder {
     std::unique_ptr<ShipClass> ship = yard.loaded("Mass: 10\nArmor: Level 2\n");
     Form main{{.name = "main"}};
     ListView systems{main, {.name = "systems"}};
-    std::string parties = "1";
+    std::string parties = "1", shipName = "Magpie";
     SSDMaps maps;
     ChoosingDesktop desktop;
     PicturesByName pictures;
@@ -144,13 +145,13 @@ struct Mapper : PictureEncoder {
     frmMapper window{{folder.path(), desktop, outlinesIn(pictures), *this, images, maps, systems,
                       [this] {
                           const std::string cost = std::to_string(ship->g_lCost);
-                          return SheetShip{"5", parties, "1", "Magpie", "Åsa", cost, *ship};
+                          return SheetShip{"5", parties, "1", shipName, "Åsa", cost, *ship};
                       },
                       [this](const SSDMap& map, const auto& aboard, const Raster& sheet) {
                           const std::string drawn = map.sDisplayName + aboard.at(0).subItem + ' ' +
                                                     std::to_string(sheet.height()) + "; ";
                           return SheetActs{[=, this] { desktop.log += "print " + drawn; },
-                                           [=, this] { desktop.log += "export " + drawn; }};
+                                           [=, this] { window.say("Exported " + drawn); }};
                       },
                       [this](const std::string& text) { desktop.log += "say " + text + "; "; }}};
 };
@@ -158,8 +159,10 @@ struct Mapper : PictureEncoder {
 }  // namespace
 
 TEST(Mapper, OffersMapsAndDrawsShowsAndSavesSheets) {
-    expectCases("ssd/golden/mapper.txt",
-                [](const Case& given) { return Mapper().play(given["acts"]); });
+    expectCases("ssd/golden/mapper.txt", [](const Case& given) {
+        Mapper mapper;
+        return playIn(mapper, given["acts"]);
+    });
 }
 
 TEST(Mapper, DrawsAndShowsEachSystemAsItComes) {

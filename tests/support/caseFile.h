@@ -46,6 +46,16 @@ struct Stage {
 /// looks different then.
 std::string playActs(const std::string& acts, const Stage& stage);
 
+/// The same on an object whose members are what a stage is made of, on a desktop that writes down
+/// what is said, with its files in a folder.
+template <typename World>
+std::string playIn(World& world, const std::string& acts) {
+    return playActs(acts, {.act = [&](const std::string& line) { world.act(line); },
+                           .takeLog = [&] { return std::exchange(world.desktop.log, {}); },
+                           .look = [&] { return world.look(); },
+                           .folder = world.folder.path().string()});
+}
+
 /// The first word of a text, and what stands behind it.
 std::pair<std::string, std::string> cut(const std::string& text);
 
