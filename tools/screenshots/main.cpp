@@ -13,6 +13,7 @@
 #include "SilentServices.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
+#include "frmFindings.h"
 #include "frmMain.h"
 #include "frmMapper.h"
 #include "frmPutAside.h"
@@ -25,6 +26,7 @@
 #include "sheetShip.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QPixmap>
 #include <QTemporaryDir>
 
@@ -131,6 +133,17 @@ void takePutAside(PictureDesktop& desktop, Form& owner) {
     desktop.showModal(putAside, owner);
 }
 
+/// The list of what is wrong with a design.
+void takeFindings(PictureDesktop& desktop, Form& owner) {
+    frmFindings findings([](std::size_t) {});
+    findings.setFindings(
+        {{.key = "1",
+          .text = "Overloaded: the systems are 2 mass units too heavy for the hull",
+          .subItem = "Mass"},
+         {.key = "2", .text = "Unknown system \"Ram\"", .subItem = "Larkfield.shp, line 9"}});
+    desktop.showModal(findings, owner);
+}
+
 /// A clock by which each look is so late that the event loop gets its turn.
 class LateClock : public Clock {
 public:
@@ -206,11 +219,15 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
         const std::unique_ptr<FormWindow> window = desktop.windowOf(form);
         window->show();
         desktop.take(*window, name);
+        auto* const menu = window->findChild<QMenu*>("mnuDesign");
+        menu->resize(menu->sizeHint());
+        desktop.take(*menu, name + "-menu");
     };
     frmAbout about({.desktop = desktop, .programs = programs, .registry = registry});
     const auto takeDialogs = [&] {
         form.windows.mnuExtrasPage.choose();
         takePutAside(desktop, form);
+        takeFindings(desktop, form);
         desktop.showModal(about, form);
         takeAuthoring(pictures, desktop);
         takeMapper(desktop, form, appFolder);
