@@ -5,6 +5,7 @@
 #include "DrawnPictureFiles.h"
 #include "Error.h"
 #include "inOrder.h"
+#include "keepFreedMemory.h"
 #include "paths.h"
 
 #include <cstdlib>
@@ -61,6 +62,7 @@ const SheetWorld& sheetWorld() {
 void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
                 const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf) {
     const SheetWorld& world = sheetWorld();
+    keepFreedMemory();
     for ([[maybe_unused]] auto _ : state) {
         ToolPictures files(APP_FOLDER);
         const DrawingPack drawings(drawingsFile(startedFolder()));

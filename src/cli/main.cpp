@@ -2,6 +2,7 @@
 #include "Error.h"
 #include "console.h"
 #include "helpText.h"
+#include "keepFreedMemory.h"
 #include "saveFile.h"
 #include "terminal.h"
 
@@ -31,6 +32,7 @@ void complainOf(const UsageError& error) {
 
 int main(int argc, char** argv) {
     letFileSizeLimitFail();
+    keepFreedMemory();
     int status = SomeRefused;
     try {
         status = run(commandLine(argc, argv));

@@ -145,9 +145,30 @@ std::string checksumOf(std::string_view packing, std::string_view text) {
     return bytes;
 }
 
+/// What zlib is to take of memory, which it fills with zeros first: that takes longer than packing
+/// a ship does, and so it is no more than a text needs.
+struct PackingRoom {
+    int window = 9;   ///< bits; the least of zlib's
+    int symbols = 4;  ///< memLevel
+
+    explicit PackingRoom(std::size_t textSize) {
+        constexpr std::size_t ahead = 262;  // which zlib keeps of a window for itself
+        const std::size_t all = designDictionary().size() + textSize + ahead;
+        while (window < -rawWindow && (std::size_t{1} << window) < all) {
+            ++window;
+        }
+        // One block for all of the text, as if there were room for any.
+        constexpr std::size_t symbolsOfLevelZero = 64;
+        while (symbols < MAX_MEM_LEVEL && (symbolsOfLevelZero << symbols) <= textSize) {
+            ++symbols;
+        }
+    }
+};
+
 std::string packed(std::string_view text) {
     z_stream stream{};
-    if (deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, rawWindow, MAX_MEM_LEVEL,
+    const PackingRoom room(text.size());
+    if (deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, -room.window, room.symbols,
                      Z_DEFAULT_STRATEGY) != Z_OK) {
         throw std::bad_alloc();
     }

@@ -17,9 +17,10 @@ class Raster {
 public:
     Raster() = default;
     /// All white.
-    Raster(int width, int height)
-        : m_width(width), m_height(height),
-          m_pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), white) {}
+    Raster(int width, int height) : m_width(width) {
+        reserve(m_pixels, static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+        setHeight(height);
+    }
 
     /// Tells pictures apart: 128 bits of a hash of width and pixels.
     using Key = std::array<std::uint64_t, 2>;
@@ -86,10 +87,18 @@ private:
     }
     std::vector<std::uint32_t>& ownPixels() {
         if (m_shared != nullptr) {
-            m_pixels = pixels();
+            const std::vector<std::uint32_t>& known = pixels();
+            reserve(m_pixels, known.size());
+            m_pixels = known;
             m_shared.reset();
         }
         return m_pixels;
+    }
+    /// Room for so many pixels. A large picture that grows, as outlines do by the text of a sheet,
+    /// finds as much again: what it does not take of that is no memory yet.
+    static void reserve(std::vector<std::uint32_t>& pixels, std::size_t count) {
+        constexpr std::size_t large = 1U << 16U, largest = 1U << 22U;
+        pixels.reserve(count >= large && count < largest ? 2 * count : count);
     }
     Raster(int width, int height, std::vector<std::uint32_t>&& pixels);
     static void decodeInto(const Shared& shared);

@@ -65,7 +65,7 @@ std::string playPage(const PlayFleet& fleet, PictureEncoder& encoder) {
     const std::string data = playData(fleet, drawings, pictures);
     return filled(playPageFile, {{"policy", policy()},
                                  {"style", playStyle},
-                                 {"definitions", pictures.definitions()},
+                                 {"definitions", pictures.takeDefinitions()},
                                  {"drawings", drawn},
                                  {"data", data},
                                  {"script", playScript}});

@@ -18,10 +18,12 @@ void RasterSheet::paint(const Raster& picture, int x, int y) {
 }
 
 void RasterSheet::fill(Pen from, Pen to, std::uint32_t colour) {
-    for (int y = std::max(from.y, 0); y < std::min(to.y, m_raster.height()); ++y) {
-        for (int x = std::max(from.x, 0); x < std::min(to.x, m_raster.width()); ++x) {
-            m_raster.pixel(x, y) = colour;
-        }
+    const int left = std::max(from.x, 0);
+    const int right = std::min(to.x, m_raster.width());
+    const int bottom = std::min(to.y, m_raster.height());
+    for (int y = std::max(from.y, 0); y < bottom && left < right; ++y) {
+        const auto row = m_raster.row(y);
+        std::fill(row.begin() + left, row.begin() + right, colour);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "svgText.h"
 
 #include <string_view>
+#include <utility>
 
 namespace fleetwright {
 
@@ -137,8 +138,11 @@ void SvgPictures::use(const PagePicture& picture, std::string& body) {
     body += isWhole ? "\n" : "</g>\n";
 }
 
-std::string SvgPictures::definitions() const {
-    return m_definitions.empty() ? std::string() : "<defs>\n" + m_definitions + "</defs>\n";
+std::string SvgPictures::takeDefinitions() {
+    if (!m_definitions.empty()) {
+        m_definitions.insert(0, "<defs>\n") += "</defs>\n";
+    }
+    return std::exchange(m_definitions, std::string());
 }
 
 }  // namespace fleetwright

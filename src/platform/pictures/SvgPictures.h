@@ -22,8 +22,8 @@ public:
     void use(const PagePicture& picture, std::string& body);
     /// The id of a picture's definition, in pixels of the picture. Throws Error.
     std::string nameOf(const PagePicture& picture);
-    /// The element "defs" for all that was asked for so far; nothing if that is nothing.
-    std::string definitions() const;
+    /// The element "defs" for all that was asked for; nothing if that is nothing. Called once.
+    std::string takeDefinitions();
 
 private:
     using BoxKey = std::tuple<double, double, double, double>;

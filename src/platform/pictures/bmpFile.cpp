@@ -2,8 +2,11 @@
 
 #include "Raster.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <span>
 
 namespace fleetwright {
 
@@ -13,6 +16,32 @@ template <typename Integer>
 void append(std::string& bytes, Integer value) {
     for (std::size_t i = 0; i < sizeof value; ++i) {
         bytes += static_cast<char>(value >> (8 * i));
+    }
+}
+
+/// The lowest byte first.
+void writeWord(char* out, std::uint32_t word) {
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(out, &word, sizeof word);
+    } else {
+        for (std::size_t i = 0; i < sizeof word; ++i) {
+            out[i] = static_cast<char>(word >> (8 * i));
+        }
+    }
+}
+
+/// Writes blue, green and red of each pixel.
+void writeRow(std::span<const std::uint32_t> row, char* out) {
+    // Four pixels are three words, which are written at once, and pictures have many.
+    for (; row.size() >= 4; row = row.subspan(4), out += 12) {
+        writeWord(out, row[0] | row[1] << 24U);
+        writeWord(out + 4, row[1] >> 8U | row[2] << 16U);
+        writeWord(out + 8, row[2] >> 16U | row[3] << 8U);
+    }
+    for (const std::uint32_t pixel : row) {
+        *out++ = static_cast<char>(pixel);
+        *out++ = static_cast<char>(pixel >> 8U);
+        *out++ = static_cast<char>(pixel >> 16U);
     }
 }
 
@@ -49,12 +78,7 @@ std::string bmpFile(const Raster& picture) {
     bytes.resize(bytes.size() + size);
     char* out = bytes.data() + fileHeader + infoHeader;
     for (int y = picture.height() - 1; y >= 0; --y) {
-        char* next = out;
-        for (const std::uint32_t pixel : picture.row(y)) {
-            *next++ = static_cast<char>(pixel);
-            *next++ = static_cast<char>(pixel >> 8);
-            *next++ = static_cast<char>(pixel >> 16);
-        }
+        writeRow(picture.row(y), out);
         out += line;
     }
     return bytes;

@@ -137,6 +137,8 @@ std::string SvgWriter::head(double height) const {
 }
 
 std::string SvgWriter::file(KeptSvgFonts* kept) {
+    constexpr std::size_t pageSize = 1U << 15U;  // bytes, of nearly all pages
+    m_body.reserve(m_document.pages.size() * pageSize);
     for (std::size_t i = 0; i < m_document.pages.size(); ++i) {
         writePage(m_document.pages[i], i);
     }
@@ -144,7 +146,7 @@ std::string SvgWriter::file(KeptSvgFonts* kept) {
     const double height = count * m_document.size.height + (count - 1) * pageGap;
     std::string text = head(height);
     const std::string fonts = svgFonts(m_document, kept);
-    const std::string definitions = m_pictures.definitions();
+    const std::string definitions = m_pictures.takeDefinitions();
     text.reserve(text.size() + fonts.size() + definitions.size() + m_body.size() + 100);
     (text += fonts) += definitions;
     return (text += m_body) += "</svg>\n";

@@ -80,7 +80,8 @@ std::string svgFonts(const PageDocument& document, KeptSvgFonts* kept) {
             }
         }
     }
-    std::string style;
+    constexpr std::string_view start = "<style>\n";
+    std::string style(start);
     for (const PageFace face : pageFaces) {
         if (shown.of(face).empty()) {
             continue;
@@ -95,7 +96,7 @@ std::string svgFonts(const PageDocument& document, KeptSvgFonts* kept) {
             kept != nullptr ? kept->of(face, font.signs(), file) : file();
         style += ")}\n";
     }
-    return style.empty() ? style : "<style>\n" + style + "</style>\n";
+    return style == start ? std::string() : std::move(style += "</style>\n");
 }
 
 }  // namespace fleetwright
