@@ -1,6 +1,6 @@
 #include "drawShapes.h"
 
-#include "drawPageShapes.h"
+#include "pageUnits.h"
 #include "pathSteps.h"
 
 #include <QColor>

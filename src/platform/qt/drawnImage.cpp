@@ -1,7 +1,7 @@
 #include "drawnImage.h"
 
-#include "drawPageShapes.h"
 #include "drawShapes.h"
+#include "pageUnits.h"
 
 #include <QPainter>
 
