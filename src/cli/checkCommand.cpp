@@ -84,6 +84,14 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options,
 }
 
 std::optional<Fault> checkDrawings(const fs::path& file) {
+    std::error_code unknown;
+    if (!fs::is_directory(file.parent_path(), unknown)) {
+        return std::nullopt;
+    }
+    if (fs::status(file, unknown).type() == fs::file_type::not_found) {
+        complain(complaint(file.string(), {0, "not there, so .svg and .pdf sheets are of pixels"}));
+        return std::nullopt;
+    }
     try {
         return DrawingPack(file).fault();
     } catch (const FileError& error) {
