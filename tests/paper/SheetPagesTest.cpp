@@ -2,7 +2,9 @@
 
 #include "FreeRoom.h"
 #include "PictureFiles.h"
+#include "base64.h"
 #include "caseFile.h"
+#include "fontTables.h"
 #include "paperWorld.h"
 #include "sheetWorld.h"
 #include "svgFile.h"
@@ -115,4 +117,23 @@ TEST(SheetPages, BecomeAnSvgFile) {
     expectCases("paper/golden/svg.txt", [&](const Case&) {
         return std::regex_replace(svgFile(document, paper), fontBytes, "$1");
     });
+}
+
+TEST(SheetPages, JoinArabicLettersInAnSvgFile) {
+    Paper paper;
+    PageDocument document;
+    document.pages = {{{PageText{.text = "\u0633\u0644\u0627\u0645"}}}};
+    const std::string svg = svgFile(document, paper);
+    EXPECT_EQ(svg.find("textLength"), std::string::npos)
+        << "the width is not that of joined letters";
+    constexpr std::string_view start = "base64,";
+    const std::size_t font = svg.find(start) + start.size();
+    const std::string bytes = fromBase64(svg.substr(font, svg.find(')', font) - font)).value_or("");
+    const std::u32string ends = U"\uFE82\uFE82\uFE8D\uFE8E\uFEB1\uFEB4\uFEDD\uFEE4\uFEF5\uFEFC";
+    for (std::size_t i = 0; i < ends.size(); i += 2) {
+        std::string group;  // of the table of characters
+        addFontNumber(group, ends[i], 4);
+        addFontNumber(group, ends[i + 1], 4);
+        EXPECT_NE(bytes.find(group), std::string::npos) << i;
+    }
 }

@@ -1,6 +1,7 @@
 #include "svgFile.h"
 
 #include "SvgPictures.h"
+#include "joinedLetters.h"
 #include "svgFonts.h"
 #include "svgText.h"
 
@@ -51,7 +52,7 @@ void SvgWriter::write(const PageText& text) {
         tag.set("fill", svgColour(text.colour));
     }
     const double width = textWidth(text.text, text.size, text.font);
-    if (width > 0) {
+    if (width > 0 && !mayJoin(text.text)) {
         tag.set("textLength", width).set("lengthAdjust", "spacingAndGlyphs");
     }
     tag.open();

@@ -1,6 +1,7 @@
 #include "svgFonts.h"
 
 #include "base64.h"
+#include "joinedLetters.h"
 #include "text.h"
 
 #include <array>
@@ -33,8 +34,8 @@ public:
                 continue;
             }
             for (const PageSign& sign : pageSigns(character, text.font)) {
-                m_signs[static_cast<std::size_t>(sign.face)].push_back(
-                    {sign.character, sign.drawn});
+                of(sign.face).push_back({sign.character, sign.drawn});
+                addJoined(sign, text.font);
             }
         }
     }
@@ -44,6 +45,16 @@ public:
 
 private:
     static constexpr std::size_t asciiCount = 128;
+
+    /// Readers join letters with pictures of one face alone.
+    void addJoined(const PageSign& letter, PageFont font) {
+        for (const char32_t form : joinedForms(letter.character)) {
+            const PageSign joined = pageSign(form, font);
+            if (!joined.isMissing() && joined.face == letter.face) {
+                of(letter.face).push_back({form, form});
+            }
+        }
+    }
 
     std::array<std::array<bool, asciiCount>, 2> m_isKnown{};  // by the font
     std::array<std::unordered_set<char32_t>, 2> m_others;     // by the font

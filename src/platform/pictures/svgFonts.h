@@ -33,7 +33,7 @@ private:
 
 /// The element "style" that holds, of the program's fonts, the characters that a document shows, so
 /// that it looks the same where no font is installed; nothing if it shows none. One that no face
-/// has is shown as its replacement there.
+/// has is shown as its replacement there. Arabic letters are there in all forms in which they join.
 /// `kept` may be null.
 std::string svgFonts(const PageDocument& document, KeptSvgFonts* kept);
 

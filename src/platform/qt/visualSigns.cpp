@@ -15,7 +15,8 @@ bool isFromTheRight(const PageSign& sign) {
     return sign.character >= first && FRIBIDI_IS_RTL(fribidi_get_bidi_type(sign.character));
 }
 
-/// The places of characters from left to right. They become those that show how they are joined.
+/// The places of characters from left to right. They become those that show how they are joined;
+/// the first one of a ligature becomes FRIBIDI_CHAR_FILL, the second one the ligature.
 std::vector<FriBidiStrIndex> visualOrder(std::vector<FriBidiChar>& characters) {
     const auto count = static_cast<FriBidiStrIndex>(characters.size());
     std::vector<FriBidiCharType> types(characters.size());
@@ -29,7 +30,7 @@ std::vector<FriBidiStrIndex> visualOrder(std::vector<FriBidiChar>& characters) {
                                                       &direction, levels.data()) != 0;
     fribidi_get_joining_types(characters.data(), count, joins.data());
     fribidi_join_arabic(types.data(), count, levels.data(), joins.data());
-    fribidi_shape(FRIBIDI_FLAG_SHAPE_MIRRORING | FRIBIDI_FLAG_SHAPE_ARAB_PRES, levels.data(), count,
+    fribidi_shape(FRIBIDI_FLAG_SHAPE_MIRRORING | FRIBIDI_FLAGS_ARABIC, levels.data(), count,
                   joins.data(), characters.data());
     std::vector<FriBidiStrIndex> order(characters.size());
     std::iota(order.begin(), order.end(), 0);

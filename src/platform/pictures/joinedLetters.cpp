@@ -1,0 +1,66 @@
+#include "joinedLetters.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace fleetwright {
+
+namespace {
+
+/// The forms of a letter, which follow each other: alone, at the end of a word, and for most at its
+/// beginning and inside of it.
+struct LetterForms {
+    char32_t letter;
+    char32_t first;
+    char32_t count;
+};
+constexpr LetterForms letterForms[] = {
+    {0x622, 0xFE81, 2}, {0x623, 0xFE83, 2}, {0x624, 0xFE85, 2}, {0x625, 0xFE87, 2},
+    {0x626, 0xFE89, 4}, {0x627, 0xFE8D, 2}, {0x628, 0xFE8F, 4}, {0x629, 0xFE93, 2},
+    {0x62A, 0xFE95, 4}, {0x62B, 0xFE99, 4}, {0x62C, 0xFE9D, 4}, {0x62D, 0xFEA1, 4},
+    {0x62E, 0xFEA5, 4}, {0x62F, 0xFEA9, 2}, {0x630, 0xFEAB, 2}, {0x631, 0xFEAD, 2},
+    {0x632, 0xFEAF, 2}, {0x633, 0xFEB1, 4}, {0x634, 0xFEB5, 4}, {0x635, 0xFEB9, 4},
+    {0x636, 0xFEBD, 4}, {0x637, 0xFEC1, 4}, {0x638, 0xFEC5, 4}, {0x639, 0xFEC9, 4},
+    {0x63A, 0xFECD, 4}, {0x641, 0xFED1, 4}, {0x642, 0xFED5, 4}, {0x643, 0xFED9, 4},
+    {0x644, 0xFEDD, 4}, {0x645, 0xFEE1, 4}, {0x646, 0xFEE5, 4}, {0x647, 0xFEE9, 4},
+    {0x648, 0xFEED, 2}, {0x649, 0xFBE8, 2}, {0x649, 0xFEEF, 2}, {0x64A, 0xFEF1, 4},
+    {0x671, 0xFB50, 2}, {0x679, 0xFB66, 4}, {0x67A, 0xFB5E, 4}, {0x67B, 0xFB52, 4},
+    {0x67E, 0xFB56, 4}, {0x67F, 0xFB62, 4}, {0x680, 0xFB5A, 4}, {0x683, 0xFB76, 4},
+    {0x684, 0xFB72, 4}, {0x686, 0xFB7A, 4}, {0x687, 0xFB7E, 4}, {0x688, 0xFB88, 2},
+    {0x68C, 0xFB84, 2}, {0x68D, 0xFB82, 2}, {0x68E, 0xFB86, 2}, {0x691, 0xFB8C, 2},
+    {0x698, 0xFB8A, 2}, {0x6A4, 0xFB6A, 4}, {0x6A6, 0xFB6E, 4}, {0x6A9, 0xFB8E, 4},
+    {0x6AD, 0xFBD3, 4}, {0x6AF, 0xFB92, 4}, {0x6B1, 0xFB9A, 4}, {0x6B3, 0xFB96, 4},
+    {0x6BA, 0xFB9E, 2}, {0x6BB, 0xFBA0, 4}, {0x6BE, 0xFBAA, 4}, {0x6C0, 0xFBA4, 2},
+    {0x6C1, 0xFBA6, 4}, {0x6C5, 0xFBE0, 2}, {0x6C6, 0xFBD9, 2}, {0x6C7, 0xFBD7, 2},
+    {0x6C8, 0xFBDB, 2}, {0x6C9, 0xFBE2, 2}, {0x6CB, 0xFBDE, 2}, {0x6CC, 0xFBFC, 4},
+    {0x6D0, 0xFBE4, 4}, {0x6D2, 0xFBAE, 2}, {0x6D3, 0xFBB0, 2},
+};
+constexpr char32_t lam = 0x644;
+// Its ligatures with the alefs, and these at the end of a word: where one of them is missing,
+// programs take the wrong ligature.
+constexpr std::u32string_view formsWithLam =
+    U"\uFEF5\uFEF6\uFEF7\uFEF8\uFEF9\uFEFA\uFEFB\uFEFC\uFE82\uFE84\uFE88\uFE8E";
+
+}  // namespace
+
+std::u32string joinedForms(char32_t letter) {
+    std::u32string forms;
+    const auto [begin, end] =
+        std::ranges::equal_range(letterForms, letter, {}, &LetterForms::letter);
+    for (auto known = begin; known != end; ++known) {
+        for (char32_t form = known->first; form < known->first + known->count; ++form) {
+            forms += form;
+        }
+    }
+    if (letter == lam) {
+        forms += formsWithLam;
+    }
+    return forms;
+}
+
+bool mayJoin(std::string_view text) {
+    // The first bytes of U+0600 to U+06FF, which are none but these.
+    return std::ranges::any_of(text, [](char byte) { return byte >= '\xD8' && byte <= '\xDB'; });
+}
+
+}  // namespace fleetwright
