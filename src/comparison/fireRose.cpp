@@ -12,7 +12,7 @@ namespace {
 // In pixels of a picture that is large enough for whole numbers.
 constexpr int side = 1000, centre = side / 2, largestRadius = 400, bowHeight = 70;
 constexpr double pen = 12;
-constexpr std::uint32_t black = 0x000000, grey = 0x808080, lightGrey = 0xB8B8B8;
+constexpr std::uint32_t black = 0x000000, lightGrey = 0xB8B8B8;
 
 /// A place so far from the middle at this angle, in quarter turns clockwise from the bow.
 std::string placeAt(double radius, double quarters, double aside = 0) {
@@ -72,7 +72,7 @@ std::int64_t fullSectorOf(std::initializer_list<const FirePower*> ships, RoseOf 
     return most;
 }
 
-Drawing fireRose(const FirePower& power, RoseOf measure, std::int64_t full) {
+Drawing fireRose(const FirePower& power, RoseOf measure, std::int64_t full, std::uint32_t fill) {
     Drawing drawing{
         .width = side, .height = side, .ink = {0, 0, side, side}, .shapes = {groundOf(), bow()}};
     for (std::size_t direction = 0; direction < power.sectors.size(); ++direction) {
@@ -81,7 +81,7 @@ Drawing fireRose(const FirePower& power, RoseOf measure, std::int64_t full) {
             DrawnShape sector;
             sector.path =
                 sectorOf(largestRadius * std::sqrt(double(value) / double(full)), direction);
-            sector.fill = grey;
+            sector.fill = fill;
             sector.stroke = black;
             sector.strokeWidth = pen;
             sector.join = DrawnShape::Join::Round;

@@ -28,15 +28,15 @@ struct Covered {
     Box operator()(const PagePicture& picture) const { return picture.clip; }
 };
 
-bool overlap(const Box& a, const Box& b) {
-    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
-           b.y < a.y + a.height;
-}
-
 }  // namespace
 
 Box boxOf(const PageItem& item) {
     return std::visit(Covered(), item);
+}
+
+bool overlap(const Box& a, const Box& b) {
+    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
+           b.y < a.y + a.height;
 }
 
 std::optional<Box> FreeRoom::lowestAt(double x, double width, double height) const {

@@ -9,6 +9,8 @@ namespace fleetwright {
 
 /// What an item covers of its page.
 Box boxOf(const PageItem& item);
+/// Whether two boxes have an area in common.
+bool overlap(const Box& a, const Box& b);
 
 /// What is left of a room on a page.
 class FreeRoom {

@@ -2,7 +2,9 @@
 
 #include "FreeRoom.h"
 #include "SheetPictures.h"
+#include "damageBoxes.h"
 #include "designQr.h"
+#include "putFireRose.h"
 #include "scaledDrawing.h"
 #include "sheetHeader.h"
 
@@ -114,6 +116,7 @@ SheetCard::SheetCard(const VectorSheet& sheet, const Box& box, Room room,
         m_body.y += taken;
         m_body.height -= taken;
     }
+    m_roomyScale = roomyScale();
     m_leastScale = leastScale();
 }
 
@@ -130,7 +133,7 @@ bool SheetCard::isGoodHere() const {
 /// The largest scale that leaves the usual room for reading, or else a little, in wide columns or
 /// else in narrow ones. If even the least good one does not, the drawing has the room for itself.
 /// In a part of a page the least that can be played with.
-double SheetCard::leastScale() const {
+double SheetCard::roomyScale() const {
     const double most = largestScale();
     const bool isSmall = m_isPlain || m_room == Room::Part;
     const double least = scaleOfSymbol(isSmall ? leastSymbol : goodSymbol);
@@ -153,6 +156,19 @@ double SheetCard::leastScale() const {
         }
     }
     return start;
+}
+
+/// A drawing on a page of its own gives away a little of its size, as far as it remains good to
+/// play with, if all of its text then has a place beside it, or one in a font that is easier to
+/// read.
+double SheetCard::leastScale() const {
+    constexpr double kept = 0.9, leastBox = 4.5, line = 1;
+    if (m_isPlain || m_room == Room::Part) {
+        return m_roomyScale;
+    }
+    const double box = std::max(damageBoxSide(m_sheet) - line, line);
+    const double least = std::max(scaleOfSymbol(leastSymbol), leastBox / box);
+    return std::max(m_roomyScale * kept, std::min(m_roomyScale, least));
 }
 
 SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) const {
@@ -193,6 +209,9 @@ SheetCard::Sides SheetCard::roomBeside(const Silhouette& silhouette, double scal
 SheetCard::Columns SheetCard::columnsInCorners(const Sides& sides, double columnWidth) const {
     constexpr int leastHeight = 15;
     Columns columns;
+    if (m_body.width < 2 * columnWidth + columnGap) {
+        return columns;
+    }
     for (const std::size_t side : {std::size_t{0}, std::size_t{1}}) {
         const double x = m_body.x + (side == 0 ? 0 : m_body.width - columnWidth);
         int start = 0;
@@ -306,13 +325,14 @@ SheetCard::Layout SheetCard::bestLayout(const Silhouette& silhouette) const {
         return layout(std::move(best), text);
     }
     const double width = readingColumns(m_body).front().width;
-    Columns columns = columnsAround(m_leastScale, width);
+    Columns columns = columnsAround(m_roomyScale, width);
     PageFlow flow(textToRead(width, columns.inOrder().empty() ? comfortable : 1));
-    return {m_leastScale, std::move(columns), std::move(flow)};
+    return {m_roomyScale, std::move(columns), std::move(flow)};
 }
 
-/// Adds the design as a QR code to what stands beside the drawing, if that leaves room for it.
-void SheetCard::addCode(Page& text, const Silhouette& silhouette, const Box& drawing) const {
+/// Adds the fire power and the design as a QR code to what stands beside the drawing, as far as
+/// that leaves room, rather the code than the fire power.
+void SheetCard::addExtras(Page& text, const Silhouette& silhouette, const Box& drawing) const {
     constexpr double strip = 2, gapBelow = 2;
     FreeRoom room(m_body);
     for (const PageItem& item : text.items) {
@@ -325,7 +345,14 @@ void SheetCard::addCode(Page& text, const Silhouette& silhouette, const Box& dra
         room.take({drawing.x + extent.left * scale, drawing.y + y,
                    (extent.right - extent.left) * scale, strip});
     }
-    putDesignQr(text, m_sheet.shipFile, room);
+    Page extras;
+    FreeRoom besideRose = room;
+    putFireRose(extras, m_sheet.facts.fire, besideRose);
+    if (Page code; !putDesignQr(extras, m_sheet.shipFile, besideRose) &&
+                   putDesignQr(code, m_sheet.shipFile, room)) {
+        extras = std::move(code);
+    }
+    std::ranges::move(extras.items, std::back_inserter(text.items));
 }
 
 std::vector<PageBlock> SheetCard::putOn(Page& page) const {
@@ -351,7 +378,7 @@ std::vector<PageBlock> SheetCard::putOn(Page& page) const {
                          width, height};
     putDrawing(page, m_sheet.record, m_ink, drawing.x, drawing.y, scale);
     if (!m_isPlain) {
-        addCode(text, silhouette, drawing);
+        addExtras(text, silhouette, drawing);
     }
     std::ranges::move(text.items, std::back_inserter(page.items));
     return flow.takeRest();

@@ -15,7 +15,7 @@ namespace fleetwright {
 /// One sheet in its part of a page: the head, the drawing, and text and legend in columns beside
 /// and below it, or in the corners that it leaves. The drawing gets as large as it can with all of
 /// that beside it; much to read makes it no smaller than the room alone asks for. Where all of that
-/// leaves room, there is the design as a QR code. Measures are in millimetres.
+/// leaves room, there are the fire power and the design as a QR code. Measures are in millimetres.
 class SheetCard {
 public:
     /// The least side of a system's picture that can be played with.
@@ -67,6 +67,7 @@ private:
     };
 
     double largestScale() const;
+    double roomyScale() const;
     double leastScale() const;
     Columns columnsAround(double scale, double columnWidth) const;
     Sides roomBeside(const Silhouette& silhouette, double scale) const;
@@ -78,7 +79,7 @@ private:
                                    const Silhouette& silhouette) const;
     std::optional<Fitting> fittingReadings(const Silhouette& silhouette) const;
     Layout bestLayout(const Silhouette& silhouette) const;
-    void addCode(Page& text, const Silhouette& silhouette, const Box& drawing) const;
+    void addExtras(Page& text, const Silhouette& silhouette, const Box& drawing) const;
 
     const VectorSheet& m_sheet;
     Box m_box;  ///< all of it
@@ -89,9 +90,11 @@ private:
     LegendText m_legend;
     std::vector<PageBlock> m_linesInHead;
     PageBlock m_head;
-    Box m_body;           ///< what the head leaves
-    Box m_ink;            ///< what shows of the drawing, pixels of the outline
-    double m_leastScale;  ///< millimetres to the pixel, however much there is to read
+    Box m_body;  ///< what the head leaves
+    Box m_ink;   ///< what shows of the drawing, pixels of the outline
+    // Millimetres to the pixel, however much there is to read.
+    double m_roomyScale;  ///< of a drawing whose text goes on on another page
+    double m_leastScale;  ///< of one that has all of its text beside it
 };
 
 /// The columns of a room, at least one, in which text is good to read.

@@ -13,4 +13,8 @@ struct VectorSheet;
 /// that is none of ours.
 std::vector<Box> damageBoxes(const VectorSheet& sheet);
 
+/// The side of such a box with its lines, in pixels of the outline; 0 for a ship without damage
+/// points.
+int damageBoxSide(const VectorSheet& sheet);
+
 }  // namespace fleetwright

@@ -103,28 +103,21 @@ std::shared_ptr<const Drawing> designQr(std::string_view code) {
                 .shapes = {{.path = modulesOf(*symbol), .fill = 0x000000, .stroke = {}}}});
 }
 
-void putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room) {
-    constexpr std::string_view label = "DESIGN CODE";
-    constexpr double labelSize = 2.1, labelRoom = 2.6;
+bool putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room) {
     constexpr std::size_t longestShip =
         4096;  // longer ones hardly have a code that is short enough
     const auto drawing = shipFile.empty() || shipFile.size() > longestShip
                              ? nullptr
                              : designQr(designCode(shipFile));
     if (!drawing) {
-        return;
+        return false;
     }
     const double side = drawing->width * qrModule;
-    if (const std::optional<Box> free = room.find(side, side + labelRoom)) {
-        const Box place = {free->x, free->y, side, side};
-        page.items.emplace_back(PagePicture{drawing, nullptr, place, place});
-        const double x = place.x + (side - textWidth(label, labelSize)) / 2;
-        page.items.emplace_back(PageText{.text = std::string(label),
-                                         .x = x,
-                                         .y = place.y + side + labelSize * letterHeight,
-                                         .size = labelSize,
-                                         .colour = 0x555555});
+    const std::optional<Box> free = room.find(side, side + captionRoom);
+    if (free) {
+        putCaptioned(page, drawing, {free->x, free->y, side, side}, "DESIGN CODE");
     }
+    return free.has_value();
 }
 
 }  // namespace fleetwright

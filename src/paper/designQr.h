@@ -17,8 +17,8 @@ inline constexpr double qrModule = 0.5;
 /// that readers need. Null if it is too long for one that people care to scan.
 std::shared_ptr<const Drawing> designQr(std::string_view code);
 
-/// Puts the code of a ship file on a page, with a word about it, where there is room. A ship whose
-/// code is too long gets none.
-void putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room);
+/// Puts the code of a ship file on a page, with a word about it, where there is room; whether there
+/// was. A ship whose code is too long gets none.
+bool putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room);
 
 }  // namespace fleetwright

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace fleetwright {
 
@@ -49,6 +50,18 @@ PageText fittedText(std::string_view text, PageText style, double width, double 
         style.text = cutText(style.text, style, width);
     }
     return style;
+}
+
+void putCaptioned(Page& page, std::shared_ptr<const Drawing> drawing, const Box& place,
+                  std::string_view caption) {
+    constexpr double size = 2.1;
+    page.items.emplace_back(PagePicture{std::move(drawing), nullptr, place, place});
+    page.items.emplace_back(PageText{.text = std::string(caption),
+                                     .x = place.x + place.width / 2,
+                                     .y = place.y + place.height + size * letterHeight,
+                                     .size = size,
+                                     .anchor = PageText::Anchor::Middle,
+                                     .colour = 0x555555});
 }
 
 MeasuredText::MeasuredText(std::string_view text, PageFont font)

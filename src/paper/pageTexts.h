@@ -5,6 +5,7 @@
 #include "PageDocument.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,12 @@ inline constexpr double letterHeight = 0.97;
 /// A line in this style, in a smaller font of `smallest` at the least if it is too wide, and
 /// without its end, for which "…" stands, if that is not enough.
 PageText fittedText(std::string_view text, PageText style, double width, double smallest);
+
+/// The height of a caption below a picture.
+inline constexpr double captionRoom = 2.6;
+/// Puts a drawing here, and a few words below the middle of it.
+void putCaptioned(Page& page, std::shared_ptr<const Drawing> drawing, const Box& place,
+                  std::string_view caption);
 
 /// A text that is measured once, and set in lines of any width and size.
 class MeasuredText {

@@ -2,6 +2,7 @@
 
 // Sheets as pages: the drawing, the text, and what a player wants to know at the table.
 
+#include "FirePower.h"
 #include "ListView.h"
 #include "PageDocument.h"
 #include "SheetImages.h"
@@ -46,6 +47,7 @@ struct SheetFacts {
     std::int32_t damageRows = 0;
     std::string armor;         ///< in words; empty if there is none
     std::string streamlining;  ///< in words; empty if there is none
+    FirePower fire;
     std::vector<LegendRow> legend;
 };
 

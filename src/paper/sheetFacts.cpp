@@ -175,6 +175,7 @@ SheetFacts sheetFacts(const SheetShip& ship, const std::vector<ListView::Row>& l
             .damageRows = design.g_iDamRows,
             .armor = factOf(armorLine(design.Armor())),
             .streamlining = factOf(streamlineLine(design.Streamline())),
+            .fire = firePowerOf(ship.ship),
             .legend = Legend(ship, sources).rows(lvCurrentWeapons)};
 }
 

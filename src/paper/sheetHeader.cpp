@@ -3,6 +3,9 @@
 #include "pageTexts.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <numeric>
 #include <utility>
 
 namespace fleetwright {
@@ -17,7 +20,7 @@ struct Figure : HeadFigure {
     double width = 0;
 };
 
-constexpr double labelSize = 2.1, valueSize = 3.6, leastGap = 4;
+constexpr double labelSize = 2.1, valueSize = 3.6, smallValueSize = 3, leastGap = 4;
 
 /// A ship with fewer points than rows does not get all of these.
 std::string damageOf(const SheetFacts& facts) {
@@ -29,14 +32,38 @@ std::string damageOf(const SheetFacts& facts) {
     return text;
 }
 
-std::vector<Figure> measured(std::vector<HeadFigure> given) {
-    std::vector<Figure> figures;
-    for (HeadFigure& figure : given) {
+using FigureRow = std::vector<Figure>;
+
+FigureRow measured(const std::vector<HeadFigure>& given, double size) {
+    FigureRow figures;
+    for (const HeadFigure& figure : given) {
         const double width = std::max(textWidth(figure.label, labelSize),
-                                      textWidth(figure.value, valueSize, PageFont::Bold));
-        figures.push_back({std::move(figure), width});
+                                      textWidth(figure.value, size, PageFont::Bold));
+        figures.push_back({figure, width});
     }
     return figures;
+}
+
+/// How wide figures are beside each other.
+double widthOf(const FigureRow& row) {
+    return std::accumulate(
+        row.begin(), row.end(), -leastGap,
+        [](double width, const Figure& figure) { return width + figure.width + leastGap; });
+}
+
+/// Figures in rows of this width and of as many each, as far as they fit.
+std::vector<FigureRow> figureRows(const FigureRow& figures, std::size_t inEach, double width) {
+    std::vector<FigureRow> rows(1);
+    for (const Figure& figure : figures) {
+        FigureRow longer = rows.back();
+        longer.push_back(figure);
+        if (!rows.back().empty() && (longer.size() > inEach || widthOf(longer) > width)) {
+            longer = {figure};
+            rows.emplace_back();
+        }
+        rows.back() = std::move(longer);
+    }
+    return rows;
 }
 
 class HeaderBlock {
@@ -44,7 +71,7 @@ public:
     explicit HeaderBlock(double width) : m_width(width) {}
 
     void writeName(const SheetFacts& facts, double room, double size);
-    void writeFigures(std::vector<HeadFigure> figures);
+    void writeFigures(const std::vector<HeadFigure>& figures);
 
     PageBlock block;
 
@@ -53,7 +80,7 @@ private:
         block.items.emplace_back(
             PageLine{0, block.height, m_width, block.height, lineWidth, 0x000000});
     }
-    void writeRow(const std::vector<Figure>& row);
+    void writeRow(const FigureRow& row, double size);
 
     double m_width;
 };
@@ -71,14 +98,11 @@ void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
     block.items.emplace_back(std::move(kind));
 }
 
-void HeaderBlock::writeRow(const std::vector<Figure>& row) {
-    double used = 0;
-    for (const Figure& figure : row) {
-        used += figure.width;
-    }
+void HeaderBlock::writeRow(const FigureRow& row, double size) {
     constexpr double mostGap = 16;
+    const double spare = m_width - widthOf(row);
     const double gap =
-        row.size() < 2 ? 0 : std::min((m_width - used) / double(row.size() - 1), mostGap);
+        row.size() < 2 ? 0 : std::min(leastGap + spare / double(row.size() - 1), mostGap);
     double x = 0;
     for (const Figure& figure : row) {
         block.items.emplace_back(PageText{.text = figure.label,
@@ -87,7 +111,7 @@ void HeaderBlock::writeRow(const std::vector<Figure>& row) {
                                           .size = labelSize,
                                           .colour = labelColour});
         PageText value = fittedText(
-            figure.value, {.text = {}, .size = valueSize, .font = PageFont::Bold}, m_width - x, 2);
+            figure.value, {.text = {}, .size = size, .font = PageFont::Bold}, m_width - x, 2);
         value.x = x;
         value.y = block.height + 6.6;
         block.items.emplace_back(std::move(value));
@@ -96,19 +120,23 @@ void HeaderBlock::writeRow(const std::vector<Figure>& row) {
     block.height += 7.9;
 }
 
-void HeaderBlock::writeFigures(std::vector<HeadFigure> figures) {
+/// In one row, if need be in a smaller font, or else in rows of equally many.
+void HeaderBlock::writeFigures(const std::vector<HeadFigure>& figures) {
     rule(0.5);
-    std::vector<Figure> row;
-    double used = 0;
-    for (Figure& figure : measured(std::move(figures))) {
-        if (!row.empty() && used + leastGap + figure.width > m_width) {
-            writeRow(std::exchange(row, {}));
-            used = 0;
-        }
-        used += (row.empty() ? 0 : leastGap) + figure.width;
-        row.push_back(std::move(figure));
+    double size = valueSize;
+    while (size > smallValueSize && widthOf(measured(figures, size)) > m_width) {
+        constexpr double step = 0.1;
+        size -= step;
     }
-    writeRow(row);
+    FigureRow row = measured(figures, size);
+    if (widthOf(row) > m_width) {
+        size = valueSize;
+        row = measured(figures, size);
+    }
+    const std::size_t rows = figureRows(row, row.size(), m_width).size();
+    for (const FigureRow& part : figureRows(row, (row.size() + rows - 1) / rows, m_width)) {
+        writeRow(part, size);
+    }
     rule(0.2);
 }
 
@@ -130,9 +158,9 @@ std::vector<HeadFigure> headFigures(const SheetFacts& facts) {
     return figures;
 }
 
-PageBlock figuresBlock(std::vector<HeadFigure> figures, double width) {
+PageBlock figuresBlock(const std::vector<HeadFigure>& figures, double width) {
     HeaderBlock header(width);
-    header.writeFigures(std::move(figures));
+    header.writeFigures(figures);
     return std::move(header.block);
 }
 

@@ -16,7 +16,7 @@ struct HeadFigure {
 std::vector<HeadFigure> headFigures(const SheetFacts& facts);
 
 /// Figures between two lines, in as many rows as they need.
-PageBlock figuresBlock(std::vector<HeadFigure> figures, double width);
+PageBlock figuresBlock(const std::vector<HeadFigure>& figures, double width);
 
 /// The head of a sheet: the ship's name, what kind of ship it is, and its figures. Beside the name
 /// stand the lines of the drawing's text that are handed in.
