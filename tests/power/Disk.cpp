@@ -83,26 +83,33 @@ void Disk::apply(const Change& change) {
 
 void Disk::collect(const Node& folder, const std::string& path, NamesKept kept, BytesKept bytes,
                    Files& files) const {
-    auto names = kept == NamesKept::All ? folder.names : folder.syncedNames;
+    const auto* names = kept == NamesKept::All ? &folder.names : &folder.syncedNames;
+    std::map<std::string, std::shared_ptr<Node>> withLast;
     for (const Naming& last : m_last) {
         if (kept == NamesKept::SyncedAndLast && last.folder == &folder) {
-            names[last.name] = last.node;
+            if (names != &withLast) {
+                withLast = *names;
+                names = &withLast;
+            }
+            withLast[last.name] = last.node;
         }
     }
-    for (const auto& [name, node] : names) {
+    static const std::string* const noBytes = shared("/");
+    for (const auto& [name, node] : *names) {  // they come in their order, each behind all others
         // A file that has yet to get its name is called so.
         if (node == nullptr || name.starts_with('#')) {
             continue;
         }
         if (node->isFolder) {
-            files[path + name + '/'] = shared("/");
+            files.emplace_hint(files.end(), path + name + '/', noBytes);
             collect(*node, path + name + '/', kept, bytes, files);
         } else {
             const bool isCertain = node->bytes == node->syncedBytes || bytes == BytesKept::Synced;
-            files[path + name] = isCertain ? node->syncedBytes
-                                 : bytes == BytesKept::All
-                                     ? node->bytes
-                                     : shared(node->bytes->substr(0, node->bytes->size() / 2));
+            files.emplace_hint(files.end(), path + name,
+                               isCertain ? node->syncedBytes
+                               : bytes == BytesKept::All
+                                   ? node->bytes
+                                   : shared(node->bytes->substr(0, node->bytes->size() / 2)));
         }
     }
 }
