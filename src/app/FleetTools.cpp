@@ -5,7 +5,6 @@
 #include "ShipOnScreen.h"
 #include "drawnSheet.h"
 #include "fingerprint.h"
-#include "fleetDocument.h"
 #include "fleetRows.h"
 #include "fleetSheets.h"
 #include "paths.h"
@@ -50,8 +49,7 @@ std::string FleetTools::catalogue() {
     }
 }
 
-std::vector<std::optional<VectorSheet>> FleetTools::sheets(const Fleet& fleet,
-                                                           const std::filesystem::path& folder) {
+FleetSheets FleetTools::sheets(const Fleet& fleet, const std::filesystem::path& folder) {
     const LoadedMaps maps = {.maps = m_services.globals.g_colSSDMaps,
                              .g_iLargestSSD = m_services.globals.g_iLargestSSD,
                              .dropped = m_services.globals.droppedMaps};
@@ -74,13 +72,10 @@ std::vector<std::optional<VectorSheet>> FleetTools::sheets(const Fleet& fleet,
 
 PageDocument FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
                                const std::filesystem::path& folder, const PageSize& paper) {
-    const std::vector<std::optional<VectorSheet>> drawn = sheets(fleet, folder);
-    std::vector<const VectorSheet*> each;
-    for (const std::optional<VectorSheet>& sheet : drawn) {
-        each.push_back(sheet ? &*sheet : nullptr);
-    }
+    checkCanBePrinted(fleet);  // before all of it is drawn
     constexpr int mostOnAPage = 4;
-    return fleetDocument(fleet, rows, each, {.paper = paper, .perPage = mostOnAPage});
+    return fleetDocument(fleet, rows, sheets(fleet, folder),
+                         {.paper = paper, .perPage = mostOnAPage});
 }
 
 std::string FleetTools::playPage(const Fleet& fleet, const std::filesystem::path& folder) {

@@ -4,13 +4,11 @@
 #include "Fleet.h"
 #include "FleetRow.h"
 #include "PageDocument.h"
-#include "sheetDocument.h"
+#include "fleetDocument.h"
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
-#include <vector>
 
 namespace fleetwright {
 
@@ -56,8 +54,7 @@ public:
 
 private:
     ShipOnScreen& screen();
-    std::vector<std::optional<VectorSheet>> sheets(const Fleet& fleet,
-                                                   const std::filesystem::path& folder);
+    FleetSheets sheets(const Fleet& fleet, const std::filesystem::path& folder);
 
     Services m_services;
     std::shared_ptr<const CatalogueText> m_known;  ///< the catalogue that has this

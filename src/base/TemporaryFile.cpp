@@ -2,6 +2,7 @@
 
 #include "fileCalls.h"
 
+#include <cstddef>
 #include <random>
 #include <string>
 #include <string_view>
@@ -69,6 +70,30 @@ std::error_code TemporaryFile::write(std::string_view contents) {
     error = error ? error : m_file->sync();
     const std::error_code notClosed = m_file->close();
     return error ? error : notClosed;
+}
+
+std::error_code TemporaryFile::write(const FileContents& contents) {
+    constexpr std::size_t enough = std::size_t{1} << 18U;  // bytes for a call of the system
+    std::string waiting;
+    const auto flush = [&] {
+        if (const std::error_code error = m_file->write(waiting)) {
+            throw std::system_error(error);  // whoever makes contents need not know
+        }
+        waiting.clear();
+    };
+    try {
+        contents([&](std::string_view piece) {
+            waiting += piece;
+            if (waiting.size() >= enough) {
+                flush();
+            }
+        });
+        flush();
+    } catch (const std::system_error& error) {
+        m_file->close();
+        return error.code();
+    }
+    return write(std::string_view());
 }
 
 std::error_code TemporaryFile::rename(const fs::path& target) {

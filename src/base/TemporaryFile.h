@@ -4,14 +4,20 @@
 #include "OpenFile.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <system_error>
 
 namespace fleetwright {
 
+/// Takes the next piece of a file.
+using FileOut = std::function<void(std::string_view piece)>;
+/// Hands all contents of a file out, piece by piece and the same whenever it is called.
+using FileContents = std::function<void(const FileOut& out)>;
+
 /// A new file beside another one, gone with this object unless it is renamed. None of its functions
-/// throws; the error is empty where all went well.
+/// throws by itself; the error is empty where all went well.
 ///
 /// It is locked as long as this object lives. Those that a kill has left behind are free, and are
 /// known by that.
@@ -33,6 +39,8 @@ public:
     OpenFile& file() { return *m_file; }
     /// Writes all that is to be in it, so that it outlasts a power cut, and closes it.
     std::error_code write(std::string_view contents);
+    /// The same for contents that are made as they are written. Throws what those throw.
+    std::error_code write(const FileContents& contents);
     /// Puts it in the place of another file, where it stays, in the same folder for good. An error
     /// may mean that it is there, but not for sure.
     std::error_code rename(const std::filesystem::path& target);

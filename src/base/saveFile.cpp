@@ -1,7 +1,6 @@
 #include "saveFile.h"
 
 #include "Error.h"
-#include "TemporaryFile.h"
 #include "entryCalls.h"
 #include "fileCalls.h"
 #include "fileTraits.h"
@@ -14,6 +13,7 @@
 #include <initializer_list>
 #include <mutex>
 #include <set>
+#include <string>
 #include <system_error>
 
 namespace fleetwright {
@@ -81,7 +81,8 @@ bool isUnattainable(const std::error_code& error) {
 
 /// Puts a new file in the place of one, or where there is none yet. `isHindered` says that it has
 /// failed by what a new file cannot be or may not do, and not by its contents.
-std::error_code replaceFile(const fs::path& file, bool isThere, std::string_view contents,
+template <typename Contents>
+std::error_code replaceFile(const fs::path& file, bool isThere, const Contents& contents,
                             bool& isHindered) {
     std::error_code error;
     TemporaryFile temporary(file, error);
@@ -100,6 +101,16 @@ std::error_code replaceFile(const fs::path& file, bool isThere, std::string_view
         isHindered = !temporary.isRenamed() && isForbidden(error);
     }
     return error;
+}
+
+std::string_view allOf(std::string_view contents) {
+    return contents;
+}
+
+std::string allOf(const FileContents& contents) {
+    std::string all;
+    contents([&all](std::string_view piece) { all += piece; });
+    return all;
 }
 
 /// The file that a chain of links ends at, also where that file does not exist yet. A chain
@@ -125,9 +136,8 @@ std::uintmax_t otherNames(const fs::path& target) {
     return names == 0 ? 0 : names - 1;
 }
 
-}  // namespace
-
-void saveFile(const fs::path& target, std::string_view contents) {
+template <typename Contents>
+void save(const fs::path& target, const Contents& contents) {
     if (const std::string_view why = entryCalls::whyNoName(target); !why.empty()) {
         fail(target, std::string(why));
     }
@@ -159,13 +169,23 @@ void saveFile(const fs::path& target, std::string_view contents) {
              error.message() + "; if it were overwritten, its other names would change, too");
     }
     try {
-        overwriteFile(file, contents);
+        overwriteFile(file, allOf(contents));
     } catch (const FileError& failure) {
         // A new file would have been the better way, so why there is none is said first.
         fail(target, failure.file() == file ? failure.what()
                                             : error.message() + "; nor can it be overwritten (" +
                                                   complaint(failure) + ')');
     }
+}
+
+}  // namespace
+
+void saveFile(const fs::path& target, std::string_view contents) {
+    save(target, contents);
+}
+
+void saveFile(const fs::path& target, const FileContents& contents) {
+    save(target, contents);
 }
 
 std::string otherNamesNotice(const fs::path& target) {

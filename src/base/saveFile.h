@@ -2,6 +2,8 @@
 
 // Saving whole files.
 
+#include "TemporaryFile.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -26,6 +28,10 @@ namespace fleetwright {
 /// Throws FileError, with the target as it was; or with the new contents, if all that failed was to
 /// make sure that they outlast a power cut.
 void saveFile(const std::filesystem::path& target, std::string_view contents);
+
+/// The same for contents that are too large for the memory: they are made as they are written.
+/// Throws what those throw, too, with the target as it was.
+void saveFile(const std::filesystem::path& target, const FileContents& contents);
 
 /// What is to be said to the user before a file is saved that has other names, from which it parts.
 /// Empty if it has none.

@@ -54,7 +54,13 @@ void ToolPictures::prepareForPdf() {
 }
 
 std::string ToolPictures::pdf(const PageDocument& document) {
-    return module().pdf(document);
+    std::string file;
+    writePdf(document, [&file](std::string_view bytes) { file += bytes; });
+    return file;
+}
+
+void ToolPictures::writePdf(const PageDocument& document, const FileOut& out) {
+    module().pdf(document, out);
 }
 
 Raster ToolPictures::pixels(const Page& page, double millimetres, int pixels) {

@@ -2,6 +2,7 @@
 
 #include "PageDocument.h"
 #include "PictureReader.h"
+#include "TemporaryFile.h"
 
 #include <filesystem>
 #include <future>
@@ -26,6 +27,8 @@ public:
     void prepareForPdf();
     /// The bytes of a PDF file, the same for the same document.
     std::string pdf(const PageDocument& document);
+    /// The same, piece by piece.
+    void writePdf(const PageDocument& document, const FileOut& out);
     /// What a page shows but its text, in a square of so many millimetres, in so many pixels each
     /// way.
     Raster pixels(const Page& page, double millimetres, int pixels);

@@ -2,19 +2,17 @@
 
 #include "CatalogueFile.h"
 #include "Error.h"
+#include "FleetFiles.h"
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "console.h"
-#include "designCode.h"
 #include "documentDate.h"
 #include "drawnSheet.h"
 #include "fingerprint.h"
 #include "fleetDocument.h"
 #include "fleetFile.h"
-#include "fleetPaths.h"
 #include "fleetRows.h"
 #include "fleetTable.h"
-#include "fleetWords.h"
 #include "pageOptions.h"
 #include "paths.h"
 #include "playedFleet.h"
@@ -23,10 +21,10 @@
 #include "text.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -46,47 +44,10 @@ void checkSheets(std::string_view, const std::string& out) {
     }
 }
 
-/// The ships of a fleet that have to be loaded: each file once.
-struct FleetFiles {
-    std::vector<std::string> paths;
-    std::vector<int> lines;           ///< of the fleet file, where each is named first
-    std::vector<std::size_t> ofShip;  ///< the path of each ship of the fleet
-};
-
-FleetFiles filesOf(const ReadFleet& read, const fs::path& folder) {
-    FleetFiles files;
-    std::unordered_map<std::string, std::size_t> known;
-    std::unordered_map<std::string, std::size_t> named;  // spares a look at the disk
-    for (std::size_t i = 0; i < read.fleet.ships.size(); ++i) {
-        const FleetShip& ship = read.fleet.ships[i];
-        const auto [name, isNew] = named.try_emplace(ship.file, 0);
-        if (isNew) {
-            const std::string path = shipPath(folder, ship);
-            const auto [place, isFirst] = known.try_emplace(path, files.paths.size());
-            name->second = place->second;
-            if (isFirst) {
-                files.paths.push_back(path);
-                files.lines.push_back(read.shipLines[i]);
-            }
-        }
-        files.ofShip.push_back(name->second);
-    }
-    return files;
-}
-
-/// What is wrong with a ship: the line in its own file, or where the fleet names it.
-std::string shipComplaint(const std::string& fleetFile, const FleetFiles& files, std::size_t index,
-                          const Fault& fault) {
-    const std::string& path = files.paths[index];
-    const std::string ofShip = complaint(path, fault);
-    const bool hasOwnLine = fault.line != 0 && !isDesignCode(path);
-    return hasOwnLine ? ofShip : complaint(fleetFile, Fault{files.lines[index], ofShip});
-}
-
 /// What the ships of a fleet are, and their sheets if those are wanted.
 struct LoadedShips {
-    FleetRows rows;                                  ///< for each ship of the fleet
-    std::vector<std::optional<VectorSheet>> sheets;  ///< for each file
+    FleetRows rows;      ///< for each ship of the fleet
+    FleetSheets sheets;  ///< for each file
 };
 
 /// Loads all ships of a fleet and names what is wrong with them. With tools it draws their sheets.
@@ -102,11 +63,12 @@ LoadedShips loadShips(const Options& options, const FleetFiles& files,
         auto row = std::make_shared<const FleetRow>(fleetRow(screen, path));
         Result result;
         for (const Fault& fault : row->faults) {
-            result.complaints.push_back(shipComplaint(fleetFile, files, index, fault));
+            result.complaints.push_back(files.complaintOf(fleetFile, index, fault));
         }
         try {
             if (tools != nullptr && row->figures) {
-                loaded.sheets[index] = recordedSheet(screen, *tools, {});
+                loaded.sheets[index] =
+                    std::make_shared<const VectorSheet>(recordedSheet(screen, *tools, {}));
             }
         } catch (const Error& error) {
             result.complaints.push_back(complaint(nativePath(path), error));
@@ -123,28 +85,16 @@ LoadedShips loadShips(const Options& options, const FleetFiles& files,
 
 void saveSheets(const Options& options, const FleetReport& report, const FleetFiles& files,
                 const LoadedShips& loaded, ToolPictures& pictures) {
-    std::vector<const VectorSheet*> sheets;
+    FleetSheets sheets;
     for (const std::size_t file : files.ofShip) {
-        const std::optional<VectorSheet>& sheet = loaded.sheets[file];
-        sheets.push_back(sheet ? &*sheet : nullptr);
+        sheets.push_back(loaded.sheets[file]);
     }
     SheetOptions onPages = sheetOptionsOf(options);
     onPages.perPage = options.has(perPageOption.name) ? onPages.perPage : mostPerPage;
     PageDocument document = fleetDocument(report.fleet, report.rows, sheets, onPages);
     document.date = documentDate(nativePath(options.words.front()));
-    saveResult(nativePath(options.value(sheetsOption)), pictures.pdf(document));
-}
-
-std::vector<Fault> brokenLimits(const FleetReport& report, const std::vector<int>& lines) {
-    std::vector<Fault> faults;
-    auto line = lines.begin();
-    for (const LimitWords& limit : limitWords(report.fleet, report.sum)) {
-        if (limit.isBroken) {
-            faults.push_back({*line, limit.text});
-        }
-        ++line;
-    }
-    return faults;
+    saveResult(nativePath(options.value(sheetsOption)),
+               FileContents([&](const FileOut& out) { pictures.writePdf(document, out); }));
 }
 
 int runFleet(const Options& options) {
@@ -166,7 +116,7 @@ int runFleet(const Options& options) {
         refuse(complaint(file, fault));
     }
     const auto catalogue = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
-    const FleetFiles files = filesOf(read, path.parent_path());
+    const FleetFiles files(read, path.parent_path());
     std::optional<SheetSupplies> supplies;
     if (options.has(sheetsOption)) {
         supplies.emplace(options, files.paths.size(), SheetSupplies::Kind::Pdf, status);
@@ -174,7 +124,7 @@ int runFleet(const Options& options) {
     LoadedShips loaded =
         loadShips(options, files, catalogue, supplies ? &supplies->tools : nullptr, status);
     FleetReport report;
-    report.fleet = std::move(read.fleet);
+    report.fleet = read.fleet;
     report.rows = std::move(loaded.rows);
     report.sum = fleetSum(report.fleet, report.rows);
     if (!report.fleet.catalogue.empty()) {
@@ -185,21 +135,26 @@ int runFleet(const Options& options) {
     } else if (!supplies) {
         printTable(report);
     }
-    if (supplies) {
-        saveSheets(options, report, files, loaded, supplies->pictures);
-    }
-    for (const Fault& fault : brokenLimits(report, read.limitLines)) {
-        refuse(complaint(file, fault));
-    }
-    if (options.has(playOption)) {
+    const auto attempt = [&](const std::function<void()>& act) {
         try {
-            status = std::max(status, savePlayedFleet(options, report.fleet, path.parent_path(),
-                                                      nativePath(options.value(playOption))));
+            act();
         } catch (const FileError& error) {
             refuse(complaint(error));
         } catch (const Error& error) {
             refuse(complaint(path, error));
         }
+    };
+    if (supplies) {
+        attempt([&] { saveSheets(options, report, files, loaded, supplies->pictures); });
+    }
+    for (const Fault& fault : brokenLimits(read, report.sum)) {
+        refuse(complaint(file, fault));
+    }
+    if (options.has(playOption)) {
+        attempt([&] {
+            status = std::max(status, savePlayedFleet(options, report.fleet, path.parent_path(),
+                                                      nativePath(options.value(playOption))));
+        });
     }
     return status;
 }

@@ -15,7 +15,7 @@ int savePlayedFleet(const Options& options, const Fleet& fleet, const std::files
                     const std::filesystem::path& out) {
     checkCanBePlayed(fleet);
     int status = Done;
-    SheetSupplies supplies(options, fleet.ships.size(), SheetSupplies::Kind::Other, status);
+    SheetSupplies supplies(options, fleet.ships.size(), SheetSupplies::Kind::Svg, status);
     const auto refuse = [&status](const std::string& ship, const Error& why) {
         complain(complaint(nativePath(ship), why));
         status = SomeRefused;

@@ -1,7 +1,6 @@
 #include "saveResult.h"
 
 #include "console.h"
-#include "saveFile.h"
 
 #include <string>
 
@@ -16,6 +15,11 @@ void announceSave(const std::filesystem::path& file) {
 void saveResult(const std::filesystem::path& file, std::string_view bytes) {
     announceSave(file);
     saveFile(file, bytes);
+}
+
+void saveResult(const std::filesystem::path& file, const FileContents& contents) {
+    announceSave(file);
+    saveFile(file, contents);
 }
 
 }  // namespace fleetwright

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "saveFile.h"
+
 #include <filesystem>
 #include <string_view>
 
@@ -11,5 +13,7 @@ void announceSave(const std::filesystem::path& file);
 
 /// Saves a result, announced. Throws FileError as `saveFile` does.
 void saveResult(const std::filesystem::path& file, std::string_view bytes);
+/// The same for one that is made as it is written.
+void saveResult(const std::filesystem::path& file, const FileContents& contents);
 
 }  // namespace fleetwright

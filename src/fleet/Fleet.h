@@ -67,4 +67,13 @@ inline std::string ownName(const FleetShip& ship, std::size_t index, const std::
     return ship.count == 1 ? shipName : shipName + ' ' + std::to_string(index + 1);
 }
 
+/// How many ships a fleet has, of all designs.
+inline std::int64_t shipCount(const Fleet& fleet) {
+    std::int64_t count = 0;
+    for (const FleetShip& ship : fleet.ships) {
+        count += ship.count;
+    }
+    return count;
+}
+
 }  // namespace fleetwright

@@ -76,13 +76,11 @@ void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
 }
 
 RecoveryFolder::Aside FleetRecoveryPanel::aside() const {
-    std::int64_t ships = 0;
-    for (const FleetShip& ship : fleet().ships) {
-        ships += ship.count;
-    }
     return {.shipName = fleet().name.empty() ? "Fleet" : fleet().name,
-            .mass = static_cast<std::int32_t>(std::min<std::int64_t>(ships, INT32_MAX)),
+            .mass =
+                static_cast<std::int32_t>(std::min<std::int64_t>(shipCount(fleet()), INT32_MAX)),
             .shipFile = document().textIn(services().recovery->folder()),
+            .steps = document().steps(),
             .kind = RecoveryKind::Fleet};
 }
 

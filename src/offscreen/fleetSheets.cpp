@@ -6,14 +6,15 @@
 #include "fleetPaths.h"
 
 #include <map>
+#include <memory>
 
 namespace fleetwright {
 
-std::vector<std::optional<VectorSheet>>
+FleetSheets
 fleetSheets(const Fleet& fleet, const std::filesystem::path& folder, const CatalogueFile& catalogue,
             const SheetTools& tools,
             const std::function<void(const std::string& ship, const Error& why)>& refuse) {
-    std::vector<std::optional<VectorSheet>> sheets;
+    FleetSheets sheets;
     std::map<std::string, std::size_t> known;
     for (const FleetShip& ship : fleet.ships) {
         const std::string path = shipPath(folder, ship);
@@ -22,13 +23,13 @@ fleetSheets(const Fleet& fleet, const std::filesystem::path& folder, const Catal
             sheets.push_back(sheets[first->second]);
             continue;
         }
-        std::optional<VectorSheet>& sheet = sheets.emplace_back();
+        std::shared_ptr<const VectorSheet>& sheet = sheets.emplace_back();
         ShipOnScreen screen(tools.appFolder, catalogue);
         if (screen.load(path)) {
             continue;
         }
         try {
-            sheet = recordedSheet(screen, tools, {});
+            sheet = std::make_shared<const VectorSheet>(recordedSheet(screen, tools, {}));
         } catch (const Error& error) {
             refuse(path, error);
         }

@@ -1,10 +1,13 @@
 #include "fleetDocument.h"
 
+#include "Error.h"
 #include "FleetSum.h"
 #include "rosterPages.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -22,6 +25,27 @@ void rename(std::string& text, std::string_view beginning, const std::string& na
     }
 }
 
+/// A sheet for each ship of a fleet.
+SheetSeries seriesOf(const Fleet& fleet, const FleetSheets& sheets) {
+    struct Named {
+        std::size_t design;
+        std::string name;
+    };
+    std::vector<Named> ships;
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        const FleetShip& ship = fleet.ships[i];
+        for (std::int32_t one = 0; sheets[i] != nullptr && one < ship.count; ++one) {
+            ships.push_back(
+                {i, ownName(ship, static_cast<std::size_t>(one), sheets[i]->facts.shipName)});
+        }
+    }
+    const std::size_t count = ships.size();
+    return {count, [sheets, ships = std::move(ships)](std::size_t i) {
+                return std::make_shared<const VectorSheet>(
+                    renamedSheet(*sheets[ships[i].design], ships[i].name));
+            }};
+}
+
 }  // namespace
 
 VectorSheet renamedSheet(VectorSheet sheet, const std::string& name) {
@@ -31,22 +55,18 @@ VectorSheet renamedSheet(VectorSheet sheet, const std::string& name) {
     return sheet;
 }
 
-PageDocument fleetDocument(const Fleet& fleet, const FleetRows& rows,
-                           const std::vector<const VectorSheet*>& sheets,
-                           const SheetOptions& options) {
-    std::vector<VectorSheet> wanted;
-    for (std::size_t i = 0; i < sheets.size(); ++i) {
-        const FleetShip& ship = fleet.ships[i];
-        for (std::int32_t one = 0; sheets[i] != nullptr && one < ship.count; ++one) {
-            const std::string& shipName = sheets[i]->facts.shipName;
-            wanted.push_back(
-                renamedSheet(*sheets[i], ownName(ship, static_cast<std::size_t>(one), shipName)));
-        }
+void checkCanBePrinted(const Fleet& fleet) {
+    if (const std::int64_t count = shipCount(fleet); count > mostSheets) {
+        throw Error("a document has " + std::to_string(mostSheets) +
+                    " sheets at the most, and the fleet has " + std::to_string(count) + " ships");
     }
-    PageDocument document = sheetDocument(wanted, options);
-    std::vector<Page> pages = rosterPages(fleet, rows, document.size);
-    std::move(document.pages.begin(), document.pages.end(), std::back_inserter(pages));
-    document.pages = std::move(pages);
+}
+
+PageDocument fleetDocument(const Fleet& fleet, const FleetRows& rows, const FleetSheets& sheets,
+                           const SheetOptions& options) {
+    checkCanBePrinted(fleet);
+    PageDocument document = sheetDocument(seriesOf(fleet, sheets), options);
+    document.pages = rosterPages(fleet, rows, document.size);
     const FleetSum sum = fleetSum(fleet, rows);
     document.title = fleet.name.empty() ? "Unnamed Fleet" : fleet.name;
     document.subject =

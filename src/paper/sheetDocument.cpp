@@ -5,6 +5,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
+#include <memory>
+#include <set>
+#include <utility>
 
 namespace fleetwright {
 
@@ -14,20 +18,21 @@ constexpr double cutGap = 6;  // between sheets on one page
 // The least side of a paper that a sheet's head has room on, with all that it may say.
 constexpr double leastPaperSide = 100;
 
-/// Pages for sheets, one after the other.
+/// Pages for sheets, one after the other. Which of them share a page is found out at once, as they
+/// come; the pages are made when they are asked for.
 class SheetPages {
 public:
-    explicit SheetPages(const SheetOptions& options)
-        : m_options(options), m_inside{paperMargin, paperMargin,
-                                       options.paper.width - 2 * paperMargin,
-                                       options.paper.height - 2 * paperMargin} {}
+    using Take = std::function<void(Page&&)>;
 
-    void add(const std::vector<VectorSheet>& sheets);
+    explicit SheetPages(const SheetOptions& options);
 
-    std::vector<Page> pages;
+    /// Has another sheet on some page.
+    void add(const VectorSheet& sheet);
+    /// All sheets are there.
+    void finish();
+    void each(const SheetSeries& sheets, const Take& take) const;
 
 private:
-    using Sheets = std::vector<VectorSheet>;
     /// A page that is cut into columns and rows.
     struct Cut {
         int columns;
@@ -45,14 +50,26 @@ private:
     };
 
     std::vector<Box> cells(Cut cut) const;
-    Fitting fitting(const Sheets& sheets, Cut cut) const;
-    void addPage(const Sheets& sheets, const Fitting& onIt);
-    void addCutMarks(Cut cut);
-    void addReading(std::vector<PageBlock> blocks);
+    void makePage(const SheetSeries& sheets, const Fitting& onIt, const Take& take) const;
+    void addCutMarks(Page& page, Cut cut) const;
+    void makeReading(std::vector<PageBlock> blocks, const Take& take) const;
 
     SheetOptions m_options;
     Box m_inside;
+    std::size_t m_count = 0;
+    std::vector<Fitting> m_waiting;  ///< those that have no page yet, for each cut
+    std::vector<Fitting> m_pages;
 };
+
+SheetPages::SheetPages(const SheetOptions& options)
+    : m_options(options), m_inside{paperMargin, paperMargin, options.paper.width - 2 * paperMargin,
+                                   options.paper.height - 2 * paperMargin} {
+    for (const Cut cut : {Cut{1, 1}, Cut{2, 1}, Cut{1, 2}, Cut{2, 2}}) {
+        if (cut.count() <= std::size_t(m_options.perPage)) {
+            m_waiting.push_back({cut, {}});
+        }
+    }
+}
 
 std::vector<Box> SheetPages::cells(Cut cut) const {
     const double width = (m_inside.width - (cut.columns - 1) * cutGap) / cut.columns;
@@ -67,67 +84,78 @@ std::vector<Box> SheetPages::cells(Cut cut) const {
     return boxes;
 }
 
-SheetPages::Fitting SheetPages::fitting(const Sheets& sheets, Cut cut) const {
-    const Box cell = cells(cut).front();
-    Fitting fitting = {cut, {}};
-    for (std::size_t i = 0; i < sheets.size(); ++i) {
-        if (cut.count() == 1 || SheetCard(sheets[i], cell, cut.room(), m_options).isGoodHere()) {
-            fitting.sheets.push_back(i);
+void SheetPages::add(const VectorSheet& sheet) {
+    for (auto& [cut, fits] : m_waiting) {
+        const Box cell = cells(cut).front();
+        if (cut.count() == 1 || SheetCard(sheet, cell, cut.room(), m_options).isGoodHere()) {
+            fits.push_back(m_count);
         }
     }
-    return fitting;
+    ++m_count;
 }
 
 /// The first sheet that has no page shares one with as many of those behind it as it can.
-void SheetPages::add(const Sheets& sheets) {
-    std::vector<Fitting> waiting;
-    for (const Cut cut : {Cut{1, 1}, Cut{2, 1}, Cut{1, 2}, Cut{2, 2}}) {
-        if (cut.count() <= std::size_t(m_options.perPage)) {
-            waiting.push_back(fitting(sheets, cut));
+void SheetPages::finish() {
+    std::vector<std::size_t> next(m_waiting.size());  // of those that fit each cut
+    std::vector<bool> hasPage(m_count);
+    for (std::size_t first = 0; first < m_count && !m_waiting.empty(); ++first) {
+        if (hasPage[first]) {
+            continue;
         }
-    }
-    while (!waiting.empty() && !waiting.front().sheets.empty()) {
-        const std::size_t first = waiting.front().sheets.front();
         Fitting best = {{1, 1}, {first}};
-        for (const auto& [cut, fits] : waiting) {
-            const std::size_t count = std::min(fits.size(), cut.count());
-            if (count > best.sheets.size() && fits.front() == first) {
-                best = {cut, {fits.begin(), fits.begin() + std::ptrdiff_t(count)}};
+        for (std::size_t i = 0; i < m_waiting.size(); ++i) {
+            const auto& [cut, fits] = m_waiting[i];
+            while (next[i] < fits.size() && hasPage[fits[next[i]]]) {
+                ++next[i];
+            }
+            std::vector<std::size_t> sheets;
+            for (std::size_t at = next[i]; at < fits.size() && sheets.size() < cut.count(); ++at) {
+                if (!hasPage[fits[at]]) {
+                    sheets.push_back(fits[at]);
+                }
+            }
+            if (sheets.size() > best.sheets.size() && sheets.front() == first) {
+                best = {cut, std::move(sheets)};
             }
         }
-        addPage(sheets, best);
-        for (Fitting& left : waiting) {
-            std::erase_if(left.sheets, [&](std::size_t sheet) {
-                return std::ranges::find(best.sheets, sheet) != best.sheets.end();
-            });
+        for (const std::size_t sheet : best.sheets) {
+            hasPage[sheet] = true;
         }
+        m_pages.push_back(std::move(best));
+    }
+    m_waiting.clear();
+}
+
+void SheetPages::each(const SheetSeries& sheets, const Take& take) const {
+    for (const Fitting& page : m_pages) {
+        makePage(sheets, page, take);
     }
 }
 
-void SheetPages::addPage(const Sheets& sheets, const Fitting& onIt) {
+void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const Take& take) const {
     const std::vector<Box> boxes = cells(onIt.cut);
     const double width = readingColumns(m_inside).front().width;
     std::vector<PageBlock> left;
     Page page;
     for (std::size_t i = 0; i < onIt.sheets.size(); ++i) {
-        const VectorSheet& sheet = sheets[onIt.sheets[i]];
-        const SheetCard card(sheet, boxes[i], onIt.cut.room(), m_options);
+        const auto sheet = sheets.at(onIt.sheets[i]);
+        const SheetCard card(*sheet, boxes[i], onIt.cut.room(), m_options);
         std::vector<PageBlock> rest = card.putOn(page);
         if (!rest.empty()) {
-            left.push_back(continuedBlock(sheet.facts.shipName, width));
+            left.push_back(continuedBlock(sheet->facts.shipName, width));
             appendBlocks(left, std::move(rest));
         }
     }
-    pages.push_back(std::move(page));
-    addCutMarks(onIt.cut);
-    addReading(std::move(left));
+    addCutMarks(page, onIt.cut);
+    take(std::move(page));
+    makeReading(std::move(left), take);
 }
 
 /// Marks where to cut, at the edges and in the middle.
-void SheetPages::addCutMarks(Cut cut) {
+void SheetPages::addCutMarks(Page& page, Cut cut) const {
     constexpr double length = 4, lineWidth = 0.15;
-    const auto mark = [this](double x, double y, double dx, double dy) {
-        pages.back().items.emplace_back(PageLine{x - dx, y - dy, x + dx, y + dy, lineWidth, 0});
+    const auto mark = [&page](double x, double y, double dx, double dy) {
+        page.items.emplace_back(PageLine{x - dx, y - dy, x + dx, y + dy, lineWidth, 0});
     };
     const double x = m_inside.x + m_inside.width / 2, y = m_inside.y + m_inside.height / 2;
     const double right = m_inside.x + m_inside.width, bottom = m_inside.y + m_inside.height;
@@ -144,7 +172,7 @@ void SheetPages::addCutMarks(Cut cut) {
 }
 
 /// Goes on with what found no room beside drawings.
-void SheetPages::addReading(std::vector<PageBlock> blocks) {
+void SheetPages::makeReading(std::vector<PageBlock> blocks, const Take& take) const {
     PageFlow flow(std::move(blocks));
     while (!flow.isDone()) {
         Page page;
@@ -157,55 +185,84 @@ void SheetPages::addReading(std::vector<PageBlock> blocks) {
         if (page.items.empty()) {
             flow.force(columns.front(), page);
         }
-        pages.push_back(std::move(page));
+        take(std::move(page));
     }
 }
 
-/// The designers, each once.
-std::string designersOf(const std::vector<VectorSheet>& sheets) {
-    std::vector<std::string> names;
-    std::string text;
-    for (const VectorSheet& sheet : sheets) {
-        const std::string& name = sheet.facts.designer;
-        if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end()) {
-            names.push_back(name);
+/// The names of designers, each once.
+class Designers {
+public:
+    void add(const std::string& name) {
+        if (!name.empty() && m_names.insert(name).second) {
             text += (text.empty() ? "" : ", ") + name;
         }
     }
-    return text;
-}
+
+    std::string text;
+
+private:
+    std::set<std::string> m_names;
+};
 
 std::string subjectOf(const SheetFacts& facts) {
     return facts.designation + ", " + facts.hull + ", mass " + std::to_string(facts.mass) + ", " +
            std::to_string(facts.points) + " points";
 }
 
+/// All of a document but its pages.
+PageDocument withoutPages(const SheetSeries& sheets, const SheetOptions& options,
+                          SheetPages& pages) {
+    PageDocument document;
+    document.size = options.paper;
+    document.language = "en";
+    document.title = std::to_string(sheets.count) + " sheets";
+    document.subject = "Ship sheets";
+    Designers designers;
+    std::vector<std::string> shipFiles;
+    for (std::size_t i = 0; i < sheets.count; ++i) {
+        const auto sheet = sheets.at(i);
+        pages.add(*sheet);
+        designers.add(sheet->facts.designer);
+        document.date = std::max(document.date, sheet->date);
+        shipFiles.push_back(sheet->shipFile);
+        if (sheets.count == 1) {
+            document.title = sheet->facts.shipName;
+            document.subject = subjectOf(sheet->facts);
+        }
+    }
+    pages.finish();
+    document.author = designers.text;
+    document.metadata = carriedShips(shipFiles);
+    return document;
+}
+
+SheetOptions onLargeEnoughPaper(SheetOptions options) {
+    options.paper = {std::max(options.paper.width, leastPaperSide),
+                     std::max(options.paper.height, leastPaperSide)};
+    return options;
+}
+
 }  // namespace
 
 PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked) {
-    SheetOptions options = asked;
-    options.paper = {std::max(asked.paper.width, leastPaperSide),
-                     std::max(asked.paper.height, leastPaperSide)};
-    SheetPages laidOut(options);
-    laidOut.add(sheets);
-    PageDocument document;
-    document.size = options.paper;
-    document.pages = std::move(laidOut.pages);
-    document.author = designersOf(sheets);
-    document.language = "en";
-    if (sheets.size() == 1) {
-        document.title = sheets.front().facts.shipName;
-        document.subject = subjectOf(sheets.front().facts);
-    } else {
-        document.title = std::to_string(sheets.size()) + " sheets";
-        document.subject = "Ship sheets";
-    }
-    std::vector<std::string> shipFiles;
-    for (const VectorSheet& sheet : sheets) {
-        document.date = std::max(document.date, sheet.date);
-        shipFiles.push_back(sheet.shipFile);
-    }
-    document.metadata = carriedShips(shipFiles);
+    const SheetSeries series = {sheets.size(), [&sheets](std::size_t i) {
+                                    return std::shared_ptr<const VectorSheet>(
+                                        std::shared_ptr<void>(), &sheets[i]);
+                                }};
+    const SheetOptions options = onLargeEnoughPaper(asked);
+    SheetPages pages(options);
+    PageDocument document = withoutPages(series, options, pages);
+    pages.each(series, [&](Page&& page) { document.pages.push_back(std::move(page)); });
+    return document;
+}
+
+PageDocument sheetDocument(const SheetSeries& sheets, const SheetOptions& asked) {
+    const SheetOptions options = onLargeEnoughPaper(asked);
+    SheetPages pages(options);
+    PageDocument document = withoutPages(sheets, options, pages);
+    document.morePages = [sheets, pages = std::move(pages)](const PageTaker& take) {
+        pages.each(sheets, [&take](Page&& page) { take(page); });
+    };
     return document;
 }
 

@@ -10,7 +10,10 @@
 #include "Silhouette.h"
 #include "drawSSD.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -82,8 +85,20 @@ struct SheetOptions {
     Silhouette::Outlines* outlines = nullptr;
 };
 
+/// Sheets that are made when they are wanted, for documents of so many that they cannot all be
+/// kept.
+struct SheetSeries {
+    std::size_t count = 0;
+    /// Makes one of them, the same whenever it is asked.
+    std::function<std::shared_ptr<const VectorSheet>(std::size_t)> at;
+};
+
 /// The sheets as pages, which are 100 mm wide and high at the least: whoever has smaller paper
 /// shrinks them.
 PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked);
+
+/// The same of a series, of which the document has a copy: its pages are made when they are asked
+/// for.
+PageDocument sheetDocument(const SheetSeries& sheets, const SheetOptions& asked);
 
 }  // namespace fleetwright

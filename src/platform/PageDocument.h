@@ -6,6 +6,7 @@
 #include "Drawing.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -71,6 +72,8 @@ struct Page {
     std::vector<PageItem> items;
 };
 
+using PageTaker = std::function<void(const Page&)>;
+
 struct PageDocument {
     PageSize size;
     std::vector<Page> pages;
@@ -82,6 +85,18 @@ struct PageDocument {
     /// XML elements, with their namespaces declared, that say more of the document as properties of
     /// RDF: the ships that it carries.
     std::string metadata;
+    /// Hands out those behind `pages`, one by one, as often as it is asked: for a document of
+    /// thousands of pages, which are made when they are wanted. Null if there are none.
+    std::function<void(const PageTaker&)> morePages = {};
+
+    void eachPage(const PageTaker& take) const {
+        for (const Page& page : pages) {
+            take(page);
+        }
+        if (morePages) {
+            morePages(take);
+        }
+    }
 };
 
 /// How wide a line of text is, in millimetres, for a font size in millimetres. Control characters

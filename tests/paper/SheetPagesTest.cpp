@@ -1,6 +1,5 @@
 // Sheets on pages: what stands where, and what they become as a file.
 
-#include "FreeRoom.h"
 #include "PictureFiles.h"
 #include "base64.h"
 #include "caseFile.h"
@@ -9,7 +8,6 @@
 #include "sheetWorld.h"
 #include "svgFile.h"
 
-#include <cmath>
 #include <regex>
 
 using namespace fleetwright;
@@ -52,18 +50,6 @@ VectorSheet sheetOf(const std::string& shipFile, const std::string& width,
                        {outlinesIn(paper), images, paper});
 }
 
-std::string place(double x, double y) {
-    return std::to_string(std::lround(x * 10)) + ' ' + std::to_string(std::lround(y * 10));
-}
-
-/// Where it is, in tenths of a millimetre, and what it says.
-std::string described(const PageItem& item) {
-    const Box at = boxOf(item);
-    const auto* const text = std::get_if<PageText>(&item);
-    return place(at.x, at.y) +
-           (text != nullptr ? ' ' + text->text : " to " + place(at.x + at.width, at.y + at.height));
-}
-
 }  // namespace
 
 TEST(SheetPages, HaveAPlaceForEverything) {
@@ -74,18 +60,20 @@ TEST(SheetPages, HaveAPlaceForEverything) {
             sheets.push_back(
                 sheetOf("Ship Name: " + name + '\n' + given["ship"], size.at(0), size.at(1)));
         }
-        const PageDocument document =
-            sheetDocument(sheets, {.perPage = std::atoi(given["per page"].c_str()),
-                                   .isPlain = given["plain"] == "yes"});
+        const SheetOptions options = {.perPage = std::atoi(given["per page"].c_str()),
+                                      .isPlain = given["plain"] == "yes"};
+        const PageDocument document = sheetDocument(sheets, options);
         expectInsideMargins(document);
-        std::string text = document.title + "; " + document.author + "; " + document.subject;
-        for (const Page& page : document.pages) {
-            text += "\npage";
-            for (const PageItem& item : page.items) {
-                text += '\n' + described(item);
-            }
-        }
-        return text;
+        const PageDocument made = sheetDocument(
+            SheetSeries{sheets.size(),
+                        [&](std::size_t i) { return std::make_shared<VectorSheet>(sheets[i]); }},
+            options);
+        std::vector<Page> pages;
+        made.eachPage([&](const Page& page) { pages.push_back(page); });
+        EXPECT_EQ(describedPages(pages), describedPages(document.pages));
+        EXPECT_EQ(made.metadata, document.metadata);
+        return document.title + "; " + document.author + "; " + document.subject +
+               describedPages(document.pages);
     });
 }
 

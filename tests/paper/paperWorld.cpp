@@ -5,7 +5,25 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace fleetwright {
+
+namespace {
+
+std::string place(double x, double y) {
+    return std::to_string(std::lround(x * 10)) + ' ' + std::to_string(std::lround(y * 10));
+}
+
+/// Where it is, in tenths of a millimetre, and what it says.
+std::string described(const PageItem& item) {
+    const Box at = boxOf(item);
+    const auto* const text = std::get_if<PageText>(&item);
+    return place(at.x, at.y) +
+           (text != nullptr ? ' ' + text->text : " to " + place(at.x + at.width, at.y + at.height));
+}
+
+}  // namespace
 
 SheetShip shownShip(ShipClass& ship) {
     return {std::to_string(ship.g_iDP),
@@ -36,6 +54,17 @@ void expectInsideMargins(const PageDocument& document) {
                 << box.x << ' ' << box.y;
         }
     }
+}
+
+std::string describedPages(const std::vector<Page>& pages) {
+    std::string text;
+    for (const Page& page : pages) {
+        text += "\npage";
+        for (const PageItem& item : page.items) {
+            text += '\n' + described(item);
+        }
+    }
+    return text;
 }
 
 }  // namespace fleetwright

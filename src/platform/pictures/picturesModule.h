@@ -3,7 +3,8 @@
 #include "PageDocument.h"
 #include "Raster.h"
 
-#include <string>
+#include <functional>
+#include <string_view>
 
 namespace fleetwright {
 
@@ -15,7 +16,8 @@ class PictureReader;
 struct Pictures {
     PictureReader& files;
     PictureEncoder& encoder;
-    std::string (*pdf)(const PageDocument&);  ///< any number of threads may call it
+    /// Hands out the pieces of a PDF file. Any number of threads may call it.
+    void (*pdf)(const PageDocument&, const std::function<void(std::string_view)>&);
     /// A square of a page but its text: millimetres and pixels of its side.
     Raster (*pixels)(const Page&, double, int);
 };

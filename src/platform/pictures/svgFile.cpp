@@ -153,9 +153,21 @@ std::string SvgWriter::file(KeptSvgFonts* kept) {
     return (text += m_body) += "</svg>\n";
 }
 
+/// A document whose pages are all there.
+PageDocument withAllPages(const PageDocument& document) {
+    PageDocument whole = document;
+    whole.pages.clear();
+    whole.morePages = {};
+    document.eachPage([&whole](const Page& page) { whole.pages.push_back(page); });
+    return whole;
+}
+
 }  // namespace
 
 std::string svgFile(const PageDocument& document, PictureEncoder& encoder, KeptSvgFonts* kept) {
+    if (document.morePages) {  // their number and their fonts stand in front of them
+        return SvgWriter(withAllPages(document), encoder).file(kept);
+    }
     return SvgWriter(document, encoder).file(kept);
 }
 

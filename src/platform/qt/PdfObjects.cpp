@@ -1,44 +1,20 @@
 #include "PdfObjects.h"
 
-#include "Error.h"
+#include "svgText.h"
 
-#include <QByteArray>
+#include <zlib.h>
 
 #include <algorithm>
 #include <charconv>
-#include <iterator>
-#include <map>
+#include <cmath>
+#include <new>
+#include <utility>
 
 namespace fleetwright {
 
 namespace {
 
-constexpr std::string_view header = "%PDF-1.4\n%\xE2\xE3\xCF\xD3\n";
-
-[[noreturn]] void failPdf() {
-    throw Error("the document cannot be finished");
-}
-
-/// The number at the start of a text, behind blanks, which are taken off with it.
-std::size_t takeNumber(std::string_view& text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \r\n"), text.size()));
-    std::size_t number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec != std::errc()) {
-        failPdf();
-    }
-    text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
-    return number;
-}
-
-/// What follows a word in a text, behind its last place there.
-std::string_view behindLast(std::string_view text, std::string_view word) {
-    const std::size_t found = text.rfind(word);
-    if (found == std::string_view::npos) {
-        failPdf();
-    }
-    return text.substr(found + word.size());
-}
+constexpr std::string_view pdfHeader = "%PDF-1.4\n%\xE2\xE3\xCF\xD3\n";
 
 /// A number with zeros in front of it.
 std::string tenDigits(std::size_t number) {
@@ -47,97 +23,93 @@ std::string tenDigits(std::size_t number) {
     return digits;
 }
 
-/// The objects of a file by the places where they begin, and the table of objects behind them.
-std::map<std::size_t, std::size_t> placesOf(std::string_view file) {
-    std::string_view end = behindLast(file, "startxref");
-    const std::size_t table = takeNumber(end);
-    if (table >= file.size() || !file.substr(table).starts_with("xref")) {
-        failPdf();
+std::string packedBytes(std::string_view bytes) {
+    uLongf size = compressBound(static_cast<uLong>(bytes.size()));
+    std::string packed(size, '\0');
+    if (compress(reinterpret_cast<Bytef*>(packed.data()), &size,
+                 reinterpret_cast<const Bytef*>(bytes.data()),
+                 static_cast<uLong>(bytes.size())) != Z_OK) {
+        throw std::bad_alloc();  // the one way in which it fails
     }
-    std::string_view rows = file.substr(table + 4);
-    std::size_t number = takeNumber(rows);
-    const std::size_t last = number + takeNumber(rows);
-    std::map<std::size_t, std::size_t> places = {{table, 0}};
-    for (; number < last; ++number) {
-        const std::size_t place = takeNumber(rows);
-        takeNumber(rows);
-        if (rows.starts_with(" n")) {
-            places[place] = number;
-        }
-        rows.remove_prefix(std::min<std::size_t>(2, rows.size()));
-    }
-    return places;
+    packed.resize(size);
+    return packed;
 }
 
 }  // namespace
 
-std::size_t pdfReference(std::string_view dictionary, std::string_view key) {
-    std::string_view value = behindLast(dictionary, key);
-    return takeNumber(value);
+PdfObjects::PdfObjects(PdfOut out) : m_out(std::move(out)), m_places(1) {
+    this->out(pdfHeader);
 }
 
-std::string pdfStream(std::string_view bytes) {
-    constexpr int lengthInFront = 4;  // which is Qt's own
-    constexpr int fastest = 1;        // files are a hundredth larger than with the best
-    const QByteArray packed = qCompress(reinterpret_cast<const uchar*>(bytes.data()),
-                                        static_cast<qsizetype>(bytes.size()), fastest)
-                                  .mid(lengthInFront);
-    return "\n<< /Length " + std::to_string(packed.size()) + " /Filter /FlateDecode >>\nstream\n" +
-           packed.toStdString() + "\nendstream\n";
+void PdfObjects::out(std::string_view bytes) {
+    m_out(bytes);
+    m_size += bytes.size();
 }
 
-std::vector<std::size_t> pdfPages(const PdfObjects& objects) {
-    std::vector<std::size_t> pages;
-    for (std::size_t number = 0; number < objects.count(); ++number) {
-        if (objects.at(number).find("/Type /Page\n") != std::string::npos) {
-            pages.push_back(number);
-        }
+std::size_t PdfObjects::reserve() {
+    m_places.push_back(0);
+    return m_places.size() - 1;
+}
+
+void PdfObjects::write(std::size_t number, std::string_view object) {
+    m_places.at(number) = m_size;
+    out(std::to_string(number) + " 0 obj\n");
+    out(object);
+    out("\nendobj\n");
+}
+
+std::size_t PdfObjects::add(std::string_view object) {
+    const std::size_t number = reserve();
+    write(number, object);
+    return number;
+}
+
+std::size_t PdfObjects::addStream(std::string_view bytes, std::string_view entries) {
+    const std::string packed = packedBytes(bytes);
+    std::string object = "<< /Length " + std::to_string(packed.size()) + " /Filter /FlateDecode";
+    if (!entries.empty()) {
+        (object += ' ') += entries;
     }
-    return pages;
+    return add(((object += " >>\nstream\n") += packed) += "\nendstream");
 }
 
-PdfObjects::PdfObjects(std::string_view file) {
-    const std::string_view trailer = behindLast(file, "trailer");
-    m_info = pdfReference(trailer, "/Info");
-    m_catalog = pdfReference(trailer, "/Root");
-    const std::map<std::size_t, std::size_t> places = placesOf(file);
-    for (auto place = places.begin(); std::next(place) != places.end(); ++place) {
-        const auto& [start, number] = *place;
-        const std::string_view whole = file.substr(start, std::next(place)->first - start);
-        const std::size_t begin = whole.find("obj");
-        const std::size_t end = whole.rfind("endobj");
-        if (end == std::string_view::npos || begin >= end) {
-            failPdf();
-        }
-        m_objects.resize(std::max(m_objects.size(), number + 1));
-        m_objects[number] = whole.substr(begin + 3, end - begin - 3);
+void PdfObjects::finish(std::size_t info, std::size_t catalog) {
+    const std::size_t start = m_size;
+    const std::string count = std::to_string(m_places.size());
+    out("xref\n0 " + count + "\n0000000000 65535 f \n");
+    for (std::size_t number = 1; number < m_places.size(); ++number) {
+        out(tenDigits(m_places[number]) + " 00000 n \n");
     }
-    if (std::max(m_info, m_catalog) >= m_objects.size()) {
-        failPdf();
-    }
+    out("trailer\n<< /Size " + count + " /Info " + pdfReference(info) + " /Root " +
+        pdfReference(catalog) + " >>\nstartxref\n" + std::to_string(start) + "\n%%EOF\n");
 }
 
-std::size_t PdfObjects::add(std::string object) {
-    m_objects.push_back(std::move(object));
-    return m_objects.size() - 1;
+std::string pdfReference(std::size_t number) {
+    return std::to_string(number) + " 0 R";
 }
 
-std::string PdfObjects::bytes() const {
-    std::string file(header);
-    std::string table;
-    for (std::size_t number = 0; number < m_objects.size(); ++number) {
-        if (m_objects[number].empty()) {
-            table += tenDigits(0) + " 65535 f \n";
-            continue;
-        }
-        table += tenDigits(file.size()) + " 00000 n \n";
-        file += std::to_string(number) + " 0 obj" + m_objects[number] + "endobj\n";
+std::string pdfLength(double length) {
+    constexpr double parts = 1000;
+    return svgNumber(std::round(length * parts) / parts);
+}
+
+std::string pdfFactor(double factor) {
+    constexpr int decimals = 8;
+    char buffer[64];
+    const auto end = std::to_chars(std::begin(buffer), std::end(buffer), factor,
+                                   std::chars_format::fixed, decimals);
+    std::string_view number(buffer, static_cast<std::size_t>(end.ptr - buffer));
+    number = number.substr(0, number.find_last_not_of('0') + 1);
+    return std::string(number.ends_with('.') ? number.substr(0, number.size() - 1) : number);
+}
+
+std::string pdfColour(std::uint32_t colour) {
+    constexpr double most = 255;
+    std::string text;
+    for (const unsigned shift : {16U, 8U, 0U}) {
+        text += svgNumber((colour >> shift & 0xFFU) / most) + ' ';
     }
-    const std::string count = std::to_string(m_objects.size());
-    const std::string start = std::to_string(file.size());
-    return file + "xref\n0 " + count + '\n' + table + "trailer\n<< /Size " + count + " /Info " +
-           std::to_string(m_info) + " 0 R /Root " + std::to_string(m_catalog) +
-           " 0 R >>\nstartxref\n" + start + "\n%%EOF\n";
+    return text;
 }
 
 }  // namespace fleetwright

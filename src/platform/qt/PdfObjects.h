@@ -1,46 +1,49 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace fleetwright {
 
-/// A PDF file as its objects, by number, to change what the writer of the file does not offer.
+/// Takes the next bytes of a file.
+using PdfOut = std::function<void(std::string_view bytes)>;
+
+/// A PDF file on its way out: its objects leave as they come, and only their places are kept.
 class PdfObjects {
 public:
-    /// Of a file with one table of objects and none of them packed. Throws Error for another one.
-    explicit PdfObjects(std::string_view file);
+    explicit PdfObjects(PdfOut out);
 
-    /// What describes the document, and where its reading begins.
-    std::size_t info() const { return m_info; }
-    std::size_t catalog() const { return m_catalog; }
+    /// The number of an object that is yet to be written, for others to name.
+    std::size_t reserve();
+    /// Writes an object that has a number: what stands between "obj" and "endobj".
+    void write(std::size_t number, std::string_view object);
+    /// Writes an object; its number.
+    std::size_t add(std::string_view object);
+    /// Writes an object that holds bytes, packed, with these entries in its dictionary; its number.
+    std::size_t addStream(std::string_view bytes, std::string_view entries = {});
 
-    std::size_t count() const { return m_objects.size(); }
-    /// What stands between "obj" and "endobj"; empty for a number that no object has.
-    const std::string& at(std::size_t number) const { return m_objects.at(number); }
-    void set(std::size_t number, std::string object) { m_objects.at(number) = std::move(object); }
-    /// The number of a new object.
-    std::size_t add(std::string object);
-
-    /// The file, with its objects in the order of their numbers.
-    std::string bytes() const;
+    /// Ends the file. These describe the document, and where its reading begins.
+    void finish(std::size_t info, std::size_t catalog);
 
 private:
-    std::vector<std::string> m_objects;
-    std::size_t m_info = 0;
-    std::size_t m_catalog = 0;
+    void out(std::string_view bytes);
+
+    PdfOut m_out;
+    std::size_t m_size = 0;             ///< of what has left
+    std::vector<std::size_t> m_places;  ///< by the number of the object; the first has none
 };
 
-/// An object that holds bytes, packed.
-std::string pdfStream(std::string_view bytes);
+/// How other objects name one.
+std::string pdfReference(std::size_t number);
 
-/// The numbers of the objects of the pages, in their order.
-std::vector<std::size_t> pdfPages(const PdfObjects& objects);
-
-/// The number of the object that a dictionary names behind a key such as "/Pages". Throws Error if
-/// it names none.
-std::size_t pdfReference(std::string_view dictionary, std::string_view key);
+/// A length, to a thousandth, as large as any unit of ours needs it.
+std::string pdfLength(double length);
+/// A factor, to a hundred-millionth.
+std::string pdfFactor(double factor);
+/// The three parts of a colour 0xRRGGBB, with a blank behind each.
+std::string pdfColour(std::uint32_t colour);
 
 }  // namespace fleetwright

@@ -1,14 +1,12 @@
 #include "PdfText.h"
 
 #include "PdfObjects.h"
-#include "drawPageShapes.h"
+#include "fontTables.h"
 #include "svgText.h"
 #include "visualSigns.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -22,10 +20,6 @@ FontSubset::Sign signOf(const PageSign& sign) {
 
 std::string fontKey(PageFace face) {
     return "/F" + std::to_string(static_cast<int>(face));
-}
-
-std::string reference(std::size_t object) {
-    return std::to_string(object) + " 0 R";
 }
 
 void addHexadecimal(std::string& text, std::uint32_t number) {
@@ -49,14 +43,13 @@ std::string markedName(const FontSubset& font) {
     return mark + '+' + font.name();
 }
 
-/// Which character each glyph of a font stands for, in UTF-16.
-std::string charactersOf(const FontSubset& font) {
+/// Which character each number stands for, in UTF-16.
+std::string charactersOf(const std::vector<FontSubset::Sign>& signs) {
     std::string map = "/CIDInit /ProcSet findresource begin\n12 dict begin\nbegincmap\n"
                       "/CIDSystemInfo << /Registry (Adobe) /Ordering (UCS) /Supplement 0 >> def\n"
                       "/CMapName /Adobe-Identity-UCS def\n/CMapType 2 def\n"
                       "1 begincodespacerange\n<0000> <FFFF>\nendcodespacerange\n";
     constexpr std::size_t mostInBlock = 100;
-    const std::vector<FontSubset::Sign>& signs = font.signs();
     for (std::size_t first = 0; first < signs.size(); first += mostInBlock) {
         const std::size_t end = std::min(first + mostInBlock, signs.size());
         map += std::to_string(end - first) + " beginbfchar\n";
@@ -78,124 +71,94 @@ std::string charactersOf(const FontSubset& font) {
     return map + "endcmap\nCMapName currentdict /CMap defineresource pop\nend\nend\n";
 }
 
+/// Which glyph of the font each number has.
+std::string glyphsOf(const std::vector<FontSubset::Sign>& signs, const FontSubset& font) {
+    std::string glyphs(2, '\0');
+    for (const FontSubset::Sign& sign : signs) {
+        addFontNumber(glyphs, static_cast<std::uint32_t>(font.glyphOf(sign)), 2);
+    }
+    return glyphs;
+}
+
 /// Adds the objects that make a font; the number of the one that pages name.
-std::size_t addFont(PdfObjects& objects, const FontSubset& font) {
+std::size_t addFont(PdfObjects& objects, PageFace face,
+                    const std::vector<FontSubset::Sign>& signs) {
+    const FontSubset font(face, signs);
     const std::string name = markedName(font);
     constexpr double unitsPerSize = 1000;
     std::string widths;
-    for (const FontSubset::Sign& sign : font.signs()) {
+    for (const FontSubset::Sign& sign : signs) {
         widths += svgNumber(font.widthOf(sign) * unitsPerSize) + ' ';
     }
-    const std::size_t file = objects.add(pdfStream(font.file()));
+    const std::size_t file = objects.addStream(font.file());
     const std::size_t descriptor =
-        objects.add("\n<< /Type /FontDescriptor /FontName /" + name +
+        objects.add("<< /Type /FontDescriptor /FontName /" + name +
                     " /Flags 4 /FontBBox [-1200 -600 2000 1300] /ItalicAngle 0 /Ascent " +
                     std::to_string(fontAscent) + " /Descent " + std::to_string(fontDescent) +
-                    " /CapHeight 729 /StemV 90 /FontFile2 " + reference(file) + " >>\n");
-    const std::size_t glyphs = objects.add(
-        "\n<< /Type /Font /Subtype /CIDFontType2 /BaseFont /" + name +
-        " /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) /Supplement 0 >>"
-        " /FontDescriptor " +
-        reference(descriptor) + " /CIDToGIDMap /Identity /DW 0 /W [1 [" + widths + "]] >>\n");
-    const std::size_t characters = objects.add(pdfStream(charactersOf(font)));
-    return objects.add("\n<< /Type /Font /Subtype /Type0 /BaseFont /" + name +
-                       " /Encoding /Identity-H /DescendantFonts [" + reference(glyphs) +
-                       "] /ToUnicode " + reference(characters) + " >>\n");
-}
-
-std::string colourOperator(std::uint32_t colour) {
-    constexpr double most = 255;
-    std::string text;
-    for (const unsigned shift : {16U, 8U, 0U}) {
-        text += svgNumber((colour >> shift & 0xFFU) / most) + ' ';
-    }
-    return text + "rg\n";
-}
-
-/// Where a line of text begins, and how it is turned and scaled.
-std::string placeOperator(const PageText& text) {
-    const std::string size = svgNumber(toUnits(text.size));
-    return size + " 0 0 -" + size + ' ' + svgNumber(toUnits(startOf(text))) + ' ' +
-           svgNumber(toUnits(text.y)) + " Tm\n";
-}
-
-/// Puts something behind the first place of a word in an object.
-void insertBehind(std::string& object, std::string_view word, const std::string& more) {
-    object.insert(object.find(word) + word.size(), more);
+                    " /CapHeight 729 /StemV 90 /FontFile2 " + pdfReference(file) + " >>");
+    const std::size_t glyphs = objects.addStream(glyphsOf(signs, font));
+    const std::size_t descendant =
+        objects.add("<< /Type /Font /Subtype /CIDFontType2 /BaseFont /" + name +
+                    " /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) /Supplement 0 >>"
+                    " /FontDescriptor " +
+                    pdfReference(descriptor) + " /CIDToGIDMap " + pdfReference(glyphs) +
+                    " /DW 0 /W [1 [" + widths + "]] >>");
+    const std::size_t characters = objects.addStream(charactersOf(signs));
+    return objects.add("<< /Type /Font /Subtype /Type0 /BaseFont /" + name +
+                       " /Encoding /Identity-H /DescendantFonts [" + pdfReference(descendant) +
+                       "] /ToUnicode " + pdfReference(characters) + " >>");
 }
 
 }  // namespace
 
-PdfText::PdfText(const PageDocument& document) {
-    std::array<std::vector<FontSubset::Sign>, std::size(pageFaces)> shown;
-    for (const Page& page : document.pages) {
-        std::vector<Line>& lines = m_pages.emplace_back();
-        for (const PageItem& item : page.items) {
-            const auto* const text = std::get_if<PageText>(&item);
-            if (text == nullptr) {
-                continue;
-            }
-            lines.push_back({text, visualSigns(text->text, text->font)});
-            for (const PageSign& sign : lines.back().signs) {
-                shown[static_cast<std::size_t>(sign.face)].push_back(signOf(sign));
-            }
-        }
+std::size_t PdfText::Shown::numberOf(const FontSubset::Sign& sign) {
+    const auto [known, isNew] = numbers.try_emplace(sign, signs.size() + 1);
+    if (isNew) {
+        signs.push_back(sign);
     }
-    for (const PageFace face : pageFaces) {
-        m_fonts.emplace_back(face, std::move(shown[static_cast<std::size_t>(face)]));
-    }
+    return known->second;
 }
 
-std::string PdfText::contentOf(const std::vector<Line>& lines) const {
+std::string PdfText::contentOf(const Page& page) {
     std::string content = "BT\n0 0 0 rg\n";
     std::uint32_t colour = 0;
-    for (const auto& [text, signs] : lines) {
-        if (colour != text->colour) {
-            content += colourOperator(text->colour);
-            colour = text->colour;
-        }
-        content += placeOperator(*text);
-        for (auto sign = signs.begin(); sign != signs.end();) {
-            const PageFace face = sign->face;
-            (content += fontKey(face)) += " 1 Tf\n<";
-            for (; sign != signs.end() && sign->face == face; ++sign) {
-                const FontSubset& font = m_fonts[static_cast<std::size_t>(face)];
-                addHexadecimal(content, static_cast<std::uint32_t>(font.glyphOf(signOf(*sign))));
+    for (const PageItem& item : page.items) {
+        if (const auto* const text = std::get_if<PageText>(&item)) {
+            if (colour != text->colour) {
+                content += pdfColour(text->colour) + "rg\n";
+                colour = text->colour;
             }
-            content += "> Tj\n";
+            addLine(content, *text);
         }
     }
     return content + "ET\n";
 }
 
-/// Adds the fonts; what the resources of a page say of them.
-std::string PdfText::fontsIn(PdfObjects& objects) const {
-    std::string fonts;
-    for (const PageFace face : pageFaces) {
-        const FontSubset& font = m_fonts[static_cast<std::size_t>(face)];
-        if (!font.signs().empty()) {
-            fonts += '\n' + fontKey(face) + ' ' + reference(addFont(objects, font));
+void PdfText::addLine(std::string& content, const PageText& text) {
+    const std::string size = pdfLength(text.size);
+    content +=
+        size + " 0 0 -" + size + ' ' + pdfLength(startOf(text)) + ' ' + pdfLength(text.y) + " Tm\n";
+    const std::vector<PageSign> signs = visualSigns(text.text, text.font);
+    for (auto sign = signs.begin(); sign != signs.end();) {
+        const PageFace face = sign->face;
+        (content += fontKey(face)) += " 1 Tf\n<";
+        for (; sign != signs.end() && sign->face == face; ++sign) {
+            Shown& shown = m_shown[static_cast<std::size_t>(face)];
+            addHexadecimal(content, static_cast<std::uint32_t>(shown.numberOf(signOf(*sign))));
         }
+        content += "> Tj\n";
     }
-    return fonts;
 }
 
-void PdfText::putInto(PdfObjects& objects) const {
-    const std::vector<std::size_t> pages = pdfPages(objects);
-    const std::string fonts = fontsIn(objects);
-    for (std::size_t i = 0; i < m_pages.size(); ++i) {
-        std::string page = objects.at(pages.at(i));
-        const std::size_t resources = pdfReference(page, "/Resources");
-        const std::string shapes = reference(pdfReference(page, "/Contents"));
-        const std::string shapesEntry = "/Contents " + shapes;
-        const std::size_t content = objects.add(pdfStream(contentOf(m_pages[i])));
-        page.replace(page.find(shapesEntry), shapesEntry.size(),
-                     "/Contents [" + shapes + ' ' + reference(content) + ']');
-        objects.set(pages[i], std::move(page));
-        std::string known = objects.at(resources);
-        insertBehind(known, "/Font <<", fonts);
-        objects.set(resources, std::move(known));
+std::string PdfText::writeFonts(PdfObjects& objects) const {
+    std::string fonts = "<<";
+    for (const PageFace face : pageFaces) {
+        const Shown& shown = m_shown[static_cast<std::size_t>(face)];
+        if (!shown.signs.empty()) {
+            fonts += ' ' + fontKey(face) + ' ' + pdfReference(addFont(objects, face, shown.signs));
+        }
     }
+    return fonts + " >>";
 }
 
 }  // namespace fleetwright

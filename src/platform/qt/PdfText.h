@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstddef>
+#include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -18,24 +20,23 @@ class PdfObjects;
 /// that it shows.
 class PdfText {
 public:
-    explicit PdfText(const PageDocument& document);
-
-    /// Puts the texts above what a file has on its pages so far. It has as many as the document,
-    /// and has left the units and the axes as `drawPageShapes` wants them.
-    void putInto(PdfObjects& objects) const;
+    /// The operators that show the texts of a page, with units and axes as those of `PdfShapes`.
+    std::string contentOf(const Page& page);
+    /// Writes the fonts that all pages so far take; what resources say of them.
+    std::string writeFonts(PdfObjects& objects) const;
 
 private:
-    /// A line of text, from left to right.
-    struct Line {
-        const PageText* text;
-        std::vector<PageSign> signs;
+    /// What of a face has been shown. Signs are numbered as they come, from 1 on.
+    struct Shown {
+        std::vector<FontSubset::Sign> signs;
+        std::map<FontSubset::Sign, std::size_t> numbers;
+
+        std::size_t numberOf(const FontSubset::Sign& sign);
     };
 
-    std::string contentOf(const std::vector<Line>& lines) const;
-    std::string fontsIn(PdfObjects& objects) const;
+    void addLine(std::string& content, const PageText& text);
 
-    std::vector<std::vector<Line>> m_pages;
-    std::vector<FontSubset> m_fonts;  ///< by their faces
+    std::array<Shown, std::size(pageFaces)> m_shown;  ///< by the faces
 };
 
 }  // namespace fleetwright

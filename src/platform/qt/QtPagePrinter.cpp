@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <exception>
 #include <functional>
+#include <utility>
 
 namespace fleetwright {
 
@@ -35,15 +36,16 @@ void printPages(QPrinter& printer, const PageDocument& document) {
     const double scale = width / document.size.width / pageUnits;
     QPainter painter;
     bool isPrinted = painter.begin(&printer);
-    for (const Page& page : document.pages) {
-        isPrinted = isPrinted && (&page == document.pages.data() || printer.newPage());
+    bool isFirst = true;
+    document.eachPage([&](const Page& page) {
+        isPrinted = isPrinted && (std::exchange(isFirst, false) || printer.newPage());
         if (isPrinted) {
             painter.save();
             painter.scale(scale, scale);
             drawPage(painter, page);
             painter.restore();
         }
-    }
+    });
     if (!isPrinted || !painter.end()) {
         throw Error("the printer does not print");
     }

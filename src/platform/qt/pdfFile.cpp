@@ -1,95 +1,70 @@
 #include "pdfFile.h"
 
-#include "Error.h"
-#include "PdfObjects.h"
+#include "PdfShapes.h"
 #include "PdfText.h"
-#include "drawPageShapes.h"
+#include "svgText.h"
 #include "text.h"
 
-#include <QBuffer>
-#include <QByteArray>
-#include <QDateTime>
-#include <QPageLayout>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QString>
-#include <QTimeZone>
-
-#include <cmath>
+#include <chrono>
+#include <string_view>
 
 namespace fleetwright {
 
 namespace {
 
-constexpr double millimetresPerInch = 25.4;
+constexpr double pointsPerMillimetre = 72 / 25.4;
 
-double toPoints(double millimetres) {
-    constexpr double pointsPerInch = 72;
-    return millimetres * pointsPerInch / millimetresPerInch;
-}
-
-/// The paper in whole points, which is all that Qt writes.
-QSize wholePoints(const PageSize& size) {
-    return {static_cast<int>(std::ceil(toPoints(size.width))),
-            static_cast<int>(std::ceil(toPoints(size.height)))};
-}
-
-/// The document as Qt writes it: without text, with the time of now, and without most of what is
-/// said of it.
-std::string drawnPages(const PageDocument& document) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(static_cast<int>(millimetresPerInch * pageUnits));
-    writer.setPageLayout(
-        QPageLayout(QPageSize(wholePoints(document.size), QString(), QPageSize::ExactMatch),
-                    QPageLayout::Portrait, QMarginsF()));
-    QPainter painter;
-    bool isDrawn = painter.begin(&writer);
-    for (const Page& page : document.pages) {
-        isDrawn = isDrawn && (&page == document.pages.data() || writer.newPage());
-        if (isDrawn) {
-            drawPageShapes(painter, page);
-        }
-    }
-    if (!isDrawn || !painter.end()) {
-        throw Error("the document has no room for another page");
-    }
-    return bytes.toStdString();
-}
-
-/// A text as PDF has it, be it of any characters.
+/// A text as PDF has it, be it of any characters: in UTF-16.
 std::string pdfText(const std::string& text) {
+    const std::string shown = shownText(text);
     std::string digits = "<FEFF";
-    for (const QChar unit : QString::fromStdString(shownText(text))) {
-        digits += QString("%1").arg(unit.unicode(), 4, 16, QChar('0')).toStdString();
+    const auto add = [&digits](std::uint32_t unit) {
+        for (int shift = 12; shift >= 0; shift -= 4) {
+            digits += "0123456789abcdef"[unit >> static_cast<unsigned>(shift) & 0xFU];
+        }
+    };
+    for (std::string_view rest = shown; !rest.empty(); rest.remove_prefix(characterLength(rest))) {
+        const auto code = static_cast<std::uint32_t>(codePoint(rest));
+        if (code > 0xFFFF) {
+            add(0xD7C0 + (code >> 10U));
+            add(0xDC00 + (code & 0x3FFU));
+        } else {
+            add(code);
+        }
     }
     return digits + '>';
 }
 
-QDateTime dateOf(const PageDocument& document) {
-    return QDateTime::fromSecsSinceEpoch(*document.date, Qt::UTC);
+/// A moment of UTC, with these between the parts of the day, the day and the time, and its parts.
+std::string dateText(std::int64_t seconds, const char* inDay, const char* between,
+                     const char* inTime) {
+    using namespace std::chrono;
+    const sys_seconds moment{std::chrono::seconds(seconds)};
+    const auto day = floor<days>(moment);
+    const year_month_day date(day);
+    const hh_mm_ss time(moment - day);
+    const auto two = [](auto number) {
+        const std::string digits = std::to_string(number);
+        return digits.size() < 2 ? '0' + digits : digits;
+    };
+    return std::to_string(static_cast<int>(date.year())) + inDay +
+           two(static_cast<unsigned>(date.month())) + inDay +
+           two(static_cast<unsigned>(date.day())) + between + two(time.hours().count()) + inTime +
+           two(time.minutes().count()) + inTime + two(time.seconds().count());
 }
 
 std::string infoOf(const PageDocument& document) {
-    std::string info = "\n<<\n/Title " + pdfText(document.title) + "\n/Author " +
+    std::string info = "<<\n/Title " + pdfText(document.title) + "\n/Author " +
                        pdfText(document.author) + "\n/Subject " + pdfText(document.subject) +
                        "\n/Creator (FleetWright)\n";
     if (document.date) {
-        info += "/CreationDate (D:" + dateOf(document).toString("yyyyMMddHHmmss").toStdString() +
-                "Z)\n";
+        info += "/CreationDate (D:" + dateText(*document.date, "", "", "") + "Z)\n";
     }
-    return info + ">>\n";
-}
-
-std::string xmlText(const std::string& text) {
-    return QString::fromStdString(shownText(text)).toHtmlEscaped().toStdString();
+    return info + ">>";
 }
 
 std::string inLanguage(const std::string& name, const std::string& text) {
-    return '<' + name + "><rdf:Alt><rdf:li xml:lang=\"x-default\">" + xmlText(text) +
+    return '<' + name + "><rdf:Alt><rdf:li xml:lang=\"x-default\">" + svgText(text) +
            "</rdf:li></rdf:Alt></" + name + ">\n";
 }
 
@@ -103,53 +78,69 @@ std::string packetOf(const PageDocument& document) {
         " xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\">\n";
     packet += inLanguage("dc:title", document.title) +
               inLanguage("dc:description", document.subject) + "<dc:creator><rdf:Seq><rdf:li>" +
-              xmlText(document.author) +
+              svgText(document.author) +
               "</rdf:li></rdf:Seq></dc:creator>\n<dc:language><rdf:Bag><rdf:li>" +
-              xmlText(document.language) +
+              svgText(document.language) +
               "</rdf:li></rdf:Bag></dc:language>\n<xmp:CreatorTool>FleetWright</xmp:CreatorTool>\n";
     if (document.date) {
-        packet += "<xmp:CreateDate>" + dateOf(document).toString(Qt::ISODate).toStdString() +
-                  "</xmp:CreateDate>\n";
+        packet +=
+            "<xmp:CreateDate>" + dateText(*document.date, "-", "T", ":") + "Z</xmp:CreateDate>\n";
     }
     return packet + document.metadata +
            "</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n";
 }
 
-/// Gives the pages their exact size. The upper edge stays, from where all is drawn.
-void setPageSize(PdfObjects& objects, const PageSize& size) {
-    constexpr std::string_view key = "/MediaBox";
-    const int top = wholePoints(size).height();
-    const std::string box = QString("/MediaBox [0 %1 %2 %3]")
-                                .arg(top - toPoints(size.height), 0, 'f', 3)
-                                .arg(toPoints(size.width), 0, 'f', 3)
-                                .arg(top)
-                                .toStdString();
-    for (const std::size_t number : pdfPages(objects)) {
-        std::string object = objects.at(number);
-        if (const std::size_t start = object.find(key); start != std::string::npos) {
-            objects.set(number, object.replace(start, object.find(']', start) + 1 - start, box));
-        }
-    }
+/// Writes the pages of a document; the number of the object that lists them.
+std::size_t writePages(PdfObjects& objects, const PageDocument& document) {
+    const std::string width = pdfLength(document.size.width * pointsPerMillimetre);
+    const std::string height = pdfLength(document.size.height * pointsPerMillimetre);
+    const std::string scale = pdfFactor(pointsPerMillimetre);
+    const std::string toMillimetres =
+        scale + " 0 0 -" + scale + " 0 " + height + " cm\n";  // from the upper left corner on
+    const std::size_t list = objects.reserve(), fonts = objects.reserve();
+    PdfShapes shapes(objects);
+    PdfText texts;
+    std::string numbers;
+    std::size_t count = 0;
+    document.eachPage([&](const Page& page) {
+        const std::string content =
+            toMillimetres + "q\n" + shapes.contentOf(page) + "Q\n" + texts.contentOf(page);
+        const std::size_t written = objects.addStream(content);
+        const std::size_t number =
+            objects.add("<< /Type /Page /Parent " + pdfReference(list) + " /MediaBox [0 0 " +
+                        width + ' ' + height + "] /Resources << /Font " + pdfReference(fonts) +
+                        ' ' + shapes.pictures() + " >> /Contents " + pdfReference(written) + " >>");
+        numbers += pdfReference(number) + '\n';
+        ++count;
+    });
+    objects.write(fonts, texts.writeFonts(objects));
+    objects.write(list, "<< /Type /Pages /Count " + std::to_string(count) + " /Kids [\n" + numbers +
+                            "] >>");
+    return list;
 }
 
 }  // namespace
 
-std::string pdfFile(const PageDocument& document) {
-    PdfObjects objects(drawnPages(document));
-    setPageSize(objects, document.size);
-    PdfText(document).putInto(objects);
-    objects.set(objects.info(), infoOf(document));
+void writePdf(const PageDocument& document, const PdfOut& out) {
+    PdfObjects objects(out);
+    const std::size_t pages = writePages(objects, document);
     const std::string packet = packetOf(document);
     // Not compressed, so that other programs find it without reading the document.
     const std::size_t metadata =
-        objects.add("\n<< /Type /Metadata /Subtype /XML /Length " + std::to_string(packet.size()) +
-                    " >>\nstream\n" + packet + "\nendstream\n");
-    const std::size_t pages = pdfReference(objects.at(objects.catalog()), "/Pages");
-    objects.set(objects.catalog(), "\n<<\n/Type /Catalog\n/Pages " + std::to_string(pages) +
-                                       " 0 R\n/Metadata " + std::to_string(metadata) +
-                                       " 0 R\n/Lang " + pdfText(document.language) +
-                                       "\n/ViewerPreferences << /DisplayDocTitle true >>\n>>\n");
-    return objects.bytes();
+        objects.add("<< /Type /Metadata /Subtype /XML /Length " + std::to_string(packet.size()) +
+                    " >>\nstream\n" + packet + "\nendstream");
+    const std::size_t catalog =
+        objects.add("<<\n/Type /Catalog\n/Pages " + pdfReference(pages) + "\n/Metadata " +
+                    pdfReference(metadata) + "\n/Lang " + pdfText(document.language) +
+                    "\n/ViewerPreferences << /DisplayDocTitle true >>\n>>");
+    const std::size_t info = objects.add(infoOf(document));
+    objects.finish(info, catalog);
+}
+
+std::string pdfFile(const PageDocument& document) {
+    std::string file;
+    writePdf(document, [&file](std::string_view bytes) { file += bytes; });
+    return file;
 }
 
 }  // namespace fleetwright

@@ -37,6 +37,6 @@ extern "C" Q_DECL_EXPORT const fleetwright::Pictures* createPictures() {
     [[maybe_unused]] static const bool hasThread = giveQtItsThread();
     QtMessages::silence();  // the tool has its own words for what goes wrong
     static QtPictureFiles files;
-    static const Pictures pictures{files, files, pdfFile, pagePixels};
+    static const Pictures pictures{files, files, writePdf, pagePixels};
     return &pictures;
 }

@@ -66,3 +66,21 @@ TEST(PdfFile, HasTheSameBytesInEachThreadAndTimeZone) {
     EXPECT_EQ(other.get(), pdf);
     qunsetenv("TZ");
 }
+
+// A fleet has thousands of pages.
+TEST(PdfFile, KeepsNoPageThatIsWritten) {
+    std::weak_ptr<const Drawing> last;
+    PageDocument document;
+    document.morePages = [&last](const PageTaker& take) {
+        for (int page = 0; page < 3; ++page) {
+            EXPECT_TRUE(last.expired());
+            const auto drawing = std::make_shared<const Drawing>(10, 10);
+            last = drawing;
+            take({{PagePicture{drawing, nullptr, {0, 0, 9, 9}, {0, 0, 9, 9}}}});
+        }
+    };
+    std::string file;
+    writePdf(document, [&file](std::string_view bytes) { file += bytes; });
+    EXPECT_EQ(file, pdfFile(document));
+    EXPECT_NE(file.find("/Count 3 "), std::string::npos);
+}
