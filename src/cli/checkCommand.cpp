@@ -4,6 +4,7 @@
 #include "CatalogueFile.h"
 #include "DrawingPack.h"
 #include "Error.h"
+#include "FleetFiles.h"
 #include "PictureCheck.h"
 #include "PictureFiles.h"
 #include "SSDMap.h"
@@ -22,6 +23,8 @@
 
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -31,12 +34,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::vector<Fault> checkShip(const Options& options, const CatalogueFile& catalogueFile,
-                             const std::string& file) {
+/// What is wrong with a ship. If it loads, it stays on the screen, and it has figures.
+std::vector<Fault> checkShip(ShipOnScreen& screen, const std::string& file,
+                             std::optional<ShipFigures>* figures = nullptr) {
     const std::string text = readShip(file).text;
-    ShipOnScreen screen(options.appFolder, catalogueFile);
     // Asked here, for the window drops a ship that does not load, and its fault with it.
     const std::optional<Fault> loadFault = screen.load(file);
+    if (figures != nullptr && !loadFault) {
+        *figures = shipFigures(screen.ship());
+    }
     return checkShipFile(text, screen.ship(), loadFault);
 }
 
@@ -127,12 +133,57 @@ std::vector<Fault> checkMap(const Options& options, const std::string& text) {
     return faults;
 }
 
+/// What is wrong with a fleet and with its ships, as lines: all that can be said of it, not only
+/// what keeps it from being added up.
+std::vector<std::string> checkFleet(const Options& options, const CatalogueFile& catalogueFile,
+                                    const std::string& file) {
+    std::vector<std::string> lines;
+    ReadFleet read;
+    try {
+        read = parseFleet(readTextFile(nativePath(file)));
+    } catch (const FleetError& error) {
+        return {complaint(file, error.fault())};
+    }
+    for (const Fault& fault : read.faults) {
+        lines.push_back(complaint(file, fault));
+    }
+    const FleetFiles files(read, nativePath(file).parent_path());
+    std::vector<std::shared_ptr<FleetRow>> checked;
+    ShipOnScreen screen(options.appFolder, catalogueFile);
+    for (std::size_t i = 0; i < files.paths.size(); ++i) {
+        const std::string& path = files.paths[i];
+        FleetRow& row = *checked.emplace_back(std::make_shared<FleetRow>());
+        try {
+            if (!path.empty()) {  // else its line is at fault
+                row.faults = checkShip(screen, path, &row.figures);
+            }
+        } catch (const FileError& error) {
+            row.faults = {{0, faultOf(nativePath(path), error)}};
+        }
+        for (const Fault& fault : row.faults) {
+            lines.push_back(files.complaintOf(file, i, fault));
+        }
+    }
+    FleetRows rows;
+    for (const std::size_t design : files.ofShip) {
+        rows.push_back(checked[design]);
+    }
+    for (const Fault& fault : brokenLimits(read, fleetSum(read.fleet, rows))) {
+        lines.push_back(complaint(file, fault));
+    }
+    return lines;
+}
+
 std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalogueFile,
                              const std::string& file) {
+    const auto check = [&] {
+        ShipOnScreen screen(options.appFolder, catalogueFile);
+        return checkShip(screen, file);
+    };
     try {
         const std::string extension = toCapitals(nativePath(file).extension().string());
         if (extension == ".SHP" || isDesignCode(file)) {
-            return checkShip(options, catalogueFile, file);
+            return check();
         }
         if (extension == ".DAT") {
             return checkCatalogueFile(options, nativePath(file));
@@ -143,25 +194,53 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
         std::error_code unknown;
         if (fs::is_regular_file(nativePath(file), unknown) &&
             isSheet(readBytes(nativePath(file)))) {
-            return checkShip(options, catalogueFile, file);
+            return check();
         }
-        return {{0, "neither a catalogue (.dat), a ship file (.shp) nor a map (.map)"}};
+        return {{0, "no catalogue (.dat), ship file (.shp), fleet (.fleet) or map (.map)"}};
     } catch (const FileError& error) {
         return {{0, faultOf(nativePath(file), error)}};
     }
 }
 
+bool isFleetFile(const std::string& file) {
+    return !isDesignCode(file) && toCapitals(nativePath(file).extension().string()) == ".FLEET";
+}
+
+/// The same as lines, of fleets, too.
+std::vector<std::string> linesOn(const Options& options, const CatalogueFile& catalogueFile,
+                                 const std::string& file) {
+    if (isFleetFile(file)) {
+        try {
+            return checkFleet(options, catalogueFile, file);
+        } catch (const FileError& error) {
+            return {complaint(file, Fault{0, faultOf(nativePath(file), error)})};
+        }
+    }
+    std::vector<std::string> lines;
+    for (const Fault& fault : checkFile(options, catalogueFile, file)) {
+        lines.push_back(complaint(file, fault));
+    }
+    return lines;
+}
+
 int runCheck(const Options& options) {
     int status = Done;
-    const auto report = [&status](const std::string& file, const Fault& fault) {
-        printResults(resultLine(complaint(file, fault)));
+    std::set<std::string> said;  // ships of several fleets, or of a fleet and by themselves
+    const auto reportLine = [&](const std::string& line) {
+        if (said.insert(line).second) {
+            printResults(resultLine(line));
+        }
         status = SomeRefused;
+    };
+    const auto report = [&](const std::string& file, const Fault& fault) {
+        reportLine(complaint(file, fault));
     };
     const auto catalogueFile = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
     std::vector<std::string> files = options.words;
     if (files.empty()) {
         files.push_back(catalogueFile.path().string());
-        for (const auto& [folder, ending] : {std::pair("ships", ".shp"), {"maps", ".map"}}) {
+        for (const auto& [folder, ending] :
+             {std::pair("ships", ".shp"), {"fleets", ".fleet"}, {"maps", ".map"}}) {
             try {
                 for (const fs::path& file : listFolder(options.appFolder / folder, ending)) {
                     files.push_back(file.string());
@@ -178,8 +257,8 @@ int runCheck(const Options& options) {
         }
     }
     for (const std::string& file : files) {
-        for (const Fault& fault : checkFile(options, catalogueFile, file)) {
-            report(file, fault);
+        for (const std::string& line : linesOn(options, catalogueFile, file)) {
+            reportLine(line);
         }
     }
     return status;
@@ -191,10 +270,10 @@ extern const CommandRow checkCommand = {
     .name = "check",
     .words = "[FILE...]",
     .most = CommandRow::any,
-    .help = "Say what is wrong with .dat, .shp and .map files, or with all of the folder",
-    .details =
-        "These are catalogues, ships and maps. Without a FILE, all of the application folder is "
-        "looked through, its pictures included.",
+    .help = "Say what is wrong with .dat, .shp, .fleet and .map files, or all of the folder",
+    .details = "These are catalogues, ships, fleets with their ships and limits, and maps. Without "
+               "a FILE, "
+               "all of the application folder is looked through, its pictures included.",
     .run = runCheck,
 };
 

@@ -1,6 +1,7 @@
 #include "StoredSteps.h"
 
 #include "HullRules.h"
+#include "RecoverySteps.h"
 #include "ShipClass.h"
 #include "base64.h"
 #include "fingerprint.h"
@@ -166,19 +167,18 @@ std::string StoredSteps::text() const {
     for (const std::string& step : steps) {
         text += inLine(step) + '\n';
     }
-    return std::string(title) + ' ' + fingerprint(text) + '\n' + text;
+    return sealedSteps(title, text);
 }
 
 std::optional<StoredSteps> StoredSteps::of(std::string_view text, ShipClass& ship) {
     if (text.size() > mostBytes) {
         return std::nullopt;
     }
-    const std::string_view head = text.substr(0, text.find('\n'));
-    const std::string_view rest = text.substr(std::min(text.size(), head.size() + 1));
-    if (head != std::string(title) + ' ' + fingerprint(rest)) {
+    const std::optional<std::string_view> whole = linesOfSteps(title, text);
+    if (!whole) {
         return std::nullopt;
     }
-    Lines lines(rest);
+    Lines lines(*whole);
     StoredSteps stored;
     stored.now.catalogue = ship.catalogueText();
     lines.require(lines.next("catalogue ") == fingerprint(stored.now.catalogue->text()));

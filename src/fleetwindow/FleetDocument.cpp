@@ -1,13 +1,25 @@
 #include "FleetDocument.h"
 
+#include "RecoverySteps.h"
+#include "base64.h"
 #include "fleetFile.h"
 #include "fleetPaths.h"
+#include "paths.h"
+#include "text.h"
 
+#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace fleetwright {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view stepsTitle = "FleetWright fleet steps 1";
+
+}  // namespace
 
 FleetDocument::FleetDocument(fs::path folder) {
     begin({}, std::move(folder));
@@ -22,6 +34,63 @@ void FleetDocument::begin(Fleet fleet, fs::path folder) {
     noteWritten();
     m_history = FleetHistory(textOfSteps());
     m_saved = isEmpty ? std::optional(m_history.now()) : std::nullopt;
+}
+
+bool FleetDocument::beginAside(Fleet fleet, const fs::path& folder, const std::string& steps) {
+    begin(std::move(fleet), folder);
+    const bool isWell = steps.empty() || adopt(steps);
+    m_saved.reset();
+    return isWell;
+}
+
+std::string FleetDocument::steps() const {
+    std::string lines = toBase64(pathText(m_folder), Base64Lines::One) + '\n';
+    for (const std::string& text : m_history.stored()) {
+        lines += toBase64(text, Base64Lines::One) + '\n';
+    }
+    return sealedSteps(stepsTitle, lines);
+}
+
+/// Takes the steps that were put aside with the fleet at hand. Its ships are then named from where
+/// they were named before.
+bool FleetDocument::adopt(const std::string& steps) {
+    const std::optional<std::string_view> lines = linesOfSteps(stepsTitle, steps);
+    std::vector<std::string> texts;
+    LineReader reader(lines.value_or(std::string_view()));
+    for (std::string_view line; reader.next(line);) {
+        texts.push_back(fromBase64(line).value_or(""));
+    }
+    if (texts.empty()) {
+        return false;
+    }
+    const fs::path folder = nativePath(texts.front());
+    texts.erase(texts.begin());
+    std::optional<FleetHistory> history = FleetHistory::of(texts);
+    if (!history) {
+        return false;
+    }
+    // They were written first: a crash may have parted them from the fleet of a moment later.
+    const std::string wanted = textOfSteps();
+    const auto isHere = [&] {
+        Fleet moved = parseFleet(history->now()).fleet;
+        moveFleet(moved, folder, m_folder);
+        return fleetText(moved) == wanted;
+    };
+    while (!isHere()) {
+        if (!history->canUndo()) {
+            return false;
+        }
+        history->undo();
+    }
+    const Fleet read = std::exchange(m_fleet, parseFleet(history->now()).fleet);
+    m_fleet.catalogue = read.catalogue;
+    for (std::size_t i = 0; i < m_fleet.ships.size(); ++i) {
+        m_fleet.ships[i].fingerprint = read.ships[i].fingerprint;
+    }
+    m_folder = folder;
+    m_history = *std::move(history);
+    noteWritten();
+    return true;
 }
 
 std::vector<Fault> FleetDocument::open(const fs::path& file) {

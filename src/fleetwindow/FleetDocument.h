@@ -28,6 +28,9 @@ public:
     /// Begins another one: `fleet` names its ships from `folder` on. One without a file counts as
     /// saved only if it is empty.
     void begin(Fleet fleet, std::filesystem::path folder);
+    /// The same for one that was put aside in a folder, with the steps that were put aside with it:
+    /// they are its steps again. False if there are some that do not lead to this fleet.
+    bool beginAside(Fleet fleet, const std::filesystem::path& folder, const std::string& steps);
     /// The same for the one in a file. Throws FileError, with the fleet at hand as it was.
     std::vector<Fault> open(const std::filesystem::path& file);
 
@@ -51,9 +54,12 @@ public:
               const std::string& catalogue);
     /// All of it, as a file in that folder.
     std::string textIn(const std::filesystem::path& otherFolder) const;
+    /// Its steps, to be put aside. docs/file-formats.md describes the text.
+    std::string steps() const;
 
 private:
     std::string textOfSteps() const;
+    bool adopt(const std::string& steps);
     void take(const std::string& text);
     void noteWritten();
     void restoreWritten();

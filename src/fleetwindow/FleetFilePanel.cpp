@@ -64,11 +64,14 @@ void FleetFilePanel::open(const std::filesystem::path& file) {
 void FleetFilePanel::openPutAside(const std::filesystem::path& file) {
     try {
         ReadFleet read = readFleet(file);
+        const std::string steps = RecoveryFolder::stepsOf(file);
         if (m_recovery.giveUpFleet(true)) {
-            document().begin(std::move(read.fleet), file.parent_path());
+            const bool hasSteps =
+                document().beginAside(std::move(read.fleet), file.parent_path(), steps);
             m_recovery.noteOpened(file);
             window().restart();
-            window().say("This fleet is not saved yet. Save As gives it a file.");
+            window().say(std::string("This fleet is not saved yet. Save As gives it a file.") +
+                         (hasSteps ? "" : " Its steps cannot be undone any more."));
         }
     } catch (const FileError& error) {
         showFileError(services().desktop, error);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,12 +39,21 @@ public:
     const std::string& undo();
     const std::string& redo();
 
+    /// The texts of which it can be made again, as far as it is put aside: 1000 steps to each side
+    /// at most, and fewer of a large fleet, so that all of its moments can be looked at.
+    std::vector<std::string> stored() const;
+    /// The history that such texts tell. Nothing if they tell none, or one with a moment that is no
+    /// fleet.
+    static std::optional<FleetHistory> of(const std::vector<std::string>& stored);
+
 private:
     struct Step {
         std::size_t at;  ///< where the texts differ
         std::string before, after;
         std::string name;
     };
+
+    bool areMomentsFleets() const;
 
     std::string m_now;
     std::vector<Step> m_steps;

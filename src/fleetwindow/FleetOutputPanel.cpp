@@ -39,9 +39,15 @@ void FleetOutputPanel::show() {
 }
 
 void FleetOutputPanel::send(void (SheetOutput::*way)(const SheetOutput::Source&) const) {
-    const SheetOutput sheets =
-        services().sheets().saying([this](const std::string& done) { sayDone(done); });
+    bool isSaid = false;
+    const SheetOutput sheets = services().sheets().saying([&](const std::string& done) {
+        sayDone(done);
+        isSaid = true;
+    });
     (sheets.*way)([this] { return outgoing(window()); });
+    if (way == &SheetOutput::preview && !isSaid && !services().leftOut().empty()) {
+        sayDone("Shown");
+    }
 }
 
 void FleetOutputPanel::sayDone(const std::string& done) {

@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "addShips.h"
 #include "designCode.h"
 #include "fleetPaths.h"
 #include "paths.h"
@@ -16,19 +17,6 @@
 namespace fleetwright {
 
 namespace {
-
-/// Adds a ship, or one more of it if it is there; its place.
-std::size_t addShip(Fleet& fleet, const std::string& file) {
-    const auto same = std::ranges::find(fleet.ships, file, &FleetShip::file);
-    if (same != fleet.ships.end()) {
-        same->count = std::min(same->count + 1, FleetShip::mostCount);
-        return static_cast<std::size_t>(same - fleet.ships.begin());
-    }
-    FleetShip ship;
-    ship.file = file;
-    fleet.ships.push_back(std::move(ship));
-    return fleet.ships.size() - 1;
-}
 
 /// What is to be called a ship that cannot be read.
 std::string fileNameIn(const FleetShip& ship) {
@@ -154,7 +142,7 @@ void FleetShipsPanel::addShipAtHand() {
         const std::string file =
             ship.file.empty() ? ship.code : fileInFleet(document().folder(), nativePath(ship.file));
         window().act({"Add " + shownText(ship.name)},
-                     [&](Fleet& fleet) { m_wanted = addShip(fleet, file); });
+                     [&](Fleet& fleet) { m_wanted = addShips(fleet, {file}); });
         window().say(
             ship.file.empty()
                 ? "The ship is in no file, so the fleet holds it as it is now. Save it, and add "
@@ -187,14 +175,12 @@ void FleetShipsPanel::addFiles(const std::vector<std::string>& files) {
         const std::string what = names.size() == 1
                                      ? shownText(pathText(nativePath(files[0]).filename()))
                                      : std::to_string(names.size()) + " Ships";
-        window().act({"Add " + what}, [&](Fleet& fleet) {
-            for (const std::string& name : names) {
-                m_wanted = addShip(fleet, name);
-            }
-        });
+        window().act({"Add " + what}, [&](Fleet& fleet) { m_wanted = addShips(fleet, names); });
         window().say("Added " + what);
     } catch (const FileError& error) {
         window().say(complaint(error));
+    } catch (const Error& error) {
+        window().say(error.what());
     }
 }
 

@@ -45,6 +45,17 @@ bool areStepsWhole(std::string_view steps) {
     return head.size() < steps.size() && head.ends_with(fingerprint(steps.substr(head.size() + 1)));
 }
 
+std::string sealedSteps(std::string_view title, const std::string& lines) {
+    return std::string(title) + ' ' + fingerprint(lines) + '\n' + lines;
+}
+
+std::optional<std::string_view> linesOfSteps(std::string_view title, std::string_view steps) {
+    const std::string_view head = steps.substr(0, steps.find('\n'));
+    const std::string_view lines = steps.substr(std::min(steps.size(), head.size() + 1));
+    const bool isWhole = head == std::string(title) + ' ' + fingerprint(lines);
+    return isWhole ? std::optional(lines) : std::nullopt;
+}
+
 bool writeSteps(const fs::path& design, const std::string& steps) {
     const fs::path file = stepsBeside(design);
     if (steps.empty() || (isDesignThere(file) && !areStepsWhole(stepsIn(file)))) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -21,6 +22,11 @@ std::string stepsOfDesign(const std::filesystem::path& design);
 /// Whether steps are as a run of the program has written them: the first line ends in the
 /// fingerprint of what is behind it.
 bool areStepsWhole(std::string_view steps);
+
+/// Steps as a run writes them: a first line of this title and that fingerprint, and lines.
+std::string sealedSteps(std::string_view title, const std::string& lines);
+/// The lines of such steps, with this title; nothing if they are others or not whole.
+std::optional<std::string_view> linesOfSteps(std::string_view title, std::string_view steps);
 
 /// Writes steps beside a design, but not over what somebody else has put there. Whether they are
 /// there.
