@@ -34,6 +34,27 @@ const std::filesystem::path& benchFolder() {
     return folder.path;
 }
 
+const std::vector<std::string>& shipFiles() {
+    namespace fs = std::filesystem;
+    static const std::vector<std::string> files = [] {
+        const fs::path folder = benchFolder() / "ships";
+        fs::create_directories(folder);
+        std::vector<std::string> made;
+        constexpr std::size_t wanted = 10'000;
+        while (made.size() < wanted) {
+            for (const fs::directory_entry& ship :
+                 fs::directory_iterator(SOURCE_FOLDER "/data/ships")) {
+                const fs::path file = folder / (std::to_string(made.size()) + ".shp");
+                fs::copy_file(ship.path(), file, fs::copy_options::overwrite_existing);
+                made.push_back(file.string());
+            }
+        }
+        made.resize(wanted);
+        return made;
+    }();
+    return files;
+}
+
 const std::filesystem::path& memoryFolder() {
     const std::filesystem::path memory = "/dev/shm";
     static const BenchFolder folder(

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -10,5 +12,8 @@ const std::filesystem::path& memoryFolder();
 
 /// A folder of this run's own for the files that benchmarks read; gone when the program ends.
 const std::filesystem::path& benchFolder();
+
+/// 10,000 ship files there: copies of the sample ships.
+const std::vector<std::string>& shipFiles();
 
 }  // namespace fleetwright

@@ -6,37 +6,13 @@
 #include "commands.h"
 #include "inOrder.h"
 
-#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
 namespace fleetwright {
 
-namespace fs = std::filesystem;
-
 namespace {
-
-/// Copies of the sample ships.
-const std::vector<std::string>& shipFiles() {
-    static const std::vector<std::string> files = [] {
-        const fs::path folder = benchFolder() / "ships";
-        fs::create_directories(folder);
-        std::vector<std::string> made;
-        constexpr std::size_t wanted = 10'000;
-        while (made.size() < wanted) {
-            for (const fs::directory_entry& ship :
-                 fs::directory_iterator(SOURCE_FOLDER "/data/ships")) {
-                const fs::path file = folder / (std::to_string(made.size()) + ".shp");
-                fs::copy_file(ship.path(), file, fs::copy_options::overwrite_existing);
-                made.push_back(file.string());
-            }
-        }
-        made.resize(wanted);
-        return made;
-    }();
-    return files;
-}
 
 void workOutFigures(std::size_t ships, unsigned threads) {
     const std::vector<std::string>& files = shipFiles();

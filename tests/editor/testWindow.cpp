@@ -279,7 +279,12 @@ void TestWindow::makeFleet() {
                 return pages;
             },
         .playPage = [](const Fleet& fleet,
-                       const std::filesystem::path&) { return "To play: " + fleet.name; }});
+                       const std::filesystem::path&) { return "To play: " + fleet.name; },
+        .leftOut =
+            [this] {
+                const bool isThere = std::filesystem::exists(m_folder.path() / "ships/big.shp");
+                return std::string(isThere ? "big.shp (there is no map)" : "");
+            }});
 }
 
 FleetRow TestWindow::readShip(const std::string& name) const {

@@ -1,5 +1,6 @@
 #include "Error.h"
 #include "FleetSum.h"
+#include "addShips.h"
 #include "caseFile.h"
 #include "fleetFile.h"
 #include "fleetPaths.h"
@@ -141,3 +142,19 @@ TEST(FleetSum, CountsWhatLoads) {
 }
 
 }  // namespace
+
+TEST(FleetRoom, TakesShipsAsFarAsAFileMayHoldThem) {
+    Fleet fleet;
+    fleet.ships.resize(Fleet::mostDesigns - 1);
+    fleet.ships[7].file = "seven";
+    fleet.ships[7].count = FleetShip::mostCount - 1;
+    EXPECT_EQ(addShips(fleet, {"last", "seven"}), 7U);
+    EXPECT_EQ(fleet.ships.back().file, "last");
+    const Fleet full = fleet;
+    for (const char* const more : {"seven", "other"}) {
+        EXPECT_THROW(addShips(fleet, {"last", more}), Error) << more;
+        EXPECT_TRUE(fleet == full);
+    }
+    EXPECT_EQ(addShips(fleet, {"last", "last"}), Fleet::mostDesigns - 1);
+    EXPECT_EQ(fleet.ships.back().count, 3);
+}

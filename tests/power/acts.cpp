@@ -1,5 +1,6 @@
 // What the window does to files without being asked, as a program without a window.
 
+#include "FleetDocument.h"
 #include "QtSettingsStore.h"
 #include "RecoveryFolder.h"
 #include "Trash.h"
@@ -46,6 +47,26 @@ void putAside(RecoveryFolder& folder, const fs::path& ships) {
     folder.forget();
 }
 
+/// Puts a fleet aside as its window does, and saves it.
+void workOnFleet(RecoveryFolder& folder, const fs::path& file) {
+    FleetDocument fleet(fs::current_path());
+    fleet.open(file);
+    for (const char* const name : {"First", "Second"}) {
+        fleet.act(
+            {"Name"}, [name](Fleet& changed) { changed.name = name; }, 0);
+        folder.put({.shipName = name,
+                    .mass = 3,
+                    .shipFile = fleet.textIn(folder.folder()),
+                    .steps = fleet.steps(),
+                    .kind = RecoveryKind::Fleet});
+        report();
+    }
+    fleet.save(file, {}, "1-2");
+    report();
+    folder.forget(RecoveryKind::Fleet);
+    report();
+}
+
 void lookAround(RecoveryFolder& folder) {
     std::vector<RecoveryFolder::Design> designs = folder.lookAround();
     folder.noteSeen(designs);
@@ -79,6 +100,8 @@ int main(int argc, char** argv) {
         RecoveryFolder::ofUser(), [] { return "2026-05-01 17.03.59"; }, trash);
     if (act == "aside") {
         putAside(folder, argv[2]);
+    } else if (act == "fleet") {
+        workOnFleet(folder, fs::absolute(argv[2]));
     } else if (act == "look") {
         lookAround(folder);
     } else if (act == "start") {

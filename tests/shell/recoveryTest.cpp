@@ -235,6 +235,8 @@ TEST(Recovery, LosesNothingWhereverARunEnds) {
     const RecoveryFolder::Aside before = designOf("Before", 2), crashed = designOf("Crashed", 4),
                                 first = designOf("First", 6), second = designOf("Second", 8),
                                 third = designOf("Third", 10);
+    RecoveryFolder::Aside fleet = designOf("Fleet", 12), laterFleet = designOf("Fleet", 14);
+    fleet.kind = laterFleet.kind = RecoveryKind::Fleet;
     forSeeds([&](std::mt19937& random) {
         constexpr int step = 11;  // each call waits for the disk
         bool isReached = true;
@@ -253,8 +255,11 @@ TEST(Recovery, LosesNothingWhereverARunEnds) {
                     std::vector<RecoveryFolder::Design> designs = run.lookAround();
                     run.noteSeen(designs);
                     run.put(first);  // then it or the second one is there
+                    run.put(fleet);
                     run.put(second);
                     wanted.push_back(second);
+                    run.put(laterFleet);
+                    wanted.push_back(laterFleet);
                     run.keep(second);
                     run.put(third);
                     wanted.push_back(third);
