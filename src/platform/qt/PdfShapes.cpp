@@ -5,6 +5,7 @@
 #include "pathSteps.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string_view>
 #include <variant>
