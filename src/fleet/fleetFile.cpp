@@ -219,6 +219,7 @@ ReadFleet parseFleet(std::string_view text) {
                                      return line.row == 0;
                                  })->number);
     }
+    sortByLine(read.faults);
     return read;
 }
 
