@@ -225,7 +225,8 @@ PageBlock titleBlock(const Fleet& fleet, const FleetSum& sum, double width) {
 /// The name of the fleet and the number of the page, at the bottom of each page.
 void addPageNumbers(std::vector<Page>& pages, const Fleet& fleet, const Box& inside) {
     for (std::size_t i = 0; i < pages.size() && pages.size() > 1; ++i) {
-        const double y = inside.y + inside.height - 0.5;
+        constexpr double below = 0.25;  // the line, of the font's size: what letters take there
+        const double y = inside.y + inside.height - below * smallSize;
         const std::string number =
             "Page " + std::to_string(i + 1) + " of " + std::to_string(pages.size());
         PageText name = fittedText(fleet.name, {.text = {}, .size = smallSize, .colour = quietInk},
