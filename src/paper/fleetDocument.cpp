@@ -63,8 +63,11 @@ void checkCanBePrinted(const Fleet& fleet) {
 }
 
 PageDocument fleetDocument(const Fleet& fleet, const FleetRows& rows, const FleetSheets& sheets,
-                           const SheetOptions& options) {
+                           const SheetOptions& asked) {
     checkCanBePrinted(fleet);
+    SheetOptions options = asked;
+    const double scale = std::max(1.0, leastRosterWidth / asked.paper.width);
+    options.paper = {asked.paper.width * scale, asked.paper.height * scale};
     PageDocument document = sheetDocument(seriesOf(fleet, sheets), options);
     document.pages = rosterPages(fleet, rows, document.size);
     const FleetSum sum = fleetSum(fleet, rows);

@@ -20,7 +20,8 @@ void checkCanBePrinted(const Fleet& fleet);
 
 /// A fleet as a document: the roster, and behind it a sheet for each of its ships under its own
 /// name. There are a row and a sheet for each design of the fleet. The pages of sheets are made
-/// when they are asked for. Throws Error for more than `mostSheets`.
+/// when they are asked for. On smaller paper the roster has no room: then they have the shape of
+/// that paper, for whoever shrinks them. Throws Error for more than `mostSheets`.
 PageDocument fleetDocument(const Fleet& fleet, const FleetRows& rows, const FleetSheets& sheets,
                            const SheetOptions& options);
 

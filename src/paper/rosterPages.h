@@ -7,6 +7,9 @@
 
 namespace fleetwright {
 
+/// The least width of a paper that the columns have room on, in millimetres.
+inline constexpr double leastRosterWidth = 150;
+
 /// A fleet on paper: its ships with their figures, names and notes, what they come to, and what is
 /// left of its limits. There is a row for each of its ships.
 std::vector<Page> rosterPages(const Fleet& fleet, const FleetRows& rows, const PageSize& paper);

@@ -58,7 +58,7 @@ TEST(Roster, HasAPlaceForEverything) {
             fleet.ships.push_back(fleet.ships.back());
             rows.push_back(rows.back());
         }
-        const PageSize paper = given["paper"] == "card" ? PageSize{100, 150} : paperA4;
+        const PageSize paper = given["paper"] == "card" ? PageSize{leastRosterWidth, 160} : paperA4;
         const std::vector<Page> pages = rosterPages(fleet, rows, paper);
         PageDocument document;
         document.size = paper;
