@@ -82,7 +82,7 @@ public:
         m_pictures.prepareForPdf();
         try {
             int ignored = Done;
-            m_supplies.emplace(options, mostInThumbnail, SheetSupplies::Kind::Other, ignored);
+            m_supplies.emplace(options, mostInThumbnail, SheetSupplies::Kind::Svg, ignored);
         } catch (const FileError&) {
             // There are no pictures.
         }
