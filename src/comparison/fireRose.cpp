@@ -72,6 +72,10 @@ std::int64_t fullSectorOf(std::initializer_list<const FirePower*> ships, RoseOf 
     return most;
 }
 
+double sectorReach(std::int64_t value, std::int64_t full) {
+    return double(largestRadius) / side * std::sqrt(double(value) / double(full));
+}
+
 Drawing fireRose(const FirePower& power, RoseOf measure, std::int64_t full, std::uint32_t fill) {
     Drawing drawing{
         .width = side, .height = side, .ink = {0, 0, side, side}, .shapes = {groundOf(), bow()}};
@@ -79,8 +83,7 @@ Drawing fireRose(const FirePower& power, RoseOf measure, std::int64_t full, std:
         const std::int64_t value = measureOf(power.sectors[direction], measure);
         if (value > 0) {
             DrawnShape sector;
-            sector.path =
-                sectorOf(largestRadius * std::sqrt(double(value) / double(full)), direction);
+            sector.path = sectorOf(side * sectorReach(value, full), direction);
             sector.fill = fill;
             sector.stroke = black;
             sector.strokeWidth = pen;

@@ -18,15 +18,18 @@ namespace {
 
 constexpr double roseSide = 28;
 
-/// The numbers, each in the middle of its quarter.
-void putNumbers(Page& page, const FirePower& power, const Box& rose) {
-    constexpr double size = 3.3, digitHeight = 0.73 * size, out = 0.24 * roseSide;
+/// The numbers, inside of their sectors, or beyond them if they are small.
+void putNumbers(Page& page, const FirePower& power, std::int64_t full, const Box& rose) {
+    constexpr double size = 3.3, digitHeight = 0.73 * size, inside = 0.2, beyond = 0.08;
     constexpr std::pair<double, double> directions[] = {{0, -1}, {1, 0}, {0, 1}, {-1, 0}};
     for (std::size_t i = 0; i < power.sectors.size(); ++i) {
-        if (power.sectors[i].weapons > 0) {
+        const std::int64_t weapons = power.sectors[i].weapons;
+        if (weapons > 0) {
             const auto [right, down] = directions[i];
+            const double reach = sectorReach(weapons, full);
+            const double out = roseSide * (reach > inside + beyond ? inside : reach + beyond);
             page.items.emplace_back(
-                PageText{.text = std::to_string(power.sectors[i].weapons),
+                PageText{.text = std::to_string(weapons),
                          .x = rose.x + roseSide / 2 + right * out,
                          .y = rose.y + (roseSide + digitHeight) / 2 + down * out,
                          .size = size,
@@ -53,7 +56,7 @@ void putFireRose(Page& page, const FirePower& power, FreeRoom& room) {
     const auto rose =
         std::make_shared<const Drawing>(fireRose(power, RoseOf::Weapons, full, paleGrey));
     putCaptioned(page, rose, {free->x, free->y, roseSide, roseSide}, "WEAPONS BY ARC");
-    putNumbers(page, power, *free);
+    putNumbers(page, power, full, *free);
 }
 
 }  // namespace fleetwright
