@@ -358,9 +358,10 @@ TEST(PosixFiles, AreLinkedAndExchanged) {
     EXPECT_FALSE(exchangeForGood(a, sub));
     EXPECT_TRUE(fs::is_symlink(a / "link") && fs::is_regular_file(sub));
     EXPECT_EQ(exchangeForGood(a, folder.path() / "none"), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(syncFolder(folder.path() / "none"), std::errc::no_such_file_or_directory);
     hookFileCalls({});
     using enum FileCall;
-    EXPECT_EQ(calls, (std::vector{MakeLink, Open, Exchange, SyncFolder, Exchange}));
+    EXPECT_EQ(calls, (std::vector{MakeLink, Open, Exchange, SyncFolder, Exchange, SyncFolder}));
 }
 
 TEST(PosixFiles, AreNotReadIfTheyAreTooLargeOrNeverEnd) {

@@ -56,8 +56,7 @@ struct Place {
     std::string copy() const {
         const std::string name = "FleetWright/recovered/ship as it was.shp";
         std::string contents = folder.read(name);
-        EXPECT_TRUE(contents.empty() ||
-                    fs::status(folder.path() / name).permissions() == fs::perms(0600));
+        EXPECT_TRUE(contents.empty() || isUsersAlone(folder.path() / name));
         return contents;
     }
 

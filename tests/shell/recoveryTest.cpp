@@ -68,7 +68,8 @@ private:
         std::map<std::string, std::string> seen;
         std::map<std::string, int> counts = {{"locks", 0}, {"records", 0}};
         for (const auto& entry : fs::recursive_directory_iterator(m_root.path())) {
-            const std::string name = entry.path().lexically_relative(m_root.path()).string();
+            const std::string name =
+                entry.path().lexically_relative(m_root.path()).generic_string();
             if (name.find(".record-") != std::string::npos) {
                 ++counts["records"];
             } else if (entry.path().extension() == ".lock") {

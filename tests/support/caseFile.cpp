@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -14,6 +15,10 @@ namespace fleetwright {
 namespace {
 
 constexpr const char* result = "makes";
+
+bool endsPath(char c) {
+    return c == ';' || c == ':' || c == '"' || c == '\n';
+}
 
 std::string withoutLastEnds(std::string text) {
     text.erase(text.find_last_not_of('\n') + 1);
@@ -98,7 +103,14 @@ std::string playActs(const std::string& acts, const Stage& stage) {
         text += "> " + act + '\n';
         text += changes.empty() ? "" : "  " + replaced(changes, "\n", " | ") + '\n';
     }
-    return replaced(std::move(text), stage.folder, "APP");
+    text = replaced(std::move(text), stage.folder, "APP");
+    // Paths below it as they are written elsewhere, up to the end of the sentence.
+    const char own = static_cast<char>(std::filesystem::path::preferred_separator);
+    for (std::size_t at = 0; (at = text.find("APP", at)) != std::string::npos; ++at) {
+        const auto path = text.begin() + static_cast<std::ptrdiff_t>(at);
+        std::replace(path, std::find_if(path, text.end(), endsPath), own, '/');
+    }
+    return text;
 }
 
 std::pair<std::string, std::string> cut(const std::string& text) {

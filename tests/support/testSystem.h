@@ -12,6 +12,9 @@ extern const char* const userDataVariable;
 /// Whether anybody may make symbolic links.
 extern const bool canMakeLinks;
 
+/// Whether nobody but this user may read a file below the folder for his data.
+bool isUsersAlone(const std::filesystem::path& file);
+
 /// Sets a variable of this process's environment.
 void setVariable(const std::string& name, const std::string& value);
 /// Takes one away.

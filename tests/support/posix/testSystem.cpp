@@ -8,6 +8,10 @@ namespace fleetwright {
 const char* const userDataVariable = "XDG_DATA_HOME";
 const bool canMakeLinks = true;
 
+bool isUsersAlone(const std::filesystem::path& file) {
+    return std::filesystem::status(file).permissions() == std::filesystem::perms(0600);
+}
+
 void setVariable(const std::string& name, const std::string& value) {
     setenv(name.c_str(), value.c_str(), 1);
 }

@@ -10,6 +10,10 @@ namespace fs = std::filesystem;
 const char* const userDataVariable = "APPDATA";
 const bool canMakeLinks = false;
 
+bool isUsersAlone(const fs::path&) {
+    return true;  // as that folder is
+}
+
 void setVariable(const std::string& name, const std::string& value) {
     _wputenv_s(fs::path(name).c_str(), fs::path(value).c_str());
 }
