@@ -89,7 +89,7 @@ std::string pathText(const fs::path& path) {
 }
 
 fs::path nativePath(std::string_view utf8) {
-    return {std::u8string(utf8.begin(), utf8.end())};
+    return fs::path(std::u8string(utf8.begin(), utf8.end())).make_preferred();
 }
 
 std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending) {

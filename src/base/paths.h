@@ -13,7 +13,7 @@ namespace fleetwright {
 /// A path as the program keeps paths in texts: in UTF-8.
 std::string pathText(const std::filesystem::path& path);
 
-/// The path that such a text means.
+/// The path that such a text means, its folders parted as the system does.
 std::filesystem::path nativePath(std::string_view utf8);
 
 /// A name that a user has given, as a part of a file's name: without what some file system does not

@@ -58,7 +58,7 @@ RecoveryName leftOver(const std::set<std::string>& announced, const WrittenShip&
     if (announced.empty() || !isFleet(*announced.begin())) {
         return {ship.name, ship.mass, "", 0};
     }
-    return RecoveryName::of(fs::path(*announced.begin()).stem().string(), RecoveryKind::Fleet);
+    return RecoveryName::of(pathText(nativePath(*announced.begin()).stem()), RecoveryKind::Fleet);
 }
 
 /// Reads the masses that names do not say, but not of more designs than are read at once.

@@ -1,5 +1,4 @@
-// The main window as its user meets it: what is done, a line each, and what then changes of what
-// can be seen. The lines stand in files of cases.
+// The main window as its user meets it: acts, a line each in files of cases, and what they change.
 
 #include "testWindow.h"
 
@@ -7,6 +6,7 @@
 #include "caseFile.h"
 #include "forSeeds.h"
 #include "formTexts.h"
+#include "paths.h"
 #include "readShip.h"
 
 #include <gtest/gtest.h>
@@ -15,10 +15,9 @@
 #include <map>
 
 using namespace fleetwright;
+namespace fs = std::filesystem;
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// Plays a case: does on a window what its lines say.
 class Play {
@@ -97,7 +96,7 @@ public:
                 name.find(".fleet") != std::string::npos) {
                 const std::string shown =  // without the number of its run
                     name.substr(0, name.find_first_of("0123456789", name.find('~')));
-                const std::string held = name.ends_with(".png") ? readShip(file.path()).text
+                const std::string held = name.ends_with(".png") ? readShip(pathText(file)).text
                                                                 : m_test.folder().read(name);
                 seen["file " + shown] = replaced(held, "\r\n", ", ");
             }
@@ -208,7 +207,8 @@ private:
                  m_test.ship().Hull(7);
              }},
             {"status", [this] { m_window.sbStatus.setText("message"); }},
-            {"load", [this] { m_test.ship().loadShip(m_test.folder().path() / "some.shp"); }},
+            {"load",
+             [this] { m_test.ship().loadShip(pathText(m_test.folder().path() / "some.shp")); }},
             {"old files", [] { TestWindow::letFilesGetOld(); }},
             {"held", [this] { m_test.clock.step = 500; }},
             {"counting",
