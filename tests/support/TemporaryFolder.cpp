@@ -1,5 +1,6 @@
 #include "TemporaryFolder.h"
 
+#include "paths.h"
 #include "testSystem.h"
 
 #include <fstream>
@@ -18,14 +19,14 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 std::string TemporaryFolder::write(const std::string& name, std::string_view contents) const {
-    const fs::path file = m_path / name;
+    const fs::path file = m_path / nativePath(name);
     fs::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << contents;
     return file.string();
 }
 
 std::string TemporaryFolder::read(const std::string& name) const {
-    std::ifstream file(m_path / name, std::ios::binary);
+    std::ifstream file(m_path / nativePath(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 

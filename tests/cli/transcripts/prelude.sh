@@ -1,8 +1,11 @@
 # What the commands of the transcripts stand on.
 
+# Another tool than that of this build, such as the one for Windows.
+TOOL=${TOOL:-$APP/fleetwright-cli}
+
 # The tool in an empty environment.
 fleetwright-cli() {
-    env -i "$APP/fleetwright-cli" "$@"
+    env -i "$TOOL" "$@"
 }
 
 # picture FILE WIDTH HEIGHT [X Y COLOUR]...: a white picture but for these pixels, whose colours are
@@ -38,7 +41,7 @@ small_folder() {
 
 # The tool, which has not to wait for anything, on the folder at hand.
 tool() {
-    timeout 20 env -i "$APP/fleetwright-cli" --app . "$@"
+    timeout 20 env -i "$TOOL" --app . "$@"
 }
 
 # with_outline NAME: a map like maps/b.map but for this outline, and good.shp drawn on it.
