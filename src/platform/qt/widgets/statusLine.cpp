@@ -93,7 +93,7 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     prepare(widget, bar, scale);
     const auto redock = [widget, scale] { dock(*widget, scale); };
     keepZoomed(widget, scale, redock);
-    followPlace(parent, [widget, parent, redock, view = QPointer<QWidget>()]() mutable {
+    followPlace(parent, [parent, redock, view = QPointer<QWidget>()]() mutable {
         if (parent->parentWidget() != view) {
             view = parent->parentWidget();
             followPlace(view, redock);
