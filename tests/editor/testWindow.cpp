@@ -263,7 +263,16 @@ void TestWindow::makeFleet() {
         .clock = clock,
         .confirmsExit = globals.g_bConfirmExit,
         .recovery = &m_recovery,
-        .readShip = [this](const std::string& name) { return readShip(name); },
+        .readShip =
+            [this](const std::string& name) {
+                try {
+                    return readShip(name);
+                } catch (const Error& error) {  // the catalogue cannot be read
+                    FleetRow row;
+                    row.faults.push_back({0, error.what()});
+                    return row;
+                }
+            },
         .catalogue =
             [this] { return "catalogue of " + std::to_string(m_folder.read("weaps.dat").size()); },
         .shipAtHand = [this] { return shipAtHand(window()); },
