@@ -174,12 +174,14 @@ public:
 
     bool moveToTrash(const std::filesystem::path& design) override {
         m_test.m_log += "trash; ";
-        if (m_test.hasTrash) {
-            const std::filesystem::path bin = m_test.m_folder.path() / "trash";
-            std::filesystem::create_directory(bin);
-            std::filesystem::rename(design, bin / design.filename());
+        if (!m_test.hasTrash) {
+            return false;
         }
-        return m_test.hasTrash;
+        const std::filesystem::path bin = m_test.m_folder.path() / "trash";
+        std::filesystem::create_directory(bin);
+        std::error_code error;
+        std::filesystem::rename(design, bin / design.filename(), error);
+        return !error;
     }
 
 private:
