@@ -124,11 +124,7 @@ TEST(SSDMaps, AreScannedByNameAndOfferedToShipsThatTheyHaveRoomFor) {
     }
     SSDMaps maps;
     std::int16_t largest = 0;
-    std::string shown;
-    for (const DroppedMap& map :
-         scanMaps(folder.path(), maps, largest, [&](const auto& text) { shown += text + '\n'; })) {
-        shown += complaint(map.file.filename().string(), map.fault) + '\n';
-    }
+    const std::string shown = shownScan(folder.path(), maps, largest);
     EXPECT_EQ(shown, "Adding SSD Map: Alpha\nAdding SSD Map: beta\nAdding SSD Map: Gamma\n"
                      "Adding SSD Map: Éclair\n"
                      "broken.map:1: \"big\" is no number\n"

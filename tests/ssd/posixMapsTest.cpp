@@ -1,8 +1,8 @@
 // Folders of maps as there can be on POSIX alone.
 
-#include "Fault.h"
 #include "SSDMaps.h"
 #include "TemporaryFolder.h"
+#include "sheetWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -19,11 +19,7 @@ TEST(PosixMaps, AreDroppedIfTheyAreNoFilesAndFoundByNamesThatDifferInCase) {
     ASSERT_EQ(mkfifo((folder.path() / "maps/pipe.map").c_str(), 0600), 0);
     SSDMaps maps;
     std::int16_t largest = 0;
-    std::string shown;
-    for (const DroppedMap& map :
-         scanMaps(folder.path(), maps, largest, [&](const auto& text) { shown += text + '\n'; })) {
-        shown += complaint(map.file.filename().string(), map.fault) + '\n';
-    }
+    const std::string shown = shownScan(folder.path(), maps, largest);
     EXPECT_EQ(shown, "Adding SSD Map: Éclair\nAdding SSD Map: éclair\n"
                      "link.map: cannot be read: No such file or directory\n"
                      "pipe.map: cannot be read: Not a plain file\n");

@@ -1,5 +1,7 @@
 #include "sheetWorld.h"
 
+#include "Fault.h"
+
 #include <algorithm>
 
 namespace fleetwright {
@@ -17,6 +19,15 @@ SSDMap mapOf(std::string_view text) {
     SSDMap map(folder.path());
     map.ImageFile("test");
     return map;
+}
+
+std::string shownScan(const std::filesystem::path& folder, SSDMaps& maps, std::int16_t& largest) {
+    std::string shown;
+    for (const DroppedMap& map :
+         scanMaps(folder, maps, largest, [&](const auto& text) { shown += text + '\n'; })) {
+        shown += complaint(map.file.filename().string(), map.fault) + '\n';
+    }
+    return shown;
 }
 
 Raster box(int width, int height, std::uint32_t colour) {
