@@ -1,5 +1,6 @@
 #include "GoalTable.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace fleetwright {
@@ -15,6 +16,10 @@ std::vector<Goal>& goals() {
 
 RegisterGoal::RegisterGoal(Goal goal) {
     goals().push_back(std::move(goal));
+}
+
+bool GoalResult::isMet() const {
+    return !goal->ratio || (goal->isAtLeast ? measured >= *goal->ratio : measured <= *goal->ratio);
 }
 
 void GoalTable::ReportRuns(const std::vector<Run>& runs) {
@@ -38,22 +43,36 @@ void GoalTable::ReportRuns(const std::vector<Run>& runs) {
 void GoalTable::Finalize() {
     ConsoleReporter::Finalize();
     std::printf("\n%-64s %10s %10s  %s\n", "Goal", "wanted", "measured", "");
+    for (const GoalResult& result : results()) {
+        const Goal& goal = *result.goal;
+        if (!goal.ratio) {
+            std::printf("%-64s %10s %10.2f\n", goal.what.c_str(), "", result.measured);
+            continue;
+        }
+        std::printf("%-64s %2s %7.2f %10.2f  %s\n", goal.what.c_str(),
+                    goal.isAtLeast ? ">=" : "<=", *goal.ratio, result.measured,
+                    result.isMet() ? "met" : "NOT MET");
+    }
+}
+
+std::vector<GoalResult> GoalTable::results() const {
+    std::vector<GoalResult> all;
     for (const Goal& goal : goals()) {
         const auto above = m_smallest.find(goal.above);
         const auto below = m_smallest.find(goal.below);
-        if (above == m_smallest.end() || below == m_smallest.end()) {
-            continue;  // left out on the command line
+        if (above != m_smallest.end() && below != m_smallest.end()) {
+            all.push_back({&goal, above->second / below->second});
         }
-        const double measured = above->second / below->second;
-        if (!goal.ratio) {
-            std::printf("%-64s %10s %10.2f\n", goal.what.c_str(), "", measured);
-            continue;
-        }
-        const bool isMet = goal.isAtLeast ? measured >= *goal.ratio : measured <= *goal.ratio;
-        m_areAllMet = m_areAllMet && isMet;
-        std::printf("%-64s %2s %7.2f %10.2f  %s\n", goal.what.c_str(),
-                    goal.isAtLeast ? ">=" : "<=", *goal.ratio, measured, isMet ? "met" : "NOT MET");
     }
+    return all;
+}
+
+bool GoalTable::areAllMet() const {
+    return std::ranges::all_of(results(), &GoalResult::isMet);
+}
+
+bool GoalTable::isWhole() const {
+    return results().size() == goals().size();
 }
 
 }  // namespace fleetwright

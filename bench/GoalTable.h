@@ -21,6 +21,17 @@ struct Goal {
     std::string below;                 ///< benchmark that stands below it
     std::optional<double> ratio = {};  ///< none: whatever comes out is well
     bool isAtLeast = false;            ///< the ratio is to be reached, and not to be kept below
+    /// Why it is not met, if it is known not to be: what a measurement of its limit says.
+    std::string limit = {};
+};
+
+/// What a run says of a goal.
+struct GoalResult {
+    const Goal* goal;
+    double measured;
+
+    /// Also if there is only something to be seen.
+    bool isMet() const;
 };
 
 /// Makes a goal known; before main.
@@ -35,12 +46,17 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
 
-    /// Whether every goal that was measured is met; after Finalize.
-    bool areAllMet() const { return m_areAllMet; }
+    /// All goals whose benchmarks ran, in the order in which they are known.
+    std::vector<GoalResult> results() const;
+
+    /// Whether every goal that was measured is met.
+    bool areAllMet() const;
+
+    /// Whether no goal was left out on the command line.
+    bool isWhole() const;
 
 private:
     std::map<std::string, double> m_smallest;
-    bool m_areAllMet = true;
 };
 
 }  // namespace fleetwright

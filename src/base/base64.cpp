@@ -9,7 +9,7 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::string_view digits =
+constexpr std::string_view codeDigits =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr unsigned bitsOfDigit = 6;
 constexpr std::size_t digitsOfGroup = 4;
@@ -19,8 +19,8 @@ constexpr std::uint8_t noDigit = 0xFF;
 constexpr std::array<std::uint8_t, 256> digitValues = [] {
     std::array<std::uint8_t, 256> values{};
     values.fill(noDigit);
-    for (std::size_t value = 0; value < digits.size(); ++value) {
-        values[static_cast<unsigned char>(digits[value])] = static_cast<std::uint8_t>(value);
+    for (std::size_t value = 0; value < codeDigits.size(); ++value) {
+        values[static_cast<unsigned char>(codeDigits[value])] = static_cast<std::uint8_t>(value);
     }
     return values;
 }();
@@ -44,7 +44,7 @@ std::string toBase64(std::string_view bytes, Base64Lines lines) {
         const std::size_t at = group * bytesOfGroup;
         const std::uint32_t bits = byteAt(at) << 16U | byteAt(at + 1) << 8U | byteAt(at + 2);
         for (unsigned digit = digitsOfGroup; digit-- > 0;) {
-            *written++ = digits[bits >> digit * bitsOfDigit & 0x3FU];
+            *written++ = codeDigits[bits >> digit * bitsOfDigit & 0x3FU];
         }
     }
     const std::size_t missing = groups * bytesOfGroup - bytes.size();

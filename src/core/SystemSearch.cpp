@@ -8,19 +8,19 @@ namespace fleetwright {
 
 namespace {
 
-bool isLetterOrDigit(char c) {
+bool isWordLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
 }
 
 /// Letters of other scripts are bytes of their own, of which none parts words.
 bool partsWords(char c) {
-    return static_cast<unsigned char>(c) < 0x80 && !isLetterOrDigit(c);
+    return static_cast<unsigned char>(c) < 0x80 && !isWordLetter(c);
 }
 
 /// Letters and digits have a bit each, and all else has one together.
 std::uint64_t bitOf(char c) {
     constexpr int digits = 26, others = 36;
-    const int bit = !isLetterOrDigit(c) ? others : c >= 'a' ? c - 'a' : c - '0' + digits;
+    const int bit = !isWordLetter(c) ? others : c >= 'a' ? c - 'a' : c - '0' + digits;
     return std::uint64_t{1} << bit;
 }
 
@@ -48,7 +48,7 @@ std::vector<SystemSearch::Word> SystemSearch::wordsOf(std::string_view text) {
     std::vector<Word> words;
     while (!(text = trimmed(text)).empty()) {
         const std::size_t end = std::min(text.find(' '), text.size());
-        Word word = {text.substr(0, end), 0, end == 1 && isLetterOrDigit(text.front())};
+        Word word = {text.substr(0, end), 0, end == 1 && isWordLetter(text.front())};
         for (const char letter : word.text) {
             word.letters |= bitOf(letter);
         }

@@ -33,14 +33,14 @@ std::optional<std::string> bytesIn(const fs::path& file) {
     }
 }
 
-bool isThere(const fs::path& file) {
+bool isInFolder(const fs::path& file) {
     std::error_code unknown;
     return fs::exists(fs::symlink_status(file, unknown));
 }
 
 /// A rename that is not for good yet.
 std::error_code renameUnlessThere(const fs::path& from, const fs::path& to) {
-    return isThere(to) ? std::make_error_code(std::errc::file_exists) : renameFile(from, to);
+    return isInFolder(to) ? std::make_error_code(std::errc::file_exists) : renameFile(from, to);
 }
 
 /// Whether records know a fleet by such a name.
@@ -139,7 +139,7 @@ void RecoveryFolder::noteOpened(const fs::path& file) {
 
 bool RecoveryFolder::moveToTrash(const Design& design) {
     // Another run may have taken the mark off it.
-    return throwAway(isThere(design.file) ? design.file : fileOf(design.recordName));
+    return throwAway(isInFolder(design.file) ? design.file : fileOf(design.recordName));
 }
 
 bool RecoveryFolder::throwAway(const fs::path& design) {
@@ -213,7 +213,7 @@ fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) c
     for (int i = 2; rename(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
         plain = m_folder / (name + " (" + std::to_string(i) + ')' + ending);
     }
-    if (isThere(file)) {
+    if (isInFolder(file)) {
         return file;
     }
     rename(stepsBeside(file), stepsBeside(plain));
@@ -226,7 +226,7 @@ bool RecoveryFolder::isAsWritten(const OwnFile& own) const {
 
 /// Somebody else has written over the file of this run, or taken it away: it is theirs.
 void RecoveryFolder::letGo(std::optional<OwnFile>& own) {
-    if (isThere(fileOf(*own))) {
+    if (isInFolder(fileOf(*own))) {
         takeMarkOff(fileOf(*own), renameToNew);
     }
     m_run.record.forget(own->name);

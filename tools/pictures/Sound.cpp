@@ -1,6 +1,7 @@
 #include "Sound.h"
 
 #include "Error.h"
+#include "appendNumber.h"
 #include "readFile.h"
 #include "text.h"
 
@@ -81,31 +82,25 @@ void add(const Voice& voice, std::vector<double>& samples) {
     }
 }
 
-void append(std::string& bytes, std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i) {
-        bytes += static_cast<char>(value >> (8 * i));
-    }
-}
-
 std::string encode(const std::vector<double>& samples) {
     constexpr std::uint32_t sampleSize = 2;
     const auto dataSize = static_cast<std::uint32_t>(samples.size()) * sampleSize;
     std::string bytes = "RIFF";
-    append(bytes, 36 + dataSize, 4);
+    appendNumber(bytes, 36 + dataSize, 4);
     bytes += "WAVEfmt ";
-    append(bytes, 16, 4);
-    append(bytes, 1, 2);  // plain samples
-    append(bytes, 1, 2);  // mono
-    append(bytes, sampleRate, 4);
-    append(bytes, sampleRate * sampleSize, 4);
-    append(bytes, sampleSize, 2);
-    append(bytes, 8 * sampleSize, 2);
+    appendNumber(bytes, 16, 4);
+    appendNumber(bytes, 1, 2);  // plain samples
+    appendNumber(bytes, 1, 2);  // mono
+    appendNumber(bytes, sampleRate, 4);
+    appendNumber(bytes, sampleRate * sampleSize, 4);
+    appendNumber(bytes, sampleSize, 2);
+    appendNumber(bytes, 8 * sampleSize, 2);
     bytes += "data";
-    append(bytes, dataSize, 4);
+    appendNumber(bytes, dataSize, 4);
     for (const double sample : samples) {
         constexpr double loudest = 32767;
         const auto value = std::lround(std::clamp(sample, -1.0, 1.0) * loudest);
-        append(bytes, static_cast<std::uint32_t>(value), 2);
+        appendNumber(bytes, static_cast<std::uint32_t>(value), 2);
     }
     return bytes;
 }
