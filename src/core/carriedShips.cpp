@@ -44,20 +44,39 @@ bool isBitmap(std::string_view bytes) {
            bytes.substr(lengthPlace + 1, 3) == std::string_view("\0\0\0", 3);
 }
 
-/// How files begin that are looked at or packed, and no text of a ship: GIF, JPEG, TIFF, WebP, what
-/// gzip has packed, and XML in UTF-16.
-constexpr std::string_view otherBeginnings[] = {
-    "GIF87a", "GIF89a",       "\xFF\xD8\xFF",     {"II*\0", 4},      {"MM\0*", 4},
-    "RIFF",   "\x1F\x8B\x08", {"\xFF\xFE<\0", 4}, {"\xFE\xFF\0<", 4}};
+/// A GIF file has its size and the like behind its letters, of which a text would show nothing.
+bool isGif(std::string_view bytes) {
+    constexpr std::size_t letters = 6, head = 13;
+    return (bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a")) &&
+           std::ranges::any_of(bytes.substr(letters, head - letters), [](unsigned char byte) {
+               return byte < ' ' && byte != '\t' && byte != '\r' && byte != '\n';
+           });
+}
+
+bool isWebP(std::string_view bytes) {
+    return bytes.starts_with("RIFF") && bytes.size() > 8 && bytes.substr(8).starts_with("WEBP");
+}
+
+bool isPdf(std::string_view bytes) {
+    constexpr std::string_view beginning = "%PDF-";
+    return bytes.starts_with(beginning) && bytes.size() > beginning.size() &&
+           bytes[beginning.size()] >= '0' && bytes[beginning.size()] <= '9';
+}
+
+/// How files begin that are looked at or packed, and no text of a ship: JPEG, TIFF, what gzip has
+/// packed, and XML in UTF-16.
+constexpr std::string_view otherBeginnings[] = {"\xFF\xD8\xFF",     {"II*\0", 4},
+                                                {"MM\0*", 4},       "\x1F\x8B\x08",
+                                                {"\xFF\xFE<\0", 4}, {"\xFE\xFF\0<", 4}};
 
 SheetFormat formatOf(std::string_view bytes) {
     if (bytes.starts_with(pngSignature)) {
         return SheetFormat::Png;
     }
-    if (bytes.starts_with("%PDF-")) {
+    if (isPdf(bytes)) {
         return SheetFormat::Pdf;
     }
-    if (isBitmap(bytes) ||
+    if (isBitmap(bytes) || isGif(bytes) || isWebP(bytes) ||
         std::ranges::any_of(otherBeginnings, [bytes](std::string_view beginning) {
             return bytes.starts_with(beginning);
         })) {

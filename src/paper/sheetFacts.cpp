@@ -108,6 +108,9 @@ LegendRow& Legend::add(SheetRecord::Picture picture, std::string name, std::int3
 
 void Legend::addSystem(const std::string& name, std::int32_t count) {
     LegendRow& row = add(systemPicture(name), name, count);
+    if (m_ship.weapNameToIndex(name) == -1) {
+        return;  // aboard from an earlier catalogue; to ask for its figures would tell the user
+    }
     if (m_ship.PaintableWeap(name)) {
         row.arcs = arcWords(name, m_ship.GimmeWeapArc(name));
     }

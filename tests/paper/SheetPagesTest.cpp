@@ -32,9 +32,10 @@ struct Paper : PictureFiles, PictureEncoder, Drawings {
     std::shared_ptr<const Drawing> of(const Raster&) const override { return nullptr; }
 };
 
-/// The sheet of a ship on a black outline, with its points one upon the other.
+/// The sheet of a ship on a black outline, with its points one upon the other; aboard are systems,
+/// too, that have gone from the catalogue since.
 VectorSheet sheetOf(const std::string& shipFile, const std::string& width,
-                    const std::string& height) {
+                    const std::string& height, const std::string& gone = {}) {
     static const ShipYard yard(pageCatalogue);
     static const Raster picture = box(32, 32, 0x336699);
     const auto ship = yard.loaded(shipFile);
@@ -46,8 +47,12 @@ VectorSheet sheetOf(const std::string& shipFile, const std::string& width,
     paper.outline = box(std::stoi(width), std::stoi(height), 0);
     const SheetImages images = {[](auto) { return picture; },
                                 [](auto) -> const Raster& { return picture; }};
-    return vectorSheet(shownShip(*ship), rowsOf(*ship), mapOf(map),
-                       {outlinesIn(paper), images, paper});
+    std::vector<ListView::Row> aboard = rowsOf(*ship);
+    for (const std::string& name : linesOf(gone)) {
+        aboard.push_back({name, {}, "2"});
+    }
+    const Connection told = ship->WeaponNotFound.connect([] { ADD_FAILURE() << "a message"; });
+    return vectorSheet(shownShip(*ship), aboard, mapOf(map), {outlinesIn(paper), images, paper});
 }
 
 }  // namespace
@@ -57,8 +62,8 @@ TEST(SheetPages, HaveAPlaceForEverything) {
         const std::vector<std::string> size = linesOf(given["outline"]);
         std::vector<VectorSheet> sheets;
         for (const std::string& name : linesOf(given["names"])) {
-            sheets.push_back(
-                sheetOf("Ship Name: " + name + '\n' + given["ship"], size.at(0), size.at(1)));
+            sheets.push_back(sheetOf("Ship Name: " + name + '\n' + given["ship"], size.at(0),
+                                     size.at(1), given["gone"]));
         }
         const SheetOptions options = {.perPage = std::atoi(given["per page"].c_str()),
                                       .isPlain = given["plain"] == "yes"};
