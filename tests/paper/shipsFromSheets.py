@@ -42,8 +42,10 @@ class Tool:
                            stderr=subprocess.DEVNULL, check=False)
 
     def codes(self, files):
-        """What is in a ship file to the last character, as one line each."""
-        run = subprocess.run([*self._start, "code", *files], stdout=subprocess.PIPE, check=True)
+        """What is in a ship file to the last character, as one line each. Systems that a ship cannot have are not
+        in it, and said on standard error."""
+        run = subprocess.run([*self._start, "code", *files], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                             check=False)
         return run.stdout.decode().splitlines()
 
 
@@ -118,7 +120,7 @@ def main():
         work = Path(folder)
         tool = Tool(*(Path(word).resolve() for word in sys.argv[1:3]), work)
         counts, found = read_back(tool, tool.ships, len(tool.ships), work)
-        print(f"sample ships: sheets as PDF, scanned; as SVG, scanned; as PNG: {counts}")
+        print(f"sample ships: sheets as PDF, scanned; as SVG, scanned; as PNG: {counts}", flush=True)
         faults += found
         if counts[:4] != [len(tool.ships)] * 4:
             faults.append("a sample ship has no sheet or no code on it")

@@ -2,15 +2,15 @@
 // sees, and makes the pictures of the guides.
 
 #include "Clock.h"
-#include "DrawingPack.h"
 #include "Error.h"
 #include "FormWindow.h"
-#include "QtDesktop.h"
+#include "PictureDesktop.h"
 #include "QtPictureFiles.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
 #include "SSDMaps.h"
 #include "SilentServices.h"
+#include "fleetPictures.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmFindings.h"
@@ -37,46 +37,6 @@ namespace {
 
 using namespace fleetwright;
 namespace fs = std::filesystem;
-
-/// A desktop that takes a picture of each dialog and cancels it. Of files it chooses one.
-class PictureDesktop : public QtDesktop {
-public:
-    PictureDesktop(const fs::path& pictures, fs::path folder)
-        : m_drawings(drawingsFile(pictures)), m_folder(std::move(folder)) {}
-
-    fs::path choice;
-    std::string ending;  ///< of all names, for a state of the desktop
-    Zoom zoom;           ///< of all windows that come
-
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override {
-        return choice.string();
-    }
-
-    void showModal(Form& form, Form&) override {
-        form.load();
-        const std::unique_ptr<FormWindow> window = windowOf(form);
-        form.show();
-        take(*window, form.name());
-        form.unload();
-    }
-
-    std::unique_ptr<FormWindow> windowOf(Form& form) const {
-        form.setZoom(zoom);
-        return std::make_unique<FormWindow>(form, nullptr, WhatsThisText(), &m_drawings);
-    }
-
-    void take(QWidget& window, const std::string& name) const {
-        QApplication::processEvents();
-        const fs::path file = m_folder / (name + ending + ".png");
-        if (!window.grab().save(QString::fromStdString(file.string()))) {
-            throw FileError(file, "cannot be saved");
-        }
-    }
-
-private:
-    DrawingPack m_drawings;
-    fs::path m_folder;
-};
 
 QPalette darkPalette() {
     QPalette palette(QColor(45, 45, 48));
@@ -131,6 +91,16 @@ void takePutAside(PictureDesktop& desktop, Form& owner) {
         putAside.designs.back().isLeftBehind = putAside.designs.size() == 1;
     }
     desktop.showModal(putAside, owner);
+}
+
+/// A design beside another ship.
+void takeComparison(PictureDesktop& desktop, frmMain& form, const fs::path& other) {
+    frmCompare& comparison = form.compare.beside;
+    form.compare.mnuCompare.choose();
+    desktop.choice = other;
+    comparison.cmdChoose.press();
+    desktop.take(*desktop.windowOf(comparison), comparison.name());
+    comparison.unload();
 }
 
 /// The list of what is wrong with a design.
@@ -231,6 +201,8 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
         desktop.showModal(about, form);
         takeAuthoring(pictures, desktop);
         takeMapper(desktop, form, appFolder);
+        takeFleets(desktop, appFolder, data);
+        takeComparison(desktop, form, data / "ships" / "Rook.shp");
     };
     form.setVisible(true);
     take("main-new");
