@@ -165,7 +165,7 @@ QSize FormWindow::fitting(const QSize& inside) const {
     constexpr QSize usualFrame(10, 40);  // until the desktop has given the window one
     const QSize frame = (frameGeometry().size() - geometry().size()).expandedTo(usualFrame);
     const QSize room = screen()->availableSize() - frame - menuSize();
-    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int scrollBar = centralWidget()->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     QSize view = inside;
     if (inside.height() > room.height()) {
         view.rwidth() += scrollBar;

@@ -114,6 +114,9 @@ TEST_F(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
     EXPECT_EQ(view->viewport()->width(), view->widget()->width()) << "the bar stands beside it";
     EXPECT_EQ(view->verticalScrollBar()->maximum() + view->viewport()->height(),
               view->widget()->height());
+    form.setZoom(Zoom(150));
+    EXPECT_EQ(view->viewport()->width(), view->widget()->width()) << "a large bar, too";
+    form.setZoom(Zoom());
     // The user moves one edge; the other dimension stays what it was.
     window.resize(shown.width() + 50, shown.height());
     EXPECT_EQ(view->viewport()->width(), view->widget()->width());
