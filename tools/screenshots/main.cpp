@@ -188,6 +188,9 @@ void takeAll(const fs::path& data, const fs::path& pictures, const fs::path& out
     const auto take = [&](const std::string& name) {
         const std::unique_ptr<FormWindow> window = desktop.windowOf(form);
         window->show();
+        if (const TreeView::Node* const selected = form.tree.tvWeapons.selected()) {
+            form.tree.tvWeapons.SightWanted.raise(*selected);  // of a window that is new
+        }
         desktop.take(*window, name);
         auto* const menu = window->findChild<QMenu*>("mnuDesign");
         menu->resize(menu->sizeHint());
