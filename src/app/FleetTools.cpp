@@ -11,6 +11,8 @@
 #include "playFleet.h"
 #include "text.h"
 
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace fleetwright {
@@ -70,12 +72,19 @@ FleetSheets FleetTools::sheets(const Fleet& fleet, const std::filesystem::path& 
                        });
 }
 
-PageDocument FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
-                               const std::filesystem::path& folder, const PageSize& paper) {
-    checkCanBePrinted(fleet);  // before all of it is drawn
-    constexpr int mostOnAPage = 4;
-    return fleetDocument(fleet, rows, sheets(fleet, folder),
-                         {.paper = paper, .perPage = mostOnAPage});
+PagePrinter::Layout FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
+                                      const std::filesystem::path& folder) {
+    const auto drawn = std::make_shared<std::optional<FleetSheets>>();
+    return [this, fleet = std::make_shared<const Fleet>(fleet), rows, folder,
+            drawn](const PageSize& paper) {
+        constexpr int mostOnAPage = 4;
+        FleetSeries series(*fleet, {.paper = paper, .perPage = mostOnAPage});
+        if (!*drawn) {
+            *drawn = sheets(*fleet, folder);
+        }
+        const SheetOptions options = series.options();
+        return fleetDocument(*fleet, rows, std::move(series).series(**drawn), options);
+    };
 }
 
 std::string FleetTools::playPage(const Fleet& fleet, const std::filesystem::path& folder) {

@@ -3,7 +3,7 @@
 #include "CatalogueFile.h"
 #include "Fleet.h"
 #include "FleetRow.h"
-#include "PageDocument.h"
+#include "PagePrinter.h"
 #include "fleetDocument.h"
 
 #include <filesystem>
@@ -43,9 +43,10 @@ public:
     /// The fingerprint of the catalogue; empty if it cannot be read.
     std::string catalogue();
     /// The roster of a fleet whose ships lie in and below a folder, and its sheets, each as often
-    /// as the fleet has the ship. Throws Error.
-    PageDocument pages(const Fleet& fleet, const FleetRows& rows,
-                       const std::filesystem::path& folder, const PageSize& paper);
+    /// as the fleet has the ship. What is returned does not outlive this, nor do its documents
+    /// outlive it; it draws the sheets when it is first asked, and throws Error.
+    PagePrinter::Layout pages(const Fleet& fleet, const FleetRows& rows,
+                              const std::filesystem::path& folder);
     /// The page by which such a fleet is played. Throws Error.
     std::string playPage(const Fleet& fleet, const std::filesystem::path& folder);
     /// The ships that load and of which the last of both has no sheet all the same, with the

@@ -249,8 +249,8 @@ public:
                .sheets = [this]() -> const SheetOutput& { return m_sheets; },
                .pages =
                    [this](const Fleet& fleet, const FleetRows& rows,
-                          const std::filesystem::path& folder, const PageSize& paper) {
-                       return m_fleetTools.pages(fleet, rows, folder, paper);
+                          const std::filesystem::path& folder) {
+                       return m_fleetTools.pages(fleet, rows, folder);
                    },
                .playPage =
                    [this](const Fleet& fleet, const std::filesystem::path& folder) {

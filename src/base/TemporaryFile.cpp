@@ -75,20 +75,22 @@ std::error_code TemporaryFile::write(std::string_view contents) {
 std::error_code TemporaryFile::write(const FileContents& contents) {
     constexpr std::size_t enough = std::size_t{1} << 18U;  // bytes for a call of the system
     std::string waiting;
-    const auto flush = [&] {
-        if (const std::error_code error = m_file->write(waiting)) {
+    const auto put = [&](std::string_view bytes) {
+        if (const std::error_code error = m_file->write(bytes)) {
             throw std::system_error(error);  // whoever makes contents need not know
         }
-        waiting.clear();
     };
     try {
         contents([&](std::string_view piece) {
-            waiting += piece;
-            if (waiting.size() >= enough) {
-                flush();
+            if (waiting.size() + piece.size() < enough) {
+                waiting += piece;
+            } else {
+                put(waiting);
+                put(piece);
+                waiting.clear();
             }
         });
-        flush();
+        put(waiting);
     } catch (const std::system_error& error) {
         m_file->close();
         return error.code();

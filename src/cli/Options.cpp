@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 
 namespace fleetwright {
 
@@ -208,7 +207,8 @@ Options readOptions(CommandRows commands, const std::vector<std::string>& line) 
     Options options;
     try {
         std::vector<std::string> words;
-        std::ranges::transform(line | std::views::drop(1), std::back_inserter(words), withMark);
+        const auto first = std::ranges::next(line.begin(), 1, line.end());  // the program's name
+        std::transform(first, line.end(), std::back_inserter(words), withMark);
         readWords(readCommand(commands, std::move(words), options), options);
     } catch (const Answer& answer) {
         options.command = nullptr;

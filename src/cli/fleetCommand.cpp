@@ -3,13 +3,11 @@
 #include "CatalogueFile.h"
 #include "Error.h"
 #include "FleetFiles.h"
+#include "PrintedFleet.h"
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "console.h"
-#include "documentDate.h"
-#include "drawnSheet.h"
 #include "fingerprint.h"
-#include "fleetDocument.h"
 #include "fleetFile.h"
 #include "fleetRows.h"
 #include "fleetTable.h"
@@ -17,7 +15,6 @@
 #include "paths.h"
 #include "playedFleet.h"
 #include "readFile.h"
-#include "saveResult.h"
 #include "text.h"
 
 #include <algorithm>
@@ -36,7 +33,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view playOption = "--play";
 constexpr std::string_view sheetsOption = "--sheets";
-constexpr int mostPerPage = 4;
 
 void checkSheets(std::string_view, const std::string& out) {
     if (!toCapitals(out).ends_with(".PDF")) {
@@ -44,18 +40,11 @@ void checkSheets(std::string_view, const std::string& out) {
     }
 }
 
-/// What the ships of a fleet are, and their sheets if those are wanted.
-struct LoadedShips {
-    FleetRows rows;      ///< for each ship of the fleet
-    FleetSheets sheets;  ///< for each file
-};
-
-/// Loads all ships of a fleet and names what is wrong with them. With tools it draws their sheets.
-LoadedShips loadShips(const Options& options, const FleetFiles& files,
-                      const CatalogueFile& catalogue, const SheetTools* tools, int& status) {
-    LoadedShips loaded;
+/// Loads all ships of a fleet and names what is wrong with them; a row for each. What prints the
+/// fleet draws their sheets.
+FleetRows loadShips(const Options& options, const FleetFiles& files, const CatalogueFile& catalogue,
+                    PrintedFleet* printed, int& status) {
     FleetRows rows(files.paths.size());
-    loaded.sheets.resize(files.paths.size());
     const std::string& fleetFile = options.words.front();
     const auto load = [&](std::size_t index) {
         const std::string& path = files.paths[index];
@@ -66,9 +55,8 @@ LoadedShips loadShips(const Options& options, const FleetFiles& files,
             result.complaints.push_back(files.complaintOf(fleetFile, index, fault));
         }
         try {
-            if (tools != nullptr && row->figures) {
-                loaded.sheets[index] =
-                    std::make_shared<const VectorSheet>(recordedSheet(screen, *tools, {}));
+            if (printed != nullptr && row->figures) {
+                printed->draw(index, screen);
             }
         } catch (const Error& error) {
             result.complaints.push_back(complaint(nativePath(path), error));
@@ -77,24 +65,11 @@ LoadedShips loadShips(const Options& options, const FleetFiles& files,
         return result;
     };
     status = std::max(status, printInOrder(files.paths.size(), load));
+    FleetRows ofShips;
     for (const std::size_t file : files.ofShip) {
-        loaded.rows.push_back(rows[file]);
+        ofShips.push_back(rows[file]);
     }
-    return loaded;
-}
-
-void saveSheets(const Options& options, const FleetReport& report, const FleetFiles& files,
-                const LoadedShips& loaded, ToolPictures& pictures) {
-    FleetSheets sheets;
-    for (const std::size_t file : files.ofShip) {
-        sheets.push_back(loaded.sheets[file]);
-    }
-    SheetOptions onPages = sheetOptionsOf(options);
-    onPages.perPage = options.has(perPageOption.name) ? onPages.perPage : mostPerPage;
-    PageDocument document = fleetDocument(report.fleet, report.rows, sheets, onPages);
-    document.date = documentDate(nativePath(options.words.front()));
-    saveResult(nativePath(options.value(sheetsOption)),
-               FileContents([&](const FileOut& out) { pictures.writePdf(document, out); }));
+    return ofShips;
 }
 
 int runFleet(const Options& options) {
@@ -104,6 +79,15 @@ int runFleet(const Options& options) {
     const auto refuse = [&status](const std::string& line) {
         complain(line);
         status = SomeRefused;
+    };
+    const auto attempt = [&](const std::function<void()>& act) {
+        try {
+            act();
+        } catch (const FileError& error) {
+            refuse(complaint(error));
+        } catch (const Error& error) {
+            refuse(complaint(path, error));
+        }
     };
     ReadFleet read;
     try {
@@ -121,11 +105,13 @@ int runFleet(const Options& options) {
     if (options.has(sheetsOption)) {
         supplies.emplace(options, files.paths.size(), SheetSupplies::Kind::Pdf, status);
     }
-    LoadedShips loaded =
-        loadShips(options, files, catalogue, supplies ? &supplies->tools : nullptr, status);
-    FleetReport report;
-    report.fleet = read.fleet;
-    report.rows = std::move(loaded.rows);
+    std::optional<PrintedFleet> printed;
+    if (supplies) {
+        attempt([&] { printed.emplace(options, read.fleet, files, *supplies, catalogue); });
+    }
+    FleetReport report{
+        .fleet = read.fleet,
+        .rows = loadShips(options, files, catalogue, printed ? &*printed : nullptr, status)};
     report.sum = fleetSum(report.fleet, report.rows);
     if (!report.fleet.catalogue.empty()) {
         report.isOtherCatalogue = report.fleet.catalogue != fingerprint(catalogue.read()->text());
@@ -135,17 +121,10 @@ int runFleet(const Options& options) {
     } else if (!supplies) {
         printTable(report);
     }
-    const auto attempt = [&](const std::function<void()>& act) {
-        try {
-            act();
-        } catch (const FileError& error) {
-            refuse(complaint(error));
-        } catch (const Error& error) {
-            refuse(complaint(path, error));
-        }
-    };
-    if (supplies) {
-        attempt([&] { saveSheets(options, report, files, loaded, supplies->pictures); });
+    if (printed) {
+        attempt([&] {
+            std::move(*printed).save(nativePath(options.value(sheetsOption)), report.rows);
+        });
     }
     for (const Fault& fault : brokenLimits(read, report.sum)) {
         refuse(complaint(file, fault));

@@ -9,14 +9,14 @@
 
 namespace fleetwright {
 
-/// All that there is to say of a fleet.
+/// All that there is to say of a fleet, which outlives this.
 struct FleetReport {
-    Fleet fleet;
+    const Fleet& fleet;
     FleetRows rows;
-    FleetSum sum;
+    FleetSum sum = {};
     /// Whether the catalogue is another than when the fleet was written; nothing if that is not
     /// known.
-    std::optional<bool> isOtherCatalogue;
+    std::optional<bool> isOtherCatalogue = {};
 };
 
 /// Prints a table, and below it what is left of the limits and what has changed.

@@ -8,13 +8,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 namespace fleetwright {
 
 namespace {
 
 constexpr std::string_view nameSpace = "https://fleetwright.org/ns/ships/";
-constexpr std::string_view listElement = "ships", itemElement = "li";
+constexpr std::string_view listElement = "ships", itemElement = "li", ourPrefix = "fleetwright";
 constexpr std::string_view pngKeyword = "FleetWright ship";
 
 enum class SheetFormat { NoSheet, Svg, Png, Pdf, OtherPicture };
@@ -197,14 +198,23 @@ std::vector<std::string> shipsInPng(std::string_view png) {
 
 }  // namespace
 
-std::string carriedShips(const std::vector<std::string>& shipFiles) {
-    const std::string list = "fleetwright:" + std::string(listElement);
-    std::string xml = '<' + list + " xmlns:fleetwright=\"" + std::string(nameSpace) +
-                      "\" xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">\n<rdf:Bag>\n";
-    for (const std::string& shipFile : shipFiles) {
-        xml += "<rdf:li>\n" + toBase64(shipFile) + "\n</rdf:li>\n";
-    }
-    return xml + "</rdf:Bag>\n</" + list + ">\n";
+CarriedShips::CarriedShips(std::size_t count, std::size_t bytes) {
+    // Thousands of ships are too much to be held twice, as in a text that grows.
+    constexpr std::size_t around = 400, aroundEach = 32, lineLength = 50;
+    m_element.reserve(around + count * aroundEach + bytes + bytes / 3 + bytes / lineLength);
+    m_element += '<' + qualifiedName(ourPrefix, listElement) + " xmlns:" + std::string(ourPrefix) +
+                 "=\"" + std::string(nameSpace) +
+                 "\" xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">\n<rdf:Bag>\n";
+}
+
+void CarriedShips::add(std::string_view shipFile) {
+    (m_element += "<rdf:li>\n") += toBase64(shipFile);
+    m_element += "\n</rdf:li>\n";
+}
+
+std::string CarriedShips::element() && {
+    ((m_element += "</rdf:Bag>\n</") += qualifiedName(ourPrefix, listElement)) += ">\n";
+    return std::move(m_element);
 }
 
 std::string withShip(std::string_view png, std::string_view shipFile) {

@@ -22,9 +22,7 @@ std::string fleetName(const Fleet& fleet) {
 OutgoingSheet outgoing(const FleetContext& window) {
     const FleetDocument& document = window.document;
     return {.name = fleetName(document.fleet()),
-            .pages = [pages = window.services.pages, fleet = document.fleet(), rows = window.rows,
-                      folder = document.folder()](
-                         const PageSize& paper) { return pages(fleet, rows, folder, paper); },
+            .pages = window.services.pages(document.fleet(), window.rows, document.folder()),
             .bitmap = {},
             .shipFile = {}};
 }

@@ -6,7 +6,7 @@
 #include "FleetSum.h"
 #include "FleetWindow.h"
 #include "Form.h"
-#include "PageDocument.h"
+#include "PagePrinter.h"
 
 #include <filesystem>
 #include <functional>
@@ -33,9 +33,10 @@ struct FleetServices {
     std::function<ShipAtHand()> shipAtHand;  ///< may throw Error
     std::function<void(const std::string& ship)> openShip;  ///< in the main window
     std::function<const SheetOutput&()> sheets;
-    /// The roster and the sheets of a fleet whose ships lie in and below a folder. Throws Error.
-    std::function<PageDocument(const Fleet&, const FleetRows&, const std::filesystem::path& folder,
-                               const PageSize&)>
+    /// The roster and the sheets of a fleet whose ships lie in and below a folder, for whatever
+    /// paper: what is returned draws the sheets when it is first asked, and throws Error.
+    std::function<PagePrinter::Layout(const Fleet&, const FleetRows&,
+                                      const std::filesystem::path& folder)>
         pages;
     /// A page for a browser, in which such a fleet is played. Throws Error.
     std::function<std::string(const Fleet&, const std::filesystem::path& folder)> playPage;

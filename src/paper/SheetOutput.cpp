@@ -142,14 +142,16 @@ void SheetOutput::finish(const Printout& printout, const OutgoingSheet& sheet) c
         m_services.say("The sheet is on its way to the printer");
         break;
     case Printout::Way::File:
-        save(printout.file, [&] { return m_services.printer.pdf(sheet.pages(printout.paper)); });
+        save(printout.file, [&](const FileOut& out) {
+            m_services.printer.writePdf(sheet.pages(printout.paper), out);
+        });
         break;
     }
 }
 
-void SheetOutput::save(const fs::path& file, const std::function<std::string()>& bytes) const {
+void SheetOutput::save(const fs::path& file, const FileContents& contents) const {
     if (maySave(m_services.desktop, file)) {
-        saveFile(file, bytes());
+        saveFile(file, contents);
         m_services.say("Saved " + shownText(pathText(file)));
     }
 }
@@ -164,7 +166,7 @@ void SheetOutput::exportFile(const Source& source) const {
         }
         const bool saysFormat = !endingOf(*name).empty();
         const fs::path file = nativePath(saysFormat ? *name : *name + pdfEnding);
-        save(file, [&] { return contents(sheet, endingOf(pathText(file))); });
+        save(file, [&](const FileOut& out) { write(sheet, endingOf(pathText(file)), out); });
     });
 }
 
@@ -182,18 +184,18 @@ SheetOutput::Source SheetOutput::madeAtOnce(const Source& sheet) {
     }
 }
 
-std::string SheetOutput::contents(const OutgoingSheet& sheet, const std::string& ending) const {
+void SheetOutput::write(const OutgoingSheet& sheet, const std::string& ending,
+                        const FileOut& out) const {
     if (ending == svgEnding) {
-        return m_services.svgFile(sheet.pages(paperA4));
-    }
-    if (ending == pdfEnding) {
-        return m_services.printer.pdf(sheet.pages(paperA4));
-    }
-    if (sheet.bitmap.isEmpty()) {
+        out(m_services.svgFile(sheet.pages(paperA4)));
+    } else if (ending == pdfEnding) {
+        m_services.printer.writePdf(sheet.pages(paperA4), out);
+    } else if (sheet.bitmap.isEmpty()) {
         throw Error("The ship is too heavy for a bitmap; a .pdf or .svg can be made");
+    } else {
+        const std::string png = m_services.encoder.encode(sheet.bitmap, "png");
+        out(sheet.shipFile.empty() ? png : withShip(png, sheet.shipFile));
     }
-    const std::string png = m_services.encoder.encode(sheet.bitmap, "png");
-    return sheet.shipFile.empty() ? png : withShip(png, sheet.shipFile);
 }
 
 OutgoingSheet SheetOutput::onMap(const SheetShip& ship, const Rows& aboard, const SSDMap& map,

@@ -5,6 +5,7 @@
 #include "Raster.h"
 #include "SSDMaps.h"
 #include "SheetKeys.h"
+#include "TemporaryFile.h"
 #include "drawSSD.h"
 #include "sheetDocument.h"
 
@@ -79,8 +80,8 @@ public:
 private:
     void attempt(const std::function<void()>& task) const;
     void finish(const Printout& printout, const OutgoingSheet& sheet) const;
-    void save(const std::filesystem::path& file, const std::function<std::string()>& bytes) const;
-    std::string contents(const OutgoingSheet& sheet, const std::string& ending) const;
+    void save(const std::filesystem::path& file, const FileContents& contents) const;
+    void write(const OutgoingSheet& sheet, const std::string& ending, const FileOut& out) const;
     SSDMaps::Map mapFor(const ShipClass& ship, const Rows& aboard) const;
     /// The map on which the ship's bitmap is this picture; null if it is on none.
     SSDMaps::Map mapOf(const Raster& picture, const SheetShip& ship, const Rows& aboard) const;

@@ -2,7 +2,7 @@
 
 #include "Error.h"
 #include "FleetSum.h"
-#include "rosterPages.h"
+#include "eachRosterPage.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -25,35 +25,20 @@ void rename(std::string& text, std::string_view beginning, const std::string& na
     }
 }
 
-/// A sheet for each ship of a fleet.
-SheetSeries seriesOf(const Fleet& fleet, const FleetSheets& sheets) {
-    struct Named {
-        std::size_t design;
-        std::string name;
-    };
-    std::vector<Named> ships;
-    for (std::size_t i = 0; i < sheets.size(); ++i) {
-        const FleetShip& ship = fleet.ships[i];
-        for (std::int32_t one = 0; sheets[i] != nullptr && one < ship.count; ++one) {
-            ships.push_back(
-                {i, ownName(ship, static_cast<std::size_t>(one), sheets[i]->facts.shipName)});
-        }
-    }
-    const std::size_t count = ships.size();
-    return {count, [sheets, ships = std::move(ships)](std::size_t i) {
-                return std::make_shared<const VectorSheet>(
-                    renamedSheet(*sheets[ships[i].design], ships[i].name));
-            }};
+/// A ship file under another name.
+std::string renamedShip(std::string shipFile, const std::string& name) {
+    rename(shipFile, "Ship Name: ", name);
+    return shipFile;
 }
-
-}  // namespace
 
 VectorSheet renamedSheet(VectorSheet sheet, const std::string& name) {
     sheet.facts.shipName = name;
     rename(sheet.record.text, "Name: ", name);
-    rename(sheet.shipFile, "Ship Name: ", name);
+    sheet.shipFile = renamedShip(std::move(sheet.shipFile), name);
     return sheet;
 }
+
+}  // namespace
 
 void checkCanBePrinted(const Fleet& fleet) {
     if (const std::int64_t count = shipCount(fleet); count > mostSheets) {
@@ -62,14 +47,62 @@ void checkCanBePrinted(const Fleet& fleet) {
     }
 }
 
-PageDocument fleetDocument(const Fleet& fleet, const FleetRows& rows, const FleetSheets& sheets,
-                           const SheetOptions& asked) {
+FleetSeries::FleetSeries(const Fleet& fleet, const SheetOptions& asked)
+    : m_fleet(fleet), m_options(asked), m_ships(fleet.ships.size()) {
     checkCanBePrinted(fleet);
-    SheetOptions options = asked;
     const double scale = std::max(1.0, leastRosterWidth / asked.paper.width);
-    options.paper = {asked.paper.width * scale, asked.paper.height * scale};
-    PageDocument document = sheetDocument(seriesOf(fleet, sheets), options);
-    document.pages = rosterPages(fleet, rows, document.size);
+    m_options.paper = {asked.paper.width * scale, asked.paper.height * scale};
+}
+
+void FleetSeries::note(std::size_t ship, const VectorSheet& design) {
+    for (std::int32_t one = 0; one < m_fleet.ships[ship].count; ++one) {
+        std::string name =
+            ownName(m_fleet.ships[ship], static_cast<std::size_t>(one), design.facts.shipName);
+        SheetNote note = noteOf(renamedSheet(design, name), m_options);
+        m_ships[ship].push_back({ship, std::move(name), std::move(note)});
+    }
+}
+
+SheetSeries
+FleetSeries::series(std::function<std::shared_ptr<const VectorSheet>(std::size_t)> design,
+                    std::function<std::string(std::size_t)> shipFile) && {
+    SheetSeries series;
+    auto ships = std::make_shared<std::vector<Ship>>();
+    for (std::vector<Ship>& some : std::exchange(m_ships, {})) {
+        for (Ship& ship : some) {
+            series.notes.push_back(std::move(ship.note));
+            ships->push_back(std::move(ship));
+        }
+    }
+    series.at = [design = std::move(design), ships](std::size_t i) {
+        const Ship& ship = (*ships)[i];
+        return std::make_shared<const VectorSheet>(renamedSheet(*design(ship.design), ship.name));
+    };
+    series.shipFile = [shipFile = std::move(shipFile), ships](std::size_t i) {
+        const Ship& ship = (*ships)[i];
+        return renamedShip(shipFile(ship.design), ship.name);
+    };
+    return series;
+}
+
+SheetSeries FleetSeries::series(const FleetSheets& sheets) && {
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        if (sheets[i]) {
+            note(i, *sheets[i]);
+        }
+    }
+    return std::move(*this).series([sheets](std::size_t ship) { return sheets[ship]; },
+                                   [sheets](std::size_t ship) { return sheets[ship]->shipFile; });
+}
+
+PageDocument fleetDocument(const Fleet& fleet, const FleetRows& rows, SheetSeries sheets,
+                           const SheetOptions& options) {
+    PageDocument document = sheetDocument(std::move(sheets), options);
+    document.morePages = [&fleet, rows, size = document.size,
+                          sheetPages = document.morePages](const PageTaker& take) {
+        eachRosterPage(fleet, rows, size, take);
+        sheetPages(take);
+    };
     const FleetSum sum = fleetSum(fleet, rows);
     document.title = fleet.name.empty() ? "Unnamed Fleet" : fleet.name;
     document.subject =

@@ -18,98 +18,95 @@ constexpr double cutGap = 6;  // between sheets on one page
 // The least side of a paper that a sheet's head has room on, with all that it may say.
 constexpr double leastPaperSide = 100;
 
-/// Pages for sheets, one after the other. Which of them share a page is found out at once, as they
-/// come; the pages are made when they are asked for.
-class SheetPages {
-public:
-    using Take = std::function<void(Page&&)>;
-
-    explicit SheetPages(const SheetOptions& options);
-
-    /// Has another sheet on some page.
-    void add(const VectorSheet& sheet);
-    /// All sheets are there.
-    void finish();
-    void each(const SheetSeries& sheets, const Take& take) const;
-
-private:
-    /// A page that is cut into columns and rows.
-    struct Cut {
-        int columns;
-        int rows;
-
-        std::size_t count() const { return std::size_t(columns) * std::size_t(rows); }
-        SheetCard::Room room() const {
-            return count() == 1 ? SheetCard::Room::Page : SheetCard::Room::Part;
-        }
-    };
-    /// Sheets, by their numbers, that are small enough for pages that are cut in this way.
-    struct Fitting {
-        Cut cut;
-        std::vector<std::size_t> sheets;
-    };
-
-    std::vector<Box> cells(Cut cut) const;
-    void makePage(const SheetSeries& sheets, const Fitting& onIt, const Take& take) const;
-    void addCutMarks(Page& page, Cut cut) const;
-    void makeReading(std::vector<PageBlock> blocks, const Take& take) const;
-
-    SheetOptions m_options;
-    Box m_inside;
-    std::size_t m_count = 0;
-    std::vector<Fitting> m_waiting;  ///< those that have no page yet, for each cut
-    std::vector<Fitting> m_pages;
-};
-
-SheetPages::SheetPages(const SheetOptions& options)
-    : m_options(options), m_inside{paperMargin, paperMargin, options.paper.width - 2 * paperMargin,
-                                   options.paper.height - 2 * paperMargin} {
-    for (const Cut cut : {Cut{1, 1}, Cut{2, 1}, Cut{1, 2}, Cut{2, 2}}) {
-        if (cut.count() <= std::size_t(m_options.perPage)) {
-            m_waiting.push_back({cut, {}});
-        }
-    }
+std::size_t countOf(const PageCut& cut) {
+    return std::size_t(cut.columns) * std::size_t(cut.rows);
 }
 
-std::vector<Box> SheetPages::cells(Cut cut) const {
-    const double width = (m_inside.width - (cut.columns - 1) * cutGap) / cut.columns;
-    const double height = (m_inside.height - (cut.rows - 1) * cutGap) / cut.rows;
+/// What its margins leave of a page.
+Box insideOf(const PageSize& paper) {
+    return {paperMargin, paperMargin, paper.width - 2 * paperMargin,
+            paper.height - 2 * paperMargin};
+}
+
+/// The parts of a page that is cut in this way.
+std::vector<Box> cells(const Box& inside, const PageCut& cut) {
+    const double width = (inside.width - (cut.columns - 1) * cutGap) / cut.columns;
+    const double height = (inside.height - (cut.rows - 1) * cutGap) / cut.rows;
     std::vector<Box> boxes;
     for (int row = 0; row < cut.rows; ++row) {
         for (int column = 0; column < cut.columns; ++column) {
-            boxes.push_back({m_inside.x + column * (width + cutGap),
-                             m_inside.y + row * (height + cutGap), width, height});
+            boxes.push_back({inside.x + column * (width + cutGap),
+                             inside.y + row * (height + cutGap), width, height});
         }
     }
     return boxes;
 }
 
-void SheetPages::add(const VectorSheet& sheet) {
-    for (auto& [cut, fits] : m_waiting) {
-        const Box cell = cells(cut).front();
-        if (cut.count() == 1 || SheetCard(sheet, cell, cut.room(), m_options).isGoodHere()) {
-            fits.push_back(m_count);
+SheetOptions onLargeEnoughPaper(SheetOptions options) {
+    options.paper = {std::max(options.paper.width, leastPaperSide),
+                     std::max(options.paper.height, leastPaperSide)};
+    return options;
+}
+
+/// Pages for sheets, one after the other. Which of them share a page is found out at once; the
+/// pages are made when they are asked for.
+class SheetPages {
+public:
+    using Take = std::function<void(Page&&)>;
+
+    SheetPages(const std::vector<SheetNote>& sheets, const SheetOptions& options);
+
+    void each(const SheetSeries& sheets, const Take& take) const;
+
+private:
+    /// Sheets, by their numbers, that are small enough for pages that are cut in this way.
+    struct Fitting {
+        PageCut cut;
+        std::vector<std::size_t> sheets;
+    };
+
+    static std::vector<Fitting> fittingSheets(const std::vector<SheetNote>& sheets);
+    void makePage(const SheetSeries& sheets, const Fitting& onIt, const Take& take) const;
+    void addCutMarks(Page& page, const PageCut& cut) const;
+    void makeReading(std::vector<PageBlock> blocks, const Take& take) const;
+
+    SheetOptions m_options;
+    Box m_inside;
+    std::vector<Fitting> m_pages;
+};
+
+/// Those for each cut.
+std::vector<SheetPages::Fitting> SheetPages::fittingSheets(const std::vector<SheetNote>& sheets) {
+    std::vector<Fitting> fitting;
+    for (std::size_t cut = 0; cut < pageCuts.size(); ++cut) {
+        fitting.push_back({pageCuts[cut], {}});
+        for (std::size_t i = 0; i < sheets.size(); ++i) {
+            if (sheets[i].fits[cut]) {
+                fitting.back().sheets.push_back(i);
+            }
         }
     }
-    ++m_count;
+    return fitting;
 }
 
 /// The first sheet that has no page shares one with as many of those behind it as it can.
-void SheetPages::finish() {
-    std::vector<std::size_t> next(m_waiting.size());  // of those that fit each cut
-    std::vector<bool> hasPage(m_count);
-    for (std::size_t first = 0; first < m_count && !m_waiting.empty(); ++first) {
+SheetPages::SheetPages(const std::vector<SheetNote>& notes, const SheetOptions& options)
+    : m_options(options), m_inside(insideOf(options.paper)) {
+    const std::vector<Fitting> fitting = fittingSheets(notes);
+    std::vector<std::size_t> next(fitting.size());  // of those that fit each cut
+    std::vector<bool> hasPage(notes.size());
+    for (std::size_t first = 0; first < notes.size(); ++first) {
         if (hasPage[first]) {
             continue;
         }
         Fitting best = {{1, 1}, {first}};
-        for (std::size_t i = 0; i < m_waiting.size(); ++i) {
-            const auto& [cut, fits] = m_waiting[i];
+        for (std::size_t i = 0; i < fitting.size(); ++i) {
+            const auto& [cut, fits] = fitting[i];
             while (next[i] < fits.size() && hasPage[fits[next[i]]]) {
                 ++next[i];
             }
             std::vector<std::size_t> sheets;
-            for (std::size_t at = next[i]; at < fits.size() && sheets.size() < cut.count(); ++at) {
+            for (std::size_t at = next[i]; at < fits.size() && sheets.size() < countOf(cut); ++at) {
                 if (!hasPage[fits[at]]) {
                     sheets.push_back(fits[at]);
                 }
@@ -123,7 +120,6 @@ void SheetPages::finish() {
         }
         m_pages.push_back(std::move(best));
     }
-    m_waiting.clear();
 }
 
 void SheetPages::each(const SheetSeries& sheets, const Take& take) const {
@@ -133,13 +129,14 @@ void SheetPages::each(const SheetSeries& sheets, const Take& take) const {
 }
 
 void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const Take& take) const {
-    const std::vector<Box> boxes = cells(onIt.cut);
+    const std::vector<Box> boxes = cells(m_inside, onIt.cut);
+    const auto room = boxes.size() == 1 ? SheetCard::Room::Page : SheetCard::Room::Part;
     const double width = readingColumns(m_inside).front().width;
     std::vector<PageBlock> left;
     Page page;
     for (std::size_t i = 0; i < onIt.sheets.size(); ++i) {
         const auto sheet = sheets.at(onIt.sheets[i]);
-        const SheetCard card(*sheet, boxes[i], onIt.cut.room(), m_options);
+        const SheetCard card(*sheet, boxes[i], room, m_options);
         std::vector<PageBlock> rest = card.putOn(page);
         if (!rest.empty()) {
             left.push_back(continuedBlock(sheet->facts.shipName, width));
@@ -152,7 +149,7 @@ void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const 
 }
 
 /// Marks where to cut, at the edges and in the middle.
-void SheetPages::addCutMarks(Page& page, Cut cut) const {
+void SheetPages::addCutMarks(Page& page, const PageCut& cut) const {
     constexpr double length = 4, lineWidth = 0.15;
     const auto mark = [&page](double x, double y, double dx, double dy) {
         page.items.emplace_back(PageLine{x - dx, y - dy, x + dx, y + dy, lineWidth, 0});
@@ -210,57 +207,75 @@ std::string subjectOf(const SheetFacts& facts) {
 }
 
 /// All of a document but its pages.
-PageDocument withoutPages(const SheetSeries& sheets, const SheetOptions& options,
-                          SheetPages& pages) {
+PageDocument withoutPages(const SheetSeries& sheets, const SheetOptions& options) {
     PageDocument document;
     document.size = options.paper;
     document.language = "en";
-    document.title = std::to_string(sheets.count) + " sheets";
-    document.subject = "Ship sheets";
-    Designers designers;
-    std::vector<std::string> shipFiles;
-    for (std::size_t i = 0; i < sheets.count; ++i) {
-        const auto sheet = sheets.at(i);
-        pages.add(*sheet);
-        designers.add(sheet->facts.designer);
-        document.date = std::max(document.date, sheet->date);
-        shipFiles.push_back(sheet->shipFile);
-        if (sheets.count == 1) {
-            document.title = sheet->facts.shipName;
-            document.subject = subjectOf(sheet->facts);
-        }
+    if (sheets.notes.size() == 1) {
+        const auto sheet = sheets.at(0);
+        document.title = sheet->facts.shipName;
+        document.subject = subjectOf(sheet->facts);
+    } else {
+        document.title = std::to_string(sheets.notes.size()) + " sheets";
+        document.subject = "Ship sheets";
     }
-    pages.finish();
+    std::size_t shipBytes = 0;
+    for (const SheetNote& note : sheets.notes) {
+        shipBytes += note.shipFileSize;
+    }
+    Designers designers;
+    CarriedShips ships(sheets.notes.size(), shipBytes);
+    for (std::size_t i = 0; i < sheets.notes.size(); ++i) {
+        designers.add(sheets.notes[i].designer);
+        document.date = std::max(document.date, sheets.notes[i].date);
+        ships.add(sheets.shipFile(i));
+    }
     document.author = designers.text;
-    document.metadata = carriedShips(shipFiles);
+    document.metadata = std::move(ships).element();
     return document;
-}
-
-SheetOptions onLargeEnoughPaper(SheetOptions options) {
-    options.paper = {std::max(options.paper.width, leastPaperSide),
-                     std::max(options.paper.height, leastPaperSide)};
-    return options;
 }
 
 }  // namespace
 
-PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked) {
-    const SheetSeries series = {sheets.size(), [&sheets](std::size_t i) {
-                                    return std::shared_ptr<const VectorSheet>(
-                                        std::shared_ptr<void>(), &sheets[i]);
-                                }};
+SheetNote noteOf(const VectorSheet& sheet, const SheetOptions& asked) {
     const SheetOptions options = onLargeEnoughPaper(asked);
-    SheetPages pages(options);
-    PageDocument document = withoutPages(series, options, pages);
-    pages.each(series, [&](Page&& page) { document.pages.push_back(std::move(page)); });
+    const Box inside = insideOf(options.paper);
+    SheetNote note = {.fits = {},
+                      .designer = sheet.facts.designer,
+                      .shipFileSize = sheet.shipFile.size(),
+                      .date = sheet.date};
+    for (std::size_t i = 0; i < pageCuts.size(); ++i) {
+        const PageCut& cut = pageCuts[i];
+        note.fits[i] = countOf(cut) <= std::size_t(options.perPage) &&
+                       SheetCard(sheet, cells(inside, cut).front(), SheetCard::Room::Part, options)
+                           .isGoodHere();
+    }
+    return note;
+}
+
+PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked) {
+    const SheetOptions options = onLargeEnoughPaper(asked);
+    SheetSeries series;
+    for (const VectorSheet& sheet : sheets) {
+        series.notes.push_back(noteOf(sheet, options));
+    }
+    series.at = [&sheets](std::size_t i) {
+        return std::shared_ptr<const VectorSheet>(std::shared_ptr<void>(), &sheets[i]);
+    };
+    series.shipFile = [&sheets](std::size_t i) { return sheets[i].shipFile; };
+    PageDocument document = withoutPages(series, options);
+    SheetPages(series.notes, options).each(series, [&document](Page&& page) {
+        document.pages.push_back(std::move(page));
+    });
     return document;
 }
 
-PageDocument sheetDocument(const SheetSeries& sheets, const SheetOptions& asked) {
+PageDocument sheetDocument(SheetSeries sheets, const SheetOptions& asked) {
     const SheetOptions options = onLargeEnoughPaper(asked);
-    SheetPages pages(options);
-    PageDocument document = withoutPages(sheets, options, pages);
-    document.morePages = [sheets, pages = std::move(pages)](const PageTaker& take) {
+    PageDocument document = withoutPages(sheets, options);
+    const SheetPages pages(sheets.notes, options);
+    sheets.notes = {};
+    document.morePages = [sheets = std::move(sheets), pages](const PageTaker& take) {
         pages.each(sheets, [&take](Page&& page) { take(page); });
     };
     return document;

@@ -10,6 +10,8 @@
 #include "Silhouette.h"
 #include "drawSSD.h"
 
+#include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -85,20 +87,39 @@ struct SheetOptions {
     Silhouette::Outlines* outlines = nullptr;
 };
 
+/// Columns and rows that a page can be cut into, for sheets that share it.
+struct PageCut {
+    int columns;
+    int rows;
+};
+inline constexpr std::array<PageCut, 3> pageCuts = {{{2, 1}, {1, 2}, {2, 2}}};
+
+/// What a document has to know of a sheet before it makes its pages.
+struct SheetNote {
+    std::bitset<pageCuts.size()> fits;  ///< the cuts of which a part is large enough for it
+    std::string designer;
+    std::size_t shipFileSize = 0;  ///< of what it carries, in bytes
+    std::optional<std::int64_t> date;
+};
+
+/// That of a sheet in a document with these options.
+SheetNote noteOf(const VectorSheet& sheet, const SheetOptions& asked);
+
 /// Sheets that are made when they are wanted, for documents of so many that they cannot all be
 /// kept.
 struct SheetSeries {
-    std::size_t count = 0;
+    std::vector<SheetNote> notes;  ///< one for each
     /// Makes one of them, the same whenever it is asked.
     std::function<std::shared_ptr<const VectorSheet>(std::size_t)> at;
+    std::function<std::string(std::size_t)> shipFile;  ///< which it carries
 };
 
 /// The sheets as pages, which are 100 mm wide and high at the least: whoever has smaller paper
 /// shrinks them.
 PageDocument sheetDocument(const std::vector<VectorSheet>& sheets, const SheetOptions& asked);
 
-/// The same of a series, of which the document has a copy: its pages are made when they are asked
-/// for.
-PageDocument sheetDocument(const SheetSeries& sheets, const SheetOptions& asked);
+/// The same of a series, with the options that its notes were made with. Its pages are made when
+/// they are asked for.
+PageDocument sheetDocument(SheetSeries sheets, const SheetOptions& asked);
 
 }  // namespace fleetwright

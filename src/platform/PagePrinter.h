@@ -4,7 +4,7 @@
 
 #include <filesystem>
 #include <functional>
-#include <string>
+#include <string_view>
 
 namespace fleetwright {
 
@@ -30,8 +30,10 @@ public:
     /// Shows the pages as they will be printed, until the user closes them or has them printed in
     /// the same way. Throws Error.
     virtual Printout preview(const Layout& layout) = 0;
-    /// The bytes of a PDF file: the same for the same document, wherever it is made. Throws Error.
-    virtual std::string pdf(const PageDocument& document) = 0;
+    /// Hands out the bytes of a PDF file, piece by piece: the same for the same document, wherever
+    /// it is made. Throws Error.
+    virtual void writePdf(const PageDocument& document,
+                          const std::function<void(std::string_view)>& out) = 0;
 };
 
 }  // namespace fleetwright

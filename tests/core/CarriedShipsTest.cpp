@@ -58,7 +58,9 @@ TEST(CarriedShips, ComeBackWithoutADifference) {
     forSeeds([&](std::mt19937& random) {
         for (std::size_t count = 0; count < 200 && !testing::Test::HasFailure(); ++count) {
             const std::string shipFile = anyShipFile(services, random);
-            const std::string element = carriedShips({shipFile});
+            CarriedShips carried(1, shipFile.size());
+            carried.add(shipFile);
+            const std::string element = std::move(carried).element();
             const std::string sheets[] = {
                 "<svg><metadata>" + element + "</metadata></svg>", withShip(png, shipFile),
                 "%PDF-1.6 <?xpacket begin=\"\"?>" + element + "<?xpacket end=\"w\"?> %%EOF"};

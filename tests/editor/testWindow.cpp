@@ -7,8 +7,8 @@
 #include "fingerprint.h"
 #include "shipAtHand.h"
 
+#include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <thread>
 #include <utility>
 
@@ -145,7 +145,10 @@ public:
         m_test.m_log += "preview " + textOf(layout(paperLetter)) + "; ";
         return printout();
     }
-    std::string pdf(const PageDocument& pages) override { return "PDF " + textOf(pages); }
+    void writePdf(const PageDocument& pages, const FileOut& out) override {
+        out("PDF ");
+        out(textOf(pages));
+    }
     std::string encode(const Raster& picture, const std::string& format) override {
         return std::string(pngSignature) + pngChunk("IHDR", format) +
                pngChunk("IEND", std::to_string(picture.width()));
@@ -281,13 +284,14 @@ void TestWindow::makeFleet() {
         .openShip = [this](const std::string& name) { window().files.openFiles({name}); },
         .sheets = [this]() -> const SheetOutput& { return *m_output; },
         .pages =
-            [](const Fleet& fleet, const FleetRows&, const std::filesystem::path&,
-               const PageSize& paper) {
-                PageDocument pages;
-                pages.title = fleet.name;
-                pages.size = paper;
-                pages.pages.resize(fleet.ships.size());
-                return pages;
+            [](const Fleet& fleet, const FleetRows&, const std::filesystem::path&) {
+                return [fleet](const PageSize& paper) {
+                    PageDocument pages;
+                    pages.title = fleet.name;
+                    pages.size = paper;
+                    pages.pages.resize(fleet.ships.size());
+                    return pages;
+                };
             },
         .playPage = [](const Fleet& fleet,
                        const std::filesystem::path&) { return "To play: " + fleet.name; },
@@ -316,8 +320,10 @@ FleetRow TestWindow::readShip(const std::string& name) const {
 
 std::vector<std::string> partsOf(const std::string& text, const std::string& separator) {
     std::vector<std::string> found;
-    for (const auto part : std::views::split(text, separator)) {
-        found.emplace_back(part.begin(), part.end());
+    for (std::size_t at = 0; !text.empty() && at <= text.size();) {
+        const std::size_t end = std::min(text.find(separator, at), text.size());
+        found.push_back(text.substr(at, end - at));
+        at = end + separator.size();
     }
     return found;
 }

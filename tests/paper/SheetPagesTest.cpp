@@ -69,10 +69,13 @@ TEST(SheetPages, HaveAPlaceForEverything) {
                                       .isPlain = given["plain"] == "yes"};
         const PageDocument document = sheetDocument(sheets, options);
         expectInsideMargins(document);
-        const PageDocument made = sheetDocument(
-            SheetSeries{sheets.size(),
-                        [&](std::size_t i) { return std::make_shared<VectorSheet>(sheets[i]); }},
-            options);
+        SheetSeries series{{},
+                           [&](std::size_t i) { return std::make_shared<VectorSheet>(sheets[i]); },
+                           [&](std::size_t i) { return sheets[i].shipFile; }};
+        for (const VectorSheet& sheet : sheets) {
+            series.notes.push_back(noteOf(sheet, options));
+        }
+        const PageDocument made = sheetDocument(std::move(series), options);
         std::vector<Page> pages;
         made.eachPage([&](const Page& page) { pages.push_back(page); });
         EXPECT_EQ(describedPages(pages), describedPages(document.pages));

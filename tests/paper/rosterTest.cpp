@@ -1,9 +1,9 @@
 // The roster of a fleet: what stands where on its pages.
 
 #include "caseFile.h"
+#include "eachRosterPage.h"
 #include "fleetFile.h"
 #include "paperWorld.h"
-#include "rosterPages.h"
 #include "wholeNumber.h"
 
 #include <gtest/gtest.h>
@@ -59,11 +59,11 @@ TEST(Roster, HasAPlaceForEverything) {
             rows.push_back(rows.back());
         }
         const PageSize paper = given["paper"] == "card" ? PageSize{leastRosterWidth, 160} : paperA4;
-        const std::vector<Page> pages = rosterPages(fleet, rows, paper);
         PageDocument document;
         document.size = paper;
-        document.pages = pages;
+        eachRosterPage(fleet, rows, paper,
+                       [&](const Page& page) { document.pages.push_back(page); });
         expectInsideMargins(document);
-        return describedPages(pages);
+        return describedPages(document.pages);
     });
 }

@@ -45,9 +45,8 @@ constexpr std::u32string_view formsWithLam =
 
 std::u32string joinedForms(char32_t letter) {
     std::u32string forms;
-    const auto [begin, end] =
-        std::ranges::equal_range(letterForms, letter, {}, &LetterForms::letter);
-    for (auto known = begin; known != end; ++known) {
+    const auto* known = std::ranges::lower_bound(letterForms, letter, {}, &LetterForms::letter);
+    for (; known != std::end(letterForms) && known->letter == letter; ++known) {
         for (char32_t form = known->first; form < known->first + known->count; ++form) {
             forms += form;
         }

@@ -51,26 +51,26 @@ std::size_t PdfObjects::reserve() {
     return m_places.size() - 1;
 }
 
-void PdfObjects::write(std::size_t number, std::string_view object) {
+void PdfObjects::write(std::size_t number, std::initializer_list<std::string_view> pieces) {
     m_places.at(number) = m_size;
     out(std::to_string(number) + " 0 obj\n");
-    out(object);
+    for (const std::string_view piece : pieces) {
+        out(piece);
+    }
     out("\nendobj\n");
 }
 
-std::size_t PdfObjects::add(std::string_view object) {
+std::size_t PdfObjects::add(std::initializer_list<std::string_view> pieces) {
     const std::size_t number = reserve();
-    write(number, object);
+    write(number, pieces);
     return number;
 }
 
 std::size_t PdfObjects::addStream(std::string_view bytes, std::string_view entries) {
     const std::string packed = packedBytes(bytes);
-    std::string object = "<< /Length " + std::to_string(packed.size()) + " /Filter /FlateDecode";
-    if (!entries.empty()) {
-        (object += ' ') += entries;
-    }
-    return add(((object += " >>\nstream\n") += packed) += "\nendstream");
+    const std::string length = "<< /Length " + std::to_string(packed.size());
+    return add({length, " /Filter /FlateDecode", entries.empty() ? "" : " ", entries,
+                " >>\nstream\n", packed, "\nendstream"});
 }
 
 void PdfObjects::finish(std::size_t info, std::size_t catalog) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,9 +20,11 @@ public:
     /// The number of an object that is yet to be written, for others to name.
     std::size_t reserve();
     /// Writes an object that has a number: what stands between "obj" and "endobj".
-    void write(std::size_t number, std::string_view object);
+    void write(std::size_t number, std::string_view object) { write(number, {object}); }
     /// Writes an object; its number.
-    std::size_t add(std::string_view object);
+    std::size_t add(std::string_view object) { return add({object}); }
+    /// The same for one in pieces, which may be too large to be put together.
+    std::size_t add(std::initializer_list<std::string_view> pieces);
     /// Writes an object that holds bytes, packed, with these entries in its dictionary; its number.
     std::size_t addStream(std::string_view bytes, std::string_view entries = {});
 
@@ -29,6 +32,7 @@ public:
     void finish(std::size_t info, std::size_t catalog);
 
 private:
+    void write(std::size_t number, std::initializer_list<std::string_view> pieces);
     void out(std::string_view bytes);
 
     PdfOut m_out;

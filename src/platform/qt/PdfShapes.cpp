@@ -95,6 +95,8 @@ bool isSame(const Box& one, const Box& other) {
 }  // namespace
 
 std::string PdfShapes::contentOf(const Page& page) {
+    // What only one page had, such as the code of its design, is nothing that a further one shows.
+    std::erase_if(m_known, [](const auto& known) { return known.second.picture.expired(); });
     m_onPage.clear();
     std::string content;
     for (const PageItem& item : page.items) {

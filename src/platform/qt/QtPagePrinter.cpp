@@ -116,8 +116,9 @@ Printout QtPagePrinter::preview(const Layout& layout) {
     return isToBePrinted ? send(layout) : Printout();
 }
 
-std::string QtPagePrinter::pdf(const PageDocument& document) {
-    return pdfFile(document);
+void QtPagePrinter::writePdf(const PageDocument& document,
+                             const std::function<void(std::string_view)>& out) {
+    fleetwright::writePdf(document, out);
 }
 
 }  // namespace fleetwright

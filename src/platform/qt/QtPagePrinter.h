@@ -18,7 +18,8 @@ public:
 
     Printout print(const Layout& layout) override;
     Printout preview(const Layout& layout) override;
-    std::string pdf(const PageDocument& document) override;
+    void writePdf(const PageDocument& document,
+                  const std::function<void(std::string_view)>& out) override;
 
 private:
     QPrinter& printer();

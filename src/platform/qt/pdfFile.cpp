@@ -68,7 +68,8 @@ std::string inLanguage(const std::string& name, const std::string& text) {
            "</rdf:li></rdf:Alt></" + name + ">\n";
 }
 
-/// All that is said of a document, for readers of metadata, and what it carries.
+/// All that is said of a document, for readers of metadata. What it carries comes behind that, and
+/// then the end of the packet.
 std::string packetOf(const PageDocument& document) {
     std::string packet =
         "<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
@@ -86,9 +87,11 @@ std::string packetOf(const PageDocument& document) {
         packet +=
             "<xmp:CreateDate>" + dateText(*document.date, "-", "T", ":") + "Z</xmp:CreateDate>\n";
     }
-    return packet + document.metadata +
-           "</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n";
+    return packet;
 }
+
+constexpr std::string_view packetEnd =
+    "</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n";
 
 /// Writes the pages of a document; the number of the object that lists them.
 std::size_t writePages(PdfObjects& objects, const PageDocument& document) {
@@ -125,10 +128,11 @@ void writePdf(const PageDocument& document, const PdfOut& out) {
     PdfObjects objects(out);
     const std::size_t pages = writePages(objects, document);
     const std::string packet = packetOf(document);
+    const std::size_t length = packet.size() + document.metadata.size() + packetEnd.size();
     // Not compressed, so that other programs find it without reading the document.
     const std::size_t metadata =
-        objects.add("<< /Type /Metadata /Subtype /XML /Length " + std::to_string(packet.size()) +
-                    " >>\nstream\n" + packet + "\nendstream");
+        objects.add({"<< /Type /Metadata /Subtype /XML /Length " + std::to_string(length),
+                     " >>\nstream\n", packet, document.metadata, packetEnd, "\nendstream"});
     const std::size_t catalog =
         objects.add("<<\n/Type /Catalog\n/Pages " + pdfReference(pages) + "\n/Metadata " +
                     pdfReference(metadata) + "\n/Lang " + pdfText(document.language) +

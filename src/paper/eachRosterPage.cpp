@@ -1,4 +1,4 @@
-#include "rosterPages.h"
+#include "eachRosterPage.h"
 
 #include "PageFlow.h"
 #include "fleetWords.h"
@@ -222,67 +222,116 @@ PageBlock titleBlock(const Fleet& fleet, const FleetSum& sum, double width) {
     return std::move(title.block);
 }
 
-/// The name of the fleet and the number of the page, at the bottom of each page.
-void addPageNumbers(std::vector<Page>& pages, const Fleet& fleet, const Box& inside) {
-    for (std::size_t i = 0; i < pages.size() && pages.size() > 1; ++i) {
-        constexpr double below = 0.25;  // the line, of the font's size: what letters take there
-        const double y = inside.y + inside.height - below * smallSize;
-        const std::string number =
-            "Page " + std::to_string(i + 1) + " of " + std::to_string(pages.size());
-        PageText name = fittedText(fleet.name, {.text = {}, .size = smallSize, .colour = quietInk},
-                                   inside.width - 40, smallSize);
-        name.x = inside.x;
-        name.y = y;
-        pages[i].items.emplace_back(std::move(name));
-        pages[i].items.emplace_back(PageText{.text = number,
-                                             .x = inside.x + inside.width,
-                                             .y = y,
-                                             .size = smallSize,
-                                             .font = PageFont::Regular,
-                                             .anchor = PageText::Anchor::End,
-                                             .colour = quietInk});
+/// The pages of a roster. They are made one by one: there may be thousands of ships.
+class Roster {
+public:
+    Roster(const Fleet& fleet, const FleetRows& rows, const PageSize& paper);
+
+    void each(const PageTaker& take) const;
+
+private:
+    std::size_t blockCount() const { return m_rows.size() + (m_limits.empty() ? 0 : 1); }
+    PageBlock block(std::size_t i) const;
+    std::vector<std::size_t> pageEnds() const;
+    Box roomOn(std::size_t page) const;
+    void addFoot(Page& page, std::size_t number, std::size_t pages) const;
+
+    const Fleet& m_fleet;
+    const FleetRows& m_rows;
+    Box m_inside;
+    FleetSum m_sum;
+    std::vector<LimitWords> m_limits;
+    PageBlock m_title, m_head;
+};
+
+Roster::Roster(const Fleet& fleet, const FleetRows& rows, const PageSize& paper)
+    : m_fleet(fleet),
+      m_rows(rows), m_inside{paperMargin, paperMargin, paper.width - 2 * paperMargin,
+                             paper.height - 2 * paperMargin},
+      m_sum(fleetSum(fleet, rows)), m_limits(limitWords(fleet, m_sum)),
+      m_title(titleBlock(fleet, m_sum, m_inside.width)), m_head(headBlock(m_inside.width)) {}
+
+/// A ship, or the limits behind all of them.
+PageBlock Roster::block(std::size_t i) const {
+    return i < m_rows.size() ? shipBlock(m_fleet.ships[i], *m_rows[i], m_inside.width)
+                             : limitsBlock(m_limits, m_inside.width);
+}
+
+/// What the title, which is on the first page, and the head leave of a page.
+Box Roster::roomOn(std::size_t page) const {
+    constexpr double footHeight = 5;
+    const double above = m_head.height + (page == 0 ? m_title.height : 0);
+    return {m_inside.x, m_inside.y + above, m_inside.width, m_inside.height - above - footHeight};
+}
+
+/// For each page the first block that is behind it.
+std::vector<std::size_t> Roster::pageEnds() const {
+    std::vector<std::size_t> ends;
+    double y = 0;
+    for (std::size_t i = 0; i < blockCount();) {
+        const double height = block(i).height;
+        const bool isFirst = i == (ends.empty() ? 0 : ends.back());
+        // What is higher than a page goes onto one of its own, but not onto that of the title.
+        if (y + height <= roomOn(ends.size()).height + lengthTolerance ||
+            (isFirst && !ends.empty())) {
+            y += height;
+            ++i;
+        } else {
+            ends.push_back(i);
+            y = 0;
+        }
     }
+    ends.push_back(blockCount());
+    return ends;
+}
+
+void Roster::each(const PageTaker& take) const {
+    const std::vector<std::size_t> ends = pageEnds();
+    std::size_t next = 0;
+    for (std::size_t number = 0; number < ends.size(); ++number) {
+        Page page;
+        const Box room = roomOn(number);
+        if (number == 0) {
+            putBlock(page, m_title, m_inside.x, m_inside.y);
+        }
+        putBlock(page, m_head, m_inside.x, room.y - m_head.height);
+        for (double y = room.y; next < ends[number]; ++next) {
+            PageBlock row = block(next);
+            const double height = row.height;
+            putBlock(page, std::move(row), room.x, y);
+            y += height;
+        }
+        if (ends.size() > 1) {
+            addFoot(page, number + 1, ends.size());
+        }
+        take(page);
+    }
+}
+
+/// The name of the fleet and the number of the page, at its bottom.
+void Roster::addFoot(Page& page, std::size_t number, std::size_t pages) const {
+    constexpr double below = 0.25;  // the line, of the font's size: what letters take there
+    const double y = m_inside.y + m_inside.height - below * smallSize;
+    PageText name = fittedText(m_fleet.name, {.text = {}, .size = smallSize, .colour = quietInk},
+                               m_inside.width - 40, smallSize);
+    name.x = m_inside.x;
+    name.y = y;
+    page.items.emplace_back(std::move(name));
+    page.items.emplace_back(
+        PageText{.text = "Page " + std::to_string(number) + " of " + std::to_string(pages),
+                 .x = m_inside.x + m_inside.width,
+                 .y = y,
+                 .size = smallSize,
+                 .font = PageFont::Regular,
+                 .anchor = PageText::Anchor::End,
+                 .colour = quietInk});
 }
 
 }  // namespace
 
-std::vector<Page> rosterPages(const Fleet& fleet, const FleetRows& rows, const PageSize& paper) {
-    constexpr double footHeight = 5;
-    const Box inside = {paperMargin, paperMargin, paper.width - 2 * paperMargin,
-                        paper.height - 2 * paperMargin};
-    const FleetSum sum = fleetSum(fleet, rows);
-    const PageBlock title = titleBlock(fleet, sum, inside.width), head = headBlock(inside.width);
-    std::vector<PageBlock> blocks;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        blocks.push_back(shipBlock(fleet.ships[i], *rows[i], inside.width));
-    }
-    if (const std::vector<LimitWords> limits = limitWords(fleet, sum); !limits.empty()) {
-        blocks.push_back(limitsBlock(limits, inside.width));
-    }
-    PageFlow flow(std::move(blocks));
-    std::vector<Page> pages;
-    do {
-        Page& page = pages.emplace_back();
-        Box room = inside;
-        room.height -= footHeight;
-        const auto put = [&](const PageBlock& block) {
-            putBlock(page, block, room.x, room.y);
-            room.y += block.height;
-            room.height -= block.height;
-        };
-        if (pages.size() == 1) {
-            put(title);
-        }
-        put(head);
-        const std::size_t before = page.items.size();
-        flow.fill({room}, page);
-        // What is higher than a page goes onto one of its own.
-        if (page.items.size() == before && pages.size() > 1 && !flow.isDone()) {
-            flow.force(room, page);
-        }
-    } while (!flow.isDone());
-    addPageNumbers(pages, fleet, inside);
-    return pages;
+void eachRosterPage(const Fleet& fleet, const FleetRows& rows, const PageSize& paper,
+                    const PageTaker& take) {
+    Roster(fleet, rows, paper).each(take);
 }
 
 }  // namespace fleetwright

@@ -1,0 +1,53 @@
+#include "PrintedFleet.h"
+
+#include "SheetSupplies.h"
+#include "documentDate.h"
+#include "pageOptions.h"
+#include "paths.h"
+#include "saveResult.h"
+
+#include <utility>
+
+namespace fleetwright {
+
+namespace {
+
+SheetOptions pagesOf(const Options& options, Silhouette::Outlines& outlines) {
+    constexpr int mostPerPage = 4;
+    SheetOptions pages = sheetOptionsOf(options);
+    pages.perPage = options.has(perPageOption.name) ? pages.perPage : mostPerPage;
+    pages.outlines = &outlines;
+    return pages;
+}
+
+}  // namespace
+
+PrintedFleet::PrintedFleet(const Options& options, const Fleet& fleet, const FleetFiles& files,
+                           SheetSupplies& supplies, const CatalogueFile& catalogue)
+    : m_options(options), m_fleet(fleet), m_files(files), m_supplies(supplies),
+      m_shipsOf(files.paths.size()), m_sheets(files.paths.size(), supplies.tools, catalogue),
+      m_series(fleet, pagesOf(options, m_outlines)) {
+    for (std::size_t ship = 0; ship < files.ofShip.size(); ++ship) {
+        m_shipsOf[files.ofShip[ship]].push_back(ship);
+    }
+}
+
+void PrintedFleet::draw(std::size_t file, const ShipOnScreen& screen) {
+    const VectorSheet sheet = m_sheets.draw(file, screen);
+    for (const std::size_t ship : m_shipsOf[file]) {
+        m_series.note(ship, sheet);
+    }
+}
+
+void PrintedFleet::save(const std::filesystem::path& file, const FleetRows& rows) && {
+    const SheetOptions pages = m_series.options();
+    SheetSeries sheets = std::move(m_series).series(
+        [this](std::size_t ship) { return m_sheets.at(m_files.ofShip[ship]); },
+        [this](std::size_t ship) { return m_sheets.shipFile(m_files.ofShip[ship]); });
+    PageDocument document = fleetDocument(m_fleet, rows, std::move(sheets), pages);
+    document.date = documentDate(nativePath(m_options.words.front()));
+    saveResult(file, FileContents(
+                         [&](const FileOut& out) { m_supplies.pictures.writePdf(document, out); }));
+}
+
+}  // namespace fleetwright
