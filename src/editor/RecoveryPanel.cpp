@@ -55,7 +55,7 @@ void RecoveryPanel::tmrRecovery_Timer() {
         services().recovery->put(aside);
         m_aside = std::move(aside);
     } catch (const FileError& error) {
-        window().say(std::string("The design cannot be put aside: ") + error.what());
+        window().say("The design cannot be put aside: " + complaint(error));
     }
 }
 
@@ -78,10 +78,9 @@ bool RecoveryPanel::giveUpDesign() {
         services().recovery->keep(design());
         return true;
     } catch (const FileError& error) {
-        return services().desktop.showMessage(
-                   std::string("The design is not saved and cannot be put aside: ") + error.what() +
-                       "\nLose it?",
-                   "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
+        return services().desktop.showMessage("The design is not saved and cannot be put aside: " +
+                                                  complaint(error) + "\nLose it?",
+                                              "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
     }
 }
 

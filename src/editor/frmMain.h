@@ -48,6 +48,8 @@ public:
     std::unique_ptr<ShipClass> g_Ship;      ///< the current ship; a load replaces the object
     Signal<> Rested;                        ///< whatever was done to the design is done
 
+    /// Whether no act and no work is under way, such as a load that lets acts in.
+    bool isAtRest() const { return m_acts.isIdle(); }
     /// Shows the list of recent files in the menu.
     void fillMRU() { files.fillMRU(); }
 

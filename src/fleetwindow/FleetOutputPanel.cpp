@@ -36,7 +36,18 @@ void FleetOutputPanel::show() {
     }
 }
 
+bool FleetOutputPanel::canDraw() {
+    const bool canDraw = services().canReadShips();
+    if (!canDraw) {
+        window().say("The main window is still at work with its ship");
+    }
+    return canDraw;
+}
+
 void FleetOutputPanel::send(void (SheetOutput::*way)(const SheetOutput::Source&) const) {
+    if (!canDraw()) {
+        return;
+    }
     bool isSaid = false;
     const SheetOutput sheets = services().sheets().saying([&](const std::string& done) {
         sayDone(done);
@@ -54,6 +65,9 @@ void FleetOutputPanel::sayDone(const std::string& done) {
 }
 
 void FleetOutputPanel::mnuPlayFleet_Click() {
+    if (!canDraw()) {
+        return;
+    }
     constexpr const char* ending = ".html";
     const std::optional<std::string> chosen = services().desktop.chooseFileToSave(
         {.filter = "All Files (*.*)|*.*|Pages for a Browser (*.html)|*.html",

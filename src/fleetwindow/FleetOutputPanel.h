@@ -56,6 +56,8 @@ public:
 private:
     void send(void (SheetOutput::*way)(const SheetOutput::Source&) const);
     void mnuPlayFleet_Click();
+    /// Whether the sheets can be drawn now; says so if not.
+    bool canDraw();
     /// Puts what was done on the status line, with the ships that could not take part.
     void sayDone(const std::string& done);
 };

@@ -27,6 +27,9 @@ struct FleetServices {
     Clock& clock;
     const bool& confirmsExit;  ///< whether a window asks before it closes with unsaved work
     RecoveryFolder* recovery;  ///< where fleets are put aside; null if they are not
+    /// Whether ships can be read: not while the main window is in the midst of a load, since what
+    /// reads their lines keeps some of it for the next one.
+    std::function<bool()> canReadShips;
     /// What is now in a ship file, a sheet or a code.
     std::function<FleetRow(const std::string& ship)> readShip;
     std::function<std::string()> catalogue;  ///< the fingerprint of the one that holds now

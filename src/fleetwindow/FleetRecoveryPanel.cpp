@@ -46,10 +46,9 @@ bool FleetRecoveryPanel::giveUpFleet(bool asks) {
         services().recovery->keep(aside());
         return true;
     } catch (const FileError& error) {
-        return services().desktop.showMessage(
-                   std::string("The fleet is not saved and cannot be put aside: ") + error.what() +
-                       "\nLose it?",
-                   "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
+        return services().desktop.showMessage("The fleet is not saved and cannot be put aside: " +
+                                                  complaint(error) + "\nLose it?",
+                                              "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
     }
 }
 
@@ -71,7 +70,7 @@ void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
         services().recovery->put(now);
         m_aside = std::move(now);
     } catch (const FileError& error) {
-        window().say(std::string("The fleet cannot be put aside: ") + error.what());
+        window().say("The fleet cannot be put aside: " + complaint(error));
     }
 }
 

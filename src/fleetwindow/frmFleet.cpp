@@ -103,7 +103,7 @@ void frmFleet::refresh() {
         return;
     }
     m_rows = m_look.rowsOf(m_document.fleet());
-    if (m_look.unread() > 0) {
+    if (m_look.unread() > 0 && m_services.canReadShips()) {
         constexpr std::uint32_t shortTime = 50;  // milliseconds
         const auto now = [this] {
             return static_cast<std::uint32_t>(m_services.clock.tickCount());

@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "ShipOnScreen.h"
 #include "fingerprint.h"
+#include "fleetFile.h"
 #include "readShip.h"
 
 namespace fleetwright {
@@ -13,7 +14,12 @@ FleetRow fleetRow(ShipOnScreen& screen, const std::string& ship) {
         return row;  // whoever has read the fleet has said so
     }
     try {
-        row.fingerprint = fingerprint(readShip(ship).text);
+        const std::string text = readShip(ship).text;
+        if (isFleet(text)) {  // any text makes a ship, if only one of mass 2
+            row.faults.push_back({0, "is a fleet, and no ship"});
+            return row;
+        }
+        row.fingerprint = fingerprint(text);
     } catch (const Error&) {
         // The load fails likewise, and says why.
     }

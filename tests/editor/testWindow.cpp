@@ -268,6 +268,7 @@ void TestWindow::makeFleet() {
         .clock = clock,
         .confirmsExit = globals.g_bConfirmExit,
         .recovery = &m_recovery,
+        .canReadShips = [this] { return window().isAtRest(); },
         .readShip =
             [this](const std::string& name) {
                 try {
