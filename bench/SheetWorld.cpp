@@ -70,7 +70,7 @@ void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
         PictureFiles& pictures =
             kind == SheetKind::Pixels ? static_cast<PictureFiles&>(files) : drawn;
         Silhouette::Outlines outlines;
-        KeptSvgFonts fonts;
+        KeptSvgParts parts;
         const auto catalogue = CatalogueFile::readOnce(startedFolder() / "weaps.dat");
         const SheetTools tools{startedFolder(),
                                picturesReadOnce(startedFolder(), pictures),
@@ -78,7 +78,7 @@ void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
                                files,
                                drawings,
                                world.maps};
-        const SheetRun run{tools, files, outlines, fonts};
+        const SheetRun run{tools, files, outlines, parts};
         std::size_t bytes = 0;
         inOrder(
             sheetCount, threads,

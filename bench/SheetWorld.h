@@ -2,13 +2,13 @@
 
 // What the benchmarks of sheets are about: the sheets of 200 ships.
 
+#include "KeptSvgParts.h"
 #include "QtPictureFiles.h"
 #include "Raster.h"
 #include "SSDMaps.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
 #include "drawnSheet.h"
-#include "svgFonts.h"
 
 #include <benchmark/benchmark.h>
 
@@ -58,7 +58,7 @@ struct SheetRun {
     const SheetTools& tools;
     ToolPictures& files;
     Silhouette::Outlines& outlines;
-    KeptSvgFonts& fonts;
+    KeptSvgParts& parts;
 };
 enum class SheetKind { Pixels, Lines };
 

@@ -26,7 +26,7 @@ void vectorSheets(benchmark::State& state, unsigned threads, const std::string& 
     makeSheets(state, threads, SheetKind::Lines,
                [&format](const ShipOnScreen& screen, const SheetRun& run) {
                    const PageDocument document = documentOf(screen, run);
-                   return format == "svg" ? svgFile(document, run.files, &run.fonts)
+                   return format == "svg" ? svgFile(document, run.files, &run.parts)
                                           : run.files.pdf(document);
                });
 }

@@ -18,7 +18,7 @@ constexpr std::string_view ending = ".tmp";
 
 std::string newName() {
     constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
-    std::random_device random;
+    static thread_local std::random_device random;  // it takes long to find its source
     std::uniform_int_distribution<std::size_t> pick(0, letters.size() - 1);
     std::string name(beginning);
     for (int i = 0; i < 10; ++i) {

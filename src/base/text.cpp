@@ -106,11 +106,11 @@ std::string changeCase(std::string_view text, char firstOfAscii, std::string_vie
 
 std::string replaced(std::string_view text, bool areLines) {
     // As most texts are. All of it is looked at, which is faster than an end at the first other.
-    unsigned others = 0;
+    bool areAll = true;
     for (const char c : text) {
-        others |= c >= ' ' && c <= '~' ? 0U : 1U;
+        areAll &= c >= ' ' && c <= '~';
     }
-    if (others == 0) {
+    if (areAll) {
         return std::string(text);
     }
     std::string shown;

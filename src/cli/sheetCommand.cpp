@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include "Error.h"
+#include "KeptSvgParts.h"
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
@@ -14,7 +15,6 @@
 #include "saveResult.h"
 #include "sheetDocument.h"
 #include "svgFile.h"
-#include "svgFonts.h"
 #include "text.h"
 
 #include <algorithm>
@@ -151,12 +151,12 @@ VectorSheet sheetFor(const Options& options, ShipOnScreen& screen, const SheetTo
 int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pictures) {
     const SheetFiles files(options);
     Silhouette::Outlines outlines;
-    KeptSvgFonts fonts;
+    KeptSvgParts parts;
     const SheetOptions pages = sheetOptionsOf(options, outlines);
     const auto bytesOf = [&](ShipOnScreen& screen, const std::string& format) {
         if (format == "svg" || format == "pdf") {
             const PageDocument document = sheetDocument({sheetFor(options, screen, tools)}, pages);
-            return format == "svg" ? svgFile(document, tools.encoder, &fonts)
+            return format == "svg" ? svgFile(document, tools.encoder, &parts)
                                    : pictures.pdf(document);
         }
         const Raster sheet = drawnSheet(screen, tools, options.value("--map"));

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 #include <string>
+#include <vector>
 
 namespace fleetwright {
 
@@ -77,8 +78,8 @@ double sectorReach(std::int64_t value, std::int64_t full) {
 }
 
 Drawing fireRose(const FirePower& power, RoseOf measure, std::int64_t full, std::uint32_t fill) {
-    Drawing drawing{
-        .width = side, .height = side, .ink = {0, 0, side, side}, .shapes = {groundOf(), bow()}};
+    static const std::vector<DrawnShape> common = {groundOf(), bow()};
+    Drawing drawing{.width = side, .height = side, .ink = {0, 0, side, side}, .shapes = common};
     for (std::size_t direction = 0; direction < power.sectors.size(); ++direction) {
         const std::int64_t value = measureOf(power.sectors[direction], measure);
         if (value > 0) {

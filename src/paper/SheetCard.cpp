@@ -197,6 +197,7 @@ SheetCard::Sides SheetCard::roomBeside(const Silhouette& silhouette, double scal
     const double left = (m_body.width - m_ink.width * scale) / 2;
     const double top = (m_body.height - m_ink.height * scale) / 2;
     Sides sides;
+    sides.reserve(static_cast<std::size_t>(std::max(m_body.height, 0.0)));
     for (int y = 0; y + 1 <= m_body.height; ++y) {
         const Silhouette::Extent extent =
             silhouette.between((y - columnGap - top) / scale, (y + 1 + columnGap - top) / scale);
@@ -212,19 +213,17 @@ SheetCard::Columns SheetCard::columnsInCorners(const Sides& sides, double column
     if (m_body.width < 2 * columnWidth + columnGap) {
         return columns;
     }
+    const double needed = columnWidth + columnGap;
     for (const std::size_t side : {std::size_t{0}, std::size_t{1}}) {
         const double x = m_body.x + (side == 0 ? 0 : m_body.width - columnWidth);
-        int start = 0;
-        for (int y = 0; y <= std::ssize(sides); ++y) {
-            if (y < std::ssize(sides) &&
-                sides[static_cast<std::size_t>(y)][side] >= columnWidth + columnGap) {
-                continue;
+        const auto isNarrow = [&](const auto& room) { return room[side] < needed; };
+        for (auto start = sides.begin(); start != sides.end();) {
+            const auto end = std::find_if(start, sides.end(), isNarrow);
+            if (end - start >= leastHeight) {
+                columns.inCorners.push_back({x, m_body.y + double(start - sides.begin()),
+                                             columnWidth, double(end - start)});
             }
-            if (y - start >= leastHeight) {
-                columns.inCorners.push_back(
-                    {x, m_body.y + start, columnWidth, double(y) - double(start)});
-            }
-            start = y + 1;
+            start = std::find_if_not(end, sides.end(), isNarrow);
         }
     }
     std::ranges::stable_sort(columns.inCorners, {}, &Box::y);
@@ -241,23 +240,27 @@ std::vector<PageBlock> SheetCard::textOfDrawing(double width, double size) const
     return blocks;
 }
 
-std::vector<PageBlock> SheetCard::textToRead(double width, double factor) const {
+PageFlow SheetCard::textToRead(double width, double factor, BlockParts parts) const {
     const double size = textLineSize * std::min(factor, 1.0);
     std::vector<PageBlock> blocks;
     if (m_linesInHead.empty()) {
         blocks = textOfDrawing(width, size);
     }
     appendPart(blocks, listBlocks(m_text, width, size, m_isPlain ? "" : "ALSO ABOARD"));
-    appendPart(blocks, m_legend.blocks(width, factor));
-    return blocks;
+    appendPart(blocks, m_legend.blocks(width, factor, parts));
+    return PageFlow(std::move(blocks));
 }
 
 /// Wide columns are better to read, more narrow ones fit.
 std::vector<SheetCard::Reading> SheetCard::readings(double factor) const {
     const double usual = readingColumns(m_body).front().width;
-    std::vector<Reading> readings = {{usual, PageFlow(textToRead(usual, factor))}};
+    std::vector<Reading> readings;
+    const auto add = [&](double width) {
+        readings.push_back({width, factor, textToRead(width, factor, BlockParts::Heights)});
+    };
+    add(usual);
     if (narrowColumn < usual) {
-        readings.push_back({narrowColumn, PageFlow(textToRead(narrowColumn, factor))});
+        add(narrowColumn);
     }
     return readings;
 }
@@ -302,9 +305,10 @@ std::optional<SheetCard::Fitting> SheetCard::fittingReadings(const Silhouette& s
 /// is left over lets the font be larger.
 SheetCard::Layout SheetCard::bestLayout(const Silhouette& silhouette) const {
     constexpr double comfortable = 1.2;  // where there is room
-    const auto layout = [](Places&& places, std::vector<Reading>& readings) {
+    const auto layout = [this](Places&& places, const std::vector<Reading>& readings) {
+        const Reading& reading = readings[places.reading];
         return Layout{places.scale, std::move(places.columns),
-                      std::move(readings[places.reading].flow)};
+                      textToRead(reading.width, reading.factor, BlockParts::All)};
     };
     if (std::optional<Fitting> fitting = fittingReadings(silhouette)) {
         auto& [text, best] = *fitting;
@@ -318,7 +322,7 @@ SheetCard::Layout SheetCard::bestLayout(const Silhouette& silhouette) const {
             }
             tried = (best.scale + tooLarge) / 2;
         }
-        std::vector<Reading> larger = readings(comfortable);
+        const std::vector<Reading> larger = readings(comfortable);
         if (std::optional<Places> places = placesAt(best.scale, larger, silhouette)) {
             return layout(*std::move(places), larger);
         }
@@ -326,7 +330,8 @@ SheetCard::Layout SheetCard::bestLayout(const Silhouette& silhouette) const {
     }
     const double width = readingColumns(m_body).front().width;
     Columns columns = columnsAround(m_roomyScale, width);
-    PageFlow flow(textToRead(width, columns.inOrder().empty() ? comfortable : 1));
+    const double factor = columns.inOrder().empty() ? comfortable : 1;
+    PageFlow flow = textToRead(width, factor, BlockParts::All);
     return {m_roomyScale, std::move(columns), std::move(flow)};
 }
 
@@ -348,9 +353,9 @@ void SheetCard::addExtras(Page& text, const Silhouette& silhouette, const Box& d
     Page extras;
     FreeRoom besideRose = room;
     putFireRose(extras, m_sheet.facts.fire, besideRose);
-    if (Page code; !putDesignQr(extras, m_sheet.shipFile, besideRose) &&
-                   putDesignQr(code, m_sheet.shipFile, room)) {
-        extras = std::move(code);
+    const auto code = shipQr(m_sheet.shipFile);
+    if (Page alone; code && !putShipQr(extras, code, besideRose) && putShipQr(alone, code, room)) {
+        extras = std::move(alone);
     }
     std::ranges::move(extras.items, std::back_inserter(text.items));
 }

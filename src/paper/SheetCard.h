@@ -45,9 +45,10 @@ private:
 
     using Sides = std::vector<std::array<double, 2>>;
 
-    /// All there is to read, for columns of one width.
+    /// The heights of all there is to read, for columns of one width.
     struct Reading {
         double width;
+        double factor;  ///< by which letters are larger or smaller than usual
         PageFlow flow;
     };
     /// A drawing of this size, and columns for one of several readings.
@@ -73,7 +74,7 @@ private:
     Sides roomBeside(const Silhouette& silhouette, double scale) const;
     Columns columnsInCorners(const Sides& sides, double columnWidth) const;
     std::vector<PageBlock> textOfDrawing(double width, double size) const;
-    std::vector<PageBlock> textToRead(double width, double factor) const;
+    PageFlow textToRead(double width, double factor, BlockParts parts) const;
     std::vector<Reading> readings(double factor) const;
     std::optional<Places> placesAt(double scale, const std::vector<Reading>& readings,
                                    const Silhouette& silhouette) const;

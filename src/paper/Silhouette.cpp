@@ -188,7 +188,8 @@ const std::vector<Silhouette::Extent>& Silhouette::unions(std::size_t level) con
         const std::size_t half = std::size_t{1} << m_unions.size();
         std::vector<Extent> united = halves;
         for (std::size_t row = 0; row + half < united.size(); ++row) {
-            unite(united[row], halves[row + half].left, halves[row + half].right);
+            const Extent &upper = halves[row], &lower = halves[row + half];
+            united[row] = {std::min(upper.left, lower.left), std::max(upper.right, lower.right)};
         }
         m_unions.push_back(std::move(united));
     }
@@ -196,17 +197,17 @@ const std::vector<Silhouette::Extent>& Silhouette::unions(std::size_t level) con
 }
 
 Silhouette::Extent Silhouette::between(double top, double bottom) const {
-    const double first = std::max(std::floor(top), 0.0);
-    const double last = std::floor(std::min(bottom, double(m_rows.size()) - 1));
-    if (!(first <= last)) {
+    const double rows = static_cast<int>(m_rows.size());
+    if (!(bottom >= 0 && top < rows && top <= bottom)) {
         return nothing;
     }
-    const auto count = static_cast<std::size_t>(last - first) + 1;
-    const std::vector<Extent>& united = unions(static_cast<std::size_t>(std::bit_width(count)) - 1);
-    Extent extent = united[static_cast<std::size_t>(first)];
-    const Extent& other = united[static_cast<std::size_t>(last) + 1 - std::bit_floor(count)];
-    unite(extent, other.left, other.right);
-    return extent;
+    const int first = static_cast<int>(std::max(top, 0.0));
+    const int end = static_cast<int>(std::min(bottom, rows - 1)) + 1;
+    const auto count = static_cast<unsigned>(end - first);
+    const auto level = static_cast<std::size_t>(std::bit_width(count)) - 1;
+    const Extent* const united = unions(level).data();
+    const Extent &upper = united[first], &lower = united[end - static_cast<int>(1U << level)];
+    return {std::min(upper.left, lower.left), std::max(upper.right, lower.right)};
 }
 
 }  // namespace fleetwright

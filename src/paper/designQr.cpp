@@ -12,6 +12,9 @@
 #include <string>
 #include <utility>
 
+/// A function of the library, since its version 3.2, that its header does not show.
+extern "C" QRcode* QRcode_encodeMask(QRinput* input, int mask);
+
 namespace fleetwright {
 
 namespace {
@@ -20,6 +23,9 @@ constexpr int quietZone = 4;  // modules, as the standard asks for
 constexpr int largestVersion = 12;
 constexpr int largestSide = 17 + 4 * largestVersion + 2 * quietZone;
 static_assert(largestSide < 100, "coordinates have two digits");
+// One of the eight patterns that a symbol may be mixed with, so that it has no large areas. Codes
+// are packed, and so as mixed as any. To try all eight would take longer than the rest of a sheet.
+constexpr int maskPattern = 3;
 
 using Symbol = std::unique_ptr<QRcode, decltype(&QRcode_free)>;
 
@@ -32,7 +38,7 @@ Symbol symbolOf(std::string_view code) {
                                  reinterpret_cast<const unsigned char*>(code.data())) != 0) {
         return {nullptr, &QRcode_free};
     }
-    Symbol symbol(QRcode_encodeInput(input.get()), &QRcode_free);
+    Symbol symbol(QRcode_encodeMask(input.get(), maskPattern), &QRcode_free);
     if (symbol && symbol->version > largestVersion) {
         symbol.reset();
     }
@@ -62,7 +68,7 @@ void addBox(std::string& path, int left, int top, int right, int bottom) {
     step('L', right, bottom);
     step('L', left, bottom);
     *at++ = 'Z';
-    path.append(text.data(), at);
+    path.append(text.data(), static_cast<std::size_t>(at - text.data()));
 }
 
 /// Its dark modules, a box for each run in a row.
@@ -103,19 +109,18 @@ std::shared_ptr<const Drawing> designQr(std::string_view code) {
                 .shapes = {{.path = modulesOf(*symbol), .fill = 0x000000, .stroke = {}}}});
 }
 
-bool putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room) {
+std::shared_ptr<const Drawing> shipQr(std::string_view shipFile) {
     constexpr std::size_t longestShip =
         4096;  // longer ones hardly have a code that is short enough
-    const auto drawing = shipFile.empty() || shipFile.size() > longestShip
-                             ? nullptr
-                             : designQr(designCode(shipFile));
-    if (!drawing) {
-        return false;
-    }
-    const double side = drawing->width * qrModule;
+    return shipFile.empty() || shipFile.size() > longestShip ? nullptr
+                                                             : designQr(designCode(shipFile));
+}
+
+bool putShipQr(Page& page, const std::shared_ptr<const Drawing>& code, const FreeRoom& room) {
+    const double side = code->width * qrModule;
     const std::optional<Box> free = room.find(side, side + captionRoom);
     if (free) {
-        putCaptioned(page, drawing, {free->x, free->y, side, side}, "DESIGN CODE");
+        putCaptioned(page, code, {free->x, free->y, side, side}, "DESIGN CODE");
     }
     return free.has_value();
 }

@@ -17,8 +17,10 @@ inline constexpr double qrModule = 0.5;
 /// that readers need. Null if it is too long for one that people care to scan.
 std::shared_ptr<const Drawing> designQr(std::string_view code);
 
-/// Puts the code of a ship file on a page, with a word about it, where there is room; whether there
-/// was. A ship whose code is too long gets none.
-bool putDesignQr(Page& page, std::string_view shipFile, const FreeRoom& room);
+/// The same of the code of a ship file; null for no file, too.
+std::shared_ptr<const Drawing> shipQr(std::string_view shipFile);
+
+/// Puts it on a page, with a word about it, where there is room; whether there was.
+bool putShipQr(Page& page, const std::shared_ptr<const Drawing>& code, const FreeRoom& room);
 
 }  // namespace fleetwright

@@ -77,47 +77,64 @@ MeasuredText::MeasuredText(std::string_view text, PageFont font)
     }
 }
 
-std::vector<std::string> MeasuredText::lines(double size, double width, std::size_t most) const {
-    std::vector<std::string> lines(1);
+/// Hands over what stands in each line, piece by piece, up to the one behind the last that is
+/// allowed. Returns how many lines those are.
+template <typename Take>
+std::size_t MeasuredText::breakLines(double size, double width, std::size_t most, Take take) const {
     if (m_width * size <= width) {
-        lines.front() = m_text;
-        return lines;
+        take(std::size_t{0}, std::string_view(m_text));
+        return 1;
     }
     const PageText style = {.text = {}, .size = size, .font = m_font};
-    double used = 0;
     const double blank = m_blank * size;
+    std::size_t line = 0;
+    bool isEmpty = true;
+    double used = 0;
     for (const Word& measured : m_words) {
-        if (lines.size() > most) {
+        if (line >= most) {
             break;
         }
         std::string_view word = std::string_view(m_text).substr(measured.start, measured.length);
         double wordWidth = measured.width * size;
-        if (!lines.back().empty() && used + blank + wordWidth <= width) {
-            lines.back() += ' ';
+        if (!isEmpty && used + blank + wordWidth <= width) {
+            take(line, std::string_view(" "));
             used += blank;
-        } else if (!lines.back().empty()) {
-            lines.emplace_back();
+        } else if (!isEmpty) {
+            ++line;
             used = 0;
         }
-        while (wordWidth > width && lines.size() <= most) {
-            const std::size_t bytes = fittingBytes(word, style, width);
-            lines.back() = word.substr(0, bytes);
+        while (wordWidth > width && line < most) {
+            const std::string_view part = word.substr(0, fittingBytes(word, style, width));
+            take(line++, part);
             // Not measured anew, since a stranger's word can have any length.
-            wordWidth -= widthIn(style, lines.back());
-            lines.emplace_back();
-            word.remove_prefix(bytes);
+            wordWidth -= widthIn(style, part);
+            word.remove_prefix(part.size());
         }
-        lines.back() += word;
+        take(line, word);
+        isEmpty = word.empty();
         used += wordWidth;
     }
-    if (lines.size() > 1 && lines.back().empty()) {
-        lines.pop_back();
-    }
-    if (lines.size() > most) {
-        lines.resize(most);
-        lines.back() = cutText(lines.back(), style, width);
+    return line + (isEmpty && line > 0 ? 0 : 1);
+}
+
+std::vector<std::string> MeasuredText::lines(double size, double width, std::size_t most) const {
+    std::vector<std::string> lines(1);
+    const std::size_t count =
+        breakLines(size, width, most, [&lines](std::size_t line, std::string_view piece) {
+            if (line == lines.size()) {
+                lines.emplace_back();
+            }
+            lines.back() += piece;
+        });
+    lines.resize(std::min(count, most));
+    if (count > most) {
+        lines.back() = cutText(lines.back(), {.text = {}, .size = size, .font = m_font}, width);
     }
     return lines;
+}
+
+std::size_t MeasuredText::lineCount(double size, double width, std::size_t most) const {
+    return std::min(breakLines(size, width, most, [](std::size_t, std::string_view) {}), most);
 }
 
 }  // namespace fleetwright

@@ -36,8 +36,13 @@ public:
     /// Lines no wider than this in a font of this size, parted at blanks, or inside of words that
     /// are too long: one line at the least. If they are more than `most`, the last one ends in "…".
     std::vector<std::string> lines(double size, double width, std::size_t most = any) const;
+    /// How many lines those are.
+    std::size_t lineCount(double size, double width, std::size_t most = any) const;
 
 private:
+    template <typename Take>
+    std::size_t breakLines(double size, double width, std::size_t most, Take take) const;
+
     struct Word {
         std::size_t start;
         std::size_t length;  ///< bytes

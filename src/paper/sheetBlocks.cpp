@@ -25,6 +25,12 @@ public:
             std::get<PageText>(block.items.emplace_back(style)).text = std::move(line);
         }
     }
+    /// Leaves the room of as many lines.
+    void leaveOut(std::size_t lines, double size) {
+        for (; lines > 0; --lines) {
+            block.height += size * lineHeight;
+        }
+    }
 
     PageBlock block;
 
@@ -152,7 +158,7 @@ LegendText::LegendText(const std::vector<LegendRow>& legend) {
     }
 }
 
-PageBlock LegendText::block(const Row& row, double width, double factor) {
+PageBlock LegendText::block(const Row& row, double width, double factor, BlockParts parts) {
     constexpr double pictureSide = 8.5, nameSize = 3.1, wordSize = 2.6;
     constexpr std::size_t mostNameLines = 3, mostRulesLines = 8;
     const double side = pictureSide * factor;
@@ -160,7 +166,11 @@ PageBlock LegendText::block(const Row& row, double width, double factor) {
     BlockWriter writer(left);
     const auto write = [&](const MeasuredText& text, PageText style, std::size_t most) {
         style.size *= factor;
-        writer.write(text.lines(style.size, width - left, most), style);
+        if (parts == BlockParts::Heights) {
+            writer.leaveOut(text.lineCount(style.size, width - left, most), style.size);
+        } else {
+            writer.write(text.lines(style.size, width - left, most), style);
+        }
     };
     write(row.name, {.text = {}, .size = nameSize, .font = PageFont::Bold}, mostNameLines);
     if (!row.particulars.isEmpty()) {
@@ -171,7 +181,7 @@ PageBlock LegendText::block(const Row& row, double width, double factor) {
         write(row.rules, {.text = {}, .size = wordSize}, mostRulesLines);
     }
     PageBlock block = std::move(writer.block);
-    if (row.picture.drawing || row.picture.raster) {
+    if (parts == BlockParts::All && (row.picture.drawing || row.picture.raster)) {
         const Box place = {0, 0.3, side, side};
         block.items.emplace_back(
             PagePicture{row.picture.drawing, row.picture.raster, place, place});
@@ -181,11 +191,11 @@ PageBlock LegendText::block(const Row& row, double width, double factor) {
     return block;
 }
 
-std::vector<PageBlock> LegendText::blocks(double width, double factor) const {
+std::vector<PageBlock> LegendText::blocks(double width, double factor, BlockParts parts) const {
     std::vector<PageBlock> blocks;
     blocks.reserve(m_rows.size());
     for (const Row& row : m_rows) {
-        blocks.push_back(block(row, width, factor));
+        blocks.push_back(block(row, width, factor, parts));
     }
     return blocks;
 }

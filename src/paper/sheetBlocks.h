@@ -32,13 +32,15 @@ std::vector<PageBlock> listBlocks(const SheetText& text, double width, double si
 /// "fore, port; mass 3, 10 points each", or "2 with the hull; 1 more: mass 1, 4 points", in which
 /// blanks that part no line are no-break spaces.
 std::string particulars(const LegendRow& row);
+/// What blocks are made with: whoever tries many layouts needs the heights alone.
+enum class BlockParts { All, Heights };
 /// The legend, for columns of any width.
 class LegendText {
 public:
     explicit LegendText(const std::vector<LegendRow>& legend);
 
     /// The letters are larger or smaller than usual by this factor.
-    std::vector<PageBlock> blocks(double width, double factor) const;
+    std::vector<PageBlock> blocks(double width, double factor, BlockParts parts) const;
 
 private:
     struct Row {
@@ -48,7 +50,7 @@ private:
         MeasuredText rules;
     };
 
-    static PageBlock block(const Row& row, double width, double factor);
+    static PageBlock block(const Row& row, double width, double factor, BlockParts parts);
 
     std::vector<Row> m_rows;
 };

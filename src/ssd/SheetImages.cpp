@@ -93,7 +93,8 @@ PictureFinder picturesReadOnce(const std::filesystem::path& appFolder, PictureFi
 
 SheetImages catalogueImages(const PictureFinder& files, const ShipClass& ship) {
     std::map<std::string, Raster, std::less<>> loaded;
-    loaded.try_emplace(std::string(SheetImages::blank), systemPictureSize, systemPictureSize);
+    static const Raster blank = Raster(systemPictureSize, systemPictureSize).shared();
+    loaded.try_emplace(std::string(SheetImages::blank), blank);
     return {.file = files,
             .system = [&ship, files,
                        loaded = std::move(loaded)](std::string_view name) mutable -> const Raster& {

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -53,22 +52,27 @@ SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
     const auto isTooSmall = [&](const SSDMap& map) {
         return map.iDCPNDX - furtherParties < ship.g_iDCP || map.iFIRECONNDX < ship.g_iFCS;
     };
-    const auto rank = [&](const SSDMap& map) {
-        return std::tuple(isTooSmall(map), map.iMaxMass, !isForHull(map.sDisplayName, ship.Hull()),
-                          map.iWeapNDX, toCapitals(map.sDisplayName));
+    const auto size = [&](const SSDMap& map) { return std::pair(isTooSmall(map), map.iMaxMass); };
+    const auto kind = [&](const SSDMap& map) {
+        return std::tuple(!isForHull(map.sDisplayName, ship.Hull()), map.iWeapNDX,
+                          toCapitals(map.sDisplayName));
     };
-    SSDMaps::Map best;
-    std::optional<decltype(rank(*best))> bestRank;
+    // Most are told apart by their size alone.
+    std::vector<SSDMaps::Map> smallest;
     for (const SSDMaps::Map& map : maps.all()) {
         if (!fitsOn(*map, ship.mass(), placed)) {
             continue;
         }
-        if (auto ranked = rank(*map); !bestRank || ranked < *bestRank) {
-            best = map;
-            bestRank = std::move(ranked);
+        if (!smallest.empty() && size(*map) < size(*smallest.front())) {
+            smallest.clear();
+        }
+        if (smallest.empty() || size(*map) == size(*smallest.front())) {
+            smallest.push_back(map);
         }
     }
-    return best;
+    const auto best =
+        std::ranges::min_element(smallest, {}, [&](const SSDMaps::Map& map) { return kind(*map); });
+    return best == smallest.end() ? nullptr : *best;
 }
 
 std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount) {

@@ -1,5 +1,6 @@
 #include "SvgPictures.h"
 
+#include "KeptSvgParts.h"
 #include "PictureFiles.h"
 #include "Raster.h"
 #include "base64.h"
@@ -29,7 +30,7 @@ void setStroke(SvgTag& tag, const DrawnShape& shape) {
 
 void addShape(std::string& text, const DrawnShape& shape) {
     SvgTag path(text, "path");
-    path.setText("d", shape.path);
+    path.set("d", shape.path);  // of letters that are no markup
     path.setPaint("fill", shape.fill);
     if (shape.fill && shape.isEvenOdd) {
         path.set("fill-rule", "evenodd");
@@ -42,6 +43,18 @@ void addShape(std::string& text, const DrawnShape& shape) {
     }
     path.close();
     text += '\n';
+}
+
+std::string shapesOf(const Drawing& drawing, const Box& paper) {
+    std::string text;
+    SvgTag rectangle(text, "rect");
+    rectangle.set(paper);
+    rectangle.set("fill", "#fff").close();
+    text += '\n';
+    for (const DrawnShape& shape : drawing.shapes) {
+        addShape(text, shape);
+    }
+    return text;
 }
 
 bool isInside(const Box& inner, const Box& outer) {
@@ -69,21 +82,21 @@ std::string SvgPictures::clipOf(const Box& box) {
     return known->second;
 }
 
-void SvgPictures::defineDrawing(const std::string& name, const Drawing& drawing) {
-    const Box paper = {0, 0, double(drawing.width), double(drawing.height)};
-    const std::string clip = isInside(drawing.ink, paper) ? std::string() : clipOf(paper);
+void SvgPictures::defineDrawing(const std::string& name,
+                                const std::shared_ptr<const Drawing>& drawing) {
+    const Box paper = {0, 0, double(drawing->width), double(drawing->height)};
+    const std::string clip = isInside(drawing->ink, paper) ? std::string() : clipOf(paper);
     SvgTag group(m_definitions, "g");
     group.set("id", name);
     if (!clip.empty()) {
         group.set("clip-path", clip);
     }
     group.open();
-    SvgTag rectangle(m_definitions, "rect");
-    rectangle.set(paper);
-    rectangle.set("fill", "#fff").close();
-    m_definitions += '\n';
-    for (const DrawnShape& shape : drawing.shapes) {
-        addShape(m_definitions, shape);
+    const auto shapes = [&] { return shapesOf(*drawing, paper); };
+    if (m_kept != nullptr) {
+        m_definitions += *m_kept->drawing(drawing, shapes);
+    } else {
+        m_definitions += shapes();
     }
     m_definitions += "</g>\n";
 }
@@ -109,7 +122,7 @@ std::string SvgPictures::nameOf(const PagePicture& picture) {
     if (isNew) {
         known->second = "picture" + std::to_string(m_pictures.size());
         if (picture.drawing) {
-            defineDrawing(known->second, *picture.drawing);
+            defineDrawing(known->second, picture.drawing);
         } else {
             defineRaster(known->second, *picture.raster);
         }
@@ -128,14 +141,12 @@ void SvgPictures::use(const PagePicture& picture, std::string& body) {
     if (!isWhole) {
         SvgTag(body, "g").set("clip-path", clipOf(picture.clip)).open();
     }
-    SvgTag(body, "use")
-        .set("href", '#' + name)
-        .set("transform", "translate(" + svgNumber(picture.place.x) + ' ' +
-                              svgNumber(picture.place.y) + ") scale(" +
-                              svgNumber(picture.place.width / width) + ' ' +
-                              svgNumber(picture.place.height / height) + ')')
-        .close();
-    body += isWhole ? "\n" : "</g>\n";
+    ((body += "<use href=\"#") += name) += "\" transform=\"translate(";
+    addSvgNumber(body, picture.place.x);
+    addSvgNumber(body += ' ', picture.place.y);
+    addSvgNumber(body += ") scale(", picture.place.width / width);
+    addSvgNumber(body += ' ', picture.place.height / height);
+    body += isWhole ? ")\"/>\n" : ")\"/></g>\n";
 }
 
 std::string SvgPictures::takeDefinitions() {

@@ -3,11 +3,13 @@
 #include "PageDocument.h"
 
 #include <map>
+#include <memory>
 #include <string>
 #include <tuple>
 
 namespace fleetwright {
 
+class KeptSvgParts;
 class PictureEncoder;
 
 /// The pictures of an SVG document. Each is defined once and used wherever it shows. Those without
@@ -15,8 +17,9 @@ class PictureEncoder;
 class SvgPictures {
 public:
     /// The encoder outlives this, and so do all pictures, which are told apart by their places in
-    /// memory.
-    explicit SvgPictures(PictureEncoder& encoder) : m_encoder(encoder) {}
+    /// memory. Whoever makes many documents keeps parts of them.
+    explicit SvgPictures(PictureEncoder& encoder, KeptSvgParts* kept = nullptr)
+        : m_encoder(encoder), m_kept(kept) {}
 
     /// Adds the element that shows a picture. Throws Error.
     void use(const PagePicture& picture, std::string& body);
@@ -28,11 +31,12 @@ public:
 private:
     using BoxKey = std::tuple<double, double, double, double>;
 
-    void defineDrawing(const std::string& name, const Drawing& drawing);
+    void defineDrawing(const std::string& name, const std::shared_ptr<const Drawing>& drawing);
     void defineRaster(const std::string& name, const Raster& raster);
     std::string clipOf(const Box& box);
 
     PictureEncoder& m_encoder;
+    KeptSvgParts* m_kept;
     std::string m_definitions;
     std::map<const void*, std::string> m_pictures;  // names of definitions
     std::map<BoxKey, std::string> m_clips;

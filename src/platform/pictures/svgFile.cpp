@@ -16,10 +16,10 @@ constexpr double pageGap = 6;  // millimetres between pages
 
 class SvgWriter {
 public:
-    SvgWriter(const PageDocument& document, PictureEncoder& encoder)
-        : m_document(document), m_pictures(encoder) {}
+    SvgWriter(const PageDocument& document, PictureEncoder& encoder, KeptSvgParts* kept)
+        : m_document(document), m_kept(kept), m_pictures(encoder, kept) {}
 
-    std::string file(KeptSvgFonts* kept);
+    std::string file();
 
 private:
     void write(const PageText& text);
@@ -30,16 +30,14 @@ private:
     std::string head(double height) const;
 
     const PageDocument& m_document;
+    KeptSvgParts* m_kept;
     SvgPictures m_pictures;
     std::string m_body;
 };
 
 void SvgWriter::write(const PageText& text) {
     static constexpr const char* anchors[] = {"start", "middle", "end"};
-    const std::string words = svgText(text.text);
-    if (words.empty()) {
-        return;
-    }
+    const std::size_t start = m_body.size();
     SvgTag tag(m_body, "text");
     tag.set("x", text.x).set("y", text.y).set("font-size", text.size);
     if (text.font == PageFont::Bold) {
@@ -56,7 +54,13 @@ void SvgWriter::write(const PageText& text) {
         tag.set("textLength", width).set("lengthAdjust", "spacingAndGlyphs");
     }
     tag.open();
-    (m_body += words) += "</text>\n";
+    const std::size_t words = m_body.size();
+    addSvgText(m_body, text.text);
+    if (m_body.size() == words) {
+        m_body.resize(start);  // nothing to show
+        return;
+    }
+    m_body += "</text>\n";
 }
 
 void SvgWriter::write(const PageLine& line) {
@@ -137,7 +141,7 @@ std::string SvgWriter::head(double height) const {
     return text;
 }
 
-std::string SvgWriter::file(KeptSvgFonts* kept) {
+std::string SvgWriter::file() {
     constexpr std::size_t pageSize = 1U << 15U;  // bytes, of nearly all pages
     m_body.reserve(m_document.pages.size() * pageSize);
     for (std::size_t i = 0; i < m_document.pages.size(); ++i) {
@@ -146,7 +150,7 @@ std::string SvgWriter::file(KeptSvgFonts* kept) {
     const auto count = double(m_document.pages.size());
     const double height = count * m_document.size.height + (count - 1) * pageGap;
     std::string text = head(height);
-    const std::string fonts = svgFonts(m_document, kept);
+    const std::string fonts = svgFonts(m_document, m_kept);
     const std::string definitions = m_pictures.takeDefinitions();
     text.reserve(text.size() + fonts.size() + definitions.size() + m_body.size() + 100);
     (text += fonts) += definitions;
@@ -164,11 +168,11 @@ PageDocument withAllPages(const PageDocument& document) {
 
 }  // namespace
 
-std::string svgFile(const PageDocument& document, PictureEncoder& encoder, KeptSvgFonts* kept) {
+std::string svgFile(const PageDocument& document, PictureEncoder& encoder, KeptSvgParts* kept) {
     if (document.morePages) {  // their number and their fonts stand in front of them
-        return SvgWriter(withAllPages(document), encoder).file(kept);
+        return SvgWriter(withAllPages(document), encoder, kept).file();
     }
-    return SvgWriter(document, encoder).file(kept);
+    return SvgWriter(document, encoder, kept).file();
 }
 
 }  // namespace fleetwright

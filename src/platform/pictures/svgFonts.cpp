@@ -1,5 +1,7 @@
 #include "svgFonts.h"
 
+#include "FontSubset.h"
+#include "KeptSvgParts.h"
 #include "base64.h"
 #include "joinedLetters.h"
 #include "text.h"
@@ -33,8 +35,12 @@ public:
                                              .second) {
                 continue;
             }
+            if (character.front() >= ' ' && character.front() <= '~') {
+                add(pageSign(static_cast<unsigned char>(character.front()), text.font));
+                continue;
+            }
             for (const PageSign& sign : pageSigns(character, text.font)) {
-                of(sign.face).push_back({sign.character, sign.drawn});
+                add(sign);
                 addJoined(sign, text.font);
             }
         }
@@ -45,6 +51,8 @@ public:
 
 private:
     static constexpr std::size_t asciiCount = 128;
+
+    void add(const PageSign& sign) { of(sign.face).push_back({sign.character, sign.drawn}); }
 
     /// Readers join letters with pictures of one face alone.
     void addJoined(const PageSign& letter, PageFont font) {
@@ -63,26 +71,7 @@ private:
 
 }  // namespace
 
-std::string KeptSvgFonts::of(PageFace face, const std::vector<FontSubset::Sign>& signs,
-                             const std::function<std::string()>& made) {
-    const Key key(face, signs);
-    {
-        const std::lock_guard lock(m_mutex);
-        if (const auto known = m_fonts.find(key); known != m_fonts.end()) {
-            return known->second;
-        }
-    }
-    std::string font = made();
-    const std::lock_guard lock(m_mutex);
-    constexpr std::size_t most = 512;  // of about 10 KB
-    if (m_fonts.size() >= most) {
-        m_fonts.clear();
-    }
-    m_fonts.try_emplace(key, font);
-    return font;
-}
-
-std::string svgFonts(const PageDocument& document, KeptSvgFonts* kept) {
+std::string svgFonts(const PageDocument& document, KeptSvgParts* kept) {
     ShownSigns shown;
     for (const Page& page : document.pages) {
         for (const PageItem& item : page.items) {
@@ -103,8 +92,12 @@ std::string svgFonts(const PageDocument& document, KeptSvgFonts* kept) {
         style += face == PageFace::Bold       ? "bold"
                  : face == PageFace::Fallback ? "400 700"
                                               : "normal";
-        (style += ";src:url(data:font/ttf;base64,") +=
-            kept != nullptr ? kept->of(face, font.signs(), file) : file();
+        style += ";src:url(data:font/ttf;base64,";
+        if (kept != nullptr) {
+            style += *kept->font(face, font.signs(), file);
+        } else {
+            style += file();
+        }
         style += ")}\n";
     }
     return style == start ? std::string() : std::move(style += "</style>\n");

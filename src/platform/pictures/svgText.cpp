@@ -3,6 +3,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -18,16 +19,18 @@ bool isXmlCharacter(char32_t character) {
     return (character < 0x7F || character > 0x9F) && character != 0xFFFE && character != 0xFFFF;
 }
 
-/// Whether all bytes are characters that stand for themselves. Looks at all of them in any case,
-/// which compilers make faster than an end at the first one that is none.
-bool arePlain(std::string_view text) {
-    unsigned others = 0;
-    for (const char byte : text) {
-        const bool isPlain = byte >= ' ' && byte < '\x7F' && byte != '&' && byte != '<' &&
-                             byte != '>' && byte != '"';
-        others |= isPlain ? 0U : 1U;
+/// Which bytes are characters that stand for themselves.
+constexpr auto plainBytes = [] {
+    std::array<bool, 256> are{};
+    for (unsigned char byte = ' '; byte < 0x7F; ++byte) {
+        are[byte] = byte != '&' && byte != '<' && byte != '>' && byte != '"';
     }
-    return others == 0;
+    return are;
+}();
+
+bool arePlain(std::string_view text) {
+    return std::ranges::all_of(
+        text, [](char byte) { return plainBytes[static_cast<unsigned char>(byte)]; });
 }
 
 constexpr int decimals = 4;
@@ -67,10 +70,12 @@ void addExactly(std::string& text, double value) {
     text += number == "-0" ? "0" : number;
 }
 
-void addNumber(std::string& text, double value) {
+}  // namespace
+
+void addSvgNumber(std::string& written, double value) {
     constexpr double most = 1e9;  // no page comes near that
     if (!(std::fabs(value) < most)) {
-        text += '0';
+        written += '0';
         return;
     }
     // The product is off by less than a millionth: only near the middle between two results could
@@ -80,7 +85,7 @@ void addNumber(std::string& text, double value) {
     constexpr double unsure = 0.001;
     if (scaled > 1e9 ||
         std::fabs(std::fabs(scaled - static_cast<double>(rounded)) - 0.5) < unsure) {
-        addExactly(text, value);
+        addExactly(written, value);
         return;
     }
     char buffer[32];
@@ -89,14 +94,12 @@ void addNumber(std::string& text, double value) {
     if (value < 0 && rounded != 0) {
         *--at = '-';
     }
-    text.append(at, end);
+    written.append(at, end);
 }
-
-}  // namespace
 
 std::string svgNumber(double value) {
     std::string text;
-    addNumber(text, value);
+    addSvgNumber(text, value);
     return text;
 }
 
@@ -155,7 +158,7 @@ SvgTag& SvgTag::setText(std::string_view name, std::string_view text) {
 
 SvgTag& SvgTag::set(std::string_view name, double value) {
     ((m_text += ' ') += name) += "=\"";
-    addNumber(m_text, value);
+    addSvgNumber(m_text, value);
     m_text += '"';
     return *this;
 }

@@ -13,6 +13,8 @@ namespace fleetwright {
 
 /// A number with at most four decimals.
 std::string svgNumber(double value);
+/// The same at the end of a text.
+void addSvgNumber(std::string& written, double value);
 
 /// "#rrggbb".
 std::string svgColour(std::uint32_t colour);

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "FontSubset.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace fleetwright {
+
+struct Drawing;
+
+/// Parts of SVG files as they stand there, for the next files that have the same in them: as many
+/// as the sheets of some hundred ships take. Any number of threads may use it.
+class KeptSvgParts {
+public:
+    using Part = std::shared_ptr<const std::string>;
+    using Make = std::function<std::string()>;
+
+    /// What `make` makes of these signs of a face.
+    Part font(PageFace face, const std::vector<FontSubset::Sign>& signs, const Make& make) {
+        return m_fonts.of({face, signs}, make);
+    }
+    /// What `make` makes of a drawing.
+    Part drawing(const std::shared_ptr<const Drawing>& drawing, const Make& make) {
+        return m_drawings.of(drawing, make);
+    }
+
+private:
+    template <typename Key>
+    class Kept {
+    public:
+        Part of(const Key& key, const Make& make);
+
+    private:
+        std::mutex m_mutex;
+        std::map<Key, Part> m_parts;
+    };
+
+    Kept<std::pair<PageFace, std::vector<FontSubset::Sign>>> m_fonts;
+    Kept<std::shared_ptr<const Drawing>> m_drawings;
+};
+
+template <typename Key>
+KeptSvgParts::Part KeptSvgParts::Kept<Key>::of(const Key& key, const Make& make) {
+    {
+        const std::lock_guard lock(m_mutex);
+        if (const auto known = m_parts.find(key); known != m_parts.end()) {
+            return known->second;
+        }
+    }
+    const auto made = std::make_shared<const std::string>(make());
+    const std::lock_guard lock(m_mutex);
+    constexpr std::size_t most = 512;  // of about 10 KB
+    if (m_parts.size() >= most) {
+        m_parts.clear();
+    }
+    return m_parts.try_emplace(key, made).first->second;
+}
+
+}  // namespace fleetwright
