@@ -48,6 +48,7 @@ TEST_F(DesktopTest, SheetIsDrawnOnANewMapSavedAndViewed) {
     type("0 New");
     mapper.click("push button", "Draw It!");
     mapper.waitUntil("push button", "Draw It!", ATSPI_STATE_ENABLED, false);
+    mapper.click("combo box", "0 New");  // where this key would go to the end of the text
     press("ctrl+e");
     chooseFile("Save As", path("ssds/carrier.png"));
     waitForFile("ssds/carrier.png", "IEND");

@@ -67,14 +67,27 @@ QWidget* makeWidget(Label& label, QWidget* parent, const Scale& scale) {
 
 namespace {
 
+/// Whether some desktops move in a text, or delete in it, by a key that others know from menus:
+/// then it is the menu's, if that has it.
+bool isRatherOfMenus(const QEvent& event) {
+    constexpr std::string_view ofTexts = "ACVXYZ";  // everywhere
+    if (event.type() != QEvent::ShortcutOverride) {
+        return false;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return key.modifiers() == Qt::ControlModifier && key.key() >= Qt::Key_A &&
+           key.key() <= Qt::Key_Z && ofTexts.find(char(key.key())) == std::string_view::npos;
+}
+
 /// Keys that edit a text are the menu's where there is nothing to edit, or where that knows more.
 bool takesEditKeys(QEvent& event, const TextBox& box) {
     if (event.type() != QEvent::ShortcutOverride) {
         return false;
     }
     const auto& key = static_cast<QKeyEvent&>(event);
-    return box.isLocked() || (box.design().isUndoneByForm &&
-                              (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)));
+    return box.isLocked() || isRatherOfMenus(event) ||
+           (box.design().isUndoneByForm &&
+            (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)));
 }
 
 /// The text of a box with many lines as models keep it. Its plain text would have blanks for
@@ -256,6 +269,7 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
         widget->lineEdit()->setToolTip(box.text().empty() ? "" : toToolTip(box.text() + more));
     });
     widget->view()->setTextElideMode(Qt::ElideNone);
+    new EventHook(widget, [](QEvent* event) { return isRatherOfMenus(*event); });
     QObject::connect(widget, &QComboBox::editTextChanged,
                      [&box](const QString& text) { box.type(text.toStdString()); });
     QObject::connect(widget, &QComboBox::activated, [widget, &box](int item) {
