@@ -20,6 +20,17 @@ bool isDesignThere(const fs::path& design) {
     return fs::exists(fs::symlink_status(design, unknown));
 }
 
+/// The ship or fleet beside a file of steps that has this mark; nothing if there is none.
+std::optional<fs::path> designBeside(const fs::path& steps, const std::string& mark) {
+    for (const char* const extension : {recoveryExtension, recoveryFleet}) {
+        fs::path design = steps.parent_path() / (steps.stem().string() + extension + mark);
+        if (isDesignThere(design)) {
+            return design;
+        }
+    }
+    return std::nullopt;
+}
+
 std::string stepsIn(const fs::path& file) {
     try {
         return readBytes(file);
@@ -77,16 +88,15 @@ void removeSteps(const fs::path& design) {
 
 void joinSteps(const RecoveryListing& listing, const std::set<std::string>& running) {
     for (const fs::path& file : listing.steps) {
-        const std::string ending = file.extension().string(), stem = file.stem().string();
+        const std::string ending = file.extension().string();
         const std::string mark =
             ending.substr(std::min(ending.size(), std::string_view(recoverySteps).size()));
-        const fs::path plain = file.parent_path() / (stem + recoveryExtension);
-        const fs::path design = file.parent_path() / (stem + recoveryExtension + mark);
-        if (isDesignThere(design) || (!mark.empty() && running.contains(mark.substr(1)))) {
+        if (designBeside(file, mark) || (!mark.empty() && running.contains(mark.substr(1)))) {
             continue;
         }
-        if (!isDesignThere(plain) || renameToNew(file, stepsBeside(plain))) {
-            removeSteps(design);
+        const std::optional<fs::path> plain = designBeside(file, "");
+        if ((!plain || renameToNew(file, stepsBeside(*plain))) && areStepsWhole(stepsIn(file))) {
+            removeFile(file);
         }
     }
 }

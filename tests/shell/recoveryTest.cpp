@@ -18,6 +18,7 @@
 #include <fstream>
 #include <regex>
 #include <set>
+#include <utility>
 
 using namespace fleetwright;
 
@@ -26,10 +27,11 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A design that is told by its ship and mass.
-RecoveryFolder::Aside designOf(const std::string& ship, int mass) {
+RecoveryFolder::Aside designOf(const std::string& ship, int mass, const std::string& steps = {}) {
     return {ship, mass,
             "Ship Name: " + ship + "\r\nDesigner Name: X\r\nMass: " + std::to_string(mass) +
-                "\r\nThrust: 2\r\nType: Warship\r\nFTL: Normal\r\nSystem: Gun, 1\r\n"};
+                "\r\nThrust: 2\r\nType: Warship\r\nFTL: Normal\r\nSystem: Gun, 1\r\n",
+            steps};
 }
 
 /// What is in steps that are whole.
@@ -198,14 +200,47 @@ private:
     std::string m_log;
 };
 
-/// What can be found in the folder, each as a whole.
-std::set<std::string> shipFilesIn(const fs::path& folder) {
-    std::set<std::string> all;
-    for (const RecoveryFolder::Design& design : RecoveryFolder::list(folder)) {
-        all.insert(readBytes(design.file));
+/// What a user has been told to be put aside.
+class Promises {
+public:
+    /// Has a run put a design aside, for good or not. If that fails, the user is told, and has it
+    /// or the one from before.
+    void aside(RecoveryFolder& run, const RecoveryFolder::Aside& design, bool isForGood = false) {
+        std::vector<std::string>& atWork = m_atWork[design.kind];
+        try {
+            isForGood ? run.keep(design) : run.put(design);
+            atWork = {design.shipFile};
+            if (isForGood) {
+                m_kept.push_back(std::exchange(atWork, {}));
+            }
+        } catch (const FileError&) {
+            atWork.empty() ? void() : atWork.push_back(design.shipFile);
+        }
     }
-    return all;
-}
+
+    /// Holds a folder against that. Nothing is there by half, and with a fault at most without its
+    /// steps.
+    void expectIn(const fs::path& folder, bool isFaulty) const {
+        std::set<std::string> found;
+        for (const RecoveryFolder::Design& design : RecoveryFolder::list(folder)) {
+            const std::string steps = RecoveryFolder::stepsOf(design.file);
+            EXPECT_TRUE(areStepsWhole(steps) || (isFaulty && steps.empty())) << design.file;
+            EXPECT_TRUE(found.insert(readBytes(design.file)).first->ends_with("Gun, 1\r\n"));
+        }
+        std::vector<std::vector<std::string>> wanted = m_kept;
+        for (const auto& [kind, atWork] : m_atWork) {
+            atWork.empty() ? void() : wanted.push_back(atWork);
+        }
+        for (const std::vector<std::string>& each : wanted) {
+            const auto isThere = [&](const std::string& one) { return found.contains(one); };
+            EXPECT_TRUE(std::ranges::any_of(each, isThere)) << each.back();
+        }
+    }
+
+private:
+    std::map<RecoveryKind, std::vector<std::string>> m_atWork;  ///< one of these
+    std::vector<std::vector<std::string>> m_kept;
+};
 
 }  // namespace
 
@@ -230,54 +265,52 @@ TEST(Recovery, LooksOnceHoweverManyDesignsThereAre) {
     EXPECT_EQ(callsFor(200), callsFor(2));
 }
 
-// A run ends at any of its calls, as a kill ends it. What it has said to be put aside is there for
-// the next one, what was kept before too, and nothing is there by half.
-TEST(Recovery, LosesNothingWhereverARunEnds) {
-    const RecoveryFolder::Aside before = designOf("Before", 2), crashed = designOf("Crashed", 4),
-                                first = designOf("First", 6), second = designOf("Second", 8),
-                                third = designOf("Third", 10);
-    RecoveryFolder::Aside fleet = designOf("Fleet", 12), laterFleet = designOf("Fleet", 14);
-    fleet.kind = laterFleet.kind = RecoveryKind::Fleet;
+// A run ends at any of its calls, as a kill ends it, or one of them fails. What it has said to be
+// put aside is there for the next one, what was kept before too, and nothing is there by half.
+TEST(Recovery, LosesNothingWhereverARunEndsOrACallFails) {
+    const std::string steps = "steps " + fingerprint("s") + "\ns";
+    const auto design = [&](const std::string& name, int mass) {
+        RecoveryFolder::Aside aside = designOf(name, mass, steps);
+        aside.kind = name == "Fleet" ? RecoveryKind::Fleet : RecoveryKind::Ship;
+        return aside;
+    };
+    const auto play = [&](int nth, FileFaults::Kind kind) {
+        SCOPED_TRACE(nth);
+        Recovery world;
+        Promises before, crashed, promises;
+        before.aside(world.runOf("before"), design("Before", 2), true);
+        world.end("before");
+        crashed.aside(world.runOf("crashed"), design("Crashed", 4));
+        int calls = 0;
+        {
+            FileFaults faults(nth, kind);
+            world.end("crashed");
+            RecoveryFolder& run = world.runOf("run");
+            try {
+                std::vector<RecoveryFolder::Design> designs = run.lookAround();
+                run.noteSeen(designs);
+            } catch (const FileError&) {
+            }
+            promises.aside(run, design("First", 6));
+            promises.aside(run, design("Fleet", 12));
+            promises.aside(run, design("Second", 8));
+            promises.aside(run, design("Fleet", 14));
+            promises.aside(run, design("Second", 8), true);
+            promises.aside(run, design("Third", 10));
+            promises.aside(run, design("Third", 10), true);
+            world.end("run");
+            calls = faults.calls();
+        }
+        world.runOf("next").lookAround();
+        for (const Promises& each : {before, crashed, promises}) {
+            each.expectIn(world.folder(), calls >= nth);
+        }
+        return calls;
+    };
     forSeeds([&](std::mt19937& random) {
-        constexpr int step = 11;  // each call waits for the disk
-        bool isReached = true;
-        for (int last = anyOf(random, 1, step); isReached; last += step) {
-            SCOPED_TRACE(last);
-            Recovery world;
-            world.runOf("before").keep(before);
-            world.end("before");
-            world.runOf("crashed").put(crashed);
-            std::vector<RecoveryFolder::Aside> wanted = {before, crashed};
-            {
-                FileFaults faults(last, FileFaults::Kind::IsLast);
-                world.end("crashed");
-                try {
-                    RecoveryFolder& run = world.runOf("run");
-                    std::vector<RecoveryFolder::Design> designs = run.lookAround();
-                    run.noteSeen(designs);
-                    run.put(first);  // then it or the second one is there
-                    run.put(fleet);
-                    run.put(second);
-                    wanted.push_back(second);
-                    run.put(laterFleet);
-                    wanted.push_back(laterFleet);
-                    run.keep(second);
-                    run.put(third);
-                    wanted.push_back(third);
-                    run.keep(third);
-                } catch (const FileError&) {
-                    // The user is told.
-                }
-                world.end("run");
-                isReached = faults.calls() >= last;
-            }
-            world.runOf("next").lookAround();
-            const std::set<std::string> found = shipFilesIn(world.folder());
-            for (const RecoveryFolder::Aside& each : wanted) {
-                EXPECT_TRUE(found.contains(each.shipFile)) << each.shipName;
-            }
-            for (const std::string& shipFile : found) {
-                EXPECT_TRUE(shipFile.ends_with("Gun, 1\r\n")) << shipFile;
+        constexpr int step = 17;  // each call waits for the disk
+        for (const auto kind : {FileFaults::Kind::IsLast, FileFaults::Kind::Fails}) {
+            for (int nth = anyOf(random, 1, step); play(nth, kind) >= nth; nth += step) {
             }
         }
     });
