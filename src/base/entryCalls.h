@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 namespace fleetwright::entryCalls {
 
@@ -20,6 +21,9 @@ std::error_code exchange(const std::filesystem::path& one, const std::filesystem
 std::error_code makePrivateFolder(const std::filesystem::path& folder);
 /// Makes the names of a folder outlast a power cut.
 std::error_code syncFolder(const std::filesystem::path& folder);
+/// What stands in a folder, in no order; what was found before an error.
+std::vector<std::filesystem::directory_entry> entriesIn(const std::filesystem::path& folder,
+                                                        std::error_code& error);
 /// Whether the user may write to a file that is there.
 std::error_code mayWrite(const std::filesystem::path& file);
 /// How many names a file has; 0 if the system does not say.

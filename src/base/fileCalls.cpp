@@ -156,10 +156,7 @@ std::error_code syncFolder(const fs::path& folder) {
 std::vector<fs::directory_entry> folderEntries(const fs::path& folder, std::error_code& error) {
     std::vector<fs::directory_entry> entries;
     error = unlessObjected(FileCall::ListFolder, folder, [&](std::error_code& unread) {
-        for (fs::directory_iterator entry(orCurrent(folder), unread);
-             !unread && entry != fs::directory_iterator(); entry.increment(unread)) {
-            entries.push_back(*entry);
-        }
+        entries = entryCalls::entriesIn(orCurrent(folder), unread);
     });
     return entries;
 }

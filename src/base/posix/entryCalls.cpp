@@ -62,6 +62,15 @@ std::error_code syncFolder(const fs::path& folder) {
     return error;
 }
 
+std::vector<fs::directory_entry> entriesIn(const fs::path& folder, std::error_code& error) {
+    std::vector<fs::directory_entry> entries;
+    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+         entry.increment(error)) {
+        entries.push_back(*entry);
+    }
+    return entries;
+}
+
 std::error_code mayWrite(const fs::path& file) {
     return errorUnless(faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) == 0);
 }

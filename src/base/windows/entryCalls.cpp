@@ -68,6 +68,28 @@ std::error_code syncFolder(const fs::path&) {
     return {};  // renames are written through, and the journal of the file system does the rest
 }
 
+std::vector<fs::directory_entry> entriesIn(const fs::path& folder, std::error_code& error) {
+    // The library's iterators know no path of more than 260 characters.
+    std::vector<fs::directory_entry> entries;
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &found,
+                                           FindExSearchNameMatch, nullptr, 0);
+    bool isFound = search != INVALID_HANDLE_VALUE;
+    while (isFound) {
+        const std::wstring_view name = found.cFileName;
+        if (name != L"." && name != L"..") {
+            std::error_code gone;
+            entries.emplace_back(folder / name, gone);
+        }
+        isFound = FindNextFileW(search, &found) != 0;
+    }
+    error = GetLastError() == ERROR_NO_MORE_FILES ? std::error_code() : systemError();
+    if (search != INVALID_HANDLE_VALUE) {
+        FindClose(search);
+    }
+    return entries;
+}
+
 std::error_code mayWrite(const fs::path& file) {
     // Its access list is not for us to read: the system says what comes of it.
     const HANDLE handle = openedFor(FILE_WRITE_DATA, file);

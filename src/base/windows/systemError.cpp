@@ -3,10 +3,27 @@
 #include <windows.h>
 
 #include <cerrno>
+#include <string>
 
 namespace fleetwright {
 
 namespace {
+
+/// A file that another program has open and does not share: no right is missing, so that who meets
+/// it can do something about it.
+class HeldFileCategory : public std::error_category {
+public:
+    const char* name() const noexcept override { return "held file"; }
+    std::string message(int) const override { return "another program has it open"; }
+    bool equivalent(int, const std::error_condition& meaning) const noexcept override {
+        return meaning == std::errc::permission_denied;
+    }
+};
+
+bool isHeld(DWORD code) {
+    return code == ERROR_SHARING_VIOLATION || code == ERROR_LOCK_VIOLATION ||
+           code == ERROR_USER_MAPPED_FILE;
+}
 
 std::errc meaningOf(DWORD code) {
     switch (code) {
@@ -60,11 +77,13 @@ std::errc meaningOf(DWORD code) {
 }  // namespace
 
 std::error_code systemError() {
-    return std::make_error_code(meaningOf(GetLastError()));
+    static const HeldFileCategory heldFile;
+    const DWORD code = GetLastError();
+    return isHeld(code) ? std::error_code(1, heldFile) : std::make_error_code(meaningOf(code));
 }
 
 void setErrno() {
-    errno = systemError().value();
+    errno = static_cast<int>(meaningOf(GetLastError()));
 }
 
 }  // namespace fleetwright
