@@ -18,7 +18,7 @@ from toolFolder import tool_folder  # noqa: E402
 
 FORMATS = ("pdf", "svg", "png")
 AT_ONCE = 500  # ships, so that thousands take no room on the disk
-SCANNER = ["zbarimg", "--nodbus", "-q", "--raw", "-Sdisable", "-Sqrcode.enable", "-Sx-density=2", "-Sy-density=2"]
+SCANNER = ["zbarimg", "--nodbus", "-q", "--raw", "-Sdisable", "-Sqrcode.enable"]
 HULLS = ("Warship", "Merchant", "Q-Ship", "Starbase", "Space Station", "Q-Space Station")
 PIECES = ("a", "Z", " ", "'", '"', "<", ">", "&", "&#65;", "]]>", "-->", "%%EOF", "%", "=", ":", ",",
           "(", "\\", "ü", "–", "ﬁ", "Ж", "א", "س", "ไ", "巡", "🚀")
