@@ -117,20 +117,21 @@ public:
                        "head of " + rows->objectName());
             }
         }
-        // A control that is disabled may be pale, as WCAG has it: it is not to be used.
         for (QWidget* const widget : m_window.findChildren<QWidget*>()) {
             const std::function<void()> takeAway = textOf(widget);
-            if (takeAway && widget->isVisibleTo(&m_window) && widget->isEnabled()) {
-                expect(contrastOf(*widget, takeAway), widget->objectName());
+            if (takeAway && widget->isVisibleTo(&m_window)) {
+                expect(contrastOf(*widget, takeAway), widget->objectName(), widget->isEnabled());
             }
         }
     }
     int texts() const { return m_texts; }
 
 private:
-    void expect(double contrast, const QString& what) {
+    /// What is disabled may be pale, as WCAG has it: it is not to be used.
+    void expect(double contrast, const QString& what, bool isEnabled = true) {
+        constexpr double visible = 2;
         ++m_texts;
-        EXPECT_GE(contrast, readableContrast)
+        EXPECT_GE(contrast, isEnabled ? readableContrast : visible)
             << what.toStdString() << " in " << m_window.objectName().toStdString();
     }
 
@@ -140,10 +141,10 @@ private:
         const auto readEntry = [&](QAction* entry) {
             const int picture = 24;
             const QRect text = menu.actionGeometry(entry).adjusted(picture, 2, -picture, -2);
-            expect(contrastIn(menu.grab().toImage(), text), entry->text());
+            expect(contrastIn(menu.grab().toImage(), text), entry->text(), entry->isEnabled());
         };
         for (QAction* const entry : menu.actions()) {
-            if (entry->isVisible() && entry->isEnabled() && !entry->isSeparator()) {
+            if (entry->isVisible() && !entry->isSeparator()) {
                 readEntry(entry);
                 menu.setActiveAction(entry);
                 readEntry(entry);

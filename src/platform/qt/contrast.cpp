@@ -44,14 +44,15 @@ QPalette readableColours(const QPalette& palette) {
         Role changed, kept;
     };
     QPalette colours;
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const double least = group == QPalette::Disabled ? visibleContrast : readableContrast;
         // The ground of what is selected has no other use, that of all else has.
         for (const auto& [changed, kept] :
              {Pair{QPalette::Highlight, QPalette::HighlightedText},
               Pair{QPalette::Text, QPalette::Base}, Pair{QPalette::ButtonText, QPalette::Button},
               Pair{QPalette::WindowText, QPalette::Window}}) {
             const QColor colour = palette.color(group, changed);
-            const QColor readable = readableOn(palette.color(group, kept), colour);
+            const QColor readable = readableOn(palette.color(group, kept), colour, least);
             if (readable != colour) {
                 colours.setColor(group, changed, readable);
             }
