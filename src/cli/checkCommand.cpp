@@ -16,6 +16,7 @@
 #include "checkMapPlaces.h"
 #include "console.h"
 #include "designCode.h"
+#include "fleetFile.h"
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
@@ -155,7 +156,8 @@ std::vector<std::string> checkFleet(const Options& options, const CatalogueFile&
         FleetRow& row = *checked.emplace_back(std::make_shared<FleetRow>());
         try {
             if (!path.empty()) {  // else its line is at fault
-                row.faults = checkShip(screen, path, &row.figures);
+                row.faults = isFleet(readShip(path).text) ? std::vector<Fault>{{0, fleetIsNoShip}}
+                                                          : checkShip(screen, path, &row.figures);
             }
         } catch (const FileError& error) {
             row.faults = {{0, faultOf(nativePath(path), error)}};

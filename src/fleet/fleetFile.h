@@ -36,6 +36,8 @@ struct ReadFleet {
 
 /// Whether a text begins like a fleet file, of whatever version.
 bool isFleet(std::string_view text);
+/// What is wrong with such a one in the place of a ship. Any text makes a ship, if only of mass 2.
+inline constexpr const char* fleetIsNoShip = "is a fleet, and no ship";
 
 /// Reads the text of a fleet file, in UTF-8. Throws FleetError if it is none, or one of a
 /// later version or with more than `Fleet::mostDesigns`.

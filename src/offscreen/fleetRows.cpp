@@ -15,8 +15,8 @@ FleetRow fleetRow(ShipOnScreen& screen, const std::string& ship) {
     }
     try {
         const std::string text = readShip(ship).text;
-        if (isFleet(text)) {  // any text makes a ship, if only one of mass 2
-            row.faults.push_back({0, "is a fleet, and no ship"});
+        if (isFleet(text)) {
+            row.faults.push_back({0, fleetIsNoShip});
             return row;
         }
         row.fingerprint = fingerprint(text);

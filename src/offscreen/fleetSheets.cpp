@@ -4,6 +4,7 @@
 #include "ShipOnScreen.h"
 #include "drawnSheet.h"
 #include "fleetPaths.h"
+#include "fleetRows.h"
 
 #include <map>
 #include <memory>
@@ -25,7 +26,7 @@ fleetSheets(const Fleet& fleet, const std::filesystem::path& folder, const Catal
         }
         std::shared_ptr<const VectorSheet>& sheet = sheets.emplace_back();
         ShipOnScreen screen(tools.appFolder, catalogue);
-        if (screen.load(path)) {
+        if (!fleetRow(screen, path).figures) {
             continue;
         }
         try {
