@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "OpenFile.h"
+#include "entryCalls.h"
 #include "text.h"
 
 #include <algorithm>
@@ -19,6 +20,9 @@ constexpr std::size_t largestFile = std::size_t{256} * 1024 * 1024;
 }  // namespace
 
 std::string readBytes(const fs::path& path) {
+    if (const std::string_view why = entryCalls::whyNoName(path); !why.empty()) {
+        throw FileError(path, "cannot be read: " + std::string(why));
+    }
     std::error_code error;
     const auto check = [&path, &error](std::uintmax_t size) {
         if (!error && size > largestFile) {

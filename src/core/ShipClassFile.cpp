@@ -167,10 +167,10 @@ void ShipClass::readShipLine(std::string& line, int lineNumber) {
 }
 
 void ShipClass::takeFileName(const std::string& fileName) {
-    constexpr char separator = static_cast<char>(std::filesystem::path::preferred_separator);
+    constexpr const char* separators = "\\/";
     g_sSaveName = origin = fileName;
     std::string reversed = strReverse(fileName);
-    const std::string name = strReverse(strTok(reversed, std::string("\\") + separator, true));
+    const std::string name = strReverse(strTok(reversed, separators, true));
     if (characterCount(name) < extension.size()) {
         throw Error("file name is too short");
     }

@@ -60,8 +60,11 @@ void moveFleet(Fleet& fleet, const fs::path& from, const fs::path& to) {
     if (isSameFolder(from, to)) {
         return;
     }
+    const bool staysOnDrive = absoluteFolder(from).root_name() == absoluteFolder(to).root_name();
     for (FleetShip& ship : fleet.ships) {
-        if (!ship.file.empty() && !isDesignCode(ship.file) && pathOf(ship).is_relative()) {
+        const bool isFromRoot = staysOnDrive && pathOf(ship).has_root_directory();
+        if (!ship.file.empty() && !isDesignCode(ship.file) && !isFromRoot &&
+            pathOf(ship).is_relative()) {
             ship.file = fileInFleet(to, nativePath(shipPath(from, ship)));
         }
     }

@@ -200,8 +200,8 @@ void RecoveryFolder::begin() {
 }
 
 fs::path RecoveryFolder::fileOf(const std::string& name, const std::string& mark) const {
-    return m_folder / (name + (isFleet(name) ? "" : recoveryExtension) +
-                       (mark.empty() ? mark : beforeRecoveryMark + mark));
+    return m_folder / nativePath(name + (isFleet(name) ? "" : recoveryExtension) +
+                                 (mark.empty() ? mark : beforeRecoveryMark + mark));
 }
 
 /// Takes the mark of its run off a file, never over another one; where it is then.
@@ -209,9 +209,9 @@ fs::path RecoveryFolder::takeMarkOff(const fs::path& file, RenameToNew rename) c
     constexpr int mostNames = 100;
     const std::string name = file.stem().string(), extension = file.extension().string();
     const std::string ending = extension.substr(0, extension.find(beforeRecoveryMark));
-    fs::path plain = m_folder / (name + ending);
+    fs::path plain = m_folder / nativePath(name + ending);
     for (int i = 2; rename(file, plain) == std::errc::file_exists && i < mostNames; ++i) {
-        plain = m_folder / (name + " (" + std::to_string(i) + ')' + ending);
+        plain = m_folder / nativePath(name + " (" + std::to_string(i) + ')' + ending);
     }
     if (isInFolder(file)) {
         return file;

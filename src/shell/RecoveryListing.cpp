@@ -69,6 +69,7 @@ RecoveryListing::RecoveryListing(const fs::path& folder) {
             take(entry.path());
         }
     }
+    std::sort(leftOvers.begin(), leftOvers.end());  // they get numbers in this order
     if (error && error != std::errc::no_such_file_or_directory) {
         throw FileError(folder, "cannot be read: " + error.message());
     }

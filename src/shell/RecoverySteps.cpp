@@ -4,6 +4,7 @@
 #include "RecoveryListing.h"
 #include "fileCalls.h"
 #include "fingerprint.h"
+#include "paths.h"
 #include "readFile.h"
 #include "saveFile.h"
 
@@ -23,7 +24,8 @@ bool isDesignThere(const fs::path& design) {
 /// The ship or fleet beside a file of steps that has this mark; nothing if there is none.
 std::optional<fs::path> designBeside(const fs::path& steps, const std::string& mark) {
     for (const char* const extension : {recoveryExtension, recoveryFleet}) {
-        fs::path design = steps.parent_path() / (steps.stem().string() + extension + mark);
+        fs::path design =
+            steps.parent_path() / nativePath(steps.stem().string() + extension + mark);
         if (isDesignThere(design)) {
             return design;
         }
@@ -44,7 +46,8 @@ std::string stepsIn(const fs::path& file) {
 fs::path stepsBeside(const fs::path& design) {
     const std::string extension = design.extension().string();
     const std::size_t mark = std::min(extension.find(beforeRecoveryMark), extension.size());
-    return design.parent_path() / (design.stem().string() + recoverySteps + extension.substr(mark));
+    return design.parent_path() /
+           nativePath(design.stem().string() + recoverySteps + extension.substr(mark));
 }
 
 std::string stepsOfDesign(const fs::path& design) {

@@ -118,8 +118,8 @@ void give(const fs::path& delivered, const fs::path& userFolder, const Record& g
     [[maybe_unused]] const auto none = removeTree(staging);  // what a killed run has left
     StagedFiles newOnes(staging);
     for (const auto& [name, contents] : gifts.given()) {
-        const fs::path target = userFolder / name;
-        const std::string bytes = readBytes(delivered / name);
+        const fs::path target = userFolder / nativePath(name);
+        const std::string bytes = readBytes(delivered / nativePath(name));
         if (fs::exists(fs::symlink_status(target))) {
             saveFile(target, bytes);
         } else {
@@ -136,7 +136,7 @@ void refreshFiles(const fs::path& delivered, const fs::path& userFolder,
     const fs::path onTheWay = userFolder / ".delivering";
     Record gifts(onTheWay);
     for (const auto& [name, contents] : gifts.given()) {
-        if (fingerprintOf(userFolder / name) == contents) {
+        if (fingerprintOf(userFolder / nativePath(name)) == contents) {
             record.note(name, contents);
         }
     }

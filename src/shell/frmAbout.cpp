@@ -54,7 +54,7 @@ void frmAbout::StartSysInfo() {
 bool frmAbout::startTool() {
     std::string path;
     if (GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path)) {
-        return m_services.programs.start(path);
+        return m_services.programs.start(nativePath(path));
     }
     if (!GetKeyValue("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", path)) {
         return false;

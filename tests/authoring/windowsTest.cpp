@@ -124,7 +124,8 @@ struct AuthorsWindows {
         }
         for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
             if (entry.is_regular_file()) {
-                const std::string name = entry.path().lexically_relative(folder.path()).string();
+                const std::string name =
+                    entry.path().lexically_relative(folder.path()).generic_string();
                 seen["file " + name] = replaced(folder.read(name), "\r\n", "/");
             }
         }

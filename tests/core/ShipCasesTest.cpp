@@ -6,6 +6,7 @@
 #include "caseFile.h"
 #include "explainShip.h"
 #include "faults.h"
+#include "paths.h"
 #include "testShip.h"
 #include "wholeNumber.h"
 
@@ -163,19 +164,22 @@ private:
             return std::string();
         };
         m_acts["load"] = [this](const std::string& name) {
-            return named(m_ship->loadShip((m_yard.folder().path() / name).string()));
+            return named(m_ship->loadShip(fileNamed(name)));
         };
         m_acts["save"] = [this](const std::string& name) {
             const ShipState before = m_ship->state();
-            std::string file = (m_yard.folder().path() / name).string();
+            std::string file = fileNamed(name);
             const bool isDone = m_ship->saveShip(file);
             EXPECT_TRUE(isDone ? file == m_ship->g_sSaveName : m_ship->state() == before);
             return named(isDone);
         };
     }
+    std::string fileNamed(const std::string& name) const {
+        return (m_yard.folder().path() / nativePath(name)).string();
+    }
     std::string named(bool isDone) const {
         const std::string name = m_ship->g_sTrimmedFileName + " of " + m_ship->g_sSaveName;
-        return isDone ? replaced(name, m_yard.folder().path().string(), "APP")
+        return isDone ? inAppFolder(name, m_yard.folder().path().string())
                       : textOf({*m_ship->fileFault()});
     }
 

@@ -91,7 +91,7 @@ public:
         }
         for (const auto& file : fs::recursive_directory_iterator(m_test.folder().path())) {
             const std::string name =
-                file.path().lexically_relative(m_test.folder().path()).string();
+                file.path().lexically_relative(m_test.folder().path()).generic_string();
             if (name.find(".shp") != std::string::npos || name.starts_with("ssds/") ||
                 name.find(".fleet") != std::string::npos) {
                 const std::string shown =  // without the number of its run
@@ -143,7 +143,7 @@ public:
         } else if (first == "start") {
             m_window.files.openAfterStart(paths(rest));
         } else if (first == "choose") {
-            m_test.file = (m_test.folder().path() / rest).string();
+            m_test.file = (m_test.folder().path() / nativePath(rest)).string();
         } else if (first == "hold") {
             m_test.clipboard.held = replaced(rest, "; ", "\r\n");
         } else if (first == "held") {
@@ -169,7 +169,7 @@ private:
     std::vector<std::string> paths(const std::string& names) {
         std::vector<std::string> found = partsOf(names, " ");
         for (std::string& name : found) {
-            name = (m_test.folder().path() / name).string();
+            name = (m_test.folder().path() / nativePath(name)).string();
         }
         return found;
     }

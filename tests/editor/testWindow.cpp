@@ -80,8 +80,8 @@ public:
     explicit Pictures(TestWindow& test) : m_test(test) {}
 
     Raster load(const std::filesystem::path& picture) override {
-        m_test.m_log +=
-            "picture: " + picture.lexically_relative(m_test.m_folder.path()).string() + "; ";
+        const auto name = asItsFolderNamesIt(picture).lexically_relative(m_test.m_folder.path());
+        m_test.m_log += "picture: " + name.generic_string() + "; ";
         return Raster(32, 32);
     }
     Raster builtIn(const std::string&) override { return Raster(32, 32); }

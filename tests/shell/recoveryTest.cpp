@@ -10,6 +10,7 @@
 #include "caseFile.h"
 #include "fingerprint.h"
 #include "forSeeds.h"
+#include "paths.h"
 #include "readFile.h"
 
 #include <gtest/gtest.h>
@@ -103,7 +104,7 @@ private:
     }
 
     void perform(const std::string& act, const std::string& name, const std::string& text) {
-        const fs::path file = m_folder / text;
+        const fs::path file = m_folder / nativePath(text);
         const std::map<std::string, std::function<void()>> acts = {
             {"put", [&] { runOf(name).put(m_last = nextDesign(text)); }},
             {"again", [&] { runOf(name).keep(m_last); }},

@@ -15,6 +15,7 @@
 #include "frmAbout.h"
 #include "frmExtras.h"
 #include "frmSplash.h"
+#include "paths.h"
 
 #include <gtest/gtest.h>
 
@@ -178,7 +179,7 @@ private:
     /// What the test does to the world.
     void arrange(const std::string& act, const std::string& rest, const std::string& name,
                  const std::string& text) {
-        const fs::path file = folder.path() / rest;
+        const fs::path file = folder.path() / nativePath(rest);
         const std::map<std::string, std::function<void()>> acts = {
             {"machine", [&] { machine.has.insert(rest); }},
             {"mended", [&] { machine.has.clear(); }},

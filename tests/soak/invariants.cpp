@@ -3,6 +3,7 @@
 #include "Actor.h"
 #include "Error.h"
 #include "bringInOrder.h"
+#include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
 
@@ -128,7 +129,8 @@ private:
         for (std::int16_t index = 1; index <= m_window.CMRUList->MaxFiles(); ++index) {
             const MenuEntry& entry = m_window.files.mnuMRUFile[static_cast<std::size_t>(index - 1)];
             // A sheet is listed by its path.
-            const std::string file = fs::path(m_window.CMRUList->getFile(index)).filename();
+            const std::string file =
+                pathText(nativePath(m_window.CMRUList->getFile(index)).filename());
             expectText(entry.name(), entry.isVisible() ? entry.caption() : "", file);
         }
     }

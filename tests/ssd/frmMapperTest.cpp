@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "caseFile.h"
 #include "fakeServices.h"
+#include "paths.h"
 #include "sheetWorld.h"
 
 #include <gtest/gtest.h>
@@ -73,7 +74,7 @@ struct Mapper : PictureEncoder {
              }},
             {"choose", [&] { window.cboMapSelection.type(what); }},
             {"draw", [&] { window.cmdDrawIt.press(); }},
-            {"file", [&] { desktop.choice = (folder.path() / what).string(); }},
+            {"file", [&] { desktop.choice = (folder.path() / nativePath(what)).string(); }},
             {"save", [&] { window.cmdSave.press(); }},
             {"link", [&] { fs::create_hard_link(desktop.choice.value(), folder.path() / what); }},
             {"press",

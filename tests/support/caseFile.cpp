@@ -103,12 +103,14 @@ std::string playActs(const std::string& acts, const Stage& stage) {
         text += "> " + act + '\n';
         text += changes.empty() ? "" : "  " + replaced(changes, "\n", " | ") + '\n';
     }
-    text = replaced(std::move(text), stage.folder, "APP");
-    // Paths below it as they are written elsewhere, up to the end of the sentence.
-    const char own = static_cast<char>(std::filesystem::path::preferred_separator);
+    return inAppFolder(std::move(text), stage.folder);
+}
+
+std::string inAppFolder(std::string text, const std::string& folder) {
+    text = replaced(std::move(text), folder, "APP");
     for (std::size_t at = 0; (at = text.find("APP", at)) != std::string::npos; ++at) {
         const auto path = text.begin() + static_cast<std::ptrdiff_t>(at);
-        std::replace(path, std::find_if(path, text.end(), endsPath), own, '/');
+        std::replace(path, std::find_if(path, text.end(), endsPath), '\\', '/');
     }
     return text;
 }

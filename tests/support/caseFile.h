@@ -56,6 +56,9 @@ std::string playIn(World& world, const std::string& acts) {
                            .folder = world.folder.path().string()});
 }
 
+/// A text in which a folder is written as APP, and "/" parts what lies below it on every system.
+std::string inAppFolder(std::string text, const std::string& folder);
+
 /// The first word of a text, and what stands behind it.
 std::pair<std::string, std::string> cut(const std::string& text);
 

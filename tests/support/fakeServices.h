@@ -10,6 +10,7 @@
 #include "SettingsStore.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -66,13 +67,24 @@ public:
     void setText(const std::string& text) override { held = text; }
 };
 
+/// A file as its folder names it: on some systems it may have been asked for in another case.
+inline std::filesystem::path asItsFolderNamesIt(std::filesystem::path file) {
+    std::error_code none;
+    for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), none)) {
+        if (std::filesystem::equivalent(entry, file, none)) {
+            file = entry.path();
+        }
+    }
+    return file.make_preferred();
+}
+
 /// Pictures by the paths of their files.
 class PicturesByName : public PictureFiles {
 public:
     std::map<std::string, Raster> files;
 
     Raster load(const std::filesystem::path& file) override {
-        const auto found = files.find(file.string());
+        const auto found = files.find(asItsFolderNamesIt(file).string());
         if (found == files.end()) {
             throw FileError(file, "cannot be read");
         }

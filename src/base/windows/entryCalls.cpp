@@ -119,7 +119,8 @@ const char* whyNoName(const fs::path& file) {
     if (name.find_first_of("<>:\"|?*") != std::string::npos) {
         return "on Windows a name has none of < > : \" | ? *";
     }
-    return name.ends_with('.') || name.ends_with(' ')
+    const bool isFolder = name == "." || name == "..";
+    return !isFolder && (name.ends_with('.') || name.ends_with(' '))
                ? "on Windows no name ends in a dot or a blank"
                : "";
 }

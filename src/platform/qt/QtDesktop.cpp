@@ -190,13 +190,13 @@ Answer QtDesktop::showMessage(const std::string& text, const std::string& title,
 
 std::optional<std::string> QtDesktop::chooseFileToOpen(const FileDialog& wanted) {
     const QStringList chosen = chosenFiles(wanted, QFileDialog::ExistingFile);
-    return chosen.isEmpty() ? std::nullopt : std::optional(chosen.front().toStdString());
+    return chosen.isEmpty() ? std::nullopt : std::optional(pathFromQt(chosen.front()));
 }
 
 std::vector<std::string> QtDesktop::chooseFilesToOpen(const FileDialog& wanted) {
     std::vector<std::string> files;
     for (const QString& file : chosenFiles(wanted, QFileDialog::ExistingFiles)) {
-        files.push_back(file.toStdString());
+        files.push_back(pathFromQt(file));
     }
     return files;
 }
@@ -210,7 +210,7 @@ std::optional<std::string> QtDesktop::chooseFileToSave(const FileDialog& wanted)
         const QString chosen = dialog.selectedFiles().value(0);
         const QString ending = missingEnding(dialog, wanted, chosen);
         if (mayReplace(chosen, ending.isEmpty() ? extension : ending)) {
-            return (chosen + ending).toStdString();
+            return pathFromQt(chosen + ending);
         }
     }
     return std::nullopt;

@@ -83,12 +83,12 @@ void QtSettingsStore::write(const std::string& section, const std::string& key,
     };
     // A line that nobody can read is an error, too, but gone from the file with the first write.
     if (!put() && !put()) {
-        throw FileError(file, "cannot be written");
+        throw FileError(nativePath(file), "cannot be written");
     }
     // Qt syncs the new file, but not the name that it gives it.
     const std::error_code error = folder.empty() ? std::error_code() : syncFolder(folder);
     if (error) {
-        throw FileError(file, "cannot be written: " + error.message());
+        throw FileError(nativePath(file), "cannot be written: " + error.message());
     }
 }
 

@@ -22,7 +22,7 @@ std::vector<std::string> filesIn(const QMimeData& data) {
         if (!url.isLocalFile() || !QFileInfo(url.toLocalFile()).isFile()) {
             return {};
         }
-        files.push_back(url.toLocalFile().toStdString());
+        files.push_back(pathFromQt(url.toLocalFile()));
     }
     return files;
 }

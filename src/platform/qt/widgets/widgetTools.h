@@ -7,6 +7,7 @@
 #include "qtImage.h"
 #include "text.h"
 
+#include <QDir>
 #include <QFocusEvent>
 #include <QIcon>
 #include <QMouseEvent>
@@ -26,6 +27,11 @@ inline constexpr const char* followsWindow = "followsWindow";
 
 inline QString toQt(const std::string& text) {
     return QString::fromStdString(text);
+}
+
+/// The path of a file as the program keeps paths, from that which Qt gives it.
+inline std::string pathFromQt(const QString& path) {
+    return QDir::toNativeSeparators(path).toStdString();
 }
 
 /// A text that is only shown: what it holds from outside does nothing else.
