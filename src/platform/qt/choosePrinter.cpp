@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -20,6 +21,14 @@ QString fileFor(const QPrinter& printer) {
     const QString last = printer.outputFileName();
     const QDir folder = last.isEmpty() ? QDir::home() : QFileInfo(last).dir();
     return folder.filePath(QString::fromStdString(name + ".pdf"));
+}
+
+/// Says that a system whose own dialog only knows printers has none.
+void sayThatThereIsNone() {
+    QMessageBox::information(QApplication::activeWindow(), QApplication::applicationName(),
+                             "There is no printer. One can be added in the settings of the system."
+                             "\n\nSheets can be saved as PDF files instead: Export Sheet in the "
+                             "menu Design.");
 }
 
 }  // namespace
@@ -39,6 +48,10 @@ bool choosePrinter(QPrinter& printer, const std::string& title) {
     // Of Qt's own dialog; those of other systems ask for the file by themselves.
     if (auto* const file = dialog.findChild<QLineEdit*>("filename")) {
         file->setText(fileFor(printer));
+    } else if (printer.setOutputFormat(QPrinter::NativeFormat);
+               printer.outputFormat() != QPrinter::NativeFormat) {
+        sayThatThereIsNone();
+        return false;
     }
     return dialog.exec() == QDialog::Accepted;
 }

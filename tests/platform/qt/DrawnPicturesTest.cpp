@@ -5,6 +5,7 @@
 #include "Drawing.h"
 
 #include <QApplication>
+#include <QStyle>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -79,4 +80,32 @@ TEST(DrawnPictures, AreLookedUpWherePixelsWillNotDoAndTakeTheColoursOfADarkDeskt
             << "a picture without a drawing stays as it is";
     }
     QApplication::setPalette(light);
+}
+
+TEST(DrawnPictures, StandOutInRowsWhereAStyleMarksTheTextAlone) {
+    const QString style = QApplication::style()->name();
+    QApplication::setStyle("Windows");
+    const HalfDrawn ink(0x000000);
+    AllKinds form;
+    form.images.add("ROOT", Raster(ink.picture));
+    form.tree.select(form.tree.nodes().front());
+    FormWindow window(form, nullptr, {}, &ink);
+    form.show();
+    auto* const tree = window.findChild<QTreeWidget*>("tree");
+    const QRect row = tree->visualItemRect(tree->topLevelItem(0));
+    const QImage shown = tree->viewport()->grab().toImage();
+    EXPECT_EQ(shown.pixelColor(row.left() + 16, row.center().y() - 8), QColor(Qt::black));
+    QApplication::setStyle(style);
+}
+
+TEST(DrawnPictures, StandOutOnButtonsThatAreDownAlsoInWindowsBehindOthers) {
+    QPalette palette;
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    QApplication::setPalette(palette);
+    AllKinds form;
+    const FormWindow window(form);
+    const QPalette down = window.findChild<QWidget*>("faced")->palette();
+    EXPECT_EQ(down.color(QPalette::Inactive, QPalette::ButtonText), QColor(Qt::white));
+    QApplication::setPalette({});
 }

@@ -1,11 +1,17 @@
+#include "pageFontFiles.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontDatabase>
 
 // Widgets need an application, and here no screen.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    if (QFontDatabase::families().isEmpty()) {  // as on Windows without a screen
+        QApplication::setFont(fleetwright::pageFont(fleetwright::PageFace::Regular));
+    }
     return RUN_ALL_TESTS();
 }

@@ -22,7 +22,10 @@ namespace {
 /// What a widget tells the user, and those who read it to him.
 std::string shownBy(QWidget& widget) {
     QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&widget);
-    QString text = told->text(QAccessible::Name) + '=' + told->text(QAccessible::Value);
+    // On some systems the text of a box with a list is its name, too.
+    const bool isCombo = dynamic_cast<QComboBox*>(&widget) != nullptr;
+    QString text = told->text(isCombo ? QAccessible::Value : QAccessible::Name) + '=' +
+                   told->text(QAccessible::Value);
     if (QAccessibleValueInterface* const value = told->valueInterface()) {
         text += value->currentValue().toString();
     }

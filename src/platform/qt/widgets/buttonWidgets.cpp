@@ -227,9 +227,11 @@ QWidget* makeWidget(OptionButton& button, QWidget* parent, const Scale& scale) {
         if (button.design().isGraphical && button.isOn()) {
             constexpr double clearly = 7;  // as styles draw buttons paler than they are told
             for (const auto state : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-                const QColor text = palette.color(state, QPalette::HighlightedText);
-                const QColor ground = palette.color(state, QPalette::Highlight);
                 const bool isClosed = state == QPalette::Disabled;
+                // In a window behind another one it is the same, as its picture is.
+                const auto from = isClosed ? state : QPalette::Active;
+                const QColor text = palette.color(from, QPalette::HighlightedText);
+                const QColor ground = palette.color(from, QPalette::Highlight);
                 palette.setColor(state, QPalette::Button,
                                  isClosed ? ground : readableOn(text, ground, clearly));
                 palette.setColor(state, QPalette::ButtonText, text);
