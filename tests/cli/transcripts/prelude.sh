@@ -1,8 +1,5 @@
 # What the commands of the transcripts stand on.
 
-# Another tool than that of this build, such as the one for Windows.
-TOOL=${TOOL:-$APP/fleetwright-cli}
-
 # The tool in an empty environment.
 fleetwright-cli() {
     env -i "$TOOL" "$@"
