@@ -61,6 +61,7 @@ void takeFleets(PictureDesktop& desktop, const fs::path& appFolder, const fs::pa
         .clock = clock,
         .confirmsExit = confirmsExit,
         .recovery = nullptr,
+        .canReadShips = [] { return true; },
         .readShip = [&screen](const std::string& ship) { return fleetRow(screen, ship); },
         .catalogue = [&] { return fingerprint(readTextFile(appFolder / "weaps.dat")); },
         .shipAtHand = {},
