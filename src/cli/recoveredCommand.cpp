@@ -1,14 +1,42 @@
+#include "Error.h"
+#include "FleetWindow.h"
 #include "RecoveryFolder.h"
 #include "ShipClass.h"
 #include "commands.h"
 #include "console.h"
+#include "fleetFile.h"
+#include "fleetPaths.h"
 #include "paths.h"
 #include "readFile.h"
 #include "saveResult.h"
+#include "text.h"
 
 namespace fleetwright {
 
 namespace {
+
+namespace fs = std::filesystem;
+
+/// A fleet put aside as it is in another file, from which it names the same ships.
+std::string fleetFor(const fs::path& out, const fs::path& aside) {
+    try {
+        Fleet fleet = readFleet(aside).fleet;
+        moveFleet(fleet, aside.parent_path(), out.parent_path());
+        return fleetText(fleet);
+    } catch (const FileError&) {
+        return readBytes(aside);  // whatever it is, nothing of it is lost
+    }
+}
+
+void writeOut(const RecoveryFolder::Design& design, const std::string& out) {
+    if (design.about.kind == RecoveryKind::Ship) {
+        saveResult(nativePath(ShipClass::withExtension(out)), readBytes(design.file));
+        return;
+    }
+    const bool hasEnding = toSmallLetters(out).ends_with(fleetExtension);
+    const fs::path file = nativePath(hasEnding ? out : out + fleetExtension);
+    saveResult(file, fleetFor(file, design.file));
+}
 
 void checkRecovered(const Options& options) {
     if (options.words.size() == 1) {
@@ -26,12 +54,9 @@ int runRecovered(const Options& options) {
         return Done;
     }
     const std::string& name = options.words.front();
-    const std::string& out = options.words.back();
     for (const RecoveryFolder::Design& design : designs) {
         if (design.name == name) {
-            const bool isFleet = design.about.kind == RecoveryKind::Fleet;
-            saveResult(nativePath(isFleet ? out : ShipClass::withExtension(out)),
-                       readBytes(design.file));
+            writeOut(design, options.words.back());
             return Done;
         }
     }
