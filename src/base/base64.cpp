@@ -34,20 +34,29 @@ std::string toBase64(std::string_view bytes, Base64Lines lines) {
     const bool hasLines = lines == Base64Lines::Many && groups > 0;
     std::string text(groups * digitsOfGroup + (hasLines ? (groups - 1) / groupsOfLine : 0), '\n');
     auto written = text.begin();
-    const auto byteAt = [bytes](std::size_t at) -> std::uint32_t {
-        return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0U;
-    };
-    for (std::size_t group = 0; group < groups; ++group) {
-        if (hasLines && group > 0 && group % groupsOfLine == 0) {
-            ++written;
-        }
-        const std::size_t at = group * bytesOfGroup;
-        const std::uint32_t bits = byteAt(at) << 16U | byteAt(at + 1) << 8U | byteAt(at + 2);
+    const auto write = [&written](unsigned char first, unsigned char second, unsigned char third) {
+        const std::uint32_t bits =
+            std::uint32_t{first} << 16U | std::uint32_t{second} << 8U | third;
         for (unsigned digit = digitsOfGroup; digit-- > 0;) {
             *written++ = codeDigits[bits >> digit * bitsOfDigit & 0x3FU];
         }
-    }
+    };
+    const auto* const data = reinterpret_cast<const unsigned char*>(bytes.data());
     const std::size_t missing = groups * bytesOfGroup - bytes.size();
+    const std::size_t wholeGroups = missing == 0 ? groups : groups - 1;
+    std::size_t left = hasLines ? groupsOfLine : groups;  // groups of this line
+    for (std::size_t group = 0; group < groups; ++group, --left) {
+        if (left == 0) {
+            ++written;
+            left = groupsOfLine;
+        }
+        const unsigned char* const at = data + group * bytesOfGroup;
+        if (group < wholeGroups) {
+            write(at[0], at[1], at[2]);
+        } else {
+            write(at[0], missing == 1 ? at[1] : 0, 0);
+        }
+    }
     std::fill_n(text.rbegin(), missing, padding);
     return text;
 }

@@ -155,7 +155,9 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
     const SheetOptions pages = sheetOptionsOf(options, outlines);
     const auto bytesOf = [&](ShipOnScreen& screen, const std::string& format) {
         if (format == "svg" || format == "pdf") {
-            const PageDocument document = sheetDocument({sheetFor(options, screen, tools)}, pages);
+            std::vector<VectorSheet> sheets;
+            sheets.push_back(sheetFor(options, screen, tools));
+            const PageDocument document = sheetDocument(sheets, pages);
             return format == "svg" ? svgFile(document, tools.encoder, &parts)
                                    : pictures.pdf(document);
         }

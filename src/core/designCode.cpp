@@ -151,6 +151,8 @@ struct PackingRoom {
     int window = 9;   ///< bits; the least of zlib's
     int symbols = 4;  ///< memLevel
 
+    bool operator==(const PackingRoom&) const = default;
+
     explicit PackingRoom(std::size_t textSize) {
         constexpr std::size_t ahead = 262;  // which zlib keeps of a window for itself
         const std::size_t all = designDictionary().size() + textSize + ahead;
@@ -165,14 +167,42 @@ struct PackingRoom {
     }
 };
 
-std::string packed(std::string_view text) {
-    z_stream stream{};
-    const PackingRoom room(text.size());
-    if (deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, -room.window, room.symbols,
-                     Z_DEFAULT_STRATEGY) != Z_OK) {
-        throw std::bad_alloc();
+/// A stream that has read the dictionary, which takes it longer than to pack a ship.
+class PreparedStream {
+public:
+    explicit PreparedStream(const PackingRoom& room) : m_room(room) {
+        if (deflateInit2(&m_stream, Z_BEST_COMPRESSION, Z_DEFLATED, -room.window, room.symbols,
+                         Z_DEFAULT_STRATEGY) != Z_OK) {
+            throw std::bad_alloc();
+        }
+        deflateSetDictionary(&m_stream, zlibBytes(designDictionary()),
+                             zlibSize(designDictionary()));
     }
-    deflateSetDictionary(&stream, zlibBytes(designDictionary()), zlibSize(designDictionary()));
+    PreparedStream(const PreparedStream&) = delete;
+    PreparedStream& operator=(const PreparedStream&) = delete;
+    ~PreparedStream() { deflateEnd(&m_stream); }
+
+    const PackingRoom& room() const { return m_room; }
+    /// A stream that goes on from here, which whoever has it ends.
+    z_stream copy() {
+        z_stream stream{};
+        if (deflateCopy(&stream, &m_stream) != Z_OK) {
+            throw std::bad_alloc();
+        }
+        return stream;
+    }
+
+private:
+    PackingRoom m_room;
+    z_stream m_stream{};
+};
+
+std::string packed(std::string_view text) {
+    static thread_local std::optional<PreparedStream> prepared;
+    if (const PackingRoom room(text.size()); !prepared || prepared->room() != room) {
+        prepared.emplace(room);
+    }
+    z_stream stream = prepared->copy();
     std::string bytes(deflateBound(&stream, zlibSize(text)), '\0');
     stream.next_in = zlibBytes(text);
     stream.avail_in = zlibSize(text);

@@ -105,7 +105,7 @@ std::vector<Box> SheetCard::Columns::inOrder() const {
 SheetCard::SheetCard(const VectorSheet& sheet, const Box& box, Room room,
                      const SheetOptions& options)
     : m_sheet(sheet), m_box(box), m_room(room), m_isPlain(options.isPlain),
-      m_outlines(options.outlines), m_text(sheetText(sheet.record.text)),
+      m_outlines(options.outlines), m_text(sheetText(sheet.record.text)), m_list(m_text),
       m_legend(m_isPlain ? std::vector<LegendRow>() : sheet.facts.legend), m_body(box),
       m_ink(inkOf(sheet.record)) {
     if (!m_isPlain) {
@@ -246,7 +246,7 @@ PageFlow SheetCard::textToRead(double width, double factor, BlockParts parts) co
     if (m_linesInHead.empty()) {
         blocks = textOfDrawing(width, size);
     }
-    appendPart(blocks, listBlocks(m_text, width, size, m_isPlain ? "" : "ALSO ABOARD"));
+    appendPart(blocks, m_list.blocks(width, size, m_isPlain ? "" : "ALSO ABOARD", parts));
     appendPart(blocks, m_legend.blocks(width, factor, parts));
     return PageFlow(std::move(blocks));
 }
@@ -385,6 +385,7 @@ std::vector<PageBlock> SheetCard::putOn(Page& page) const {
     if (!m_isPlain) {
         addExtras(text, silhouette, drawing);
     }
+    page.items.reserve(page.items.size() + text.items.size());
     std::ranges::move(text.items, std::back_inserter(page.items));
     return flow.takeRest();
 }

@@ -88,6 +88,7 @@ private:
     bool m_isPlain;
     Silhouette::Outlines* m_outlines;
     SheetText m_text;
+    ListText m_list;
     LegendText m_legend;
     std::vector<PageBlock> m_linesInHead;
     PageBlock m_head;

@@ -54,41 +54,46 @@ char* putNumber(char* at, int number) {
     return at;
 }
 
-void addBox(std::string& path, int left, int top, int right, int bottom) {
-    std::array<char, sizeof("M00 00L00 00L00 00L00 00Z")> text;
-    char* at = text.data();
-    const auto step = [&at](char command, int x, int y) {
-        *at++ = command;
-        at = putNumber(at, x);
-        *at++ = ' ';
-        at = putNumber(at, y);
-    };
-    step('M', left, top);
-    step('L', right, top);
-    step('L', right, bottom);
-    step('L', left, bottom);
+char* putPoint(char* at, char command, int x, int y) {
+    *at++ = command;
+    at = putNumber(at, x);
+    *at++ = ' ';
+    return putNumber(at, y);
+}
+
+char* putBox(char* at, int left, int top, int right, int bottom) {
+    at = putPoint(at, 'M', left, top);
+    at = putPoint(at, 'L', right, top);
+    at = putPoint(at, 'L', right, bottom);
+    at = putPoint(at, 'L', left, bottom);
     *at++ = 'Z';
-    path.append(text.data(), static_cast<std::size_t>(at - text.data()));
+    return at;
 }
 
 /// Its dark modules, a box for each run in a row.
 std::string modulesOf(const QRcode& symbol) {
+    constexpr std::size_t mostRuns = largestSide / 2,
+                          longestBox = sizeof "M00 00L00 00L00 00L00 00Z";
+    std::array<char, mostRuns * longestBox> row;
     std::string path;
     path.reserve(std::size_t(symbol.width) * std::size_t(symbol.width) * 8);
     const unsigned char* module = symbol.data;
-    for (int y = quietZone; y < symbol.width + quietZone; ++y) {
+    const int end = symbol.width + quietZone;
+    for (int y = quietZone; y < end; ++y) {
+        char* at = row.data();
         int start = -1;  // of the run, if there is one
-        for (int x = quietZone; x < symbol.width + quietZone; ++x) {
+        for (int x = quietZone; x < end; ++x) {
             const bool isDark = (*module++ & 1) != 0;
             if (isDark && start < 0) {
                 start = x;
             } else if (!isDark && start >= 0) {
-                addBox(path, std::exchange(start, -1), y, x, y + 1);
+                at = putBox(at, std::exchange(start, -1), y, x, y + 1);
             }
         }
         if (start >= 0) {
-            addBox(path, start, y, symbol.width + quietZone, y + 1);
+            at = putBox(at, start, y, end, y + 1);
         }
+        path.append(row.data(), static_cast<std::size_t>(at - row.data()));
     }
     return path;
 }

@@ -68,6 +68,7 @@ MeasuredText::MeasuredText(std::string_view text, PageFont font)
     : m_text(shownText(text, text.size())), m_font(font), m_blank(textWidth(" ", 1, font)),
       m_width(m_blank * static_cast<double>(std::ranges::count(m_text, ' '))) {
     const std::string_view all = m_text;
+    m_words.reserve(static_cast<std::size_t>(std::ranges::count(all, ' ')) + 1);
     for (std::size_t start = all.find_first_not_of(' '); start < all.size();) {
         const std::size_t end = std::min(all.find(' ', start), all.size());
         const double width = textWidth(all.substr(start, end - start), 1, font);

@@ -51,6 +51,22 @@ std::string together(std::string words) {
     return words;
 }
 
+/// Adds a block for each line of a text.
+void addLines(std::vector<PageBlock>& blocks, const MeasuredText& text, double width, double size,
+              BlockParts parts) {
+    if (parts == BlockParts::Heights) {
+        BlockWriter writer;
+        writer.leaveOut(1, size);
+        blocks.insert(blocks.end(), text.lineCount(size, width), writer.block);
+        return;
+    }
+    for (std::string& line : text.lines(size, width)) {
+        BlockWriter writer;
+        writer.write({std::move(line)}, {.text = {}, .size = size});
+        blocks.push_back(std::move(writer.block));
+    }
+}
+
 void appendPart(std::string& text, std::string_view parting, const std::string& part) {
     if (!part.empty()) {
         text += (text.empty() ? "" : std::string(parting)) + part;
@@ -106,44 +122,43 @@ SheetText sheetText(std::string_view text) {
 
 std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width,
                                   double size) {
-    const PageText style = {.text = {}, .size = size};
     std::vector<PageBlock> blocks;
     for (const std::string& text : lines) {
-        for (std::string& line : MeasuredText(text, style.font).lines(size, width)) {
-            BlockWriter writer;
-            writer.write({std::move(line)}, style);
-            blocks.push_back(std::move(writer.block));
-        }
+        addLines(blocks, MeasuredText(text), width, size, BlockParts::All);
     }
     return blocks;
 }
 
-std::vector<PageBlock> listBlocks(const SheetText& text, double width, double size,
-                                  std::string_view heading) {
-    if (text.listed.empty()) {
-        return {};
-    }
+ListText::ListText(const SheetText& text) : m_separator(text.separator) {
     std::map<std::string_view, std::int64_t> counts;
     for (const std::string& name : text.listed) {
         ++counts[name];
     }
-    std::vector<std::string> lines;
     for (const std::string& name : text.listed) {
         const std::int64_t count = std::exchange(counts[name], 0);
         if (count > 0) {
-            lines.push_back(name + (count == 1 ? "" : pieces(count)));
+            m_lines.emplace_back(name + (count == 1 ? "" : pieces(count)));
         }
+    }
+}
+
+std::vector<PageBlock> ListText::blocks(double width, double size, std::string_view heading,
+                                        BlockParts parts) const {
+    if (m_lines.empty()) {
+        return {};
     }
     BlockWriter writer;
     if (!heading.empty()) {
         writer.write({std::string(heading)}, {.text = {}, .size = 2.1, .colour = quietColour});
     }
     writer.write(
-        {text.separator},
-        fittedText(text.separator, {.text = {}, .size = size, .colour = quietColour}, width, 1));
+        {m_separator},
+        fittedText(m_separator, {.text = {}, .size = size, .colour = quietColour}, width, 1));
     writer.block.staysWithNext = true;
     std::vector<PageBlock> blocks = {std::move(writer.block)};
-    appendBlocks(blocks, lineBlocks(lines, width, size));
+    for (const MeasuredText& line : m_lines) {
+        addLines(blocks, line, width, size, parts);
+    }
     return blocks;
 }
 

@@ -25,15 +25,24 @@ inline constexpr double textLineSize = 2.8;
 
 /// Lines of text.
 std::vector<PageBlock> lineBlocks(const std::vector<std::string>& lines, double width, double size);
-/// The list of systems without a place, equal ones once with their count, under a heading if that
-/// is not empty.
-std::vector<PageBlock> listBlocks(const SheetText& text, double width, double size,
-                                  std::string_view heading);
 /// "fore, port; mass 3, 10 points each", or "2 with the hull; 1 more: mass 1, 4 points", in which
 /// blanks that part no line are no-break spaces.
 std::string particulars(const LegendRow& row);
 /// What blocks are made with: whoever tries many layouts needs the heights alone.
 enum class BlockParts { All, Heights };
+/// The list of systems without a place, equal ones once with their count, for columns of any width.
+class ListText {
+public:
+    explicit ListText(const SheetText& text);
+
+    /// Under a heading if that is not empty.
+    std::vector<PageBlock> blocks(double width, double size, std::string_view heading,
+                                  BlockParts parts) const;
+
+private:
+    std::string m_separator;
+    std::vector<MeasuredText> m_lines;
+};
 /// The legend, for columns of any width.
 class LegendText {
 public:

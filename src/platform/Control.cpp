@@ -1,5 +1,7 @@
 #include "Control.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace fleetwright {
@@ -11,9 +13,14 @@ Control::Control(Container* container, ControlDesign design)
     }
 }
 
+/// The controls of a form go in the opposite order.
 Control::~Control() {
-    if (m_container != nullptr) {
-        std::erase(m_container->m_controls, this);
+    if (m_container == nullptr) {
+        return;
+    }
+    std::vector<Control*>& all = m_container->m_controls;
+    if (const auto found = std::find(all.rbegin(), all.rend(), this); found != all.rend()) {
+        all.erase(std::next(found).base());
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -70,9 +71,15 @@ SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
             smallest.push_back(map);
         }
     }
-    const auto best =
-        std::ranges::min_element(smallest, {}, [&](const SSDMaps::Map& map) { return kind(*map); });
-    return best == smallest.end() ? nullptr : *best;
+    SSDMaps::Map best;
+    std::optional<decltype(kind(*best))> bestKind;
+    for (const SSDMaps::Map& map : smallest) {
+        if (auto found = kind(*map); !bestKind || found < *bestKind) {
+            best = map;
+            bestKind = std::move(found);
+        }
+    }
+    return best;
 }
 
 std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount) {

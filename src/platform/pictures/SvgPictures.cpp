@@ -120,6 +120,8 @@ std::string SvgPictures::nameOf(const PagePicture& picture) {
                                             : static_cast<const void*>(picture.raster.get());
     const auto [known, isNew] = m_pictures.try_emplace(key, std::string());
     if (isNew) {
+        constexpr std::size_t usualSize = 1U << 16U;  // bytes of all pictures of a sheet
+        m_definitions.reserve(usualSize);
         known->second = "picture" + std::to_string(m_pictures.size());
         if (picture.drawing) {
             defineDrawing(known->second, picture.drawing);

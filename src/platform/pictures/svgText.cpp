@@ -37,7 +37,7 @@ constexpr int decimals = 4;
 
 /// The digits of a number, which is not negative, times 10000 and rounded, from the right; where
 /// they begin.
-char* writeRounded(std::uint64_t scaled, char* end) {
+char* writeRounded(std::uint32_t scaled, char* end) {
     char* at = end;
     bool isShown = false;  // no zeros at the end of the decimals
     for (int place = 0; place < decimals; ++place, scaled /= 10) {
@@ -81,16 +81,15 @@ void addSvgNumber(std::string& written, double value) {
     // The product is off by less than a millionth: only near the middle between two results could
     // that matter.
     const double scaled = std::fabs(value) * 10'000;
-    const auto rounded = static_cast<std::uint64_t>(scaled + 0.5);
     constexpr double unsure = 0.001;
-    if (scaled > 1e9 ||
-        std::fabs(std::fabs(scaled - static_cast<double>(rounded)) - 0.5) < unsure) {
+    const auto rounded = static_cast<std::int32_t>(std::min(scaled, most) + 0.5);
+    if (scaled > most || std::fabs(std::fabs(scaled - rounded) - 0.5) < unsure) {
         addExactly(written, value);
         return;
     }
     char buffer[32];
     char* const end = buffer + sizeof buffer;
-    char* at = writeRounded(rounded, end);
+    char* at = writeRounded(static_cast<std::uint32_t>(rounded), end);
     if (value < 0 && rounded != 0) {
         *--at = '-';
     }
