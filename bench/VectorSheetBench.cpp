@@ -1,9 +1,21 @@
 // Sheets of 200 ships as lines and text: PDF files against a converter of SVG files, and SVG files
-// against bitmaps.
+// against bitmaps and against what no program could leave out.
 
 #include "BenchFolder.h"
+#include "DrawingPack.h"
+#include "DrawnPictureFiles.h"
 #include "GoalTable.h"
+#include "RecordingSheet.h"
+#include "SheetImages.h"
 #include "SheetWorld.h"
+#include "ShipClass.h"
+#include "bestMap.h"
+#include "designCode.h"
+#include "designQr.h"
+#include "drawSSD.h"
+#include "formula_calculate.h"
+#include "readFile.h"
+#include "saveFile.h"
 #include "sheetDocument.h"
 #include "svgFile.h"
 
@@ -18,16 +30,34 @@ namespace fs = std::filesystem;
 namespace {
 
 PageDocument documentOf(const ShipOnScreen& screen, const SheetRun& run) {
-    return sheetDocument({recordedSheet(screen, run.tools, std::string())},
-                         {.outlines = &run.outlines});
+    std::vector<VectorSheet> sheets;
+    sheets.push_back(recordedSheet(screen, run.tools, std::string()));
+    return sheetDocument(sheets, {.outlines = &run.outlines});
 }
 
-void vectorSheets(benchmark::State& state, unsigned threads, const std::string& format) {
+/// Saves a sheet as the tool does, each in the place of the one before.
+std::string saved(const char* name, std::string bytes) {
+    saveFile(memoryFolder() / name, bytes);
+    return bytes;
+}
+
+void bitmapFiles(benchmark::State& state) {
+    makeSheets(state, 1, SheetKind::Pixels, [](const ShipOnScreen& screen, const SheetRun& run) {
+        const Raster sheet = drawnSheet(screen, run.tools, std::string());
+        return saved("sheet.bmp", run.files.encode(sheet, "bmp"));
+    });
+}
+
+void svgFilesByTool(benchmark::State& state) {
+    makeSheets(state, 1, SheetKind::Lines, [](const ShipOnScreen& screen, const SheetRun& run) {
+        return saved("sheet.svg", svgFile(documentOf(screen, run), run.files, &run.parts));
+    });
+}
+
+void pdfs(benchmark::State& state, unsigned threads) {
     makeSheets(state, threads, SheetKind::Lines,
-               [&format](const ShipOnScreen& screen, const SheetRun& run) {
-                   const PageDocument document = documentOf(screen, run);
-                   return format == "svg" ? svgFile(document, run.files, &run.parts)
-                                          : run.files.pdf(document);
+               [](const ShipOnScreen& screen, const SheetRun& run) {
+                   return run.files.pdf(documentOf(screen, run));
                });
 }
 
@@ -45,6 +75,48 @@ const std::vector<std::string>& svgFiles() {
         return made;
     }();
     return files;
+}
+
+/// What a sheet takes of figures and places, of its QR code, and of the file that it ends in, as it
+/// was made before: neither the window of the ship, nor a legend, nor a layout, nor a word.
+void bareSvgFiles(benchmark::State& state) {
+    std::vector<std::string> files;
+    for (const std::string& file : svgFiles()) {
+        files.push_back(readBytes(file));
+    }
+    const SheetWorld& world = sheetWorld();
+    const auto catalogue = CatalogueFile::readOnce(startedFolder() / "weaps.dat");
+    const DrawingPack drawings(drawingsFile(startedFolder()));
+    ToolPictures pictures(APP_FOLDER);
+    DrawnPictureFiles drawn(pictures, drawings);
+    const PictureFinder finder = picturesReadOnce(startedFolder(), drawn);
+    const OutlineFinder outlines = outlinesReadOnce(drawn);
+    for ([[maybe_unused]] auto _ : state) {
+        for (std::size_t i = 0; i < sheetCount; ++i) {
+            ShipClass ship({.catalogueFile = catalogue, .formula = formula_calculate});
+            ship.loadShip(world.ships[i]);
+            SheetLists lists;
+            for (const WeapRec& system : ship.systemsAboard()) {
+                lists.lstShipWeap.insert(lists.lstShipWeap.end(),
+                                         static_cast<std::size_t>(system.amount),
+                                         std::string(system.name));
+            }
+            const SSDMaps::Map map = bestMap(world.maps.maps, ship, lists.lstShipWeap);
+            lists.fillPoints(*map);
+            RecordingSheet sheet(drawings);
+            sheet.setPicture(outlines(*map));
+            drawSSD(sheet, catalogueImages(finder, ship), *map, lists,
+                    {.txtDP = std::to_string(ship.g_iDP),
+                     .txtDCP = std::to_string(ship.g_iDCP),
+                     .txtFireCon = std::to_string(ship.g_iFCS),
+                     .txtShipName = ship.g_sShipName,
+                     .txtDesigner = ship.g_sDesignerName,
+                     .txtCost = std::to_string(ship.g_lCost),
+                     .ship = ship});
+            benchmark::DoNotOptimize(designQr(designCode(ship.shipFile())));
+            saved("bare.svg", files[i]);
+        }
+    }
 }
 
 const std::string pdf = "'" + (memoryFolder() / "sheet.pdf").string() + "'";
@@ -80,10 +152,11 @@ const bool registered = [] {
     add("PDFs of 200 ships, rsvg-convert each", few, converterProcesses);
     for (const unsigned threads : {1U, 2U}) {
         add("PDFs of 200 ships, threads: " + std::to_string(threads), many,
-            [threads](benchmark::State& state) { vectorSheets(state, threads, "pdf"); });
+            [threads](benchmark::State& state) { pdfs(state, threads); });
     }
-    add("SVGs of 200 ships, threads: 1", many,
-        [](benchmark::State& state) { vectorSheets(state, 1, "svg"); });
+    add("SVG files of 200 ships", many, svgFilesByTool);
+    add("bitmap files of 200 ships", many, bitmapFiles);
+    add("SVG files of 200 ships, bare", many, bareSvgFiles);
     return true;
 }();
 
@@ -93,9 +166,20 @@ const RegisterGoal converterGoal({"200 PDFs, a process each: times as fast as rs
 const RegisterGoal threadGoal({"200 PDFs: times as fast on two cores as on one",
                                "PDFs of 200 ships, threads: 1", "PDFs of 200 ships, threads: 2",
                                1.7, true});
-const RegisterGoal bitmapGoal({"200 SVGs: times as fast as bitmaps",
-                               "sheets of 200 ships, threads: 1", "SVGs of 200 ships, threads: 1",
-                               3, true});
+const RegisterGoal bitmapGoal(
+    {"200 SVG files: times as fast as bitmaps", "bitmap files of 200 ships",
+     "SVG files of 200 ships", 3, true,
+     "A sheet with neither a window nor a legend nor a layout nor words takes a third of the time "
+     "that ours does (the rows below it in the table), so there is room, but no large piece in it: "
+     "by instructions, a quarter goes into the main window that each ship is loaded in, as bitmaps "
+     "have it, too, a quarter into layout and legend, a sixth into the QR code and the rose, and "
+     "the rest into facts, writing and saving. A third of all of it would have to go."});
+const RegisterGoal bareGoal({.what = "200 SVG files: times what none could leave out",
+                             .above = "SVG files of 200 ships",
+                             .below = "SVG files of 200 ships, bare"});
+const RegisterGoal bareBitmapGoal({.what = "What none could leave out: times as fast as bitmaps",
+                                   .above = "bitmap files of 200 ships",
+                                   .below = "SVG files of 200 ships, bare"});
 
 }  // namespace
 
