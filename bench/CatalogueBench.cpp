@@ -62,7 +62,7 @@ const bool registered = [] {
             bench->Repetitions(9)->MinTime(0.1);
         }
         RegisterGoal({"New ship, catalogue of " + std::to_string(records) + ": times a plain read",
-                      own, peer, 3, false});
+                      own, peer, 2, false});
     }
     RegisterGoal({"New ship, catalogue of 10000: times one of 100", "new ship, 10000 records",
                   "new ship, 100 records", 110, false});

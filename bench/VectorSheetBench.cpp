@@ -93,7 +93,7 @@ void bareSvgFiles(benchmark::State& state) {
     const OutlineFinder outlines = outlinesReadOnce(drawn);
     for ([[maybe_unused]] auto _ : state) {
         for (std::size_t i = 0; i < sheetCount; ++i) {
-            ShipClass ship({.catalogueFile = catalogue, .formula = formula_calculate});
+            ShipClass ship({catalogue, formula_calculate, {}});
             ship.loadShip(world.ships[i]);
             SheetLists lists;
             for (const WeapRec& system : ship.systemsAboard()) {

@@ -6,6 +6,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace fleetwright {
 
@@ -65,6 +66,8 @@ bool SSDMap::loadMap(const std::string& in_sFileName) {
     m_aWeapPnts.clear();
     m_aDCPPnts.clear();
     m_aFireconPnts.clear();
+    constexpr std::size_t usualCount = 48;  // few maps have more points for weapons
+    m_aWeapPnts.reserve(usualCount);
     const std::string text = readMapFile(m_appFolder, in_sFileName);
     sDisplayName = in_sFileName;
 

@@ -2,6 +2,7 @@
 
 #include "FontSubset.h"
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
