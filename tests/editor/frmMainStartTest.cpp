@@ -7,12 +7,21 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 using namespace fleetwright;
 
 TEST(FrmMain, IsLaidOutAsItIs) {
     TestWindow test;
     test.window().show();
-    expectCases("editor/golden/layout.txt", [&](const Case&) { return layoutOf(test.window()); });
+    test.fleet().show();
+    expectCases("editor/golden/layout.txt", [&](const Case& each) {
+        if (each["fleet"].empty()) {
+            return layoutOf(test.window());
+        }
+        test.fleet().resize(std::stoi(each["fleet"]), std::stoi(each["fleet"]));
+        return layoutOf(test.fleet());
+    });
 }
 
 TEST(FrmMain, WithoutACatalogueSaysSoAndEnds) {
