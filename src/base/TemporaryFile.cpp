@@ -3,6 +3,7 @@
 #include "fileCalls.h"
 
 #include <cstddef>
+#include <mutex>
 #include <random>
 #include <string>
 #include <string_view>
@@ -18,7 +19,10 @@ constexpr std::string_view ending = ".tmp";
 
 std::string newName() {
     constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
-    static thread_local std::random_device random;  // it takes long to find its source
+    // One for all, since it takes long to find its source.
+    static std::mutex mutex;
+    static std::random_device random;
+    const std::lock_guard lock(mutex);
     std::uniform_int_distribution<std::size_t> pick(0, letters.size() - 1);
     std::string name(beginning);
     for (int i = 0; i < 10; ++i) {

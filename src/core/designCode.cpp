@@ -183,10 +183,10 @@ public:
     ~PreparedStream() { deflateEnd(&m_stream); }
 
     const PackingRoom& room() const { return m_room; }
-    /// A stream that goes on from here, which whoever has it ends.
-    z_stream copy() {
+    /// A stream that goes on from here, which whoever has it ends. Any number of threads may ask.
+    z_stream copy() const {
         z_stream stream{};
-        if (deflateCopy(&stream, &m_stream) != Z_OK) {
+        if (deflateCopy(&stream, const_cast<z_stream*>(&m_stream)) != Z_OK) {  // it only reads
             throw std::bad_alloc();
         }
         return stream;
@@ -198,11 +198,10 @@ private:
 };
 
 std::string packed(std::string_view text) {
-    static thread_local std::optional<PreparedStream> prepared;
-    if (const PackingRoom room(text.size()); !prepared || prepared->room() != room) {
-        prepared.emplace(room);
-    }
-    z_stream stream = prepared->copy();
+    constexpr std::size_t usualSize = 512;  // bytes of a ship file
+    static const PreparedStream usual{PackingRoom(usualSize)};
+    const PackingRoom room(text.size());
+    z_stream stream = room == usual.room() ? usual.copy() : PreparedStream(room).copy();
     std::string bytes(deflateBound(&stream, zlibSize(text)), '\0');
     stream.next_in = zlibBytes(text);
     stream.avail_in = zlibSize(text);
