@@ -44,19 +44,22 @@ VIAddVersionKey "LegalCopyright" "The FleetWright developers"
 ; A program that runs cannot be replaced.
 !macro StopWhileItRuns
   ${For} $1 1 20  ; its end, or that of a removal, may take a moment
-    ClearErrors
+    StrCpy $2 no
     ${If} ${FileExists} "$INSTDIR\FleetWright.exe"
+      ClearErrors
       FileOpen $0 "$INSTDIR\FleetWright.exe" a
-      ${IfNot} ${Errors}
+      ${If} ${Errors}  ; which asks for it only once
+        StrCpy $2 yes
+      ${Else}
         FileClose $0
       ${EndIf}
     ${EndIf}
-    ${IfNot} ${Errors}
+    ${If} $2 == no
       ${Break}
     ${EndIf}
     Sleep 250
   ${Next}
-  ${If} ${Errors}
+  ${If} $2 == yes
     MessageBox MB_OK|MB_ICONEXCLAMATION "FleetWright is running. Please close it first." /SD IDOK
     SetErrorLevel 1
     Quit
