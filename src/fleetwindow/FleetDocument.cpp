@@ -1,10 +1,12 @@
 #include "FleetDocument.h"
 
+#include "Error.h"
 #include "RecoverySteps.h"
 #include "base64.h"
 #include "fleetFile.h"
 #include "fleetPaths.h"
 #include "paths.h"
+#include "readFile.h"
 #include "text.h"
 
 #include <optional>
@@ -18,6 +20,14 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view stepsTitle = "FleetWright fleet steps 1";
+
+bool holds(const fs::path& file, const std::string& text) {
+    try {
+        return readBytes(file) == text;
+    } catch (const FileError&) {
+        return false;
+    }
+}
 
 }  // namespace
 
@@ -73,7 +83,11 @@ bool FleetDocument::adopt(const std::string& steps) {
     const std::string wanted = textOfSteps();
     const auto isHere = [&] {
         Fleet moved = parseFleet(history->now()).fleet;
-        moveFleet(moved, folder, m_folder);
+        try {
+            moveFleet(moved, folder, m_folder);
+        } catch (const FileError&) {
+            return false;  // such a name is in none of our files
+        }
         return fleetText(moved) == wanted;
     };
     while (!isHere()) {
@@ -127,7 +141,15 @@ void FleetDocument::save(const fs::path& file, const FleetRows& rows,
         }
     }
     moveFleet(written, m_folder, file.parent_path());
-    saveFleet(file, written);
+    try {
+        saveFleet(file, written);
+    } catch (const FileError&) {
+        // It may be there all the same, but not for sure. Then nobody else has changed the file.
+        if (file == m_file && holds(file, fleetText(written))) {
+            m_stamp = fileStamp(file);
+        }
+        throw;
+    }
     m_file = file;
     m_stamp = fileStamp(file);
     m_history.endStep();
