@@ -20,6 +20,14 @@ namespace fleetwright {
 
 namespace {
 
+/// Whether the text of a marked row, and the ground under its picture, are in colours of their own.
+/// Some styles mark the text alone, and that of Windows leaves its colour as it is.
+bool areMarkedRowsInOtherColours() {
+    const QStyle* const style = QApplication::style();
+    return style->styleHint(QStyle::SH_ItemView_ShowDecorationSelected) != 0 &&
+           style->name() != "windowsvista";
+}
+
 class PictureEngine : public QIconEngine {
 public:
     /// `face` is a face of the program as it is without a drawing, or null.
@@ -117,9 +125,10 @@ private:
     }
 
     QColor ink(const QPalette& palette, QIcon::Mode mode, bool isMarked) const {
+        const bool isOther = isMarked && (m_isFace || areMarkedRowsInOtherColours());
         return mode == QIcon::Disabled
                    ? palette.color(QPalette::Disabled, m_role)
-                   : palette.color(isMarked ? QPalette::HighlightedText : m_role);
+                   : palette.color(isOther ? QPalette::HighlightedText : m_role);
     }
 
     /// In pixels of the picture.

@@ -11,7 +11,6 @@
 #include <QKeySequence>
 #include <QPointer>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 
 #include <map>
 
@@ -19,34 +18,12 @@ namespace fleetwright {
 
 namespace {
 
-/// Rows whose picture is drawn in the colour of marked text only where it stands on the ground of
-/// such text.
-class PicturedRows : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        // Some styles mark the text alone, and that of Windows leaves its colour as it is.
-        const bool isMarked =
-            option->showDecorationSelected && QApplication::style()->name() != "windowsvista";
-        if (!isMarked && option->state.testFlag(QStyle::State_Selected)) {
-            const QPixmap unmarked = option->icon.pixmap(
-                option->decorationSize, option->widget->devicePixelRatio(), QIcon::Normal);
-            option->icon = QIcon();
-            option->icon.addPixmap(unmarked, QIcon::Selected);
-        }
-    }
-};
-
 /// A tree widget and the nodes that its items stand for.
 class NodeTree : public ItemWidget {
 public:
     NodeTree(TreeView& tree, QWidget* parent, const Scale& scale)
         : ItemWidget(tree, parent), m_tree(tree), m_scale(scale) {
         setColumnCount(1);
-        setItemDelegate(new PicturedRows(this));
         header()->hide();
         keepZoomed(this, scale, [this] {
             constexpr int pictureSize = 32;
