@@ -21,27 +21,20 @@ namespace {
 class ShownSigns {
 public:
     void add(const PageText& text) {
+        const auto font = static_cast<std::size_t>(text.font);
         for (std::string_view rest = text.text; !rest.empty();) {
+            // Nearly all characters are of few, which are looked up once.
+            if (const auto code = static_cast<unsigned char>(rest.front()); code < asciiCount) {
+                if (!std::exchange(m_isKnown[font][code], true)) {
+                    addAll(rest.substr(0, 1), text.font);
+                }
+                rest.remove_prefix(1);
+                continue;
+            }
             const std::string_view character = rest.substr(0, characterLength(rest));
             rest.remove_prefix(character.size());
-            // Nearly all characters are of few, which are looked up once.
-            if (const auto code = static_cast<unsigned char>(character.front());
-                code < asciiCount &&
-                std::exchange(m_isKnown[static_cast<std::size_t>(text.font)][code], true)) {
-                continue;
-            }
-            if (character.size() > 1 && !m_others[static_cast<std::size_t>(text.font)]
-                                             .insert(codePoint(character))
-                                             .second) {
-                continue;
-            }
-            if (character.front() >= ' ' && character.front() <= '~') {
-                add(pageSign(static_cast<unsigned char>(character.front()), text.font));
-                continue;
-            }
-            for (const PageSign& sign : pageSigns(character, text.font)) {
-                add(sign);
-                addJoined(sign, text.font);
+            if (character.size() == 1 || m_others[font].insert(codePoint(character)).second) {
+                addAll(character, text.font);
             }
         }
     }
@@ -52,7 +45,14 @@ public:
 private:
     static constexpr std::size_t asciiCount = 128;
 
-    void add(const PageSign& sign) { of(sign.face).push_back({sign.character, sign.drawn}); }
+    void addAll(std::string_view character, PageFont font) {
+        for (const PageSign& sign : pageSigns(character, font)) {
+            of(sign.face).push_back({sign.character, sign.drawn});
+            if (sign.character >= asciiCount) {
+                addJoined(sign, font);
+            }
+        }
+    }
 
     /// Readers join letters with pictures of one face alone.
     void addJoined(const PageSign& letter, PageFont font) {
