@@ -1,6 +1,7 @@
 #include "Actor.h"
 
 #include "Error.h"
+#include "paths.h"
 #include "sheetShip.h"
 
 #include <algorithm>
@@ -201,7 +202,7 @@ void Actor::lookAtPutAside() {
         }
     }
     for (const std::string& name : m_putAside) {
-        if (!names.contains(name) && !fs::exists(m_app / "trash" / name)) {
+        if (!names.contains(name) && !fs::exists(m_app / "trash" / nativePath(name))) {
             m_faults += "a design put aside is lost: " + name + '\n';
         }
     }

@@ -87,6 +87,12 @@ std::vector<fs::directory_entry> entriesIn(const fs::path& folder, std::error_co
     if (search != INVALID_HANDLE_VALUE) {
         FindClose(search);
     }
+    std::error_code unknown;
+    const fs::file_status status = fs::status(folder, unknown);
+    if (error && fs::exists(status) && !fs::is_directory(status)) {
+        error =
+            std::make_error_code(std::errc::not_a_directory);  // as the system does not always say
+    }
     return entries;
 }
 

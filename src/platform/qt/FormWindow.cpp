@@ -381,6 +381,9 @@ bool FormWindow::isStubborn(const QSize& size) {
 
 void FormWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
+    if (QApplication::platformName() == "windows") {
+        keepOnScreen();  // on which that system does not always put the whole of a new window
+    }
     m_form.paint();
 }
 

@@ -11,7 +11,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     if (QFontDatabase::families().isEmpty()) {  // as on Windows without a screen
-        QApplication::setFont(fleetwright::pageFont(fleetwright::PageFace::Regular));
+        constexpr int points = 9;
+        const QString family = fleetwright::pageFont(fleetwright::PageFace::Regular).family();
+        QApplication::setFont(QFont(family, points));
     }
     return RUN_ALL_TESTS();
 }
