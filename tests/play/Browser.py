@@ -115,7 +115,10 @@ class Browser:
         raise AssertionError("never true: " + condition)
 
     def tap_at(self, *points):
-        """A finger that goes from point to point."""
+        """A finger that goes from point to point, once the page has been painted as it is scrolled now: what a
+        finger meets is found by what is on the screen."""
+        self.call("Runtime.evaluate", awaitPromise=True, expression="new Promise("
+                  "done => requestAnimationFrame(() => requestAnimationFrame(done)))")
         for i, (x, y) in enumerate(points):
             self.call("Input.dispatchTouchEvent", type="touchMove" if i else "touchStart",
                       touchPoints=[{"x": x, "y": y}])
