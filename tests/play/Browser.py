@@ -103,16 +103,21 @@ class Browser:
             raise RuntimeError(f"{script}: {answer['exceptionDetails']}")
         return answer["result"].get("value")
 
-    def wait_for(self, condition):
-        end = time.monotonic() + PATIENCE
+    def becomes(self, condition, seconds):
+        """Whether it is true within so many seconds."""
+        end = time.monotonic() + seconds
         while time.monotonic() < end:
             try:
                 if self.run(condition):
-                    return
+                    return True
             except RuntimeError:
                 pass  # between two pages
             time.sleep(0.02)
-        raise AssertionError("never true: " + condition)
+        return False
+
+    def wait_for(self, condition):
+        if not self.becomes(condition, PATIENCE):
+            raise AssertionError("never true: " + condition)
 
     def tap_at(self, *points):
         """A finger that goes from point to point, once the page has been painted as it is scrolled now: what a

@@ -52,8 +52,14 @@ def by_id(name):
     return f"document.getElementById('{name}')"
 
 
-def choose(kind):
-    browser.wait_for("document.getElementById('chooser').open")
+def choose(kind, tap):
+    """Taps a piece and chooses its mark. On a busy machine a tap can last so long that it is none."""
+    is_open = "document.getElementById('chooser').open"
+    for _ in range(5):
+        tap()
+        if browser.becomes(is_open, 3):
+            break
+    browser.wait_for(is_open)
     browser.tap(f"[...document.querySelectorAll('#chooser .choice')].find(e => e.textContent === '{kind}')")
 
 
@@ -105,19 +111,21 @@ def damage_boxes():
 
 
 def systems():
-    tap_drawn("pieces", 0)
-    choose("Destroyed")
+    def first_piece():
+        tap_drawn("pieces", 0)
+
+    def thrust():
+        browser.tap("[...document.querySelectorAll('.piece')].find(e => e.ariaLabel.includes('Thrust'))")
+
+    choose("Destroyed", first_piece)
     name = browser.run(f"{by_id('said')}.textContent.split('\\u2068')[2].split('\\u2069')[0]")
     expect(words().split("|")[1], f"Destroyed: {name}", "a system destroyed on the drawing")
-    browser.tap("[...document.querySelectorAll('.piece')].find(e => e.ariaLabel.includes('Thrust'))")
-    choose("Damaged")
+    choose("Damaged", thrust)
     expect(browser.run(f"{shown('.figures')}.innerText").count("(damaged)"), 1, "the thrust in the head")
-    tap_drawn("pieces", 0)
-    choose("Whole")
+    choose("Whole", first_piece)
     expect(words().split("|")[1], "Damaged: Thrust Drive 6", "a system whole again")
     expect(browser.run(f"{shown('.marks')}.querySelectorAll('path.damaged').length"), 1, "marks on the drawing")
-    tap_drawn("pieces", 0)
-    choose("Used up")
+    choose("Used up", first_piece)
     expect(words().split("|")[1:], ["Damaged: Thrust Drive 6", "Used up: " + name], "a system used up")
     expect(said(), f"<b>One</b>: {name} is used up", "what is said of it")
     marks = browser.run(f"[...{shown('.marks')}.querySelectorAll('path')].map(e => e.className.baseVal).join()")
