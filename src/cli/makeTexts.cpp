@@ -179,10 +179,10 @@ int main(int argc, char** argv) {
         }
         const std::string text = readTextFile(nativePath(argv[2]));
         const bool isManual = std::string_view(argv[1]) == "manual";
-        saveFile(nativePath(argv[3]), isManual ? filled(text, {{"@commands@", manualEntries()}})
-                                               : filled(text, {{"@commands@", commandNames()},
-                                                               {"@options@", optionBranches()},
-                                                               {"@values@", valueBranches()}}));
+        saveFile(nativePath(argv[3]), isManual ? filled(text, {{"%commands%", manualEntries()}})
+                                               : filled(text, {{"%commands%", commandNames()},
+                                                               {"%options%", optionBranches()},
+                                                               {"%values%", valueBranches()}}));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
