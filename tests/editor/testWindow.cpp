@@ -256,7 +256,7 @@ TestWindow::TestWindow(std::string_view catalogue)
         .sources = {outlinesIn(*m_cached), m_images, *m_sheets},
         .g_colSSDMaps = globals.g_colSSDMaps,
         .g_iLargestSSD = globals.g_iLargestSSD,
-        .newShip = {},
+        .newShip = [this] { return newShip(); },
         .say = [this](const std::string& text) { window().sbStatus.setText(text); }});
     makeFleet();
 }
@@ -303,17 +303,22 @@ void TestWindow::makeFleet() {
             }});
 }
 
+std::unique_ptr<ShipClass> TestWindow::newShip() const {
+    return std::make_unique<ShipClass>(
+        ShipServices{CatalogueFile(m_folder.path() / "weaps.dat"), globals.formula, {}});
+}
+
 FleetRow TestWindow::readShip(const std::string& name) const {
     FleetRow row;
-    ShipClass ship({CatalogueFile(m_folder.path() / "weaps.dat"), globals.formula, {}});
-    if (!ship.loadShip(name)) {
-        row.faults.push_back(*ship.fileFault());
+    const auto ship = newShip();
+    if (!ship->loadShip(name)) {
+        row.faults.push_back(*ship->fileFault());
         return row;
     }
-    row.fingerprint = fingerprint(ship.shipFile());
-    ship.weapChange();
-    row.figures = shipFigures(ship);
-    for (const RefusedLine& line : ship.refusedLines()) {
+    row.fingerprint = fingerprint(ship->shipFile());
+    ship->weapChange();
+    row.figures = shipFigures(*ship);
+    for (const RefusedLine& line : ship->refusedLines()) {
         row.faults.push_back(line.fault);
     }
     return row;

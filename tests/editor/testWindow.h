@@ -41,6 +41,7 @@ public:
     frmFleet& fleet() { return *m_fleet; }
     ShipClass& ship() { return *m_window->g_Ship; }
     Desktop& desktop();
+    const SheetOutput& sheets() const { return *m_output; }
     /// Everything shown on the desktop since the last call: "box: text; " and the like.
     std::string takeLog();
     /// Selects the node of a system in the tree.
@@ -90,6 +91,7 @@ private:
     void takeTurn();
     void openOther(const std::string& name);
     void makeFleet();
+    std::unique_ptr<ShipClass> newShip() const;
     FleetRow readShip(const std::string& name) const;
 
     TemporaryFolder m_folder;

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "Actor.h"
-#include "QtPrograms.h"
-#include "QtRegistry.h"
-#include "frmAbout.h"
 
 namespace fleetwright {
 
@@ -11,12 +8,9 @@ namespace fleetwright {
 /// dialogs as they open.
 template <typename Task>
 void forEachWindow(Actor& actor, const Task& task) {
-    QtPrograms programs;
-    QtRegistry registry;
-    frmAbout about({.desktop = actor.test.desktop(), .programs = programs, .registry = registry});
     frmAmountSlider amount;
     std::vector<Form*> forms = actor.windows();
-    forms.insert(forms.end(), {&about, &amount});
+    forms.push_back(&amount);
     actor.test.inDialog = [&](Form& form) {
         task(form);
         form.unload();

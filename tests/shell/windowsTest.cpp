@@ -87,6 +87,8 @@ class World {
 public:
     World() {
         for (Form* const form : forms) {
+            m_connections.push_back(form->Raised.connect(
+                [this, form] { machine.log += "front " + form->name() + "; "; }));
             for (Control* const control : form->controls()) {
                 const std::string name = form->name() + '.' + control->name();
                 m_controls[name] = control;

@@ -15,11 +15,22 @@ namespace {
 
 constexpr int mostActsMeanwhile = 10;
 
-/// Systems that are hard on AutoMass and on the width of the fields.
+/// Systems that are hard on AutoMass and on the width of the fields, and one that each sheet shows.
 const std::string oddSystems =
     "Wobble,mass % 4 = 2 ? mass / 2 + 1 : mass / 2 - 2,1,x,ALIEN,O,a.gif\n"
     "Titan,1000000000,2000000000,x,ALIEN,,a.gif\n"
+    "Damage Control Party,1,1,x,SYSTEMS,O,party.gif\n"
     "Rebate,-amount,-50 * amount,x,ALIEN,,a.gif\n";
+
+/// A map with room for most ships.
+std::string roomyMap() {
+    std::string text = "IMAGE: ship.gif\nSIZE: 300\nDAMROW: (4,90)\nFTL: (4,9)\nTHRUST: (9,9)\n";
+    for (int place = 0; place < 60; ++place) {
+        const std::string point = '(' + std::to_string(2 * place) + ',' + std::to_string(place);
+        text += "WEAP: " + point + ",F)\nDCP: " + point + ")\nFIRECON: " + point + ")\n";
+    }
+    return text;
+}
 
 /// What lies in the application folder beside the catalogue.
 const std::map<std::string, std::string> files = {
@@ -36,18 +47,32 @@ const std::map<std::string, std::string> files = {
     {"ships/Sheet.svg", "<svg><ships xmlns=\"https://fleetwright.org/ns/ships/\"><li>"
                         "TWFzczogNDAKU3lzdGVtOiBHdW4sIDIK</li></ships></svg>"},
     {"ships/NoShip.svg", "<svg/>"},
+    {"ships/Pair.fleet", "FleetWright fleet 1\nname = Pair\npoints limit = 300\n"
+                         "limit = Scout: 2 ships\n\nship = Gun.shp\ncount = 2\nnamed = One\n\n"
+                         "ship = None.shp\n\nship = Gun.shp\nnote = Again\n"},
+    {"ships/Faulty.fleet", "FleetWright fleet 1\npoints limit = x\n\nship = \ncount = 0\n"},
+    {"ships/Later.fleet", "FleetWright fleet 2\n"},
     {"ships/Empty.shp", ""},
     {"ships/Folder.shp/file", ""},
     {"ships/\xC3\x9C.shp", "Ship Name: \xC3\x9C\nMass: 6\n"},
     {"recovered/Lost, mass 6, then #3.shp~7", "Ship Name: Lost\nMass: 6\n"},
     {"recovered/.fleetwright-cut.tmp", "Ship Name: Lost\nMass: 6\n"},
+    {"recovered/Wing, mass 2, then #4.fleet~7",
+     "FleetWright fleet 1\nname = Wing\n\nship = ../ships/Gun.shp\n"},
     {"shipimages/ship.gif", ""},
     {"maps/ship.map", "IMAGE: ship.gif\nSIZE: 100\nWEAP: (3,4,F)\nWEAP: (9,9,P)\nDCP: (1,1)\n"},
+    {"maps/roomy.map", roomyMap()},
     {"maps/lost.map", "IMAGE: lost.bmp\nSIZE: 60\nWEAP: (3,4,F)\nWEAP: (5,4,F)\n"},
 };
 /// Files that are not there.
-const std::vector<std::string> otherFiles = {"ships/None.shp", "nowhere/at all", "a",        "new",
-                                             "ships/new",      "ssds/sheet",     "maps/made"};
+const std::vector<std::string> otherFiles = {
+    "ships/None.shp", "nowhere/at all", "a",         "new",
+    "ships/new",      "ssds/sheet",     "maps/made", "ships/new.fleet"};
+
+/// What others have put on the clipboard.
+const std::vector<std::string> copied = {"", "a word",
+                                         "Ship Name: Pasted\nMass: 30\nSystem: Gun, 1\n",
+                                         "FW1:none", "Ship Name: \xC3\nMass: x\n"};
 
 /// All controls inside one.
 void addLeaves(const Container& container, std::vector<Control*>& leaves) {
@@ -94,23 +119,46 @@ Raster Actor::Pictures::load(const fs::path& file) {
     return picture;
 }
 
+std::optional<Registry::Value> Actor::Tool::read(const std::string&, const std::string&) {
+    if (m_choices.oneIn(2)) {
+        return std::nullopt;
+    }
+    return Value{m_choices.oneIn(3) ? numberType : textType, "C:\\tool"};
+}
+
 Actor::Actor(Choices& source)
     : choices(source), test(std::string(windowCatalogue) + oddSystems),
-      m_mapper({.appFolder = m_app,
-                .desktop = test.desktop(),
-                .outlines = outlinesIn(m_pictures),
-                .encoder = m_decoder,
-                .images = m_images,
-                .g_colSSDMaps = test.globals.g_colSSDMaps,
-                .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
-                .ship = [this] { return sheetShip(main); }}),
+      m_mapper(
+          {.appFolder = m_app,
+           .desktop = test.desktop(),
+           .outlines = outlinesIn(m_pictures),
+           .encoder = m_decoder,
+           .images = m_images,
+           .g_colSSDMaps = test.globals.g_colSSDMaps,
+           .lvCurrentWeapons = main.aboard.lvCurrentWeapons,
+           .ship = [this] { return sheetShip(main); },
+           .actsFor =
+               [this](const SSDMap& map, const SheetOutput::Rows& aboard, const Raster& bitmap) {
+                   return test.sheets().acts(
+                       SheetOutput::madeAtOnce([&] {
+                           return test.sheets().onMap(sheetShip(main), aboard, map, bitmap);
+                       }),
+                       [this](const std::string& text) { m_mapper.say(text); });
+               }}),
       m_mapCreator({.appFolder = m_app,
                     .desktop = test.desktop(),
                     .pictures = m_pictures,
                     .clock = m_clock,
                     .eventLoopTurn = [this] { takeTurn(); },
                     .g_colSSDMaps = test.globals.g_colSSDMaps}),
-      m_viewer({.appFolder = m_app, .desktop = test.desktop(), .pictures = m_pictures}) {
+      m_viewer({.appFolder = m_app,
+                .desktop = test.desktop(),
+                .pictures = m_pictures,
+                .actsFor = [this](const std::filesystem::path& file, const Raster& picture) {
+                    return test.sheets().acts(
+                        [this, file, picture] { return test.sheets().ofPicture(file, picture); },
+                        [this](const std::string& text) { m_viewer.say(text); });
+                }}) {
     for (const auto& [name, text] : files) {
         test.folder().write(name, text);
     }
@@ -147,7 +195,8 @@ void Actor::listen() {
     test.showOther = [this](const std::string& name) {
         Form* const form = name == "mapper"        ? &m_mapper
                            : name == "viewer"      ? static_cast<Form*>(&m_viewer)
-                           : name == "map creator" ? &m_mapCreator
+                           : name == "map creator" ? static_cast<Form*>(&m_mapCreator)
+                           : name == "about"       ? &m_about
                                                    : nullptr;
         if (form != nullptr) {
             form->setState(WindowState::Normal);
@@ -168,6 +217,10 @@ void Actor::act() {
     test.catalogueFaults = choices.oneIn(30) ? "The catalogue is faulty" : "";
     test.printerFails = choices.oneIn(2);
     test.copies = choices.below(3);
+    test.hasTrash = !choices.oneIn(8);
+    if (choices.oneIn(20)) {
+        test.clipboard.held = choices.pick(copied);
+    }
     test.clock.step = choices.oneIn(2) ? 100 : 2000;
     const bool isCatalogueAway = choices.oneIn(50);
     if (isCatalogueAway) {

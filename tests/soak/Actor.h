@@ -2,7 +2,10 @@
 
 #include "Choices.h"
 #include "PictureCache.h"
+#include "Programs.h"
+#include "Registry.h"
 #include "fakeServices.h"
+#include "frmAbout.h"
 #include "frmMapper.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
@@ -49,7 +52,7 @@ public:
     /// Those that stand beside each other, the main window first.
     std::vector<Form*> windows() {
         return {&main,         &main.findings.list, &main.compare.beside, &m_mapper,
-                &m_mapCreator, &m_viewer,           &test.fleet()};
+                &m_mapCreator, &m_viewer,           &test.fleet(),        &m_about};
     }
 
     // For the acts.
@@ -68,6 +71,25 @@ private:
         Raster load(const std::filesystem::path& file) override;
         Raster builtIn(const std::string& name) override { return load(name); }
         std::string encode(const Raster&, const std::string& format) override { return format; }
+    };
+
+    /// The desktop's tool of system information, which is there or not.
+    class Tool : public Programs, public Registry {
+    public:
+        explicit Tool(Choices& choices) : m_choices(choices) {}
+
+        bool run(const std::filesystem::path&, const std::string&, const std::filesystem::path&,
+                 int, const std::function<void()>&) override {
+            return false;
+        }
+        bool start(const std::filesystem::path&) override { return m_choices.oneIn(2); }
+        void* loadLibrary(const std::filesystem::path&) override { return nullptr; }
+        void* function(void*, const std::string&) override { return nullptr; }
+        void freeLibrary(void*) override {}
+        std::optional<Value> read(const std::string&, const std::string&) override;
+
+    private:
+        Choices& m_choices;
     };
 
     /// An act on a control, once for each time that its weight counts.
@@ -102,6 +124,8 @@ private:
     frmMapper m_mapper;
     frmSSDMapCreator m_mapCreator;
     frmSSDView m_viewer;
+    Tool m_tool{choices};
+    frmAbout m_about{{.desktop = test.desktop(), .programs = m_tool, .registry = m_tool}};
     std::vector<Front> m_windows;  ///< the main window first
     Chances m_beside;
     std::vector<Front> m_inFront;

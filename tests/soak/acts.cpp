@@ -12,8 +12,9 @@ namespace fleetwright {
 namespace {
 
 /// What is typed.
-const std::vector<std::string> texts = {"",      "-1",        "7 guns", "99999999999", "Ship, one",
-                                        "a: \"", "\xC3\x9C ", "Ship",   "ship.gif",    "x\t#"};
+const std::vector<std::string> texts = {"",          "2",           "40",        "-1",
+                                        "7 guns",    "99999999999", "Ship, one", "a: \"",
+                                        "\xC3\x9C ", "Ship",        "ship.gif",  "x\t#"};
 
 /// What is pressed in a tree.
 const std::vector<std::string> keys = {"g",  "n",  "s",        " ",   "Backspace", "Down",
@@ -63,7 +64,7 @@ void selectRow(Actor& me, ListView& list) {
 
 /// Of all entries of menus those that undo and redo are chosen most.
 bool isStep(const Control* control) {
-    return control->name() == "mnuUndo" || control->name() == "mnuRedo";
+    return control->name().starts_with("mnuUndo") || control->name().starts_with("mnuRedo");
 }
 
 const std::vector<Act> acts = {
@@ -103,7 +104,11 @@ const std::vector<Act> acts = {
                    slider.slide(slider.min() + me.choices.below(slider.max() - slider.min() + 1));
                }),
     on<ComboBox>("type", 3, [](auto& me, auto& box) { box.type(me.choices.pick(texts)); }),
-    on<ComboBox>("choose", 6, [](auto& me, auto& box) { box.choose(me.choices.oneIn(2) ? 0 : 1); }),
+    on<ComboBox>("choose", 6,
+                 [](auto& me, auto& box) {
+                     box.choose(static_cast<std::size_t>(
+                         me.choices.below(static_cast<int>(box.items().size()) + 1)));
+                 }),
     on<TextBox>("double-click", 2, [](auto&, auto& box) { box.doubleClick(); }),
     on<TextBox>("Enter", 2, [](auto&, auto& box) { box.pressKey(EnterKey); }),
     on<TextBox>("go on", 2, [](auto&, auto& box) { box.loseFocus(); }),

@@ -3,12 +3,13 @@
 //
 //     soak [steps] [ACTS [SEED]]     1000000 and 1 if they are not said
 //
-// With "steps" all of it is one course of acts, which is undone, redone and undone again.
+// With "steps" they come in courses of 40000, each of which is undone, redone and undone again.
 
 #include "StepsWalk.h"
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -62,15 +63,24 @@ long growthIn(int acts, Dice& dice) {
 
 void walkSteps(int acts, Dice& dice) {
     using Clock = std::chrono::steady_clock;
-    const auto start = Clock::now();
-    StepsWalk walk(dice);
-    walk.walk(acts);
-    const std::size_t steps = walk.history().count();
-    std::printf(
-        "%zu steps undone and redone, %zu bytes each, in %lld s\n", steps,
-        walk.history().size() / steps,
-        static_cast<long long>(
-            std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - start).count()));
+    // Each design that is given up is put aside, and later acts list them all: one course of all
+    // acts would not come to an end.
+    constexpr int longest = 40'000;
+    for (int done = 0; done < acts;) {
+        const auto start = Clock::now();
+        const int course = std::min(longest, acts - done);
+        StepsWalk walk(dice);
+        walk.walk(course);
+        done += course;
+        const std::size_t steps = walk.history().count();
+        std::printf(
+            "%8d acts: %zu steps undone and redone, %zu bytes each, in %lld s; %ld KiB resident\n",
+            done, steps, walk.history().size() / std::max<std::size_t>(1, steps),
+            static_cast<long long>(
+                std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - start).count()),
+            residentMemory());
+        std::fflush(stdout);
+    }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "userPlaces.h"
 
 #include "Error.h"
+#include "fileCalls.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -49,8 +50,9 @@ fs::path cache() {
 }
 
 fs::path executable() {
-    std::error_code unknown;
-    return fs::read_symlink("/proc/self/exe", unknown);
+    const fs::path link = "/proc/self/exe";
+    std::error_code unknown = objection(FileCall::Open, link);
+    return unknown ? fs::path() : fs::read_symlink(link, unknown);
 }
 
 }  // namespace fleetwright::userPlaces
