@@ -9,7 +9,6 @@
 #include "FileStamp.h"
 #include "OpenFile.h"
 #include "TemporaryFolder.h"
-#include "paths.h"
 #include "readFile.h"
 #include "testSystem.h"
 
@@ -312,40 +311,6 @@ TEST(PosixFiles, KillInTheMiddleLeavesOneOfTheTwoContents) {
         const std::string found = folder.read("ship.shp");
         ASSERT_TRUE(found == contents[0] || found == contents[1]) << found.size() << " bytes";
         ASSERT_LE(folder.entries(), 2) << "what the kills before have left is still there";
-    }
-}
-
-// Such a user's service saves into folders of others.
-TEST(PosixFiles, AreTidiedByOneWhoHasNoHome) {
-    if (getuid() != 0) {
-        GTEST_SKIP() << "only root can be somebody whom the system does not know";
-    }
-    constexpr uid_t stranger = 54321;
-    const TemporaryFolder folder;
-    fs::permissions(folder.path(), fs::perms::all);
-    fs::permissions(folder.write(".fleetwright-a.tmp", "cut"), fs::perms(0666));
-    int status = -1;
-    const pid_t child = fork();
-    if (child == 0) {
-        unsetVariable("HOME");
-        unsetVariable(userDataVariable);
-        const bool isStranger = setgid(stranger) == 0 && setuid(stranger) == 0;
-        _exit(isStranger && faultOf(folder.path() / "ship.shp", "ship").empty() ? 0 : 1);
-    }
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(folder.entries(), 1);
-}
-
-TEST(PosixFiles, AreLookedForByTheProgramsWordWhereTheSystemDoesNotKnowIt) {
-    const FileFaults faults(1, FileFaults::Kind::IsLast);
-    EXPECT_EQ(executableFolder("/opt/fleets/tool"), "/opt/fleets");
-    EXPECT_EQ(executableFolder("bin/tool"), fs::current_path() / "bin");
-    try {
-        executableFolder("tool");  // found along the path, and not here
-        FAIL();
-    } catch (const FileError& error) {
-        EXPECT_EQ(complaint(error), "tool: the folder of the program cannot be found");
     }
 }
 
