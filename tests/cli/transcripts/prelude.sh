@@ -38,7 +38,7 @@ small_folder() {
 
 # The tool, which has not to wait for anything, on the folder at hand.
 tool() {
-    timeout 20 env -i "$TOOL" --app . "$@"
+    timeout 100 env -i "$TOOL" --app . "$@"
 }
 
 # with_outline NAME: a map like maps/b.map but for this outline, and good.shp drawn on it.
