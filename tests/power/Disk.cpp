@@ -2,6 +2,7 @@
 
 #include "readFile.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <unordered_set>
 

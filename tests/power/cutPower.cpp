@@ -1,6 +1,7 @@
 #include "cutPower.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace fleetwright {
 

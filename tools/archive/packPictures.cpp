@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iomanip>
 #include <iterator>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>

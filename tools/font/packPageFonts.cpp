@@ -11,6 +11,7 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
+#include <span>
 #include <stdexcept>
 
 namespace {

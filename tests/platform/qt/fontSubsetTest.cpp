@@ -8,6 +8,8 @@
 #include <QPainterPath>
 #include <QRawFont>
 
+#include <cmath>
+
 using namespace fleetwright;
 
 namespace {
