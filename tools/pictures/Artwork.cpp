@@ -48,7 +48,7 @@ void writeText(QXmlStreamWriter& writer, const QXmlStreamAttributes& attributes,
     writer.writeAttribute("d", QString::fromStdString(lettering.outline(text, spacing)));
     for (const QXmlStreamAttribute& attribute : attributes) {
         const auto name = attribute.qualifiedName();
-        if (name.startsWith(QLatin1String("stroke")) || name == QLatin1String("opacity")) {
+        if (name.startsWith(QLatin1String("stroke"))) {
             writer.writeAttribute(attribute);
         }
     }
