@@ -190,8 +190,7 @@ void lookAtManyPutAside(benchmark::State& state) {
         std::ofstream(folder / (name.text() + ".shp"));
     }
     NoTrash trash;
-    RecoveryFolder recovery(
-        folder, [] { return std::string(); }, trash);
+    RecoveryFolder recovery(folder, [] { return std::string(); }, trash);
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(recovery.lookAround());
     }

@@ -35,8 +35,7 @@ public:
         Run& run = m_choices.pick(m_runs);
         if (!run.folder) {
             run.atWork = run.last = "";
-            run.folder.emplace(
-                m_tree.path() / recovered, [] { return "now"; }, *this);
+            run.folder.emplace(m_tree.path() / recovered, [] { return "now"; }, *this);
         }
         switch (m_choices.below(7)) {
         case 0:

@@ -78,8 +78,8 @@ constexpr std::array<Letter, 34> letters = {{
 
 /// `text` with letters of one case as they are in the other. `firstOfAscii` is the "a" of the
 /// former.
-std::string changeCase(std::string_view text, char firstOfAscii, std::string_view Letter::*from,
-                       std::string_view Letter::*to) {
+std::string changeCase(std::string_view text, char firstOfAscii, std::string_view Letter::* from,
+                       std::string_view Letter::* to) {
     constexpr unsigned char caseBit = 0x20;
     std::string changed;
     changed.reserve(text.size());

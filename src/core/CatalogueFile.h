@@ -77,8 +77,8 @@ public:
     static CatalogueFile holding(std::shared_ptr<const CatalogueText> catalogue);
 
     template <typename Path>
-    requires std::convertible_to<const Path&, std::filesystem::path> CatalogueFile(const Path& path)
-        : m_cache(make(path)) {}
+        requires std::convertible_to<const Path&, std::filesystem::path>
+    CatalogueFile(const Path& path) : m_cache(make(path)) {}
 
     const std::filesystem::path& path() const;
     /// Throws FileError if the file cannot be read.

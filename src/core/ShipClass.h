@@ -179,7 +179,7 @@ private:
     std::int32_t evaluate(std::string_view& text, const HullDesign& design, std::int32_t hullCost,
                           std::int32_t amount);
     std::int32_t preview(std::string_view name, std::int32_t amount,
-                         std::string_view WeapRec::*formula, const HullDesign& design);
+                         std::string_view WeapRec::* formula, const HullDesign& design);
     bool cloakRuleRefuses(std::string_view name) const;
     std::int32_t& amountOf(std::size_t record);
 

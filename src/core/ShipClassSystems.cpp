@@ -86,7 +86,7 @@ std::int32_t ShipClass::weapNameToIndex(std::string_view in_sName) const {
 }
 
 std::int32_t ShipClass::preview(std::string_view name, std::int32_t amount,
-                                std::string_view WeapRec::*formula, const HullDesign& design) {
+                                std::string_view WeapRec::* formula, const HullDesign& design) {
     const std::int32_t index = weapNameToIndex(name);
     if (index == -1) {
         WeaponNotFound.raise();

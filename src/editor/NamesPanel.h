@@ -40,7 +40,7 @@ private:
     struct Name {
         TextBox& box;
         bool& isEditing;
-        std::string ShipClass::*name;
+        std::string ShipClass::* name;
     };
 
     void txtShipName_DblClick() { openOrCommit(nameOfShip()); }

@@ -11,8 +11,9 @@ static_assert(std::numeric_limits<std::int64_t>::max() / std::int64_t{Fleet::mos
               "sums of a fleet are not checked");
 
 bool FleetSum::breaksLimit() const {
-    return pointsLeft.value_or(0) < 0 || std::any_of(limitsLeft.begin(), limitsLeft.end(),
-                                                     [](std::int64_t left) { return left < 0; });
+    return pointsLeft.value_or(0) < 0 ||
+           std::any_of(
+               limitsLeft.begin(), limitsLeft.end(), [](std::int64_t left) { return left < 0; });
 }
 
 bool isAbout(const FleetLimit& limit, const ShipFigures& ship) {

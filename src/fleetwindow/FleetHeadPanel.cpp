@@ -9,7 +9,7 @@ namespace fleetwright {
 namespace {
 
 FleetField::Rules textRules(const std::string& name, const FleetDocument& document,
-                            std::string Fleet::*text, bool isMultiline = false) {
+                            std::string Fleet::* text, bool isMultiline = false) {
     return {.name = name,
             .read = [&document, text] { return document.fleet().*text; },
             .write = [text](Fleet& fleet, std::string typed) { fleet.*text = std::move(typed); },

@@ -74,9 +74,8 @@ void walkPath(std::string_view path, Point moved, Take take) {
     Point start, here;
     while (const std::optional<PathStep> step = takePathStep(path)) {
         std::array<Point, 3> points;
-        std::transform(step->points.begin(), step->points.end(), points.begin(), [&](Point point) {
-            return Point{point.x + moved.x, point.y + moved.y};
-        });
+        std::transform(step->points.begin(), step->points.end(), points.begin(),
+                       [&](Point point) { return Point{point.x + moved.x, point.y + moved.y}; });
         Point there = points[0];
         if (step->command == 'M') {
             start = there;

@@ -245,9 +245,9 @@ private:
 };
 
 Roster::Roster(const Fleet& fleet, const FleetRows& rows, const PageSize& paper)
-    : m_fleet(fleet),
-      m_rows(rows), m_inside{paperMargin, paperMargin, paper.width - 2 * paperMargin,
-                             paper.height - 2 * paperMargin},
+    : m_fleet(fleet), m_rows(rows),
+      m_inside{paperMargin, paperMargin, paper.width - 2 * paperMargin,
+               paper.height - 2 * paperMargin},
       m_sum(fleetSum(fleet, rows)), m_limits(limitWords(fleet, m_sum)),
       m_title(titleBlock(fleet, m_sum, m_inside.width)), m_head(headBlock(m_inside.width)) {}
 

@@ -12,8 +12,7 @@ template <typename ControlType, std::size_t Size, typename Make>
 std::array<ControlType, Size> controlArray(const Make& make) {
     return [&]<std::size_t... Index>(std::index_sequence<Index...>) {
         return std::array<ControlType, Size>{make(static_cast<int>(Index))...};
-    }
-    (std::make_index_sequence<Size>());
+    }(std::make_index_sequence<Size>());
 }
 
 }  // namespace fleetwright

@@ -110,10 +110,7 @@ public:
         for (auto* const rows : m_window.findChildren<QTreeWidget*>()) {
             readRows(*rows, rows->objectName());
             if (!rows->isHeaderHidden()) {
-                expect(contrastOf(*rows->header(),
-                                  [rows] {
-                                      rows->setHeaderLabels({"", "", ""});
-                                  }),
+                expect(contrastOf(*rows->header(), [rows] { rows->setHeaderLabels({"", "", ""}); }),
                        "head of " + rows->objectName());
             }
         }

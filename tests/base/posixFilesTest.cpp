@@ -60,7 +60,7 @@ std::string faultOf(const fs::path& target, std::string_view contents) {
 
 /// Owner, group and mode of a file, in one text.
 std::string ownersOf(const fs::path& file) {
-    struct stat status {};
+    struct stat status{};
     stat(file.c_str(), &status);
     return std::to_string(status.st_uid) + ' ' + std::to_string(status.st_gid) + ' ' +
            std::to_string(status.st_mode);

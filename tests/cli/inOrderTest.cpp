@@ -67,8 +67,7 @@ TEST(InOrder, AFaultOfTheTakerEndsTheWorkAndNothingIsTakenTwice) {
             throw std::runtime_error("fault");
         }
     };
-    EXPECT_THROW(inOrder(
-                     10'000, 2, [](std::size_t) { return Result{}; }, take),
-                 std::runtime_error);
+    EXPECT_THROW(
+        inOrder(10'000, 2, [](std::size_t) { return Result{}; }, take), std::runtime_error);
     EXPECT_EQ(taken.size(), 21U);
 }

@@ -23,16 +23,14 @@ protected:
         acts.act([&] { text += what; });
     }
     /// An act that writes this, does more, and overflows.
-    void overflow(
-        const std::string& what, const Acts::Work& more = [] {}) {
+    void overflow(const std::string& what, const Acts::Work& more = [] {}) {
         acts.act([&] {
             write(what);
             more();
             throw OverflowError();
         });
     }
-    void whenIdle(
-        const std::string& name, const Acts::Work& more = [] {}) {
+    void whenIdle(const std::string& name, const Acts::Work& more = [] {}) {
         acts.whenIdle([this, name, more] {
             log += '<' + name;
             more();

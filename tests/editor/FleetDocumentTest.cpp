@@ -19,8 +19,7 @@ TEST(FleetDocument, StaysAtHandWhicheverCallOfItsSaveFails) {
         const std::filesystem::path file = folder.write("a.fleet", "FleetWright fleet 1\n");
         FleetDocument fleet(folder.path());
         fleet.open(file);
-        fleet.act(
-            {"Name"}, [](Fleet& changed) { changed.name = "New"; }, 0);
+        fleet.act({"Name"}, [](Fleet& changed) { changed.name = "New"; }, 0);
         bool isTold = false;
         {
             const FileFaults faults(nth);

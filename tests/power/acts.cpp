@@ -52,8 +52,7 @@ void workOnFleet(RecoveryFolder& folder, const fs::path& file) {
     FleetDocument fleet(fs::current_path());
     fleet.open(file);
     for (const char* const name : {"First", "Second"}) {
-        fleet.act(
-            {"Name"}, [name](Fleet& changed) { changed.name = name; }, 0);
+        fleet.act({"Name"}, [name](Fleet& changed) { changed.name = name; }, 0);
         folder.put({.shipName = name,
                     .mass = 3,
                     .shipFile = fleet.textIn(folder.folder()),
@@ -96,8 +95,7 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationName("FleetWright");
     const std::string act = argc > 1 ? argv[1] : "";
     NoTrash trash;
-    RecoveryFolder folder(
-        RecoveryFolder::ofUser(), [] { return "2026-05-01 17.03.59"; }, trash);
+    RecoveryFolder folder(RecoveryFolder::ofUser(), [] { return "2026-05-01 17.03.59"; }, trash);
     if (act == "aside") {
         putAside(folder, argv[2]);
     } else if (act == "fleet") {

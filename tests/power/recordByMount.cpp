@@ -153,7 +153,7 @@ std::optional<std::vector<Change>> recordByMount(const std::filesystem::path& fo
     if (isMounted) {
         std::thread act([&] {
             result = runCommand("cd '" + folder.string() + "' && { " + command + "\n}");
-            struct stat status {};
+            struct stat status{};
             stat(folder.c_str(), &status);  // is answered when all before is done
             fuse_exit(mount);
             stat(folder.c_str(), &status);  // wakes it up, to see that it is to end

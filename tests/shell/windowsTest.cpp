@@ -185,10 +185,7 @@ private:
         const std::map<std::string, std::function<void()>> acts = {
             {"machine", [&] { machine.has.insert(rest); }},
             {"mended", [&] { machine.has.clear(); }},
-            {"screen",
-             [&] {
-                 machine.screen = {std::stoi(name), std::stoi(text)};
-             }},
+            {"screen", [&] { machine.screen = {std::stoi(name), std::stoi(text)}; }},
             {"clock", [&] { machine.ticks = std::stoi(rest); }},
             {"tool", [&] { machine.registry[rest] = "tool.exe"; }},
             {"toolFolder", [&] { machine.registry[rest] = folder.path().string(); }},

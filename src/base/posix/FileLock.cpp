@@ -31,7 +31,7 @@ FileLock::FileLock(const std::filesystem::path& path, IfTaken ifTaken) {
     }
     const int opened = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     m_file = opened;
-    struct stat file {};
+    struct stat file{};
     if (opened < 0) {
         m_state = errno == ENOENT ? State::Gone : State::Unknown;
     } else if (!isLocked(opened, ifTaken)) {

@@ -15,7 +15,7 @@ std::int64_t nanoseconds(const timespec& time) {
 }  // namespace
 
 std::optional<FileStamp> fileStamp(const std::filesystem::path& file) {
-    struct stat status {};
+    struct stat status{};
     if (stat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
         return std::nullopt;
     }

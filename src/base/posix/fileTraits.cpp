@@ -116,8 +116,8 @@ std::error_code giveTo(OpenFile& file, FileCall call, uid_t owner, gid_t group, 
 
 std::error_code copyOwnersAndMode(const OpenFile& from, OpenFile& to) {
     constexpr auto same = static_cast<uid_t>(-1);
-    struct stat wanted {};
-    struct stat given {};
+    struct stat wanted{};
+    struct stat given{};
     std::error_code error = objection(FileCall::ReadTraits, from.path());
     error = error ? error
                   : errorUnless(fstat(from.descriptor(), &wanted) == 0 &&

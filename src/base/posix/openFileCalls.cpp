@@ -14,7 +14,7 @@ int open(const std::filesystem::path& file, OpenFile::Use use) {
 }
 
 bool isPlain(int descriptor, std::uintmax_t& size) {
-    struct stat status {};
+    struct stat status{};
     const bool isKnown = fstat(descriptor, &status) == 0;
     size = isKnown ? static_cast<std::uintmax_t>(status.st_size) : 0;
     return isKnown && S_ISREG(status.st_mode);
