@@ -3,8 +3,8 @@ no test catches.
 
 Tries N changes (100) that compile, all others for another SEED (1). Lines of code are drawn at
 random, all with the same chance, but those of headers, which many files include, with half of it.
-Of the tests, those of the desktop are left out. Those of the changed folder run first, and nothing
-runs behind the first failure. A crash and a hang are failures.
+Of the tests, those of the desktop and the browser are left out. Those of the changed folder run
+first, and nothing runs behind the first failure. A crash and a hang are failures.
 
 When it is interrupted and started again on the same tree, it goes on.
 """
@@ -79,9 +79,10 @@ class Results:
                 self.measured, self._known = head["measured"], rest
         self._fingerprint = fingerprint
 
-    def begin(self, measured):
-        self.measured = measured
-        head = json.dumps({"tree": self._fingerprint, "measured": measured})
+    def measure(self, program):
+        """Notes what a program takes. All programs come before the first change."""
+        self.measured[program.name] = (program.seconds, program.cpu_seconds)
+        head = json.dumps({"tree": self._fingerprint, "measured": self.measured})
         self._path.write_text(head + "\n", "utf-8")
 
     def next(self):
@@ -106,11 +107,10 @@ def ready_programs(copy, runner, results, log):
         program.key = runner.key(program)
         if program.name in results.measured:
             program.seconds, program.cpu_seconds = results.measured[program.name]
-        elif program.command and not runner.measure(program, log):
-            sys.exit(f"./dev mutants: {program.name} fails without any change, see {log}")
-    if not results.measured:
-        results.begin({program.name: (program.seconds, program.cpu_seconds)
-                       for program in programs})
+        elif program.command:
+            if not runner.measure(program, log):
+                sys.exit(f"./dev mutants: {program.name} fails without any change, see {log}")
+            results.measure(program)
     return programs
 
 

@@ -35,7 +35,7 @@ class Runner:
         self._scratch = scratch
 
     def programs(self):
-        """All but those of the desktop, and what the program itself is linked of."""
+        """All but those of the desktop and the browser, and what the program is linked of."""
         listed = json.loads(self._output("ctest", "--show-only=json-v1"))
         made = {line.rsplit(":", 1)[0] for line in
                 self._output("ninja", "-t", "targets", "all").splitlines()}
@@ -44,7 +44,7 @@ class Runner:
             command = [part for part in test.get("command", []) if not part.startswith("--gtest_")]
             targets = [target for target in (self._target(part) for part in command)
                        if target in made]
-            if not targets or test["name"].startswith("desktop: "):
+            if not targets or test["name"].startswith(("desktop: ", "play: in a browser")):
                 continue
             name = test["name"]
             if len(command) < len(test["command"]):

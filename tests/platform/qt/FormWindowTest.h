@@ -70,6 +70,7 @@ public:
     bool keeps = false;
 
     Frame frame{*this, {.name = "frame", .place = {150, 150, 3000, 1500}, .caption = "Frame"}};
+    Frame bare{*this, {.name = "bare", .place = {6450, 600, 1500, 1500}}};
     Label label{frame, {.name = "label", .place = {150, 300, 900, 300}, .caption = "Label"}};
     OptionButton first{
         frame,
