@@ -6,9 +6,12 @@
 #include <QMarginsF>
 #include <QPainter>
 #include <QPrinter>
+#include <QTextLayout>
+#include <QTextOption>
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace fleetwright {
 
@@ -26,6 +29,23 @@ QString withoutTabs(std::string_view line) {
         }
     }
     return text;
+}
+
+/// A line in parts that are no wider than this: one at the least. A part ends where a character
+/// does, and some characters are wider than others, whatever the font.
+std::vector<QString> brokenLine(const QString& line, const QFont& font, int width) {
+    QTextOption anywhere;
+    anywhere.setWrapMode(QTextOption::WrapAnywhere);
+    QTextLayout layout(line, font);
+    layout.setTextOption(anywhere);
+    layout.beginLayout();
+    std::vector<QString> parts;
+    for (QTextLine part = layout.createLine(); part.isValid(); part = layout.createLine()) {
+        part.setLineWidth(width);
+        parts.push_back(line.mid(part.textStart(), part.textLength()));
+    }
+    layout.endLayout();
+    return parts;
 }
 
 }  // namespace
@@ -97,15 +117,10 @@ void QtPrinter::printLine(std::string_view line) {
     if (m_painter == nullptr) {
         beginDocument();
     }
-    m_painter->setFont(QFont(m_font, &printer()));
-    const QString text = withoutTabs(line);
-    const int letter = std::max(1, m_painter->fontMetrics().horizontalAdvance('0'));
-    const qsizetype most = std::max(1, m_painter->viewport().width() / letter);
-    qsizetype taken = 0;
-    do {
-        m_last.push_back({m_painter->font(), text.mid(taken, most)});
-        taken += most;
-    } while (taken < text.size());
+    const QFont font(m_font, &printer());
+    for (const QString& part : brokenLine(withoutTabs(line), font, m_painter->viewport().width())) {
+        m_last.push_back({font, part});
+    }
     while (m_last.size() > keptTogether) {
         printPart(m_last.front());
         m_last.pop_front();

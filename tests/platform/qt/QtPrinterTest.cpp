@@ -89,6 +89,21 @@ TEST(QtPrinter, KeepsToTheMarginsOfThePageAndLeavesNoLineAloneOnTheNext) {
     }
     EXPECT_EQ(linesIn(lines, "-f 2"), 3);
     EXPECT_EQ(linesIn(1, "-x 0 -y 0 -H 841 -W 42"), 0) << "15 mm";
+    // Characters that are twice as wide as others, and those that UTF-16 has two units for.
+    std::string wide, two;
+    for (int i = 0; i < 100; ++i) {
+        wide += "漢";
+        two += "𝔸";
+    }
+    for (const std::string& line : {wide, two, 'M' + two}) {
+        printer.printLine(line);
+    }
+    printer.endDocument();
+    const auto seen = [&](const std::string& part) {
+        return runCommand("pdftotext " + part + " '" + pdf + "' - | tr -d '\\n\\f'").output;
+    };
+    EXPECT_EQ(seen("-x 555 -y 0 -H 841 -W 60"), "");
+    EXPECT_EQ(seen("").find("\uFFFD"), std::string::npos) << seen("");
 }
 
 /// Acts on the next dialog.
