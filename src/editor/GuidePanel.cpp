@@ -3,11 +3,14 @@
 #include "Desktop.h"
 #include "paths.h"
 
+#include <system_error>
+
 namespace fleetwright {
 
 void GuidePanel::mnuGuide_Click() {
     const std::filesystem::path& page = services().guide;
-    if (!std::filesystem::exists(page)) {
+    std::error_code unknown;
+    if (!std::filesystem::exists(page, unknown)) {
         window().say("The guide is missing: " + pathText(page));
         return;
     }
