@@ -213,13 +213,13 @@ public:
           m_about({.desktop = desktop, .programs = m_programs, .registry = m_registry}),
           m_mapCreator({.appFolder = m_appFolder,
                         .desktop = desktop,
-                        .pictures = m_pictures,
+                        .pictures = m_pictureFiles,
                         .clock = m_clock,
                         .eventLoopTurn = [] { QApplication::processEvents(); },
                         .g_colSSDMaps = m_globals.g_colSSDMaps}),
           m_viewer({.appFolder = m_appFolder,
                     .desktop = desktop,
-                    .pictures = m_pictures,
+                    .pictures = m_pictureFiles,
                     .actsFor =
                         [this](const std::filesystem::path& file, const Raster& picture) {
                             return m_sheets.acts(
@@ -320,7 +320,8 @@ private:
     QtClock m_clock;
     QtSounds m_sounds;
     QtPictureFiles m_pictureFiles;
-    PictureCache m_pictures{m_pictureFiles};  // sheets look at the same again and again
+    /// For the application folder alone: what users choose may be large, and would stay for ever.
+    PictureCache m_pictures{m_pictureFiles};
     QtPrograms m_programs;
     DrawingPack m_drawings{drawingsFile(m_appFolder)};
     QtPrinter m_printer;

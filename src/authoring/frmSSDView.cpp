@@ -62,7 +62,7 @@ void frmSSDView::cmdSelect_Click() {
         if (!file || file->empty()) {
             return;
         }
-        picImage.setPicture(m_services.pictures.load(nativePath(*file)));
+        picImage.setPicture(m_services.pictures.load(nativePath(*file)).shared());
         picImage.setToolTip(shownText(*file) + '\n' + SheetKeys::help);
         if (m_services.actsFor) {
             keys.offer(m_services.actsFor(nativePath(*file), picImage.picture()));
