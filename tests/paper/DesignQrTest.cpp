@@ -24,6 +24,9 @@ std::string anyShip(std::mt19937& random, const std::vector<std::string>& lines)
     return ship;
 }
 
+/// A longer one has no symbol.
+constexpr std::size_t longestCode = 419;
+
 }  // namespace
 
 TEST(DesignQr, IsReadFromAnyPlaceOnPaper) {
@@ -39,7 +42,10 @@ TEST(DesignQr, IsReadFromAnyPlaceOnPaper) {
         for (int count = 0; count < 500 && !testing::Test::HasFailure(); ++count) {
             const std::string code = designCode(anyShip(random, lines));
             const auto drawing = designQr(code);
-            ASSERT_TRUE(drawing) << code;
+            ASSERT_EQ(drawing != nullptr, code.size() <= longestCode) << code;
+            if (!drawing) {
+                continue;
+            }
             const double side = drawing->width * qrModule;
             const Box place = {anyOf(random, 0, 9999) / 100.0, anyOf(random, 0, 9999) / 100.0, side,
                                side};
@@ -49,6 +55,6 @@ TEST(DesignQr, IsReadFromAnyPlaceOnPaper) {
 }
 
 TEST(DesignQr, IsLeftOutForWhatNobodyScans) {
-    EXPECT_TRUE(designQr("FW1:" + std::string(415, 'A')));
-    EXPECT_FALSE(designQr("FW1:" + std::string(416, 'A')));
+    EXPECT_TRUE(designQr("FW1:" + std::string(longestCode - 4, 'A')));
+    EXPECT_FALSE(designQr("FW1:" + std::string(longestCode - 3, 'A')));
 }
