@@ -13,11 +13,13 @@ WindowCommands::WindowCommands(const PanelContext& context, MenuEntry& mnuExtras
     : Panel(context), m_extras(mnuExtras), m_helpTop(mnuHelpTop) {}
 
 void WindowCommands::show() {
-    const bool isServed = getsSheet(ship().mass(), services().globals.g_iLargestSSD);
+    const std::int16_t largest = services().globals.g_iLargestSSD;
+    const bool isServed = getsSheet(ship().mass(), largest);
     mnuSSD.setEnabled(isServed);
-    mnuSSD.setToolTip(isServed
-                          ? "Draws the sheet as a bitmap"
-                          : "The ship is too heavy for a bitmap; see Design > Export Sheet...");
+    mnuSSD.setToolTip(isServed       ? "Draws the sheet as a bitmap"
+                      : largest == 0 ? "There is no map to draw a sheet on"
+                                     : "The ship is too heavy for a bitmap; see Design > Export "
+                                       "Sheet...");
 }
 
 void WindowCommands::sayDroppedMaps() {
