@@ -70,8 +70,9 @@ void frmSSDView::cmdSelect_Click() {
         cmdSelect.setToolTip("");
         say("");
     } catch (const std::exception& error) {
-        const std::string fault =
-            "Still the picture before: " + quote(file.value_or("")) + " " + error.what();
+        const std::string what =
+            picImage.picture().isEmpty() ? "No picture is shown: " : "Still the picture before: ";
+        const std::string fault = what + quote(file.value_or("")) + " " + error.what();
         cmdSelect.setToolTip(fault);
         say(fault);
     }
