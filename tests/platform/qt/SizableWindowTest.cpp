@@ -144,6 +144,13 @@ TEST(SizableWindowWithMenus, HasRoomForItsFormBelowThem) {
     QApplication::processEvents();
     const auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
     EXPECT_EQ(view->viewport()->size(), view->widget()->size());
+    // What the line has room for no longer is in its tool tip.
+    const auto* const line = window.findChild<QWidget*>("status");
+    status.setText("Saved in a folder with a long name");
+    EXPECT_EQ(line->toolTip(), "");
+    window.resize(150, window.height());
+    QApplication::processEvents();
+    EXPECT_EQ(line->toolTip(), "Saved in a folder with a long name");
 }
 
 TEST(OwnedWindow, StandsWhereItsOwnerPutsIt) {

@@ -91,7 +91,15 @@ void StatusLine::announce() {
 QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     auto* const widget = new StatusLine(parent);
     prepare(widget, bar, scale);
-    const auto redock = [widget, scale] { dock(*widget, scale); };
+    const auto keepReadable = [widget, &bar] {
+        // What the line has no room for can be read all the same.
+        const bool isCutOff = widget->sizeHint().width() > widget->width();
+        widget->setToolTip(isCutOff ? toToolTip(bar.text()) : QString());
+    };
+    const auto redock = [widget, scale, keepReadable] {
+        dock(*widget, scale);
+        keepReadable();
+    };
     keepZoomed(widget, scale, redock);
     followPlace(parent, [parent, redock, view = QPointer<QWidget>()]() mutable {
         if (parent->parentWidget() != view) {
@@ -100,11 +108,9 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
         }
         redock();
     });
-    keepInStep(widget, bar, [widget, &bar] {
+    keepInStep(widget, bar, [widget, &bar, keepReadable] {
         widget->showText(toShown(bar.text()));
-        // What the line has no room for can be read all the same.
-        const bool isCutOff = widget->sizeHint().width() > widget->width();
-        widget->setToolTip(isCutOff ? toToolTip(bar.text()) : QString());
+        keepReadable();
     });
     keepAttached(widget, bar.Said.connect([widget] {
         if (widget->isVisible()) {
