@@ -32,6 +32,8 @@ struct Box {
     double y = 0;
     double width = 0;
     double height = 0;
+
+    bool operator==(const Box&) const = default;
 };
 
 /// A picture as lines and areas, on white paper of its size.

@@ -36,6 +36,12 @@ public:
     int height() const { return m_height; }
     bool isEmpty() const { return m_width == 0 || m_height == 0; }
 
+    /// Whether two pictures show the same, pixel by pixel.
+    friend bool operator==(const Raster& one, const Raster& other) {
+        return one.m_width == other.m_width && one.m_height == other.m_height &&
+               one.pixels() == other.pixels();
+    }
+
     /// A pixel inside the picture.
     std::uint32_t& pixel(int x, int y) { return ownPixels()[index(x, y)]; }
     std::uint32_t pixel(int x, int y) const { return pixels()[index(x, y)]; }

@@ -33,11 +33,6 @@ std::optional<std::string> bytesIn(const fs::path& file) {
     }
 }
 
-bool isInFolder(const fs::path& file) {
-    std::error_code unknown;
-    return fs::exists(fs::symlink_status(file, unknown));
-}
-
 /// A rename that is not for good yet.
 std::error_code renameUnlessThere(const fs::path& from, const fs::path& to) {
     return isInFolder(to) ? std::make_error_code(std::errc::file_exists) : renameFile(from, to);

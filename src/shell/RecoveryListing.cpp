@@ -22,6 +22,11 @@ bool isMark(std::string_view text) {
 
 }  // namespace
 
+bool isInFolder(const fs::path& file) {
+    std::error_code unknown;
+    return fs::exists(fs::symlink_status(file, unknown));
+}
+
 std::optional<RecoveryDesign> RecoveryDesign::in(const fs::path& file) {
     const std::string name = file.filename().string();
     const std::size_t dot = name.rfind('.');

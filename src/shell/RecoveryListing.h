@@ -19,6 +19,9 @@ inline constexpr const char* recoveryLock = ".lock";    ///< behind the mark of 
 inline constexpr const char* recoveryRecord = ".record-";  ///< in front of it
 inline constexpr char beforeRecoveryMark = '~';            ///< between ".shp" or ".fleet" and it
 
+/// Whether there is anything of this name, be it a link to nothing.
+bool isInFolder(const std::filesystem::path& file);
+
 /// A design that was put aside.
 struct RecoveryDesign {
     /// The one in a file, if its name is that of a design.

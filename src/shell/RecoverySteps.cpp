@@ -16,17 +16,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool isDesignThere(const fs::path& design) {
-    std::error_code unknown;
-    return fs::exists(fs::symlink_status(design, unknown));
-}
-
 /// The ship or fleet beside a file of steps that has this mark; nothing if there is none.
 std::optional<fs::path> designBeside(const fs::path& steps, const std::string& mark) {
     for (const char* const extension : {recoveryExtension, recoveryFleet}) {
         fs::path design =
             steps.parent_path() / nativePath(steps.stem().string() + extension + mark);
-        if (isDesignThere(design)) {
+        if (isInFolder(design)) {
             return design;
         }
     }
@@ -72,7 +67,7 @@ std::optional<std::string_view> linesOfSteps(std::string_view title, std::string
 
 bool writeSteps(const fs::path& design, const std::string& steps) {
     const fs::path file = stepsBeside(design);
-    if (steps.empty() || (isDesignThere(file) && !areStepsWhole(stepsIn(file)))) {
+    if (steps.empty() || (isInFolder(file) && !areStepsWhole(stepsIn(file)))) {
         return false;
     }
     try {

@@ -2,25 +2,7 @@
 
 #include "Raster.h"
 
-#include <algorithm>
-
 namespace fleetwright {
-
-namespace {
-
-bool areSame(const Raster& a, const Raster& b) {
-    if (a.width() != b.width() || a.height() != b.height()) {
-        return false;
-    }
-    for (int y = 0; y < a.height(); ++y) {
-        if (!std::ranges::equal(a.row(y), b.row(y))) {
-            return false;
-        }
-    }
-    return true;
-}
-
-}  // namespace
 
 void RecordingSheet::setPicture(const Raster& picture) {
     m_record = {};
@@ -49,7 +31,7 @@ SheetRecord::Paste RecordingSheet::pasteOf(const Raster& picture, int x, int y) 
 /// The pixels of a picture, once for all its pastes: a file holds them once.
 std::shared_ptr<const Raster> RecordingSheet::kept(const Raster& picture) {
     for (const SheetRecord::Paste& paste : m_record.pastes) {
-        if (paste.picture.raster && areSame(*paste.picture.raster, picture)) {
+        if (paste.picture.raster && *paste.picture.raster == picture) {
             return paste.picture.raster;
         }
     }

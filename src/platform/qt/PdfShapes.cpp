@@ -87,11 +87,6 @@ std::string showing(const std::string& name, double scaleX, double scaleY, doubl
            pdfLength(y) + " cm\n/" + name + " Do\nQ\n";
 }
 
-bool isSame(const Box& one, const Box& other) {
-    return one.x == other.x && one.y == other.y && one.width == other.width &&
-           one.height == other.height;
-}
-
 }  // namespace
 
 std::string PdfShapes::contentOf(const Page& page) {
@@ -140,7 +135,7 @@ void PdfShapes::put(std::string& content, const PageRectangle& rectangle) {
 
 void PdfShapes::put(std::string& content, const PagePicture& picture) {
     const Box& place = picture.place;
-    const bool isCut = !isSame(place, picture.clip);
+    const bool isCut = place != picture.clip;
     if (picture.drawing != nullptr) {
         content += "1 g\n";
         addRectangle(content, picture.clip);
