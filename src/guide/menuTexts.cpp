@@ -31,7 +31,7 @@ ControlRows fileMenuTexts() {
                     "without, such a design is put aside."},
         ControlText{"mnuMRUFile", "1 to 5",
                     "The ships that were loaded or saved last, by name. Choosing one loads it from "
-                    "the folder of ships, as Load does."}};
+                    "the folder of ships, as Load does, and a sheet from where it lies."}};
     return rows;
 }
 

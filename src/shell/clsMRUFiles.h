@@ -8,8 +8,9 @@ namespace fleetwright {
 
 class SettingsStore;
 
-/// The ship files used last, most recent first, as bare names. It reads them from the settings when
-/// it gets its name, and writes them back when it ends.
+/// The ship files used last, most recent first, as bare names, and sheets among them by their
+/// paths: to this list they are just texts. It reads them from the settings when it gets its name,
+/// and writes them back when it ends.
 class clsMRUFiles {
 public:
     explicit clsMRUFiles(SettingsStore& settings) : m_settings(settings) {}
