@@ -7,6 +7,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace fleetwright {
@@ -232,14 +233,30 @@ ReadFleet readFleet(const std::filesystem::path& file) {
     }
 }
 
+const std::string& WrittenShips::text(std::size_t place, const FleetShip& ship,
+                                      std::string_view lineEnd) {
+    m_written.resize(std::max(m_written.size(), place + 1));
+    Written& written = m_written[place];
+    if (written.text.empty() || written.lineEnd != lineEnd || written.ship != ship) {
+        written = {ship, std::string(lineEnd),
+                   SectionWriter(shipKeys(), ship, lineEnd).text(lineEnd)};
+    }
+    return written.text;
+}
+
 std::string fleetText(const Fleet& fleet) {
+    WrittenShips none;
+    return fleetText(fleet, none);
+}
+
+std::string fleetText(const Fleet& fleet, WrittenShips& written) {
     const std::string_view lineEnd = lineEndOf(fleet.asRead);
     std::string text =
         SectionWriter(headKeys(), fleet, lineEnd)
             .text(std::string(firstWords) + std::string(version) + std::string(lineEnd));
-    for (const FleetShip& ship : fleet.ships) {
+    for (std::size_t place = 0; place < fleet.ships.size(); ++place) {
         endLine(text, lineEnd);
-        text += SectionWriter(shipKeys(), ship, lineEnd).text(lineEnd);
+        text += written.text(place, fleet.ships[place], lineEnd);
     }
     return text;
 }

@@ -6,6 +6,7 @@
 #include "Fault.h"
 #include "Fleet.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -46,10 +47,28 @@ ReadFleet parseFleet(std::string_view text);
 /// Reads a fleet file. Throws FileError.
 ReadFleet readFleet(const std::filesystem::path& file);
 
+/// The ships of a fleet as they were written last. Who writes a fleet after each change of it keeps
+/// them, since most of them are still the same.
+class WrittenShips {
+public:
+    /// The lines of a ship, which end in `lineEnd`; `place` is that of the ship in its fleet.
+    const std::string& text(std::size_t place, const FleetShip& ship, std::string_view lineEnd);
+
+private:
+    struct Written {
+        FleetShip ship;
+        std::string lineEnd, text;
+    };
+
+    std::vector<Written> m_written;  ///< by their places
+};
+
 /// The text of a fleet file. Lines that mean nothing to this program, such as comments and keys of
 /// a later version, stay where they were, and so do all lines whose value has not changed. A line
 /// break inside a name becomes a blank.
 std::string fleetText(const Fleet& fleet);
+/// The same, in less time if the fleet was written before.
+std::string fleetText(const Fleet& fleet, WrittenShips& written);
 
 /// Saves a fleet file. Throws FileError.
 void saveFleet(const std::filesystem::path& file, const Fleet& fleet);

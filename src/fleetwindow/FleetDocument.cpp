@@ -42,6 +42,7 @@ void FleetDocument::begin(Fleet fleet, fs::path folder) {
     m_file.clear();
     m_stamp.reset();
     noteWritten();
+    m_textsOfSteps = {};
     m_history = FleetHistory(textOfSteps());
     m_saved = isEmpty ? std::optional(m_history.now()) : std::nullopt;
 }
@@ -173,7 +174,7 @@ std::string FleetDocument::textOfSteps() const {
     for (FleetShip& ship : plain.ships) {
         ship.fingerprint.clear();
     }
-    return fleetText(plain);
+    return fleetText(plain, m_textsOfSteps);
 }
 
 void FleetDocument::take(const std::string& text) {

@@ -5,6 +5,7 @@
 #include "Fleet.h"
 #include "FleetHistory.h"
 #include "FleetRow.h"
+#include "fleetFile.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -71,6 +72,7 @@ private:
     std::optional<std::string> m_saved;  ///< the text of steps that is in the file
     std::string m_writtenCatalogue;
     std::map<std::string, std::string> m_written;  ///< fingerprints by the file
+    mutable WrittenShips m_textsOfSteps;           ///< the ships of the last text of steps
 };
 
 }  // namespace fleetwright

@@ -76,21 +76,24 @@ std::optional<std::size_t> FleetShipsPanel::selected() const {
 ListView::Row FleetShipsPanel::rowOf(std::size_t place) const {
     const FleetShip& ship = fleet().ships[place];
     ListView::Row row = {.key = ship.file,
-                         .text = shownText(fileNameIn(ship)),
+                         .text = {},
                          .subItem = std::to_string(ship.count),
                          .moreItems = {"", "", "", "", ""}};
-    if (place >= window().rows.size() || !window().rows[place]) {
-        return row;
+    const FleetRow* const known =
+        place < window().rows.size() ? window().rows[place].get() : nullptr;
+    if (known == nullptr || !known->figures) {
+        row.text = shownText(fileNameIn(ship));
+    } else {
+        const ShipFigures& figures = *known->figures;
+        row.text = shownText(figures.name);
+        row.moreItems = {std::string(figures.shipClass), std::to_string(figures.mass),
+                         std::to_string(figures.points),
+                         std::to_string(std::int64_t{ship.count} * figures.points), ""};
     }
-    const FleetRow& known = *window().rows[place];
-    if (known.figures) {
-        row.text = shownText(known.figures->name);
-        row.moreItems = {std::string(known.figures->shipClass), std::to_string(known.figures->mass),
-                         std::to_string(known.figures->points),
-                         std::to_string(std::int64_t{ship.count} * known.figures->points), ""};
+    if (known != nullptr) {
+        row.moreItems.back() = shownText(remarkOn(ship, *known));
+        row.isAlarming = !row.moreItems.back().empty();
     }
-    row.moreItems.back() = shownText(remarkOn(ship, known));
-    row.isAlarming = !row.moreItems.back().empty();
     return row;
 }
 
