@@ -105,14 +105,7 @@ void bareSvgFiles(benchmark::State& state) {
             lists.fillPoints(*map);
             RecordingSheet sheet(drawings);
             sheet.setPicture(outlines(*map));
-            drawSSD(sheet, catalogueImages(finder, ship), *map, lists,
-                    {.txtDP = std::to_string(ship.g_iDP),
-                     .txtDCP = std::to_string(ship.g_iDCP),
-                     .txtFireCon = std::to_string(ship.g_iFCS),
-                     .txtShipName = ship.g_sShipName,
-                     .txtDesigner = ship.g_sDesignerName,
-                     .txtCost = std::to_string(ship.g_lCost),
-                     .ship = ship});
+            drawSSD(sheet, catalogueImages(finder, ship), *map, lists, sheetShipOf(ship));
             benchmark::DoNotOptimize(designQr(designCode(ship.shipFile())));
             saved("bare.svg", files[i]);
         }

@@ -76,14 +76,7 @@ void drawSheet(const SSDMap& map, ShipClass& ship, const Raster& outline) {
     Raster picture = outline;
     RasterSheet sheet(picture);
     try {
-        drawSSD(sheet, whiteImages(), map, lists,
-                {.txtDP = std::to_string(ship.g_iDP),
-                 .txtDCP = std::to_string(ship.g_iDCP),
-                 .txtFireCon = std::to_string(ship.g_iFCS),
-                 .txtShipName = ship.g_sShipName,
-                 .txtDesigner = ship.g_sDesignerName,
-                 .txtCost = std::to_string(ship.g_lCost),
-                 .ship = ship});
+        drawSSD(sheet, whiteImages(), map, lists, sheetShipOf(ship));
     } catch (const Error&) {
         return;
     }

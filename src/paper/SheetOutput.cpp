@@ -76,16 +76,6 @@ SheetOutput::Rows rowsOf(const ShipClass& ship) {
     return rows;
 }
 
-SheetShip sheetShipOf(ShipClass& ship) {
-    return {.txtDP = std::to_string(ship.g_iDP),
-            .txtDCP = std::to_string(ship.g_iDCP),
-            .txtFireCon = std::to_string(ship.g_iFCS),
-            .txtShipName = ship.g_sShipName,
-            .txtDesigner = ship.g_sDesignerName,
-            .txtCost = std::to_string(ship.g_lCost),
-            .ship = ship};
-}
-
 bool showTheSame(const Raster& one, const Raster& other) {
     if (one.width() != other.width() || one.height() != other.height()) {
         return false;

@@ -242,6 +242,16 @@ void SheetDrawing::trim() {
 
 }  // namespace
 
+SheetShip sheetShipOf(ShipClass& ship) {
+    return {.txtDP = std::to_string(ship.g_iDP),
+            .txtDCP = std::to_string(ship.g_iDCP),
+            .txtFireCon = std::to_string(ship.g_iFCS),
+            .txtShipName = ship.g_sShipName,
+            .txtDesigner = ship.g_sDesignerName,
+            .txtCost = std::to_string(ship.g_lCost),
+            .ship = ship};
+}
+
 void drawSSD(Sheet& sheet, const SheetImages& images, const SSDMap& map, SheetLists& lists,
              const SheetShip& ship) {
     SheetDrawing(sheet, images, map, lists, ship).draw();

@@ -23,6 +23,9 @@ struct SheetShip {
     ShipClass& ship;
 };
 
+/// The same of a ship that no window shows.
+SheetShip sheetShipOf(ShipClass& ship);
+
 /// Draws a ship's sheet. The sheet shows the map's outline; the lists are those of this map and
 /// ship, and are empty afterwards. Pastes the pictures at the map's points, covers the points that
 /// the ship does not use, and adds a block of text below the outline.
