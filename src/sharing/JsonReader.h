@@ -61,7 +61,6 @@ private:
                      const nlohmann::detail::exception& error) override;
 
     bool take(const Value& value);
-    Place containerHere(Place ifSystems);
     bool open(Place place);
     bool isFigure() const;
     [[noreturn]] void failUnwanted();
