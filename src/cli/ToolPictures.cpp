@@ -5,6 +5,8 @@
 #include "modules.h"
 #include "picturesModule.h"
 
+#include <system_error>
+
 namespace fleetwright {
 
 namespace {
@@ -44,13 +46,18 @@ std::string ToolPictures::encode(const Raster& picture, const std::string& forma
 }
 
 void ToolPictures::prepareForPdf() {
-    m_preparing = std::async(std::launch::async, [folder = m_programFolder] {
+    const auto load = [folder = m_programFolder] {
         try {
             loadPictures(folder);
         } catch (const Error&) {
             // The one who makes the file finds it, too.
         }
-    });
+    };
+    try {
+        m_preparing = std::async(std::launch::async, load);
+    } catch (const std::system_error&) {
+        // No further thread is granted: whoever needs the module first loads it.
+    }
 }
 
 std::string ToolPictures::pdf(const PageDocument& document) {

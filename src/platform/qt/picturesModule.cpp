@@ -10,6 +10,7 @@
 #include <chrono>
 #include <future>
 #include <memory>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -19,13 +20,17 @@ namespace {
 /// that never does.
 bool giveQtItsThread() {
     const auto isThere = std::make_shared<std::promise<void>>();
-    std::thread([isThere] {
-        QThread::currentThread();
-        isThere->set_value();
-        for (;;) {
-            std::this_thread::sleep_for(std::chrono::hours(1));
-        }
-    }).detach();
+    try {
+        std::thread([isThere] {
+            QThread::currentThread();
+            isThere->set_value();
+            for (;;) {
+                std::this_thread::sleep_for(std::chrono::hours(1));
+            }
+        }).detach();
+    } catch (const std::system_error&) {
+        return false;  // none is granted, so that none ends before this one
+    }
     isThere->get_future().wait();
     return true;
 }
