@@ -4,6 +4,8 @@
 #include "commands.h"
 #include "paths.h"
 
+#include <system_error>
+
 namespace fleetwright {
 
 namespace {
@@ -11,7 +13,7 @@ namespace {
 /// Pictures for documents of this kind.
 ToolPictures picturesFor(const Options& options, SheetSupplies::Kind kind) {
     const std::filesystem::path images = options.appFolder / "images";
-    if (!std::filesystem::is_directory(findFile(images))) {
+    if (std::error_code unknown; !std::filesystem::is_directory(findFile(images), unknown)) {
         throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
     }
     ToolPictures pictures(options.programFolder);

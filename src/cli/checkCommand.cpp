@@ -26,6 +26,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -52,7 +53,7 @@ std::vector<Fault> checkCatalogueFile(const Options& options, const fs::path& fi
     const CatalogueText catalogue = readTextFile(file);
     std::vector<Fault> faults = checkCatalogue(catalogue);
     const fs::path images = file.parent_path() / "images";
-    if (fs::is_directory(images)) {
+    if (std::error_code unknown; fs::is_directory(images, unknown)) {
         ToolPictures pictures(options.programFolder);
         try {
             for (Fault& fault : PictureCheck(images, pictures).checkCatalogue(catalogue)) {
@@ -76,7 +77,7 @@ std::vector<PictureFault> checkDeliveredPictures(const Options& options,
     } catch (const FileError&) {
         return {};  // said already, and without it every picture would seem unused
     }
-    if (!fs::is_directory(images)) {
+    if (std::error_code unknown; !fs::is_directory(images, unknown)) {
         complain(complaint(images.string(), {0, "not unpacked yet, so no picture was looked at"}));
         return {};
     }

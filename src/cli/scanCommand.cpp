@@ -11,6 +11,7 @@
 #include "text.h"
 
 #include <map>
+#include <system_error>
 #include <thread>
 
 namespace fleetwright {
@@ -39,8 +40,8 @@ class MapWriter {
 public:
     explicit MapWriter(const Options& options)
         : m_output(nativePath(options.value(outOption.name))),
-          m_isFolder(!m_output.empty() && (options.words.size() > 1 || !m_output.has_filename() ||
-                                           fs::is_directory(m_output))) {
+          m_isFolder(!m_output.empty() &&
+                     (options.words.size() > 1 || !m_output.has_filename() || isFolder(m_output))) {
         if (m_isFolder) {
             makeFolder(m_output);
         }
@@ -56,6 +57,11 @@ public:
     }
 
 private:
+    static bool isFolder(const fs::path& path) {
+        std::error_code unknown;
+        return fs::is_directory(path, unknown);
+    }
+
     fs::path mapName(const std::string& outline) {
         fs::path name = nativePath(outline).filename().replace_extension(".map");
         const auto [made, isNew] = m_made.try_emplace(toCapitals(name.string()), outline);
