@@ -9,9 +9,11 @@ namespace fleetwright {
 namespace {
 
 int runCode(const Options& options) {
-    return forEachShip(options, RefusedLines::AsComplaints, [](std::size_t, ShipOnScreen& screen) {
-        return resultLine(designCode(screen.ship().shipFile()));
-    });
+    return forEachShip(options, RefusedLines::AsComplaints,
+                       [&options](std::size_t index, ShipOnScreen& screen) {
+                           refuseFleet(options.words[index]);
+                           return resultLine(designCode(screen.ship().shipFile()));
+                       });
 }
 
 }  // namespace

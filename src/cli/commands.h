@@ -32,6 +32,10 @@ int forEachShip(const Options& options, std::span<const std::string> ships,
                 const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t index)>& taken = {});
 
+/// Throws Error for a word of the command line that is a fleet. Commands that have always been
+/// there make a ship of it, of mass 2, as of any text; those that have come later do not.
+void refuseFleet(const std::string& ship);
+
 /// Works on the inputs 0 to `count` - 1, several at a time, prints their results in their order,
 /// and shows how far it has come. Returns an ExitStatus.
 int printInOrder(std::size_t count, const std::function<Result(std::size_t)>& work,

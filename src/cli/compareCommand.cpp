@@ -45,7 +45,8 @@ Json jsonOf(const std::vector<std::string>& files, std::span<const ComparedLine>
 int runCompare(const Options& options) {
     std::vector<std::optional<ShipProfile>> loaded(options.words.size());
     const int status = forEachShip(options, RefusedLines::AsComplaints,
-                                   [&loaded](std::size_t index, ShipOnScreen& screen) {
+                                   [&](std::size_t index, ShipOnScreen& screen) {
+                                       refuseFleet(options.words[index]);
                                        loaded[index] = profileOf(screen.ship());
                                        return std::string();
                                    });

@@ -25,6 +25,7 @@ int runExport(const Options& options) {
     std::vector<std::string> ships(options.words.size());
     const int status =
         forEachShip(options, RefusedLines::AsComplaints, [&](std::size_t index, auto& screen) {
+            refuseFleet(options.words[index]);
             ships[index] = shipJson(screen.ship(), fileOf(options.words[index]));
             return std::string();
         });

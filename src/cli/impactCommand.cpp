@@ -123,6 +123,7 @@ int runImpact(const Options& options) {
     const auto ships = std::span(options.words).subspan(2);
     std::atomic<std::size_t> unaffected = 0;
     const auto work = [&](std::size_t index, ShipOnScreen& screen) {
+        refuseFleet(ships[index]);
         ShipOnScreen screenAfter(options.appFolder, after);
         const Impact impact = impactOf(ships[index], screen.ship(), screenAfter);
         unaffected += impact.isAffected() ? 0 : 1;

@@ -3,7 +3,9 @@
 #include "CatalogueFile.h"
 #include "Error.h"
 #include "ShipOnScreen.h"
+#include "fleetFile.h"
 #include "paths.h"
+#include "readShip.h"
 
 namespace fleetwright {
 
@@ -41,6 +43,12 @@ int forEachShip(const Options& options, std::span<const std::string> ships,
         return result;
     };
     return printInOrder(ships.size(), load, taken);
+}
+
+void refuseFleet(const std::string& ship) {
+    if (isFleet(readShip(ship).text)) {
+        throw Error(fleetIsNoShip);
+    }
 }
 
 }  // namespace fleetwright
