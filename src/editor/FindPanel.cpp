@@ -159,7 +159,7 @@ void FindPanel::end() {
 /// Screen readers read what has come to be selected; else what is said is news to them.
 void FindPanel::say(bool isNews) {
     m_said = trimmed(m_typed).empty() ? std::string("Find: type words of a system's name")
-             : matches().empty() ? "Find: " + quote(m_typed) + " - no match"
+             : matches().empty()      ? "Find: " + quote(m_typed) + " - no match"
                                  : "Find: " + quote(m_typed) + " - " + std::to_string(m_at + 1) +
                                        " of " + std::to_string(matches().size());
     isNews ? m_status.setText(m_said) : m_status.setTextQuietly(m_said);
