@@ -13,7 +13,9 @@ namespace {
 // In pixels of a picture that is large enough for whole numbers.
 constexpr int side = 1000, centre = side / 2, largestRadius = 400, bowHeight = 70;
 constexpr double pen = 12;
-constexpr std::uint32_t black = 0x000000, lightGrey = 0xB8B8B8;
+// The ground has to come out on paper, where a rose is 28 mm wide.
+constexpr double groundPen = 8;
+constexpr std::uint32_t black = 0x000000, groundGrey = 0x888888;
 
 /// A place so far from the middle at this angle, in quarter turns clockwise from the bow.
 std::string placeAt(double radius, double quarters, double aside = 0) {
@@ -46,8 +48,8 @@ DrawnShape groundOf() {
     for (std::size_t direction = 0; direction < FirePower::names.size(); ++direction) {
         ground.path += sectorOf(largestRadius, direction);
     }
-    ground.stroke = lightGrey;
-    ground.strokeWidth = pen / 2;
+    ground.stroke = groundGrey;
+    ground.strokeWidth = groundPen;
     ground.join = DrawnShape::Join::Round;
     return ground;
 }

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::uint32_t quietColour = 0x555555;
 constexpr double lineHeight = 1.28;  // times the size of the font
+constexpr std::string_view noBreakSpace = "\u00A0";
 
 /// Writes lines below each other.
 class BlockWriter {
@@ -44,11 +45,38 @@ std::string pieces(std::int64_t count) {
 
 /// A few words that no line parts.
 std::string together(std::string words) {
-    constexpr std::string_view blank = "\u00A0";
     for (std::size_t at = words.find(' ', 1); at != std::string::npos; at = words.find(' ', at)) {
-        words.replace(at, 1, blank);
+        words.replace(at, 1, noBreakSpace);
     }
     return words;
+}
+
+constexpr std::string_view figureCharacters = "0123456789+";
+
+bool endsInFigure(std::string_view word) {
+    return !word.empty() && figureCharacters.find(word.back()) != std::string_view::npos;
+}
+
+/// Whether a word is a figure with a mark behind it, as "3+." is.
+bool isMarkedFigure(std::string_view word) {
+    const std::size_t mark = word.find_first_not_of(figureCharacters);
+    return mark != std::string_view::npos && mark > 0 && mark + 1 == word.size();
+}
+
+/// A rules text in which no line parts a figure from its word, as in "5+ far" and "on 3+.".
+std::string withFiguresHeld(std::string_view rules) {
+    std::string text;
+    while (!rules.empty()) {
+        const std::size_t end = std::min(rules.find(' '), rules.size());
+        const std::string_view word = rules.substr(0, end);
+        rules.remove_prefix(std::min(end + 1, rules.size()));
+        text += word;
+        if (!rules.empty()) {
+            const std::string_view next = rules.substr(0, rules.find(' '));
+            text += endsInFigure(word) || isMarkedFigure(next) ? noBreakSpace : " ";
+        }
+    }
+    return text;
 }
 
 /// Adds a block for each line of a text.
@@ -169,7 +197,7 @@ LegendText::LegendText(const std::vector<LegendRow>& legend) {
             {row.picture,
              MeasuredText(row.name + (row.count == 1 ? "" : together(pieces(row.count))),
                           PageFont::Bold),
-             MeasuredText(particulars(row)), MeasuredText(row.rules)});
+             MeasuredText(particulars(row)), MeasuredText(withFiguresHeld(row.rules))});
     }
 }
 

@@ -150,7 +150,7 @@ void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const 
 
 /// Marks where to cut, at the edges and in the middle.
 void SheetPages::addCutMarks(Page& page, const PageCut& cut) const {
-    constexpr double length = 4, lineWidth = 0.15;
+    constexpr double length = 4, lineWidth = 0.2;
     const auto mark = [&page](double x, double y, double dx, double dy) {
         page.items.emplace_back(PageLine{x - dx, y - dy, x + dx, y + dy, lineWidth, 0});
     };

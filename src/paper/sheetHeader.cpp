@@ -1,6 +1,7 @@
 #include "sheetHeader.h"
 
 #include "pageTexts.h"
+#include "text.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -85,14 +86,22 @@ private:
     double m_width;
 };
 
+/// "Heavy Cruiser, Cruiser class"; the largest ships have no designation of their own.
+std::string kindOf(const SheetFacts& facts) {
+    const std::string kind = facts.shipClass + " class";
+    return toCapitals(facts.designation) == toCapitals(facts.shipClass)
+               ? kind
+               : facts.designation + ", " + kind;
+}
+
 void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
     const double leastName = size / 2, kindSize = 3.3;
     PageText name = fittedText(facts.shipName, {.text = {}, .size = size, .font = PageFont::Bold},
                                room, leastName);
     name.y = size * letterHeight;
     block.items.emplace_back(std::move(name));
-    PageText kind = fittedText(facts.designation + ", " + facts.shipClass + " class",
-                               {.text = {}, .size = kindSize, .colour = labelColour}, room, 2);
+    PageText kind =
+        fittedText(kindOf(facts), {.text = {}, .size = kindSize, .colour = labelColour}, room, 2);
     kind.y = size * letterHeight + kindSize * 1.45;
     block.height = kind.y + 2;
     block.items.emplace_back(std::move(kind));

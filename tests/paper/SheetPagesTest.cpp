@@ -15,7 +15,8 @@ using namespace fleetwright;
 namespace {
 
 constexpr std::string_view pageCatalogue =
-    "Lance (FP),2 * amount,6 * amount,BEAM,BEAM,FPB,lance.gif\n#> Two dice at any range.\n"
+    "Lance (FP),2 * amount,6 * amount,BEAM,BEAM,FPB,lance.gif\n#> Two dice: 3+ near, 6 far. Then "
+    "on 4+.\n"
     "Turret (All),amount,4 * amount,BEAM,BEAM,BFAPS,turret.gif\n"
     "Ward,roundup(amount / 2),3,DEFENSE,DEFENSE,BAPS,ward.gif\n"
     "Lamp,1,1,SYSTEMS,SYSTEMS,AP,lamp.gif\n"
