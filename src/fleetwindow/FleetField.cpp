@@ -14,7 +14,13 @@ FleetField::FleetField(const FleetContext& window, TextBox& box, Rules rules)
 }
 
 void FleetField::show() {
-    if (!m_isTyped && m_rules.held(m_box.text()) != m_rules.read()) {
+    const std::string now = m_rules.read();
+    std::string shown = m_rules.about() + ' ' + now;
+    const bool isNews = shown != m_shown;
+    m_shown = std::move(shown);
+    // What cannot stand there may be on its way to what can.
+    const std::optional<std::string> typed = m_rules.held(m_box.text());
+    if (!m_isTyped && typed != now && (typed || isNews)) {
         leave();
     }
 }

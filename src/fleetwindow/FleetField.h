@@ -27,7 +27,7 @@ public:
 
     FleetField(const FleetContext& window, TextBox& box, Rules rules);
 
-    /// Copies the fleet to the box, unless what was typed there means the same.
+    /// Copies the fleet to the box, unless what was typed there means the same, or nothing yet.
     void show();
 
 private:
@@ -37,6 +37,7 @@ private:
     const FleetContext& m_window;
     TextBox& m_box;
     Rules m_rules;
+    std::string m_shown;       ///< what was copied last, and what it is about
     bool m_isTyped = false;    ///< the box is being typed in
     bool m_isShowing = false;  ///< it is being written
 };
