@@ -19,8 +19,7 @@ OpenFile::OpenFile(fs::path file, Use use, std::error_code& error) : m_path(std:
     if (error) {
         return;
     }
-    m_descriptor = openFileCalls::open(m_path, use);
-    error = errorUnless(isOpen());
+    m_descriptor = openFileCalls::open(m_path, use, error);
     // What has just been made is a plain file.
     if (!error && use != Use::Create && !openFileCalls::isPlain(m_descriptor, m_size)) {
         // Another one has been put there meanwhile.

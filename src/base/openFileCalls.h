@@ -1,7 +1,7 @@
 #pragma once
 
 // What `OpenFile` asks of the system: its calls on open files, one source a system. Those that fail
-// leave the reason in `errno`.
+// leave the reason in `errno`, but for the one that opens them.
 
 #include "OpenFile.h"
 
@@ -9,11 +9,12 @@
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
+#include <system_error>
 
 namespace fleetwright::openFileCalls {
 
 /// The number of the open file; negative if it cannot be opened. Nobody waits at a pipe.
-int open(const std::filesystem::path& file, OpenFile::Use use);
+int open(const std::filesystem::path& file, OpenFile::Use use, std::error_code& error);
 /// Whether it is a plain file, and how large.
 bool isPlain(int descriptor, std::uintmax_t& size);
 /// How many bytes were read or written; negative after a failure.

@@ -118,6 +118,24 @@ std::vector<fs::path> listFolder(const fs::path& folder, std::string_view ending
     return paths;
 }
 
+std::vector<fs::path> filesBelow(const fs::path& folder) {
+    std::vector<fs::path> files;
+    std::vector<fs::path> folders = {folder};
+    while (!folders.empty()) {
+        const fs::path next = std::move(folders.back());
+        folders.pop_back();
+        std::error_code unknown;
+        for (const fs::directory_entry& entry : folderEntries(next, unknown)) {
+            if (entry.is_directory(unknown) && !entry.is_symlink(unknown)) {
+                folders.push_back(entry.path());
+            } else if (entry.is_regular_file(unknown)) {
+                files.push_back(entry.path());
+            }
+        }
+    }
+    return files;
+}
+
 void makeFolder(const fs::path& folder) {
     if (const std::error_code error = makeIfMissing(folder, makeNewFolder)) {
         throw FileError(folder, "cannot be made: " + error.message());

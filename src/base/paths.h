@@ -26,6 +26,10 @@ std::string fileNameOf(const std::string& name);
 std::vector<std::filesystem::path> listFolder(const std::filesystem::path& folder,
                                               std::string_view ending);
 
+/// The files below a folder, also those in its folders, in no order; links to folders are not
+/// followed. What cannot be looked into has none.
+std::vector<std::filesystem::path> filesBelow(const std::filesystem::path& folder);
+
 /// Makes a folder and those that it stands in, unless they are there. Throws FileError.
 void makeFolder(const std::filesystem::path& folder);
 

@@ -32,13 +32,8 @@ std::string nameBelow(const fs::path& folder, const fs::path& file) {
 /// All files below a folder, by their names in capitals.
 std::map<std::string, fs::path> pictureFilesIn(const fs::path& folder) {
     std::map<std::string, fs::path> files;
-    std::error_code error;
-    constexpr auto options = fs::directory_options::skip_permission_denied;
-    for (const fs::directory_entry& entry :
-         fs::recursive_directory_iterator(folder, options, error)) {
-        if (entry.is_regular_file(error)) {
-            files[nameBelow(folder, entry.path())] = entry.path();
-        }
+    for (const fs::path& file : filesBelow(folder)) {
+        files[nameBelow(folder, file)] = file;
     }
     return files;
 }

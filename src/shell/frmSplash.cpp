@@ -7,10 +7,10 @@
 #include "PictureFiles.h"
 #include "Programs.h"
 #include "Sounds.h"
+#include "paths.h"
 #include "unpackImages.h"
 
 #include <exception>
-#include <system_error>
 
 namespace fleetwright {
 
@@ -29,18 +29,6 @@ void playSound(const fs::path& file, Sounds& sounds, const Globals& globals) {
     } catch (const std::exception&) {
         // Nobody misses a sound so much as to be told.
     }
-}
-
-/// How many files there are, while another program makes them.
-int filesBelow(const fs::path& folder) {
-    int files = 0;
-    std::error_code gone;
-    for (fs::recursive_directory_iterator entry(folder, gone);
-         !gone && entry != fs::recursive_directory_iterator(); entry.increment(gone)) {
-        std::error_code unknown;
-        files += entry->is_regular_file(unknown) ? 1 : 0;
-    }
-    return files;
 }
 
 }  // namespace
@@ -91,7 +79,7 @@ void frmSplash::unpackOnFirstRun() {
     constexpr int longestWait = 10000;  // milliseconds
     const auto runArchive = [this](const fs::path& archive, const fs::path& folder) {
         const auto showProgress = [this, &folder] {
-            setText("Unpacking the pictures... " + std::to_string(filesBelow(folder)));
+            setText("Unpacking the pictures... " + std::to_string(filesBelow(folder).size()));
             repaint();
         };
         showProgress();

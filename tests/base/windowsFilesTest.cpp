@@ -52,6 +52,15 @@ TEST(WindowsFiles, AreSavedOrNotAsOthersShareThem) {
     setVariable(userDataVariable, (folder.path() / "home").string());
     const fs::path file = folder.write("ship.shp", "old");
     {
+        const HeldFile held(file, 0);
+        try {
+            readBytes(file);
+            ADD_FAILURE();
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.what(), std::string("cannot be read: another program has it open"));
+        }
+    }
+    {
         const HeldFile held(file, FILE_SHARE_READ);
         EXPECT_EQ(faultOf(file), "cannot be saved: another program has it open");
         EXPECT_EQ(folder.read("ship.shp"), "old");
@@ -101,5 +110,6 @@ TEST(WindowsFiles, HaveAnyNameInAnyDepth) {
     EXPECT_EQ(readBytes(nativePath(deep + "\\sh\u00EFP.SHP")), "second");
     EXPECT_TRUE(FileLock(file).isHeld());
     EXPECT_EQ(listFolder(nativePath(deep), ".shp"), std::vector<fs::path>{file});
+    EXPECT_EQ(filesBelow(folder.path()).size(), 1U);
     EXPECT_TRUE(file.is_absolute() && file.has_root_name());
 }

@@ -1,16 +1,20 @@
 #include "openFileCalls.h"
 
+#include "fileCalls.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace fleetwright::openFileCalls {
 
-int open(const std::filesystem::path& file, OpenFile::Use use) {
+int open(const std::filesystem::path& file, OpenFile::Use use, std::error_code& error) {
     const int how = use == OpenFile::Use::Read    ? O_RDONLY
                     : use == OpenFile::Use::Write ? O_WRONLY | O_NOFOLLOW
                                                   : O_WRONLY | O_CREAT | O_EXCL;
-    return ::open(file.c_str(), how | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
+    const int descriptor = ::open(file.c_str(), how | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
+    error = errorUnless(descriptor >= 0);
+    return descriptor;
 }
 
 bool isPlain(int descriptor, std::uintmax_t& size) {

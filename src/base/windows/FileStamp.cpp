@@ -2,22 +2,22 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <ratio>
+
 namespace fleetwright {
 
 namespace {
 
-/// A count of 100 nanoseconds, as one of nanoseconds.
-std::int64_t nanoseconds(const LARGE_INTEGER& time) {
-    return time.QuadPart * 100;
-}
+/// What times of files count in.
+using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
 
-std::int64_t now() {
-    FILETIME time{};
-    GetSystemTimePreciseAsFileTime(&time);
-    LARGE_INTEGER count{};
-    count.LowPart = time.dwLowDateTime;
-    count.HighPart = static_cast<LONG>(time.dwHighDateTime);
-    return nanoseconds(count);
+/// A time that has been counted since 1601, since 1970: else nanoseconds would not fit.
+std::int64_t nanoseconds(const LARGE_INTEGER& time) {
+    constexpr Ticks between = std::chrono::hours(24) * 134'774;
+    constexpr Ticks most = std::chrono::duration_cast<Ticks>(std::chrono::nanoseconds::max());
+    const Ticks since = std::clamp(Ticks(time.QuadPart) - between, -most, most);
+    return std::chrono::nanoseconds(since).count();
 }
 
 }  // namespace
@@ -44,7 +44,9 @@ std::optional<FileStamp> fileStamp(const std::filesystem::path& file) {
     stamp.size = (std::uint64_t{about.nFileSizeHigh} << 32) | about.nFileSizeLow;
     stamp.modified = nanoseconds(times.LastWriteTime);
     stamp.changed = nanoseconds(times.ChangeTime);
-    stamp.isFresh = std::chrono::nanoseconds(now() - stamp.modified) < FileStamp::coarsest;
+    stamp.isFresh = std::chrono::system_clock::now().time_since_epoch() -
+                        std::chrono::nanoseconds(stamp.modified) <
+                    FileStamp::coarsest;
     return stamp;
 }
 

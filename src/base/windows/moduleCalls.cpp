@@ -5,7 +5,12 @@
 namespace fleetwright::moduleCalls {
 
 void* load(const std::filesystem::path& file) {
-    return LoadLibraryW(file.c_str());
+    // What is wrong with one is for the program to say, not for a window of the system.
+    DWORD before = 0;
+    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before);
+    void* const module = LoadLibraryW(file.c_str());
+    SetThreadErrorMode(before, nullptr);
+    return module;
 }
 
 void unload(void* module) {

@@ -1,5 +1,6 @@
 #include "openFileCalls.h"
 
+#include "fileCalls.h"
 #include "systemError.h"
 
 #include <fcntl.h>
@@ -21,7 +22,7 @@ HANDLE handleOf(int descriptor) {
 
 }  // namespace
 
-int open(const std::filesystem::path& file, OpenFile::Use use) {
+int open(const std::filesystem::path& file, OpenFile::Use use, std::error_code& error) {
     const bool reads = use == OpenFile::Use::Read;
     // As on other systems, a file that is open can be renamed, replaced and taken away.
     constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -32,11 +33,12 @@ int open(const std::filesystem::path& file, OpenFile::Use use) {
                     sharing, nullptr, use == OpenFile::Use::Create ? CREATE_NEW : OPEN_EXISTING,
                     FILE_ATTRIBUTE_NORMAL | links, nullptr);
     if (handle == INVALID_HANDLE_VALUE) {
-        setErrno();
+        error = systemError();
         return -1;
     }
     const int descriptor = _open_osfhandle(reinterpret_cast<intptr_t>(handle),
                                            _O_BINARY | _O_NOINHERIT | (reads ? _O_RDONLY : 0));
+    error = errorUnless(descriptor >= 0);
     if (descriptor < 0) {
         CloseHandle(handle);
     }

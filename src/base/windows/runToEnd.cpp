@@ -15,11 +15,11 @@ std::wstring quoted(const std::wstring& word) {
     std::wstring text = L"\"";
     std::size_t backslashes = 0;
     for (const wchar_t c : word) {
-        backslashes = c == L'\\' ? backslashes + 1 : 0;
         if (c == L'"') {
-            text.append(1, L'\\');
+            text.append(backslashes + 1, L'\\');
         }
         text += c;
+        backslashes = c == L'\\' ? backslashes + 1 : 0;
     }
     return text.append(backslashes, L'\\') + L'"';
 }

@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <cerrno>
 #include <string>
 
 namespace fleetwright {
@@ -80,10 +79,6 @@ std::error_code systemError() {
     static const HeldFileCategory heldFile;
     const DWORD code = GetLastError();
     return isHeld(code) ? std::error_code(1, heldFile) : std::make_error_code(meaningOf(code));
-}
-
-void setErrno() {
-    errno = static_cast<int>(meaningOf(GetLastError()));
 }
 
 }  // namespace fleetwright

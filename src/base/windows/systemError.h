@@ -11,7 +11,4 @@ namespace fleetwright {
 /// has words of its own; it is `permission_denied`, too.
 std::error_code systemError();
 
-/// The same for the callers that look at `errno`, which it sets.
-void setErrno();
-
 }  // namespace fleetwright
