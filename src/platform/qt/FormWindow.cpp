@@ -176,9 +176,9 @@ QSize FormWindow::fitting(const QSize& inside) const {
     return view.boundedTo(room);
 }
 
-/// How high the menus above the view are.
+/// How high the menus above the view are, which the hint of their size is not in all styles.
 QSize FormWindow::menuSize() const {
-    return {0, menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height()};
+    return {0, menuWidget() == nullptr ? 0 : menuWidget()->heightForWidth(width())};
 }
 
 QSize FormWindow::formSize() const {
@@ -213,6 +213,7 @@ void FormWindow::updateSize() {
         centralWidget()->setFixedSize(view);
         layout()->activate();
     }
+    keepOnScreen();
 }
 
 /// Where a form stands is counted in its twips, or in those of its owner, which has put it there.

@@ -80,7 +80,6 @@ void FormWindow::followZoom() {
     }
     m_scale.Zoomed().raise();
     updateSize();
-    keepOnScreen();
     notePlace();
 }
 

@@ -14,7 +14,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QRadioButton>
+#include <QScreen>
 #include <QSlider>
+#include <QStyle>
 #include <QTest>
 #include <QTreeWidget>
 #include <QUrl>
@@ -88,6 +91,17 @@ TEST_F(FormWindowTest, AWarningCanBeReadAndToldApartInEachTheme) {
     }
     form.label.setAlarming(false);
     EXPECT_EQ(colour(), find<QGroupBox>("frame")->palette().windowText().color());
+}
+
+TEST_F(FormWindowTest, AFaceThatIsDownHasItsGroundInTheStylesOfWindows) {
+    const QString usual = QApplication::style()->name();
+    QApplication::setStyle("windows");
+    auto* const faced = find<QRadioButton>("faced");
+    ASSERT_TRUE(faced->isChecked());
+    const QColor ground = faced->palette().color(QPalette::Button);
+    EXPECT_EQ(faced->grab().toImage().pixelColor(1, 1), ground);
+    EXPECT_NE(ground, window.palette().color(QPalette::Button));
+    QApplication::setStyle(usual);
 }
 
 TEST_F(FormWindowTest, OnlyMovingTheFocusInsideTheWindowLosesIt) {
@@ -239,6 +253,13 @@ TEST_F(FormWindowTest, StaysOnTheScreenWhenItComesToTheTop) {
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint), isTopmost);
         EXPECT_EQ(window.winId(), handle);
     }
+}
+
+TEST_F(FormWindowTest, StaysOnTheScreenAsAWholeWhenItsFormGrows) {
+    const QRect room = window.screen()->availableGeometry();
+    window.move(room.center());
+    form.resize(form.width() + 300, form.height() + 300);
+    EXPECT_EQ(window.frameGeometry() | room, room);
 }
 
 // As a click does that comes before the screen knows that the menu is closed.

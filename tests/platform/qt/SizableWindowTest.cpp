@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -49,7 +50,26 @@ protected:
     FormWindow window{form};
 };
 
+/// Has room above and below menus, as the style of Windows has.
+class RoomyMenus : public QProxyStyle {
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        return metric == PM_MenuBarVMargin ? 3 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
 }  // namespace
+
+TEST_F(SizableWindow, ShowsAllOfAFormBelowMenusOfAnyHeight) {
+    const QString usual = QApplication::style()->name();
+    QApplication::setStyle(new RoomyMenus);
+    const MenuEntry menu(form, {.name = "menu", .caption = "Menu"});
+    FormWindow other(form);
+    other.show();
+    EXPECT_FALSE(other.findChild<QScrollArea*>()->verticalScrollBar()->isVisible());
+    QApplication::setStyle(usual);
+}
 
 TEST_F(SizableWindow, TheFormDecidesHowSmallItGets) {
     const QSize first = window.size();

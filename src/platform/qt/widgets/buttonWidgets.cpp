@@ -69,7 +69,22 @@ protected:
     bool hitButton(const QPoint& place) const override { return rect().contains(place); }
 
     void paintEvent(QPaintEvent*) override {
-        QStylePainter(this).drawComplexControl(QStyle::CC_ToolButton, currentLook());
+        QStylePainter painter(this);
+        const QStyleOptionToolButton look = currentLook();
+        // The styles of Windows give what is down a ground of their own, on which its face is pale.
+        if (!isChecked() || !style()->name().startsWith("windows")) {
+            painter.drawComplexControl(QStyle::CC_ToolButton, look);
+            return;
+        }
+        painter.fillRect(rect(), look.palette.color(QPalette::Button));
+        painter.drawControl(QStyle::CE_ToolButtonLabel, look);
+        if (look.state.testFlag(QStyle::State_HasFocus)) {
+            QStyleOptionFocusRect edge;
+            edge.initFrom(this);
+            edge.rect.adjust(3, 3, -3, -3);
+            edge.backgroundColor = look.palette.color(QPalette::Button);
+            painter.drawPrimitive(QStyle::PE_FrameFocusRect, edge);
+        }
     }
 
 private:
