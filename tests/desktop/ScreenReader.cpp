@@ -66,7 +66,8 @@ void describe(const Element& element, const std::string& indent, std::string& te
 Element::Element(AtspiAccessible* accessible) : m_accessible(accessible, g_object_unref) {}
 
 std::string Element::role() const {
-    return taken(atspi_accessible_get_role_name(m_accessible.get(), nullptr));
+    const std::string role = taken(atspi_accessible_get_role_name(m_accessible.get(), nullptr));
+    return role == "button" ? "push button" : role;  // as newer versions call it
 }
 
 std::string Element::name() const {
