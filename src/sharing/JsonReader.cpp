@@ -116,6 +116,9 @@ const JsonReader::Field JsonReader::systemFields[] = {
     {"cost", {}, false}};
 
 std::vector<JsonShip> JsonReader::read() {
+    if (m_text.empty()) {  // which each version of the library puts in words of its own
+        fail("is no JSON: it is empty");
+    }
     nlohmann::json_sax<nlohmann::json>* const events = this;
     nlohmann::json::sax_parse(m_stream, events);
     return std::move(m_ships);
