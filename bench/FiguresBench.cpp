@@ -2,7 +2,7 @@
 
 #include "BenchFolder.h"
 #include "GoalTable.h"
-#include "ShipOnScreen.h"
+#include "ShipScreens.h"
 #include "commands.h"
 #include "inOrder.h"
 
@@ -17,12 +17,15 @@ namespace {
 void workOutFigures(std::size_t ships, unsigned threads) {
     const std::vector<std::string>& files = shipFiles();
     std::size_t bytes = 0;
+    ShipScreens screens(SOURCE_FOLDER "/data",
+                        CatalogueFile::readOnce(SOURCE_FOLDER "/data/weaps.dat"));
     inOrder(
         ships, threads,
         [&](std::size_t index) {
-            ShipOnScreen screen(SOURCE_FOLDER "/data");
-            screen.load(files[index]);
-            return Result{.output = figuresOf(files[index], screen.ship()), .complaints = {}};
+            return screens.lend([&](ShipOnScreen& screen) {
+                screen.load(files[index]);
+                return Result{.output = figuresOf(files[index], screen.ship()), .complaints = {}};
+            });
         },
         [&](std::size_t, const Result& result) { bytes += result.output.size(); });
     benchmark::DoNotOptimize(bytes);

@@ -5,7 +5,7 @@
 #include "FleetFiles.h"
 #include "PrintedFleet.h"
 #include "SheetSupplies.h"
-#include "ShipOnScreen.h"
+#include "ShipScreens.h"
 #include "console.h"
 #include "fingerprint.h"
 #include "fleetFile.h"
@@ -46,9 +46,8 @@ FleetRows loadShips(const Options& options, const FleetFiles& files, const Catal
                     PrintedFleet* printed, int& status) {
     FleetRows rows(files.paths.size());
     const std::string& fleetFile = options.words.front();
-    const auto load = [&](std::size_t index) {
+    const auto load = [&](std::size_t index, ShipOnScreen& screen) {
         const std::string& path = files.paths[index];
-        ShipOnScreen screen(options.appFolder, catalogue);
         auto row = std::make_shared<const FleetRow>(fleetRow(screen, path));
         Result result;
         for (const Fault& fault : row->faults) {
@@ -64,7 +63,11 @@ FleetRows loadShips(const Options& options, const FleetFiles& files, const Catal
         rows[index] = std::move(row);
         return result;
     };
-    status = std::max(status, printInOrder(files.paths.size(), load));
+    ShipScreens screens(options.appFolder, catalogue);
+    const auto work = [&](std::size_t index) {
+        return screens.lend([&](ShipOnScreen& screen) { return load(index, screen); });
+    };
+    status = std::max(status, printInOrder(files.paths.size(), work));
     FleetRows ofShips;
     for (const std::size_t file : files.ofShip) {
         ofShips.push_back(rows[file]);

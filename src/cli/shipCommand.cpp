@@ -2,7 +2,7 @@
 
 #include "CatalogueFile.h"
 #include "Error.h"
-#include "ShipOnScreen.h"
+#include "ShipScreens.h"
 #include "fleetFile.h"
 #include "paths.h"
 #include "readShip.h"
@@ -21,9 +21,8 @@ int forEachShip(const Options& options, std::span<const std::string> ships,
                 const CatalogueFile& catalogueFile, RefusedLines refusedLines,
                 const std::function<std::string(std::size_t, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t)>& taken) {
-    const auto load = [&](std::size_t index) {
+    const auto load = [&](std::size_t index, ShipOnScreen& screen) {
         const std::string& file = ships[index];
-        ShipOnScreen screen(options.appFolder, catalogueFile);
         Result result;
         if (const auto fault = screen.load(file)) {
             result.complaints.push_back(complaint(file, *fault));
@@ -42,7 +41,13 @@ int forEachShip(const Options& options, std::span<const std::string> ships,
         }
         return result;
     };
-    return printInOrder(ships.size(), load, taken);
+    ShipScreens screens(options.appFolder, catalogueFile);
+    return printInOrder(
+        ships.size(),
+        [&](std::size_t index) {
+            return screens.lend([&](ShipOnScreen& screen) { return load(index, screen); });
+        },
+        taken);
 }
 
 void refuseFleet(const std::string& ship) {

@@ -1,7 +1,6 @@
 #include "SheetsOnDemand.h"
 
 #include "Error.h"
-#include "ShipOnScreen.h"
 #include "designCode.h"
 
 #include <algorithm>
@@ -9,7 +8,7 @@
 namespace fleetwright {
 
 SheetsOnDemand::SheetsOnDemand(std::size_t count, const SheetTools& tools, CatalogueFile catalogue)
-    : m_tools(tools), m_catalogue(std::move(catalogue)), m_kept(count) {}
+    : m_tools(tools), m_screen(tools.appFolder, std::move(catalogue)), m_kept(count) {}
 
 VectorSheet SheetsOnDemand::draw(std::size_t index, const ShipOnScreen& screen) {
     VectorSheet sheet = recordedSheet(screen, m_tools, {});
@@ -30,8 +29,7 @@ std::shared_ptr<const VectorSheet> SheetsOnDemand::at(std::size_t index) {
     if (known != m_last.end()) {
         return known->second;
     }
-    ShipOnScreen screen(m_tools.appFolder, m_catalogue);
-    if (const auto fault = screen.load(kept.code)) {
+    if (const auto fault = m_screen.load(kept.code)) {
         throw Error(fault->text);
     }
     constexpr std::size_t most = 4;  // as many as a page has
@@ -39,7 +37,7 @@ std::shared_ptr<const VectorSheet> SheetsOnDemand::at(std::size_t index) {
         m_last.pop_front();
     }
     m_last.emplace_back(index,
-                        std::make_shared<const VectorSheet>(recordedSheet(screen, m_tools, {})));
+                        std::make_shared<const VectorSheet>(recordedSheet(m_screen, m_tools, {})));
     return m_last.back().second;
 }
 

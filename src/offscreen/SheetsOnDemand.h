@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CatalogueFile.h"
+#include "ShipOnScreen.h"
 #include "drawnSheet.h"
 
 #include <cstddef>
@@ -36,7 +36,7 @@ private:
     using Drawn = std::pair<std::size_t, std::shared_ptr<const VectorSheet>>;
 
     const SheetTools& m_tools;
-    CatalogueFile m_catalogue;
+    ShipOnScreen m_screen;  // of those that are drawn once more
     std::vector<Kept> m_kept;
     std::deque<Drawn> m_last;  ///< ships of one design are mostly wanted behind each other
 };

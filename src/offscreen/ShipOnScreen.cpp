@@ -50,22 +50,33 @@ ShipOnScreen::ShipOnScreen(std::filesystem::path appFolder, CatalogueFile catalo
 ShipOnScreen::~ShipOnScreen() = default;
 
 std::optional<Fault> ShipOnScreen::load(const std::string& file) {
-    m_catalogueFile.read();  // the window would not say what is wrong with it
-    m_program = std::make_unique<Program>(m_appFolder, m_catalogueFile, m_formula);
-    frmMain& window = m_program->window;
-    try {
-        window.show();
-    } catch (const EndOfProgram&) {
-        throw FileError(m_catalogueFile.path(), "no ship can be made of it");
+    // A load has the window start from a new ship, whatever it has shown. Only where somebody has
+    // acted on it, or where a load has failed, there is another one.
+    if (!std::exchange(m_isForNext, false)) {
+        m_program = startedProgram();
     }
+    frmMain& window = m_program->window;
     if (!window.files.loadFile(file)) {
         return window.files.fileFault;
     }
     window.tmrRefreshScreen.tick();
+    m_isForNext = true;
     return std::nullopt;
 }
 
+std::unique_ptr<ShipOnScreen::Program> ShipOnScreen::startedProgram() const {
+    m_catalogueFile.read();  // the window would not say what is wrong with it
+    auto program = std::make_unique<Program>(m_appFolder, m_catalogueFile, m_formula);
+    try {
+        program->window.show();
+    } catch (const EndOfProgram&) {
+        throw FileError(m_catalogueFile.path(), "no ship can be made of it");
+    }
+    return program;
+}
+
 void ShipOnScreen::switchAutoMassOn() {
+    m_isForNext = false;
     m_program->window.mass.mnuAutoMass.choose();
 }
 

@@ -26,9 +26,10 @@ public:
     ShipOnScreen& operator=(const ShipOnScreen&) = delete;
     ~ShipOnScreen();
 
-    /// Starts the program, loads a ship file as the Load command does, and lets one tick of the
-    /// refresh timer pass. Returns why the file does not load, or nothing. Throws FileError when
-    /// the catalogue cannot be used.
+    /// Loads a ship file as the Load command does in a program that has just been started, and lets
+    /// one tick of the refresh timer pass. Returns why the file does not load, or nothing. Throws
+    /// FileError when the catalogue cannot be used. Many ships are best loaded one after the other:
+    /// to start the program takes longer.
     std::optional<Fault> load(const std::string& file);
 
     /// Chooses AutoMass from the menu.
@@ -42,10 +43,13 @@ public:
 private:
     class Program;
 
+    std::unique_ptr<Program> startedProgram() const;
+
     std::filesystem::path m_appFolder;
     CatalogueFile m_catalogueFile;
     FormulaFunction m_formula;
     std::unique_ptr<Program> m_program;
+    bool m_isForNext = false;  ///< whether the next ship comes out there as in a new program
 };
 
 }  // namespace fleetwright

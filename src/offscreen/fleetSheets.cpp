@@ -17,6 +17,7 @@ fleetSheets(const Fleet& fleet, const std::filesystem::path& folder, const Catal
             const std::function<void(const std::string& ship, const Error& why)>& refuse) {
     FleetSheets sheets;
     std::map<std::string, std::size_t> known;
+    ShipOnScreen screen(tools.appFolder, catalogue);
     for (const FleetShip& ship : fleet.ships) {
         const std::string path = shipPath(folder, ship);
         const auto [first, isNew] = known.try_emplace(path, sheets.size());
@@ -25,7 +26,6 @@ fleetSheets(const Fleet& fleet, const std::filesystem::path& folder, const Catal
             continue;
         }
         std::shared_ptr<const VectorSheet>& sheet = sheets.emplace_back();
-        ShipOnScreen screen(tools.appFolder, catalogue);
         if (!fleetRow(screen, path).figures) {
             continue;
         }

@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "fileCalls.h"
+#include "frmMain.h"
 #include "testShip.h"
 
 #include <gtest/gtest.h>
@@ -12,8 +13,16 @@ using namespace fleetwright;
 
 namespace {
 
-/// The design of a file as the program shows it: "hull mass thrust ftl armor streamline", and
-/// the figures.
+/// The design on a screen: "hull mass thrust ftl armor streamline", and the figures.
+std::string shownOn(ShipOnScreen& screen) {
+    const ShipClass& ship = screen.ship();
+    return std::to_string(ship.Hull()) + ' ' + std::to_string(ship.mass()) + ' ' +
+           std::to_string(ship.THRUST()) + ' ' + std::to_string(ship.FTL()) + ' ' +
+           std::to_string(ship.Armor()) + ' ' + std::to_string(ship.Streamline()) + ", " +
+           figures(ship);
+}
+
+/// The design of a file as the program shows it.
 std::string shown(std::string_view text, bool withAutoMass = false) {
     static const ShipYard yard;
     ShipOnScreen screen(yard.folder().path());
@@ -21,11 +30,7 @@ std::string shown(std::string_view text, bool withAutoMass = false) {
     if (withAutoMass) {
         screen.switchAutoMassOn();
     }
-    const ShipClass& ship = screen.ship();
-    return std::to_string(ship.Hull()) + ' ' + std::to_string(ship.mass()) + ' ' +
-           std::to_string(ship.THRUST()) + ' ' + std::to_string(ship.FTL()) + ' ' +
-           std::to_string(ship.Armor()) + ' ' + std::to_string(ship.Streamline()) + ", " +
-           figures(ship);
+    return shownOn(screen);
 }
 
 }  // namespace
@@ -83,4 +88,39 @@ TEST(ShipOnScreen, SeesOneCatalogueWhateverBecomesOfItsFile) {
 TEST(ShipOnScreen, FitsTheMassAndShowsWhatItWrites) {
     EXPECT_EQ(shown("Mass: 80\nSystem: Ballast, 20", true), "1 40 2 1 0 0, 200 20 4 3 3 0");
     EXPECT_EQ(shown("Mass: 60", true), "1 2 2 1 0 0, 7 1 2 0 1 1");
+}
+
+TEST(ShipOnScreen, ShowsAShipAlikeWhateverItHasShownBefore) {
+    const ShipYard yard;
+    const auto catalogue = CatalogueFile::readOnce(yard.folder().path() / "weaps.dat");
+    const auto load = [&](ShipOnScreen& screen, std::string_view text) {
+        const bool hasFailed = screen.load(yard.folder().write("shown.shp", text)).has_value();
+        std::string seen = shownOn(screen) + screen.ship().shipFile();
+        for (const ListView::Row& row : screen.window().aboard.lvCurrentWeapons.rows()) {
+            seen += row.key + ' ' + row.subItem + '\n';
+        }
+        return seen + (hasFailed ? "failed" : "loaded");
+    };
+    const std::string_view ships[] = {
+        "",
+        "Mass: -5\nArmor: 2\nStreamlining: Full",
+        "Ship Name: Odd\nMass: 10\nThrust: 9",
+        "Thrust: 12\nFTL: None",
+        "Mass: 40\nThrust: 6\nFTL: Tug\nArmor: 1\nStreamlining: Full\nType: Starbase\nSystem: Gun, "
+        "1",
+        "Mass: 40\nType: Starbase\nSystem: Gun, 1\nThrust: 4\nFTL: Normal",
+        "Mass: 60\nType: Merchant\nSystem: Ballast, 3\nSystem: Nowhere, 1",
+        "Mass: 2000000000\nSystem: Ballast, 2000000000",
+        "Mass: 80\nThrust: 0\nSystem: Ballast, 20",
+    };
+    for (const std::string_view first : ships) {
+        for (const std::string_view second : ships) {
+            ShipOnScreen used(yard.folder().path(), catalogue),
+                fresh(yard.folder().path(), catalogue);
+            load(used, first);
+            EXPECT_EQ(load(used, second), load(fresh, second)) << second << "\nbehind\n" << first;
+            used.switchAutoMassOn();
+            EXPECT_EQ(load(used, first), load(fresh, first)) << first << "\nbehind\n" << second;
+        }
+    }
 }
