@@ -15,6 +15,15 @@ constexpr unsigned bitsOfDigit = 6;
 constexpr std::size_t digitsOfGroup = 4;
 constexpr char padding = '=';
 
+/// The digits of 12 bits, two each.
+constexpr auto pairsOfDigits = [] {
+    std::array<std::array<char, 2>, std::size_t{1} << 2 * bitsOfDigit> pairs{};
+    for (std::size_t value = 0; value < pairs.size(); ++value) {
+        pairs[value] = {codeDigits[value >> bitsOfDigit], codeDigits[value & 0x3FU]};
+    }
+    return pairs;
+}();
+
 constexpr std::uint8_t noDigit = 0xFF;
 constexpr std::array<std::uint8_t, 256> digitValues = [] {
     std::array<std::uint8_t, 256> values{};
@@ -37,8 +46,9 @@ std::string toBase64(std::string_view bytes, Base64Lines lines) {
     const auto write = [&written](unsigned char first, unsigned char second, unsigned char third) {
         const std::uint32_t bits =
             std::uint32_t{first} << 16U | std::uint32_t{second} << 8U | third;
-        for (unsigned digit = digitsOfGroup; digit-- > 0;) {
-            *written++ = codeDigits[bits >> digit * bitsOfDigit & 0x3FU];
+        for (const std::uint32_t pair : {bits >> 2 * bitsOfDigit, bits & 0xFFFU}) {
+            *written++ = pairsOfDigits[pair][0];
+            *written++ = pairsOfDigits[pair][1];
         }
     };
     const auto* const data = reinterpret_cast<const unsigned char*>(bytes.data());

@@ -25,6 +25,10 @@ fs::path findEntry(const fs::path& folder, const fs::path& name) {
     const std::string wanted = toCapitals(pathText(name));
     fs::path found;
     for (const fs::directory_entry& entry : folderEntries(folder, error)) {
+        // Capitals take as many bytes as small letters, so that most entries need no closer look.
+        if (entry.path().native().size() != exact.native().size()) {
+            continue;
+        }
         const fs::path other = entry.path().filename();
         if (toCapitals(pathText(other)) == wanted && (found.empty() || other < found)) {
             found = other;

@@ -81,34 +81,36 @@ constexpr std::array<Letter, 34> letters = {{
 std::string changeCase(std::string_view text, char firstOfAscii, std::string_view Letter::* from,
                        std::string_view Letter::* to) {
     constexpr unsigned char caseBit = 0x20;
-    std::string changed;
-    changed.reserve(text.size());
-    while (!text.empty()) {
-        const char lead = text.front();
-        if (static_cast<unsigned char>(lead) <= '\x7F') {
-            const bool isFound = lead >= firstOfAscii && lead <= firstOfAscii + ('z' - 'a');
-            changed += isFound ? static_cast<char>(lead ^ caseBit) : lead;
-            text.remove_prefix(1);
-            continue;
+    std::string changed(text);
+    bool areAllAscii = true;
+    for (char& c : changed) {
+        const bool isFound = c >= firstOfAscii && c <= firstOfAscii + ('z' - 'a');
+        areAllAscii &= static_cast<unsigned char>(c) <= '\x7F';
+        c = isFound ? static_cast<char>(c ^ caseBit) : c;
+    }
+    for (std::size_t at = 0; at < changed.size() && !areAllAscii;) {
+        const std::string_view rest = std::string_view(changed).substr(at);
+        const std::string_view character = rest.substr(0, characterLength(rest));
+        const auto found = std::find_if(letters.begin(), letters.end(), [&](const Letter& letter) {
+            return letter.*from == character;
+        });
+        at += character.size();
+        if (found != letters.end()) {
+            changed.replace(at - character.size(), character.size(), (*found).*to);
         }
-        std::string_view character = text.substr(0, characterLength(text));
-        text.remove_prefix(character.size());
-        if (character.size() == 2) {
-            const auto found =
-                std::find_if(letters.begin(), letters.end(),
-                             [&](const Letter& letter) { return letter.*from == character; });
-            character = found == letters.end() ? character : (*found).*to;
-        }
-        changed += character;
     }
     return changed;
+}
+
+bool isPlain(char c) {
+    return c >= ' ' && c <= '~';
 }
 
 std::string replaced(std::string_view text, bool areLines) {
     // As most texts are. All of it is looked at, which is faster than an end at the first other.
     bool areAll = true;
     for (const char c : text) {
-        areAll &= c >= ' ' && c <= '~';
+        areAll &= isPlain(c);
     }
     if (areAll) {
         return std::string(text);
@@ -116,6 +118,12 @@ std::string replaced(std::string_view text, bool areLines) {
     std::string shown;
     shown.reserve(text.size());
     while (!text.empty()) {
+        const auto* const odd = std::find_if_not(text.begin(), text.end(), isPlain);
+        shown.append(text.begin(), odd);
+        text.remove_prefix(static_cast<std::size_t>(odd - text.begin()));
+        if (text.empty()) {
+            break;
+        }
         const std::string_view character = text.substr(0, characterLength(text));
         const char32_t code = codePoint(text);
         const bool isLayout = code == U'\n' || code == U'\t' || text.starts_with("\r\n");

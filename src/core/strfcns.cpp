@@ -19,6 +19,12 @@ struct Delimiter {
 };
 
 Delimiter earliestDelimiter(std::string_view source, std::string_view delims, bool bExact) {
+    constexpr char lastOfAscii = '\x7F';
+    if (bExact && delims.size() == 1 && delims.front() >= '\0' && delims.front() <= lastOfAscii) {
+        // No other character has such a byte in it.
+        const std::size_t place = source.find(delims.front());
+        return place == std::string_view::npos ? Delimiter() : Delimiter{place, 1};
+    }
     for (std::size_t place = 0; place < source.size();) {
         const std::string_view character =
             source.substr(place, characterLength(source.substr(place)));

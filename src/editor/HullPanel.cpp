@@ -3,15 +3,19 @@
 #include "designWords.h"
 #include "text.h"
 
+#include <string>
+#include <string_view>
+
 namespace fleetwright {
 
 namespace {
 
 /// Has the tool tips in a group say why it is closed, if it is.
-void explain(Frame& group, bool isOpen, const std::string& why) {
+void explain(Frame& group, bool isOpen, std::string_view reason) {
     if (group.isEnabled() == isOpen) {
         return;
     }
+    const std::string why = asSentence(reason);
     for (Control* const control : group.controls()) {
         const std::string tip = control->toolTip();
         const std::string own = tip.substr(0, tip.find('\n'));
@@ -84,7 +88,7 @@ void HullPanel::chooseBaseHull(HullType hullType) {
 }
 
 void HullPanel::EnableStreamlineGroup(bool isEnabled) {
-    explain(fraStreamling, isEnabled, asSentence(noStreamlining));
+    explain(fraStreamling, isEnabled, noStreamlining);
     optFullStreamling.setEnabled(isEnabled);
     optPartStreamline.setEnabled(isEnabled);
     optNoStreamline.setEnabled(isEnabled);
@@ -92,7 +96,7 @@ void HullPanel::EnableStreamlineGroup(bool isEnabled) {
 }
 
 void HullPanel::EnableFTLGroup(bool isEnabled) {
-    explain(fraFTL, isEnabled, asSentence(noFtlDrive));
+    explain(fraFTL, isEnabled, noFtlDrive);
     optNone.setEnabled(isEnabled);
     optNormal.setEnabled(isEnabled);
     optTug.setEnabled(isEnabled);
@@ -100,7 +104,7 @@ void HullPanel::EnableFTLGroup(bool isEnabled) {
 }
 
 void HullPanel::EnableThrustGroup(bool isEnabled) {
-    explain(fraThrust, isEnabled, asSentence(noThrust));
+    explain(fraThrust, isEnabled, noThrust);
     for (OptionButton& button : optThrust) {
         button.setEnabled(isEnabled);
     }
