@@ -55,7 +55,7 @@ PageText fittedText(std::string_view text, PageText style, double width, double 
 void putCaptioned(Page& page, std::shared_ptr<const Drawing> drawing, const Box& place,
                   std::string_view caption) {
     constexpr double size = 2.1;
-    page.items.emplace_back(PagePicture{std::move(drawing), nullptr, place, place});
+    page.items.emplace_back(PagePicture{std::move(drawing), nullptr, place, place, true});
     page.items.emplace_back(PageText{.text = std::string(caption),
                                      .x = place.x + place.width / 2,
                                      .y = place.y + place.height + size * letterHeight,
@@ -123,7 +123,8 @@ std::vector<std::string> MeasuredText::lines(double size, double width, std::siz
     const std::size_t count =
         breakLines(size, width, most, [&lines](std::size_t line, std::string_view piece) {
             if (line == lines.size()) {
-                lines.emplace_back();
+                constexpr std::size_t usualLength = 64;  // bytes
+                lines.emplace_back().reserve(usualLength);
             }
             lines.back() += piece;
         });

@@ -21,7 +21,7 @@ PageText fittedText(std::string_view text, PageText style, double width, double 
 
 /// The height of a caption below a picture.
 inline constexpr double captionRoom = 2.6;
-/// Puts a drawing here, and a few words below the middle of it.
+/// Puts a drawing that was made for this page here, and a few words below the middle of it.
 void putCaptioned(Page& page, std::shared_ptr<const Drawing> drawing, const Box& place,
                   std::string_view caption);
 

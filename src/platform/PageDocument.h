@@ -63,6 +63,8 @@ struct PagePicture {
     std::shared_ptr<const Raster> raster;
     Box place;  ///< of the whole picture
     Box clip;   ///< what shows of it
+    bool isOnlyHere =
+        false;  ///< no other document shows it, so that nothing of it is worth keeping
 };
 
 using PageItem = std::variant<PageText, PageLine, PageRectangle, PagePicture>;

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 
 namespace fleetwright {
 
@@ -46,25 +48,32 @@ void walkSigns(std::string_view text, PageFont font, Take take) {
 
 constexpr std::size_t asciiCount = 128, latinCount = 256;
 
-/// How far the first characters of Unicode move the pen in a font, in 2048ths of its size; 0 for
-/// those that are not drawn.
-const std::array<double, latinCount>& latinAdvances(PageFont font) {
+/// How far a sign moves the pen, in 2048ths of the font's size. These are whole numbers, so that
+/// sums of them are exact, and quick.
+int advanceOf(const PageSign& sign) {
+    return static_cast<int>(sign.width * unitsPerSize);
+}
+
+/// How far the first characters of Unicode move the pen in a font; 0 for those that are not drawn.
+using LatinAdvances = std::array<int, latinCount>;
+
+const LatinAdvances& latinAdvances(PageFont font) {
     const auto all = [](PageFont ofFont) {
-        std::array<double, latinCount> advances{};
+        LatinAdvances advances{};
         for (std::size_t code = 0; code < latinCount; ++code) {
             const char both[] = {static_cast<char>(0xC0U | code >> 6U),
                                  static_cast<char>(0x80U | (code & 0x3FU))};
             const char one = static_cast<char>(code);
             const auto take = [&](const PageSign& sign, std::string_view) {
-                advances[code] = sign.width * unitsPerSize;
+                advances[code] = advanceOf(sign);
             };
             walkSigns(code < asciiCount ? std::string_view(&one, 1) : std::string_view(both, 2),
                       ofFont, take);
         }
         return advances;
     };
-    static const std::array<double, latinCount> regular = all(PageFont::Regular);
-    static const std::array<double, latinCount> bold = all(PageFont::Bold);
+    static const LatinAdvances regular = all(PageFont::Regular);
+    static const LatinAdvances bold = all(PageFont::Bold);
     return font == PageFont::Bold ? bold : regular;
 }
 
@@ -123,26 +132,26 @@ double startOf(const PageText& text) {
 }
 
 double textWidth(std::string_view text, double size, PageFont font) {
-    const std::array<double, latinCount>& advances = latinAdvances(font);
-    double width = 0;
-    for (std::string_view rest = text; !rest.empty();) {
-        if (const auto code = static_cast<unsigned char>(rest.front()); code < asciiCount) {
+    const LatinAdvances& advances = latinAdvances(font);
+    std::int64_t width = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        if (const auto code = static_cast<unsigned char>(text[at]); code < asciiCount) {
             width += advances[code];
-            rest.remove_prefix(1);
+            ++at;
             continue;
         }
+        const std::string_view rest = text.substr(at);
         const std::string_view character = rest.substr(0, characterLength(rest));
         if (const char32_t code = codePoint(character); code < latinCount) {
             width += advances[code];
-            rest.remove_prefix(character.size());
-            continue;
+        } else {
+            walkSigns(character, font, [&width](const PageSign& sign, std::string_view) {
+                width += advanceOf(sign);
+            });
         }
-        walkSigns(character, font, [&width](const PageSign& sign, std::string_view) {
-            width += sign.width * unitsPerSize;
-        });
-        rest.remove_prefix(character.size());
+        at += character.size();
     }
-    return width / unitsPerSize * size;
+    return static_cast<double>(width) / unitsPerSize * size;
 }
 
 }  // namespace fleetwright

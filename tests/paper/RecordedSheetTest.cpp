@@ -61,9 +61,11 @@ std::string draw(Sheet& sheet, std::mt19937 random, const SSDMap& map, SheetList
 std::uint32_t colourAt(const Page& page, double x, double y) {
     std::uint32_t colour = 0;
     for (const PageItem& item : page.items) {
-        const auto& [drawing, raster, place, clip] = std::get<PagePicture>(item);
+        const auto& picture = std::get<PagePicture>(item);
+        const Box& clip = picture.clip;
         if (x > clip.x && y > clip.y && x < clip.x + clip.width && y < clip.y + clip.height) {
-            colour = drawing ? *drawing->shapes[0].fill : raster->pixel(0, 0);
+            colour =
+                picture.drawing ? *picture.drawing->shapes[0].fill : picture.raster->pixel(0, 0);
         }
     }
     return colour;

@@ -45,8 +45,7 @@ void addShape(std::string& text, const DrawnShape& shape) {
     text += '\n';
 }
 
-std::string shapesOf(const Drawing& drawing, const Box& paper) {
-    std::string text;
+void addShapesOf(const Drawing& drawing, const Box& paper, std::string& text) {
     SvgTag rectangle(text, "rect");
     rectangle.set(paper);
     rectangle.set("fill", "#fff").close();
@@ -54,7 +53,6 @@ std::string shapesOf(const Drawing& drawing, const Box& paper) {
     for (const DrawnShape& shape : drawing.shapes) {
         addShape(text, shape);
     }
-    return text;
 }
 
 bool isInside(const Box& inner, const Box& outer) {
@@ -64,10 +62,22 @@ bool isInside(const Box& inner, const Box& outer) {
            inner.y + inner.height <= outer.y + outer.height + hair;
 }
 
+/// The measures of a picture, in pixels.
+std::pair<double, double> sizeOf(const PagePicture& picture) {
+    return picture.drawing
+               ? std::pair<double, double>(picture.drawing->width, picture.drawing->height)
+               : std::pair<double, double>(picture.raster->width(), picture.raster->height());
+}
+
+bool hasArea(const PagePicture& picture) {
+    const auto [width, height] = sizeOf(picture);
+    return width > 0 && height > 0;
+}
+
 }  // namespace
 
 /// What refers to a clip path of this box, which is defined once.
-std::string SvgPictures::clipOf(const Box& box) {
+const std::string& SvgPictures::clipOf(const Box& box) {
     const auto [known, isNew] =
         m_clips.try_emplace({box.x, box.y, box.width, box.height}, std::string());
     if (isNew) {
@@ -83,7 +93,7 @@ std::string SvgPictures::clipOf(const Box& box) {
 }
 
 void SvgPictures::defineDrawing(const std::string& name,
-                                const std::shared_ptr<const Drawing>& drawing) {
+                                const std::shared_ptr<const Drawing>& drawing, bool isOnlyHere) {
     const Box paper = {0, 0, double(drawing->width), double(drawing->height)};
     const std::string clip = isInside(drawing->ink, paper) ? std::string() : clipOf(paper);
     SvgTag group(m_definitions, "g");
@@ -92,11 +102,15 @@ void SvgPictures::defineDrawing(const std::string& name,
         group.set("clip-path", clip);
     }
     group.open();
-    const auto shapes = [&] { return shapesOf(*drawing, paper); };
-    if (m_kept != nullptr) {
-        m_definitions += *m_kept->drawing(drawing, shapes);
+    const auto addShapes = [&](std::string& text) { addShapesOf(*drawing, paper, text); };
+    if (m_kept == nullptr || isOnlyHere) {
+        addShapes(m_definitions);
     } else {
-        m_definitions += shapes();
+        m_definitions += *m_kept->drawing(drawing, [&addShapes] {
+            std::string shapes;
+            addShapes(shapes);
+            return shapes;
+        });
     }
     m_definitions += "</g>\n";
 }
@@ -115,16 +129,14 @@ void SvgPictures::defineRaster(const std::string& name, const Raster& raster) {
 }
 
 /// The name of a picture's definition, which is written when it is first asked for.
-std::string SvgPictures::nameOf(const PagePicture& picture) {
+const std::string& SvgPictures::nameOf(const PagePicture& picture) {
     const void* const key = picture.drawing ? static_cast<const void*>(picture.drawing.get())
                                             : static_cast<const void*>(picture.raster.get());
     const auto [known, isNew] = m_pictures.try_emplace(key, std::string());
     if (isNew) {
-        constexpr std::size_t usualSize = 1U << 16U;  // bytes of all pictures of a sheet
-        m_definitions.reserve(usualSize);
         known->second = "picture" + std::to_string(m_pictures.size());
         if (picture.drawing) {
-            defineDrawing(known->second, picture.drawing);
+            defineDrawing(known->second, picture.drawing, picture.isOnlyHere);
         } else {
             defineRaster(known->second, *picture.raster);
         }
@@ -132,29 +144,45 @@ std::string SvgPictures::nameOf(const PagePicture& picture) {
     return known->second;
 }
 
+void SvgPictures::define(const PagePicture& picture) {
+    if (hasArea(picture)) {
+        nameOf(picture);
+        if (!isInside(picture.place, picture.clip)) {
+            clipOf(picture.clip);
+        }
+    }
+}
+
 void SvgPictures::use(const PagePicture& picture, std::string& body) {
-    const double width = picture.drawing ? picture.drawing->width : picture.raster->width();
-    const double height = picture.drawing ? picture.drawing->height : picture.raster->height();
-    const bool isWhole = isInside(picture.place, picture.clip);
-    if (width <= 0 || height <= 0) {
+    if (!hasArea(picture)) {
         return;
     }
-    const std::string name = nameOf(picture);
+    const auto [width, height] = sizeOf(picture);
+    const bool isWhole = isInside(picture.place, picture.clip);
+    const std::string& name = nameOf(picture);
     if (!isWhole) {
         SvgTag(body, "g").set("clip-path", clipOf(picture.clip)).open();
     }
-    ((body += "<use href=\"#") += name) += "\" transform=\"translate(";
-    addSvgNumber(body, picture.place.x);
-    addSvgNumber(body += ' ', picture.place.y);
-    addSvgNumber(body += ") scale(", picture.place.width / width);
-    addSvgNumber(body += ' ', picture.place.height / height);
-    body += isWhole ? ")\"/>\n" : ")\"/></g>\n";
+    BackwardText use;
+    use.put(isWhole ? ")\"/>\n" : ")\"/></g>\n");
+    use.putNumber(picture.place.height / height);
+    use.put(' ');
+    use.putNumber(picture.place.width / width);
+    use.put(") scale(");
+    use.putNumber(picture.place.y);
+    use.put(' ');
+    use.putNumber(picture.place.x);
+    use.put("\" transform=\"translate(");
+    use.put(name);
+    use.put("<use href=\"#");
+    body += use.text();
 }
 
 std::string SvgPictures::takeDefinitions() {
-    if (!m_definitions.empty()) {
-        m_definitions.insert(0, "<defs>\n") += "</defs>\n";
+    if (m_definitions == definitionsStart) {
+        return {};
     }
+    m_definitions += "</defs>\n";
     return std::exchange(m_definitions, std::string());
 }
 

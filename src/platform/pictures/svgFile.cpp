@@ -6,6 +6,7 @@
 #include "svgText.h"
 
 #include <cstddef>
+#include <utility>
 #include <variant>
 
 namespace fleetwright {
@@ -25,20 +26,21 @@ private:
     void write(const PageText& text);
     void write(const PageLine& line);
     void write(const PageRectangle& rectangle);
-    void write(const PagePicture& picture) { m_pictures.use(picture, m_body); }
+    void write(const PagePicture& picture) { m_pictures.use(picture, m_text); }
     void writePage(const Page& page, std::size_t index);
-    std::string head(double height) const;
+    void writeHead();
+    std::string definitions();
 
     const PageDocument& m_document;
     KeptSvgParts* m_kept;
     SvgPictures m_pictures;
-    std::string m_body;
+    std::string m_text;
 };
 
 void SvgWriter::write(const PageText& text) {
     static constexpr const char* anchors[] = {"start", "middle", "end"};
-    const std::size_t start = m_body.size();
-    SvgTag tag(m_body, "text");
+    const std::size_t start = m_text.size();
+    SvgTag tag(m_text, "text");
     tag.set("x", text.x).set("y", text.y).set("font-size", text.size);
     if (text.font == PageFont::Bold) {
         tag.set("font-weight", "bold");
@@ -54,17 +56,17 @@ void SvgWriter::write(const PageText& text) {
         tag.set("textLength", width).set("lengthAdjust", "spacingAndGlyphs");
     }
     tag.open();
-    const std::size_t words = m_body.size();
-    addSvgText(m_body, text.text);
-    if (m_body.size() == words) {
-        m_body.resize(start);  // nothing to show
+    const std::size_t words = m_text.size();
+    addSvgText(m_text, text.text);
+    if (m_text.size() == words) {
+        m_text.resize(start);  // nothing to show
         return;
     }
-    m_body += "</text>\n";
+    m_text += "</text>\n";
 }
 
 void SvgWriter::write(const PageLine& line) {
-    SvgTag(m_body, "line")
+    SvgTag(m_text, "line")
         .set("x1", line.x1)
         .set("y1", line.y1)
         .set("x2", line.x2)
@@ -72,11 +74,11 @@ void SvgWriter::write(const PageLine& line) {
         .set("stroke", svgColour(line.colour))
         .set("stroke-width", line.width)
         .close();
-    m_body += '\n';
+    m_text += '\n';
 }
 
 void SvgWriter::write(const PageRectangle& rectangle) {
-    SvgTag tag(m_body, "rect");
+    SvgTag tag(m_text, "rect");
     tag.set(rectangle.place);
     if (rectangle.radius > 0) {
         tag.set("rx", rectangle.radius);
@@ -87,24 +89,24 @@ void SvgWriter::write(const PageRectangle& rectangle) {
         tag.set("stroke-width", rectangle.strokeWidth);
     }
     tag.close();
-    m_body += '\n';
+    m_text += '\n';
 }
 
 void SvgWriter::writePage(const Page& page, std::size_t index) {
     const double top = double(index) * (m_document.size.height + pageGap);
-    SvgTag(m_body, "g")
+    SvgTag(m_text, "g")
         .set("id", "page" + std::to_string(index + 1))
         .set("transform", "translate(0 " + svgNumber(top) + ')')
         .open();
-    m_body += '\n';
-    SvgTag paper(m_body, "rect");
+    m_text += '\n';
+    SvgTag paper(m_text, "rect");
     paper.set({0, 0, m_document.size.width, m_document.size.height});
     paper.set("fill", "#fff");
     if (m_document.pages.size() > 1) {
         paper.set("stroke", "#aaa").set("stroke-width", 0.2);
     }
     paper.close();
-    m_body += '\n';
+    m_text += '\n';
     for (const bool isText : {false, true}) {
         for (const PageItem& item : page.items) {
             if (std::holds_alternative<PageText>(item) == isText) {
@@ -112,13 +114,15 @@ void SvgWriter::writePage(const Page& page, std::size_t index) {
             }
         }
     }
-    m_body += "</g>\n";
+    m_text += "</g>\n";
 }
 
-std::string SvgWriter::head(double height) const {
+void SvgWriter::writeHead() {
     const double width = m_document.size.width;
-    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-    SvgTag(text, "svg")
+    const auto count = double(m_document.pages.size());
+    const double height = count * m_document.size.height + (count - 1) * pageGap;
+    m_text += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+    SvgTag(m_text, "svg")
         .set("xmlns", "http://www.w3.org/2000/svg")
         .set("width", svgNumber(width) + "mm")
         .set("height", svgNumber(height) + "mm")
@@ -127,34 +131,43 @@ std::string SvgWriter::head(double height) const {
         .set("font-family", svgFontFamily)
         .set("xml:space", "preserve")
         .open();
-    text += "\n<title>" + svgText(m_document.title) + "</title>\n";
+    m_text += "\n<title>" + svgText(m_document.title) + "</title>\n";
     std::string description = m_document.subject;
     if (!m_document.author.empty()) {
         description += (description.empty() ? "by " : ", by ") + m_document.author;
     }
     if (!description.empty()) {
-        text += "<desc>" + svgText(description) + "</desc>\n";
+        m_text += "<desc>" + svgText(description) + "</desc>\n";
     }
     if (!m_document.metadata.empty()) {
-        text += "<metadata>" + m_document.metadata + "</metadata>\n";
+        ((m_text += "<metadata>") += m_document.metadata) += "</metadata>\n";
     }
-    return text;
+}
+
+/// Those of all pictures, which stand in front of the pages.
+std::string SvgWriter::definitions() {
+    for (const Page& page : m_document.pages) {
+        for (const PageItem& item : page.items) {
+            if (const auto* const picture = std::get_if<PagePicture>(&item)) {
+                m_pictures.define(*picture);
+            }
+        }
+    }
+    return m_pictures.takeDefinitions();
 }
 
 std::string SvgWriter::file() {
+    const std::string fonts = svgFonts(m_document, m_kept), pictures = definitions();
     constexpr std::size_t pageSize = 1U << 15U;  // bytes, of nearly all pages
-    m_body.reserve(m_document.pages.size() * pageSize);
+    m_text.reserve(m_document.metadata.size() + fonts.size() + pictures.size() +
+                   m_document.pages.size() * pageSize);
+    writeHead();
+    (m_text += fonts) += pictures;
     for (std::size_t i = 0; i < m_document.pages.size(); ++i) {
         writePage(m_document.pages[i], i);
     }
-    const auto count = double(m_document.pages.size());
-    const double height = count * m_document.size.height + (count - 1) * pageGap;
-    std::string text = head(height);
-    const std::string fonts = svgFonts(m_document, m_kept);
-    const std::string definitions = m_pictures.takeDefinitions();
-    text.reserve(text.size() + fonts.size() + definitions.size() + m_body.size() + 100);
-    (text += fonts) += definitions;
-    return (text += m_body) += "</svg>\n";
+    m_text += "</svg>\n";
+    return std::move(m_text);
 }
 
 /// A document whose pages are all there.

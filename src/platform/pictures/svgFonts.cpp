@@ -17,24 +17,44 @@ namespace fleetwright {
 
 namespace {
 
+constexpr std::size_t asciiCount = 128;
+using AsciiSigns = std::array<std::vector<PageSign>, asciiCount>;
+
+/// What is drawn of the characters that nearly all texts are of, which is looked up once.
+const AsciiSigns& asciiSigns(PageFont font) {
+    const auto all = [](PageFont ofFont) {
+        AsciiSigns signs;
+        for (std::size_t code = 0; code < asciiCount; ++code) {
+            const char character = static_cast<char>(code);
+            signs[code] = pageSigns({&character, 1}, ofFont);
+        }
+        return signs;
+    };
+    static const AsciiSigns regular = all(PageFont::Regular);
+    static const AsciiSigns bold = all(PageFont::Bold);
+    return font == PageFont::Bold ? bold : regular;
+}
+
 /// The signs that a document shows, by their faces.
 class ShownSigns {
 public:
     void add(const PageText& text) {
         const auto font = static_cast<std::size_t>(text.font);
-        for (std::string_view rest = text.text; !rest.empty();) {
-            // Nearly all characters are of few, which are looked up once.
-            if (const auto code = static_cast<unsigned char>(rest.front()); code < asciiCount) {
-                if (!std::exchange(m_isKnown[font][code], true)) {
-                    addAll(rest.substr(0, 1), text.font);
+        const std::string_view all = text.text;
+        for (std::size_t at = 0; at < all.size();) {
+            if (const auto code = static_cast<unsigned char>(all[at]); code < asciiCount) {
+                if (!m_isKnown[font][code]) {
+                    m_isKnown[font][code] = true;
+                    addAll(asciiSigns(text.font)[code], text.font);
                 }
-                rest.remove_prefix(1);
+                ++at;
                 continue;
             }
+            const std::string_view rest = all.substr(at);
             const std::string_view character = rest.substr(0, characterLength(rest));
-            rest.remove_prefix(character.size());
+            at += character.size();
             if (character.size() == 1 || m_others[font].insert(codePoint(character)).second) {
-                addAll(character, text.font);
+                addAll(pageSigns(character, text.font), text.font);
             }
         }
     }
@@ -43,10 +63,8 @@ public:
     }
 
 private:
-    static constexpr std::size_t asciiCount = 128;
-
-    void addAll(std::string_view character, PageFont font) {
-        for (const PageSign& sign : pageSigns(character, font)) {
+    void addAll(const std::vector<PageSign>& signs, PageFont font) {
+        for (const PageSign& sign : signs) {
             of(sign.face).push_back({sign.character, sign.drawn});
             if (sign.character >= asciiCount) {
                 addJoined(sign, font);

@@ -35,30 +35,8 @@ bool arePlain(std::string_view text) {
 
 constexpr int decimals = 4;
 
-/// The digits of a number, which is not negative, times 10000 and rounded, from the right; where
-/// they begin.
-char* writeRounded(std::uint32_t scaled, char* end) {
-    char* at = end;
-    bool isShown = false;  // no zeros at the end of the decimals
-    for (int place = 0; place < decimals; ++place, scaled /= 10) {
-        const auto digit = static_cast<char>('0' + scaled % 10);
-        isShown = isShown || digit != '0';
-        if (isShown) {
-            *--at = digit;
-        }
-    }
-    if (isShown) {
-        *--at = '.';
-    }
-    do {
-        *--at = static_cast<char>('0' + scaled % 10);
-        scaled /= 10;
-    } while (scaled != 0);
-    return at;
-}
-
 /// The number as it is exactly, rounded to its decimals.
-void addExactly(std::string& text, double value) {
+std::string exactNumber(double value) {
     char buffer[32];
     const auto end =
         std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
@@ -67,15 +45,57 @@ void addExactly(std::string& text, double value) {
     if (number.ends_with('.')) {
         number.remove_suffix(1);
     }
-    text += number == "-0" ? "0" : number;
+    return std::string(number == "-0" ? "0" : number);
 }
+
+/// The digits of all numbers below 100, two each.
+constexpr auto pairsOfDigits = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t number = 0; number < 100; ++number) {
+        pairs[2 * number] = static_cast<char>('0' + number / 10);
+        pairs[2 * number + 1] = static_cast<char>('0' + number % 10);
+    }
+    return pairs;
+}();
 
 }  // namespace
 
-void addSvgNumber(std::string& written, double value) {
+void BackwardText::putPair(std::uint32_t number) {
+    put({pairsOfDigits.data() + std::size_t{2} * number, 2});
+}
+
+/// Two decimals, if there are others behind them or if they are not zero.
+void BackwardText::putDecimals(std::uint32_t number, bool areLast) {
+    if (!areLast || number % 10 != 0) {
+        putPair(number);
+    } else if (number != 0) {
+        put(static_cast<char>('0' + number / 10));
+    }
+}
+
+void BackwardText::putRounded(std::uint32_t scaled) {
+    constexpr std::uint32_t parts = 10'000;
+    const std::uint32_t part = scaled % parts, last = part % 100;
+    std::uint32_t whole = scaled / parts;
+    if (part != 0) {
+        putDecimals(last, true);
+        putDecimals(part / 100, last == 0);
+        put('.');
+    }
+    for (; whole >= 100; whole /= 100) {
+        putPair(whole % 100);
+    }
+    if (whole >= 10) {
+        putPair(whole);
+    } else {
+        put(static_cast<char>('0' + whole));
+    }
+}
+
+void BackwardText::putNumber(double value) {
     constexpr double most = 1e9;  // no page comes near that
     if (!(std::fabs(value) < most)) {
-        written += '0';
+        put('0');
         return;
     }
     // The product is off by less than a millionth: only near the middle between two results could
@@ -84,16 +104,19 @@ void addSvgNumber(std::string& written, double value) {
     constexpr double unsure = 0.001;
     const auto rounded = static_cast<std::int32_t>(std::min(scaled, most) + 0.5);
     if (scaled > most || std::fabs(std::fabs(scaled - rounded) - 0.5) < unsure) {
-        addExactly(written, value);
+        put(exactNumber(value));
         return;
     }
-    char buffer[32];
-    char* const end = buffer + sizeof buffer;
-    char* at = writeRounded(static_cast<std::uint32_t>(rounded), end);
+    putRounded(static_cast<std::uint32_t>(rounded));
     if (value < 0 && rounded != 0) {
-        *--at = '-';
+        put('-');
     }
-    written.append(at, end);
+}
+
+void addSvgNumber(std::string& written, double value) {
+    BackwardText text;
+    text.putNumber(value);
+    written += text.text();
 }
 
 std::string svgNumber(double value) {
@@ -156,9 +179,13 @@ SvgTag& SvgTag::setText(std::string_view name, std::string_view text) {
 }
 
 SvgTag& SvgTag::set(std::string_view name, double value) {
-    ((m_text += ' ') += name) += "=\"";
-    addSvgNumber(m_text, value);
-    m_text += '"';
+    BackwardText attribute;
+    attribute.put('"');
+    attribute.putNumber(value);
+    attribute.put("=\"");
+    attribute.put(name);
+    attribute.put(' ');
+    m_text += attribute.text();
     return *this;
 }
 

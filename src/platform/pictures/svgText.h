@@ -4,7 +4,9 @@
 
 #include "Drawing.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +17,30 @@ namespace fleetwright {
 std::string svgNumber(double value);
 /// The same at the end of a text.
 void addSvgNumber(std::string& written, double value);
+
+/// A short text that is written from its end to its start, as the digits of numbers are worked out;
+/// so that it becomes one piece of a longer text.
+class BackwardText {
+public:
+    /// Puts these in front. All of it has room for a tag with some numbers.
+    void put(char character) { *--m_start = character; }
+    void put(std::string_view piece) {
+        m_start -= piece.size();
+        piece.copy(m_start, piece.size());
+    }
+    /// Puts a number in front, as `svgNumber` writes it.
+    void putNumber(double value);
+
+    std::string_view text() const { return {m_start, std::size_t(std::end(m_buffer) - m_start)}; }
+
+private:
+    void putPair(std::uint32_t number);
+    void putDecimals(std::uint32_t number, bool areLast);
+    void putRounded(std::uint32_t scaled);
+
+    char m_buffer[256];
+    char* m_start = std::end(m_buffer);
+};
 
 /// "#rrggbb".
 std::string svgColour(std::uint32_t colour);
