@@ -12,11 +12,11 @@ namespace fleetwright {
 
 namespace {
 
-SheetOptions pagesOf(const Options& options, Silhouette::Outlines& outlines) {
+SheetOptions pagesOf(const Options& options, KeptSheetParts& kept) {
     constexpr int mostPerPage = 4;
     SheetOptions pages = sheetOptionsOf(options);
     pages.perPage = options.has(perPageOption.name) ? pages.perPage : mostPerPage;
-    pages.outlines = &outlines;
+    pages.kept = &kept;
     return pages;
 }
 
@@ -26,7 +26,7 @@ PrintedFleet::PrintedFleet(const Options& options, const Fleet& fleet, const Fle
                            SheetSupplies& supplies, const CatalogueFile& catalogue)
     : m_options(options), m_fleet(fleet), m_files(files), m_supplies(supplies),
       m_shipsOf(files.paths.size()), m_sheets(files.paths.size(), supplies.tools, catalogue),
-      m_series(fleet, pagesOf(options, m_outlines)) {
+      m_series(fleet, pagesOf(options, m_kept)) {
     for (std::size_t ship = 0; ship < files.ofShip.size(); ++ship) {
         m_shipsOf[files.ofShip[ship]].push_back(ship);
     }

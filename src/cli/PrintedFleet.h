@@ -2,8 +2,8 @@
 
 #include "FleetFiles.h"
 #include "FleetRow.h"
+#include "KeptSheetParts.h"
 #include "SheetsOnDemand.h"
-#include "Silhouette.h"
 #include "fleetDocument.h"
 
 #include <cstddef>
@@ -36,7 +36,7 @@ private:
     const FleetFiles& m_files;
     SheetSupplies& m_supplies;
     std::vector<std::vector<std::size_t>> m_shipsOf;  ///< of each file
-    Silhouette::Outlines m_outlines;
+    KeptSheetParts m_kept;
     SheetsOnDemand m_sheets;
     FleetSeries m_series;
 };

@@ -1,6 +1,7 @@
 #include "commands.h"
 
 #include "Error.h"
+#include "KeptSheetParts.h"
 #include "KeptSvgParts.h"
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
@@ -84,9 +85,9 @@ void checkFormat(std::string_view, const std::string& format) {
     }
 }
 
-SheetOptions sheetOptionsOf(const Options& options, Silhouette::Outlines& outlines) {
+SheetOptions sheetOptionsOf(const Options& options, KeptSheetParts& kept) {
     SheetOptions asked = sheetOptionsOf(options);
-    asked.outlines = &outlines;
+    asked.kept = &kept;
     return asked;
 }
 
@@ -150,9 +151,9 @@ VectorSheet sheetFor(const Options& options, ShipOnScreen& screen, const SheetTo
 
 int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pictures) {
     const SheetFiles files(options);
-    Silhouette::Outlines outlines;
+    KeptSheetParts kept;
     KeptSvgParts parts;
-    const SheetOptions pages = sheetOptionsOf(options, outlines);
+    const SheetOptions pages = sheetOptionsOf(options, kept);
     const auto bytesOf = [&](ShipOnScreen& screen, const std::string& format) {
         if (format == "svg" || format == "pdf") {
             std::vector<VectorSheet> sheets;
@@ -187,9 +188,9 @@ int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& 
         }
     }
     if (!sheets.empty()) {
-        Silhouette::Outlines outlines;
+        KeptSheetParts kept;
         saveResult(nativePath(options.value(outOption.name)),
-                   pictures.pdf(sheetDocument(sheets, sheetOptionsOf(options, outlines))));
+                   pictures.pdf(sheetDocument(sheets, sheetOptionsOf(options, kept))));
     }
     return status;
 }

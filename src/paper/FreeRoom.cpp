@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <variant>
 
 namespace fleetwright {
@@ -41,15 +42,22 @@ bool overlap(const Box& a, const Box& b) {
 
 std::optional<Box> FreeRoom::lowestAt(double x, double width, double height) const {
     Box place = {x, m_room.y + m_room.height - height, width, height};
-    while (place.y >= m_room.y) {
-        const auto taken =
-            std::ranges::find_if(m_taken, [&](const Box& box) { return overlap(place, box); });
-        if (taken == m_taken.end()) {
-            return place;
+    std::vector<Box> inTheWay;
+    inTheWay.reserve(m_taken.size());
+    std::ranges::copy_if(m_taken, std::back_inserter(inTheWay), [&](const Box& box) {
+        return x < box.x + box.width && box.x < x + width;
+    });
+    // Mostly they were taken from above, so that one look from the end on finds all of them.
+    for (bool hasMoved = true; hasMoved && place.y >= m_room.y;) {
+        hasMoved = false;
+        for (auto box = inTheWay.rbegin(); box != inTheWay.rend(); ++box) {
+            if (const double above = box->y - height; above < place.y && overlap(place, *box)) {
+                place.y = above;
+                hasMoved = true;
+            }
         }
-        place.y = taken->y - height;
     }
-    return std::nullopt;
+    return place.y >= m_room.y ? std::optional(place) : std::nullopt;
 }
 
 std::optional<Box> FreeRoom::find(double width, double height) const {

@@ -1,6 +1,7 @@
 #include "SheetCard.h"
 
 #include "FreeRoom.h"
+#include "KeptSheetParts.h"
 #include "SheetPictures.h"
 #include "damageBoxes.h"
 #include "designQr.h"
@@ -105,9 +106,11 @@ std::vector<Box> SheetCard::Columns::inOrder() const {
 SheetCard::SheetCard(const VectorSheet& sheet, const Box& box, Room room,
                      const SheetOptions& options)
     : m_sheet(sheet), m_box(box), m_room(room), m_isPlain(options.isPlain),
-      m_outlines(options.outlines), m_text(sheetText(sheet.record.text)), m_list(m_text),
-      m_legend(m_isPlain ? std::vector<LegendRow>() : sheet.facts.legend), m_body(box),
-      m_ink(inkOf(sheet.record)) {
+      m_outlines(options.kept == nullptr ? nullptr : &options.kept->outlines),
+      m_text(sheetText(sheet.record.text)), m_list(m_text),
+      m_legend(m_isPlain ? std::vector<LegendRow>() : sheet.facts.legend,
+               options.kept == nullptr ? nullptr : &options.kept->texts),
+      m_body(box), m_ink(inkOf(sheet.record)) {
     if (!m_isPlain) {
         constexpr double roomBelowHead = 2;
         m_linesInHead = linesForHead(m_text.lines, box.width);
@@ -142,16 +145,19 @@ double SheetCard::roomyScale() const {
     }
     const double start = std::min(most, scaleOfSymbol(mostSymbol));
     const double area = m_body.width * m_body.height;
-    const double step = scaleOfSymbol(0.02);
+    std::vector<double> scales;
+    for (double scale = start; scale >= least; scale -= scaleOfSymbol(0.02)) {
+        scales.push_back(scale);
+    }
     for (const double needed : {m_isPlain ? 0.08 * area : 0.22 * area, 0.06 * area}) {
         for (const double columnWidth : {wideColumn, narrowColumn}) {
-            double scale = start;
-            while (scale >= least) {
+            // The smaller the drawing, the more room is beside it.
+            const auto found = std::ranges::partition_point(scales, [&](double scale) {
                 const Columns columns = columnsAround(scale, columnWidth);
-                if (areaOf(columns.beside) + areaOf(columns.below) >= needed) {
-                    return scale;
-                }
-                scale -= step;
+                return areaOf(columns.beside) + areaOf(columns.below) < needed;
+            });
+            if (found != scales.end()) {
+                return *found;
             }
         }
     }
@@ -364,6 +370,7 @@ std::vector<PageBlock> SheetCard::putOn(Page& page) const {
     const Silhouette silhouette(m_sheet.record, m_ink, m_outlines);
     auto [scale, columns, flow] = bestLayout(silhouette);
     Page text;
+    text.items.reserve(128);  // as many as nearly all sheets have
     Box free = m_body;
     flow.fill(columns.inCorners, text);
     if (!flow.isDone() && !columns.beside.empty()) {

@@ -25,7 +25,7 @@ public:
     /// takes to have all of the text there, within what can be read and played with.
     enum class Room { Page, Part };
 
-    /// The sheet outlives the card, and so does what is known of outlines.
+    /// The sheet outlives the card, and so do the parts that are kept.
     SheetCard(const VectorSheet& sheet, const Box& box, Room room, const SheetOptions& options);
 
     /// Whether the drawing has that size here, and all of its text a place.
@@ -86,7 +86,7 @@ private:
     Box m_box;  ///< all of it
     Room m_room;
     bool m_isPlain;
-    Silhouette::Outlines* m_outlines;
+    Silhouette::Outlines* m_outlines;  ///< null if none are kept
     SheetText m_text;
     ListText m_list;
     LegendText m_legend;

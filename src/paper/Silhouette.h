@@ -2,9 +2,11 @@
 
 #include "SheetRecord.h"
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -29,36 +31,46 @@ public:
     Extent between(double top, double bottom) const;
 
 private:
-    void addOutline(const SheetRecord::Paste& outline, Outlines* kept);
-    void addPixels(const SheetRecord::Paste& paste);
-    void addDrawing(const Drawing& drawing, double x, double y);
-    void addBox(const Box& box);
-    const std::vector<Extent>& unions(std::size_t level) const;
+    /// The extents of all rows, and of 2, 4, 8... rows from each one on.
+    using Levels = std::vector<std::vector<Extent>>;
+
+    static void addLevels(Levels& levels, std::size_t count);
+    std::shared_ptr<const Levels> keptOutline(const SheetRecord::Paste& outline,
+                                              Outlines& kept) const;
+    std::vector<Extent> rowsOf(const SheetRecord::Paste& outline) const;
+    std::vector<Extent> rowsOf(const Drawing& drawing, double x, double y) const;
+    std::vector<Extent> rowsOf(const Raster& raster, int x, int y) const;
+    void addPaste(const Box& ink);
 
     Box m_shown;
-    std::vector<Extent> m_rows;
-    /// Of 2, 4, 8... rows from each one on, as far as somebody has asked.
-    mutable std::vector<std::vector<Extent>> m_unions;
+    /// Those of the outline, if they are kept and nothing stands out of it.
+    std::shared_ptr<const Levels> m_outline;
+    /// Of all that is shown otherwise; as many as somebody has asked for.
+    mutable Levels m_levels;
+    int m_count;  ///< of rows
 };
 
 class Silhouette::Outlines {
 public:
-    using Rows = std::vector<Extent>;
-
     /// What is kept of a drawing, if there is something.
-    std::shared_ptr<const Rows> of(const std::shared_ptr<const Drawing>& drawing) const {
+    std::shared_ptr<const Levels> of(const std::shared_ptr<const Drawing>& drawing) const {
         const std::lock_guard lock(m_mutex);
-        const auto found = m_rows.find(drawing);
-        return found == m_rows.end() ? nullptr : found->second;
+        const auto found = m_levels.find(drawing);
+        return found == m_levels.end() ? nullptr : found->second;
     }
-    void keep(const std::shared_ptr<const Drawing>& drawing, const Rows& rows) {
+    /// Keeps them, and returns what is kept.
+    std::shared_ptr<const Levels> keep(const std::shared_ptr<const Drawing>& drawing,
+                                       Levels&& levels) {
+        auto made = std::make_shared<const Levels>(std::move(levels));
         const std::lock_guard lock(m_mutex);
-        m_rows.try_emplace(drawing, std::make_shared<const Rows>(rows));
+        return m_levels.try_emplace(drawing, std::move(made)).first->second;
     }
 
 private:
+    friend class Silhouette;
+
     mutable std::mutex m_mutex;
-    std::map<std::shared_ptr<const Drawing>, std::shared_ptr<const Rows>> m_rows;
+    std::map<std::shared_ptr<const Drawing>, std::shared_ptr<const Levels>> m_levels;
 };
 
 }  // namespace fleetwright

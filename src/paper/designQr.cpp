@@ -45,13 +45,27 @@ Symbol symbolOf(std::string_view code) {
     return symbol;
 }
 
-/// Writes a number of up to two digits, and returns where the next one goes.
-char* putNumber(char* at, int number) {
-    if (number >= 10) {
-        *at++ = static_cast<char>('0' + number / 10);
+/// A number of up to two digits as text.
+struct Coordinate {
+    std::array<char, 2> digits;
+    std::size_t length;
+};
+constexpr auto coordinates = [] {
+    std::array<Coordinate, largestSide + 1> all{};
+    for (std::size_t number = 0; number < all.size(); ++number) {
+        const char last = static_cast<char>('0' + number % 10);
+        all[number] = number < 10 ? Coordinate{{last, ' '}, 1}
+                                  : Coordinate{{static_cast<char>('0' + number / 10), last}, 2};
     }
-    *at++ = static_cast<char>('0' + number % 10);
-    return at;
+    return all;
+}();
+
+/// Writes a number, and perhaps a character more, and returns where the next text goes.
+char* putNumber(char* at, int number) {
+    const Coordinate& coordinate = coordinates[static_cast<std::size_t>(number)];
+    at[0] = coordinate.digits[0];
+    at[1] = coordinate.digits[1];
+    return at + coordinate.length;
 }
 
 char* putPoint(char* at, char command, int x, int y) {

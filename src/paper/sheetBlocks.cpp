@@ -1,5 +1,7 @@
 #include "sheetBlocks.h"
 
+#include "KeptSheetParts.h"
+
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -190,14 +192,17 @@ std::vector<PageBlock> ListText::blocks(double width, double size, std::string_v
     return blocks;
 }
 
-LegendText::LegendText(const std::vector<LegendRow>& legend) {
+LegendText::LegendText(const std::vector<LegendRow>& legend, KeptTexts* kept) {
+    const auto measured = [kept](std::string_view text, PageFont font) {
+        return kept == nullptr ? std::make_shared<const MeasuredText>(text, font)
+                               : kept->of(text, font);
+    };
     m_rows.reserve(legend.size());
     for (const LegendRow& row : legend) {
-        m_rows.push_back(
-            {row.picture,
-             MeasuredText(row.name + (row.count == 1 ? "" : together(pieces(row.count))),
-                          PageFont::Bold),
-             MeasuredText(particulars(row)), MeasuredText(withFiguresHeld(row.rules))});
+        const std::string count = row.count == 1 ? std::string() : together(pieces(row.count));
+        m_rows.push_back({row.picture, measured(row.name + count, PageFont::Bold),
+                          measured(particulars(row), PageFont::Regular),
+                          measured(withFiguresHeld(row.rules), PageFont::Regular)});
     }
 }
 
@@ -215,13 +220,13 @@ PageBlock LegendText::block(const Row& row, double width, double factor, BlockPa
             writer.write(text.lines(style.size, width - left, most), style);
         }
     };
-    write(row.name, {.text = {}, .size = nameSize, .font = PageFont::Bold}, mostNameLines);
-    if (!row.particulars.isEmpty()) {
-        write(row.particulars, {.text = {}, .size = wordSize, .colour = quietColour},
+    write(*row.name, {.text = {}, .size = nameSize, .font = PageFont::Bold}, mostNameLines);
+    if (!row.particulars->isEmpty()) {
+        write(*row.particulars, {.text = {}, .size = wordSize, .colour = quietColour},
               mostNameLines);
     }
-    if (!row.rules.isEmpty()) {
-        write(row.rules, {.text = {}, .size = wordSize}, mostRulesLines);
+    if (!row.rules->isEmpty()) {
+        write(*row.rules, {.text = {}, .size = wordSize}, mostRulesLines);
     }
     PageBlock block = std::move(writer.block);
     if (parts == BlockParts::All && (row.picture.drawing || row.picture.raster)) {

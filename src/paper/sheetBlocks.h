@@ -6,11 +6,14 @@
 #include "pageTexts.h"
 #include "sheetDocument.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace fleetwright {
+
+class KeptTexts;
 
 /// The block of text of a drawing, taken apart.
 struct SheetText {
@@ -46,7 +49,8 @@ private:
 /// The legend, for columns of any width.
 class LegendText {
 public:
-    explicit LegendText(const std::vector<LegendRow>& legend);
+    /// With texts that were measured for other sheets, if some are kept.
+    LegendText(const std::vector<LegendRow>& legend, KeptTexts* kept);
 
     /// The letters are larger or smaller than usual by this factor.
     std::vector<PageBlock> blocks(double width, double factor, BlockParts parts) const;
@@ -54,9 +58,9 @@ public:
 private:
     struct Row {
         SheetRecord::Picture picture;
-        MeasuredText name;
-        MeasuredText particulars;
-        MeasuredText rules;
+        std::shared_ptr<const MeasuredText> name;
+        std::shared_ptr<const MeasuredText> particulars;
+        std::shared_ptr<const MeasuredText> rules;
     };
 
     static PageBlock block(const Row& row, double width, double factor, BlockParts parts);

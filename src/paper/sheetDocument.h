@@ -7,7 +7,6 @@
 #include "PageDocument.h"
 #include "SheetImages.h"
 #include "SheetRecord.h"
-#include "Silhouette.h"
 #include "drawSSD.h"
 
 #include <array>
@@ -23,6 +22,7 @@
 namespace fleetwright {
 
 class SSDMap;
+struct KeptSheetParts;
 
 /// One line of the legend: a system aboard, with all its pieces.
 struct LegendRow {
@@ -83,8 +83,8 @@ struct SheetOptions {
     /// has room for them, so that large ones between them do not part them.
     int perPage = 1;
     bool isPlain = false;  ///< the drawing and its text alone
-    /// What is known of outlines, for whoever makes many documents; null if nothing is kept.
-    Silhouette::Outlines* outlines = nullptr;
+    /// For whoever makes many documents; null if nothing is kept.
+    KeptSheetParts* kept = nullptr;
 };
 
 /// Columns and rows that a page can be cut into, for sheets that share it.

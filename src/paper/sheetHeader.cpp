@@ -37,6 +37,7 @@ using FigureRow = std::vector<Figure>;
 
 FigureRow measured(const std::vector<HeadFigure>& given, double size) {
     FigureRow figures;
+    figures.reserve(given.size());
     for (const HeadFigure& figure : given) {
         const double width = std::max(textWidth(figure.label, labelSize),
                                       textWidth(figure.value, size, PageFont::Bold));
@@ -56,13 +57,12 @@ double widthOf(const FigureRow& row) {
 std::vector<FigureRow> figureRows(const FigureRow& figures, std::size_t inEach, double width) {
     std::vector<FigureRow> rows(1);
     for (const Figure& figure : figures) {
-        FigureRow longer = rows.back();
-        longer.push_back(figure);
-        if (!rows.back().empty() && (longer.size() > inEach || widthOf(longer) > width)) {
-            longer = {figure};
+        const FigureRow& row = rows.back();
+        const bool isFull = row.size() >= inEach || widthOf(row) + figure.width + leastGap > width;
+        if (!row.empty() && isFull) {
             rows.emplace_back();
         }
-        rows.back() = std::move(longer);
+        rows.back().push_back(figure);
     }
     return rows;
 }
