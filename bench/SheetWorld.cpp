@@ -4,6 +4,7 @@
 #include "DrawingPack.h"
 #include "DrawnPictureFiles.h"
 #include "Error.h"
+#include "ShipScreens.h"
 #include "inOrder.h"
 #include "keepFreedMemory.h"
 #include "paths.h"
@@ -60,7 +61,8 @@ const SheetWorld& sheetWorld() {
 }
 
 void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
-                const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf) {
+                const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf,
+                const std::function<void(std::size_t, const std::string&)>& take) {
     const SheetWorld& world = sheetWorld();
     keepFreedMemory();
     for ([[maybe_unused]] auto _ : state) {
@@ -69,7 +71,7 @@ void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
         DrawnPictureFiles drawn(files, drawings);
         PictureFiles& pictures =
             kind == SheetKind::Pixels ? static_cast<PictureFiles&>(files) : drawn;
-        Silhouette::Outlines outlines;
+        KeptSheetParts kept;
         KeptSvgParts parts;
         const auto catalogue = CatalogueFile::readOnce(startedFolder() / "weaps.dat");
         const SheetTools tools{startedFolder(),
@@ -78,16 +80,23 @@ void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
                                files,
                                drawings,
                                world.maps};
-        const SheetRun run{tools, files, outlines, parts};
+        ShipScreens screens(startedFolder(), catalogue);
+        const SheetRun run{tools, files, kept, parts};
         std::size_t bytes = 0;
         inOrder(
             sheetCount, threads,
             [&](std::size_t index) {
-                ShipOnScreen screen(startedFolder(), catalogue);
-                screen.load(world.ships[index]);
-                return Result{.output = fileOf(screen, run), .complaints = {}};
+                return screens.lend([&](ShipOnScreen& screen) {
+                    screen.load(world.ships[index]);
+                    return Result{.output = fileOf(screen, run), .complaints = {}};
+                });
             },
-            [&](std::size_t, const Result& result) { bytes += result.output.size(); });
+            [&](std::size_t index, const Result& result) {
+                bytes += result.output.size();
+                if (take) {
+                    take(index, result.output);
+                }
+            });
         benchmark::DoNotOptimize(bytes);
     }
 }

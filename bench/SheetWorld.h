@@ -2,6 +2,7 @@
 
 // What the benchmarks of sheets are about: the sheets of 200 ships.
 
+#include "KeptSheetParts.h"
 #include "KeptSvgParts.h"
 #include "QtPictureFiles.h"
 #include "Raster.h"
@@ -57,14 +58,16 @@ const SheetWorld& sheetWorld();
 struct SheetRun {
     const SheetTools& tools;
     ToolPictures& files;
-    Silhouette::Outlines& outlines;
+    KeptSheetParts& kept;
     KeptSvgParts& parts;
 };
 enum class SheetKind { Pixels, Lines };
 
 /// Makes a file of the sheet of each ship, as the tool does with so many threads in one process.
+/// `take` gets all of them, in the order of the ships.
 void makeSheets(benchmark::State& state, unsigned threads, SheetKind kind,
-                const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf);
+                const std::function<std::string(const ShipOnScreen&, const SheetRun&)>& fileOf,
+                const std::function<void(std::size_t, const std::string&)>& take = {});
 
 /// Runs a command of the shell. Throws std::runtime_error if it fails.
 void runCommand(const std::string& command);

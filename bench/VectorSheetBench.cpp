@@ -32,26 +32,40 @@ namespace {
 PageDocument documentOf(const ShipOnScreen& screen, const SheetRun& run) {
     std::vector<VectorSheet> sheets;
     sheets.push_back(recordedSheet(screen, run.tools, std::string()));
-    return sheetDocument(sheets, {.outlines = &run.outlines});
+    return sheetDocument(sheets, {.kept = &run.kept});
 }
 
-/// Saves a sheet as the tool does, each in the place of the one before.
-std::string saved(const char* name, std::string bytes) {
-    saveFile(memoryFolder() / name, bytes);
-    return bytes;
+/// A folder for the sheets of a run, in which there are none yet, as the tool makes it.
+fs::path emptyFolder() {
+    const fs::path folder = memoryFolder() / "sheets";
+    fs::remove_all(folder);
+    fs::create_directory(folder);
+    return folder;
+}
+
+/// Saves sheets as the tool does, one for each ship.
+auto savedIn(const fs::path& folder, const char* ending) {
+    return [folder, ending](std::size_t index, const std::string& bytes) {
+        saveFile(folder / (std::to_string(index) + ending), bytes);
+    };
 }
 
 void bitmapFiles(benchmark::State& state) {
-    makeSheets(state, 1, SheetKind::Pixels, [](const ShipOnScreen& screen, const SheetRun& run) {
-        const Raster sheet = drawnSheet(screen, run.tools, std::string());
-        return saved("sheet.bmp", run.files.encode(sheet, "bmp"));
-    });
+    makeSheets(
+        state, 1, SheetKind::Pixels,
+        [](const ShipOnScreen& screen, const SheetRun& run) {
+            return run.files.encode(drawnSheet(screen, run.tools, std::string()), "bmp");
+        },
+        savedIn(emptyFolder(), ".bmp"));
 }
 
 void svgFilesByTool(benchmark::State& state) {
-    makeSheets(state, 1, SheetKind::Lines, [](const ShipOnScreen& screen, const SheetRun& run) {
-        return saved("sheet.svg", svgFile(documentOf(screen, run), run.files, &run.parts));
-    });
+    makeSheets(
+        state, 1, SheetKind::Lines,
+        [](const ShipOnScreen& screen, const SheetRun& run) {
+            return svgFile(documentOf(screen, run), run.files, &run.parts);
+        },
+        savedIn(emptyFolder(), ".svg"));
 }
 
 void pdfs(benchmark::State& state, unsigned threads) {
@@ -91,6 +105,7 @@ void bareSvgFiles(benchmark::State& state) {
     DrawnPictureFiles drawn(pictures, drawings);
     const PictureFinder finder = picturesReadOnce(startedFolder(), drawn);
     const OutlineFinder outlines = outlinesReadOnce(drawn);
+    const auto save = savedIn(emptyFolder(), ".svg");
     for ([[maybe_unused]] auto _ : state) {
         for (std::size_t i = 0; i < sheetCount; ++i) {
             ShipClass ship({catalogue, formula_calculate, {}});
@@ -107,7 +122,7 @@ void bareSvgFiles(benchmark::State& state) {
             sheet.setPicture(outlines(*map));
             drawSSD(sheet, catalogueImages(finder, ship), *map, lists, sheetShipOf(ship));
             benchmark::DoNotOptimize(designQr(designCode(ship.shipFile())));
-            saved("bare.svg", files[i]);
+            save(i, files[i]);
         }
     }
 }
