@@ -101,3 +101,28 @@ TEST(RecordedSheet, CoversAndFailsAsTheRasterDoes) {
         }
     });
 }
+
+TEST(RecordedSheet, IsAsLargeAsItsOutlineWhereNothingHasInk) {
+    auto paper = std::make_shared<Raster>(box(4, 3, Raster::white));
+    const SheetRecord record{.outline = {.picture = {.drawing = {}, .raster = paper},
+                                         .width = 4,
+                                         .height = 3,
+                                         .system = {}},
+                             .pastes = {},
+                             .text = {}};
+    EXPECT_EQ(inkOf(record), (Box{0, 0, 4, 3}));
+    paper->pixel(2, 1) = 0;
+    EXPECT_EQ(inkOf(record), (Box{2, 1, 1, 1}));
+}
+
+TEST(RecordedSheet, KeepsThePixelsOfAPictureOnce) {
+    const Colours colours;
+    RecordingSheet sheet(colours);
+    sheet.setPicture(box(outlineWidth, outlineHeight, 1));
+    for (const std::uint32_t colour : {2U, 4U, 2U}) {
+        sheet.paint(box(5, 5, colour), 0, 0);
+    }
+    const std::vector<SheetRecord::Paste>& pastes = sheet.record().pastes;
+    EXPECT_EQ(pastes[0].picture.raster, pastes[2].picture.raster);
+    EXPECT_NE(pastes[0].picture.raster, pastes[1].picture.raster);
+}

@@ -161,7 +161,11 @@ private:
                 : act == "key"      ? (*form)->pressKey()
                                     : static_cast<void>((*form)->unload());
             } else if (auto* const box = dynamic_cast<TextBox*>(control)) {
-                act == "type" ? box->type(text) : static_cast<void>(box->pressKey(std::stoi(text)));
+                if (act == "type") {
+                    box->type(text);
+                } else {
+                    machine.log += box->pressKey(std::stoi(text)) ? "taken; " : "";
+                }
             } else if (auto* const tick = dynamic_cast<CheckBox*>(control)) {
                 tick->press();
             } else if (auto* const button = dynamic_cast<Button*>(control)) {

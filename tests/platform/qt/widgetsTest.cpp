@@ -121,6 +121,7 @@ private:
              }},
             {"focus", [&] { widget->setFocus(); }},
             {"click", [&] { QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(5, 5)); }},
+            {"double", [&] { QTest::mouseDClick(widget, Qt::LeftButton, {}, QPoint(5, 5)); }},
             {"right",
              [&] {
                  auto& rows = dynamic_cast<QTreeWidget&>(*widget);
