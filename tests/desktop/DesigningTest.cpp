@@ -140,10 +140,12 @@ TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
 
 TEST_F(DesigningTest, WithoutADisplayTheProgramSaysSoAndEnds) {
     const std::string program = path("FleetWright").string();
-    for (const std::string setting : {"-u DISPLAY", "DISPLAY=:9999", "QT_QPA_PLATFORM=wayland"}) {
+    for (const std::string setting :
+         {"-u DISPLAY LC_ALL=C", "DISPLAY=:9999", "QT_QPA_PLATFORM=wayland"}) {
         const CommandResult run = runCommand("env " + setting + ' ' + program);
         EXPECT_EQ(run.status, 1);
         EXPECT_TRUE(run.output.starts_with("FleetWright: no display answers")) << run.output;
         EXPECT_EQ(std::ranges::count(run.output, '\n'), 1) << run.output;
+        EXPECT_EQ(run.output.find("locale"), std::string::npos) << run.output;
     }
 }

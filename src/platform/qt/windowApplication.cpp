@@ -8,11 +8,15 @@ namespace fleetwright {
 namespace {
 
 /// Ends the process where Qt would abort it: it has found no display. What has kept it from one is
-/// the first thing that it says; what it says if all goes well is of no use to anybody.
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+/// the first thing that it says of platforms; what it says if all goes well is of no use to
+/// anybody.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     static thread_local QString reason;
+    if (reason.isEmpty() && (type == QtFatalMsg ||
+                             QLatin1String(context.category).startsWith(QLatin1String("qt.qpa")))) {
+        reason = text.simplified();
+    }
     if (type != QtFatalMsg) {
-        reason = reason.isEmpty() ? text.simplified() : reason;
         return;
     }
     std::fprintf(stderr, "FleetWright: no display answers: %s\n", qUtf8Printable(reason));
