@@ -190,11 +190,15 @@ private:
         constexpr int mostNamed = 10;
         const std::vector<bool> covered = coveredPixels(m_boxes, m_outline);
         int bare = 0;
-        auto pixel = covered.begin();
-        for (int y = 0; y < m_outline.height(); ++y) {
-            for (int x = 0; x < m_outline.width(); ++x, ++pixel) {
-                if (!*pixel && isMark(m_outline.pixel(x, y)) && ++bare <= mostNamed) {
-                    complain(0, "the mark at " + at(x, y) + " is covered by nothing");
+        auto coveredInRow = covered.begin();
+        for (int y = 0; y < m_outline.height(); ++y, coveredInRow += m_outline.width()) {
+            const auto row = m_outline.row(y);
+            const auto next = [&](auto from) { return std::find_if(from, row.end(), isMark); };
+            for (auto mark = next(row.begin()); mark != row.end(); mark = next(mark + 1)) {
+                const auto x = mark - row.begin();
+                if (!coveredInRow[x] && ++bare <= mostNamed) {
+                    complain(0, "the mark at " + at(static_cast<int>(x), y) +
+                                    " is covered by nothing");
                 }
             }
         }

@@ -6,7 +6,9 @@
 #include "OutlineScan.h"
 #include "PictureFiles.h"
 #include "SSDMap.h"
+#include "SSDMapCheck.h"
 #include "SSDMaps.h"
+#include "checkMapPlaces.h"
 #include "checkedArithmetic.h"
 #include "paths.h"
 #include "saveFile.h"
@@ -14,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 
 namespace fleetwright {
@@ -28,6 +31,31 @@ constexpr std::string_view mapExtension = ".map";
 std::string displayName(std::string_view file) {
     const std::string_view path = file.substr(0, file.size() - mapExtension.size());
     return std::string(trimmed(path.substr(path.find_last_of("\\/") + 1)));
+}
+
+/// What an author may not have meant in the map of a scan; what is about all of it comes first.
+std::string remarks(const std::string& map, const Raster& outline,
+                    const std::filesystem::path& appFolder) {
+    constexpr std::size_t mostSaid = 4, mostPlaces = 1000;
+    const MapPlaces places = readMapPlaces(map);
+    if (places.places.size() > mostPlaces) {
+        return "more than " + std::to_string(mostPlaces) + " places, which no map needs";
+    }
+    std::vector<Fault> faults = checkMapFile(map, appFolder);
+    std::ranges::move(checkMapPlaces(places, outline), std::back_inserter(faults));
+    sortByLine(faults);
+    std::ranges::stable_partition(faults, [](const Fault& fault) { return fault.line == 0; });
+    std::string text;
+    std::size_t said = 0;
+    for (; said < faults.size() && said < mostSaid; ++said) {
+        const Fault& fault = faults[said];
+        text += (text.empty() ? "" : "; ") +
+                (fault.line == 0 ? "" : "line " + std::to_string(fault.line) + ": ") + fault.text;
+    }
+    if (said < faults.size()) {
+        text += "; and " + std::to_string(faults.size() - said) + " more";
+    }
+    return text;
 }
 
 /// How long after another moment this one is; the clock may have come round between them.
@@ -48,6 +76,7 @@ frmSSDMapCreator::frmSSDMapCreator(Services services)
 void frmSSDMapCreator::Form_Load() {
     // Whatever an earlier use has left: the window opens without a picture and a text.
     m_isClosing = false;
+    say("");
     selectNothing("No picture is selected yet");
     cmdDoit.setEnabled(true);
     chkCancel.setTicked(false);
@@ -73,17 +102,33 @@ void frmSSDMapCreator::cmdSelect_Click() {
         file =
             m_services.desktop.chooseFileToOpen(pictureDialog(m_services.appFolder / "shipimages"));
         if (!file || file->empty()) {
+            say("No picture is selected");
             return selectNothing("No picture is selected");
         }
         resetImage(loadImage(*file));
     } catch (const std::exception& error) {
-        return selectNothing("No picture is selected: " + quote(file.value_or("")) + " " +
-                             error.what());
+        return refuse(file.value_or(""), error);
     }
+    say("");
     m_sImageFile = *file;
     cmdDoit.setEnabled(true);
     picImage.setToolTip(shownText(m_sImageFile));
     cmdDoit.setToolTip("Makes the map of " + shownText(m_sImageFile));
+}
+
+/// Says why a file is none that can be scanned.
+void frmSSDMapCreator::refuse(const std::string& file, const std::exception& error) {
+    const std::string why = "No picture is selected: " + quote(file) + " " + error.what();
+    say(why);
+    selectNothing(why);
+}
+
+/// Says something at the lower edge of the window, which makes room for it.
+void frmSSDMapCreator::say(const std::string& text) {
+    const int before = lineHeight();
+    sbCreator.setVisible(!text.empty());
+    sbCreator.setText(text);
+    resize(width(), height() + lineHeight() - before);
 }
 
 /// The picture on show stays, so that what is said of it has to say that it no longer counts.
@@ -120,7 +165,8 @@ void frmSSDMapCreator::fitWindow() {
     const Place& image = picImage.place();
     const Place& text = txtOutput.place();
     txtOutput.setPlace({image.width + image.left + gap, text.top, text.width, image.height});
-    resize(text.width + margin + image.width + gap, image.height + image.top + margin);
+    resize(text.width + margin + image.width + gap,
+           image.height + image.top + margin + lineHeight());
 }
 
 /// What is scanned where no picture is selected.
@@ -142,8 +188,9 @@ void frmSSDMapCreator::cmdDoit_Click() {
             picImage.setPicture(emptyBox());
         }
     } catch (const Error& error) {
-        return selectNothing("No picture is selected: " + quote(m_sImageFile) + " " + error.what());
+        return refuse(m_sImageFile, error);
     }
+    say("");
     OnTop();
     setScanning(true);
     txtOutput.setText("");
@@ -154,8 +201,11 @@ void frmSSDMapCreator::cmdDoit_Click() {
     }
     try {
         picImage.setPicture(currentImage());
+        if (isWhole && !m_sImageFile.empty()) {
+            say(remarks(txtOutput.text(), picImage.picture(), m_services.appFolder));
+        }
     } catch (const Error& error) {
-        selectNothing("No picture is selected: " + quote(m_sImageFile) + " " + error.what());
+        refuse(m_sImageFile, error);
     }
     if (!isWhole) {
         txtOutput.setText("Operation Cancelled");
@@ -213,9 +263,10 @@ bool frmSSDMapCreator::giveTurn() {
 void frmSSDMapCreator::setScanning(bool isScanning) {
     m_isScanning = isScanning;
     for (Control* const control :
-         std::initializer_list<Control*>{&cmdSelect, &cmdDoit, &cmdSaveIt, &txtOutput}) {
+         std::initializer_list<Control*>{&cmdSelect, &cmdDoit, &cmdSaveIt}) {
         control->setEnabled(!isScanning);
     }
+    txtOutput.setLocked(isScanning);  // it is to be read meanwhile
 }
 
 void frmSSDMapCreator::cmdSaveIt_Click() {
@@ -225,6 +276,7 @@ void frmSSDMapCreator::cmdSaveIt_Click() {
                    .chooseFileToSave({.filter = "All Files (*.*)|*.*|SSD Maps(*.map)|*.map",
                                       .filterIndex = 2,
                                       .initialFolder = m_services.appFolder / "maps",
+                                      .fileName = suggestedName(),
                                       .extension = std::string(mapExtension)})
                    .value_or("");
         if (file.empty()) {
@@ -237,19 +289,46 @@ void frmSSDMapCreator::cmdSaveIt_Click() {
             saveMap(file);
         }
     } catch (const std::exception& error) {
-        cmdSaveIt.setToolTip("Not saved: " + quote(file) + " " + error.what());
+        const std::string fault = "Not saved: " + quote(file) + " " + error.what();
+        cmdSaveIt.setToolTip(fault);
+        say(fault);
     }
+}
+
+/// That of the picture, whose map it is.
+std::string frmSSDMapCreator::suggestedName() const {
+    return m_sImageFile.empty()
+               ? ""
+               : pathText(nativePath(m_sImageFile).stem()) + std::string(mapExtension);
 }
 
 void frmSSDMapCreator::saveMap(const std::string& file) {
     saveFile(nativePath(file), mapFileContents(txtOutput.text()));
-    cmdSaveIt.setToolTip("Saved as " + shownText(file));
+    const std::string saved = "Saved as " + shownText(file);
+    cmdSaveIt.setToolTip(saved);
+    say(saved + ": " + offer(file));
+}
+
+/// Offers the map in a file for sheets, and says for which.
+std::string frmSSDMapCreator::offer(const std::string& file) {
+    std::error_code unknown;
+    if (!std::filesystem::equivalent(nativePath(file).parent_path(), m_services.appFolder / "maps",
+                                     unknown)) {
+        return "maps are offered from the folder maps alone";
+    }
+    const std::string name = displayName(file);
+    if (m_services.g_colSSDMaps.contains(name)) {
+        return "it takes the place of the former map at the next start";
+    }
     try {
         auto map = std::make_shared<SSDMap>(m_services.appFolder);
-        map->ImageFile(displayName(file));
+        map->ImageFile(name);
+        const std::int16_t most = map->iMaxMass;
         m_services.g_colSSDMaps.add(std::move(map));
-    } catch (const Error&) {
-        // No map, a map elsewhere, or one of a name that is taken: the next start finds it.
+        return most > 0 ? "offered for ships up to mass " + std::to_string(most)
+                        : "offered for no ship, for want of a SIZE";
+    } catch (const Error& error) {
+        return std::string("not offered, ") + error.what();
     }
 }
 

@@ -4,6 +4,7 @@
 #include "CheckBox.h"
 #include "Form.h"
 #include "PictureBox.h"
+#include "StatusBar.h"
 #include "TextBox.h"
 
 #include <cstdint>
@@ -57,6 +58,9 @@ public:
         *this,
         {.name = "txtOutput", .place = textBox, .accessibleName = "Map", .isMultiline = true}};
 
+    StatusBar sbCreator{
+        *this, {.name = "sbCreator", .accessibleDescription = "Status", .isVisible = false}};
+
     /// Keeps the window above all others, or no longer.
     void OnTop() { setTopmost(true); }
     void notOnTop() { setTopmost(false); }
@@ -78,6 +82,9 @@ private:
     void cmdDoit_Click();
     void cmdSaveIt_Click();
     void selectNothing(const std::string& why);
+    void refuse(const std::string& file, const std::exception& error);
+    void say(const std::string& text);
+    int lineHeight() const { return sbCreator.isVisible() ? StatusBar::height : 0; }
     Raster loadImage(const std::string& file) const;
     Raster currentImage() const;
     void resetImage(Raster picture);
@@ -86,7 +93,9 @@ private:
     bool scan();
     bool giveTurn();
     void setScanning(bool isScanning);
+    std::string suggestedName() const;
     void saveMap(const std::string& file);
+    std::string offer(const std::string& file);
 
     Services m_services;
     std::string m_sImageFile;  ///< path of the picture that is selected; empty without one

@@ -21,6 +21,7 @@ namespace fleetwright {
 namespace {
 
 constexpr const char* shipExtension = ".shp";
+const std::string isNotSaved = "This design is not saved yet. Save As gives it a file.";
 constexpr const char* hasNoFile = "This design has no file yet: Save As (Ctrl+A) gives it one";
 
 FileDialog shipDialog(const std::filesystem::path& appFolder) {
@@ -97,14 +98,20 @@ void FileCommands::load(const std::string& fileName) {
     }
     if (loadFile(fileName)) {
         if (file.source == ShipSource::Sheet) {
-            window().say("This design is from a sheet. Save As gives it a file of its own.");
+            sayOfDesign("This design is from a sheet. Save As gives it a file of its own.");
         } else if (file.source == ShipSource::Code) {
-            window().say("This design is not saved yet. Save As gives it a file.");
+            sayOfDesign(isNotSaved);
         }
         m_others.findings.noteLoad(fileName, file.text);
     } else {
         sayFault(fileName);
     }
+}
+
+/// Says what holds for the design at hand, and for no new one.
+void FileCommands::sayOfDesign(const std::string& text) {
+    m_saidOfDesign = text;
+    window().say(text);
 }
 
 std::string FileCommands::faultIn(const std::string& fileName) const {
@@ -158,8 +165,9 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
                     window().RefreshScreen();
                 });
                 const bool hasSteps = steps.empty() || m_others.history.adopt(steps, shipFile);
-                window().say(std::string("This design is not saved yet. Save As gives it a file.") +
-                             (hasSteps ? "" : " Its steps cannot be undone any more."));
+                const std::string others = m_others.recovery.alsoLeft();
+                sayOfDesign(isNotSaved + (others.empty() ? "" : ' ' + others) +
+                            (hasSteps ? "" : " Its steps cannot be undone any more."));
                 m_others.findings.noteLoad(name, shipFile);
             } else if (fileFault) {
                 window().say("The design cannot be opened: " + faultIn(name));
@@ -229,6 +237,7 @@ void FileCommands::mnuNew_Click() {
         m_others.replaceShip();
         m_others.clearAutoMass();
         showNewShip();
+        window().takeBack(m_saidOfDesign);
     });
 }
 

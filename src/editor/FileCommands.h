@@ -59,7 +59,10 @@ public:
                          mnuNew_Click();
                      }};
     MenuEntry mnuLoad{m_file,
-                      {.name = "mnuLoad", .caption = "&Load", .shortcut = "Ctrl+L"},
+                      {.name = "mnuLoad",
+                       .caption = "&Load",
+                       .toolTip = "Opens a ship file or, of all files, a sheet that carries a ship",
+                       .shortcut = "Ctrl+L"},
                       [this] { mnuLoad_Click(); }};
     MenuEntry mnuSaveAs{m_file,
                         {.name = "mnuSaveAs", .caption = "Save &As", .shortcut = "Ctrl+A"},
@@ -109,6 +112,7 @@ private:
     void load(const std::string& fileName);
     std::string faultIn(const std::string& fileName) const;
     void sayFault(const std::string& fileName);
+    void sayOfDesign(const std::string& text);
     void showNewShip();
     void saveAs(std::string fileName);
     void addRecentFile(const std::string& fileName);
@@ -116,6 +120,7 @@ private:
 
     Others m_others;
     std::vector<std::string> m_filesOfStart;
+    std::string m_saidOfDesign;  ///< what the status line was last told of the design at hand
 };
 
 }  // namespace fleetwright

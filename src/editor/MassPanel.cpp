@@ -12,6 +12,7 @@ MassPanel::MassPanel(const PanelContext& context, MenuEntry& mnuStdHulls, MenuEn
       m_chooseHull(std::move(chooseHull)) {
     txtMass.onLostFocus = [this] { txtMass_LostFocus(); };
     txtMass.onMouseDown = [this](const MousePress&) { txtMass_MouseDown(); };
+    txtMass.onKeyPress = [this](int key) { return txtMass_KeyPress(key); };
 }
 
 UpDown MassPanel::arrows(const std::string& name, int left, std::int32_t step) {
@@ -78,6 +79,16 @@ void MassPanel::txtMass_MouseDown() {
     txtMass.setEnabled(true);
     window().say("A standard hull sets hull type and mass of this design");
     services().desktop.popUp(m_stdHulls);
+}
+
+bool MassPanel::txtMass_KeyPress(int KeyAscii) {
+    if (isTyping(KeyAscii)) {
+        window().say(
+            mnuAutoMass.isChecked()
+                ? "AutoMass sets the mass: choose it again, in the menu Extras, to end that"
+                : "The arrows beside it change the mass, and so do the standard hulls");
+    }
+    return false;
 }
 
 void MassPanel::mnuStdHull_Click(bool isMerchant, std::int32_t mass) {

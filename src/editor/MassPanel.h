@@ -88,6 +88,7 @@ private:
     void txtMass_Change();
     void txtMass_LostFocus();
     void txtMass_MouseDown();
+    bool txtMass_KeyPress(int KeyAscii);
     void mnuStdHull_Click(bool isMerchant, std::int32_t mass);
     void mnuAutoMass_Click();
     void stepMass(std::int32_t step);

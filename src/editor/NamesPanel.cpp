@@ -1,5 +1,7 @@
 #include "NamesPanel.h"
 
+#include "text.h"
+
 namespace fleetwright {
 
 NamesPanel::NamesPanel(const PanelContext& context, Container& fraInfo, Handler changed)
@@ -11,8 +13,17 @@ NamesPanel::NamesPanel(const PanelContext& context, Container& fraInfo, Handler 
 }
 
 void NamesPanel::show() {
-    txtShipName.setText(ship().g_sShipName);
-    txtDesigner.setText(ship().g_sDesignerName);
+    show(nameOfShip());
+    show(nameOfDesigner());
+}
+
+/// What is being typed gives way to the name of the design, but not without a word.
+void NamesPanel::show(const Name& name) {
+    const std::string& held = ship().*name.name;
+    if (name.isEditing && name.box.text() != held) {
+        window().say("Not kept: " + quote(name.box.text()) + ". Enter keeps what is typed");
+    }
+    name.box.setText(held);
 }
 
 void NamesPanel::nameShip(const std::string& designer, const std::string& shipName) {
@@ -28,6 +39,7 @@ void NamesPanel::openOrCommit(const Name& name) {
     } else {
         name.box.setLocked(false);
         name.isEditing = true;
+        window().say("Enter keeps the name, Escape the former one");
     }
 }
 
@@ -37,6 +49,8 @@ bool NamesPanel::leaveByKey(const Name& name, int KeyAscii) {
     } else if (name.isEditing && KeyAscii == EscapeKey) {
         name.box.setText(ship().*name.name);
         close(name);
+    } else if (!name.isEditing && isTyping(KeyAscii)) {
+        window().say("A double-click or F2 opens the name");
     }
     return false;
 }

@@ -50,6 +50,7 @@ private:
 
     Name nameOfShip() { return {txtShipName, bShipNameEditing, &ShipClass::g_sShipName}; }
     Name nameOfDesigner() { return {txtDesigner, bDesignerEditing, &ShipClass::g_sDesignerName}; }
+    void show(const Name& name);
     void openOrCommit(const Name& name);
     bool leaveByKey(const Name& name, int KeyAscii);
     void commit(const Name& name);

@@ -18,8 +18,9 @@ struct PanelContext {
     const std::unique_ptr<ShipClass>& g_Ship;  ///< the current ship; null before and behind it
     Acts& acts;
     const MainWindowServices& services;
-    std::function<void()> RefreshScreen;          ///< copies the ship to all controls
-    std::function<void(const std::string&)> say;  ///< puts a text on the status line
+    std::function<void()> RefreshScreen;               ///< copies the ship to all controls
+    std::function<void(const std::string&)> say;       ///< puts a text on the status line
+    std::function<void(const std::string&)> takeBack;  ///< takes it away, if it still stands there
 };
 
 /// A part of the main window: its controls, their handlers, and the rules of what they are about.

@@ -117,6 +117,12 @@ void RecoveryPanel::mnuPutAside_Click() {
     }
 }
 
+std::string RecoveryPanel::alsoLeft() const {
+    return m_alsoLeft == 0 ? ""
+                           : "The crash has left " + std::to_string(m_alsoLeft) +
+                                 " more: see Designs Put Aside.";
+}
+
 void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     frmPutAside& dialog = services().putAside();
     if (dialog.isLoaded()) {
@@ -126,6 +132,10 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     dialog.designs = std::move(designs);
     services().desktop.showModal(dialog, form());
     std::vector<RecoveryFolder::Design> shown = std::exchange(dialog.designs, {});
+    m_alsoLeft = 0;
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        m_alsoLeft += dialog.chosen && i != *dialog.chosen && shown[i].isLeftBehind ? 1 : 0;
+    }
     try {
         services().recovery->noteSeen(shown);
     } catch (const FileError& error) {
@@ -137,6 +147,9 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
     if (dialog.chosen && shown[*dialog.chosen].about.kind == RecoveryKind::Fleet) {
         if (FleetWindow* const fleet = services().fleet()) {
             fleet->openPutAside(shown[*dialog.chosen].file);
+            if (m_alsoLeft > 0) {
+                window().say(alsoLeft());
+            }
         }
     } else if (dialog.chosen) {
         m_open(shown[*dialog.chosen].file);

@@ -37,6 +37,8 @@ public:
     bool giveUpDesign();
     /// The same for the one in a file, which does not go for it even if it is a design put aside.
     bool giveUpDesignFor(const std::filesystem::path& file);
+    /// That a crash has left others than the one that was opened last; empty if it has not.
+    std::string alsoLeft() const;
     /// Asks about the designs that a crash has left behind, as soon as the start is over.
     void askAfterStart() { tmrAsk.restart(); }
 
@@ -67,6 +69,7 @@ private:
     std::function<bool()> m_areStepsAhead;
 
     std::optional<RecoveryFolder::Aside> m_aside;  ///< the design as it was put aside last
+    int m_alsoLeft = 0;  ///< by a crash, besides the design that was opened last
     std::string m_safe;  ///< the fingerprint of the design when nothing of it could be lost
 };
 

@@ -162,7 +162,7 @@ void SystemsPanel::lvCurrentWeapons_MouseDown(const MousePress& press) {
     if (press.button != RightButton || !row) {
         return;
     }
-    window().say("Takes so many of " + quote(lvCurrentWeapons.rows()[*row].key) + " away");
+    window().say("So many of " + quote(lvCurrentWeapons.rows()[*row].key) + " remain");
     frmSld = std::make_unique<frmAmountSlider>();
     frmSld->iOriginal = wholeNumber(lvCurrentWeapons.rows()[*row].subItem);
     // The fields end at 32767 twips, which a wide screen does not; there the dialog opens as near

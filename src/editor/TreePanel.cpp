@@ -116,10 +116,14 @@ void TreePanel::tvWeapons_DblClick() {
 }
 
 void TreePanel::tvWeapons_MouseDown(const MousePress& press) {
-    const TreeView::Node* const system = selectedSystem();
-    if (press.button == RightButton && system != nullptr) {
+    if (press.button != RightButton) {
+        return;
+    }
+    if (const TreeView::Node* const system = selectedSystem()) {
         window().say("Fits so many of " + quote(system->key));
         services().desktop.popUp(m_addWeaps);
+    } else {
+        window().say("Select a system first: the menu is about the selected one");
     }
 }
 

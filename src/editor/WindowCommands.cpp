@@ -51,6 +51,7 @@ void WindowCommands::mnuExtrasPage_Click() {
 }
 
 void WindowCommands::mnuHelp_Click() {
+    window().say("The player's guide is in the menu Design");
     services().desktop.showMessage("Sorry, help is not yet available", "Help");
 }
 

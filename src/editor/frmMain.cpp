@@ -31,7 +31,13 @@ frmMain::frmMain(MainWindowServices services)
                 .acts = m_acts,
                 .services = m_services,
                 .RefreshScreen = [this] { RefreshScreen(); },
-                .say = [this](const std::string& text) { sbStatus.setText(text); }} {
+                .say = [this](const std::string& text) { sbStatus.setText(text); },
+                .takeBack =
+                    [this](const std::string& text) {
+                        if (sbStatus.text() == text) {
+                            sbStatus.setText("");
+                        }
+                    }} {
     onFilesDrop = [this](const std::vector<std::string>& dropped) { files.openFiles(dropped); };
 }
 

@@ -31,6 +31,7 @@ void FleetField::leave() {
     m_isShowing = true;
     m_box.setText(m_box.design().isMultiline ? linesForBox(text) : text);
     m_isShowing = false;
+    m_isFaulty = false;
 }
 
 void FleetField::change() {
@@ -38,9 +39,14 @@ void FleetField::change() {
         return;
     }
     const std::optional<std::string> text = m_rules.held(m_box.text());
-    if (!text) {
+    const bool isFaulty = !text && !trimmed(m_box.text()).empty();  // an empty one is on its way
+    if (isFaulty) {
         m_window.say(quote(m_box.text()) + " is no number that can stand there");
-    } else if (*text != m_rules.read()) {
+    } else if (m_isFaulty) {
+        m_window.say("");
+    }
+    m_isFaulty = isFaulty;
+    if (text && *text != m_rules.read()) {
         m_isTyped = true;
         m_window.act({m_rules.name, m_box.name() + ' ' + m_rules.about()},
                      [&](Fleet& fleet) { m_rules.write(fleet, *text); });

@@ -40,6 +40,7 @@ private:
     std::string m_shown;       ///< what was copied last, and what it is about
     bool m_isTyped = false;    ///< the box is being typed in
     bool m_isShowing = false;  ///< it is being written
+    bool m_isFaulty = false;   ///< what is typed is none that can stand there, and it was said
 };
 
 /// The whole number from `least` to `most` that a text is, without what else stands around it.

@@ -22,6 +22,13 @@ FileDialog fleetDialog(const std::filesystem::path& folder) {
             .extension = fleetExtension};
 }
 
+/// Where fleets are looked for at first: beside their ships where there is no folder for them.
+std::filesystem::path fleetsFolder(const std::filesystem::path& appFolder) {
+    std::error_code error;
+    return appFolder /
+           (std::filesystem::is_directory(appFolder / "fleets", error) ? "fleets" : "ships");
+}
+
 std::string faultsIn(const std::filesystem::path& file, const std::vector<Fault>& faults) {
     return faults.empty()
                ? std::string()
@@ -88,7 +95,7 @@ void FleetFilePanel::mnuNewFleet_Click() {
 
 void FleetFilePanel::mnuOpenFleet_Click() {
     const auto file =
-        services().desktop.chooseFileToOpen(fleetDialog(services().appFolder / "ships"));
+        services().desktop.chooseFileToOpen(fleetDialog(fleetsFolder(services().appFolder)));
     if (file) {
         open(nativePath(*file));
     }
@@ -112,7 +119,7 @@ void FleetFilePanel::mnuSaveFleet_Click() {
 void FleetFilePanel::mnuSaveFleetAs_Click() {
     const std::filesystem::path& file = document().file();
     FileDialog dialog =
-        fleetDialog(file.empty() ? services().appFolder / "ships" : file.parent_path());
+        fleetDialog(file.empty() ? fleetsFolder(services().appFolder) : file.parent_path());
     dialog.fileName =
         file.empty() ? fileNameOf(fleet().name.empty() ? "Fleet" : fleet().name) + fleetExtension
                      : pathText(file.filename());

@@ -17,6 +17,13 @@ FleetLimitsPanel::FleetLimitsPanel(const FleetContext& context) : FleetPart(cont
     for (const std::string_view kind : shipKinds()) {
         cboKind.addItem(std::string(kind));
     }
+    cboKind.onEnter = [this] { set(); };
+    txtMost.onKeyPress = [this](int key) {
+        if (key == EnterKey) {
+            set();
+        }
+        return key == EnterKey;
+    };
     lvLimits.addColumn("Limit", 2100);
     lvLimits.addColumn("Left", 1200);
     lvLimits.rowToolTip = [](const ListView::Row& row) { return row.text + '\n' + row.subItem; };

@@ -34,8 +34,9 @@ bool FleetRecoveryPanel::giveUpFleet(bool asks) {
         noteSafe();
         return true;
     }
-    if (asks && services().desktop.showMessage("Fleet not saved, delete?", "Fleet not saved!",
-                                               Buttons::YesNo, Icon::Information) == Answer::No) {
+    if (asks && services().desktop.showMessage("Fleet not saved, let it go? It stays put aside.",
+                                               "Fleet not saved!", Buttons::YesNo,
+                                               Icon::Information) == Answer::No) {
         return false;
     }
     m_aside.reset();

@@ -152,7 +152,12 @@ ControlRows mapCreatorTexts() {
         ControlText{"picImage", "Outline", "The outline that was chosen, or how far its scan is."},
         ControlText{"txtOutput", "Map",
                     "The text of the map, a line for each mark. It can be changed here before it "
-                    "is saved."}};
+                    "is saved."},
+        ControlText{
+            "sbCreator", "Status line",
+            "Says what may be wrong with a map that was scanned, where it was saved and for "
+            "which ships it is offered, or what has failed and why. There is none until "
+            "there is something to say."}};
     return rows;
 }
 

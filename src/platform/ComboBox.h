@@ -44,12 +44,21 @@ public:
         }
     }
 
+    /// The user has pressed the Enter key.
+    void pressEnter() {
+        if (takesActs()) {
+            raise(onEnter);
+        }
+    }
+
     /// The user has taken an entry of the list.
     void choose(std::size_t item) {
         if (takesActs() && item < m_items.size()) {
             setText(m_items[item]);
         }
     }
+
+    Handler onEnter;
 
 private:
     std::vector<std::string> m_items;

@@ -7,6 +7,12 @@ namespace fleetwright {
 /// The codes of keys in key events.
 inline constexpr int EnterKey = 13, EscapeKey = 27;
 
+/// Whether a key is to write something into a text or to take something of it away.
+constexpr bool isTyping(int KeyAscii) {
+    constexpr int backspace = 8;
+    return KeyAscii >= ' ' || KeyAscii == backspace;
+}
+
 /// A text of one line, or of many, which then end in CR LF. Its change event is raised whenever the
 /// text changes, whoever changed it.
 class TextBox : public PointedControl {

@@ -16,24 +16,24 @@ ListView::Row rowOf(const RecoveryDesign& design) {
     std::replace(time.begin(), time.end(), '.', ':');  // which no file's name may hold
     const bool isFleet = design.about.kind == RecoveryKind::Fleet;
     const std::string count = design.about.mass ? std::to_string(*design.about.mass) : "";
+    const std::string fleet = count.empty() ? "Fleet" : "Fleet, ships: " + count;
     return {.key = design.name,
             .text = shownText(design.about.ship),
             .subItem = isFleet ? "" : count,
-            .moreItems = {shownText(time),
-                          std::string(design.isLeftBehind ? "Left by a crash" : "") +
-                              (design.isLeftBehind && isFleet ? "; " : "") +
-                              (isFleet ? count.empty() ? "Fleet" : "Fleet, ships: " + count : "")}};
+            .moreItems = {shownText(time), (isFleet ? fleet : "") +
+                                               (design.isLeftBehind && isFleet ? "; " : "") +
+                                               (design.isLeftBehind ? "Left by a crash" : "")}};
 }
 
 }  // namespace
 
 frmPutAside::frmPutAside(Services services)
-    : Form({.name = "frmPutAside", .width = 8700, .height = 5310}),
+    : Form({.name = "frmPutAside", .width = 9300, .height = 5310}),
       m_services(std::move(services)) {
-    lvDesigns.addColumn("Design", 3450);
-    lvDesigns.addColumn("Mass", 900);
+    lvDesigns.addColumn("Design", 3000);
+    lvDesigns.addColumn("Mass", 750);
     lvDesigns.addColumn("Put aside", 2100);
-    lvDesigns.addColumn("Note", 1500);
+    lvDesigns.addColumn("Note", 2850);
     lvDesigns.onDblClick = [this] { cmdOpen_Click(); };
     lvDesigns.onDelete = [this] { cmdTrash.press(); };
     lvDesigns.rowToolTip = [this](const ListView::Row& row) {

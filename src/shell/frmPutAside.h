@@ -30,10 +30,10 @@ public:
     std::vector<RecoveryDesign> designs;
     std::optional<std::size_t> chosen;  ///< which of them is to be opened, if one is
 
-    Label lblAbout{*this, {.name = "lblAbout", .place = {150, 120, 8400, 285}}};
+    Label lblAbout{*this, {.name = "lblAbout", .place = {150, 120, 9000, 285}}};
     ListView lvDesigns{*this,
                        {.name = "lvDesigns",
-                        .place = {150, 465, 8400, 4170},
+                        .place = {150, 465, 9000, 4170},
                         .accessibleName = "Designs put aside",
                         .accessibleDescription = "Enter opens a design, Delete moves it to the "
                                                  "trash"}};
@@ -45,14 +45,14 @@ public:
                     [this] { cmdTrash_Click(); }};
     Button cmdOpen{*this,
                    {.name = "cmdOpen",
-                    .place = {5250, 4785, 1575, 375},
+                    .place = {5850, 4785, 1575, 375},
                     .caption = "&Open",
                     .toolTip = "Opens the selected design, which is not saved then",
                     .isDefault = true},
                    [this] { cmdOpen_Click(); }};
     Button cmdNotNow{*this,
                      {.name = "cmdNotNow",
-                      .place = {6975, 4785, 1575, 375},
+                      .place = {7575, 4785, 1575, 375},
                       .caption = "&Not Now",
                       .toolTip = "Leaves all designs where they are",
                       .isCancel = true},

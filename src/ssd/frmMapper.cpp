@@ -107,7 +107,12 @@ std::string frmMapper::whatIsEarlier() const {
 void frmMapper::cmdDrawIt_Click() {
     followDesign();
     say("");
-    if (cboMapSelection.text().empty() || !layOut() || !showOutline()) {
+    if (cboMapSelection.text().empty()) {
+        say(m_bestFit ? "Choose a map first: " + shownText(m_bestFit->sDisplayName) + " fits best"
+                      : cboMapSelection.toolTip());
+        return;
+    }
+    if (!layOut() || !showOutline()) {
         return;
     }
     drawSheet();
@@ -212,7 +217,8 @@ void frmMapper::cmdSave_Click() {
         return;  // the window stays, and the sheet in it
     }
     if (m_services.say) {
-        m_services.say("Saved " + shownText(*name));
+        m_services.say("Saved " + shownText(*name) +
+                       (m_drawn ? "" : ": an empty picture, since no sheet was drawn"));
     }
     unload();
 }

@@ -100,10 +100,11 @@ struct AuthorsWindows {
         }
         std::string takesActs;
         for (const Control* const control : std::initializer_list<const Control*>{
-                 &creator.cmdSelect, &creator.cmdDoit, &creator.chkCancel, &creator.cmdSaveIt,
-                 &creator.txtOutput}) {
+                 &creator.cmdSelect, &creator.cmdDoit, &creator.chkCancel, &creator.cmdSaveIt}) {
             takesActs += control->takesActs() ? ' ' + control->name() : "";
         }
+        takesActs +=
+            creator.txtOutput.takesActs() && !creator.txtOutput.isLocked() ? " txtOutput" : "";
         std::map<std::string, std::string> seen = {
             {"creator", stateOf(creator, creator.chkCancel) +
                             (creator.isTopmost() ? " topmost" : "") + takesActs},
@@ -113,12 +114,14 @@ struct AuthorsWindows {
             {"selected", creator.picImage.toolTip() + ", " + creator.cmdDoit.toolTip()},
             {"text", text},
             {"saved", creator.cmdSaveIt.toolTip()},
+            {"creator says", creator.sbCreator.isVisible() ? creator.sbCreator.text() : ""},
             {"viewer", stateOf(viewer, viewer.chkCancel)},
             {"viewed", viewer.picImage.toolTip() + ' ' + pictureText(viewer.picImage.picture())},
             {"not viewed", viewer.cmdSelect.toolTip()},
             {"viewer says", viewer.keys.sbSheet.isVisible() ? viewer.keys.sbSheet.text() : ""},
             {"dialog", desktop.asked.initialFolder.string() + " *" + desktop.asked.extension + ' ' +
-                           std::to_string(desktop.asked.filterIndex)}};
+                           std::to_string(desktop.asked.filterIndex) +
+                           (desktop.asked.fileName.empty() ? "" : ' ' + desktop.asked.fileName)}};
         for (const SSDMaps::Map& map : maps.all()) {
             seen["maps"] += map->sDisplayName + ' ' + std::to_string(map->iMaxMass) + ' ';
         }

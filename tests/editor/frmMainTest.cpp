@@ -274,7 +274,7 @@ private:
         } else if (auto* const tray = dynamic_cast<TrayIcon*>(&control)) {
             raise(how == "left" ? tray->onLeftClick : tray->onRightClick);
         } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
-            combo->type(how);
+            how == "enter" ? combo->pressEnter() : combo->type(how);
         } else if (auto* const slider = dynamic_cast<Slider*>(&control)) {
             slider->slide(std::stoi(how));
             m_says += "of " + std::to_string(slider->max()) + " by " +

@@ -10,7 +10,7 @@ inline constexpr double readableContrast = 4.5;
 
 /// What cannot be used just now is at least to be seen, also where a style shades what it stands
 /// on.
-inline constexpr double visibleContrast = 2.5;
+inline constexpr double visibleContrast = 3;
 
 /// How far two colours are apart for the eye, as WCAG 2 counts: from 1 for equal ones to 21.
 double contrast(const QColor& one, const QColor& other);

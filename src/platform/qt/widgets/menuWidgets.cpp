@@ -76,9 +76,14 @@ void handClicksOn(QMenu* menu) {
     });
 }
 
-/// A menu is a window of its own, which has none of its owner's colours.
+/// A menu is a window of its own, which has none of its owner's colours. What is disabled in it
+/// casts no shadow, which on dark ones only blurs it.
 void keepReadable(QMenu* menu) {
-    const auto colour = [menu] { menu->setPalette(readableColours(QApplication::palette())); };
+    const auto colour = [menu] {
+        QPalette colours = readableColours(QApplication::palette());
+        colours.setColor(QPalette::Disabled, QPalette::Light, Qt::transparent);
+        menu->setPalette(colours);
+    };
     colour();
     new EventHook(menu, [colour](QEvent* event) {
         if (event->type() == QEvent::ApplicationPaletteChange) {

@@ -3,6 +3,7 @@
 #include "Drawing.h"
 #include "Error.h"
 #include "QtPictureFiles.h"
+#include "contrast.h"
 #include "drawnImage.h"
 #include "qtImage.h"
 #include "widgetTools.h"
@@ -126,9 +127,13 @@ private:
 
     QColor ink(const QPalette& palette, QIcon::Mode mode, bool isMarked) const {
         const bool isOther = isMarked && (m_isFace || areMarkedRowsInOtherColours());
-        return mode == QIcon::Disabled
-                   ? palette.color(QPalette::Disabled, m_role)
-                   : palette.color(isOther ? QPalette::HighlightedText : m_role);
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        if (isOther || group == QPalette::Active) {
+            return palette.color(group, isOther ? QPalette::HighlightedText : m_role);
+        }
+        const auto ground = m_role == QPalette::ButtonText ? QPalette::Button : QPalette::Base;
+        return readableOn(palette.color(group, ground), palette.color(group, m_role),
+                          visibleContrast);
     }
 
     /// In pixels of the picture.

@@ -130,6 +130,16 @@ bool copiesMarked(QEvent& event, const QLineEdit& line) {
     return static_cast<QKeyEvent&>(event).matches(QKeySequence::Copy) && line.hasSelectedText();
 }
 
+/// Has the model open or shut its text, as a double-click and F2 do. What is open is there to be
+/// written anew. Whether it is open.
+bool openOrShut(TextBox& box, QLineEdit& line) {
+    box.doubleClick();
+    if (!box.isLocked()) {
+        line.selectAll();
+    }
+    return !box.isLocked();
+}
+
 /// Hands what is done to a line to its model. Whether the line itself is to do nothing with it.
 bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale) {
     switch (event.type()) {
@@ -155,15 +165,16 @@ bool takeEvent(QEvent& event, TextBox& box, QLineEdit& line, const Scale& scale)
     case QEvent::KeyPress: {
         const auto& key = static_cast<QKeyEvent&>(event);
         if (key.key() == Qt::Key_F2 && box.onDblClick) {
-            box.doubleClick();  // what the mouse opens and shuts
+            openOrShut(box, line);
             return true;
         }
         const QString typed = key.text();
         return !typed.isEmpty() && box.pressKey(typed.front().unicode());
     }
     case QEvent::MouseButtonDblClick:
-        box.doubleClick();
-        return false;
+        return box.onDblClick && openOrShut(box, line);
+    case QEvent::MouseMove:  // of a hand that trembles
+        return box.onDblClick && line.selectedText() == line.text();
     case QEvent::FocusOut:
         if (isLost(static_cast<QFocusEvent&>(event))) {
             box.loseFocus();
@@ -272,6 +283,7 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
     new EventHook(widget, [](QEvent* event) { return isRatherOfMenus(*event); });
     QObject::connect(widget, &QComboBox::editTextChanged,
                      [&box](const QString& text) { box.type(text.toStdString()); });
+    QObject::connect(widget->lineEdit(), &QLineEdit::returnPressed, [&box] { box.pressEnter(); });
     QObject::connect(widget, &QComboBox::activated, [widget, &box](int item) {
         box.choose(static_cast<std::size_t>(item));
         // A name is known by its beginning.
