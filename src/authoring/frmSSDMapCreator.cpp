@@ -304,9 +304,8 @@ std::string frmSSDMapCreator::suggestedName() const {
 
 void frmSSDMapCreator::saveMap(const std::string& file) {
     saveFile(nativePath(file), mapFileContents(txtOutput.text()));
-    const std::string saved = "Saved as " + shownText(file);
-    cmdSaveIt.setToolTip(saved);
-    say(saved + ": " + offer(file));
+    cmdSaveIt.setToolTip("Saved as " + shownText(file));
+    say("Saved as " + shownText(pathText(nativePath(file).filename())) + ": " + offer(file));
 }
 
 /// Offers the map in a file for sheets, and says for which.

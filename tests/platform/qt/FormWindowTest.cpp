@@ -201,7 +201,7 @@ TEST_F(FormWindowTest, ALongTextGetsTheRoomBesideItAndThenNarrowerLetters) {
     }
     EXPECT_GT(label->width(), place.width());
     form.label.setCaption(std::string(100, 'n'));
-    EXPECT_EQ(label->font().stretch(), 70);
+    EXPECT_EQ(label->font().stretch(), 60);
     EXPECT_LT(label->width(), room);
 }
 

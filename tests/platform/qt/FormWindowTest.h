@@ -50,6 +50,7 @@ public:
             return key == EnterKey;
         };
         name.onDblClick = [this] { log += "open "; };
+        combo.onEnter = [this] { log += "enter "; };
         onFilesDrop = [this](const std::vector<std::string>& files) {
             log = std::accumulate(files.begin(), files.end(), log);
         };

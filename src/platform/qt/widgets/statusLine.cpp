@@ -78,12 +78,32 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent), m_notice(new Notice(th
 }
 
 void StatusLine::showText(const QString& text) {
-    setText(text);
+    m_text = text;
     setAccessibleName(text);
+    fit();
+}
+
+void StatusLine::fit() {
+    const int room = contentsRect().width() - 2 * margin();
+    const QString shown = fontMetrics().elidedText(m_text, Qt::ElideRight, room);
+    setText(shown);
+    setToolTip(shown == m_text ? QString() : toToolTip(m_text.toStdString()));
+}
+
+void StatusLine::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    fit();
+}
+
+void StatusLine::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        fit();
+    }
 }
 
 void StatusLine::announce() {
-    m_notice->setAccessibleName(text());
+    m_notice->setAccessibleName(m_text);
     QAccessibleEvent event(m_notice, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }
@@ -91,15 +111,7 @@ void StatusLine::announce() {
 QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     auto* const widget = new StatusLine(parent);
     prepare(widget, bar, scale);
-    const auto keepReadable = [widget, &bar] {
-        // What the line has no room for can be read all the same.
-        const bool isCutOff = widget->sizeHint().width() > widget->width();
-        widget->setToolTip(isCutOff ? toToolTip(bar.text()) : QString());
-    };
-    const auto redock = [widget, scale, keepReadable] {
-        dock(*widget, scale);
-        keepReadable();
-    };
+    const auto redock = [widget, scale] { dock(*widget, scale); };
     keepZoomed(widget, scale, redock);
     followPlace(parent, [parent, redock, view = QPointer<QWidget>()]() mutable {
         if (parent->parentWidget() != view) {
@@ -108,10 +120,7 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
         }
         redock();
     });
-    keepInStep(widget, bar, [widget, &bar, keepReadable] {
-        widget->showText(toShown(bar.text()));
-        keepReadable();
-    });
+    keepInStep(widget, bar, [widget, &bar] { widget->showText(toShown(bar.text())); });
     keepAttached(widget, bar.Said.connect([widget] {
         if (widget->isVisible()) {
             widget->announce();

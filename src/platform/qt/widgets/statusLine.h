@@ -10,11 +10,19 @@ class StatusLine : public QLabel {
 public:
     explicit StatusLine(QWidget* parent);
 
+    /// Ends in dots what the line has no room for, and has its tool tip show all of it.
     void showText(const QString& text);
-    /// Has screen readers say the text that is shown.
+    /// Has screen readers say the text.
     void announce();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
 private:
+    void fit();
+
+    QString m_text;
     QWidget* m_notice;
 };
 
