@@ -108,7 +108,7 @@ void frmMapper::cmdDrawIt_Click() {
     followDesign();
     say("");
     if (cboMapSelection.text().empty()) {
-        say(m_bestFit ? "Choose a map first: " + shownText(m_bestFit->sDisplayName) + " fits best"
+        say(m_bestFit ? "Choose a map first, best: " + shownText(m_bestFit->sDisplayName)
                       : cboMapSelection.toolTip());
         return;
     }

@@ -35,7 +35,7 @@ void fitText(QWidget* widget, const Control& control, const Scale& scale) {
     // What still does not fit is set in narrower letters. They begin in proportion and become
     // narrower a little at a time, since how wide a text becomes is not quite in proportion. Each
     // width is one more font to be found, which takes long.
-    constexpr int narrowest = 70, step = 10;
+    constexpr int narrowest = 60, step = 10;
     int stretch =
         std::max(100 * widget->width() / std::max(needed, 1) / step * step, narrowest) + step;
     QFont font = widget->font();
