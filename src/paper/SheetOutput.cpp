@@ -76,18 +76,6 @@ SheetOutput::Rows rowsOf(const ShipClass& ship) {
     return rows;
 }
 
-bool showTheSame(const Raster& one, const Raster& other) {
-    if (one.width() != other.width() || one.height() != other.height()) {
-        return false;
-    }
-    for (int y = 0; y < one.height(); ++y) {
-        if (!std::ranges::equal(one.row(y), other.row(y))) {
-            return false;
-        }
-    }
-    return true;
-}
-
 }  // namespace
 
 void SheetOutput::attempt(const std::function<void()>& task) const {
@@ -232,7 +220,7 @@ SSDMaps::Map SheetOutput::mapOf(const Raster& picture, const SheetShip& ship,
                                 const Rows& aboard) const {
     const auto isDrawnOn = [&](const SSDMaps::Map& map) {
         try {
-            return map && showTheSame(bitmapOn(*map, ship, aboard), picture);
+            return map && bitmapOn(*map, ship, aboard) == picture;
         } catch (const Error&) {
             return false;
         }
