@@ -29,10 +29,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-PageDocument documentOf(const ShipOnScreen& screen, const SheetRun& run) {
+PageDocument documentOf(const ShipOnScreen& screen, const SheetRun& run, bool isPlain = false) {
     std::vector<VectorSheet> sheets;
     sheets.push_back(recordedSheet(screen, run.tools, std::string()));
-    return sheetDocument(sheets, {.kept = &run.kept});
+    return sheetDocument(sheets, {.isPlain = isPlain, .kept = &run.kept});
 }
 
 /// A folder for the sheets of a run, in which there are none yet, as the tool makes it.
@@ -64,6 +64,15 @@ void svgFilesByTool(benchmark::State& state) {
         state, 1, SheetKind::Lines,
         [](const ShipOnScreen& screen, const SheetRun& run) {
             return svgFile(documentOf(screen, run), run.files, &run.parts);
+        },
+        savedIn(emptyFolder(), ".svg"));
+}
+
+void plainSvgFilesByTool(benchmark::State& state) {
+    makeSheets(
+        state, 1, SheetKind::Lines,
+        [](const ShipOnScreen& screen, const SheetRun& run) {
+            return svgFile(documentOf(screen, run, true), run.files, &run.parts);
         },
         savedIn(emptyFolder(), ".svg"));
 }
@@ -163,6 +172,7 @@ const bool registered = [] {
             [threads](benchmark::State& state) { pdfs(state, threads); });
     }
     add("SVG files of 200 ships", many, svgFilesByTool);
+    add("plain SVG files of 200 ships", many, plainSvgFilesByTool);
     add("bitmap files of 200 ships", many, bitmapFiles);
     add("SVG files of 200 ships, bare", many, bareSvgFiles);
     return true;
@@ -187,7 +197,11 @@ const RegisterGoal bitmapGoal(
      "libraries that pack and encode; 0.19 the text of the pages; 0.12 the fonts; 0.11 the "
      "definitions of pictures, most of them copied; and the rest is saving. A fifth of it all "
      "would have to go. There is room in the trials of places, and in the silhouettes, if the "
-     "build made them. The row below without window, legend, layout and words is the limit."});
+     "build made them. Bitmaps have neither legend nor rose nor code: the next row compares them "
+     "with sheets that have none, either. Without window, layout and words is the limit."});
+const RegisterGoal plainGoal({"200 SVG files that say what bitmaps say: times as fast as those",
+                              "bitmap files of 200 ships", "plain SVG files of 200 ships", 3,
+                              true});
 const RegisterGoal bareGoal({.what = "200 SVG files: times what none could leave out",
                              .above = "SVG files of 200 ships",
                              .below = "SVG files of 200 ships, bare"});
