@@ -1,5 +1,7 @@
 #include "PageFlow.h"
 
+#include "FreeRoom.h"
+
 #include <algorithm>
 #include <iterator>
 #include <numeric>
@@ -44,6 +46,32 @@ void putBlock(Page& page, PageBlock block, double x, double y) {
         std::visit(Mover{x, y}, item);
         page.items.push_back(std::move(item));
     }
+}
+
+std::vector<PageBlock> partsOf(PageBlock block, double height) {
+    std::vector<PageBlock> parts;
+    if (block.height <= height) {
+        parts.push_back(std::move(block));
+        return parts;
+    }
+    PageBlock part;
+    double top = 0;
+    const auto endAt = [&](double bottom) {
+        Page moved;
+        putBlock(moved, std::exchange(part, {}), 0, -top);
+        parts.push_back({.height = bottom - top, .items = std::move(moved.items)});
+        top = bottom;
+    };
+    for (PageItem& item : block.items) {
+        const Box box = boxOf(item);
+        const bool isRule = box.height == 0;  // it ends what is above it
+        if (!isRule && box.y + box.height - top > height && !part.items.empty()) {
+            endAt(box.y);
+        }
+        part.items.push_back(std::move(item));
+    }
+    endAt(block.height);
+    return parts;
 }
 
 /// The first block, of those from one on, that finds no room in a column of this height.

@@ -27,6 +27,9 @@ void appendBlocks(std::vector<PageBlock>& blocks, std::vector<PageBlock>&& more)
 /// Puts a block on a page, its upper left corner here.
 void putBlock(Page& page, PageBlock block, double x, double y);
 
+/// Parts of a block, parted between its lines: none is higher than this, unless a line is.
+std::vector<PageBlock> partsOf(PageBlock block, double height);
+
 /// Blocks on their way to their columns, in their order.
 class PageFlow {
 public:

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -130,7 +131,6 @@ PageBlock headBlock(double width) {
 /// ships and what is noted of it.
 PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
     constexpr double roomAbove = 1.2, roomBelow = 1.4;
-    constexpr std::size_t mostNameLines = 400;
     RosterBlock text(width);
     text.block.height = roomAbove;
     const double y = roomAbove + rosterNameSize * letterHeight;
@@ -171,7 +171,7 @@ PageBlock shipBlock(const FleetShip& ship, const FleetRow& row, double width) {
                    nameLeft, quiet, 2);
     }
     if (const std::string names = joinedNames(ship); !names.empty()) {
-        text.write(names, nameLeft, {.text = {}, .size = smallSize + 0.3}, mostNameLines);
+        text.write(names, nameLeft, {.text = {}, .size = smallSize + 0.3}, MeasuredText::any);
     }
     text.writeNotes(ship.notes, nameLeft, smallSize);
     text.block.height += roomBelow;
@@ -230,81 +230,118 @@ public:
     void each(const PageTaker& take) const;
 
 private:
-    std::size_t blockCount() const { return m_rows.size() + (m_limits.empty() ? 0 : 1); }
-    PageBlock block(std::size_t i) const;
+    using PartTaker = std::function<void(PageBlock&&)>;
+
+    void eachPart(const PartTaker& take) const;
     std::vector<std::size_t> pageEnds() const;
+    double heightOfPage() const;
     Box roomOn(std::size_t page) const;
+    Page startedPage(std::size_t number) const;
     void addFoot(Page& page, std::size_t number, std::size_t pages) const;
 
     const Fleet& m_fleet;
     const FleetRows& m_rows;
     Box m_inside;
     FleetSum m_sum;
-    std::vector<LimitWords> m_limits;
-    PageBlock m_title, m_head;
+    PageBlock m_head;
+    std::vector<PageBlock> m_title;  ///< its parts, a page for each; ships begin below the last
 };
 
 Roster::Roster(const Fleet& fleet, const FleetRows& rows, const PageSize& paper)
     : m_fleet(fleet), m_rows(rows),
       m_inside{paperMargin, paperMargin, paper.width - 2 * paperMargin,
                paper.height - 2 * paperMargin},
-      m_sum(fleetSum(fleet, rows)), m_limits(limitWords(fleet, m_sum)),
-      m_title(titleBlock(fleet, m_sum, m_inside.width)), m_head(headBlock(m_inside.width)) {}
+      m_sum(fleetSum(fleet, rows)), m_head(headBlock(m_inside.width)),
+      m_title(partsOf(titleBlock(fleet, m_sum, m_inside.width), heightOfPage())) {}
 
-/// A ship, or the limits behind all of them.
-PageBlock Roster::block(std::size_t i) const {
-    return i < m_rows.size() ? shipBlock(m_fleet.ships[i], *m_rows[i], m_inside.width)
-                             : limitsBlock(m_limits, m_inside.width);
+/// Hands over what stands on the pages: ships, and the limits behind all of them.
+void Roster::eachPart(const PartTaker& take) const {
+    const double height = heightOfPage();
+    const auto takeBlock = [&](PageBlock&& block) {
+        for (PageBlock& part : partsOf(std::move(block), height)) {
+            take(std::move(part));
+        }
+    };
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        takeBlock(shipBlock(m_fleet.ships[i], *m_rows[i], m_inside.width));
+    }
+    if (const std::vector<LimitWords> limits = limitWords(m_fleet, m_sum); !limits.empty()) {
+        takeBlock(limitsBlock(limits, m_inside.width));
+    }
 }
 
-/// What the title, which is on the first page, and the head leave of a page.
-Box Roster::roomOn(std::size_t page) const {
+/// What the head and the foot leave.
+double Roster::heightOfPage() const {
     constexpr double footHeight = 5;
-    const double above = m_head.height + (page == 0 ? m_title.height : 0);
-    return {m_inside.x, m_inside.y + above, m_inside.width, m_inside.height - above - footHeight};
+    return m_inside.height - m_head.height - footHeight;
 }
 
-/// For each page the first block that is behind it.
+/// What is left below the title.
+Box Roster::roomOn(std::size_t page) const {
+    const double title = page < m_title.size() ? m_title[page].height : 0;
+    return {m_inside.x, m_inside.y + title + m_head.height, m_inside.width,
+            page + 1 < m_title.size() ? 0 : heightOfPage() - title};
+}
+
+/// For each page the first part that is behind it.
 std::vector<std::size_t> Roster::pageEnds() const {
     std::vector<std::size_t> ends;
+    std::size_t count = 0;
     double y = 0;
-    for (std::size_t i = 0; i < blockCount();) {
-        const double height = block(i).height;
-        const bool isFirst = i == (ends.empty() ? 0 : ends.back());
-        // What is higher than a page goes onto one of its own, but not onto that of the title.
-        if (y + height <= roomOn(ends.size()).height + lengthTolerance ||
-            (isFirst && !ends.empty())) {
-            y += height;
-            ++i;
-        } else {
-            ends.push_back(i);
+    eachPart([&](const PageBlock& part) {
+        // Beside a title there may be too little room for anything.
+        while (y + part.height > roomOn(ends.size()).height + lengthTolerance &&
+               (y > 0 || ends.size() < m_title.size())) {
+            ends.push_back(count);
             y = 0;
         }
+        y += part.height;
+        ++count;
+    });
+    while (ends.size() < m_title.size()) {
+        ends.push_back(count);
     }
-    ends.push_back(blockCount());
+    if (ends.back() < count) {
+        ends.push_back(count);
+    }
     return ends;
+}
+
+Page Roster::startedPage(std::size_t number) const {
+    Page page;
+    if (number < m_title.size()) {
+        putBlock(page, m_title[number], m_inside.x, m_inside.y);
+    }
+    if (number + 1 >= m_title.size()) {
+        putBlock(page, m_head, m_inside.x, roomOn(number).y - m_head.height);
+    }
+    return page;
 }
 
 void Roster::each(const PageTaker& take) const {
     const std::vector<std::size_t> ends = pageEnds();
-    std::size_t next = 0;
-    for (std::size_t number = 0; number < ends.size(); ++number) {
-        Page page;
-        const Box room = roomOn(number);
-        if (number == 0) {
-            putBlock(page, m_title, m_inside.x, m_inside.y);
-        }
-        putBlock(page, m_head, m_inside.x, room.y - m_head.height);
-        for (double y = room.y; next < ends[number]; ++next) {
-            PageBlock row = block(next);
-            const double height = row.height;
-            putBlock(page, std::move(row), room.x, y);
-            y += height;
-        }
+    std::size_t number = 0, next = 0;
+    Page page = startedPage(number);
+    double y = roomOn(number).y;
+    const auto endPage = [&] {
         if (ends.size() > 1) {
             addFoot(page, number + 1, ends.size());
         }
         take(page);
+        ++number;
+    };
+    eachPart([&](PageBlock&& part) {
+        for (; next == ends[number]; y = roomOn(number).y) {
+            endPage();
+            page = startedPage(number);
+        }
+        const double height = part.height;
+        putBlock(page, std::move(part), m_inside.x, y);
+        y += height;
+        ++next;
+    });
+    for (endPage(); number < ends.size(); endPage()) {
+        page = startedPage(number);
     }
 }
 

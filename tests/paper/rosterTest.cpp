@@ -54,6 +54,10 @@ TEST(Roster, HasAPlaceForEverything) {
         for (const std::string& line : linesOf(given["ships"])) {
             rows.push_back(std::make_shared<const FleetRow>(rowOf(line)));
         }
+        for (int notes = std::atoi(given["notes"].c_str()); notes > 0; --notes) {
+            (notes % 2 == 0 ? fleet.notes : fleet.ships.front().notes) +=
+                "note " + std::to_string(notes) + '\n';
+        }
         for (int more = std::atoi(given["more"].c_str()); more > 0; --more) {
             fleet.ships.push_back(fleet.ships.back());
             rows.push_back(rows.back());
