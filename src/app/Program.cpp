@@ -18,6 +18,7 @@
 #include "QtSettingsStore.h"
 #include "QtSounds.h"
 #include "QtTrash.h"
+#include "ReadableStyle.h"
 #include "RecoveryFolder.h"
 #include "SheetOutput.h"
 #include "applicationFolder.h"
@@ -350,6 +351,7 @@ private:
 int runProgram(int argc, char** argv, const std::function<void()>& painted) {
     letFileSizeLimitFail();
     const QApplication application = windowApplication(argc, argv);
+    useReadableStyle();
     QApplication::setApplicationName(applicationTitle);
     // By this name desktops find the entry that a package has installed, and with it the icon.
     QApplication::setDesktopFileName("org.fleetwright.fleetwright");

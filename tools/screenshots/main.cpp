@@ -8,6 +8,7 @@
 #include "QtPictureFiles.h"
 #include "QtPrograms.h"
 #include "QtRegistry.h"
+#include "ReadableStyle.h"
 #include "SSDMaps.h"
 #include "SilentServices.h"
 #include "fleetPictures.h"
@@ -260,6 +261,7 @@ int main(int argc, char** argv) {
     useLargeScreen(settings.filePath("screen.json"));
     const QApplication application(argc, argv);
     QApplication::setStyle("fusion");
+    useReadableStyle();
     try {
         takeAll(argv[1], argv[2], argv[3]);
     } catch (const FileError& error) {

@@ -12,6 +12,10 @@ inline constexpr double readableContrast = 4.5;
 /// on.
 inline constexpr double visibleContrast = 3;
 
+/// What only parts things from each other is at least so far apart from both, which is about what
+/// styles give it in light colours.
+inline constexpr double edgeContrast = 1.7;
+
 /// How far two colours are apart for the eye, as WCAG 2 counts: from 1 for equal ones to 21.
 double contrast(const QColor& one, const QColor& other);
 

@@ -4,6 +4,7 @@
 #include "CheckBox.h"
 #include "Frame.h"
 #include "OptionButton.h"
+#include "ReadableStyle.h"
 #include "UpDown.h"
 #include "contrast.h"
 #include "controlWidgets.h"
@@ -36,7 +37,8 @@ protected:
         QPainter painter(this);
         const QFontMetrics metrics(font());
         const QRect frame = rect().adjusted(0, metrics.height() / 2, -1, -1);
-        painter.setPen(palette().color(QPalette::Mid));
+        painter.setPen(readableOn(palette().color(QPalette::Window), palette().color(QPalette::Mid),
+                                  edgeContrast));
         painter.drawRoundedRect(frame, corner, corner);
         const QRect caption(inset, 0, metrics.horizontalAdvance(title()) + 2 * corner,
                             metrics.height());
@@ -72,7 +74,7 @@ protected:
         QStylePainter painter(this);
         const QStyleOptionToolButton look = currentLook();
         // The styles of Windows give what is down a ground of their own, on which its face is pale.
-        if (!isChecked() || !style()->name().startsWith("windows")) {
+        if (!isChecked() || !styleName().startsWith("windows")) {
             painter.drawComplexControl(QStyle::CC_ToolButton, look);
             return;
         }

@@ -3,6 +3,7 @@
 #include "Drawing.h"
 #include "Error.h"
 #include "QtPictureFiles.h"
+#include "ReadableStyle.h"
 #include "contrast.h"
 #include "drawnImage.h"
 #include "qtImage.h"
@@ -26,7 +27,7 @@ namespace {
 bool areMarkedRowsInOtherColours() {
     const QStyle* const style = QApplication::style();
     return style->styleHint(QStyle::SH_ItemView_ShowDecorationSelected) != 0 &&
-           style->name() != "windowsvista";
+           styleName() != "windowsvista";
 }
 
 class PictureEngine : public QIconEngine {

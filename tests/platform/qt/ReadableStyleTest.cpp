@@ -1,0 +1,133 @@
+#include "ReadableStyle.h"
+
+#include "contrast.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QMenu>
+#include <QPainter>
+#include <QStyleOption>
+#include <QTreeWidget>
+
+#include <vector>
+
+using namespace fleetwright;
+
+namespace {
+
+using Element = QStyle::PrimitiveElement;
+
+constexpr auto byKey = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+
+/// What the style draws by such an option, on one colour.
+QImage drawn(Element element, QStyleOption& option, const QColor& ground, QStyle::State states,
+             const QWidget* widget) {
+    constexpr int size = 24, inset = 4;
+    QImage image(size, size, QImage::Format_RGB32);
+    image.fill(ground);
+    option.rect = image.rect().adjusted(inset, inset, -inset, -inset);
+    option.state = QStyle::State_Enabled | QStyle::State_Active | states;
+    QPainter painter(&image);
+    ReadableStyle("fusion").drawPrimitive(element, &option, &painter, widget);
+    return image;
+}
+
+/// The contrast with the ground along a line from the left edge to the middle, at its best.
+double edgeOf(Element element, QStyleOption& option) {
+    const QColor ground = option.palette.color(QPalette::Window);
+    const QImage image = drawn(element, option, ground, {}, nullptr);
+    double best = 1;
+    for (int x = 0; x < 7; ++x) {
+        best = std::max(best, contrast(image.pixelColor(x, image.height() / 2), ground));
+    }
+    return best;
+}
+
+/// The contrast of what shows that something has the keyboard with what is there else, at its best.
+double focusOf(Element element, QStyleOption& option, const QColor& ground,
+               const QWidget* widget = nullptr) {
+    const QImage before = drawn(element, option, ground, {}, widget);
+    const QImage after = drawn(element, option, ground, byKey, widget);
+    double best = 1;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            best = std::max(best, contrast(after.pixelColor(x, y), before.pixelColor(x, y)));
+        }
+    }
+    return best;
+}
+
+std::vector<QPalette> lightAndDark() {
+    std::vector<QPalette> palettes = {QColor(239, 240, 241), QColor(42, 46, 50)};
+    for (QPalette& palette : palettes) {
+        palette.setColor(QPalette::Highlight, QColor(20, 120, 175));
+    }
+    palettes[1].setColor(QPalette::Base, QColor(27, 30, 32));
+    return palettes;
+}
+
+}  // namespace
+
+TEST(ReadableStyle, EdgesAreSeenInLightAndDarkColours) {
+    ReadableStyle style("fusion");
+    constexpr double soft = 0.85;  // where they are round
+    for (const QPalette& palette : lightAndDark()) {
+        QStyleOptionButton mark;
+        mark.palette = palette;
+        EXPECT_GE(edgeOf(QStyle::PE_IndicatorRadioButton, mark), soft * visibleContrast);
+        EXPECT_GE(edgeOf(QStyle::PE_IndicatorCheckBox, mark), soft * visibleContrast);
+        QStyleOptionFrame frame;
+        frame.palette = palette;
+        frame.lineWidth = 1;
+        EXPECT_GE(edgeOf(QStyle::PE_FrameLineEdit, frame), soft * edgeContrast);
+        EXPECT_GE(edgeOf(QStyle::PE_Frame, frame), soft * edgeContrast);
+
+        QMenu menu;
+        menu.setStyle(&style);
+        menu.setPalette(palette);
+        menu.addAction("Above");
+        QAction* const separator = menu.addSeparator();
+        menu.addAction("Below");
+        menu.resize(menu.sizeHint());
+        const QPoint line = menu.actionGeometry(separator).center();
+        const QImage shown = menu.grab().toImage();
+        const auto at = [&shown](QPoint place) { return shown.pixelColor(place); };
+        EXPECT_GE(contrast(at(line), at(line + QPoint(0, 2))), edgeContrast);
+    }
+}
+
+TEST(ReadableStyle, WhatHasTheKeyboardIsMarkedInLightAndDarkColours) {
+    const QTreeWidget list;
+    for (const QPalette& palette : lightAndDark()) {
+        const QColor window = palette.color(QPalette::Window);
+        QStyleOptionButton button;
+        button.palette = palette;
+        EXPECT_GE(focusOf(QStyle::PE_PanelButtonCommand, button, window), 2.4);
+        QStyleOptionFrame frame;
+        frame.palette = palette;
+        frame.lineWidth = 1;
+        EXPECT_GE(focusOf(QStyle::PE_FrameLineEdit, frame, window), 1.6) << "of an edge";
+        EXPECT_GE(focusOf(QStyle::PE_Frame, frame, window, &list), 1.6) << "of an edge";
+        QStyleOptionFocusRect focus;
+        focus.palette = palette;
+        EXPECT_GE(focusOf(QStyle::PE_FrameFocusRect, focus, window), visibleContrast);
+        // On a button that is down.
+        const QColor down = palette.color(QPalette::Highlight);
+        focus.palette.setColor(QPalette::Button, down);
+        EXPECT_GE(focusOf(QStyle::PE_FrameFocusRect, focus, down), visibleContrast);
+    }
+}
+
+TEST(ReadableStyle, StandsAroundTheStyleOfQtAloneAndKeepsItsName) {
+    const QString usual = styleName();
+    QApplication::setStyle("windows");
+    useReadableStyle();
+    EXPECT_EQ(dynamic_cast<ReadableStyle*>(QApplication::style()), nullptr);
+    QApplication::setStyle("fusion");
+    useReadableStyle();
+    EXPECT_NE(dynamic_cast<ReadableStyle*>(QApplication::style()), nullptr);
+    EXPECT_EQ(styleName(), "fusion");
+    QApplication::setStyle(usual);
+}
