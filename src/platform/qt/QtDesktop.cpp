@@ -5,6 +5,7 @@
 #include "FormWindow.h"
 #include "Menu.h"
 #include "SettingsStore.h"
+#include "contrast.h"
 #include "controlWidgets.h"
 #include "text.h"
 #include "wholeNumber.h"
@@ -59,6 +60,7 @@ void widenColumns(QFileDialog& dialog) {
 
 void prepareDialog(QFileDialog& dialog, const FileDialog& wanted) {
     dialog.setObjectName("fileDialog");
+    dialog.setPalette(readableColours(QApplication::palette()));
     dialog.setOption(QFileDialog::HideNameFilterDetails);  // the labels show as they were written
     dialog.setNameFilters(nameFilters(wanted.filter));
     dialog.selectNameFilter(dialog.nameFilters().value(wanted.filterIndex - 1));
@@ -106,6 +108,7 @@ bool mayReplace(const QString& chosen, const QString& extension) {
                     toQt(shownText(file.toStdString())) +
                         " already exists.\nDo you want to replace it?",
                     QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    box.setPalette(readableColours(QApplication::palette()));
     box.setTextFormat(Qt::PlainText);  // the name in it is no markup
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
@@ -165,6 +168,7 @@ Answer QtDesktop::showMessage(const std::string& text, const std::string& title,
                               Icon icon) {
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName("messageBox");
+    box.setPalette(readableColours(QApplication::palette()));
     box.setWindowTitle(title.empty() ? QApplication::applicationName() : toQt(shownText(title)));
     box.setTextFormat(Qt::PlainText);  // names in it are no markup
     box.setText(toQt(shownLines(text)));

@@ -1,5 +1,6 @@
 #include "choosePrinter.h"
 
+#include "contrast.h"
 #include "paths.h"
 #include "text.h"
 
@@ -42,6 +43,7 @@ bool choosePrinter(QPrinter& printer, const std::string& title) {
     setTitle(printer, title);
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setObjectName("printDialog");
+    dialog.setPalette(readableColours(QApplication::palette()));
     dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
