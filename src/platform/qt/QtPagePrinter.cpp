@@ -13,6 +13,8 @@
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
+#include <QToolBar>
 
 #include <algorithm>
 #include <exception>
@@ -62,6 +64,17 @@ void onPrint(QPrintPreviewDialog& dialog, const std::function<void()>& act) {
     }
 }
 
+/// Gives the preview room for all of its buttons, of which Qt would show but the first ones, and
+/// for a page that can be made out.
+void enlarge(QPrintPreviewDialog& dialog) {
+    constexpr QSize comfortable(800, 900), frame(10, 40);
+    QSize size = dialog.size().expandedTo(comfortable);
+    for (const auto* const buttons : dialog.findChildren<QToolBar*>()) {
+        size = size.expandedTo(buttons->sizeHint());
+    }
+    dialog.resize(size.boundedTo(dialog.screen()->availableSize() - frame));
+}
+
 }  // namespace
 
 QtPagePrinter::QtPagePrinter() = default;
@@ -95,6 +108,7 @@ Printout QtPagePrinter::preview(const Layout& layout) {
     setTitle(printer(), title);
     QPrintPreviewDialog dialog(&printer(), QApplication::activeWindow());
     dialog.setObjectName("printPreview");
+    enlarge(dialog);
     std::exception_ptr failure;  // which is not thrown through Qt
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
         try {
