@@ -148,7 +148,7 @@ void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         QProxyStyle::drawComplexControl(control, changed, painter, widget);
     };
     if (const auto* const box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-        m_isFusion && box != nullptr) {
+        m_isFusion && box != nullptr && !box->editable) {  // else it is made of a box for text
         drawWithEdges(*box, frameShade, edgeContrast, draw);
     } else if (const auto* const numbers = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
                m_isFusion && numbers != nullptr) {
