@@ -30,11 +30,13 @@ void HistoryPanel::rest(std::string_view kind) {
                                 .safe = m_others.safe(),
                                 .came = whatCame(moment),
                                 .found = std::exchange(m_found, {})};
+    const std::size_t before = m_history->place();
     if (const auto steps = std::exchange(m_adopted, std::nullopt)) {
         m_history->adopt(*steps, moment, news);
     } else {
         m_history->note(moment, news);
     }
+    m_newStep = m_history->place() > before ? m_history->undoName() : "";
     show();
 }
 

@@ -33,6 +33,8 @@ public:
     void begin();
     /// The window has come to rest; `kind` as in `Acts`.
     void rest(std::string_view kind);
+    /// What that was in words, if the last rest has found a further step.
+    const std::string& newStep() const { return m_newStep; }
     /// The ship is about to be another one, or is as its file is.
     void noteReplaced() { m_isReplaced = true; }
     void noteSaved() { m_isSaved = true; }
@@ -89,6 +91,7 @@ private:
     std::optional<StoredSteps> m_adopted;
     bool m_isReplaced = false, m_isSaved = false;  ///< since the last rest
     std::vector<ShipFinding> m_found;              ///< likewise
+    std::string m_newStep;
 };
 
 }  // namespace fleetwright

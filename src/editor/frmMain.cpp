@@ -24,6 +24,7 @@ frmMain::frmMain(MainWindowServices services)
               .rested =
                   [this](std::string_view kind) {
                       history.rest(kind);
+                      tellNews();
                       Rested.raise();
                   }}),
       m_context{.form = *this,
@@ -77,6 +78,7 @@ void frmMain::Form_Load() {
     windows.sayDroppedMaps();
     recovery.askAfterStart();
     history.begin();
+    tellNews();  // nothing is, yet
     g_bLoaded = true;
 }
 
@@ -150,6 +152,13 @@ void frmMain::goBackTo(const DesignMoment& moment) {
             // A ship that a file has brought out of range is shown as far as it goes.
         }
     });
+}
+
+void frmMain::tellNews() {
+    const std::string text = m_news.sinceLastTime(*g_Ship, history.newStep());
+    if (g_bLoaded && !text.empty()) {
+        sbStatus.tell(text);
+    }
 }
 
 void frmMain::tmrRefreshScreen_Timer() {

@@ -2,6 +2,7 @@
 
 #include "Acts.h"
 #include "ComparePanel.h"
+#include "DesignNews.h"
 #include "DragPanel.h"
 #include "FiguresPanel.h"
 #include "FileCommands.h"
@@ -134,6 +135,7 @@ private:
     void RefreshScreen();
     DesignMoment moment() const;
     void goBackTo(const DesignMoment& moment);
+    void tellNews();
     void tmrRefreshScreen_Timer();
 
     // The ship and its events.
@@ -146,6 +148,7 @@ private:
     void g_Ship_WeaponNotFound();
     void g_Ship_AutoMassUnsettled();
 
+    DesignNews m_news;
     std::vector<Connection> m_shipEvents;
     bool m_saysNotFound = false;  ///< a system is missing, and the box that says so is open
     std::string sLastStatus;      ///< the status line at the last tick

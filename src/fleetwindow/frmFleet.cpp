@@ -47,6 +47,7 @@ frmFleet::frmFleet(FleetServices services)
 
 void frmFleet::Form_Load() {
     sbFleet.setText("");
+    m_toldSums.reset();
     restart();
 }
 
@@ -121,7 +122,20 @@ void frmFleet::refresh() {
     files.show();
     output.show();
     recovery.noteChange();
+    tellSums();
     m_isShowing = false;
+}
+
+/// What the fleet comes to, for who cannot see it change.
+void frmFleet::tellSums() {
+    const std::string warning = sums.lblWarning.caption();
+    std::string text = sums.lblSum.caption() + (warning.empty() ? "" : ". " + warning);
+    if (m_look.unread() == 0 && text != m_toldSums) {
+        if (m_toldSums) {
+            sbFleet.tell(text);
+        }
+        m_toldSums = std::move(text);
+    }
 }
 
 void frmFleet::Form_Resize() {

@@ -18,6 +18,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace fleetwright {
@@ -72,9 +73,11 @@ private:
     void restart();
     void refresh();
     void placeParts();
+    void tellSums();
 
-    std::string m_catalogue;   ///< by which the ships were read
-    bool m_isShowing = false;  ///< controls that change write nothing back
+    std::string m_catalogue;                ///< by which the ships were read
+    bool m_isShowing = false;               ///< controls that change write nothing back
+    std::optional<std::string> m_toldSums;  ///< since the window was opened
 };
 
 }  // namespace fleetwright

@@ -25,8 +25,13 @@ public:
     /// Shows a text that who cannot see it hears otherwise, or has heard.
     void setTextQuietly(const std::string& text) { show(text); }
 
-    /// For whoever draws it: the text is to be said.
+    /// Has screen readers say what is to be seen elsewhere in the window, and shows nothing. Of
+    /// what follows each other closely only the last is said.
+    void tell(const std::string& text) { Told.raise(text); }
+
+    /// For whoever draws it: the text is to be said, or this one.
     Signal<> Said;
+    Signal<const std::string&> Told;
 
 private:
     bool show(const std::string& text) {

@@ -37,8 +37,11 @@ TEST_F(DesigningTest, HullMassAndDrives) {
     struct Step {
         const char *role, *name, *field, *value;
     };
-    for (const Step& step : {Step{"radio button", "Merchant", "Type", "Merchant"},
-                             {"radio button", "Partial Streamling", "Streamlining", "Partial"},
+    Announcements announced;
+    window->click("radio button", "Merchant");
+    waitToShow("Type", "Merchant");
+    announced.waitFor("Merchant, Cost " + expectedOf(design).at("Cost"));
+    for (const Step& step : {Step{"radio button", "Partial Streamling", "Streamlining", "Partial"},
                              {"push button", "Mass in steps of 50, up", "Mass", "52"},
                              {"push button", "Mass in steps of 10, up", "Mass", "62"},
                              {"push button", "Mass in steps of 2, down", "Mass", "60"},
@@ -106,7 +109,12 @@ TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
     waitForAboard(gun, "6");
     dragOnto(node(battery), window->get("text", "Cost"));
     dragOnto(node(battery), window->get("tree", tree));
-    setThrust("4");  // what a drop would have done is done before the next act
+    Announcements announced;
+    setThrust("4");                     // what a drop would have done is done before the next act
+    announced.waitFor("Cost", "text");  // which is made of something else now
+    announced.waitFor("Thrust 4, Cost " + expectedOf(design).at("Cost"));
+    window->tabTo("tree", list);
+    announced.waitFor(gun, "table cell");  // which is selected there
 
     // How many are to remain.
     click(row(gun), rightOnce);
@@ -126,7 +134,6 @@ TEST_F(DesigningTest, SystemsByKeysMouseDragAndAutoMass) {
     window->waitFor(expectedOf(design, true));
 
     // By its name, from a branch that is closed. What is not found is heard.
-    Announcements announced;
     press("ctrl+f");
     type("cloaca");
     announced.waitFor("Find: \"cloaca\" - no match");

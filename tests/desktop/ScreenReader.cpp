@@ -33,12 +33,14 @@ Element desktop() {
     return Element(atspi_get_desktop(0));
 }
 
-constexpr const char* comesOrGoes = "object:state-changed:showing";
+/// Something comes to the screen or goes, has the keyboard or loses it, or is described anew.
+constexpr const char* heardOf[] = {"object:state-changed:showing", "object:state-changed:focused",
+                                   "object:property-change:accessible-description"};
 
-void noteShown(AtspiEvent* event, void* shown) {
-    if (event->detail1 != 0) {
+void note(AtspiEvent* event, void* heard) {
+    if (event->detail1 != 0 || std::string_view(event->type).starts_with("object:property")) {
         auto* const source = static_cast<AtspiAccessible*>(g_object_ref(event->source));
-        static_cast<std::vector<Element>*>(shown)->emplace_back(source);
+        static_cast<std::vector<Element>*>(heard)->emplace_back(source);
     }
     g_boxed_free(ATSPI_TYPE_EVENT, event);
 }
@@ -137,24 +139,33 @@ std::optional<Element> Element::find(std::string_view role, std::string_view nam
     return find(role, [&](const Element& each) { return each.name() == name; });
 }
 
-Announcements::Announcements()
-    : m_listener(atspi_event_listener_new(noteShown, &m_shown, nullptr)) {
+Announcements::Announcements() : m_listener(atspi_event_listener_new(note, &m_heard, nullptr)) {
     reachBus();
-    atspi_event_listener_register(m_listener, comesOrGoes, nullptr);
+    for (const char* const each : heardOf) {
+        atspi_event_listener_register(m_listener, each, nullptr);
+    }
 }
 
 Announcements::~Announcements() {
-    atspi_event_listener_deregister(m_listener, comesOrGoes, nullptr);
+    for (const char* const each : heardOf) {
+        atspi_event_listener_deregister(m_listener, each, nullptr);
+    }
     g_object_unref(m_listener);
 }
 
-void Announcements::waitFor(const std::string& text) {
-    fleetwright::waitFor("\"" + text + "\" to be said", [&] {
+void Announcements::waitFor(const std::string& text, const std::string& role) {
+    fleetwright::waitFor(role + " \"" + text + "\" to be said", [&] {
         while (g_main_context_iteration(nullptr, FALSE) != 0) {
         }
-        return std::ranges::any_of(std::exchange(m_shown, {}), [&](const Element& each) {
-            return each.role() == "notification" && each.name() == text;
-        });
+        // More may be heard while these are asked.
+        const std::vector<Element> heard = std::exchange(m_heard, {});
+        const auto found = std::ranges::find_if(
+            heard, [&](const Element& each) { return each.role() == role && each.name() == text; });
+        if (found == heard.end()) {
+            return false;
+        }
+        m_heard.insert(m_heard.begin(), found + 1, heard.end());
+        return true;
     });
 }
 

@@ -36,7 +36,8 @@ private:
     std::shared_ptr<AtspiAccessible> m_accessible;
 };
 
-/// What programs have screen readers say at once, from the moment on that somebody listens.
+/// What programs tell screen readers without being asked, from the moment on that somebody listens:
+/// what has come to the screen, what has the keyboard now, and what is described anew.
 class Announcements {
 public:
     Announcements();
@@ -44,11 +45,11 @@ public:
     Announcements& operator=(const Announcements&) = delete;
     ~Announcements();
 
-    /// Waits until this has been said.
-    void waitFor(const std::string& text);
+    /// Waits until this has been said, or something else with such a role and this name.
+    void waitFor(const std::string& text, const std::string& role = "notification");
 
 private:
-    std::vector<Element> m_shown;  ///< whatever has come to the screen
+    std::vector<Element> m_heard;
     AtspiEventListener* m_listener;
 };
 

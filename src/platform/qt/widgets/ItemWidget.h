@@ -3,10 +3,12 @@
 #include "PointedControl.h"
 #include "widgetTools.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QToolTip>
 #include <QTreeWidget>
 
@@ -62,6 +64,14 @@ protected:
         return true;
     }
 
+    void focusInEvent(QFocusEvent* event) override {
+        QTreeWidget::focusInEvent(event);
+        if (QAccessible::isActive()) {
+            // Qt tells of the whole list first, after this.
+            QTimer::singleShot(0, this, [this] { tellCurrent(); });
+        }
+    }
+
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) {
             QTreeWidget::mouseDoubleClickEvent(event);
@@ -75,6 +85,22 @@ protected:
     }
 
 private:
+    /// Has screen readers say the item that the keyboard has come to, as when it becomes another
+    /// one.
+    void tellCurrent() {
+        const QModelIndex current = currentIndex();
+        if (!hasFocus() || !current.isValid()) {
+            return;
+        }
+        int line = 1;  // behind the headers
+        for (QModelIndex above = indexAbove(current); above.isValid(); above = indexAbove(above)) {
+            ++line;
+        }
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(line * columnCount() + current.column());
+        QAccessible::updateAccessibility(&event);
+    }
+
     PointedControl& m_control;
 };
 

@@ -75,6 +75,10 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent), m_notice(new Notice(th
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setMargin(2);
     setAutoFillBackground(true);  // it stands before whatever scrolls below it
+    constexpr int pause = 300;    // milliseconds; a key that is held repeats faster
+    m_tell.setSingleShot(true);
+    m_tell.setInterval(pause);
+    connect(&m_tell, &QTimer::timeout, this, [this] { announce(m_told); });
 }
 
 void StatusLine::showText(const QString& text) {
@@ -102,8 +106,13 @@ void StatusLine::changeEvent(QEvent* event) {
     }
 }
 
-void StatusLine::announce() {
-    m_notice->setAccessibleName(m_text);
+void StatusLine::tell(const QString& text) {
+    m_told = text;
+    m_tell.start();
+}
+
+void StatusLine::announce(const QString& text) {
+    m_notice->setAccessibleName(text);
     QAccessibleEvent event(m_notice, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }
@@ -124,6 +133,11 @@ QWidget* makeWidget(StatusBar& bar, QWidget* parent, const Scale& scale) {
     keepAttached(widget, bar.Said.connect([widget] {
         if (widget->isVisible()) {
             widget->announce();
+        }
+    }));
+    keepAttached(widget, bar.Told.connect([widget](const std::string& text) {
+        if (widget->isVisible()) {
+            widget->tell(toShown(text));
         }
     }));
     return widget;

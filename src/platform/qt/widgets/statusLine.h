@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QTimer>
 
 namespace fleetwright {
 
@@ -13,7 +14,9 @@ public:
     /// Ends in dots what the line has no room for, and has its tool tip show all of it.
     void showText(const QString& text);
     /// Has screen readers say the text.
-    void announce();
+    void announce() { announce(m_text); }
+    /// Has them say another one, unless a further one follows at once.
+    void tell(const QString& text);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -21,9 +24,12 @@ protected:
 
 private:
     void fit();
+    void announce(const QString& text);
 
     QString m_text;
     QWidget* m_notice;
+    QString m_told;
+    QTimer m_tell;
 };
 
 }  // namespace fleetwright

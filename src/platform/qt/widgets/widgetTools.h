@@ -7,6 +7,7 @@
 #include "qtImage.h"
 #include "text.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QFocusEvent>
 #include <QIcon>
@@ -88,6 +89,20 @@ private:
     std::function<bool(QEvent*)> m_hook;
 };
 
+/// Works the tool tip of a control out. Screen readers take it for the description, and keep what
+/// they have once read of that until they are told that it has changed.
+inline void renewToolTip(QWidget* widget, const Control& control) {
+    const QString tip = toToolTip(control.toolTip());
+    if (tip == widget->toolTip()) {
+        return;
+    }
+    widget->setToolTip(tip);
+    if (QAccessible::isActive()) {
+        QAccessibleEvent event(widget, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
 /// Gives a new widget what every control has.
 inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
     const ControlDesign& design = control.design();
@@ -109,6 +124,9 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
             *tip = control.toolTip();
             widget->setToolTip(toToolTip(*tip));
         }
+        if (control.askToolTip && QAccessible::isActive()) {
+            renewToolTip(widget, control);  // they may read it wherever the keyboard is
+        }
         widget->setVisible(control.isVisible());
         widget->setEnabled(control.isEnabled());
     });
@@ -118,7 +136,7 @@ inline void prepare(QWidget* widget, Control& control, const Scale& scale) {
         // It is worked out for the pointer, and for the keyboard, whose screen reader says it.
         new EventHook(widget, [widget, &control](QEvent* event) {
             if (event->type() == QEvent::ToolTip || event->type() == QEvent::FocusIn) {
-                widget->setToolTip(toToolTip(control.toolTip()));
+                renewToolTip(widget, control);
             }
             return false;
         });
