@@ -58,6 +58,7 @@ FleetShipsPanel::FleetShipsPanel(const FleetContext& context, MenuEntry& mnuShip
     lvShips.addColumn("Sum", 750);
     lvShips.addColumn("Remark", 1500);
     lvShips.onDblClick = [this] { openShip(); };
+    lvShips.onEnter = [this] { openShip(); };
     lvShips.onDelete = [this] { remove(); };
     lvShips.onClick = [this] { window().refresh(); };
     lvShips.rowToolTip = [this](const ListView::Row& row) {

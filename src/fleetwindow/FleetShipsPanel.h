@@ -65,8 +65,8 @@ public:
                      {.name = "lvShips",
                       .place = {},
                       .accessibleName = "Ships of the fleet",
-                      .accessibleDescription = "Delete takes a ship out of the fleet, a "
-                                               "double-click opens it in the main window"}};
+                      .accessibleDescription = "Enter opens a ship in the main window, Delete "
+                                               "takes it out of the fleet"}};
     Button cmdAddShipAtHand{form(),
                             {.name = "cmdAddShipAtHand",
                              .place = {0, 0, 1860, 375},

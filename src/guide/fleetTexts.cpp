@@ -19,8 +19,8 @@ ControlRows fleetTexts() {
         ControlText{"lvShips", "Ships of the fleet",
                     "The designs of the fleet, with how many ships there are of each, class, mass, "
                     "points and the points of all of them. The last column says what is wrong with "
-                    "a design. The figures follow its file. Double-click a design to open it in "
-                    "the main window, press Delete to take it out."},
+                    "a design. The figures follow its file. Double-click a design or press "
+                    "Enter to open it in the main window, press Delete to take it out."},
         ControlText{"cmdAddShipAtHand", "Add Ship at Hand",
                     "Adds the ship in the main window; one more of it, if the fleet has it."},
         ControlText{"cmdAddFiles", "Add Files...",

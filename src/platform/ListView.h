@@ -62,7 +62,15 @@ public:
         }
     }
 
+    /// The user has pressed the Enter key, which is the form's where there is no `onEnter`.
+    void pressEnter() {
+        if (takesActs()) {
+            raise(onEnter);
+        }
+    }
+
     Handler onDelete;
+    Handler onEnter;
 
     /// What is to be said of a row that the pointer rests on. May be empty.
     std::function<std::string(const Row&)> rowToolTip;

@@ -131,3 +131,14 @@ TEST_F(FormWindowTest, EnterActsOnWhatIsInSightAndATreeCanBeHadBackAsItWas) {
     EXPECT_EQ(tree->currentItem(), nullptr);
     EXPECT_FALSE(tree->topLevelItem(0)->isExpanded());
 }
+
+TEST_F(FormWindowTest, EnterInAListIsTheListsWhereItHasSomethingToDo) {
+    form.list.setContent({.rows = {{"a", "Ant"}}, .selected = 0});
+    auto* const list = find<QTreeWidget>("list");
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(takeLog(), "formkey ");
+    form.list.onEnter = [&] { form.log += "opened "; };
+    QTest::keyClick(list, Qt::Key_Return);
+    QTest::keyClick(list, Qt::Key_Enter);
+    EXPECT_EQ(takeLog(), "opened opened ");
+}

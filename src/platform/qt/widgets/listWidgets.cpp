@@ -109,6 +109,10 @@ protected:
             m_list.pressDelete();
             return;
         }
+        if (m_list.onEnter && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+            m_list.pressEnter();
+            return;
+        }
         QTreeWidget::keyPressEvent(event);
     }
 
