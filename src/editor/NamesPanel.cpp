@@ -4,6 +4,12 @@
 
 namespace fleetwright {
 
+namespace {
+
+constexpr const char* nameIsOpen = "Enter keeps the name, Escape the former one";
+
+}  // namespace
+
 NamesPanel::NamesPanel(const PanelContext& context, Container& fraInfo, Handler changed)
     : Panel(context), m_fraInfo(fraInfo), m_changed(std::move(changed)) {
     txtShipName.onDblClick = [this] { txtShipName_DblClick(); };
@@ -39,7 +45,7 @@ void NamesPanel::openOrCommit(const Name& name) {
     } else {
         name.box.setLocked(false);
         name.isEditing = true;
-        window().say("Enter keeps the name, Escape the former one");
+        window().say(nameIsOpen);
     }
 }
 
@@ -64,6 +70,7 @@ void NamesPanel::commit(const Name& name) {
 void NamesPanel::close(const Name& name) {
     name.box.setLocked(true);
     name.isEditing = false;
+    window().takeBack(nameIsOpen);
 }
 
 }  // namespace fleetwright

@@ -54,7 +54,7 @@ private:
     void openOrCommit(const Name& name);
     bool leaveByKey(const Name& name, int KeyAscii);
     void commit(const Name& name);
-    static void close(const Name& name);
+    void close(const Name& name);
 
     bool bShipNameEditing = false;  ///< the name's box is open
     bool bDesignerEditing = false;  ///< the designer's box is open
