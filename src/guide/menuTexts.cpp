@@ -119,8 +119,8 @@ ControlRows designMenuTexts() {
                     "Opens the window in which ships are put together to a fleet: with counts, own "
                     "names, limits, and all their sheets in one print."},
         ControlText{"mnuPutAside", "Designs Put Aside...",
-                    "Lists the designs that were never saved: after a crash, and whenever another "
-                    "one took their place. Any of them can be opened."},
+                    "Lists the designs that were put aside unsaved: after a crash, and whenever "
+                    "another one took their place. Any of them can be opened."},
         ControlText{"mnuZoomIn", "Zoom In",
                     "Shows the window and all that is in it larger, up to 300 %. The keys, Ctrl++, "
                     "do so in each window, and each keeps its own size. What the screen has no "

@@ -81,9 +81,9 @@ ControlRows compareTexts() {
 ControlRows putAsideTexts() {
     static constexpr std::array rows = {
         ControlText{"lblAbout lvDesigns", "Designs put aside",
-                    "Designs with changes that were never saved, those of a crash first: name, "
-                    "mass, and when they were put aside. Double-click one or press Enter to open "
-                    "it; Delete moves it to the trash."},
+                    "Designs with changes that were not saved when they were put aside, those of a "
+                    "crash first: name, mass, and the time. Double-click one or press Enter to "
+                    "open it; Delete moves it to the trash."},
         ControlText{"cmdTrash", "Move to Trash",
                     "Moves the selected design into the trash of the desktop, from where it can be "
                     "had back."},

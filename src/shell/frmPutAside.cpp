@@ -49,7 +49,8 @@ void frmPutAside::Form_Load() {
     setCaption(isQuestion ? "Designs Left by a Crash" : "Designs Put Aside");
     lblAbout.setCaption(isQuestion ? "The program was cut short. Nothing is lost: open a design "
                                      "that it has put aside, or leave them here."
-                                   : "These designs were never saved, and so were put aside.");
+                                   : "These designs were put aside unsaved. One that you open and "
+                                     "save stays here, too.");
     showDesigns(0);
 }
 
