@@ -1,5 +1,6 @@
 #include "sheetDocument.h"
 
+#include "FreeRoom.h"
 #include "SheetCard.h"
 #include "carriedShips.h"
 
@@ -7,6 +8,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -46,6 +48,24 @@ SheetOptions onLargeEnoughPaper(SheetOptions options) {
     options.paper = {std::max(options.paper.width, leastPaperSide),
                      std::max(options.paper.height, leastPaperSide)};
     return options;
+}
+
+/// Says below a sheet that it goes on, if there is room for that.
+void addHint(Page& page, const Box& sheet) {
+    PageText hint = {.text = "more on the next page",
+                     .size = 2.6,
+                     .anchor = PageText::Anchor::End,
+                     .colour = 0x555555};
+    FreeRoom room(sheet);
+    for (const PageItem& item : page.items) {
+        room.take(boxOf(item));
+    }
+    const Box size = boxOf(hint);
+    if (const std::optional<Box> free = room.find(size.width, size.height)) {
+        hint.x = free->x + size.width;
+        hint.y = free->y - size.y;
+        page.items.emplace_back(std::move(hint));
+    }
 }
 
 /// Pages for sheets, one after the other. Which of them share a page is found out at once; the
@@ -139,6 +159,7 @@ void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const 
         const SheetCard card(*sheet, boxes[i], room, m_options);
         std::vector<PageBlock> rest = card.putOn(page);
         if (!rest.empty()) {
+            addHint(page, boxes[i]);
             left.push_back(continuedBlock(sheet->facts.shipName, width));
             appendBlocks(left, std::move(rest));
         }
