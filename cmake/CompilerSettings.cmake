@@ -26,6 +26,9 @@ else()
   if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Its sources are included, which makes them look like headers.
     add_compile_options(-Wno-subobject-linkage)
+  elseif(CMAKE_UNITY_BUILD)
+    # Each has names of its own, which those behind it do not mean.
+    add_compile_options(-Wno-shadow)
   endif()
   # Figures must not depend on the compiler's taste in contracting a * b + c.
   add_compile_options(-ffp-contract=off)
