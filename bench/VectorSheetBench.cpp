@@ -59,20 +59,12 @@ void bitmapFiles(benchmark::State& state) {
         savedIn(emptyFolder(), ".bmp"));
 }
 
-void svgFilesByTool(benchmark::State& state) {
+/// Plain ones say what bitmaps say.
+void svgFilesByTool(benchmark::State& state, bool arePlain) {
     makeSheets(
         state, 1, SheetKind::Lines,
-        [](const ShipOnScreen& screen, const SheetRun& run) {
-            return svgFile(documentOf(screen, run), run.files, &run.parts);
-        },
-        savedIn(emptyFolder(), ".svg"));
-}
-
-void plainSvgFilesByTool(benchmark::State& state) {
-    makeSheets(
-        state, 1, SheetKind::Lines,
-        [](const ShipOnScreen& screen, const SheetRun& run) {
-            return svgFile(documentOf(screen, run, true), run.files, &run.parts);
+        [arePlain](const ShipOnScreen& screen, const SheetRun& run) {
+            return svgFile(documentOf(screen, run, arePlain), run.files, &run.parts);
         },
         savedIn(emptyFolder(), ".svg"));
 }
@@ -171,8 +163,10 @@ const bool registered = [] {
         add("PDFs of 200 ships, threads: " + std::to_string(threads), many,
             [threads](benchmark::State& state) { pdfs(state, threads); });
     }
-    add("SVG files of 200 ships", many, svgFilesByTool);
-    add("plain SVG files of 200 ships", many, plainSvgFilesByTool);
+    for (const bool arePlain : {false, true}) {
+        add(arePlain ? "plain SVG files of 200 ships" : "SVG files of 200 ships", many,
+            [arePlain](benchmark::State& state) { svgFilesByTool(state, arePlain); });
+    }
     add("bitmap files of 200 ships", many, bitmapFiles);
     add("SVG files of 200 ships, bare", many, bareSvgFiles);
     return true;

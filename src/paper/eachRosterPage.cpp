@@ -18,7 +18,7 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::uint32_t inkColour = 0x000000, quietInk = 0x555555, lineColour = 0xBBBBBB;
+constexpr std::uint32_t inkColour = 0x000000, lineColour = 0xBBBBBB;
 constexpr double rosterLineHeight = 1.28;  // times the size of the font
 constexpr double rosterNameSize = 3.7, smallSize = 2.7, rosterLabelSize = 2.1;
 constexpr double nameLeft = 11;  // the count stands in front of it

@@ -61,7 +61,7 @@ void putCaptioned(Page& page, std::shared_ptr<const Drawing> drawing, const Box&
                                      .y = place.y + place.height + size * letterHeight,
                                      .size = size,
                                      .anchor = PageText::Anchor::Middle,
-                                     .colour = 0x555555});
+                                     .colour = quietInk});
 }
 
 MeasuredText::MeasuredText(std::string_view text, PageFont font)

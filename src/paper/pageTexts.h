@@ -5,6 +5,7 @@
 #include "PageDocument.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,6 +15,9 @@ namespace fleetwright {
 
 /// How far letters rise above their base line, accents on capitals included, times the font's size.
 inline constexpr double letterHeight = 0.97;
+
+/// The colour of what stands behind the rest: captions, labels, notes.
+inline constexpr std::uint32_t quietInk = 0x555555;
 
 /// A line in this style, in a smaller font of `smallest` at the least if it is too wide, and
 /// without its end, for which "…" stands, if that is not enough.

@@ -10,7 +10,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::uint32_t quietColour = 0x555555;
 constexpr double lineHeight = 1.28;  // times the size of the font
 constexpr std::string_view noBreakSpace = "\u00A0";
 
@@ -179,11 +178,10 @@ std::vector<PageBlock> ListText::blocks(double width, double size, std::string_v
     }
     BlockWriter writer;
     if (!heading.empty()) {
-        writer.write({std::string(heading)}, {.text = {}, .size = 2.1, .colour = quietColour});
+        writer.write({std::string(heading)}, {.text = {}, .size = 2.1, .colour = quietInk});
     }
-    writer.write(
-        {m_separator},
-        fittedText(m_separator, {.text = {}, .size = size, .colour = quietColour}, width, 1));
+    writer.write({m_separator},
+                 fittedText(m_separator, {.text = {}, .size = size, .colour = quietInk}, width, 1));
     writer.block.staysWithNext = true;
     std::vector<PageBlock> blocks = {std::move(writer.block)};
     for (const MeasuredText& line : m_lines) {
@@ -222,8 +220,7 @@ PageBlock LegendText::block(const Row& row, double width, double factor, BlockPa
     };
     write(*row.name, {.text = {}, .size = nameSize, .font = PageFont::Bold}, mostNameLines);
     if (!row.particulars->isEmpty()) {
-        write(*row.particulars, {.text = {}, .size = wordSize, .colour = quietColour},
-              mostNameLines);
+        write(*row.particulars, {.text = {}, .size = wordSize, .colour = quietInk}, mostNameLines);
     }
     if (!row.rules->isEmpty()) {
         write(*row.rules, {.text = {}, .size = wordSize}, mostRulesLines);

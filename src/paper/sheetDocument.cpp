@@ -3,6 +3,7 @@
 #include "FreeRoom.h"
 #include "SheetCard.h"
 #include "carriedShips.h"
+#include "pageTexts.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -55,7 +56,7 @@ void addHint(Page& page, const Box& sheet) {
     PageText hint = {.text = "more on the next page",
                      .size = 2.6,
                      .anchor = PageText::Anchor::End,
-                     .colour = 0x555555};
+                     .colour = quietInk};
     FreeRoom room(sheet);
     for (const PageItem& item : page.items) {
         room.take(boxOf(item));

@@ -13,7 +13,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::uint32_t labelColour = 0x555555;
 constexpr double leastWideHeader = 150;
 constexpr double besideWidth = 62, besideHeight = 14.4;
 
@@ -101,7 +100,7 @@ void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
     name.y = size * letterHeight;
     block.items.emplace_back(std::move(name));
     PageText kind =
-        fittedText(kindOf(facts), {.text = {}, .size = kindSize, .colour = labelColour}, room, 2);
+        fittedText(kindOf(facts), {.text = {}, .size = kindSize, .colour = quietInk}, room, 2);
     kind.y = size * letterHeight + kindSize * 1.45;
     block.height = kind.y + 2;
     block.items.emplace_back(std::move(kind));
@@ -118,7 +117,7 @@ void HeaderBlock::writeRow(const FigureRow& row, double size) {
                                           .x = x,
                                           .y = block.height + 2.7,
                                           .size = labelSize,
-                                          .colour = labelColour});
+                                          .colour = quietInk});
         PageText value = fittedText(
             figure.value, {.text = {}, .size = size, .font = PageFont::Bold}, m_width - x, 2);
         value.x = x;
