@@ -39,14 +39,17 @@ std::string readBytes(const fs::path& path) {
     constexpr std::size_t leastMore = 16'384;
     std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
     std::size_t filled = 0;
-    while (const std::size_t got = file.read(bytes.data() + filled, bytes.size() - filled, error)) {
+    bool isAtEnd = false;
+    while (!isAtEnd) {
+        const std::size_t got = file.read(bytes.data() + filled, bytes.size() - filled, error);
         filled += got;
         check(filled);  // it may grow meanwhile
+        // All that it had when it was opened, and not the byte more that there was room for.
+        isAtEnd = got == 0 || filled == size;
         if (filled == bytes.size()) {
             bytes.resize(std::max(bytes.size() * 2, leastMore));
         }
     }
-    check(filled);
     bytes.resize(filled);
     return bytes;
 }

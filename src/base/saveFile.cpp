@@ -15,6 +15,7 @@
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace fleetwright {
 
@@ -113,26 +114,34 @@ std::string allOf(const FileContents& contents) {
     return all;
 }
 
-/// The file that a chain of links ends at, also where that file does not exist yet. A chain
-/// without an end still gives a link.
-fs::path linkTarget(fs::path path) {
+/// Where a chain of links ends.
+struct ChainEnd {
+    fs::path file;
+    fs::file_status status;  ///< that of a link, if the chain has no end
+    std::error_code error;   ///< why the status is not known
+};
+
+/// Follows links, also to a file that does not exist yet.
+ChainEnd endOfLinks(fs::path path) {
     constexpr int mostLinks = 40;
     std::error_code error;
-    for (int i = 0; i < mostLinks && fs::is_symlink(path, error); ++i) {
-        const fs::path next = fs::read_symlink(path, error);
-        if (error) {
+    fs::file_status status = fs::symlink_status(path, error);
+    for (int i = 0; i < mostLinks && fs::is_symlink(status); ++i) {
+        std::error_code unread;
+        const fs::path next = fs::read_symlink(path, unread);
+        if (unread) {
             break;
         }
         path = next.is_absolute() ? next : path.parent_path() / next;
+        status = fs::symlink_status(path, error);
     }
-    return path;
+    return {std::move(path), status, error};
 }
 
 std::uintmax_t otherNames(const fs::path& target) {
-    std::error_code error;
-    const fs::path file = linkTarget(target);
-    const bool isFile = fs::is_regular_file(file, error);
-    const std::uintmax_t names = isFile ? entryCalls::nameCount(file) : 0;
+    const ChainEnd end = endOfLinks(target);
+    const bool isFile = fs::is_regular_file(end.status);
+    const std::uintmax_t names = isFile ? entryCalls::nameCount(end.file) : 0;
     return names == 0 ? 0 : names - 1;
 }
 
@@ -141,12 +150,10 @@ void save(const fs::path& target, const Contents& contents) {
     if (const std::string_view why = entryCalls::whyNoName(target); !why.empty()) {
         fail(target, std::string(why));
     }
-    const fs::path file = linkTarget(target);
-    std::error_code unknown;
-    if (fs::is_symlink(file, unknown)) {
+    const auto [file, status, unknown] = endOfLinks(target);
+    if (fs::is_symlink(status)) {
         failOn(std::make_error_code(std::errc::too_many_symbolic_link_levels), target);
     }
-    const fs::file_status status = fs::status(file, unknown);
     if (status.type() == fs::file_type::none) {
         failOn(unknown, target);  // taken for missing, it would lose what belongs to it
     }
