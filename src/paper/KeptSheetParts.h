@@ -3,13 +3,13 @@
 #include "Silhouette.h"
 #include "pageTexts.h"
 
-#include <array>
 #include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace fleetwright {
 
@@ -17,13 +17,20 @@ namespace fleetwright {
 /// Any number of threads may use it.
 class KeptTexts {
 public:
-    std::shared_ptr<const MeasuredText> of(std::string_view text, PageFont font);
+    using Measure = MeasuredText (*)(std::string_view text);
+
+    /// What `measure` makes of a text.
+    std::shared_ptr<const MeasuredText> of(std::string_view text, Measure measure);
 
 private:
-    using Texts = std::map<std::string, std::shared_ptr<const MeasuredText>, std::less<>>;
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+    using Texts =
+        std::unordered_map<std::string, std::shared_ptr<const MeasuredText>, Hash, std::equal_to<>>;
 
     std::mutex m_mutex;
-    std::array<Texts, 2> m_texts;  // by the font
+    std::map<Measure, Texts> m_texts;
 };
 
 /// What the sheets of one run have in common, and one makes for all.

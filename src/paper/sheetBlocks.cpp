@@ -80,6 +80,16 @@ std::string withFiguresHeld(std::string_view rules) {
     return text;
 }
 
+MeasuredText measuredName(std::string_view name) {
+    return MeasuredText(name, PageFont::Bold);
+}
+MeasuredText measuredWords(std::string_view words) {
+    return MeasuredText(words);
+}
+MeasuredText measuredRules(std::string_view rules) {
+    return MeasuredText(withFiguresHeld(rules));
+}
+
 /// Adds a block for each line of a text.
 void addLines(std::vector<PageBlock>& blocks, const MeasuredText& text, double width, double size,
               BlockParts parts) {
@@ -177,11 +187,18 @@ std::vector<PageBlock> ListText::blocks(double width, double size, std::string_v
         return {};
     }
     BlockWriter writer;
+    const auto write = [&](std::string_view line, const PageText& style) {
+        if (parts == BlockParts::Heights) {
+            writer.leaveOut(1, style.size);
+        } else {
+            writer.write({std::string(line)}, style);
+        }
+    };
     if (!heading.empty()) {
-        writer.write({std::string(heading)}, {.text = {}, .size = 2.1, .colour = quietInk});
+        write(heading, {.text = {}, .size = 2.1, .colour = quietInk});
     }
-    writer.write({m_separator},
-                 fittedText(m_separator, {.text = {}, .size = size, .colour = quietInk}, width, 1));
+    write(m_separator,
+          fittedText(m_separator, {.text = {}, .size = size, .colour = quietInk}, width, 1));
     writer.block.staysWithNext = true;
     std::vector<PageBlock> blocks = {std::move(writer.block)};
     for (const MeasuredText& line : m_lines) {
@@ -191,16 +208,16 @@ std::vector<PageBlock> ListText::blocks(double width, double size, std::string_v
 }
 
 LegendText::LegendText(const std::vector<LegendRow>& legend, KeptTexts* kept) {
-    const auto measured = [kept](std::string_view text, PageFont font) {
-        return kept == nullptr ? std::make_shared<const MeasuredText>(text, font)
-                               : kept->of(text, font);
+    const auto measured = [kept](std::string_view text, KeptTexts::Measure measure) {
+        return kept == nullptr ? std::make_shared<const MeasuredText>(measure(text))
+                               : kept->of(text, measure);
     };
     m_rows.reserve(legend.size());
     for (const LegendRow& row : legend) {
         const std::string count = row.count == 1 ? std::string() : together(pieces(row.count));
-        m_rows.push_back({row.picture, measured(row.name + count, PageFont::Bold),
-                          measured(particulars(row), PageFont::Regular),
-                          measured(withFiguresHeld(row.rules), PageFont::Regular)});
+        m_rows.push_back({row.picture, measured(row.name + count, measuredName),
+                          measured(particulars(row), measuredWords),
+                          measured(row.rules, measuredRules)});
     }
 }
 
