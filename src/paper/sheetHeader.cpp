@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <iterator>
 #include <numeric>
+#include <span>
 #include <utility>
 
 namespace fleetwright {
@@ -32,10 +33,10 @@ std::string damageOf(const SheetFacts& facts) {
     return text;
 }
 
-using FigureRow = std::vector<Figure>;
+using FigureRow = std::span<const Figure>;
 
-FigureRow measured(const std::vector<HeadFigure>& given, double size) {
-    FigureRow figures;
+std::vector<Figure> measured(const std::vector<HeadFigure>& given, double size) {
+    std::vector<Figure> figures;
     figures.reserve(given.size());
     for (const HeadFigure& figure : given) {
         const double width = std::max(textWidth(figure.label, labelSize),
@@ -46,22 +47,23 @@ FigureRow measured(const std::vector<HeadFigure>& given, double size) {
 }
 
 /// How wide figures are beside each other.
-double widthOf(const FigureRow& row) {
+double widthOf(FigureRow row) {
     return std::accumulate(
         row.begin(), row.end(), -leastGap,
         [](double width, const Figure& figure) { return width + figure.width + leastGap; });
 }
 
 /// Figures in rows of this width and of as many each, as far as they fit.
-std::vector<FigureRow> figureRows(const FigureRow& figures, std::size_t inEach, double width) {
-    std::vector<FigureRow> rows(1);
-    for (const Figure& figure : figures) {
-        const FigureRow& row = rows.back();
-        const bool isFull = row.size() >= inEach || widthOf(row) + figure.width + leastGap > width;
-        if (!row.empty() && isFull) {
-            rows.emplace_back();
+std::vector<FigureRow> figureRows(FigureRow figures, std::size_t inEach, double width) {
+    std::vector<FigureRow> rows;
+    while (!figures.empty()) {
+        std::size_t count = 1;
+        while (count < std::min(inEach, figures.size()) &&
+               widthOf(figures.first(count)) + figures[count].width + leastGap <= width) {
+            ++count;
         }
-        rows.back().push_back(figure);
+        rows.push_back(figures.first(count));
+        figures = figures.subspan(count);
     }
     return rows;
 }
@@ -80,7 +82,7 @@ private:
         block.items.emplace_back(
             PageLine{0, block.height, m_width, block.height, lineWidth, 0x000000});
     }
-    void writeRow(const FigureRow& row, double size);
+    void writeRow(FigureRow row, double size);
 
     double m_width;
 };
@@ -106,7 +108,7 @@ void HeaderBlock::writeName(const SheetFacts& facts, double room, double size) {
     block.items.emplace_back(std::move(kind));
 }
 
-void HeaderBlock::writeRow(const FigureRow& row, double size) {
+void HeaderBlock::writeRow(FigureRow row, double size) {
     constexpr double mostGap = 16;
     const double spare = m_width - widthOf(row);
     const double gap =
@@ -132,17 +134,18 @@ void HeaderBlock::writeRow(const FigureRow& row, double size) {
 void HeaderBlock::writeFigures(const std::vector<HeadFigure>& figures) {
     rule(0.5);
     double size = valueSize;
-    while (size > smallValueSize && widthOf(measured(figures, size)) > m_width) {
+    std::vector<Figure> row = measured(figures, size);
+    while (size > smallValueSize && widthOf(row) > m_width) {
         constexpr double step = 0.1;
         size -= step;
+        row = measured(figures, size);
     }
-    FigureRow row = measured(figures, size);
     if (widthOf(row) > m_width) {
         size = valueSize;
         row = measured(figures, size);
     }
     const std::size_t rows = figureRows(row, row.size(), m_width).size();
-    for (const FigureRow& part : figureRows(row, (row.size() + rows - 1) / rows, m_width)) {
+    for (const FigureRow part : figureRows(row, (row.size() + rows - 1) / rows, m_width)) {
         writeRow(part, size);
     }
     rule(0.2);
