@@ -15,6 +15,7 @@ DamageTrack damageTrack(std::int32_t points, std::int32_t rows, PictureSize room
         return {};
     }
     DamageTrack track{.side = side, .boxes = {}};
+    track.boxes.reserve(static_cast<std::size_t>(std::max(points, 0)));
     for (int row = 0; row < rows; ++row) {
         const int boxes = points / rows + (row < points % rows ? 1 : 0);
         for (int box = 0; box < boxes; ++box) {

@@ -75,12 +75,13 @@ std::int32_t mostDamagePoints(TrackSize size) {
 }
 
 std::int32_t trackRows(TrackSize size, std::int32_t damagePoints) {
-    // The lightest ship with so many points; warships have the most for their mass.
-    std::int32_t mass = smallestMass;
+    // The lightest ship with so many points, but none below those that the map is made for;
+    // warships have the most for their mass.
+    std::int32_t mass = largestMass(size);
     while (mass < greatMass && warship(mass).damagePoints < damagePoints) {
         ++mass;
     }
-    return warship(std::max(mass, largestMass(size))).damageRows;
+    return warship(mass).damageRows;
 }
 
 std::vector<std::string> sheetPictures() {
