@@ -17,7 +17,9 @@ std::string rootOf(const CatalogueText& catalogue, std::size_t record) {
     std::string key = toCapitals(catalogue.lines()[record].categoryKey);
     for (std::size_t above = record; above-- > 0;) {
         const CatalogueLine& line = catalogue.lines()[above];
-        if (line.isCategory() && toCapitals(line.categoryKey) == key) {
+        // Capitals take as many bytes as small letters, so that most lines need no closer look.
+        if (line.isCategory() && line.categoryKey.size() == key.size() &&
+            toCapitals(line.categoryKey) == key) {
             key = toCapitals(line.parentKey);
         }
     }

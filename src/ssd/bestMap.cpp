@@ -26,13 +26,12 @@ constexpr KindWord kindWords[] = {
     {"STATION", QSpaceStation}, {"Q-STATION", QSpaceStation},
 };
 
-/// Whether the first word of a map's name that tells a kind of hull tells this one.
-bool isForHull(std::string_view displayName, std::int32_t hullType) {
+/// Whether the first word of a map's name, in capitals, that tells a kind of hull tells this one.
+bool isForHull(std::string_view name, std::int32_t hullType) {
     constexpr std::string_view betweenWords = " _.,:;()";
-    const std::string name = toCapitals(displayName);
     for (std::size_t at = 0, end = 0; at < name.size(); at = end + 1) {
         end = std::min(name.find_first_of(betweenWords, at), name.size());
-        const std::string_view word = std::string_view(name).substr(at, end - at);
+        const std::string_view word = name.substr(at, end - at);
         const auto is = [word](const KindWord& kind) { return kind.word == word; };
         if (std::any_of(std::begin(kindWords), std::end(kindWords), is)) {
             return std::any_of(
@@ -55,8 +54,9 @@ SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
     };
     const auto size = [&](const SSDMap& map) { return std::pair(isTooSmall(map), map.iMaxMass); };
     const auto kind = [&](const SSDMap& map) {
-        return std::tuple(!isForHull(map.sDisplayName, ship.Hull()), map.iWeapNDX,
-                          toCapitals(map.sDisplayName));
+        std::string name = toCapitals(map.sDisplayName);
+        const bool isForOthers = !isForHull(name, ship.Hull());
+        return std::tuple(isForOthers, map.iWeapNDX, std::move(name));
     };
     // Most are told apart by their size alone.
     std::vector<SSDMaps::Map> smallest;
