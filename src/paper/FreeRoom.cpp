@@ -35,11 +35,6 @@ Box boxOf(const PageItem& item) {
     return std::visit(Covered(), item);
 }
 
-bool overlap(const Box& a, const Box& b) {
-    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
-           b.y < a.y + a.height;
-}
-
 std::optional<Box> FreeRoom::lowestAt(double x, double width, double height) const {
     Box place = {x, m_room.y + m_room.height - height, width, height};
     std::vector<Box> inTheWay;

@@ -10,7 +10,10 @@ namespace fleetwright {
 /// What an item covers of its page.
 Box boxOf(const PageItem& item);
 /// Whether two boxes have an area in common.
-bool overlap(const Box& a, const Box& b);
+inline bool overlap(const Box& a, const Box& b) {
+    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
+           b.y < a.y + a.height;
+}
 
 /// What is left of a room on a page.
 class FreeRoom {

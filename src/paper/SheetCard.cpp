@@ -202,12 +202,15 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
 SheetCard::Sides SheetCard::roomBeside(const Silhouette& silhouette, double scale) const {
     const double left = (m_body.width - m_ink.width * scale) / 2;
     const double top = (m_body.height - m_ink.height * scale) / 2;
-    Sides sides;
-    sides.reserve(static_cast<std::size_t>(std::max(m_body.height, 0.0)));
-    for (int y = 0; y + 1 <= m_body.height; ++y) {
+    const double right = m_body.width - left;
+    Sides sides(static_cast<std::size_t>(std::max(m_body.height, 0.0)));
+    double y = 0;
+    for (auto& [roomLeft, roomRight] : sides) {
         const Silhouette::Extent extent =
             silhouette.between((y - columnGap - top) / scale, (y + 1 + columnGap - top) / scale);
-        sides.push_back({left + extent.left * scale, m_body.width - left - extent.right * scale});
+        roomLeft = left + extent.left * scale;
+        roomRight = right - extent.right * scale;
+        ++y;
     }
     return sides;
 }

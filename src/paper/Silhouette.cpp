@@ -8,7 +8,6 @@
 #include <array>
 #include <bit>
 #include <cmath>
-#include <limits>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -17,9 +16,6 @@
 namespace fleetwright {
 
 namespace {
-
-constexpr Silhouette::Extent nothing = {std::numeric_limits<double>::max(),
-                                        std::numeric_limits<double>::lowest()};
 
 bool hasInk(const DrawnShape& shape) {
     return (shape.fill && *shape.fill != Raster::white) ||
@@ -38,11 +34,6 @@ Point onLine(Point from, Point to, double part) {
 
 using Extent = Silhouette::Extent;
 
-// By value, which is two instructions: there are thousands of them.
-Extent united(Extent a, Extent b) {
-    return {a.left < b.left ? a.left : b.left, a.right > b.right ? a.right : b.right};
-}
-
 /// The rows that a path goes through, from the first one on.
 class RowsOfPath {
 public:
@@ -60,7 +51,7 @@ private:
     }
     void reach(int row, double x) {
         Extent& extent = m_rows[static_cast<std::size_t>(row)];
-        extent = united(extent, {x, x});
+        extent = Silhouette::united(extent, {x, x});
     }
     int rowOf(double y) const {
         return static_cast<int>(std::floor(std::clamp(y, -1.0, double(m_count) + 1)));
@@ -158,7 +149,7 @@ void eachRow(Rows& rows, const Box& box, const Box& shown, Take take) {
 
 void addBox(std::vector<Extent>& rows, const Box& box, const Box& shown) {
     const Extent extent = {box.x - shown.x, box.x + box.width - shown.x};
-    eachRow(rows, box, shown, [&extent](Extent& row) { row = united(row, extent); });
+    eachRow(rows, box, shown, [&extent](Extent& row) { row = Silhouette::united(row, extent); });
 }
 
 /// Whether adding a box would change nothing.
@@ -211,7 +202,7 @@ std::vector<Silhouette::Extent> Silhouette::rowsOf(const SheetRecord::Paste& out
 }
 
 std::vector<Silhouette::Extent> Silhouette::rowsOf(const Raster& raster, int x, int y) const {
-    std::vector<Extent> rows(static_cast<std::size_t>(m_count), nothing);
+    std::vector<Extent> rows(static_cast<std::size_t>(m_count), Silhouette::nothing);
     for (int row = 0; row < raster.height(); ++row) {
         Box ink = inkOfRow(raster, row);
         ink.x += x;
@@ -225,7 +216,7 @@ std::vector<Silhouette::Extent> Silhouette::rowsOf(const Raster& raster, int x, 
 /// once for all lines of a width: points are many.
 std::vector<Silhouette::Extent> Silhouette::rowsOf(const Drawing& drawing, double x,
                                                    double y) const {
-    std::vector<Extent> all(static_cast<std::size_t>(m_count), nothing);
+    std::vector<Extent> all(static_cast<std::size_t>(m_count), Silhouette::nothing);
     std::map<double, std::vector<Extent>> ways;  // of lines, by what they cover on each side
     for (const DrawnShape& shape : drawing.shapes) {
         if (!hasInk(shape)) {
@@ -234,7 +225,7 @@ std::vector<Silhouette::Extent> Silhouette::rowsOf(const Drawing& drawing, doubl
         const double around = shape.stroke ? std::max(shape.strokeWidth, 0.0) : 0;
         const auto further = static_cast<std::size_t>(std::ceil(around));
         std::vector<Extent>& rows = ways.try_emplace(around).first->second;
-        rows.resize(all.size() + 2 * further, nothing);
+        rows.resize(all.size() + 2 * further, Silhouette::nothing);
         RowsOfPath(rows).walk(shape.path, {x, y + double(further)});
     }
     for (const auto& [around, rows] : ways) {
@@ -243,7 +234,7 @@ std::vector<Silhouette::Extent> Silhouette::rowsOf(const Drawing& drawing, doubl
             const Extent wider = {rows[row].left - around, rows[row].right + around};
             const std::size_t end = std::min(row + 1, all.size());
             for (std::size_t near = row - std::min(row, further); near < end; ++near) {
-                all[near] = united(all[near], wider);
+                all[near] = Silhouette::united(all[near], wider);
             }
         }
     }
@@ -269,26 +260,10 @@ void Silhouette::addLevels(Levels& levels, std::size_t count) {
         const std::size_t half = std::size_t{1} << (levels.size() - 1);
         std::vector<Extent> whole = halves;
         for (std::size_t row = 0; row + half < whole.size(); ++row) {
-            whole[row] = united(halves[row], halves[row + half]);
+            whole[row] = Silhouette::united(halves[row], halves[row + half]);
         }
         levels.push_back(std::move(whole));
     }
-}
-
-Silhouette::Extent Silhouette::between(double top, double bottom) const {
-    const double rows = m_count;
-    if (!(bottom >= 0 && top < rows && top <= bottom)) {
-        return nothing;
-    }
-    const int first = static_cast<int>(std::max(top, 0.0));
-    const int end = static_cast<int>(std::min(bottom, rows - 1)) + 1;
-    const auto count = static_cast<unsigned>(end - first);
-    const auto power = static_cast<std::size_t>(std::bit_width(count)) - 1;
-    if (!m_outline && power >= m_levels.size()) {
-        addLevels(m_levels, power + 1);
-    }
-    const Extent* const unions = (m_outline ? *m_outline : m_levels)[power].data();
-    return united(unions[first], unions[end - static_cast<int>(1U << power)]);
 }
 
 }  // namespace fleetwright

@@ -2,7 +2,9 @@
 
 #include "SheetRecord.h"
 
+#include <bit>
 #include <cstddef>
+#include <limits>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -27,8 +29,29 @@ public:
     /// Of what a drawing has inside this box of the outline, from which pixels count.
     Silhouette(const SheetRecord& record, const Box& shown, Outlines* kept = nullptr);
 
-    /// Of all rows that have a part between two heights, which may lie outside.
-    Extent between(double top, double bottom) const;
+    /// Of all rows that have a part between two heights, which may lie outside. A layout asks
+    /// thousands of times.
+    Extent between(double top, double bottom) const {
+        if (!(bottom >= 0 && top < m_count && top <= bottom)) {
+            return nothing;
+        }
+        const int first = top > 0 ? static_cast<int>(top) : 0;
+        const int end = bottom < m_count - 1 ? static_cast<int>(bottom) + 1 : m_count;
+        const auto power = static_cast<std::size_t>(std::bit_width(unsigned(end - first))) - 1;
+        if (!m_outline && power >= m_levels.size()) {
+            addLevels(m_levels, power + 1);
+        }
+        const Extent* const unions = (m_outline ? *m_outline : m_levels)[power].data();
+        return united(unions[first], unions[end - static_cast<int>(1U << power)]);
+    }
+
+    static constexpr Extent nothing = {std::numeric_limits<double>::max(),
+                                       std::numeric_limits<double>::lowest()};
+
+    // By value, which is two instructions.
+    static Extent united(Extent a, Extent b) {
+        return {a.left < b.left ? a.left : b.left, a.right > b.right ? a.right : b.right};
+    }
 
 private:
     /// The extents of all rows, and of 2, 4, 8... rows from each one on.

@@ -119,7 +119,10 @@ std::size_t MeasuredText::breakLines(double size, double width, std::size_t most
 }
 
 std::vector<std::string> MeasuredText::lines(double size, double width, std::size_t most) const {
-    std::vector<std::string> lines(1);
+    constexpr std::size_t usualCount = 4;
+    std::vector<std::string> lines;
+    lines.reserve(usualCount);
+    lines.emplace_back();
     const std::size_t count =
         breakLines(size, width, most, [&lines](std::size_t line, std::string_view piece) {
             if (line == lines.size()) {
