@@ -4,11 +4,10 @@
 
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <memory>
 #include <mutex>
 #include <string>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
 namespace fleetwright {
@@ -24,7 +23,10 @@ public:
 
     /// What `make` makes of these signs of a face.
     Part font(PageFace face, const std::vector<FontSubset::Sign>& signs, const Make& make) {
-        return m_fonts.of({face, signs}, make);
+        const auto* const bytes = reinterpret_cast<const char*>(signs.data());
+        std::string key(1, static_cast<char>(face));
+        key.append(bytes, signs.size() * sizeof(FontSubset::Sign));
+        return m_fonts.of(key, make);
     }
     /// What `make` makes of a drawing.
     Part drawing(const std::shared_ptr<const Drawing>& drawing, const Make& make) {
@@ -39,10 +41,10 @@ private:
 
     private:
         std::mutex m_mutex;
-        std::map<Key, Part> m_parts;
+        std::unordered_map<Key, Part> m_parts;
     };
 
-    Kept<std::pair<PageFace, std::vector<FontSubset::Sign>>> m_fonts;
+    Kept<std::string> m_fonts;  // by the face and the signs, byte for byte
     Kept<std::shared_ptr<const Drawing>> m_drawings;
 };
 
