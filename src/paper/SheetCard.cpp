@@ -2,6 +2,7 @@
 
 #include "FreeRoom.h"
 #include "KeptSheetParts.h"
+#include "RoomBeside.h"
 #include "SheetPictures.h"
 #include "damageBoxes.h"
 #include "designQr.h"
@@ -19,7 +20,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr double columnGap = 5;
 // The side of a system's picture in a drawing that is no larger than it has to be: with the lesser
 // one, the damage boxes of small ships are large enough for a pencil.
 constexpr double goodSymbol = 12, mostSymbol = 14;
@@ -197,48 +197,6 @@ SheetCard::Columns SheetCard::columnsAround(double scale, double columnWidth) co
     return columns;
 }
 
-/// How much room there is on the left and on the right of the drawing, in the middle of the body,
-/// in each millimetre from the top down.
-SheetCard::Sides SheetCard::roomBeside(const Silhouette& silhouette, double scale) const {
-    const double left = (m_body.width - m_ink.width * scale) / 2;
-    const double top = (m_body.height - m_ink.height * scale) / 2;
-    const double right = m_body.width - left;
-    Sides sides(static_cast<std::size_t>(std::max(m_body.height, 0.0)));
-    double y = 0;
-    for (auto& [roomLeft, roomRight] : sides) {
-        const Silhouette::Extent extent =
-            silhouette.between((y - columnGap - top) / scale, (y + 1 + columnGap - top) / scale);
-        roomLeft = left + extent.left * scale;
-        roomRight = right - extent.right * scale;
-        ++y;
-    }
-    return sides;
-}
-
-/// From the top down, on both sides wherever the drawing is narrow enough.
-SheetCard::Columns SheetCard::columnsInCorners(const Sides& sides, double columnWidth) const {
-    constexpr int leastHeight = 15;
-    Columns columns;
-    if (m_body.width < 2 * columnWidth + columnGap) {
-        return columns;
-    }
-    const double needed = columnWidth + columnGap;
-    for (const std::size_t side : {std::size_t{0}, std::size_t{1}}) {
-        const double x = m_body.x + (side == 0 ? 0 : m_body.width - columnWidth);
-        const auto isNarrow = [&](const auto& room) { return room[side] < needed; };
-        for (auto start = sides.begin(); start != sides.end();) {
-            const auto end = std::find_if(start, sides.end(), isNarrow);
-            if (end - start >= leastHeight) {
-                columns.inCorners.push_back({x, m_body.y + double(start - sides.begin()),
-                                             columnWidth, double(end - start)});
-            }
-            start = std::find_if_not(end, sides.end(), isNarrow);
-        }
-    }
-    std::ranges::stable_sort(columns.inCorners, {}, &Box::y);
-    return columns;
-}
-
 /// What stands above the list in the text of the drawing.
 std::vector<PageBlock> SheetCard::textOfDrawing(double width, double size) const {
     constexpr std::size_t mostTogether = 12;
@@ -284,9 +242,10 @@ std::optional<SheetCard::Places> SheetCard::placesAt(double scale,
             return Places{scale, std::move(columns), i};
         }
     }
-    const Sides sides = roomBeside(silhouette, scale);
+    const RoomBeside beside(silhouette, m_ink, scale, m_body, {narrowColumn, wideColumn});
     for (std::size_t i = 0; i < readings.size(); ++i) {
-        Columns columns = columnsInCorners(sides, readings[i].width);
+        Columns columns;
+        columns.inCorners = beside.columns(readings[i].width);
         if (readings[i].flow.fitsInto(columns.inOrder())) {
             return Places{scale, std::move(columns), i};
         }

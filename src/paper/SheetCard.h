@@ -5,7 +5,6 @@
 #include "sheetBlocks.h"
 #include "sheetDocument.h"
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -43,8 +42,6 @@ private:
         std::vector<Box> inOrder() const;
     };
 
-    using Sides = std::vector<std::array<double, 2>>;
-
     /// The heights of all there is to read, for columns of one width.
     struct Reading {
         double width;
@@ -71,8 +68,6 @@ private:
     double roomyScale() const;
     double leastScale() const;
     Columns columnsAround(double scale, double columnWidth) const;
-    Sides roomBeside(const Silhouette& silhouette, double scale) const;
-    Columns columnsInCorners(const Sides& sides, double columnWidth) const;
     std::vector<PageBlock> textOfDrawing(double width, double size) const;
     PageFlow textToRead(double width, double factor, BlockParts parts) const;
     std::vector<Reading> readings(double factor) const;
