@@ -7,6 +7,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <type_traits>
 #include <unordered_map>
 #include <vector>
 
@@ -23,6 +24,7 @@ public:
 
     /// What `make` makes of these signs of a face.
     Part font(PageFace face, const std::vector<FontSubset::Sign>& signs, const Make& make) {
+        static_assert(std::has_unique_object_representations_v<FontSubset::Sign>);
         const auto* const bytes = reinterpret_cast<const char*>(signs.data());
         std::string key(1, static_cast<char>(face));
         key.append(bytes, signs.size() * sizeof(FontSubset::Sign));
