@@ -23,6 +23,10 @@ else()
     # GCC 12 raises false alarms about std::string's own copying.
     add_compile_options(-Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
   endif()
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND NOT FLEETWRIGHT_LIBCXX)
+    # GCC's library calls what its own algorithms use deprecated.
+    add_compile_options(-Wno-deprecated-declarations)
+  endif()
   if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Its sources are included, which makes them look like headers.
     add_compile_options(-Wno-subobject-linkage)
@@ -39,12 +43,15 @@ if(FLEETWRIGHT_HARDENING AND NOT MSVC)
 endif()
 
 if(FLEETWRIGHT_SANITIZE)
+  add_compile_definitions(FLEETWRIGHT_SANITIZED)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
   if(NOT FLEETWRIGHT_FUZZ)
     # Checks of each use of a pointer are a fifth of the time that building takes; nearly all that
     # they find ends in memory that is not the object's, which the address sanitizer sees.
     add_compile_options(-fno-sanitize=alignment,null,object-size,vptr)
+    # What tests do most of; to optimize the rest takes longer than it saves.
+    set(optimized_libraries base core paper plain_pictures ssd)
   endif()
   add_link_options(-fsanitize=address,undefined)
 endif()
@@ -57,4 +64,7 @@ function(fleetwright_library name)
   add_library(${name} STATIC ${arg_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${arg_LINKS})
+  if(name IN_LIST optimized_libraries)
+    target_compile_options(${name} PRIVATE -O1)
+  endif()
 endfunction()

@@ -13,7 +13,7 @@
 
 using namespace fleetwright;
 
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef FLEETWRIGHT_SANITIZED
 // The C library keeps the list of folders that it has looked for locales in.
 extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
     return "leak:__argz_add_sep\n";

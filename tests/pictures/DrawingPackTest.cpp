@@ -25,6 +25,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+#ifdef FLEETWRIGHT_SANITIZED
+constexpr int pictureStep = 5;  // it is Qt that draws them
+#else
+constexpr int pictureStep = 1;
+#endif
+
 /// A drawing as it looks, each pixel made of so many finer ones each way.
 QImage rendered(const std::shared_ptr<const Drawing>& drawing, int fine) {
     const Box place = {
@@ -87,10 +93,11 @@ TEST(DrawingPack, HasADrawingOfEachPictureThatShowsTheSameAndNoneOfOneThatWasCha
     const DrawingPack pack(APP_FOLDER "/drawings.dat");
     QtPictureFiles reader;
     DrawnPictureFiles drawn(reader, pack);
-    int count = 0, known = 0;
+    int listed = 0, count = 0, known = 0;
     for (const std::string folder : {"images", "window", "shipimages"}) {
         for (const fs::path& file : listFolder(PICTURES_FOLDER "/" + folder, "")) {
-            if (file.extension() == ".svg" || file.extension() == ".qrc") {
+            if (file.extension() == ".svg" || file.extension() == ".qrc" ||
+                listed++ % pictureStep != 0) {
                 continue;
             }
             SCOPED_TRACE(file.string());
@@ -113,8 +120,8 @@ TEST(DrawingPack, HasADrawingOfEachPictureThatShowsTheSameAndNoneOfOneThatWasCha
             EXPECT_EQ(pack.of(picture), nullptr);
         }
     }
-    EXPECT_GT(count, 600);
-    EXPECT_GT(known, 600);
+    EXPECT_GT(count, 600 / pictureStep);
+    EXPECT_GT(known, 600 / pictureStep);
     const TemporaryFolder folder;
     const fs::path file = listFolder(PICTURES_FOLDER "/images", "").front();
     const fs::path changed = folder.write("changed.gif", readBytes(file) + ' ');

@@ -57,12 +57,6 @@ void restart(const Damage& damage, const std::string& command) {
     }
 }
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr bool isSanitized = true;  // and slow: one recorder has to do
-#else
-constexpr bool isSanitized = false;
-#endif
-
 /// What power cuts in the act of a case leave; nothing if this recorder is not permitted.
 std::optional<Damage> damageOf(const Case& act, Recorder& record) {
     const TemporaryFolder root;
@@ -96,7 +90,7 @@ TEST(PowerCut, LeavesWhatWasReportedDoneAndWhatWasThereBefore) {
     }
     expectCases("power/golden/acts.txt", [](const Case& act) {
         const auto byMount = damageOf(act, recordByMount);
-        const auto byTrace = byMount && isSanitized ? std::nullopt : damageOf(act, recordByTrace);
+        const auto byTrace = damageOf(act, recordByTrace);
         if (!byMount && !byTrace) {
             return std::string("neither a mount of one's own nor strace is permitted here");
         }

@@ -21,7 +21,7 @@ using namespace fleetwright;
 
 namespace {
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FLEETWRIGHT_SANITIZED
 constexpr bool isJudged = false;  // what is freed is held back for a while; leaks are found
 #else
 constexpr bool isJudged = true;

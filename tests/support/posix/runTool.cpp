@@ -46,6 +46,7 @@ ToolRun runTool(const std::string& folder, std::vector<std::string> arguments, s
     if (kind == ToolOutput::Terminal && !openTerminal(reader, output)) {
         throw std::runtime_error("there is no terminal");
     }
+    std::string noLeaks = "ASAN_OPTIONS=detect_leaks=0";  // twice the time of such a short process
     std::string tool = APP_FOLDER "/fleetwright-cli";
     std::vector<char*> argv = {tool.data()};
     for (std::string& argument : arguments) {
@@ -55,7 +56,8 @@ ToolRun runTool(const std::string& folder, std::vector<std::string> arguments, s
 
     const pid_t child = fork();
     if (child == 0) {
-        char* environment[] = {variable.empty() ? nullptr : variable.data(), nullptr};
+        char* environment[] = {noLeaks.data(), variable.empty() ? nullptr : variable.data(),
+                               nullptr};
         const bool isReady = chdir(folder.c_str()) == 0 &&
                              dup2(open("/dev/null", O_RDONLY), STDIN_FILENO) >= 0 &&
                              dup2(output, STDOUT_FILENO) >= 0 && dup2(errors, STDERR_FILENO) >= 0;
