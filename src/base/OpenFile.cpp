@@ -42,6 +42,10 @@ std::size_t OpenFile::read(char* bytes, std::size_t most, std::error_code& error
     return error ? 0 : static_cast<std::size_t>(count);
 }
 
+std::error_code OpenFile::seek(std::uintmax_t place) {
+    return errorUnless(openFileCalls::seek(m_descriptor, place));
+}
+
 std::error_code OpenFile::write(std::string_view bytes) {
     std::error_code error = objection(FileCall::Write, m_path);
     while (!error && !bytes.empty()) {

@@ -34,6 +34,8 @@ public:
 
     /// Reads on, at most so many bytes; how many have come. None, without an error: that was all.
     std::size_t read(char* bytes, std::size_t most, std::error_code& error);
+    /// Has the next read begin at so many bytes from the start.
+    std::error_code seek(std::uintmax_t place);
     /// Writes all of this on from where the last write ended.
     std::error_code write(std::string_view bytes);
     /// Cuts it off behind so many bytes.

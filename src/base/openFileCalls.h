@@ -20,6 +20,8 @@ bool isPlain(int descriptor, std::uintmax_t& size);
 /// How many bytes were read or written; negative after a failure.
 std::ptrdiff_t read(int descriptor, char* bytes, std::size_t most);
 std::ptrdiff_t write(int descriptor, std::string_view bytes);
+/// Goes to so many bytes from the start.
+bool seek(int descriptor, std::uintmax_t place);
 bool resize(int descriptor, std::uintmax_t size);
 /// Has the system begin to write; nobody hears of a failure.
 void startSync(int descriptor);

@@ -17,8 +17,12 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iomanip>
 #include <optional>
+#include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 using namespace fleetwright;
 namespace fs = std::filesystem;
@@ -87,6 +91,33 @@ std::string askedFor(const Case& given) {
 
 TEST(DrawingPack, IsReadAsFarAsItIsWell) {
     expectCases("pictures/golden/packs.txt", askedFor);
+}
+
+TEST(DrawingPack, FindsEachOfMoreDrawingsThanItsIndexIsReadForAtFirst) {
+    constexpr int count = 3000;
+    std::vector<std::pair<Raster::Key, int>> pictures;
+    for (int width = 1; width <= count; ++width) {
+        pictures.emplace_back(Raster(width, 1).key(), width);
+    }
+    std::ranges::sort(pictures);
+    std::ostringstream pack, drawings;
+    pack << "FleetWright drawings 2\n" << count << '\n' << std::hex << std::setfill('0');
+    for (const auto& [key, width] : pictures) {
+        const std::string drawing = std::to_string(width) + " 0 0 0\n";
+        pack << std::setw(16) << key[0] << std::setw(16) << key[1] << std::dec << ' ' << width
+             << " 1 " << drawing.size() << ' ' << std::hex << std::setw(32) << width << '\n';
+        drawings << drawing;
+    }
+    const TemporaryFolder folder;
+    const DrawingPack read(folder.write("pack", pack.str() + drawings.str()));
+    for (int width = 1; width <= count; ++width) {
+        const auto drawing = read.of(Raster(width, 1));
+        ASSERT_NE(drawing, nullptr) << width;
+        EXPECT_EQ(drawing->ink.x, width);
+    }
+    folder.write("pack", pack.str());
+    EXPECT_EQ(fileFaultOf([&] { DrawingPack(folder.path() / "pack").of(Raster(1, 1)); }),
+              (folder.path() / "pack").string() + ": is cut short");
 }
 
 TEST(DrawingPack, HasADrawingOfEachPictureThatShowsTheSameAndNoneOfOneThatWasChanged) {

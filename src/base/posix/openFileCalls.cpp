@@ -32,6 +32,10 @@ std::ptrdiff_t write(int descriptor, std::string_view bytes) {
     return ::write(descriptor, bytes.data(), bytes.size());
 }
 
+bool seek(int descriptor, std::uintmax_t place) {
+    return lseek(descriptor, static_cast<off_t>(place), SEEK_SET) >= 0;
+}
+
 bool resize(int descriptor, std::uintmax_t size) {
     return ftruncate(descriptor, static_cast<off_t>(size)) == 0;
 }

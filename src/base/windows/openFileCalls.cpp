@@ -8,6 +8,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace fleetwright::openFileCalls {
 
@@ -64,6 +65,10 @@ std::ptrdiff_t read(int descriptor, char* bytes, std::size_t most) {
 std::ptrdiff_t write(int descriptor, std::string_view bytes) {
     return _write(descriptor, bytes.data(),
                   static_cast<unsigned>(std::min(bytes.size(), mostAtOnce)));
+}
+
+bool seek(int descriptor, std::uintmax_t place) {
+    return _lseeki64(descriptor, static_cast<long long>(place), SEEK_SET) >= 0;
 }
 
 bool resize(int descriptor, std::uintmax_t size) {

@@ -3,7 +3,6 @@
 #include "Error.h"
 #include "PackReader.h"
 #include "pathSteps.h"
-#include "readFile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +16,12 @@ namespace fleetwright {
 namespace {
 
 constexpr std::string_view firstLine = "FleetWright drawings 2";
+
+/// Of a line of the index, in bytes.
+constexpr std::size_t longestLine = 100;
+/// What is read at first, in bytes: the index of all delivered drawings, of which a sheet needs
+/// few.
+constexpr std::size_t firstPiece = 100'000;
 
 constexpr int largest = 1'000'000;  ///< of all numbers, and more than any picture has pixels
 
@@ -89,6 +94,16 @@ Raster::Key readKey(PackReader& reader) {
             reader.hexadecimal(key.substr(std::min(digits, key.size())), digits)};
 }
 
+/// How many drawings there are.
+std::size_t readHead(PackReader& reader, std::size_t most) {
+    reader.nextLine();
+    if (reader.restOfLine() != firstLine) {
+        reader.fail("this is no pack of drawings, or one of another version");
+    }
+    reader.nextLine();
+    return reader.wholeNumber(most);
+}
+
 }  // namespace
 
 void DrawingPack::readEntry(PackReader& reader) const {
@@ -96,7 +111,7 @@ void DrawingPack::readEntry(PackReader& reader) const {
     entry.picture.key = readKey(reader);
     entry.picture.width = static_cast<int>(reader.wholeNumber(largest));
     entry.picture.height = static_cast<int>(reader.wholeNumber(largest));
-    entry.length = reader.wholeNumber(m_text.size());
+    entry.length = reader.wholeNumber(m_pack->size());
     if (!m_entries.empty()) {
         const Entry& before = m_entries.back();
         entry.place = before.place + before.length;
@@ -116,27 +131,31 @@ void DrawingPack::readIndex() const {
     }
     m_entries.clear();
     m_files.clear();
-    m_text = readBytes(m_file);
-    PackReader reader(m_text);
-    reader.nextLine();
-    if (reader.restOfLine() != firstLine) {
-        reader.fail("this is no pack of drawings, or one of another version");
+    m_pack.emplace(m_file);
+    const std::size_t size = m_pack->size();
+    std::string text = m_pack->piece(0, std::min(firstPiece, size));
+    PackReader reader(text);
+    const std::size_t count = readHead(reader, size);
+    const std::size_t most = std::min(text.size() + count * longestLine, size);
+    if (count * longestLine > reader.rest().size() && most > text.size()) {
+        text += m_pack->piece(text.size(), most - text.size());
+        reader = PackReader(text);
+        readHead(reader, size);
     }
-    reader.nextLine();
-    const std::size_t count = reader.wholeNumber(m_text.size());
     while (m_entries.size() < count) {
         reader.nextLine();
         readEntry(reader);
     }
     reader.endLine();
     // As yet, places are behind the index.
+    const std::size_t indexEnd = text.size() - reader.rest().size();
     const std::size_t end =
-        m_entries.empty() ? 0 : m_entries.back().place + m_entries.back().length;
-    if (end != reader.rest().size()) {
-        throw PackError(0, end > reader.rest().size() ? "is cut short" : "goes on behind its end");
+        indexEnd + (m_entries.empty() ? 0 : m_entries.back().place + m_entries.back().length);
+    if (end != size) {
+        throw PackError(0, end > size ? "is cut short" : "goes on behind its end");
     }
     for (Entry& entry : m_entries) {
-        entry.place += m_text.size() - reader.rest().size();
+        entry.place += indexEnd;
     }
     std::ranges::sort(m_files);
     m_isRead = true;
@@ -146,12 +165,12 @@ void DrawingPack::readDrawing(Entry& entry) const {
     if (entry.drawing != nullptr) {
         return;
     }
-    const std::string_view text = m_text;
+    const std::string text = m_pack->piece(entry.place, entry.length);
     const auto drawing = std::make_shared<Drawing>();
     try {
-        *drawing = drawingIn(PackReader(text.substr(entry.place, entry.length)));
+        *drawing = drawingIn(PackReader(text));
     } catch (const PackError& error) {
-        const auto linesBefore = std::ranges::count(text.substr(0, entry.place), '\n');
+        const auto linesBefore = std::ranges::count(m_pack->piece(0, entry.place), '\n');
         throw PackError(static_cast<int>(linesBefore) + error.line(), error.what());
     }
     drawing->width = entry.picture.width;

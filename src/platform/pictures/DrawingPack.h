@@ -2,6 +2,7 @@
 
 #include "Drawing.h"
 #include "Fault.h"
+#include "InputFile.h"
 #include "Raster.h"
 
 #include <cstddef>
@@ -9,7 +10,6 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -48,7 +48,7 @@ public:
     std::optional<Fault> fault() const;
 
 private:
-    /// A drawing, and where in the text it stands.
+    /// A drawing, and where in the file it stands.
     struct Entry {
         Picture picture;
         std::size_t place = 0;
@@ -64,8 +64,8 @@ private:
     std::filesystem::path m_file;
     mutable std::mutex m_mutex;  // of what follows
     mutable bool m_isRead = false;
-    mutable std::string m_text;
-    mutable std::vector<Entry> m_entries;                              // in the order of their keys
+    mutable std::optional<InputFile> m_pack;  // of which only what is asked for is read
+    mutable std::vector<Entry> m_entries;     // in the order of their keys
     mutable std::vector<std::pair<Raster::Key, std::size_t>> m_files;  // of entries, in order
 };
 
