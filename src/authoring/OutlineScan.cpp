@@ -18,27 +18,6 @@ std::string& beginLine(std::string& text, MapKeyword keyword) {
 
 constexpr auto longestRun = std::numeric_limits<std::int16_t>::max();
 
-/// Outlines are mostly paper with ink here and there, and are looked through in blocks that the
-/// compiler can take several pixels at a time of.
-constexpr std::size_t blockSize = 32;
-
-bool hasNoMark(const std::uint32_t* block) {
-    std::uint32_t common = Raster::white;
-    std::uint32_t any = Black;
-    for (std::size_t i = 0; i < blockSize; ++i) {
-        common &= block[i];
-        any |= block[i];
-    }
-    if (common == Raster::white || any == Black) {
-        return true;
-    }
-    std::uint32_t marks = 0;
-    for (std::size_t i = 0; i < blockSize; ++i) {
-        marks += isMark(block[i]) ? 1U : 0U;
-    }
-    return marks == 0;
-}
-
 }  // namespace
 
 OutlineScan::OutlineScan(const Raster& picture, std::string_view imageFile) : m_picture(picture) {
@@ -52,12 +31,8 @@ int OutlineScan::plainPixels(int iCol, int iRow) const {
     if (m_isMeasuring) {
         return 0;
     }
-    const auto rest = m_picture.row(iRow).subspan(static_cast<std::size_t>(iCol));
-    auto plain = rest.begin();
-    while (static_cast<std::size_t>(rest.end() - plain) >= blockSize && hasNoMark(&*plain)) {
-        plain += blockSize;
-    }
-    return static_cast<int>(std::find_if(plain, rest.end(), isMark) - rest.begin());
+    return static_cast<int>(
+        pixelsBeforeMark(m_picture.row(iRow).subspan(static_cast<std::size_t>(iCol))));
 }
 
 int OutlineScan::takePixel(int iCol, int iRow) {

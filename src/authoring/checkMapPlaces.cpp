@@ -193,10 +193,8 @@ private:
         auto coveredInRow = covered.begin();
         for (int y = 0; y < m_outline.height(); ++y, coveredInRow += m_outline.width()) {
             const auto row = m_outline.row(y);
-            const auto next = [&](auto from) { return std::find_if(from, row.end(), isMark); };
-            for (auto mark = next(row.begin()); mark != row.end(); mark = next(mark + 1)) {
-                const auto x = mark - row.begin();
-                if (!coveredInRow[x] && ++bare <= mostNamed) {
+            for (std::size_t x = 0; (x += pixelsBeforeMark(row.subspan(x))) < row.size(); ++x) {
+                if (!coveredInRow[static_cast<std::ptrdiff_t>(x)] && ++bare <= mostNamed) {
                     complain(0, "the mark at " + at(static_cast<int>(x), y) +
                                     " is covered by nothing");
                 }

@@ -6,7 +6,9 @@
 #include "SSDMapLine.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace fleetwright {
 
@@ -57,6 +59,9 @@ constexpr bool isMark(std::uint32_t colour) {
     const std::uint32_t full = ((colour & lowBits) << 8) - (colour & lowBits);
     return (full == colour) & (colour != Black) & (colour != white);  // without branches: quicker
 }
+
+/// How many pixels of a row stand before its first mark; all if it has none.
+std::size_t pixelsBeforeMark(std::span<const std::uint32_t> pixels);
 
 /// What the line is about that a mark of this colour makes; `Unknown` if it is no mark's.
 constexpr MapKeyword markKeyword(std::uint32_t colour) {

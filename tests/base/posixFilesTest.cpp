@@ -185,6 +185,7 @@ TEST(PosixFiles, OverwritesWhatNoNewFileCanReplace) {
     EXPECT_EQ(fs::status(mine).permissions(), fs::perms(0222));
     // What was put aside before stays.
     folder.write("home/FleetWright/recovered/ship as it was.shp", "before");
+    folder.write("home/FleetWright/recovered/ship as it was (2).shp", "before, too");
     // Folders that take no new file, or let nobody replace one of another.
     for (const auto& [name, mode] :
          {std::pair("closed/ship.shp", 0555), {"sticky/ship.shp", 01777}}) {
@@ -193,8 +194,9 @@ TEST(PosixFiles, OverwritesWhatNoNewFileCanReplace) {
     }
     const fs::path longName = folder.writable("long/" + std::string(251, 'n') + ".shp", 0555);
     EXPECT_TRUE(saves(longName));
-    EXPECT_EQ(folder.copies(), 1);
+    EXPECT_EQ(folder.copies(), 2);
     EXPECT_EQ(folder.read("home/FleetWright/recovered/ship as it was.shp"), "before");
+    EXPECT_EQ(folder.read("home/FleetWright/recovered/ship as it was (2).shp"), "before, too");
 
     // What has other names would change under those, too.
     const fs::path linked = folder.writable("linked/ship.shp", 0555);

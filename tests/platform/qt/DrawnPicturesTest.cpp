@@ -82,6 +82,18 @@ TEST(DrawnPictures, AreLookedUpWherePixelsWillNotDoAndTakeTheColoursOfADarkDeskt
     QApplication::setPalette(light);
 }
 
+TEST(DrawnPictures, FillTheirBoxesInTheColoursOfTheWindow) {
+    AllKinds form;
+    const HalfDrawn ink(0x000000);
+    form.picture.setPicture(ink.picture);
+    form.picture.setDrawing(ink.of(ink.picture));
+    const FormWindow window(form);
+    form.show();
+    const QImage shown = window.findChild<QFrame*>("picture")->grab().toImage();
+    EXPECT_EQ(shown.pixelColor(16, 4), window.palette().color(QPalette::WindowText));
+    EXPECT_EQ(shown.pixelColor(16, 28), window.palette().color(QPalette::Window));
+}
+
 TEST(DrawnPictures, StandOutInRowsWhereAStyleMarksTheTextAlone) {
     const QString style = QApplication::style()->name();
     QApplication::setStyle("Windows");

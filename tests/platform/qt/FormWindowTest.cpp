@@ -205,6 +205,16 @@ TEST_F(FormWindowTest, ALongTextGetsTheRoomBesideItAndThenNarrowerLetters) {
     EXPECT_LT(label->width(), room);
 }
 
+TEST(FormWindow, AHeadingIsLargerThanTheRest) {
+    Form form({.name = "frmHeaded"});
+    const Label heading(
+        form, {.name = "heading", .place = {0, 0, 3000, 600}, .caption = "H", .isHeading = true});
+    const FormWindow window(form);
+    const QFont font = window.findChild<QLabel*>("heading")->font();
+    EXPECT_GT(font.pointSizeF(), 1.5 * window.font().pointSizeF());
+    EXPECT_TRUE(font.bold());
+}
+
 TEST_F(FormWindowTest, PicturesAreAsLargeOnTheScreenAsTheyAre) {
     auto* const box = find<QFrame>("picture");
     Raster picture(120, 40);

@@ -37,6 +37,17 @@ TEST_F(FormWindowTest, ClickingWhatIsSelectedIsAClickAndWidthsAreTheUsers) {
     EXPECT_EQ(list->columnWidth(0), 123);
 }
 
+TEST_F(FormWindowTest, AStrongRowIsBoldAsLongAsItIsStrong) {
+    auto* const list = find<QTreeWidget>("list");
+    ListView::Row row = {.key = "a", .text = "a", .subItem = "1"};
+    for (const bool isStrong : {true, false}) {
+        row.isStrong = isStrong;
+        form.list.setContent({.rows = {row}, .selected = {}});
+        EXPECT_EQ(list->topLevelItem(0)->font(0).bold(), isStrong);
+        EXPECT_EQ(list->topLevelItem(0)->font(1).bold(), isStrong);
+    }
+}
+
 TEST_F(FormWindowTest, TheFirstMoveWithTheButtonDownDragsAndATremblingHandClicks) {
     QWidget* const tree = find<QTreeWidget>("tree")->viewport();
     QWindow* const pointed = window.windowHandle();

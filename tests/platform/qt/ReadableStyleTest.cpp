@@ -70,6 +70,13 @@ std::vector<QPalette> lightAndDark() {
 
 }  // namespace
 
+TEST(ReadableStyle, ContrastIsThatOfTheGuidelines) {
+    EXPECT_NEAR(contrast(Qt::white, Qt::black), 21, 0.005);
+    EXPECT_NEAR(contrast(QColor(0, 0, 255), Qt::white), 8.59, 0.005);
+    EXPECT_NEAR(contrast(Qt::white, QColor(255, 0, 0)), 4.00, 0.005);
+    EXPECT_NEAR(contrast(QColor(119, 119, 119), Qt::white), 4.48, 0.005);
+}
+
 TEST(ReadableStyle, EdgesAreSeenInLightAndDarkColours) {
     ReadableStyle style("fusion");
     constexpr double soft = 0.85;  // where they are round
@@ -83,6 +90,14 @@ TEST(ReadableStyle, EdgesAreSeenInLightAndDarkColours) {
         frame.lineWidth = 1;
         EXPECT_GE(edgeOf(QStyle::PE_FrameLineEdit, frame), soft * edgeContrast);
         EXPECT_GE(edgeOf(QStyle::PE_Frame, frame), soft * edgeContrast);
+
+        QFrame rule;
+        rule.setFrameShape(QFrame::HLine);
+        rule.setStyle(&style);
+        rule.setPalette(palette);
+        rule.resize(20, 3);
+        const QColor ground = palette.color(QPalette::Window);
+        EXPECT_GE(contrast(rule.grab().toImage().pixelColor(10, 1), ground), soft * edgeContrast);
 
         QMenu menu;
         menu.setStyle(&style);
