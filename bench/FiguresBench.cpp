@@ -6,6 +6,8 @@
 #include "commands.h"
 #include "inOrder.h"
 
+#include <malloc.h>
+
 #include <fstream>
 #include <string>
 #include <vector>
@@ -37,8 +39,10 @@ void figures(benchmark::State& state, unsigned threads) {
     }
 }
 
-/// Lets the mark of the most memory that this process has held begin anew.
+/// Lets the mark of the most memory that this process has held begin anew, without what other
+/// benchmarks have given back.
 void resetPeakMemory() {
+    malloc_trim(0);
     std::ofstream("/proc/self/clear_refs") << 5;
 }
 
