@@ -1,0 +1,24 @@
+// Sheets that go out of the windows.
+
+#include "SheetOutput.h"
+
+#include "testWindow.h"
+
+#include <gtest/gtest.h>
+
+using namespace fleetwright;
+
+TEST(SheetOutput, APictureWithoutAShipFillsItsPageInsideTheMargins) {
+    const TestWindow test;
+    const auto file = test.folder().write("ssds/x.bmp", "");
+    const OutgoingSheet sheet = test.sheets().ofPicture(file, Raster(380, 100));
+    EXPECT_EQ(sheet.name, "x");
+    const PageDocument pages = sheet.pages(paperA4);
+    ASSERT_EQ(pages.pages.size(), 1U);
+    ASSERT_EQ(pages.pages[0].items.size(), 1U);
+    const Box place = std::get<PagePicture>(pages.pages[0].items[0]).place;
+    EXPECT_EQ(place.x, paperMargin);
+    EXPECT_EQ(place.width, 190);
+    EXPECT_EQ(place.height, 50);
+    EXPECT_EQ(place.y, (297 - 50) / 2.0);
+}
