@@ -3,8 +3,9 @@
 design code on PDF and SVG pages, as a scanner of 150 dots to the inch sees them. It takes all sample
 ships and others at random: shipsFromSheets.py TOOL PICTURES_FOLDER CARRIED SCANNED [SEED].
 
-Of the random ships CARRIED are read from files, SCANNED of them from pages as well; with 0, no page is
-scanned, of sample ships neither. The tests take few; 10000 and 1000 take ten minutes of a quiet machine.
+Of the random ships CARRIED are read from files, SCANNED of them from pages as well, and as many of the
+sample ships, all of which must have a code there; with 0, no page is looked at. The tests take few;
+10000 and 1000 take ten minutes of a quiet machine.
 """
 
 import random
@@ -87,8 +88,9 @@ def has_code(sheet):
                                             stdout=subprocess.PIPE, check=True).stdout
 
 
-def read_back(tool, ships, scans, work):
-    """Says how many sheets were made and how many pages scanned, and what is wrong with them."""
+def read_back(tool, ships, looks, scans, work):
+    """Says how many sheets were made and how many of the pages looked at have a code, of which so many are
+    scanned, and what is wrong with them."""
     with tempfile.TemporaryDirectory(dir=work) as made, tempfile.TemporaryDirectory(dir=work) as pages:
         tool.sheets(ships, made)
         code_of = dict(zip((ship.stem for ship in ships), tool.codes(ships), strict=True))
@@ -99,13 +101,15 @@ def read_back(tool, ships, scans, work):
                 if code != code_of[sheet.stem]:
                     faults.append(f"{sheet.name} carries {code} instead of {code_of[sheet.stem]}")
             counts.append(len(sheets))
-            coded = [sheet for sheet in sheets[:scans] if kind != "png" and has_code(sheet)]
-            wanted = sorted(code_of[sheet.stem] for sheet in coded)
-            if scans and kind != "png":
-                found = sorted(scanned(coded, Path(pages)))
+            coded = [sheet for sheet in sheets[:looks] if kind != "png" and has_code(sheet)]
+            read = random.sample(coded, min(scans, len(coded)))
+            wanted = sorted(code_of[sheet.stem] for sheet in read)
+            if read and kind != "png":
+                found = sorted(scanned(read, Path(pages)))
                 faults += [f"{kind} page misread: {code}" for code in set(wanted) ^ set(found)]
                 if len(wanted) != len(found):
                     faults.append(f"{len(found)} codes on {len(wanted)} {kind} pages")
+            if looks and kind != "png":
                 counts.append(len(coded))
     return counts, faults
 
@@ -119,8 +123,8 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         work = Path(folder)
         tool = Tool(*(Path(word).resolve() for word in sys.argv[1:3]), work)
-        counts, found = read_back(tool, tool.ships, len(tool.ships) if scans else 0, work)
-        print(f"sample ships: sheets as PDF, scanned; as SVG, scanned; as PNG: {counts}", flush=True)
+        counts, found = read_back(tool, tool.ships, len(tool.ships) if scans else 0, scans, work)
+        print(f"sample ships: sheets as PDF, with a code; as SVG, with a code; as PNG: {counts}", flush=True)
         faults += found
         if counts[:-1] != [len(tool.ships)] * (4 if scans else 2):
             faults.append("a sample ship has no sheet or no code on it")
@@ -129,7 +133,8 @@ def main():
                 ships = [Path(place, f"{i}.shp") for i in range(min(AT_ONCE, carried - start))]
                 for ship in ships:
                     ship.write_bytes(any_ship(tool.systems).encode())
-                counts, found = read_back(tool, ships, max(0, min(AT_ONCE, scans - start)), work)
+                looks = max(0, min(AT_ONCE, scans - start))
+                counts, found = read_back(tool, ships, looks, looks, work)
             print(f"random ships {start + 1} to {start + len(ships)}: {counts}", flush=True)
             faults += found
             if counts[0] < len(ships) // 2:
