@@ -1,9 +1,13 @@
 # What the commands of the transcripts stand on.
 
-# The tool in an empty environment. One under the sanitizers does not look for leaks, which would take
-# as long as all else that it does.
+# with_only [NAME=VALUE...] COMMAND...: a command in an environment of these alone. The tool under the
+# sanitizers does not look for leaks, which would take as long as all else that it does.
+with_only() {
+    env -i ASAN_OPTIONS=detect_leaks=0 "$@"
+}
+
 fleetwright-cli() {
-    env -i ASAN_OPTIONS=detect_leaks=0 "$TOOL" "$@"
+    with_only "$TOOL" "$@"
 }
 
 # picture FILE WIDTH HEIGHT [X Y COLOUR]...: a white picture but for these pixels, whose colours are
