@@ -20,10 +20,10 @@ int savePlayedFleet(const Options& options, const Fleet& fleet, const std::files
         complain(complaint(nativePath(ship), why));
         status = SomeRefused;
     };
-    auto sheets =
+    const auto sheets =
         fleetSheets(fleet, folder, CatalogueFile::readOnce(options.appFolder / "weaps.dat"),
                     supplies.tools, refuse);
-    saveResult(out, playPage(playFleet(fleet, std::move(sheets)), supplies.pictures));
+    saveResult(out, playPage(playFleet(fleet, sheets), supplies.pictures));
     return status;
 }
 

@@ -136,6 +136,7 @@ std::string_view designationOf(std::int32_t mass) {
 
 std::vector<std::string_view> shipKinds() {
     std::vector<std::string_view> kinds;
+    kinds.reserve(hullWords.size() + classNames.size() + 2);
     for (const CodeWord& hull : hullWords) {
         kinds.push_back(hull.word);
     }

@@ -134,7 +134,8 @@ void FindingsPanel::look() {
     std::vector<ListView::Row> rows;
     for (const ShipFinding& finding : m_listed) {
         const std::string text = asSentence(finding.text), where = whereIs(finding, ship().origin);
-        rows.push_back({.key = where + ": " + text, .text = text, .subItem = where});
+        rows.push_back(
+            {.key = std::string(where).append(": ").append(text), .text = text, .subItem = where});
     }
     list.setFindings(std::move(rows));
 }
