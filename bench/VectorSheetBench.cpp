@@ -180,8 +180,8 @@ const RegisterGoal converterGoal({"200 PDFs, a process each: times as fast as rs
                                   "Qt, which writes the PDF, and is loaded with 48 libraries for "
                                   "it. Five sixths of the 52 ms are the kernel's and the "
                                   "loader's, most of them for pages that are touched for the "
-                                  "first time, which takes several times as long in some virtual "
-                                  "machines as elsewhere: the same row has reached 3.9."});
+                                  "first time. How dear that is depends on the machine: the same "
+                                  "row has reached 3.9."});
 const RegisterGoal threadGoal({"200 PDFs: times as fast on two cores as on one",
                                "PDFs of 200 ships, threads: 1", "PDFs of 200 ships, threads: 2",
                                1.7, true});
