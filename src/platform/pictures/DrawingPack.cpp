@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::string_view firstLine = "FleetWright drawings 2";
 
-/// Of a line of the index, in bytes.
+/// The most that a line of the index takes, in bytes.
 constexpr std::size_t longestLine = 100;
 /// What is read at first, in bytes: the index of all delivered drawings, of which a sheet needs
 /// few.
