@@ -11,11 +11,13 @@ TEST_F(DesktopTest, BrokenCatalogueEndsTheStartWithOneMessageThatNamesFileAndLin
                                                        "Gun,1,1,BEAM,NOWHERE,F,gun.gif\n");
     startProgram();
     waitForKeyboard("FleetWright");
-    const auto names = [&](const Element& label) {
-        return label.name().starts_with(file + ":2: ") &&
-               label.name().find("NOWHERE") != std::string::npos;
-    };
-    EXPECT_TRUE(windowOnScreen("FleetWright")->find("label", names));
+    waitForElement("the message", [&] {
+        const auto message = windowOnScreen("FleetWright");
+        return !message ? std::nullopt : message->find("label", [&](const Element& label) {
+            return label.name().starts_with(file + ":2: ") &&
+                   label.name().find("NOWHERE") != std::string::npos;
+        });
+    });
     press("Return");
     EXPECT_EQ(waitForEnd(), 1);
 }

@@ -22,7 +22,12 @@ std::unique_ptr<Kind, void (*)(gpointer)> takenObject(Kind* object) {
 }
 
 void reachBus() {
-    static const int started = atspi_init();
+    static const int started = [] {
+        // In milliseconds. By default a program that is busy for longer than 800 seems to be gone.
+        constexpr int longest = 60'000;
+        atspi_set_timeout(longest, longest);
+        return atspi_init();
+    }();
     if (started > 1) {
         throw std::runtime_error("the accessibility bus cannot be reached");
     }
