@@ -67,7 +67,12 @@ void StagedFiles::place() {
     std::set<fs::path> folders = {m_folder.parent_path()};
     for (std::size_t i = 0; i < m_targets.size(); ++i) {
         const fs::path& target = m_targets[i];
-        const bool isNew = !fs::exists(fs::symlink_status(target));
+        std::error_code unknown;
+        const fs::file_status before = fs::symlink_status(target, unknown);
+        if (!fs::status_known(before)) {
+            checkWritten(target, unknown);
+        }
+        const bool isNew = !fs::exists(before);
         checkWritten(target, renameFile(stagedPath(i), target));
         if (isNew) {
             m_placed.push_back(target);

@@ -63,13 +63,11 @@ void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
         noteSafe();
         return;
     }
-    RecoveryFolder::Aside now = aside();
-    if (now == m_aside) {
-        return;
-    }
     try {
-        services().recovery->put(now);
-        m_aside = std::move(now);
+        if (RecoveryFolder::Aside now = aside(); now != m_aside) {
+            services().recovery->put(now);
+            m_aside = std::move(now);
+        }
     } catch (const FileError& error) {
         window().say("The fleet cannot be put aside: " + complaint(error));
     }

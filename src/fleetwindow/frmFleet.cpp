@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <utility>
 
 namespace fleetwright {
@@ -103,6 +104,9 @@ void frmFleet::refresh() {
     if (std::exchange(m_isShowing, true)) {
         return;
     }
+    // However it ends: the next act is to count.
+    const std::unique_ptr<bool, void (*)(bool*)> showing(&m_isShowing,
+                                                         [](bool* is) { *is = false; });
     m_rows = m_look.rowsOf(m_document.fleet());
     if (m_look.unread() > 0 && m_services.canReadShips()) {
         constexpr std::uint32_t shortTime = 50;  // milliseconds
@@ -123,7 +127,6 @@ void frmFleet::refresh() {
     output.show();
     recovery.noteChange();
     tellSums();
-    m_isShowing = false;
 }
 
 /// What the fleet comes to, for who cannot see it change.
