@@ -3,7 +3,9 @@
 #include "decimals.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace fleetwright {
 
@@ -66,8 +68,18 @@ constexpr bool isLetter(char c) {
     return folded >= 'a' && folded <= 'z';
 }
 
+/// Whether a word can hold a character, by its number.
+constexpr auto wordCharacters = [] {
+    std::array<bool, 256> table = {};
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const char c = static_cast<char>(i);
+        table[i] = isLetter(c) || isDigit(c) || c == '_';
+    }
+    return table;
+}();
+
 constexpr bool isWordCharacter(char c) {
-    return isLetter(c) || isDigit(c) || c == '_';
+    return wordCharacters[static_cast<unsigned char>(c)];
 }
 
 }  // namespace
