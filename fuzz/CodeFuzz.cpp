@@ -57,7 +57,7 @@ void checkShip(const std::string& ship, Choices& choices) {
     default:
         code.insert(letter, 1, code[letter]);
     }
-    require(code == before || shipIn(code) == "" || shipIn(code) == whole,
+    require(code == before || shipIn(code).empty() || shipIn(code) == whole,
             "what is damaged is never taken for another ship");
 }
 

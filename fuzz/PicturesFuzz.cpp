@@ -30,7 +30,7 @@ std::size_t marksIn(const Raster& picture) {
 
 /// The picture in the bytes of a GIF file, if there is one.
 std::optional<Raster> pictureIn(std::string_view bytes) {
-    constexpr std::int64_t mostPixels = 511 * 511;  // large ones only take long
+    constexpr std::int64_t mostPixels = std::int64_t{511} * 511;  // large ones only take long
     try {
         return gifPicture(bytes, mostPixels);
     } catch (const Error&) {

@@ -31,6 +31,7 @@ namespace {
 Raster readQuietly(const TemporaryFolder& folder, const std::function<Raster()>& read) {
     const int before = dup(STDERR_FILENO);
     const int file = open((folder.path() / "said").c_str(), O_CREAT | O_TRUNC | O_WRONLY, S_IRWXU);
+    require(before >= 0 && file >= 0, "what is printed can be kept out of sight");
     dup2(file, STDERR_FILENO);
     close(file);
     Raster picture;

@@ -111,8 +111,8 @@ std::string bitmap(Picture& sheet) {
     }
     bytes.resize(headers + size);
     for (int y = 0; y < sheet.height; ++y) {
-        char* out =
-            bytes.data() + headers + line * static_cast<std::uint32_t>(sheet.height - 1 - y);
+        char* out = bytes.data() + headers +
+                    std::size_t{line} * static_cast<std::uint32_t>(sheet.height - 1 - y);
         for (int x = 0; x < sheet.width; ++x) {
             const std::uint32_t pixel = sheet.row(y)[x];
             for (const unsigned shift : {0U, 8U, 16U}) {
@@ -133,7 +133,7 @@ int main(int argc, char** argv) {
     Picture sheet = drawn(lines);
     const std::string bytes = bitmap(sheet);
     const int file = open(argv[2], O_WRONLY | O_CREAT | O_TRUNC, 0666);
-    const bool isDone = write(file, bytes.data(), bytes.size()) == std::ssize(bytes) &&
+    const bool isDone = file >= 0 && write(file, bytes.data(), bytes.size()) == std::ssize(bytes) &&
                         fsync(file) == 0 && close(file) == 0;
     return isDone ? 0 : 1;
 }

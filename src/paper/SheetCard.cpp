@@ -146,8 +146,10 @@ double SheetCard::roomyScale() const {
     const double start = std::min(most, scaleOfSymbol(mostSymbol));
     const double area = m_body.width * m_body.height;
     std::vector<double> scales;
-    for (double scale = start; scale >= least; scale -= scaleOfSymbol(0.02)) {
-        scales.push_back(scale);
+    const double step = scaleOfSymbol(0.02);
+    const int count = static_cast<int>(std::floor((start - least) / step)) + 1;
+    for (int i = 0; i < count; ++i) {
+        scales.push_back(start - i * step);
     }
     for (const double needed : {m_isPlain ? 0.08 * area : 0.22 * area, 0.06 * area}) {
         for (const double columnWidth : {wideColumn, narrowColumn}) {
@@ -306,14 +308,15 @@ SheetCard::Layout SheetCard::bestLayout(const Silhouette& silhouette) const {
 /// Adds the fire power and the design as a QR code to what stands beside the drawing, as far as
 /// that leaves room, rather the code than the fire power.
 void SheetCard::addExtras(Page& text, const Silhouette& silhouette, const Box& drawing) const {
-    constexpr double strip = 2, gapBelow = 2;
+    constexpr double gapBelow = 2;
+    constexpr int strip = 2;
     FreeRoom room(m_body);
     for (const PageItem& item : text.items) {
         const Box box = boxOf(item);
         room.take({box.x, box.y - gapBelow, box.width, box.height + gapBelow});
     }
     const double scale = drawing.width / m_ink.width;
-    for (double y = 0; y < drawing.height; y += strip) {
+    for (int y = 0; y < drawing.height; y += strip) {
         const Silhouette::Extent extent = silhouette.between(y / scale, (y + strip) / scale);
         room.take({drawing.x + extent.left * scale, drawing.y + y,
                    (extent.right - extent.left) * scale, strip});

@@ -102,6 +102,7 @@ void BackwardText::putNumber(double value) {
     // that matter.
     const double scaled = std::fabs(value) * 10'000;
     constexpr double unsure = 0.001;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): the same, and quicker than lround
     const auto rounded = static_cast<std::int32_t>(std::min(scaled, most) + 0.5);
     if (scaled > most || std::fabs(std::fabs(scaled - rounded) - 0.5) < unsure) {
         put(exactNumber(value));
