@@ -36,7 +36,7 @@ int runExport(const Options& options) {
     const std::string json =
         (options.words.size() == 1 ? ships.front() : arrayOfShips(ships)) + '\n';
     if (options.has(outOption.name)) {
-        saveResult(nativePath(options.value(outOption.name)), json);
+        saveResultOf(options.words, nativePath(options.value(outOption.name)), json);
     } else {
         printResults(json);
     }

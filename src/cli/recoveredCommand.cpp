@@ -42,6 +42,9 @@ void checkRecovered(const Options& options) {
     if (options.words.size() == 1) {
         throw UsageError("recovered needs a NAME and an OUT");
     }
+    if (!options.words.empty() && options.words.back().empty()) {
+        throw UsageError("recovered needs an OUT with a name");
+    }
 }
 
 int runRecovered(const Options& options) {

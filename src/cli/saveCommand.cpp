@@ -29,6 +29,12 @@ int runSave(const Options& options) {
     return SomeRefused;
 }
 
+void checkSave(const Options& options) {
+    if (options.words.back().empty()) {
+        throw UsageError("save needs an OUT with a name");
+    }
+}
+
 }  // namespace
 
 extern const CommandRow saveCommand = {
@@ -37,6 +43,7 @@ extern const CommandRow saveCommand = {
     .least = 2,
     .most = 2,
     .help = "Load a ship and save it as OUT",
+    .check = checkSave,
     .run = runSave,
 };
 

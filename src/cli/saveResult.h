@@ -3,6 +3,8 @@
 #include "saveFile.h"
 
 #include <filesystem>
+#include <span>
+#include <string>
 #include <string_view>
 
 namespace fleetwright {
@@ -15,5 +17,10 @@ void announceSave(const std::filesystem::path& file);
 void saveResult(const std::filesystem::path& file, std::string_view bytes);
 /// The same for one that is made as it is written.
 void saveResult(const std::filesystem::path& file, const FileContents& contents);
+
+/// The same for one that is made from these files, or from what else these words name. Throws
+/// FileError as well if it would take the place of one of them.
+void saveResultOf(std::span<const std::string> inputs, const std::filesystem::path& file,
+                  std::string_view bytes);
 
 }  // namespace fleetwright

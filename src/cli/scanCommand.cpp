@@ -11,6 +11,7 @@
 #include "text.h"
 
 #include <map>
+#include <span>
 #include <system_error>
 #include <thread>
 
@@ -53,7 +54,8 @@ public:
             printResults(text);
             return;
         }
-        saveResult(m_isFolder ? m_output / mapName(outline) : m_output, mapFileContents(text));
+        saveResultOf(std::span(&outline, 1), m_isFolder ? m_output / mapName(outline) : m_output,
+                     mapFileContents(text));
     }
 
 private:

@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -148,7 +149,7 @@ int runThumbnail(const Options& options) {
     try {
         const std::string png =
             Thumbnails(options).pngOf(file, wholeNumber(options.value("--size")));
-        saveResult(nativePath(options.words.back()), png);
+        saveResultOf(std::span(&file, 1), nativePath(options.words.back()), png);
         return Done;
     } catch (const FaultError& error) {
         complain(complaint(file, error.fault()));

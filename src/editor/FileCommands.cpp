@@ -97,6 +97,9 @@ void FileCommands::load(const std::string& fileName) {
         }
     }
     if (loadFile(fileName)) {
+        if (!ship().g_sSaveName.empty()) {
+            m_others.recovery.noteFile(ship().g_sSaveName, file.text);
+        }
         if (file.source == ShipSource::Sheet) {
             sayOfDesign("This design is from a sheet. Save As gives it a file of its own.");
         } else if (file.source == ShipSource::Code) {
@@ -274,8 +277,15 @@ void FileCommands::mnuSaveAs_Click() {
 
 void FileCommands::mnuSave_Click() {
     window().acts.whenIdle([this] {
-        if (!ship().g_sSaveName.empty()) {
-            saveAs(ship().g_sSaveName);
+        const std::string file = ship().g_sSaveName;
+        if (file.empty() || !m_others.recovery.keepOthersIn(file)) {
+            return;
+        }
+        saveAs(file);
+        if (m_others.recovery.isOtherKept()) {
+            window().say("What somebody else has written into " +
+                         shownText(pathText(nativePath(file).filename())) +
+                         " meanwhile is among Designs Put Aside");
         }
     });
 }
@@ -296,6 +306,7 @@ void FileCommands::saveAs(std::string fileName) {
     }
     if (isSaved) {
         m_others.recovery.noteSafe();
+        m_others.recovery.noteFile(ship().g_sSaveName, toUtf8(ship().shipFile()));
         m_others.history.noteSaved();
         addRecentFile(fileName);
     }

@@ -3,8 +3,12 @@
 #include "Desktop.h"
 #include "Error.h"
 #include "FleetWindow.h"
+#include "WrittenShip.h"
 #include "fingerprint.h"
 #include "frmPutAside.h"
+#include "paths.h"
+#include "readFile.h"
+#include "text.h"
 
 #include <utility>
 
@@ -28,6 +32,40 @@ void RecoveryPanel::noteSafe() {
         services().recovery->forget();
         m_safe = fingerprint(ship().shipFile());
         m_aside.reset();
+    }
+}
+
+void RecoveryPanel::noteFile(const std::string& file, std::string_view text) {
+    if (services().recovery != nullptr) {
+        m_files[file] = fingerprint(text);
+    }
+}
+
+bool RecoveryPanel::keepOthersIn(const std::string& file) {
+    m_isOtherKept = false;
+    const auto known = m_files.find(file);
+    if (known == m_files.end()) {
+        return true;
+    }
+    std::string bytes;
+    try {
+        bytes = readBytes(nativePath(file));
+    } catch (const FileError&) {
+        return true;  // nobody could keep it, and a save that fails says why
+    }
+    if (fingerprint(toUtf8(bytes)) == known->second) {
+        return true;
+    }
+    const WrittenShip other = WrittenShip::of(bytes);
+    try {
+        services().recovery->keepOther({other.name, other.mass.value_or(0), bytes});
+        m_isOtherKept = true;
+        return true;
+    } catch (const FileError& error) {
+        return services().desktop.showMessage(
+                   "Somebody else has changed the file, and what is there cannot be put aside: " +
+                       complaint(error) + "\nReplace it?",
+                   "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
     }
 }
 

@@ -7,8 +7,10 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace fleetwright {
@@ -32,6 +34,14 @@ public:
     /// the one at hand. An empty word is none.
     const std::string& safe() const { return m_safe; }
     void setSafe(const std::string& safe) { m_safe = safe; }
+    /// A ship file holds this text, as this run has read or written it.
+    void noteFile(const std::string& file, std::string_view text);
+    /// The design is about to be saved into a file. What somebody else has written there since it
+    /// was noted is kept for good; if that is not possible, the user says whether it may go all the
+    /// same. False if it may not.
+    bool keepOthersIn(const std::string& file);
+    /// Whether something was kept at that time.
+    bool isOtherKept() const { return m_isOtherKept; }
     /// The design at hand is about to go. What has changed since it was safe is kept for good; if
     /// that is not possible, the user says whether it may go all the same. False if it may not.
     bool giveUpDesign();
@@ -70,6 +80,8 @@ private:
 
     std::optional<RecoveryFolder::Aside> m_aside;  ///< the design as it was put aside last
     int m_alsoLeft = 0;  ///< by a crash, besides the design that was opened last
+    std::map<std::string, std::string> m_files;  ///< fingerprints of what they were noted to hold
+    bool m_isOtherKept = false;
     std::string m_safe;  ///< the fingerprint of the design when nothing of it could be lost
 };
 

@@ -3,6 +3,7 @@
 // A fleet: ships that play together, how many of each, and what they must not go beyond. Plain
 // values; fleetFile.h reads and writes them, FleetSum.h adds them up.
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -58,13 +59,27 @@ struct Fleet {
     friend bool operator==(const Fleet&, const Fleet&) = default;
 };
 
+/// Whether one of a design's ships has been given such a name.
+inline bool isNameOf(const FleetShip& ship, const std::string& name) {
+    return std::find(ship.names.begin(), ship.names.end(), name) != ship.names.end();
+}
+
 /// The name of one of a design's ships, `index` from 0 on. `shipName` is that of the design, which
-/// is numbered where there are several.
+/// is numbered where there are several, by numbers that none of the other names has.
 inline std::string ownName(const FleetShip& ship, std::size_t index, const std::string& shipName) {
     if (index < ship.names.size() && !ship.names[index].empty()) {
         return ship.names[index];
     }
-    return ship.count == 1 ? shipName : shipName + ' ' + std::to_string(index + 1);
+    if (ship.count == 1) {
+        return shipName;
+    }
+    std::string name;
+    // A number of another ship's is never come to, however often this goes on.
+    for (std::size_t number = index + 1; name.empty() || isNameOf(ship, name);
+         number += static_cast<std::size_t>(ship.count)) {
+        name = shipName + ' ' + std::to_string(number);
+    }
+    return name;
 }
 
 /// How many ships a fleet has, of all designs.

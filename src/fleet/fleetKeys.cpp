@@ -155,24 +155,44 @@ constexpr KeyRow<FleetShip> shipRows[] = {
      .values = [](const FleetShip& ship) { return valuesOf(ship.fingerprint); }},
 };
 
-/// Names that no ship is left for.
-void checkSection(const FleetShip& ship, const std::vector<KeyLine>& lines,
-                  std::vector<Fault>& faults) {
+/// Names that no ship is left for count for nothing.
+void checkSection(FleetShip& ship, std::vector<KeyLine>& lines, std::vector<Fault>& faults) {
     const auto count = static_cast<std::size_t>(ship.count);
     if (ship.names.size() <= count) {
         return;
     }
+    ship.names.resize(count);
     std::size_t names = 0;
-    for (const KeyLine& line : lines) {
+    for (KeyLine& line : lines) {
         const bool isName = line.row != KeyLine::none && shipRows[line.row].key == "named";
         names += isName ? 1 : 0;
+        if (isName && names > count) {
+            line.row = KeyLine::none;
+            line.isFaulty = true;
+        }
         if (isName && names == count + 1) {
             faults.push_back({line.number, "there are more names than ships"});
         }
     }
 }
 
-void checkSection(const Fleet&, const std::vector<KeyLine>&, std::vector<Fault>&) {}
+void checkSection(Fleet&, std::vector<KeyLine>&, std::vector<Fault>&) {}
+
+/// Whether one of these rows has such a key.
+template <typename Row, std::size_t count>
+bool isKeyOf(const Row (&rows)[count], std::string_view key) {
+    return std::any_of(std::begin(rows), std::end(rows),
+                       [&](const Row& row) { return row.key == key; });
+}
+
+/// Where a key that is none of this section would mean something; nothing for one of no section.
+std::string_view placeOf(std::string_view key, const Fleet&) {
+    return isKeyOf(shipRows, key) ? "stands behind a ship" : "";
+}
+
+std::string_view placeOf(std::string_view key, const FleetShip&) {
+    return isKeyOf(fleetRows, key) ? "stands in front of the ships" : "";
+}
 
 }  // namespace
 
@@ -204,6 +224,9 @@ std::vector<KeyLine> readLines(KeyRows<Section> rows, std::string_view text, Sec
             const bool isFirst = number == 1;  // that of the version
             if (line.cut.key.empty() && !line.cut.isBlank() && !line.cut.isComment() && !isFirst) {
                 faults.push_back({number, "is no \"key = value\""});
+            }
+            if (const std::string_view place = placeOf(line.cut.key, section); !place.empty()) {
+                faults.push_back({number, quote(line.cut.key).append(" ").append(place)});
             }
             continue;
         }

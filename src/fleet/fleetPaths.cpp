@@ -50,7 +50,7 @@ std::string fileInFleet(const fs::path& fleetFolder, const fs::path& shipFile) {
     const fs::path way = file.lexically_proximate(absoluteFolder(fleetFolder));
     const std::u8string generic = way.generic_u8string();
     std::string name(generic.begin(), generic.end());
-    if (!isUtf8(name)) {
+    if (!isUtf8(name) || name.find_first_of("\r\n") != std::string::npos) {
         throw FileError(shipFile, "its name is no text that a fleet can hold");
     }
     return asFile(std::move(name));

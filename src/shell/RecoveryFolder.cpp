@@ -170,6 +170,17 @@ void RecoveryFolder::keep(const Aside& design) {
     takeOldOnesAway();
 }
 
+void RecoveryFolder::keepOther(const Aside& design) {
+    std::optional<OwnFile> own = std::exchange(ownOf(design.kind), std::nullopt);
+    try {
+        keep(design);
+    } catch (...) {
+        ownOf(design.kind) = std::move(own);
+        throw;
+    }
+    ownOf(design.kind) = std::move(own);
+}
+
 void RecoveryFolder::forget(RecoveryKind kind) {
     std::optional<OwnFile>& own = ownOf(kind);
     if (own && isAsWritten(*own)) {
@@ -184,8 +195,8 @@ void RecoveryFolder::forget(RecoveryKind kind) {
 
 /// Has the run begun in the folder, which is made if need be.
 void RecoveryFolder::begin() {
+    makeUserFolder(m_folder);  // which somebody may have taken away meanwhile
     if (!m_run.hasBegun()) {
-        makeUserFolder(m_folder);
         // Before anything is saved there, which takes left files away.
         RecoveryListing listing(m_folder);
         takeUpLeftOvers(listing);

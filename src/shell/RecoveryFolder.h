@@ -71,6 +71,8 @@ public:
     /// Puts a design aside for good, unless it is there already as it is; old ones may go for it.
     /// Throws FileError.
     void keep(const Aside& design);
+    /// The same for one that is not at work: the file of this run stays as it is.
+    void keepOther(const Aside& design);
     /// Takes the file of this run away, if there is one. What somebody else has made of it stays.
     void forget(RecoveryKind kind = RecoveryKind::Ship);
 

@@ -113,6 +113,17 @@ TEST(FleetFile, IsReadAndWrittenBack) {
     });
 }
 
+TEST(FleetShip, NumbersItsShipsByNoNumberOfAnotherOnes) {
+    FleetShip ship;
+    ship.count = 4;
+    ship.names = {"", "Wren 1", "Wren 5"};
+    std::string names;
+    for (std::size_t i = 0; i < 4; ++i) {
+        names += ownName(ship, i, "Wren") + ", ";
+    }
+    EXPECT_EQ(names, "Wren 9, Wren 1, Wren 5, Wren 4, ");
+}
+
 TEST(FleetSum, CountsWhatLoads) {
     Fleet fleet = parseFleet("FleetWright fleet 1\npoints limit = 400\nlimit = Capital: 2 ships\n"
                              "limit = Warship: 100 points\nlimit = Scout: 5 ships\n"

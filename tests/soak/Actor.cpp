@@ -308,9 +308,8 @@ void Actor::actSomewhere() {
     for (auto front = m_inFront.rbegin(); front != box; ++front) {
         reachable.push_back(&*front);
     }
-    if (box == m_inFront.rend()) {
-        // A dialog is in front of the main window only.
-        reachable.insert(reachable.end(), m_inFront.empty() ? 4 : 0, m_windows.data());
+    if (m_inFront.empty()) {
+        reachable.insert(reachable.end(), 4, m_windows.data());
         for (Front& front : std::span(m_windows).subspan(1)) {
             reachable.push_back(&front);
         }

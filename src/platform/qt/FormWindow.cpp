@@ -75,7 +75,8 @@ FormWindow::FormWindow(Form& form, QWidget* owner, WhatsThisText whatsThis,
 
 void FormWindow::setFrame(QWidget* owner) {
     if (owner != nullptr) {
-        setWindowModality(Qt::WindowModal);
+        // Its owner alone would not do: another window could change what the dialog is about.
+        setWindowModality(Qt::ApplicationModal);
         setWindowFlag(Qt::Dialog);
     }
     switch (m_form.border()) {
