@@ -14,7 +14,7 @@ namespace {
 constexpr std::uintmax_t largestFile = std::uintmax_t{256} * 1024 * 1024;
 
 /// The path of a file; throws for a name that none can have.
-const fs::path& checkedName(const fs::path& path) {
+fs::path checkedName(fs::path path) {
     if (const std::string_view why = entryCalls::whyNoName(path); !why.empty()) {
         throw FileError(path, "cannot be read: " + std::string(why));
     }

@@ -34,7 +34,8 @@ OpenFile::~OpenFile() {
 }
 
 std::size_t OpenFile::read(char* bytes, std::size_t most, std::error_code& error) {
-    if ((error = objection(FileCall::Read, m_path))) {
+    error = objection(FileCall::Read, m_path);
+    if (error) {
         return 0;
     }
     const auto count = openFileCalls::read(m_descriptor, bytes, most);

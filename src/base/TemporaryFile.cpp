@@ -46,7 +46,7 @@ void TemporaryFile::takeLeftOnesAway(const fs::path& folder) {
         }
         const FileLock lock(entry.path());
         if (lock.isHeld()) {
-            removeFile(entry.path());
+            [[maybe_unused]] const std::error_code left = removeFile(entry.path());
         }
     }
 }
@@ -65,7 +65,7 @@ TemporaryFile::TemporaryFile(const fs::path& beside, std::error_code& error) {
 
 TemporaryFile::~TemporaryFile() {
     if (!m_path.empty()) {
-        removeFile(m_path);
+        [[maybe_unused]] const std::error_code left = removeFile(m_path);
     }
 }
 
@@ -96,7 +96,7 @@ std::error_code TemporaryFile::write(const FileContents& contents) {
         });
         put(waiting);
     } catch (const std::system_error& error) {
-        m_file->close();
+        [[maybe_unused]] const std::error_code further = m_file->close();
         return error.code();
     }
     return write(std::string_view());

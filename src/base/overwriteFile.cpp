@@ -53,7 +53,7 @@ fs::path putCopyAside(const fs::path& file, std::string_view contents) {
     error = error ? error : copy.renameToNew(place);
     if (error) {
         if (copy.isRenamed()) {
-            removeFile(place);
+            [[maybe_unused]] const std::error_code left = removeFile(place);
         }
         throw FileError(folder, "cannot be written: " + error.message());
     }
@@ -101,7 +101,7 @@ void overwriteFile(const fs::path& path, std::string_view contents) {
                                       shownText(pathText(copy)));
         }
     }
-    removeForGood(copy);
+    [[maybe_unused]] const std::error_code left = removeForGood(copy);
     if (error) {
         throw FileError(path, error.message());
     }

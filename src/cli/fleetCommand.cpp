@@ -21,6 +21,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -75,6 +76,22 @@ FleetRows loadShips(const Options& options, const FleetFiles& files, const Catal
     return ofShips;
 }
 
+/// Reads a fleet, and refuses what is wrong with it; nothing if it is none.
+std::optional<ReadFleet> readAndRefuse(const std::string& file,
+                                       const std::function<void(const std::string&)>& refuse) {
+    std::optional<ReadFleet> read;
+    try {
+        read = parseFleet(readTextFile(nativePath(file)));
+    } catch (const FleetError& error) {
+        refuse(complaint(file, error.fault()));
+        return read;
+    }
+    for (const Fault& fault : read->faults) {
+        refuse(complaint(file, fault));
+    }
+    return read;
+}
+
 int runFleet(const Options& options) {
     const std::string& file = options.words.front();
     const fs::path path = nativePath(file);
@@ -92,16 +109,11 @@ int runFleet(const Options& options) {
             refuse(complaint(path, error));
         }
     };
-    ReadFleet read;
-    try {
-        read = parseFleet(readTextFile(path));
-    } catch (const FleetError& error) {
-        refuse(complaint(file, error.fault()));
+    const std::optional<ReadFleet> given = readAndRefuse(file, refuse);
+    if (!given) {
         return status;
     }
-    for (const Fault& fault : read.faults) {
-        refuse(complaint(file, fault));
-    }
+    const ReadFleet& read = *given;
     const auto catalogue = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
     const FleetFiles files(read, path.parent_path());
     std::optional<SheetSupplies> supplies;

@@ -220,7 +220,7 @@ std::size_t History::size() const {
         size += each.safe.capacity() + each.found.capacity() * sizeof(ShipFinding);
     }
     for (const std::string* const text : m_texts) {
-        constexpr std::size_t node = 2 * sizeof(std::string) + sizeof(text);
+        constexpr std::size_t node = 2 * sizeof(std::string) + sizeof(void*);
         size += text->capacity() + node;
     }
     return size;

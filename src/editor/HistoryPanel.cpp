@@ -69,7 +69,7 @@ bool HistoryPanel::adopt(const std::string& steps, const std::string& shipFile) 
     }
     // What was its file may have become anything since then.
     static_cast<ShipNames&>(stored->now.ship) = [&] {
-        ShipNames names = opened.ship;
+        ShipNames names = opened.ship;  // NOLINT(cppcoreguidelines-slicing): these alone
         names.g_sShipName = stored->now.ship.g_sShipName;
         names.g_sDesignerName = stored->now.ship.g_sDesignerName;
         return names;

@@ -76,7 +76,7 @@ std::string stepName(const DesignMoment& before, const DesignMoment& after) {
     std::vector<std::string> parts;
     if (before.ship.g_bAutoMass != after.ship.g_bAutoMass ||
         before.isAutoMassMarked != after.isAutoMassMarked) {
-        parts.push_back(after.isAutoMassMarked ? "AutoMass On" : "AutoMass Off");
+        parts.emplace_back(after.isAutoMassMarked ? "AutoMass On" : "AutoMass Off");
     }
     nameSystems(before, after, parts);
     nameHull(before.ship, after.ship, parts);

@@ -21,7 +21,7 @@ fs::path pathOf(const FleetShip& ship) {
 }
 
 /// A file whose name looks like a code is named with its folder.
-std::string asFile(std::string name) {
+std::string asFile(const std::string& name) {
     return isDesignCode(name) ? "./" + name : name;
 }
 
@@ -49,11 +49,11 @@ std::string fileInFleet(const fs::path& fleetFolder, const fs::path& shipFile) {
     // On another drive there is no way from the one to the other.
     const fs::path way = file.lexically_proximate(absoluteFolder(fleetFolder));
     const std::u8string generic = way.generic_u8string();
-    std::string name(generic.begin(), generic.end());
+    const std::string name(generic.begin(), generic.end());
     if (!isUtf8(name) || name.find_first_of("\r\n") != std::string::npos) {
         throw FileError(shipFile, "its name is no text that a fleet can hold");
     }
-    return asFile(std::move(name));
+    return asFile(name);
 }
 
 void moveFleet(Fleet& fleet, const fs::path& from, const fs::path& to) {

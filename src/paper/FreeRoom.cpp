@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <ranges>
 #include <variant>
 
 namespace fleetwright {
@@ -45,8 +46,8 @@ std::optional<Box> FreeRoom::lowestAt(double x, double width, double height) con
     // Mostly they were taken from above, so that one look from the end on finds all of them.
     for (bool hasMoved = true; hasMoved && place.y >= m_room.y;) {
         hasMoved = false;
-        for (auto box = inTheWay.rbegin(); box != inTheWay.rend(); ++box) {
-            if (const double above = box->y - height; above < place.y && overlap(place, *box)) {
+        for (const Box& box : std::views::reverse(inTheWay)) {
+            if (const double above = box.y - height; above < place.y && overlap(place, box)) {
                 place.y = above;
                 hasMoved = true;
             }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 
@@ -96,6 +97,7 @@ PageSign pageSign(char32_t character, PageFont font) {
     if (found.run == nullptr) {
         drawn = missing;
         found = findLetter(drawn, font);
+        assert(found.run != nullptr);  // the delivered fonts have that one
     }
     return {character, drawn, found.face, found.run->advance / unitsPerSize};
 }

@@ -58,7 +58,7 @@ std::optional<FormulaFault> formulaFault(std::string_view formula) {
     if (reader.fault() == FormulaReader::Fault::None) {
         return std::nullopt;
     }
-    const std::string_view readable(text.c_str());
+    const std::string_view readable = std::string_view(text).substr(0, text.find('\0'));
     const auto place = static_cast<std::size_t>(reader.faultPlace() - text.c_str());
     return FormulaFault{static_cast<int>(characterCount(readable.substr(0, place))) + 1,
                         describe(reader.fault(), readable.substr(place))};

@@ -138,6 +138,7 @@ FontSubset::Glyphs FontSubset::glyphs() const {
         const LetterRun& run = *letterRunOf(sign.drawn, m_face);
         addOutline(run.glyph + (sign.drawn - run.first), advance);
     }
+    // NOLINTNEXTLINE(modernize-loop-convert): each may add parts of its own behind the last one
     for (std::size_t part = 0; part < parts.size(); ++part) {
         addOutline(parts[part], 0);
     }
