@@ -252,6 +252,12 @@ TEST(Recovery, KeepsWhatRunsAndUsersLeaveInItsFolder) {
 }
 
 // Most of a start would go there: what names say is not asked again.
+TEST(Recovery, KnowsTheTimeInTheNameOfAnOlderDesign) {
+    const RecoveryName name = RecoveryName::of("Sea Wasp 2026-01-02 03.04.05", RecoveryKind::Ship);
+    EXPECT_EQ(name.ship, "Sea Wasp");
+    EXPECT_EQ(name.time, "2026-01-02 03.04.05");
+}
+
 TEST(Recovery, LooksOnceHoweverManyDesignsThereAre) {
     const auto callsFor = [](int count) {
         Recovery world;

@@ -36,7 +36,7 @@ PageDocument makeDocument() {
     return {paperA4,
             {lines, Page{{PagePicture{nullptr, dots, {20, 20, 30, 20}, {20, 20, 30, 9}}}}},
             "HMS Né (\"B\")",
-            "Ann <ann@example.org>",
+            "Ann \U0001F680 <ann@example.org>",
             "Ship & sheet",
             "en",
             1700000000,
