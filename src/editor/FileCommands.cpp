@@ -97,8 +97,8 @@ void FileCommands::load(const std::string& fileName) {
         }
     }
     if (loadFile(fileName)) {
-        if (!ship().g_sSaveName.empty()) {
-            m_others.recovery.noteFile(ship().g_sSaveName, file.text);
+        if (file.source != ShipSource::Code) {
+            m_others.recovery.noteFile(ship().origin, file.text);
         }
         if (file.source == ShipSource::Sheet) {
             sayOfDesign("This design is from a sheet. Save As gives it a file of its own.");

@@ -8,6 +8,7 @@
 #include "frmPutAside.h"
 #include "paths.h"
 #include "readFile.h"
+#include "readShip.h"
 #include "text.h"
 
 #include <utility>
@@ -71,7 +72,22 @@ bool RecoveryPanel::keepOthersIn(const std::string& file) {
 
 bool RecoveryPanel::isSafe() const {
     return services().recovery == nullptr || !window().g_Ship ||
-           fingerprint(ship().shipFile()) == m_safe;
+           (fingerprint(ship().shipFile()) == m_safe && !isLostToSheet());
+}
+
+/// Whether the design is in no file, since the sheet that it came from is another one now: nobody
+/// is asked whether a design may go for the sheet of another.
+bool RecoveryPanel::isLostToSheet() const {
+    const auto known = m_files.find(ship().origin);
+    if (!ship().g_sSaveName.empty() || known == m_files.end()) {
+        return false;
+    }
+    try {
+        const std::string text = readShip(ship().origin).text;
+        return fingerprint(text) != known->second && text != ship().shipFile();
+    } catch (const FileError&) {
+        return true;
+    }
 }
 
 void RecoveryPanel::tmrRecovery_Timer() {

@@ -34,7 +34,7 @@ public:
     /// the one at hand. An empty word is none.
     const std::string& safe() const { return m_safe; }
     void setSafe(const std::string& safe) { m_safe = safe; }
-    /// A ship file holds this text, as this run has read or written it.
+    /// A ship file, or a sheet, holds this ship's text, as this run has read or written it.
     void noteFile(const std::string& file, std::string_view text);
     /// The design is about to be saved into a file. What somebody else has written there since it
     /// was noted is kept for good; if that is not possible, the user says whether it may go all the
@@ -71,6 +71,7 @@ private:
     void tmrAsk_Timer();
     void mnuPutAside_Click();
     bool isSafe() const;
+    bool isLostToSheet() const;
     RecoveryFolder::Aside design() const;
     void show(std::vector<RecoveryFolder::Design> designs);
 
