@@ -194,9 +194,7 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
         if (extension == ".MAP") {
             return checkMap(options, readTextFile(nativePath(file)));
         }
-        std::error_code unknown;
-        if (fs::is_regular_file(nativePath(file), unknown) &&
-            isSheet(readBytes(nativePath(file)))) {
+        if (isSheet(readBytes(nativePath(file)))) {
             return check();
         }
         return {{0, "no catalogue (.dat), ship file (.shp), fleet (.fleet) or map (.map)"}};

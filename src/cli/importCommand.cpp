@@ -10,8 +10,10 @@
 #include "saveResult.h"
 #include "shipJson.h"
 
+#include <cstdint>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -84,6 +86,10 @@ private:
     /// What the catalogue has no system for stays in the ship file, for one that has, and is named.
     void takeShip(const JsonShip& ship) {
         const std::string shipFile = shipFileOf(ship.design);
+        if (!std::in_range<std::int16_t>(ship.design.hull.thrust)) {
+            refuse({ship.line, OverflowError().what()});  // the window could not show it
+            return;
+        }
         ShipClass loaded(m_services);
         if (!loaded.loadText(shipFile)) {
             refuse({ship.lineOf(loaded.fileFault()->line), loaded.fileFault()->text});
