@@ -282,7 +282,7 @@ void FileCommands::mnuSave_Click() {
             return;
         }
         saveAs(file);
-        if (m_others.recovery.isOtherKept()) {
+        if (m_others.recovery.isOtherKept() && ship().g_bSaved) {
             window().say("What somebody else has written into " +
                          shownText(pathText(nativePath(file).filename())) +
                          " meanwhile is among Designs Put Aside");

@@ -187,11 +187,11 @@ bool isKeyOf(const Row (&rows)[count], std::string_view key) {
 
 /// Where a key that is none of this section would mean something; nothing for one of no section.
 std::string_view placeOf(std::string_view key, const Fleet&) {
-    return isKeyOf(shipRows, key) ? "stands behind a ship" : "";
+    return isKeyOf(shipRows, key) ? "belongs behind a ship" : "";
 }
 
 std::string_view placeOf(std::string_view key, const FleetShip&) {
-    return isKeyOf(fleetRows, key) ? "stands in front of the ships" : "";
+    return isKeyOf(fleetRows, key) ? "belongs in front of the ships" : "";
 }
 
 }  // namespace
