@@ -278,11 +278,15 @@ void FileCommands::mnuSaveAs_Click() {
 void FileCommands::mnuSave_Click() {
     window().acts.whenIdle([this] {
         const std::string file = ship().g_sSaveName;
-        if (file.empty() || !m_others.recovery.keepOthersIn(file)) {
+        if (file.empty()) {
+            return;
+        }
+        const RecoveryPanel::Others others = m_others.recovery.keepOthersIn(file);
+        if (others == RecoveryPanel::Others::Staying) {
             return;
         }
         saveAs(file);
-        if (m_others.recovery.isOtherKept() && ship().g_bSaved) {
+        if (others == RecoveryPanel::Others::Kept && ship().g_bSaved) {
             window().say("What somebody else has written into " +
                          shownText(pathText(nativePath(file).filename())) +
                          " meanwhile is among Designs Put Aside");

@@ -42,31 +42,30 @@ void RecoveryPanel::noteFile(const std::string& file, std::string_view text) {
     }
 }
 
-bool RecoveryPanel::keepOthersIn(const std::string& file) {
-    m_isOtherKept = false;
+RecoveryPanel::Others RecoveryPanel::keepOthersIn(const std::string& file) {
     const auto known = m_files.find(file);
     if (known == m_files.end()) {
-        return true;
+        return Others::None;
     }
     std::string bytes;
     try {
         bytes = readBytes(nativePath(file));
     } catch (const FileError&) {
-        return true;  // nobody could keep it, and a save that fails says why
+        return Others::None;  // nobody could keep it, and a save that fails says why
     }
     if (fingerprint(toUtf8(bytes)) == known->second) {
-        return true;
+        return Others::None;
     }
     const WrittenShip other = WrittenShip::of(bytes);
     try {
         services().recovery->keepOther({other.name, other.mass.value_or(0), bytes});
-        m_isOtherKept = true;
-        return true;
+        return Others::Kept;
     } catch (const FileError& error) {
-        return services().desktop.showMessage(
-                   "Somebody else has changed the file, and what is there cannot be put aside: " +
-                       complaint(error) + "\nReplace it?",
-                   "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
+        const Answer mayGo = services().desktop.showMessage(
+            "Somebody else has changed the file, and what is there cannot be put aside: " +
+                complaint(error) + "\nReplace it?",
+            "", Buttons::YesNo, Icon::Critical);
+        return mayGo == Answer::Yes ? Others::None : Others::Staying;
     }
 }
 

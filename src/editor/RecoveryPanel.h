@@ -36,12 +36,12 @@ public:
     void setSafe(const std::string& safe) { m_safe = safe; }
     /// A ship file, or a sheet, holds this ship's text, as this run has read or written it.
     void noteFile(const std::string& file, std::string_view text);
-    /// The design is about to be saved into a file. What somebody else has written there since it
-    /// was noted is kept for good; if that is not possible, the user says whether it may go all the
-    /// same. False if it may not.
-    bool keepOthersIn(const std::string& file);
-    /// Whether something was kept at that time.
-    bool isOtherKept() const { return m_isOtherKept; }
+    /// What somebody else has written into a file since it was noted: nothing, or nothing that has
+    /// to stay; what is kept for good now; or what the user does not let go.
+    enum class Others { None, Kept, Staying };
+    /// The design is about to be saved into a file. What others have written there is kept; if that
+    /// is not possible, the user says whether it may go all the same.
+    Others keepOthersIn(const std::string& file);
     /// The design at hand is about to go. What has changed since it was safe is kept for good; if
     /// that is not possible, the user says whether it may go all the same. False if it may not.
     bool giveUpDesign();
@@ -82,7 +82,6 @@ private:
     std::optional<RecoveryFolder::Aside> m_aside;  ///< the design as it was put aside last
     int m_alsoLeft = 0;  ///< by a crash, besides the design that was opened last
     std::map<std::string, std::string> m_files;  ///< fingerprints of what they were noted to hold
-    bool m_isOtherKept = false;
     std::string m_safe;  ///< the fingerprint of the design when nothing of it could be lost
 };
 
