@@ -120,10 +120,13 @@ Shown expectedOf(const std::filesystem::path& shipFile, bool isAutoMass) {
 Shown MainWindow::shown() const {
     const Element all = window();
     Shown shown;
-    for (const auto& [name, key] : figureNames) {
-        const auto figure = all.find("text", name);
-        shown[name] = figure ? figure->text() : "";
-    }
+    // In one walk, since each element that is passed has to be asked what it is.
+    all.find("text", [&](const Element& each) {
+        if (const std::string name = each.name(); figureNames.contains(name)) {
+            shown[name] = each.text();
+        }
+        return shown.size() == figureNames.size();
+    });
     if (const auto rows = all.find("tree", "Systems aboard")) {
         std::vector<Element> cells = rows->children();
         std::erase_if(cells, [](const Element& each) { return each.role() != "table cell"; });
