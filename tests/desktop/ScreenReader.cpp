@@ -50,8 +50,14 @@ void note(AtspiEvent* event, void* heard) {
     g_boxed_free(ATSPI_TYPE_EVENT, event);
 }
 
-/// Menus and trees hold many entries and nothing else, and each question takes its time.
+/// Menus and trees hold many entries and nothing else, most elements nothing at all, and each
+/// question takes its time.
 bool mayHold(std::string_view whole, std::string_view part) {
+    constexpr std::string_view leaves[] = {"check box",    "label",      "push button",
+                                           "radio button", "table cell", "text"};
+    if (std::ranges::find(leaves, whole) != std::end(leaves)) {
+        return false;
+    }
     return whole == "menu bar" ? part == "menu item"
            : whole == "tree"   ? part.starts_with("table")
                                : true;
