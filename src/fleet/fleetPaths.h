@@ -14,7 +14,8 @@ namespace fleetwright {
 /// as a ship.
 std::string shipPath(const std::filesystem::path& fleetFolder, const FleetShip& ship);
 
-/// How a fleet in this folder names a ship file. Throws FileError for a name that is no text.
+/// How a fleet in this folder names a ship file. Throws FileError for a name that is no text, or
+/// one of several lines.
 std::string fileInFleet(const std::filesystem::path& fleetFolder,
                         const std::filesystem::path& shipFile);
 

@@ -169,7 +169,10 @@ void SheetOutput::write(const OutgoingSheet& sheet, const std::string& ending,
     } else if (ending == pdfEnding) {
         m_services.printer.writePdf(sheet.pages(paperA4), out);
     } else if (sheet.bitmap.isEmpty()) {
-        throw Error("The ship is too heavy for a bitmap; a .pdf or .svg can be made");
+        throw Error(m_services.g_iLargestSSD == 0
+                        ? "There was no map for a bitmap when the program started; a .pdf or .svg "
+                          "can be made"
+                        : "The ship is too heavy for a bitmap; a .pdf or .svg can be made");
     } else {
         const std::string png = m_services.encoder.encode(sheet.bitmap, "png");
         out(sheet.shipFile.empty() ? png : withShip(png, sheet.shipFile));

@@ -169,3 +169,10 @@ TEST(FleetRoom, TakesShipsAsFarAsAFileMayHoldThem) {
     EXPECT_EQ(addShips(fleet, {"last", "last"}), Fleet::mostDesigns - 1);
     EXPECT_EQ(fleet.ships.back().count, 3);
 }
+
+TEST(FleetPaths, NoFleetNamesAFileThatItCouldNotBeReadWith) {
+    EXPECT_EQ(fileInFleet("/fleets", "/ships/Gun.shp"), "../ships/Gun.shp");
+    for (const char* const name : {"Two\nlines.shp", "Two\rlines.shp"}) {
+        EXPECT_THROW(fileInFleet("/fleets", std::filesystem::path("/ships") / name), Error) << name;
+    }
+}

@@ -16,10 +16,10 @@ namespace {
 /// Locks an open file. An answer to a signal does not end the waiting.
 bool isLocked(int file, FileLock::IfTaken ifTaken) {
     const int how = LOCK_EX | (ifTaken == FileLock::IfTaken::Wait ? 0 : LOCK_NB);
-    int result = flock(file, how);
-    while (result != 0 && errno == EINTR) {
+    int result = 0;
+    do {
         result = flock(file, how);
-    }
+    } while (result != 0 && errno == EINTR);
     return result == 0;
 }
 
