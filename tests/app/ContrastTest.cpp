@@ -3,6 +3,7 @@
 #include "contrast.h"
 #include "FormWindow.h"
 #include "eachWindow.h"
+#include "fillWindows.h"
 
 #include <gtest/gtest.h>
 
@@ -169,32 +170,6 @@ private:
     int m_texts = 0;
 };
 
-/// Brings the windows to where they have something to say.
-void fill(Actor& actor) {
-    frmMain& main = actor.main;
-    TestWindow& test = actor.test;
-    // Nobody acts at random here.
-    test.inFileDialog = test.inMessage = test.inEachTurn = {};
-    test.answer = Answer::Yes;
-    main.files.loadFile((test.folder().path() / "ships" / "Gun.shp").string());
-    main.fleet.mnuFleet.choose();
-    test.fleet().ships.mnuAddShipAtHand.choose();
-    main.compare.mnuCompare.choose();
-    test.file = (test.folder().path() / "ships" / "Gun.shp").string();
-    main.compare.beside.cmdChoose.press();
-    main.hull.optMerchant.choose();
-    main.mass.txtMass.setText("2");
-    main.compare.tmrCompare.tick();
-    main.compare.beside.lvLines.select(2);
-    main.aboard.lvCurrentWeapons.select(0);
-    main.tree.tvWeapons.select(main.tree.tvWeapons.nodes().front());
-    main.findings.mnuFindings.choose();
-    EXPECT_TRUE(main.mass.lblMassLeft.design().isAlarming);
-    EXPECT_FALSE(main.findings.list.lvFindings.rows().empty());
-    EXPECT_FALSE(main.compare.beside.lvLines.rows().empty());
-    EXPECT_FALSE(test.fleet().ships.lvShips.rows().empty());
-}
-
 }  // namespace
 
 TEST(Windows, EveryTextCanBeReadInLightAndDarkOnes) {
@@ -203,7 +178,7 @@ TEST(Windows, EveryTextCanBeReadInLightAndDarkOnes) {
         QApplication::setPalette(palette);
         Dice dice(1);
         Actor actor(dice);
-        fill(actor);
+        fillWindows(actor);
         int texts = 0;
         forEachWindow(actor, [&texts](Form& form) {
             form.setZoom(Zoom(125));
