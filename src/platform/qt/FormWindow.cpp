@@ -236,16 +236,16 @@ void FormWindow::updatePlace() {
 }
 
 void FormWindow::updateTopmost() {
-    if (m_form.isTopmost() == m_isTopmost) {
+    const bool isTopmost = m_form.isTopmost();
+    if (isTopmost == windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         return;
     }
-    m_isTopmost = m_form.isTopmost();
     if (windowHandle() == nullptr) {
-        setWindowFlag(Qt::WindowStaysOnTopHint, m_isTopmost);
+        setWindowFlag(Qt::WindowStaysOnTopHint, isTopmost);
         return;
     }
     // Without making the window anew, which would flicker and lose the keyboard.
-    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, m_isTopmost);
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, isTopmost);
     overrideWindowFlags(windowHandle()->flags());
 }
 

@@ -71,7 +71,6 @@ private:
     /// Where the form was last known to be, in twips.
     QPoint m_formPlace;
     QSize m_usualSize;  // of the form, in twips, while it is maximized
-    bool m_isTopmost = false;
     // The size that the desktop has offered last.
     QSize m_offered;
     QElapsedTimer m_sinceOffer;
