@@ -5,6 +5,7 @@
 #include "Drawing.h"
 
 #include <QApplication>
+#include <QScrollArea>
 #include <QStyle>
 #include <QTreeWidget>
 
@@ -120,4 +121,36 @@ TEST(DrawnPictures, StandOutOnButtonsThatAreDownAlsoInWindowsBehindOthers) {
     const QPalette down = window.findChild<QWidget*>("faced")->palette();
     EXPECT_EQ(down.color(QPalette::Inactive, QPalette::ButtonText), QColor(Qt::white));
     QApplication::setPalette({});
+}
+
+TEST(DrawnPictures, BehindAWindowAreLookedUpOnceForEachSizeThatPixelsWillNotDoFor) {
+    const QFont before = QApplication::font();
+    QFont small = before;
+    small.setPixelSize(8);
+    QApplication::setFont(small);
+    const HalfDrawn blue(0x0000FF);
+    Form form({.name = "frmPictured", .width = 480, .height = 480});
+    form.setPicture(blue.picture);
+    FormWindow window(form, nullptr, {}, &blue);
+    form.show();
+    const auto asksAt = [&](int percent) {
+        form.setZoom(Zoom(percent));
+        blue.asks = 0;
+        QWidget& inside = *dynamic_cast<QScrollArea&>(*window.centralWidget()).widget();
+        inside.grab();
+        const QImage shown = inside.grab().toImage();
+        const int quarter = 8 * percent / 100;
+        EXPECT_EQ(shown.width(), 32 * percent / 100);
+        EXPECT_EQ(shown.pixelColor(2 * quarter, quarter), QColor(Qt::blue));
+        EXPECT_NE(shown.pixelColor(2 * quarter, 3 * quarter), QColor(Qt::blue));
+        return blue.asks;
+    };
+    EXPECT_EQ(asksAt(100), 0);
+    EXPECT_EQ(asksAt(110), 0);
+    EXPECT_EQ(asksAt(125), 1);
+    EXPECT_EQ(asksAt(200), 1);
+    form.setPicture(Raster(32, 32));
+    window.grab();
+    EXPECT_GT(blue.asks, 1) << "it is another picture";
+    QApplication::setFont(before);
 }

@@ -4,6 +4,7 @@
 #include "contrast.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
@@ -215,6 +216,55 @@ TEST(FormWindow, AHeadingIsLargerThanTheRest) {
     EXPECT_TRUE(font.bold());
 }
 
+TEST_F(FormWindowTest, FramesHaveTheirCaptionInTheirUpperEdge) {
+    auto* const frame = find<QGroupBox>("frame");
+    const QFontMetrics metrics = frame->fontMetrics();
+    const int line = metrics.height() / 2, right = frame->width() - 1, bottom = frame->height() - 1;
+    const int gapEnd = 8 + metrics.horizontalAdvance("Frame") + 2 * 3;  // with what is round
+    for (const bool isEnabled : {true, false}) {
+        form.frame.setEnabled(isEnabled);
+        const QImage shown = frame->grab().toImage();
+        const QColor ground = frame->palette().color(QPalette::Window);
+        const auto isDrawn = [&](int x, int y) {
+            return contrast(shown.pixelColor(x, y), ground) >= edgeContrast;
+        };
+        EXPECT_TRUE(isDrawn(5, line) && isDrawn(gapEnd + 1, line) && isDrawn(right - 5, line));
+        EXPECT_TRUE(isDrawn(0, bottom / 2) && isDrawn(right, bottom / 2));
+        EXPECT_TRUE(isDrawn(right / 2, bottom));
+        EXPECT_FALSE(isDrawn(9, line) || isDrawn(gapEnd - 2, line)) << "the caption has room";
+        EXPECT_FALSE(isDrawn(0, bottom) || isDrawn(right, line)) << "corners are round";
+        EXPECT_FALSE(isDrawn(5, line - 1) || isDrawn(right / 2, bottom - 1));
+        double best = 1;
+        for (int x = 10; x < gapEnd - 2; ++x) {
+            best = std::max(best, contrast(shown.pixelColor(x, line), ground));
+        }
+        EXPECT_GE(best, isEnabled ? readableContrast : 1.3);
+        EXPECT_LT(best, isEnabled ? 21 : readableContrast);
+    }
+}
+
+TEST_F(FormWindowTest, TheStatusLineSaysWhatIsNewAndOfManyTextsTheLast) {
+    const auto* const notice = find<QLabel>("status")->findChild<QWidget*>();
+    const auto said = [notice] { return notice->accessibleName().toStdString(); };
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(const_cast<QWidget*>(notice))->role(),
+              QAccessible::Notification);
+    EXPECT_EQ(notice->size(), QSize(1, 1));
+    form.status.setText("Saved");
+    EXPECT_EQ(said(), "Saved");
+    form.status.setTextQuietly("Known");
+    form.status.tell("One");
+    QTest::qWait(1);
+    form.status.tell("Two");
+    EXPECT_EQ(said(), "Saved") << "more may follow";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return said() != "Saved"; }));
+    EXPECT_EQ(said(), "Two");
+    form.status.setVisible(false);
+    form.status.setText("Hidden");
+    form.status.tell("Hidden");
+    QTest::qWait(400);
+    EXPECT_EQ(said(), "Two");
+}
+
 TEST_F(FormWindowTest, PicturesAreAsLargeOnTheScreenAsTheyAre) {
     auto* const box = find<QFrame>("picture");
     Raster picture(120, 40);
@@ -237,6 +287,11 @@ TEST_F(FormWindowTest, NoTimerRunsIntoRulesThatPaint) {
 }
 
 TEST_F(FormWindowTest, MenusTimersAndClosing) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_F10);
+    EXPECT_EQ(window.menuBar()->activeAction(), find<QMenu>("menu")->menuAction());
+    EXPECT_EQ(find<QMenu>("menu")->activeAction()->text(), "Entry");
+    find<QMenu>("menu")->hide();
     EXPECT_EQ(window.menuBar()->actions().size(), 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return form.ticks > 1; }));
     form.keeps = true;
@@ -270,6 +325,9 @@ TEST_F(FormWindowTest, StaysOnTheScreenAsAWholeWhenItsFormGrows) {
     window.move(room.center());
     form.resize(form.width() + 300, form.height() + 300);
     EXPECT_EQ(window.frameGeometry() | room, room);
+    window.move(room.topLeft() - QPoint(20, 30));
+    form.resize(form.width() + 300, form.height() + 300);
+    EXPECT_EQ(window.frameGeometry().topLeft(), room.topLeft());
 }
 
 // As a click does that comes before the screen knows that the menu is closed.

@@ -1,8 +1,13 @@
 // The mouse and the keyboard on trees and lists.
 
+#include "DragImage.h"
+#include "Drawing.h"
 #include "FormWindowTest.h"
 
 #include <QApplication>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
@@ -19,6 +24,19 @@ public:
     bool eventFilter(QObject* /*watched*/, QEvent* event) override {
         return event->type() == QEvent::MouseButtonRelease;
     }
+};
+
+/// Does something when a drag has just begun and looks for the drawing of its picture: no screen is
+/// there on which it would go on.
+class ActsWhenAsked : public Drawings {
+public:
+    std::shared_ptr<const Drawing> of(const Raster&) const override {
+        if (const auto now = std::exchange(act, nullptr)) {
+            now();
+        }
+        return nullptr;
+    }
+    mutable std::function<void()> act;
 };
 
 }  // namespace
@@ -59,8 +77,8 @@ TEST_F(FormWindowTest, TheFirstMoveWithTheButtonDownDragsAndATremblingHandClicks
         QTest::mouseRelease(pointed, Qt::LeftButton, {}, to);
     };
     form.tree.onClick = [&] { form.log += "click "; };
-    form.tree.onMouseMove = [&](const MousePress&) {
-        form.log += "move ";
+    form.tree.onMouseMove = [&](const MousePress& move) {
+        form.log += "move" + std::to_string(move.button) + ' ';
         endDrag();
     };
     for (const int way : {0, 1, 60}) {
@@ -75,7 +93,7 @@ TEST_F(FormWindowTest, TheFirstMoveWithTheButtonDownDragsAndATremblingHandClicks
             endDrag();
         }
     }
-    EXPECT_EQ(takeLog(), "tree1 tree1 move click tree1 move ");
+    EXPECT_EQ(takeLog(), "tree1 tree1 move1 click tree1 move1 ");
 }
 
 TEST_F(FormWindowTest, NothingIsDraggedByAButtonThatIsUpAgain) {
@@ -96,6 +114,52 @@ TEST_F(FormWindowTest, ThePlaceOfAPressCountsTheHeadingOfTheList) {
     QTest::mousePress(list->viewport(), Qt::RightButton, {}, {1, 0});
     EXPECT_NEAR(top * list->height(), list->viewport()->y(), 1.0);
     QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, {1, 0});
+}
+
+TEST_F(FormWindowTest, APressTellsOfItsButtonAndOfTheKeysThatAreDown) {
+    std::string told;
+    form.list.onMouseDown = [&](const MousePress& press) {
+        told += std::to_string(press.button) + '+' + std::to_string(press.shift) + ' ';
+    };
+    QWidget* const rows = find<QTreeWidget>("list")->viewport();
+    QTest::mouseClick(rows, Qt::RightButton, Qt::ShiftModifier);
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::ControlModifier);
+    QTest::mouseClick(rows, Qt::MiddleButton, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(told, "2+1 1+2 4+5 ");
+}
+
+TEST_F(FormWindowTest, APictureIsDroppedOnAnyPartOfAListInItsWindowAlone) {
+    AllKinds other;
+    DragImage image(form, {.name = "image"}), stranger(other, {.name = "stranger"});
+    const ActsWhenAsked drawings;
+    form.setZoom(Zoom(200));
+    FormWindow dragging(form, nullptr, {}, &drawings), beside(other);
+    image.setPicture(Raster(32, 32));
+    form.list.onDragDrop = [&](const Control& dropped) { form.log += dropped.name() + ' '; };
+    other.list.onDragDrop = [&](const Control&) { form.log += "elsewhere "; };
+    const auto drop = [](const FormWindow& target) {
+        auto* const list = target.findChild<QTreeWidget*>("list");
+        QMimeData data;
+        int taken = 0;
+        for (QWidget* const part : {list->viewport(), list->header()->viewport()}) {
+            QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(part, &enter);
+            QDropEvent event({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(part, &event);
+            taken += enter.isAccepted() ? 1 : 0;
+        }
+        return taken;
+    };
+    drawings.act = [&] {
+        EXPECT_EQ(drop(dragging), 2);
+        EXPECT_EQ(drop(beside), 0);
+        image.drag();  // there is one pointer
+        EXPECT_EQ(drop(dragging), 2);
+    };
+    image.drag();
+    EXPECT_FALSE(drawings.act) << "it was dragged";
+    EXPECT_EQ(takeLog(), "image image image image ");
+    EXPECT_EQ(drop(dragging), 0) << "the drag has ended";
 }
 
 TEST_F(FormWindowTest, ARowChosenByTheRightButtonCountsAsClicked) {

@@ -2,6 +2,7 @@
 
 #include "FormWindowTest.h"
 #include "TemporaryFolder.h"
+#include "contrast.h"
 
 #include <gtest/gtest.h>
 
@@ -9,10 +10,12 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 using namespace fleetwright;
 
@@ -56,6 +59,11 @@ TEST(QtDesktop, TheFiltersOfFileDialogsShowToTheLetter) {
     inDialogs({[&](QDialog& dialog) {
         auto* const filters = dialog.findChild<QComboBox*>("fileTypeCombo");
         first = filters->currentText();
+        EXPECT_EQ(dialog.size().expandedTo({760, 460}), dialog.size());
+        const auto* const header = dialog.findChild<QTreeView*>("treeView")->header();
+        EXPECT_EQ(header->sectionResizeMode(0), QHeaderView::Stretch) << "names have what is left";
+        EXPECT_EQ(header->sectionResizeMode(1), QHeaderView::ResizeToContents);
+        EXPECT_EQ(header->sectionResizeMode(3), QHeaderView::ResizeToContents);
         for (int i = 0; i < filters->count(); ++i) {
             shown += filters->itemText(i);
         }
@@ -110,6 +118,34 @@ TEST(QtDesktop, TheEndingOfAFileOrElseTheChosenFilterSaysItsKind) {
     };
     EXPECT_EQ(chosen(0, "Bee 1.2", {}) + chosen(1, "Bee.B", {}), "Bee 1.2.aBee.B");
     EXPECT_EQ(chosen(2, "Wasp 1.2", {answer(QMessageBox::No), cancel}), "none");
+}
+
+TEST(QtDesktop, WhatIsMarkedInDialogsCanBeRead) {
+    QPalette pale;
+    pale.setColor(QPalette::Highlight, QColor(150, 190, 230));
+    pale.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(pale);
+    const TemporaryFolder folder;
+    folder.write("Wasp.shp", "");
+    const FileDialog files{.filter = "All", .initialFolder = folder.path(), .extension = ".shp"};
+    QtDesktop desktop;
+    QStringList seen;
+    const auto look = [&seen](QDialog& dialog) {
+        const QPalette colours = dialog.palette();
+        EXPECT_GE(
+            contrast(colours.color(QPalette::Highlight), colours.color(QPalette::HighlightedText)),
+            readableContrast);
+        seen << dialog.objectName();
+        dialog.reject();
+    };
+    inDialogs({look});
+    desktop.chooseFileToOpen(files);
+    inDialogs({choose("Wasp"), look, look});
+    desktop.chooseFileToSave(files);
+    inDialogs({look});
+    desktop.showMessage("text", "title", Buttons::Ok, Icon::None);
+    EXPECT_EQ(seen, QStringList({"fileDialog", "", "fileDialog", "messageBox"}));
+    QApplication::setPalette({});
 }
 
 TEST(QtDesktop, MessagesHaveTheirTitleIconAndAnswers) {

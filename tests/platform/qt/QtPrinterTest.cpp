@@ -15,6 +15,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QScreen>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -118,6 +119,7 @@ TEST(QtPrinter, PrintsAsManyCopiesAsItsDialogSaysOrNone) {
     const auto choose = [&](bool isAccepted) {
         onDialog([=](QDialog& dialog) {
             EXPECT_TRUE(dialog.findChild<QLineEdit*>("filename")->text().endsWith("/HMS A_B.pdf"));
+            EXPECT_EQ(dialog.findChild<QSpinBox*>("copies")->value(), 1);
             dialog.findChild<QSpinBox*>("copies")->setValue(2);
             isAccepted ? dialog.accept() : dialog.reject();
         });
@@ -125,6 +127,10 @@ TEST(QtPrinter, PrintsAsManyCopiesAsItsDialogSaysOrNone) {
     };
     EXPECT_EQ(choose(false), std::nullopt);
     EXPECT_EQ(choose(true), 2);
+    EXPECT_EQ(choose(true), 2);
+    printer.setFontName("Courier New");
+    printer.setFontSize(11);
+    EXPECT_EQ(printer.fontName() + ' ' + std::to_string(printer.fontSize()), "Courier New 11");
 }
 
 TEST(QtPagePrinter, PrintsAndShowsPagesAsTheyAreLaidOut) {
@@ -152,6 +158,9 @@ TEST(QtPagePrinter, PrintsAndShowsPagesAsTheyAreLaidOut) {
     EXPECT_EQ(printer.print(layout).file, pdf);
     onDialog([&](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 2);
+        const QSize room = dialog.screen()->availableSize() - QSize(10, 40);
+        EXPECT_EQ(dialog.height(), std::min(900, room.height()));
+        EXPECT_GE(dialog.width(), std::min(800, room.width()));
         dynamic_cast<QPrintPreviewDialog&>(dialog).printer()->setPageSize(QPageSize(QPageSize::A9));
         onDialog(chooseFile);
         for (QAction* const action : dialog.findChildren<QAction*>()) {

@@ -1,5 +1,6 @@
 #include "ReadableStyle.h"
 
+#include "ZoomedStyle.h"
 #include "contrast.h"
 
 #include <gtest/gtest.h>
@@ -23,15 +24,27 @@ constexpr auto byKey = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChang
 
 /// What the style draws by such an option, on one colour.
 QImage drawn(Element element, QStyleOption& option, const QColor& ground, QStyle::State states,
-             const QWidget* widget) {
-    constexpr int size = 24, inset = 4;
-    QImage image(size, size, QImage::Format_RGB32);
+             const QWidget* widget, const QRect& place = {4, 4, 16, 16},
+             const QStyle& style = ReadableStyle("fusion")) {
+    QImage image(24, 24, QImage::Format_RGB32);
     image.fill(ground);
-    option.rect = image.rect().adjusted(inset, inset, -inset, -inset);
+    option.rect = place;
     option.state = QStyle::State_Enabled | QStyle::State_Active | states;
     QPainter painter(&image);
-    ReadableStyle("fusion").drawPrimitive(element, &option, &painter, widget);
+    style.drawPrimitive(element, &option, &painter, widget);
     return image;
+}
+
+/// Where two pictures clearly differ.
+QRect changedPart(const QImage& one, const QImage& other) {
+    QRect part;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const bool isChanged = contrast(one.pixelColor(x, y), other.pixelColor(x, y)) > 1.3;
+            part |= isChanged ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    return part;
 }
 
 /// The contrast with the ground along a line from the left edge to the middle, at its best.
@@ -110,6 +123,11 @@ TEST(ReadableStyle, EdgesAreSeenInLightAndDarkColours) {
         const QImage shown = menu.grab().toImage();
         const auto at = [&shown](QPoint place) { return shown.pixelColor(place); };
         EXPECT_GE(contrast(at(line), at(line + QPoint(0, 2))), edgeContrast);
+        EXPECT_GE(contrast(at({0, line.y()}), at(line + QPoint(0, 2))), edgeContrast);
+        const QRect entry = menu.actionGeometry(separator);
+        const QRect row(entry.left(), line.y(), entry.width(), 1);
+        EXPECT_EQ(changedPart(shown.copy(row), shown.copy(row.translated(0, 2))),
+                  QRect(5, 0, entry.width() - 10, 1));
     }
 }
 
@@ -133,6 +151,61 @@ TEST(ReadableStyle, WhatHasTheKeyboardIsMarkedInLightAndDarkColours) {
         focus.palette.setColor(QPalette::Button, down);
         EXPECT_GE(focusOf(QStyle::PE_FrameFocusRect, focus, down), visibleContrast);
     }
+}
+
+TEST(ReadableStyle, MarksWhatHasTheKeyboardAroundWhatIsSmall) {
+    QStyleOptionFocusRect focus;
+    const auto marked = [&focus](const QRect& place) {
+        return changedPart(
+            drawn(QStyle::PE_FrameFocusRect, focus, Qt::white, {}, nullptr, place),
+            drawn(QStyle::PE_FrameFocusRect, focus, Qt::white, byKey, nullptr, place));
+    };
+    EXPECT_EQ(marked({4, 4, 16, 16}), QRect(4, 4, 16, 16));
+    EXPECT_EQ(marked({4, 4, 10, 16}), QRect(4, 4, 10, 16));
+    EXPECT_EQ(marked({7, 5, 9, 14}), QRect(4, 2, 15, 20));
+    focus.palette.setColor(QPalette::Base, Qt::white);
+    EXPECT_TRUE(changedPart(drawn(QStyle::PE_FrameFocusRect, focus, Qt::white, {}, nullptr),
+                            drawn(QStyle::PE_FrameFocusRect, focus, Qt::white,
+                                  QStyle::State_HasFocus, nullptr))
+                    .isNull())
+        << "the mouse needs no mark";
+}
+
+TEST(ReadableStyle, ArrowsAreAsLargeAsTheirWindowIsZoomed) {
+    const Scale scale(1, 1);
+    const ZoomedStyle style(scale, nullptr);
+    QStyleOption option;
+    option.palette = QPalette(Qt::white);
+    const auto arrow = [&](Element element, double zoom, const QRect& place) {
+        scale.setZoom(zoom);
+        const QImage image = drawn(element, option, Qt::white, {}, nullptr, place, style);
+        QImage ground = image;
+        ground.fill(Qt::white);
+        return std::pair(image, changedPart(image, ground));
+    };
+    const QRect room(0, 0, 24, 24);
+    const auto up = arrow(QStyle::PE_IndicatorArrowUp, 2, room);
+    EXPECT_TRUE(QRect(4, 8, 16, 8).contains(up.second));
+    EXPECT_EQ(up.second, arrow(QStyle::PE_IndicatorArrowUp, 2, room).second);
+    EXPECT_GE(up.second.width(), 14);
+    EXPECT_GE(up.second.height(), 6);
+    EXPECT_EQ(up.first.transformed(QTransform().rotate(180)),
+              arrow(QStyle::PE_IndicatorArrowDown, 2, room).first);
+    EXPECT_LT(contrast(up.first.pixelColor(5, 9), Qt::white), 1.1) << "the corner is above";
+    EXPECT_GT(contrast(up.first.pixelColor(12, 13), Qt::white), visibleContrast);
+    for (const auto& [element, turn] :
+         {std::pair(QStyle::PE_IndicatorArrowLeft, -90), {QStyle::PE_IndicatorArrowRight, 90}}) {
+        const QRect turned = QTransform()
+                                 .translate(12, 12)
+                                 .rotate(turn)
+                                 .translate(-12, -12)
+                                 .mapRect(QRectF(up.second))
+                                 .toRect();
+        EXPECT_EQ(arrow(element, 2, room).second, turned);
+    }
+    const QRect inLittle = arrow(QStyle::PE_IndicatorArrowUp, 3, {7, 7, 10, 10}).second;
+    EXPECT_TRUE(QRect(7, 9, 10, 6).contains(inLittle) && inLittle.width() >= 8);
+    EXPECT_LT(arrow(QStyle::PE_IndicatorArrowUp, 1, room).second.width(), 10);
 }
 
 TEST(ReadableStyle, StandsAroundTheStyleOfQtAloneAndKeepsItsName) {

@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStyle>
 #include <QSystemTrayIcon>
 #include <QTest>
@@ -173,8 +174,20 @@ TEST(OwnedWindow, StandsWhereItsOwnerPutsIt) {
     window.move(40, 30);
     Form dialog({.name = "frmDialog", .caption = "Dialog", .width = 3000, .height = 1500});
     FormWindow inFront(dialog, &window);
+    EXPECT_EQ(inFront.windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(inFront.windowType(), Qt::Dialog);
     dialog.moveTo(owner.left() + 6000, owner.top() + 9000);
     const QPoint place = window.findChild<QWidget*>("part")->pos();
     EXPECT_NEAR(inFront.x() - window.x(), place.x(), 1);
     EXPECT_NEAR(inFront.y() - window.y(), place.y(), 1);
+}
+
+TEST(FormWindow, WithoutABorderIsInTheMiddleAndKeepsItsSize) {
+    Form splash({.name = "frmSplash", .width = 3000, .height = 1500, .border = Border::None});
+    FormWindow window(splash);
+    splash.show();
+    EXPECT_EQ(window.windowType(), Qt::SplashScreen);
+    const QPoint middle = window.screen()->availableGeometry().center();
+    EXPECT_EQ(QRect(window.pos(), window.centralWidget()->size()).center(), middle);
+    EXPECT_TRUE(window.findChildren<QShortcut*>().isEmpty());
 }
