@@ -161,7 +161,9 @@ QString looksOf(FormWindow& window) {
             continue;
         }
         if (const auto* const menu = qobject_cast<const QMenu*>(widget)) {
-            looks += '\n' + name + " menu" + (menu->toolTipsVisible() ? "; tool tips" : "");
+            looks += '\n' + name + " menu" + (menu->toolTipsVisible() ? "; tool tips" : "") +
+                     lettersOf(*menu, window) +
+                     (menu->style() == inside.style() ? "" : "; own style");
             continue;
         }
         const bool isPlaced = isWhole || !widget->property(followsWindow).toBool();

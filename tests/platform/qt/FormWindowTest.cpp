@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -89,6 +90,13 @@ TEST_F(FormWindowTest, AWarningCanBeReadAndToldApartInEachTheme) {
         const QPalette& shown = find<QGroupBox>("frame")->palette();
         EXPECT_GE(contrast(colour(), shown.window().color()), readableContrast);
         EXPECT_NE(colour(), shown.windowText().color());
+        const QPalette& menu = find<QMenu>("menu")->palette();
+        EXPECT_EQ(menu.color(QPalette::Disabled, QPalette::Light).alpha(), 0);
+        EXPECT_EQ(menu.window().color(), shown.window().color());
+        for (const QPalette& each : {menu, window.palette()}) {
+            EXPECT_GE(contrast(each.highlight().color(), each.highlightedText().color()),
+                      readableContrast);
+        }
     }
     form.label.setAlarming(false);
     EXPECT_EQ(colour(), find<QGroupBox>("frame")->palette().windowText().color());
@@ -141,6 +149,15 @@ TEST_F(FormWindowTest, AKeyGoesToItsBoxFirstAndThenToTheForm) {
         EXPECT_EQ(isOfText(Qt::Key_C), !isLocked);
         name.selectAll();
         EXPECT_TRUE(isOfText(Qt::Key_C));
+    }
+    // And of those that only some desktops know, everywhere.
+    auto* const combo = find<QComboBox>("combo");
+    for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, Qt::ControlModifier);
+        event.ignore();
+        QApplication::sendEvent(combo, &event);
+        const bool mayBeOfTexts = std::string_view("ACVXYZ").find(char(key)) != std::string::npos;
+        EXPECT_TRUE(mayBeOfTexts || !(event.isAccepted() || isOfText(Qt::Key(key)))) << char(key);
     }
     EXPECT_FALSE(isOfText(Qt::Key_Z));
     QTest::keyClick(&name, Qt::Key_B);
@@ -276,6 +293,27 @@ TEST_F(FormWindowTest, PicturesAreAsLargeOnTheScreenAsTheyAre) {
     form.picture.showPainted();
     EXPECT_EQ(box->grab().toImage().pixelColor(119, 39), QColor(Qt::blue));
     EXPECT_EQ(box->grab().toImage().pixelColor(99, 39), QColor(Qt::white));
+    // Also where only a part is painted, and smoothed.
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 120; ++x) {
+            picture.pixel(x, y) = static_cast<std::uint32_t>((x * 2) << 16 | (y * 6));
+        }
+    }
+    form.picture.setPicture(picture);
+    for (const int percent : {100, 125, 200}) {
+        form.setZoom(Zoom(percent));
+        const QImage whole = box->grab().toImage();
+        for (const QRect& part :
+             {QRect(0, 0, 30, 20), QRect(33, 7, 41, 13), QRect(90, 20, 30, 20)}) {
+            const QImage grabbed = box->grab(part).toImage();
+            for (int x = 0; x < part.width(); ++x) {
+                const QColor one = grabbed.pixelColor(x, part.height() / 2);
+                const QColor other = whole.pixelColor(part.x() + x, part.center().y() + 1);
+                EXPECT_NEAR(one.red(), other.red(), 8) << percent << ": " << part.x() + x;
+                EXPECT_NEAR(one.blue(), other.blue(), 14);
+            }
+        }
+    }
 }
 
 TEST_F(FormWindowTest, NoTimerRunsIntoRulesThatPaint) {

@@ -90,6 +90,33 @@ TEST(ReadableStyle, ContrastIsThatOfTheGuidelines) {
     EXPECT_NEAR(contrast(QColor(119, 119, 119), Qt::white), 4.48, 0.005);
 }
 
+TEST(ReadableStyle, ColoursBecomeNoOtherThanTheyMust) {
+    const QColor navy(0, 0, 128), pale(250, 240, 200), grey(128, 128, 128), red(200, 0, 0);
+    for (const auto& [ground, colour] : {std::pair(QColor(Qt::white), pale),
+                                         {QColor(Qt::black), navy},
+                                         {grey, red},
+                                         {QColor(Qt::white), grey.lighter(110)},
+                                         {QColor(Qt::black), QColor(Qt::black)}}) {
+        const QColor readable = readableOn(ground, colour);
+        const double reached = contrast(readable, ground);
+        EXPECT_TRUE(reached >= readableContrast && reached < 5.1) << reached;
+        EXPECT_NEAR(std::max(readable.hslHueF(), 0.0F), std::max(colour.hslHueF(), 0.0F), 0.02);
+        EXPECT_EQ(readableOn(ground, readable), readable);
+        EXPECT_GE(contrast(readableOn(ground, colour, 3), ground), 3);
+    }
+    EXPECT_EQ(readableOn(Qt::white, red), red);
+    QPalette palette(QColor(240, 240, 240));
+    palette.setColor(QPalette::Highlight, QColor(0, 0, 160));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(130, 130, 130));
+    palette.setColor(QPalette::Active, QPalette::WindowText, QColor(130, 130, 130));
+    const QPalette colours = readableColours(palette);
+    EXPECT_TRUE(colours.isBrushSet(QPalette::Active, QPalette::WindowText));
+    EXPECT_FALSE(colours.isBrushSet(QPalette::Active, QPalette::Highlight)) << "it was readable";
+    EXPECT_FALSE(colours.isBrushSet(QPalette::Disabled, QPalette::ButtonText)) << "it is seen";
+    EXPECT_EQ(warningColour(palette), red);
+}
+
 TEST(ReadableStyle, EdgesAreSeenInLightAndDarkColours) {
     ReadableStyle style("fusion");
     constexpr double soft = 0.85;  // where they are round

@@ -119,7 +119,11 @@ TEST_F(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
 TEST_F(SizableWindow, ScrollsAFormThatIsLargerThanTheScreen) {
     form.resize(6000 + Form::frameWidth, 30000 + Form::frameHeight);
     const QSize shown = window.size();
-    EXPECT_LT(shown.height(), window.screen()->availableSize().height());
+    const QSize room = window.screen()->availableSize();
+    EXPECT_EQ(shown.height(), room.height() - 40) << "room for a title";
+    form.resize(30000 + Form::frameWidth, 30000 + Form::frameHeight);
+    EXPECT_EQ(window.size(), room - QSize(10, 40));
+    form.resize(6000 + Form::frameWidth, 30000 + Form::frameHeight);
     EXPECT_EQ(form.place().height, 30000) << "the screen is no matter of the form's";
     EXPECT_EQ(Scale(60000, 60000).pixels(1500), 80) << "it can be read, and scrolls";
     auto* const view = qobject_cast<QScrollArea*>(window.centralWidget());
