@@ -8,6 +8,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QTest>
@@ -144,6 +145,12 @@ private:
                  rest.empty()
                      ? told->actionInterface()->doAction(told->actionInterface()->toggleAction())
                      : told->setText(QAccessible::Value, QString::fromStdString(rest));
+             }},
+            {"paste",
+             [&] {
+                 const std::string lines = replaced(rest, "+", "\n");
+                 QApplication::clipboard()->setText(QString::fromStdString(lines));
+                 QTest::keyClick(widget, Qt::Key_V, Qt::ControlModifier);
              }},
             {"wheel",
              [&] {

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QItemSelectionModel>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QToolTip>
@@ -62,6 +63,15 @@ protected:
         const std::string text = item == nullptr ? std::string() : describe(item);
         QToolTip::showText(help->globalPos(), toToolTip(text.empty() ? m_control.toolTip() : text));
         return true;
+    }
+
+    /// No click and no key takes the selection off an item: acts would still be about it.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override {
+        const auto command = QTreeWidget::selectionCommand(index, event);
+        return command.testFlag(QItemSelectionModel::Deselect)
+                   ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                   : command;
     }
 
     void focusInEvent(QFocusEvent* event) override {

@@ -93,7 +93,24 @@ bool takesEditKeys(QEvent& event, const TextBox& box) {
 /// The text of a box with many lines as models keep it. Its plain text would have blanks for
 /// no-break spaces, which names of files may hold.
 std::string textOf(const QPlainTextEdit& edit) {
-    return edit.document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n").toStdString();
+    return edit.document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, "\r\n")
+        .replace(QChar::LineSeparator, "\r\n")  // of Shift+Enter
+        .toStdString();
+}
+
+/// A text that was pasted, perhaps, into a box of one line: where lines end it has blanks, as the
+/// box shows it.
+QString oneLine(QString text) {
+    text.replace("\r\n", " ");
+    for (QChar& each : text) {
+        if (each == '\r' || each == '\n' || each == QChar::LineSeparator ||
+            each == QChar::ParagraphSeparator) {
+            each = ' ';
+        }
+    }
+    return text;
 }
 
 /// How wide the letters of a line are, in percent: as those of its window, or narrower, if it is to
@@ -237,9 +254,13 @@ QWidget* makeWidget(TextBox& box, QWidget* parent, const Scale& scale) {
     keepInStep(widget, box, show);
     keepZoomed(widget, scale, show);
     // Of what a voice writes into it, the line says only that its text is another.
-    QObject::connect(widget, &QLineEdit::textChanged, [&box, show](const QString& text) {
-        box.type(text.toStdString());
+    QObject::connect(widget, &QLineEdit::textChanged, [widget, &box, show](const QString& text) {
+        const QString line = oneLine(text);
+        box.type(line.toStdString());
         show();  // a locked box takes nothing
+        if (line != text) {
+            widget->end(false);
+        }
     });
     new EventHook(widget, [widget, &box, scale, show](QEvent* event) {
         if (isNewPalette(*event)) {
@@ -282,7 +303,7 @@ QWidget* makeWidget(ComboBox& box, QWidget* parent, const Scale& scale) {
     widget->view()->setTextElideMode(Qt::ElideNone);
     new EventHook(widget, [](QEvent* event) { return isRatherOfMenus(*event); });
     QObject::connect(widget, &QComboBox::editTextChanged,
-                     [&box](const QString& text) { box.type(text.toStdString()); });
+                     [&box](const QString& text) { box.type(oneLine(text).toStdString()); });
     QObject::connect(widget->lineEdit(), &QLineEdit::returnPressed, [&box] { box.pressEnter(); });
     QObject::connect(widget, &QComboBox::activated, [widget, &box](int item) {
         box.choose(static_cast<std::size_t>(item));
