@@ -56,8 +56,8 @@ bool ShipClass::saveShip(std::string& in_sFileName) {
 bool ShipClass::loadShip(const std::string& in_sFileName) {
     m_refusedLines.clear();
     return succeeds([&](int& line) {
-        g_bAutoMass = false;
         const ShipText file = readShip(in_sFileName);
+        g_bAutoMass = false;
         readShipFile(file.text, line);
         if (file.source != ShipSource::Code) {
             takeFileName(in_sFileName);

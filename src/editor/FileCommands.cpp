@@ -59,6 +59,9 @@ void FileCommands::show() {
     keySaveNowhere.setEnabled(!hasFile);
     mnuSave.setEnabled(hasFile);
     mnuSave.setToolTip(hasFile ? "Saves the design into its file" : hasNoFile);
+    if (hasFile) {
+        window().takeBack(hasNoFile);
+    }
 }
 
 bool FileCommands::loadFile(const std::string& fileName) {
@@ -97,6 +100,7 @@ void FileCommands::load(const std::string& fileName) {
         }
     }
     if (loadFile(fileName)) {
+        window().takeBack(m_saidOfDesign);
         if (file.source != ShipSource::Code) {
             m_others.recovery.noteFile(ship().origin, file.text);
         }
@@ -247,7 +251,7 @@ void FileCommands::mnuNew_Click() {
 void FileCommands::mnuLoad_Click() {
     const auto file = services().desktop.chooseFileToOpen(shipDialog(services().appFolder));
     if (file) {
-        whenReplaceable([this, name = *file] { load(name); });
+        openFiles({*file});
     }
 }
 

@@ -180,6 +180,7 @@ Control* FindingsPanel::controlOf(const ShipFinding& finding) {
         ListView& aboard = m_places.aboard.lvCurrentWeapons;
         if (const auto row = aboard.find(finding.system)) {
             aboard.select(*row);
+            aboard.click();  // which shows what it weighs and costs
             return &aboard;
         }
         return &m_places.tree.tvWeapons;

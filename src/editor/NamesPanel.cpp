@@ -26,10 +26,13 @@ void NamesPanel::show() {
 /// What is being typed gives way to the name of the design, but not without a word.
 void NamesPanel::show(const Name& name) {
     const std::string& held = ship().*name.name;
-    if (name.isEditing && name.box.text() != held) {
-        window().say("Not kept: " + quote(name.box.text()) + ". Enter keeps what is typed");
+    if (const std::string typed = name.box.text();
+        name.isEditing && typed != name.shown && typed != held) {
+        m_notKept = "Not kept: " + quote(typed) + ". Enter keeps what is typed";
+        window().say(m_notKept);
     }
     name.box.setText(held);
+    name.shown = held;
 }
 
 void NamesPanel::nameShip(const std::string& designer, const std::string& shipName) {

@@ -3,6 +3,9 @@
 #include "Panel.h"
 #include "TextBox.h"
 
+#include <string>
+#include <utility>
+
 namespace fleetwright {
 
 /// The names of the ship and of its designer. A double-click, or F2, opens a box; the Enter key or
@@ -14,6 +17,8 @@ public:
     NamesPanel(const PanelContext& context, Container& fraInfo, Handler changed);
 
     void show();
+    /// What the last act has said of a name that was being typed and gave way; empty if none did.
+    std::string takeNotKept() { return std::exchange(m_notKept, {}); }
     /// Gives the ship its names.
     void nameShip(const std::string& designer, const std::string& shipName);
 
@@ -40,6 +45,7 @@ private:
     struct Name {
         TextBox& box;
         bool& isEditing;
+        std::string& shown;  ///< what the program has put into the box
         std::string ShipClass::* name;
     };
 
@@ -48,8 +54,12 @@ private:
     bool txtShipName_KeyPress(int KeyAscii) { return leaveByKey(nameOfShip(), KeyAscii); }
     bool txtDesigner_KeyPress(int KeyAscii) { return leaveByKey(nameOfDesigner(), KeyAscii); }
 
-    Name nameOfShip() { return {txtShipName, bShipNameEditing, &ShipClass::g_sShipName}; }
-    Name nameOfDesigner() { return {txtDesigner, bDesignerEditing, &ShipClass::g_sDesignerName}; }
+    Name nameOfShip() {
+        return {txtShipName, bShipNameEditing, m_shownShipName, &ShipClass::g_sShipName};
+    }
+    Name nameOfDesigner() {
+        return {txtDesigner, bDesignerEditing, m_shownDesigner, &ShipClass::g_sDesignerName};
+    }
     void show(const Name& name);
     void openOrCommit(const Name& name);
     bool leaveByKey(const Name& name, int KeyAscii);
@@ -58,6 +68,8 @@ private:
 
     bool bShipNameEditing = false;  ///< the name's box is open
     bool bDesignerEditing = false;  ///< the designer's box is open
+    std::string m_shownShipName, m_shownDesigner;
+    std::string m_notKept;
 };
 
 }  // namespace fleetwright

@@ -206,7 +206,7 @@ void RecoveryPanel::show(std::vector<RecoveryFolder::Design> designs) {
         }
     } else if (dialog.chosen) {
         m_open(shown[*dialog.chosen].file);
-    } else if (isQuestion) {
+    } else if (isQuestion && !shown.empty()) {
         window().say("The designs stay put aside: see the menu Design");
     }
 }

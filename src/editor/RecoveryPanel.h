@@ -47,6 +47,8 @@ public:
     bool giveUpDesign();
     /// The same for the one in a file, which does not go for it even if it is a design put aside.
     bool giveUpDesignFor(const std::filesystem::path& file);
+    /// Whether the design is in a file as it is; true also if nothing is put aside.
+    bool isSafe() const;
     /// That a crash has left others than the one that was opened last; empty if it has not.
     std::string alsoLeft() const;
     /// Asks about the designs that a crash has left behind, as soon as the start is over.
@@ -70,7 +72,6 @@ private:
     void tmrRecovery_Timer();
     void tmrAsk_Timer();
     void mnuPutAside_Click();
-    bool isSafe() const;
     bool isLostToSheet() const;
     RecoveryFolder::Aside design() const;
     void show(std::vector<RecoveryFolder::Design> designs);

@@ -24,6 +24,7 @@ frmMain::frmMain(MainWindowServices services)
               .rested =
                   [this](std::string_view kind) {
                       history.rest(kind);
+                      sayNotKept();
                       tellNews();
                       Rested.raise();
                   }}),
@@ -152,6 +153,15 @@ void frmMain::goBackTo(const DesignMoment& moment) {
             // A ship that a file has brought out of range is shown as far as it goes.
         }
     });
+}
+
+/// What an act itself says hides that a name which was being typed gave way to it.
+void frmMain::sayNotKept() {
+    const std::string notKept = names.takeNotKept(), said = sbStatus.text();
+    if (!notKept.empty() && said != notKept) {
+        const char* const between = said.empty() ? "" : said.ends_with('.') ? " " : ". ";
+        sbStatus.setText(said + between + notKept);
+    }
 }
 
 void frmMain::tellNews() {

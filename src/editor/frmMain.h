@@ -29,7 +29,7 @@
 #include "WindowCommands.h"
 #include "ZoomPanel.h"
 #include "clsMRUFiles.h"
-#include "sheetShip.h"
+#include "drawSSD.h"
 
 #include <filesystem>
 #include <memory>
@@ -80,6 +80,7 @@ public:
     FiguresPanel figures{m_context, mass.lblMassLeft};
     NamesPanel names{m_context, figures.fraInfo, [this] {
                          recovery.tmrRecovery.restart();
+                         findings.show();
                          compare.show();
                      }};
     SystemsPanel aboard{m_context, [this] { previews.clear(1); }};
@@ -101,7 +102,7 @@ public:
     FindingsPanel findings{
         m_context, mnuDesign, sbStatus, history, {hull, mass, names, aboard, tree}};
     SheetPanel sheets{m_context, mnuDesign, aboard.lvCurrentWeapons,
-                      [this] { return sheetShip(*this); }};
+                      [this] { return sheetShipOf(*g_Ship); }};
     SharePanel share{m_context, mnuDesign,
                      [this](const std::string& code) { files.openFiles({code}); }};
     ComparePanel compare{m_context, mnuDesign};
@@ -135,6 +136,7 @@ private:
     void RefreshScreen();
     DesignMoment moment() const;
     void goBackTo(const DesignMoment& moment);
+    void sayNotKept();
     void tellNews();
     void tmrRefreshScreen_Timer();
 

@@ -11,10 +11,13 @@ ShipAtHand shipAtHand(const frmMain& window) {
         throw Error("There is no ship at hand");
     }
     const ShipClass& ship = *window.g_Ship;
+    const bool isChanged = !ship.g_bSaved || !window.recovery.isSafe();
+    // Nothing is ever saved into a sheet.
+    const bool isInFile = !ship.origin.empty() && !(isChanged && ship.g_sSaveName.empty());
     return {.name = ship.g_sShipName,
-            .file = ship.origin,
-            .code = ship.origin.empty() ? designCode(ship.shipFile()) : std::string(),
-            .isChanged = !ship.g_bSaved};
+            .file = isInFile ? ship.origin : std::string(),
+            .code = isInFile ? std::string() : designCode(ship.shipFile()),
+            .isChanged = isChanged};
 }
 
 }  // namespace fleetwright

@@ -59,6 +59,8 @@ struct FleetContext {
     std::function<void(const FleetAct&, const std::function<void(Fleet&)>&)> act;
     std::function<void()> refresh;                ///< copies the fleet to all controls
     std::function<void(const std::string&)> say;  ///< puts a text on the status line
+    /// Takes a text off the status line, if it still stands there.
+    std::function<void(const std::string&)> takeBack;
     /// Copies the fleet to all controls when another one has taken its place.
     std::function<void()> restart;
 };

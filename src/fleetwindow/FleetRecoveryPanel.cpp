@@ -68,8 +68,10 @@ void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
             services().recovery->put(now);
             m_aside = std::move(now);
         }
+        window().takeBack(m_complaint);
     } catch (const FileError& error) {
-        window().say("The fleet cannot be put aside: " + complaint(error));
+        m_complaint = "The fleet cannot be put aside: " + complaint(error);
+        window().say(m_complaint);
     }
 }
 

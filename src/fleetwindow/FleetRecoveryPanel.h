@@ -34,6 +34,7 @@ private:
     RecoveryFolder::Aside aside() const;
 
     std::optional<RecoveryFolder::Aside> m_aside;  ///< the fleet as it was put aside last
+    std::string m_complaint;                       ///< when that failed last
 };
 
 }  // namespace fleetwright

@@ -35,12 +35,23 @@ frmFleet::frmFleet(FleetServices services)
                               const std::function<void(Fleet&)>& change) { act(step, change); },
                 .refresh = [this] { refresh(); },
                 .say = [this](const std::string& text) { sbFleet.setText(text); },
+                .takeBack =
+                    [this](const std::string& text) {
+                        if (sbFleet.text() == text) {
+                            sbFleet.setText("");
+                        }
+                    },
                 .restart = [this] { restart(); }} {
     onFilesDrop = [this](const std::vector<std::string>& dropped) {
-        if (toSmallLetters(dropped.front()).ends_with(fleetExtension)) {
+        const bool isFleet = std::ranges::any_of(dropped, [](const std::string& file) {
+            return toSmallLetters(file).ends_with(fleetExtension);
+        });
+        if (!isFleet) {
+            ships.addFiles(dropped);
+        } else if (dropped.size() == 1) {
             openFleet(dropped.front());
         } else {
-            ships.addFiles(dropped);
+            sbFleet.setText("One fleet at a time can be opened, and none together with ships");
         }
     };
     placeParts();
@@ -127,6 +138,19 @@ void frmFleet::refresh() {
     output.show();
     recovery.noteChange();
     tellSums();
+}
+
+/// What has stood on the status line for a whole turn says nothing new. And what could not be put
+/// aside may find room now.
+void frmFleet::tmrFleetStatus_Timer() {
+    if (!isLoaded()) {
+        return;
+    }
+    if (sbFleet.text() == m_lastStatus) {
+        sbFleet.setText("");
+    }
+    m_lastStatus = sbFleet.text();
+    recovery.noteChange();
 }
 
 /// What the fleet comes to, for who cannot see it change.

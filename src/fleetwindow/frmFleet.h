@@ -61,6 +61,8 @@ public:
     StatusBar sbFleet{*this, {.name = "sbFleet", .accessibleDescription = "Status"}};
     /// Reads the ships that are not known yet, a few at a time.
     Timer tmrLook{*this, "tmrLook", 20, false, [this] { refresh(); }};
+    /// Wipes the status line and tries again to put the fleet aside, as the main window does.
+    Timer tmrFleetStatus{*this, "tmrFleetStatus", 15000, true, [this] { tmrFleetStatus_Timer(); }};
 
 protected:
     void Form_Load() override;
@@ -74,10 +76,12 @@ private:
     void refresh();
     void placeParts();
     void tellSums();
+    void tmrFleetStatus_Timer();
 
     std::string m_catalogue;                ///< by which the ships were read
     bool m_isShowing = false;               ///< controls that change write nothing back
     std::optional<std::string> m_toldSums;  ///< since the window was opened
+    std::string m_lastStatus;               ///< the status line at the last turn
 };
 
 }  // namespace fleetwright
