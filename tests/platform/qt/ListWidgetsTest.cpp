@@ -5,12 +5,15 @@
 #include "FormWindowTest.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 #include <QTreeWidget>
 #include <QWindow>
 
@@ -162,6 +165,41 @@ TEST_F(FormWindowTest, APictureIsDroppedOnAnyPartOfAListInItsWindowAlone) {
     EXPECT_FALSE(drawings.act) << "it was dragged";
     EXPECT_EQ(takeLog(), "image image image image ");
     EXPECT_EQ(drop(dragging), 0) << "the drag has ended";
+}
+
+TEST_F(FormWindowTest, TipsAreOfTheRowBelowThePointerOrElseOfTheList) {
+    form.list.setContent({.rows = {{"a", "Ant"}, {"b", "Bee"}}, .selected = {}});
+    form.list.setToolTip("A list");
+    form.list.onMouseDown = [&](const MousePress& press) {
+        form.log += "menu" + std::to_string(press.button) + ' ';
+    };
+    auto* const list = find<QTreeWidget>("list");
+    QApplication::processEvents();
+    const auto tipAt = [list](const QPoint& place) {
+        QHelpEvent asked(QEvent::ToolTip, place, list->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list->viewport(), &asked);
+        return QToolTip::text();
+    };
+    const QPoint second = list->visualItemRect(list->topLevelItem(1)).center();
+    EXPECT_EQ(tipAt(second), "row\n<b");
+    EXPECT_EQ(tipAt({5, list->viewport()->height() - 2}), "A list");
+    for (QWidget* const each : QApplication::topLevelWidgets()) {
+        if (each->inherits("QTipLabel")) {
+            each->close();
+        }
+    }
+    form.list.onDblClick = [&] { form.log += "double "; };
+    for (const auto button : {Qt::MiddleButton, Qt::LeftButton}) {
+        QTest::mouseClick(list->viewport(), button, {}, second);
+        QTest::mouseDClick(list->viewport(), button, {}, second);
+        QTest::mouseRelease(list->viewport(), button, {}, second);
+        EXPECT_EQ(takeLog().find("double") != std::string::npos, button == Qt::LeftButton);
+    }
+    for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
+        QContextMenuEvent asked(reason, second, list->viewport()->mapToGlobal(second));
+        QApplication::sendEvent(list->viewport(), &asked);
+    }
+    EXPECT_EQ(takeLog(), "menu2 ") << "the mouse has told of itself";
 }
 
 TEST_F(FormWindowTest, ARowChosenByTheRightButtonCountsAsClicked) {
