@@ -168,6 +168,11 @@ TEST(SizableWindowWithMenus, HasRoomForItsFormBelowThem) {
     window.resize(150, window.height());
     QApplication::processEvents();
     EXPECT_EQ(line->toolTip(), "Saved in a folder with a long name");
+    // It stands at the edge of what is seen.
+    form.resize(6000 + Form::frameWidth, 30000 + Form::frameHeight);
+    QApplication::processEvents();
+    EXPECT_EQ(line->mapTo(view->viewport(), line->rect().bottomLeft()),
+              view->viewport()->rect().bottomLeft());
 }
 
 TEST(OwnedWindow, StandsWhereItsOwnerPutsIt) {

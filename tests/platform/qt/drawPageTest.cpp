@@ -1,6 +1,7 @@
 // Pages as they are drawn, beside what another program draws of their PDF files.
 
 #include "drawPage.h"
+#include "pagePixels.h"
 #include "pdfFile.h"
 
 #include "Raster.h"
@@ -124,4 +125,14 @@ TEST(DrawPage, LooksAsThePdfFileOfThePageDoes) {
             EXPECT_LT(apart, alike) << x << " mm, " << y << " mm";
         }
     }
+}
+
+TEST(PagePixels, ShowPicturesSmoothly) {
+    const auto edge = std::make_shared<Raster>(2, 1);
+    edge->pixel(0, 0) = 0x000000;
+    const Page page{{PagePicture{nullptr, edge, {0, 0, 10, 10}, {0, 0, 10, 10}}}};
+    Raster shown = pagePixels(page, 10, 100);
+    EXPECT_EQ(shown.pixel(5, 50), 0x000000U);
+    EXPECT_NEAR(shown.pixel(50, 50) & 0xFFU, 0x80, 0x20);
+    EXPECT_EQ(shown.pixel(95, 50), 0xFFFFFFU);
 }
