@@ -32,7 +32,6 @@ void drawText(QPainter& painter, const PageText& text) {
 void drawPage(QPainter& painter, const Page& page) {
     drawPageShapes(painter, page);
     painter.setLayoutDirection(Qt::LeftToRight);
-    painter.setRenderHint(QPainter::TextAntialiasing);
     for (const PageItem& item : page.items) {
         if (const auto* const text = std::get_if<PageText>(&item)) {
             drawText(painter, *text);
