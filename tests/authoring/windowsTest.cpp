@@ -5,6 +5,7 @@
 #include "TemporaryFolder.h"
 #include "caseFile.h"
 #include "fakeServices.h"
+#include "formTexts.h"
 #include "frmSSDMapCreator.h"
 #include "frmSSDView.h"
 #include "mapMarks.h"
@@ -158,6 +159,9 @@ struct AuthorsWindows {
 TEST(AuthorsWindows, MakeMapsAndShowSheets) {
     expectCases("authoring/golden/windows.txt", [](const Case& given) {
         AuthorsWindows windows;
+        if (given["acts"].empty()) {
+            return layoutOf(windows.creator) + layoutOf(windows.viewer);
+        }
         return playIn(windows, given["acts"]);
     });
 }

@@ -4,6 +4,7 @@
 
 #include "caseFile.h"
 #include "formTexts.h"
+#include "frmAmountSlider.h"
 
 #include <gtest/gtest.h>
 
@@ -11,16 +12,20 @@
 
 using namespace fleetwright;
 
-TEST(FrmMain, IsLaidOutAsItIs) {
+TEST(FrmMain, AndItsOtherWindowsAreLaidOutAsTheyAre) {
     TestWindow test;
     test.window().show();
     test.fleet().show();
     expectCases("editor/golden/layout.txt", [&](const Case& each) {
-        if (each["fleet"].empty()) {
-            return layoutOf(test.window());
+        if (!each["fleet"].empty()) {
+            test.fleet().resize(std::stoi(each["fleet"]), std::stoi(each["fleet"]));
+            return layoutOf(test.fleet());
         }
-        test.fleet().resize(std::stoi(each["fleet"]), std::stoi(each["fleet"]));
-        return layoutOf(test.fleet());
+        const std::string& window = each["window"];
+        return window == "findings"  ? layoutOf(test.window().findings.list)
+               : window == "compare" ? layoutOf(test.window().compare.beside)
+               : window == "amount"  ? layoutOf(frmAmountSlider())
+                                     : layoutOf(test.window());
     });
 }
 

@@ -14,6 +14,7 @@
 #include "formTexts.h"
 #include "frmAbout.h"
 #include "frmExtras.h"
+#include "frmPutAside.h"
 #include "frmSplash.h"
 #include "paths.h"
 
@@ -103,6 +104,10 @@ public:
 
     /// The acts, each with what was asked for and what it has changed.
     std::string run(const Case& each) {
+        if (each["acts"].empty()) {
+            return layoutOf(splash) + layoutOf(extras) + layoutOf(about) +
+                   layoutOf(frmPutAside({.desktop = machine, .moveToTrash = {}}));
+        }
         folder.write("program/images.exe", "archive");
         return playActs(each["acts"], {.act = [this](const std::string& act) { doLine(act); },
                                        .takeLog = [this] { return std::exchange(machine.log, {}); },

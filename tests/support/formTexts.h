@@ -4,6 +4,7 @@
 
 #include "Control.h"
 #include "DragImage.h"
+#include "Form.h"
 #include "ListView.h"
 #include "OptionButton.h"
 #include "Shortcut.h"
@@ -11,8 +12,11 @@
 #include "Timer.h"
 #include "TreeView.h"
 
+#include <array>
+#include <initializer_list>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace fleetwright {
 
@@ -79,9 +83,26 @@ inline std::string layoutOf(const Container& container, const std::string& inden
               design.accessibleName, design.accessibleDescription}) {
             text += words.empty() ? "" : " \"" + words + '"';
         }
-        text += std::string(design.isFlat ? " flat" : "") + (design.isLocked ? " locked" : "") +
-                (design.isGraphical ? " graphical" : "") + (design.isVerbatim ? " verbatim" : "") +
-                (design.isOn ? " on" : "") + (design.isVisible ? "" : " hidden");
+        for (const auto& [is, word] : std::initializer_list<std::pair<bool, const char*>>{
+                 {design.isFlat, " flat"},
+                 {design.isFramed, " framed"},
+                 {design.isHeading, " heading"},
+                 {design.isAlarming, " alarming"},
+                 {design.isLocked, " locked"},
+                 {design.isMultiline, " multiline"},
+                 {design.isUndoneByForm, " undone by form"},
+                 {design.isGraphical, " graphical"},
+                 {design.isVerbatim, " verbatim"},
+                 {design.isDefault, " default"},
+                 {design.isCancel, " cancel"},
+                 {design.isOn, " on"},
+                 {!design.isVisible, " hidden"},
+                 {!design.isEnabled, " disabled"}}) {
+            text += is ? word : "";
+        }
+        if (const auto* const timer = dynamic_cast<const Timer*>(control)) {
+            text += ' ' + std::to_string(timer->interval());
+        }
         if (const auto* const list = dynamic_cast<const ListView*>(control)) {
             for (const ListView::Column& column : list->columns()) {
                 text += ' ' + column.title + ' ' + std::to_string(column.width);
@@ -93,6 +114,16 @@ inline std::string layoutOf(const Container& container, const std::string& inden
         }
     }
     return text;
+}
+
+/// The same of a window, below its own line.
+inline std::string layoutOf(const Form& form) {
+    const ControlDesign& design = form.design();
+    return form.name() + ' ' + std::to_string(design.place.width) + ' ' +
+           std::to_string(design.place.height) + " \"" + form.caption() + '"' +
+           std::array{"", " with minimize", " sizable", " bare"}.at(
+               static_cast<std::size_t>(form.border())) +
+           '\n' + layoutOf(static_cast<const Container&>(form));
 }
 
 }  // namespace fleetwright
