@@ -238,7 +238,7 @@ public:
                .desktop = desktop,
                .clock = m_clock,
                .confirmsExit = m_globals.g_bConfirmExit,
-               .recovery = &m_recovery,
+               .recovery = m_recovery,
                .canReadShips = [this] { return m_main.isAtRest(); },
                .readShip = [this](const std::string& ship) { return m_fleetTools.readShip(ship); },
                .catalogue = [this] { return m_fleetTools.catalogue(); },

@@ -80,7 +80,6 @@ bool FileCommands::loadFile(const std::string& fileName) {
 /// Loads a file as a command does, and says what is wrong with it. A sheet from which no ship can
 /// be had leaves the one at hand, and so does a code that does not load.
 void FileCommands::load(const std::string& fileName) {
-    fileFault.reset();
     ShipText file;
     try {
         file = readShip(fileName);
@@ -162,7 +161,6 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
         const std::string shipFile = readBytes(nativePath(name));
         const std::string steps = RecoveryFolder::stepsOf(nativePath(name));
         window().acts.letActsIn([&] {
-            fileFault.reset();
             if (replaceBy(name)) {
                 act([this] {
                     ship().g_sSaveName.clear();
@@ -186,6 +184,7 @@ void FileCommands::openPutAside(const std::filesystem::path& file) {
 /// Replaces the ship by the one in a file or a code, or by a new one if that does not load. False
 /// also if the one at hand may not go.
 bool FileCommands::replaceBy(const std::string& fileName) {
+    fileFault.reset();
     const bool mayGo = isDesignCode(fileName)
                            ? m_others.recovery.giveUpDesign()
                            : m_others.recovery.giveUpDesignFor(nativePath(fileName));
@@ -309,10 +308,9 @@ void FileCommands::saveAs(std::string fileName) {
     window().say("Saving...");
     bool isSaved = false;
     act([&] { isSaved = ship().saveShip(fileName); });
-    if (!isSaved && ship().fileFault()) {
-        window().say("Saving... " + complaint(fileName, *ship().fileFault()));
-    }
-    if (isSaved) {
+    if (const auto& fault = ship().fileFault()) {
+        window().say("Saving... " + complaint(fileName, *fault));
+    } else if (isSaved) {
         m_others.recovery.noteSafe();
         m_others.recovery.noteFile(ship().g_sSaveName, toUtf8(ship().shipFile()));
         m_others.history.noteSaved();

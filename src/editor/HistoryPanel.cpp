@@ -54,9 +54,6 @@ std::string HistoryPanel::steps() const {
 }
 
 bool HistoryPanel::adopt(const std::string& steps, const std::string& shipFile) {
-    if (!m_history) {
-        return true;
-    }
     std::optional<StoredSteps> stored = StoredSteps::of(steps, ship());
     const DesignMoment opened = m_others.moment();
     const bool isFound = stored && stored->goTo([&](const DesignMoment& moment) {
@@ -67,14 +64,8 @@ bool HistoryPanel::adopt(const std::string& steps, const std::string& shipFile) 
         ship().restore(opened.ship);
         return false;
     }
-    // What was its file may have become anything since then.
-    static_cast<ShipNames&>(stored->now.ship) = [&] {
-        ShipNames names = opened.ship;  // NOLINT(cppcoreguidelines-slicing): these alone
-        names.g_sShipName = stored->now.ship.g_sShipName;
-        names.g_sDesignerName = stored->now.ship.g_sDesignerName;
-        return names;
-    }();
-    stored->now.ship.g_bSaved = opened.ship.g_bSaved;
+    // It has no file: what was one may have become anything since then.
+    stored->now.ship.g_bSaved = false;
     m_others.goBackTo(stored->now);
     m_adopted = std::move(stored);
     return true;

@@ -98,7 +98,6 @@ void frmMain::Form_Unload(bool& cancel) {
     if (cancel) {
         return;
     }
-    m_shipEvents.clear();
     g_Ship.reset();
     m_services.freeFormulaLibrary();
     m_services.desktop.unloadAllForms();

@@ -55,30 +55,29 @@ void FleetFilePanel::show() {
 }
 
 void FleetFilePanel::open(const std::filesystem::path& file) {
-    try {
-        readFleet(file);  // what is none leaves the one at hand without a question
-        if (m_recovery.giveUpFleet(true)) {
-            const std::vector<Fault> faults = document().open(file);
-            m_recovery.noteOpened(file);
-            window().restart();
-            window().say(faultsIn(file, faults));
-        }
-    } catch (const FileError& error) {
-        showFileError(services().desktop, error);
-    }
+    replaceBy(file, [&](Fleet) { return faultsIn(file, document().open(file)); });
 }
 
 void FleetFilePanel::openPutAside(const std::filesystem::path& file) {
+    const std::string steps = RecoveryFolder::stepsOf(file);
+    replaceBy(file, [&](Fleet fleet) {
+        const bool hasSteps = document().beginAside(std::move(fleet), file.parent_path(), steps);
+        return std::string("This fleet is not saved yet. Save As gives it a file.") +
+               (hasSteps ? "" : " Its steps cannot be undone any more.");
+    });
+}
+
+/// Replaces the fleet by what a file holds, if the user lets it go; `replace` says what there is to
+/// say then. A file that is none leaves the fleet at hand without a question.
+void FleetFilePanel::replaceBy(const std::filesystem::path& file,
+                               const std::function<std::string(Fleet)>& replace) {
     try {
         ReadFleet read = readFleet(file);
-        const std::string steps = RecoveryFolder::stepsOf(file);
         if (m_recovery.giveUpFleet(true)) {
-            const bool hasSteps =
-                document().beginAside(std::move(read.fleet), file.parent_path(), steps);
+            const std::string said = replace(std::move(read.fleet));
             m_recovery.noteOpened(file);
             window().restart();
-            window().say(std::string("This fleet is not saved yet. Save As gives it a file.") +
-                         (hasSteps ? "" : " Its steps cannot be undone any more."));
+            window().say(said);
         }
     } catch (const FileError& error) {
         showFileError(services().desktop, error);

@@ -4,6 +4,7 @@
 #include "Menu.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace fleetwright {
@@ -76,6 +77,8 @@ private:
     void mnuSaveFleetAs_Click();
     void mnuUndoFleet_Click();
     void mnuRedoFleet_Click();
+    void replaceBy(const std::filesystem::path& file,
+                   const std::function<std::string(Fleet)>& replace);
     void save(const std::filesystem::path& file);
 };
 

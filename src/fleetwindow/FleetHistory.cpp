@@ -44,7 +44,6 @@ void FleetHistory::note(const std::string& text, const FleetAct& act, std::int32
 
 const std::string& FleetHistory::undo() {
     const Step& step = m_steps[--m_at];
-    m_kind.clear();
     return m_now.replace(step.at, step.after.size(), step.before);
 }
 

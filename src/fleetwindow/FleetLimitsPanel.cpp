@@ -81,8 +81,7 @@ void FleetLimitsPanel::set() {
 }
 
 void FleetLimitsPanel::remove() {
-    const auto row = lvLimits.selected();
-    if (row && *row < fleet().limits.size()) {
+    if (const auto row = lvLimits.selected()) {
         window().act({"Drop Limit"}, [&](Fleet& fleet) {
             fleet.limits.erase(fleet.limits.begin() + static_cast<std::ptrdiff_t>(*row));
         });
@@ -91,8 +90,7 @@ void FleetLimitsPanel::remove() {
 
 /// Offers the selected limit to be changed.
 void FleetLimitsPanel::takeSelected() {
-    const auto row = lvLimits.selected();
-    if (row && *row < fleet().limits.size()) {
+    if (const auto row = lvLimits.selected()) {
         const FleetLimit limit = fleet().limits[*row];
         txtMost.setText(std::to_string(limit.most));
         cboKind.setText(limit.kind);

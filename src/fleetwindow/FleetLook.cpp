@@ -36,6 +36,12 @@ FleetRows FleetLook::rowsOf(const Fleet& fleet) {
     return rows;
 }
 
+std::string FleetLook::pathOf(const std::string& file) const {
+    FleetShip ship;
+    ship.file = file;
+    return shipPath(m_folder, ship);
+}
+
 void FleetLook::want(const std::string& file, Known& known) {
     if (!std::exchange(known.isUnread, true)) {
         m_unread.push_back(file);
@@ -48,9 +54,7 @@ void FleetLook::readSome(const std::function<bool()>& isLate) {
         m_unread.pop_front();
         Known& known = m_known[file];
         known.isUnread = false;
-        FleetShip ship;
-        ship.file = file;
-        known.path = shipPath(m_folder, ship);
+        known.path = pathOf(file);
         known.stamp = stampOf(known.path);
         known.row = std::make_shared<const FleetRow>(m_read(known.path));
         if (isLate()) {
@@ -61,9 +65,7 @@ void FleetLook::readSome(const std::function<bool()>& isLate) {
 
 void FleetLook::lookAgain(bool isCatalogueOther) {
     for (auto& [file, known] : m_known) {
-        FleetShip ship;
-        ship.file = file;
-        const std::string path = shipPath(m_folder, ship);
+        const std::string path = pathOf(file);
         const std::optional<FileStamp> stamp = stampOf(path);
         // A fresh file may have been written once more without a change of its stamp.
         const bool isFresh = known.stamp && known.stamp->isFresh;

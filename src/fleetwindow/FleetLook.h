@@ -44,6 +44,7 @@ private:
         bool isUnread = false;  ///< it waits to be read
     };
 
+    std::string pathOf(const std::string& file) const;
     void want(const std::string& file, Known& known);
 
     Read m_read;

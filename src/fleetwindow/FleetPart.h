@@ -26,7 +26,7 @@ struct FleetServices {
     Desktop& desktop;
     Clock& clock;
     const bool& confirmsExit;  ///< whether a window asks before it closes with unsaved work
-    RecoveryFolder* recovery;  ///< where fleets are put aside; null if they are not
+    RecoveryFolder& recovery;  ///< where fleets are put aside
     /// Whether ships can be read: not while the main window is in the midst of a load, since what
     /// reads their lines keeps some of it for the next one.
     std::function<bool()> canReadShips;

@@ -11,22 +11,18 @@
 namespace fleetwright {
 
 void FleetRecoveryPanel::noteChange() {
-    if (services().recovery != nullptr && !tmrFleetRecovery.isEnabled()) {
+    if (!tmrFleetRecovery.isEnabled()) {
         tmrFleetRecovery.restart();
     }
 }
 
 void FleetRecoveryPanel::noteSafe() {
     m_aside.reset();
-    if (services().recovery != nullptr) {
-        services().recovery->forget(RecoveryKind::Fleet);
-    }
+    services().recovery.forget(RecoveryKind::Fleet);
 }
 
 void FleetRecoveryPanel::noteOpened(const std::filesystem::path& file) {
-    if (services().recovery != nullptr) {
-        services().recovery->noteOpened(file);
-    }
+    services().recovery.noteOpened(file);
 }
 
 bool FleetRecoveryPanel::giveUpFleet(bool asks) {
@@ -40,11 +36,8 @@ bool FleetRecoveryPanel::giveUpFleet(bool asks) {
         return false;
     }
     m_aside.reset();
-    if (services().recovery == nullptr) {
-        return true;
-    }
     try {
-        services().recovery->keep(aside());
+        services().recovery.keep(aside());
         return true;
     } catch (const FileError& error) {
         return services().desktop.showMessage("The fleet is not saved and cannot be put aside: " +
@@ -55,9 +48,6 @@ bool FleetRecoveryPanel::giveUpFleet(bool asks) {
 
 void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
     tmrFleetRecovery.setEnabled(false);
-    if (services().recovery == nullptr) {
-        return;
-    }
     // What can be redone is in no file, but the fleet is.
     if (document().isSaved()) {
         noteSafe();
@@ -65,7 +55,7 @@ void FleetRecoveryPanel::tmrFleetRecovery_Timer() {
     }
     try {
         if (RecoveryFolder::Aside now = aside(); now != m_aside) {
-            services().recovery->put(now);
+            services().recovery.put(now);
             m_aside = std::move(now);
         }
         window().takeBack(m_complaint);
@@ -79,7 +69,7 @@ RecoveryFolder::Aside FleetRecoveryPanel::aside() const {
     return {.shipName = fleet().name.empty() ? "Fleet" : fleet().name,
             .mass =
                 static_cast<std::int32_t>(std::min<std::int64_t>(shipCount(fleet()), INT32_MAX)),
-            .shipFile = document().textIn(services().recovery->folder()),
+            .shipFile = document().textIn(services().recovery.folder()),
             .steps = document().steps(),
             .kind = RecoveryKind::Fleet};
 }

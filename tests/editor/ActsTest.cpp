@@ -172,6 +172,7 @@ TEST_F(OnText, WorkWaitsForActsAndTheEndForWork) {
     EXPECT_EQ(log, "<savetoo large; > <print> <load> end; ");
     write("d");
     whenIdle("nothing");
+    end();
     isThere = true;
     write("e");
     EXPECT_EQ(text, "ace");

@@ -8,7 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstdlib>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -66,5 +69,31 @@ TEST(StoredSteps, AreTakenOnlyWhereTheyLeadToDesignsThatCanBe) {
         [](DesignMoment& moment) { std::swap(moment.ship.amounts[0], moment.ship.amounts[1]); }};
     for (std::size_t i = 0; i < thatCannot.size(); ++i) {
         EXPECT_FALSE(isTaken(thatCannot[i], 1)) << i;
+    }
+}
+
+TEST(StoredSteps, LeadThereAndBackWhateverDiffers) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    for (const std::int32_t number :
+         {1, 63, 64, 127, 128, 8191, 8192, 16384, Limits::max(), -1, -64, -65, Limits::min()}) {
+        SCOPED_TRACE(number);
+        const auto record = static_cast<std::size_t>(std::abs(std::int64_t{number}));
+        DesignMoment one{.ship = {}, .rows = {7}, .catalogue = nullptr};
+        DesignMoment other = one;
+        other.ship.hull.mass = one.ship.hull.mass + number / 2;
+        other.ship.g_lCost = number;
+        other.ship.amounts = {{3, 5}, {record + 3, number}};
+        other.rows = {record, 7, record + 1};
+        other.ship.g_sShipName = one.ship.g_sShipName + std::string(record % 1000, 'x');
+        const std::string delta = deltaBetween(one, other);
+        DesignMoment moment = one;
+        EXPECT_TRUE(applyDelta(delta, Way::Forth, moment));
+        EXPECT_TRUE(isSameDesign(moment, other));
+        EXPECT_TRUE(applyDelta(delta, Way::Back, moment));
+        EXPECT_TRUE(isSameDesign(moment, one));
+        // What is cut short or belongs to another design is none.
+        EXPECT_FALSE(applyDelta(delta.substr(0, delta.size() - 1), Way::Forth, moment = one));
+        EXPECT_FALSE(applyDelta(delta + '\0', Way::Forth, moment = one));
+        EXPECT_FALSE(applyDelta(delta, Way::Back, moment = one));
     }
 }

@@ -45,15 +45,18 @@ public:
     void showModal(Form& form, Form& owner) override {
         m_test.m_log += "dialog: " + form.name() + " of " + owner.name() + "; ";
         form.show();
+        const std::string place = std::to_string(form.left()) + ',' + std::to_string(form.top());
+        m_test.m_log += place == "0,0" ? "" : "at " + place + "; ";
         form.activate();
         if (m_test.inDialog) {
             m_test.inDialog(form);
         }
     }
-    std::optional<std::string> chooseFileToOpen(const FileDialog&) override { return choose(); }
+    std::optional<std::string> chooseFileToOpen(const FileDialog& dialog) override {
+        return choose(dialog);
+    }
     std::optional<std::string> chooseFileToSave(const FileDialog& dialog) override {
-        m_test.m_log += dialog.fileName.empty() ? "" : "suggested: " + dialog.fileName + "; ";
-        return choose();
+        return choose(dialog);
     }
     void askWhatsThis() override { m_test.m_log += "what's this; "; }
     bool openDocument(const std::filesystem::path& document) override {
@@ -67,7 +70,13 @@ public:
     ScreenSize screenSize() override { return {1024, 768}; }
 
 private:
-    std::optional<std::string> choose() {
+    std::optional<std::string> choose(const FileDialog& dialog) {
+        const auto pattern = static_cast<std::size_t>(2 * dialog.filterIndex - 1);
+        m_test.m_log +=
+            "asked: " + partsOf(dialog.filter, "|").at(pattern) + " in " +
+            dialog.initialFolder.lexically_relative(m_test.m_folder.path()).generic_string() +
+            (dialog.extension.empty() ? "" : " as " + dialog.extension) +
+            (dialog.fileName.empty() ? "" : " suggested: " + dialog.fileName) + "; ";
         raise(m_test.inFileDialog);
         return m_test.file;
     }
@@ -267,7 +276,7 @@ void TestWindow::makeFleet() {
         .desktop = *m_desk,
         .clock = clock,
         .confirmsExit = globals.g_bConfirmExit,
-        .recovery = &m_recovery,
+        .recovery = m_recovery,
         .canReadShips = [this] { return window().isAtRest(); },
         .readShip =
             [this](const std::string& name) {
