@@ -30,11 +30,10 @@ std::optional<std::string> stateOf(const CatalogueText& catalogue, const fs::pat
                 return std::nullopt;
             }
             state += '\n' + pathText(file);
-            for (const std::uint64_t number : {stamp->device, stamp->number, stamp->size}) {
+            for (const std::uint64_t number : {stamp->device, stamp->number, stamp->size,
+                                               static_cast<std::uint64_t>(stamp->modified),
+                                               static_cast<std::uint64_t>(stamp->changed)}) {
                 state += ' ' + std::to_string(number);
-            }
-            for (const std::int64_t time : {stamp->modified, stamp->changed}) {
-                state += ' ' + std::to_string(time);
             }
         }
     } catch (const FileError&) {

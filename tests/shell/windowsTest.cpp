@@ -79,8 +79,11 @@ public:
     void freeLibrary(void*) override {}
     std::optional<Value> read(const std::string& key, const std::string& name) override {
         const auto found = registry.find(key + '|' + name);
-        return found == registry.end() ? std::nullopt
-                                       : std::optional(Value{textType, found->second + '\0'});
+        if (found == registry.end()) {
+            return std::nullopt;
+        }
+        const bool isNumber = found->second.starts_with('#');
+        return Value{isNumber ? numberType : textType, found->second.substr(isNumber) + '\0'};
     }
 };
 
@@ -105,8 +108,7 @@ public:
     /// The acts, each with what was asked for and what it has changed.
     std::string run(const Case& each) {
         if (each["acts"].empty()) {
-            return layoutOf(splash) + layoutOf(extras) + layoutOf(about) +
-                   layoutOf(frmPutAside({.desktop = machine, .moveToTrash = {}}));
+            return layoutOf(splash) + layoutOf(extras) + layoutOf(about) + layoutOfPutAside();
         }
         folder.write("program/images.exe", "archive");
         return playActs(each["acts"], {.act = [this](const std::string& act) { doLine(act); },
@@ -116,6 +118,18 @@ public:
     }
 
 private:
+    std::string layoutOfPutAside() {
+        frmPutAside form({.desktop = machine, .moveToTrash = {}});
+        for (const char* const name :
+             {"other.shp", "any.fleet", "Away, ships 4, 2025 #4.fleet",
+              "Home, ships 3, 2026.1 #1.fleet~7", "Ant, mass 20, 2026-11-27 10.15.30 #2.shp~7"}) {
+            form.designs.push_back(*RecoveryDesign::in(name));
+            form.designs.back().isLeftBehind = !form.designs.back().mark.empty();
+        }
+        form.load();
+        return layoutOf(form) + stateOf(form.lvDesigns);
+    }
+
     std::map<std::string, std::string> seen() {
         std::map<std::string, std::string> all;
         for (Form* const form : forms) {
@@ -197,6 +211,7 @@ private:
             {"screen", [&] { machine.screen = {std::stoi(name), std::stoi(text)}; }},
             {"clock", [&] { machine.ticks = std::stoi(rest); }},
             {"tool", [&] { machine.registry[rest] = "tool.exe"; }},
+            {"toolNumber", [&] { machine.registry[rest] = "#\x5a\xb1\x02"; }},
             {"toolFolder", [&] { machine.registry[rest] = folder.path().string(); }},
             {"setting", [&] { settings.values[name] = text; }},
             {"faults", [&] { faults = rest; }},
