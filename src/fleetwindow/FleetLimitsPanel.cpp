@@ -81,7 +81,8 @@ void FleetLimitsPanel::set() {
 }
 
 void FleetLimitsPanel::remove() {
-    if (const auto row = lvLimits.selected()) {
+    const auto row = lvLimits.selected();
+    if (row && *row < fleet().limits.size()) {
         window().act({"Drop Limit"}, [&](Fleet& fleet) {
             fleet.limits.erase(fleet.limits.begin() + static_cast<std::ptrdiff_t>(*row));
         });
@@ -90,7 +91,8 @@ void FleetLimitsPanel::remove() {
 
 /// Offers the selected limit to be changed.
 void FleetLimitsPanel::takeSelected() {
-    if (const auto row = lvLimits.selected()) {
+    const auto row = lvLimits.selected();
+    if (row && *row < fleet().limits.size()) {
         const FleetLimit limit = fleet().limits[*row];
         txtMost.setText(std::to_string(limit.most));
         cboKind.setText(limit.kind);

@@ -67,6 +67,7 @@ bool frmAbout::GetKeyValue(const std::string& KeyName, const std::string& SubKey
                            std::string& KeyVal) {
     const std::optional<Registry::Value> value = m_services.registry.read(KeyName, SubKeyRef);
     if (!value) {
+        KeyVal.clear();
         return false;
     }
     std::string text = value->bytes;
