@@ -2,6 +2,8 @@
 
 #include "PictureDesktop.h"
 #include "QtClock.h"
+#include "QtTrash.h"
+#include "RecoveryFolder.h"
 #include "ShipOnScreen.h"
 #include "fingerprint.h"
 #include "fleetRows.h"
@@ -54,13 +56,15 @@ std::string brokenFleet(const fs::path& delivered) {
 void takeFleets(PictureDesktop& desktop, const fs::path& appFolder, const fs::path& data) {
     QtClock clock;
     ShipOnScreen screen(appFolder);
+    QtTrash trash;
+    RecoveryFolder recovery(appFolder / "recovered", [] { return std::string(); }, trash);
     const bool confirmsExit = false;
     const FleetServices services{
         .appFolder = appFolder,
         .desktop = desktop,
         .clock = clock,
         .confirmsExit = confirmsExit,
-        .recovery = nullptr,
+        .recovery = recovery,
         .canReadShips = [] { return true; },
         .readShip = [&screen](const std::string& ship) { return fleetRow(screen, ship); },
         .catalogue = [&] { return fingerprint(readTextFile(appFolder / "weaps.dat")); },
