@@ -71,9 +71,12 @@ public:
 
 private:
     std::optional<std::string> choose(const FileDialog& dialog) {
-        const auto pattern = static_cast<std::size_t>(2 * dialog.filterIndex - 1);
+        const std::vector<std::string> filter = partsOf(dialog.filter, "|");
+        // The last kind may have no pattern.
+        const std::size_t pattern =
+            std::min(static_cast<std::size_t>(2 * dialog.filterIndex), filter.size()) - 1;
         m_test.m_log +=
-            "asked: " + partsOf(dialog.filter, "|").at(pattern) + " in " +
+            "asked: " + filter.at(pattern) + " in " +
             dialog.initialFolder.lexically_relative(m_test.m_folder.path()).generic_string() +
             (dialog.extension.empty() ? "" : " as " + dialog.extension) +
             (dialog.fileName.empty() ? "" : " suggested: " + dialog.fileName) + "; ";
