@@ -33,8 +33,7 @@ void writeOut(const RecoveryFolder::Design& design, const std::string& out) {
         saveResult(nativePath(ShipClass::withExtension(out)), readBytes(design.file));
         return;
     }
-    const bool hasEnding = toSmallLetters(out).ends_with(fleetExtension);
-    const fs::path file = nativePath(hasEnding ? out : out + fleetExtension);
+    const fs::path file = nativePath(isFleetName(out) ? out : out + fleetExtension);
     saveResult(file, fleetFor(file, design.file));
 }
 

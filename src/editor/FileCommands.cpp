@@ -136,7 +136,7 @@ void FileCommands::openFiles(const std::vector<std::string>& files) {
         return;
     }
     FleetWindow* const fleet = services().fleet();
-    if (fleet != nullptr && toSmallLetters(files.front()).ends_with(fleetExtension)) {
+    if (fleet != nullptr && isFleetName(files.front())) {
         fleet->openFleet(files.front());
         return;
     }

@@ -34,12 +34,7 @@ frmMain::frmMain(MainWindowServices services)
                 .services = m_services,
                 .RefreshScreen = [this] { RefreshScreen(); },
                 .say = [this](const std::string& text) { sbStatus.setText(text); },
-                .takeBack =
-                    [this](const std::string& text) {
-                        if (sbStatus.text() == text) {
-                            sbStatus.setText("");
-                        }
-                    }} {
+                .takeBack = [this](const std::string& text) { sbStatus.takeBack(text); }} {
     onFilesDrop = [this](const std::vector<std::string>& dropped) { files.openFiles(dropped); };
 }
 
@@ -172,10 +167,7 @@ void frmMain::tellNews() {
 
 void frmMain::tmrRefreshScreen_Timer() {
     m_acts.act([this] {
-        if (sbStatus.text() == sLastStatus) {
-            sbStatus.setText("");
-        }
-        sLastStatus = sbStatus.text();
+        sbStatus.wipe(sLastStatus);
         RefreshScreen();
     });
     // A window that this has closed, because that was to wait for its end, stays closed.

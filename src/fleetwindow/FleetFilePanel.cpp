@@ -123,8 +123,7 @@ void FleetFilePanel::mnuSaveFleetAs_Click() {
         file.empty() ? fileNameOf(fleet().name.empty() ? "Fleet" : fleet().name) + fleetExtension
                      : pathText(file.filename());
     if (const auto chosen = services().desktop.chooseFileToSave(dialog)) {
-        const bool hasEnding = toSmallLetters(*chosen).ends_with(fleetExtension);
-        save(nativePath(hasEnding ? *chosen : *chosen + fleetExtension));
+        save(nativePath(isFleetName(*chosen) ? *chosen : *chosen + fleetExtension));
     }
 }
 

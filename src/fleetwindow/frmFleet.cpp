@@ -35,18 +35,10 @@ frmFleet::frmFleet(FleetServices services)
                               const std::function<void(Fleet&)>& change) { act(step, change); },
                 .refresh = [this] { refresh(); },
                 .say = [this](const std::string& text) { sbFleet.setText(text); },
-                .takeBack =
-                    [this](const std::string& text) {
-                        if (sbFleet.text() == text) {
-                            sbFleet.setText("");
-                        }
-                    },
+                .takeBack = [this](const std::string& text) { sbFleet.takeBack(text); },
                 .restart = [this] { restart(); }} {
     onFilesDrop = [this](const std::vector<std::string>& dropped) {
-        const bool isFleet = std::ranges::any_of(dropped, [](const std::string& file) {
-            return toSmallLetters(file).ends_with(fleetExtension);
-        });
-        if (!isFleet) {
+        if (std::ranges::none_of(dropped, isFleetName)) {
             ships.addFiles(dropped);
         } else if (dropped.size() == 1) {
             openFleet(dropped.front());
@@ -143,14 +135,10 @@ void frmFleet::refresh() {
 /// What has stood on the status line for a whole turn says nothing new. And what could not be put
 /// aside may find room now.
 void frmFleet::tmrFleetStatus_Timer() {
-    if (!isLoaded()) {
-        return;
+    if (isLoaded()) {
+        sbFleet.wipe(m_lastStatus);
+        recovery.noteChange();
     }
-    if (sbFleet.text() == m_lastStatus) {
-        sbFleet.setText("");
-    }
-    m_lastStatus = sbFleet.text();
-    recovery.noteChange();
 }
 
 /// What the fleet comes to, for who cannot see it change.

@@ -22,6 +22,19 @@ public:
         }
     }
 
+    /// Takes a text away, if it still stands there.
+    void takeBack(const std::string& text) {
+        if (design().text == text) {
+            setText("");
+        }
+    }
+
+    /// Takes away what has stood there since the last call; `last` holds it from one to the next.
+    void wipe(std::string& last) {
+        takeBack(last);
+        last = design().text;
+    }
+
     /// Shows a text that who cannot see it hears otherwise, or has heard.
     void setTextQuietly(const std::string& text) { show(text); }
 
