@@ -25,6 +25,24 @@ function fetchGame(game) {
     return true;
 }
 
+// The ship that is looked at, which each window has for itself. Where nothing is kept, it is the first.
+function keepShip(fleet, index) {
+    try {
+        window.sessionStorage.setItem(storageKey(fleet), String(index));
+    } catch (error) {
+        // It is chosen again with one click.
+    }
+}
+
+function fetchShip(fleet) {
+    try {
+        const index = Number(window.sessionStorage.getItem(storageKey(fleet)));
+        return index in fleet.ships ? index : 0;
+    } catch (error) {
+        return 0;
+    }
+}
+
 // Letters and digits of any writing; all else may mean something to a file system.
 function fileNameOf(game) {
     const name = game.fleet.name.replace(/[^\p{L}\p{N}]+/gu, '-').replace(/^-+|-+$/g, '').slice(0, 60);

@@ -42,7 +42,7 @@ class Page {
         this.writeHead();
         this.listen();
         this.fetch();
-        this.choosePanel(0);
+        this.choosePanel(fetchShip(this.fleet));
     }
 
     writeHead() {
@@ -117,6 +117,7 @@ class Page {
 
     choosePanel(index) {
         this.current = index;
+        keepShip(this.fleet, index);
         this.panel(index);
         this.panels.forEach((panel, i) => panel && (panel.element.hidden = i !== index));
         this.tabs.forEach((tab, i) => {

@@ -41,7 +41,9 @@ void FleetField::change() {
     const std::optional<std::string> text = m_rules.held(m_box.text());
     const bool isFaulty = !text && !trimmed(m_box.text()).empty();  // an empty one is on its way
     if (isFaulty) {
-        m_window.say(quote(m_box.text()) + " is no number that can stand there");
+        m_window.say(quote(m_box.text()) + " is no whole number from " +
+                     std::to_string(m_rules.range.least) + " to " +
+                     std::to_string(m_rules.range.most));
     } else if (m_isFaulty) {
         m_window.say("");
     }
@@ -54,13 +56,12 @@ void FleetField::change() {
     }
 }
 
-std::optional<std::string> numberText(std::string_view text, std::int32_t least,
-                                      std::int32_t most) {
+std::optional<std::string> numberText(std::string_view text, const NumberRange& range) {
     const std::string_view digits = trimmed(text);
     std::int32_t number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     const bool isNumber = error == std::errc() && end == digits.data() + digits.size() &&
-                          number >= least && number <= most;
+                          number >= range.least && number <= range.most;
     return isNumber ? std::optional(std::to_string(number)) : std::nullopt;
 }
 

@@ -11,6 +11,11 @@
 
 namespace fleetwright {
 
+/// The whole numbers that can stand somewhere, both ends among them.
+struct NumberRange {
+    std::int32_t least = 0, most = 0;
+};
+
 /// A box in which a part of the fleet is written. What is typed is of the fleet at once; all that
 /// is typed without a second's rest is one step.
 class FleetField {
@@ -23,6 +28,7 @@ public:
         /// one that it cannot hold.
         std::function<std::optional<std::string>(const std::string&)> held;
         std::function<std::string()> about = [] { return std::string(); };  ///< tells kinds apart
+        NumberRange range = {};  ///< of a number, to be told of what cannot be held
     };
 
     FleetField(const FleetContext& window, TextBox& box, Rules rules);
@@ -43,8 +49,8 @@ private:
     bool m_isFaulty = false;   ///< what is typed is none that can stand there, and it was said
 };
 
-/// The whole number from `least` to `most` that a text is, without what else stands around it.
-std::optional<std::string> numberText(std::string_view text, std::int32_t least, std::int32_t most);
+/// The whole number of a range that a text is, without what else stands around it.
+std::optional<std::string> numberText(std::string_view text, const NumberRange& range);
 
 /// The lines of a box with "\n" between them, without the empty ones at the end.
 std::string linesIn(const std::string& text);

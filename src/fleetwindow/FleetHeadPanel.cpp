@@ -38,8 +38,9 @@ FleetHeadPanel::FleetHeadPanel(const FleetContext& context)
                    },
                .held =
                    [](const std::string& typed) {
-                       return typed.empty() ? typed : numberText(typed, 0, mostOfLimit);
-                   }}),
+                       return typed.empty() ? typed : numberText(typed, limitRange);
+                   },
+               .range = limitRange}),
       m_notes(context, txtFleetNotes, textRules("Fleet Notes", document(), &Fleet::notes, true)) {}
 
 void FleetHeadPanel::show() {

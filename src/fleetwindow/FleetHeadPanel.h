@@ -5,12 +5,10 @@
 #include "Label.h"
 #include "TextBox.h"
 
-#include <cstdint>
-
 namespace fleetwright {
 
-/// What a limit can be at most.
-inline constexpr std::int32_t mostOfLimit = 2'000'000'000;
+/// What a limit can be.
+inline constexpr NumberRange limitRange = {0, 2'000'000'000};
 
 /// What a fleet is called, whose it is, what it may cost, and what there is to say about it.
 class FleetHeadPanel : public FleetPart {

@@ -62,7 +62,7 @@ void FleetLimitsPanel::place(const Place& frame) {
 }
 
 void FleetLimitsPanel::set() {
-    const std::optional<std::string> most = numberText(txtMost.text(), 0, mostOfLimit);
+    const std::optional<std::string> most = numberText(txtMost.text(), limitRange);
     const auto kinds = shipKinds();
     if (!most || std::ranges::find(kinds, cboKind.text()) == kinds.end()) {
         window().say(most ? "Choose the kind of ship that the limit is about"

@@ -39,8 +39,9 @@ FleetShipPanel::FleetShipPanel(const FleetContext& context,
                       [this](FleetShip& ship, const std::string& typed) {
                           setCount(ship, std::stoi(typed));
                       });
-                  count.held = [](const std::string& typed) {
-                      return numberText(typed, 1, FleetShip::mostCount);
+                  count.range = {1, FleetShip::mostCount};
+                  count.held = [range = count.range](const std::string& typed) {
+                      return numberText(typed, range);
                   };
                   return count;
               }()),

@@ -143,6 +143,7 @@ TEST(PicturesAtStart, AreDecodedOnceUntilOneOfThemIsAnother) {
     EXPECT_EQ(start(gun), "1");
     EXPECT_EQ(start(gun), "0");
     EXPECT_EQ(start(gun + gun), "2");
+    EXPECT_EQ(start(gun), "1");
     std::string damaged = whole;
     damaged.back() = ' ';
     write(damaged, std::chrono::hours(1));

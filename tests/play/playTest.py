@@ -152,6 +152,11 @@ def after_reload():
     browser.tap(by_id("undo"))
     expect(browser.run(f"{by_id('turn')}.textContent"), "Turn 1", "undo after a reload")
     browser.tap(by_id("redo"))
+    browser.tap("document.querySelectorAll('.tab')[1]")
+    browser.reload()
+    tabs = "[...document.querySelectorAll('.tab')]"
+    expect(browser.run(f"{tabs}.findIndex(e => e.ariaSelected === 'true')"), 1, "the ship after a reload")
+    browser.tap("document.querySelectorAll('.tab')[0]")
     return marks
 
 
