@@ -14,8 +14,7 @@ namespace {
 
 SheetOptions pagesOf(const Options& options, KeptSheetParts& kept) {
     constexpr int mostPerPage = 4;
-    SheetOptions pages = sheetOptionsOf(options);
-    pages.perPage = options.has(perPageOption.name) ? pages.perPage : mostPerPage;
+    SheetOptions pages = sheetOptionsOf(options, mostPerPage);
     pages.kept = &kept;
     return pages;
 }

@@ -197,7 +197,8 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
         if (isSheet(readBytes(nativePath(file)))) {
             return check();
         }
-        return {{0, "no catalogue (.dat), ship file (.shp), fleet (.fleet) or map (.map)"}};
+        return {
+            {0, "no catalogue (.dat), ship (.shp, sheet or code), fleet (.fleet) or map (.map)"}};
     } catch (const FileError& error) {
         return {{0, faultOf(nativePath(file), error)}};
     }
@@ -272,9 +273,9 @@ extern const CommandRow checkCommand = {
     .words = "[FILE...]",
     .most = CommandRow::any,
     .help = "Say what is wrong with .dat, .shp, .fleet and .map files, or all of the folder",
-    .details = "These are catalogues, ships, fleets with their ships and limits, and maps. Without "
-               "a FILE, "
-               "all of the application folder is looked through, its pictures included.",
+    .details = "These are catalogues, ships, fleets with their ships and limits, and maps. Sheets "
+               "that carry a ship and codes are ships as well. Without a FILE, all of the "
+               "application folder is looked through, its pictures included.",
     .run = runCheck,
 };
 

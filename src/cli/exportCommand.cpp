@@ -60,7 +60,7 @@ extern const CommandRow exportCommand = {
     .details = "A ship is an object, several are an array of objects, which keep to "
                "ship.schema.json of the documentation. They hold all that a ship file does, and "
                "the figures for readers. import makes ship files of them again, the same to the "
-               "byte that save writes.",
+               "byte that save writes. --json may be said, but is what export does in any case.",
     .run = runExport,
 };
 

@@ -191,8 +191,8 @@ extern const CommandRow fleetCommand = {
         "with all of that and the notes, and behind it the sheet of each ship under its own name, "
         "or the name and a number. Small ones share a page, unless --per-page says otherwise. "
         "--play saves one file for any browser, with the sheets of all ships, on which damage and "
-        "systems are marked at the table; it works without a network. The pictures must have been "
-        "unpacked for that.",
+        "systems are marked at the table; it works without a network. For sheets and for play the "
+        "pictures must have been unpacked.",
     .run = runFleet,
 };
 

@@ -29,9 +29,10 @@ void checkPerPage(std::string_view, const std::string& number) {
     }
 }
 
-SheetOptions sheetOptionsOf(const Options& options) {
+SheetOptions sheetOptionsOf(const Options& options, int usualPerPage) {
+    const std::string perPage = options.value("--per-page");
     return {.paper = paperOf(options.value("--paper")),
-            .perPage = wholeNumber(options.value("--per-page")),
+            .perPage = perPage.empty() ? usualPerPage : wholeNumber(perPage),
             .isPlain = options.has("--plain")};
 }
 
