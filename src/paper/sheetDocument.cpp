@@ -1,6 +1,5 @@
 #include "sheetDocument.h"
 
-#include "FreeRoom.h"
 #include "SheetCard.h"
 #include "carriedShips.h"
 #include "pageTexts.h"
@@ -8,8 +7,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <iterator>
 #include <memory>
-#include <optional>
 #include <set>
 #include <utility>
 
@@ -51,22 +50,29 @@ SheetOptions onLargeEnoughPaper(SheetOptions options) {
     return options;
 }
 
-/// Says below a sheet that it goes on, if there is room for that.
-void addHint(Page& page, const Box& sheet) {
-    PageText hint = {.text = "more on the next page",
-                     .size = 2.6,
-                     .anchor = PageText::Anchor::End,
-                     .colour = quietInk};
-    FreeRoom room(sheet);
-    for (const PageItem& item : page.items) {
-        room.take(boxOf(item));
+/// Puts a sheet into its part of a page. One that goes on says so below itself. Returns what is
+/// left to read.
+std::vector<PageBlock> putSheet(const VectorSheet& sheet, const Box& box,
+                                const SheetOptions& options, SheetCard::Room room, Page& page) {
+    Page all;
+    std::vector<PageBlock> rest = SheetCard(sheet, box, room, options).putOn(all);
+    if (!rest.empty()) {
+        PageText hint = {.text = "more on the next page",
+                         .x = box.x + box.width,
+                         .y = box.y + box.height,
+                         .size = 2.6,
+                         .anchor = PageText::Anchor::End,
+                         .colour = quietInk};
+        const Box covered = boxOf(hint);
+        const double below = covered.y + covered.height - hint.y;
+        hint.y -= below;
+        all = {};
+        const Box above = {box.x, box.y, box.width, box.height - covered.height};
+        rest = SheetCard(sheet, above, room, options).putOn(all);
+        all.items.emplace_back(std::move(hint));
     }
-    const Box size = boxOf(hint);
-    if (const std::optional<Box> free = room.find(size.width, size.height)) {
-        hint.x = free->x + size.width;
-        hint.y = free->y - size.y;
-        page.items.emplace_back(std::move(hint));
-    }
+    std::ranges::move(all.items, std::back_inserter(page.items));
+    return rest;
 }
 
 /// Pages for sheets, one after the other. Which of them share a page is found out at once; the
@@ -157,10 +163,8 @@ void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const 
     Page page;
     for (std::size_t i = 0; i < onIt.sheets.size(); ++i) {
         const auto sheet = sheets.at(onIt.sheets[i]);
-        const SheetCard card(*sheet, boxes[i], room, m_options);
-        std::vector<PageBlock> rest = card.putOn(page);
+        std::vector<PageBlock> rest = putSheet(*sheet, boxes[i], m_options, room, page);
         if (!rest.empty()) {
-            addHint(page, boxes[i]);
             left.push_back(continuedBlock(sheet->facts.shipName, width));
             appendBlocks(left, std::move(rest));
         }

@@ -2,6 +2,7 @@
 
 #include "SheetOutput.h"
 
+#include "drawSSD.h"
 #include "testWindow.h"
 
 #include <gtest/gtest.h>
@@ -21,4 +22,20 @@ TEST(SheetOutput, APictureWithoutAShipFillsItsPageInsideTheMargins) {
     EXPECT_EQ(place.width, 190);
     EXPECT_EQ(place.height, 50);
     EXPECT_EQ(place.y, (297 - 50) / 2.0);
+}
+
+TEST(SheetOutput, APictureThatCarriesAShipIsDrawnAnewWithHerSystems) {
+    TestWindow test;
+    test.folder().write("maps/Any.map", "SIZE: 9\nIMAGE: a.gif\nFIRECON: (1,2)\nDCP: (1,2)\n"
+                                        "WEAP: (5,5,FPS)\n");
+    test.scanMaps();
+    test.window().show();
+    test.file = test.folder().write("ships/Wasp.shp", "Ship Name: Wasp\nMass: 6\nSystem: Gun, 1\n");
+    test.window().files.mnuLoad.onClick();
+    const SheetShip ship = sheetShipOf(test.ship());
+    const OutgoingSheet made =
+        test.sheets().onBestMap(ship, {{.key = "Gun", .text = "Gun", .subItem = "1"}});
+    const OutgoingSheet again = test.sheets().ofPicture(*test.file, made.bitmap);
+    EXPECT_EQ(again.name, "Wasp");
+    EXPECT_EQ(again.shipFile, made.shipFile);
 }
