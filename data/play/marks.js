@@ -158,11 +158,11 @@ class Game {
         return this.done < this.steps.length;
     }
 
-    // Puts a part in, as a step that can be taken back.
+    // Puts a part in, as a step that can be taken back. Returns whether that changes anything.
     act(words, after) {
         const before = this.same(after);
         if (JSON.stringify(before) === JSON.stringify(after)) {
-            return;
+            return false;
         }
         this.steps.length = this.done;
         this.steps.push({words, before, after: copyOf(after)});
@@ -172,6 +172,7 @@ class Game {
         this.done = this.steps.length;
         this.put(after);
         this.changed(words);
+        return true;
     }
 
     // Takes the last step back, and returns what of the game has changed by that; null if there is
@@ -181,6 +182,7 @@ class Game {
             return null;
         }
         const step = this.steps[--this.done];
+        step.after = this.withNotes(step.after);
         this.put(step.before);
         this.changed('Taken back: ' + step.words);
         return step.before;
@@ -191,9 +193,16 @@ class Game {
             return null;
         }
         const step = this.steps[this.done++];
+        step.before = this.withNotes(step.before);
         this.put(step.after);
         this.changed('Done again: ' + step.words);
         return step.after;
+    }
+
+    // The end of a step that is about to be left. What was noted since is no step, and would be lost with
+    // a whole state that is put in its place.
+    withNotes(part) {
+        return 'ships' in part ? this.same(part) : part;
     }
 
     // Notes are no steps: their box has its own undo.
