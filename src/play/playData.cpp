@@ -119,9 +119,13 @@ Json sheetData(const VectorSheet& sheet, const PlayDrawing& drawing, SvgPictures
             {"pieces", piecesData(sheet, drawing.shown)}};
 }
 
-/// Tells fleets apart by what can be marked: what a game that was saved has to fit.
+/// Tells fleets apart by whose they are and by what can be marked: what a game that was saved has
+/// to fit.
 std::string gameId(const Json& data) {
     Json known = Json::array({data["name"]});
+    if (const Json& player = data["player"]; player != "") {
+        known.push_back(player);
+    }
     for (const Json& ship : data["ships"]) {
         const Json& sheet = data["sheets"][ship["sheet"].get<std::size_t>()];
         known.push_back({ship["name"], sheet["rows"]});
