@@ -170,9 +170,12 @@ class ShipPanel {
         this.words = element('ul', {class: 'words'});
         this.notes = notesBox('Notes', '', (text) => game.note(index, text));
         this.pieces = [];
+        this.printed = [];
         this.values = new Map();
         this.element = element('section', {class: 'ship', role: 'tabpanel', id: 'panel' + index,
             'aria-labelledby': 'tab' + index, tabindex: '-1'},
+        // Paper has the name on top of each of her pages, and this in the place of the heading.
+        element('div', {class: 'pageHead', 'aria-hidden': 'true'}, element('p', {dir: 'auto'}, this.ship.name)),
         this.head(), this.words, this.damagePart(), this.drawingPart(svg), this.systemsPart(), this.notes.element);
     }
 
@@ -212,6 +215,7 @@ class ShipPanel {
             larger.setAttribute('aria-pressed', String(isLarger));
         }, 'Enlarge');
         return element('div', {class: this.sheet.boxes.length > 0 ? 'sheet withTrack' : 'sheet'},
+            element('h3', {class: 'unseen'}, 'Drawing'),
             element('div', {class: 'heading'}, element('p', {class: 'hint'}, 'Tap a system or a damage box.'), larger),
             holder);
     }
@@ -232,10 +236,13 @@ class ShipPanel {
                     text.append(element('p', {dir: 'auto'}, line));
                 }
             }
+            const printed = element('p', {class: 'printed'});
+            this.printed.push(printed);
+            text.append(printed);
             const picture = system.picture ? systemPicture(system.picture) : element('span', {class: 'picture'});
             list.append(element('li', {}, picture, text, pieces));
         }
-        return list;
+        return element('div', {class: 'aboard'}, element('h3', {class: 'unseen'}, 'Systems'), list);
     }
 
     crossOff(crossed) {
@@ -271,6 +278,7 @@ class ShipPanel {
             }
         });
         this.element.classList.toggle('lost', isLost(this.sheet, this.marks));
+        this.printed.forEach((shown, i) => (shown.textContent = pieceWords(this.sheet.systems[i], this.marks)));
         showNotes(this.notes, notes);
     }
 }

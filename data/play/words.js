@@ -103,6 +103,23 @@ function kindList(sheet, marks, kind) {
     return names.length === 0 ? '' : words[0].toUpperCase() + words.slice(1) + ': ' + names.join(', ');
 }
 
+// What has become of the pieces of a system, for paper: "1, 3 destroyed; 2 used up".
+function pieceWords(system, marks) {
+    const lists = [];
+    for (const kind of markKinds) {
+        const numbers = [];
+        for (let i = 0; i < system.count; ++i) {
+            if (marks.systems[system.first + i] === kind) {
+                numbers.push(i + 1);
+            }
+        }
+        if (numbers.length > 0) {
+            lists.push((system.count > 1 ? numbers.join(', ') + ' ' : '') + kindWords[kind]);
+        }
+    }
+    return lists.join('; ');
+}
+
 // All that is to be known of a ship, sentence by sentence.
 function shipWords(sheet, marks) {
     const lists = markKinds.map((kind) => kindList(sheet, marks, kind)).filter((list) => list !== '');
