@@ -88,9 +88,10 @@ function saveGame(game) {
     setTimeout(() => URL.revokeObjectURL(url), 60000);
 }
 
+// Returns whether that changes anything; throws an Error that says why a file is not loaded.
 async function loadGame(game, file) {
     if (file.size > mostFileBytes) {
         throw new Error('it is too large for a game');
     }
-    game.act('Loaded ' + isolated(file.name), stateIn(await file.text(), game.fleet));
+    return game.act('Loaded ' + isolated(file.name), stateIn(await file.text(), game.fleet));
 }

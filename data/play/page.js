@@ -25,7 +25,24 @@ function readFleet() {
         ship.boxCount = ship.sheet.boxCount;
         ship.pieceCount = ship.sheet.systemOf.length;
     }
+    numberNames(fleet.ships);
     return fleet;
+}
+
+// Tells ships of one name apart.
+function numberNames(ships) {
+    const names = ships.map((ship) => ship.name);
+    const taken = new Set(names);
+    ships.forEach((ship, index) => {
+        if (names.indexOf(ship.name) !== names.lastIndexOf(ship.name)) {
+            let number = names.slice(0, index + 1).filter((name) => name === names[index]).length;
+            while (taken.has(names[index] + ' (' + number + ')')) {
+                ++number;
+            }
+            ship.name = names[index] + ' (' + number + ')';
+            taken.add(ship.name);
+        }
+    });
 }
 
 class Page {
@@ -85,20 +102,40 @@ class Page {
         } catch (error) {
             // The desktop's own, then.
         }
-        new ResizeObserver(() => this.keepBarHeight()).observe(byId('bar'));
+        this.keepHeights();
         window.matchMedia('(prefers-color-scheme: dark)').addEventListener('change', () => this.showTheme());
         this.showTheme();
+        this.wide = window.matchMedia('(min-width: 1000px)');
+        this.wide.addEventListener('change', () => this.showOrientation());
+        this.showOrientation();
     }
 
-    // For what stays below the bar.
-    keepBarHeight() {
-        document.documentElement.style.setProperty('--bar', byId('bar').offsetHeight + 'px');
+    // For what has to be seen between that which stays where it is: the focus, above all.
+    keepHeights() {
+        const parts = ['bar', 'tabs', 'said'].map(byId);
+        const observer = new ResizeObserver(() => {
+            for (const part of parts) {
+                document.documentElement.style.setProperty('--' + part.id, part.offsetHeight + 'px');
+            }
+            const focused = document.activeElement;
+            if (focused && focused.matches(':focus-visible')) {
+                focused.scrollIntoView({block: 'nearest'});
+            }
+        });
+        parts.forEach((part) => observer.observe(part));
+    }
+
+    showOrientation() {
+        byId('tabs').setAttribute('aria-orientation', this.wide.matches ? 'vertical' : 'horizontal');
     }
 
     makeTab(ship, index) {
-        const tab = button({role: 'tab', class: 'tab', id: 'tab' + index, 'aria-controls': 'panel' + index},
-            () => this.choosePanel(index));
-        tab.append(element('span', {class: 'name', dir: 'auto'}, ship.name), element('span', {class: 'left'}));
+        const tab = button({role: 'tab', class: 'tab', id: 'tab' + index}, () => this.choosePanel(index));
+        // A number at its end is seen of a name that is too long, too.
+        const [, start, number] = /^(.*?)( \(?[0-9]+\)?)?$/s.exec(ship.name);
+        tab.append(element('span', {class: 'name', dir: 'auto'},
+            element('span', {class: 'start'}, start), element('span', {class: 'number'}, number || '')),
+        element('span', {class: 'left'}));
         return tab;
     }
 
@@ -109,6 +146,7 @@ class Page {
             const made = new ShipPanel(this.game, index, svg, (piece) => this.chooseMark(index, piece));
             made.element.hidden = index !== this.current;
             this.panels[index] = made;
+            this.tabs[index].setAttribute('aria-controls', made.element.id);
             const next = this.panels.find((panel, i) => i > index && panel);
             byId('panels').insertBefore(made.element, next ? next.element : null);
         }
@@ -129,21 +167,27 @@ class Page {
     }
 
     moveTab(event) {
-        const steps = {ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1};
-        if (event.key in steps) {
+        const count = this.tabs.length, last = count - 1, from = this.current;
+        const targets = {ArrowLeft: from - 1, ArrowUp: from - 1, ArrowRight: from + 1, ArrowDown: from + 1,
+            Home: 0, End: last};
+        if (event.key in targets) {
             event.preventDefault();
-            const count = this.tabs.length;
-            this.choosePanel((this.current + steps[event.key] + count) % count);
+            this.choosePanel((targets[event.key] + count) % count);
             this.tabs[this.current].focus();
         }
     }
 
     pressKey(event) {
         const isText = event.target instanceof HTMLTextAreaElement;
-        if (isText || byId('chooser').open || !(event.ctrlKey || event.metaKey)) {
+        const isOpen = byId('chooser').open;
+        if (event.key === 'Escape' && !isOpen && !event.isComposing) {
+            this.openMenu(false);
+        }
+        if (isText || isOpen || event.altKey || !(event.ctrlKey || event.metaKey)) {
             return;
         }
-        const key = event.key.toLowerCase();
+        // Keyboards of other letters have the key at its place.
+        const key = /^[ -~]$/.test(event.key) ? event.key.toLowerCase() : event.code.replace('Key', '').toLowerCase();
         if (key === 'z' || key === 'y') {
             event.preventDefault();
             this.lookAt(key === 'y' || event.shiftKey ? this.game.redo() : this.game.undo());
@@ -158,12 +202,18 @@ class Page {
     }
 
     openMenu(isOpen) {
-        byId('menu').hidden = !isOpen;
+        const menu = byId('menu');
+        if (!isOpen && menu.contains(document.activeElement)) {
+            byId('more').focus();
+        }
+        menu.hidden = !isOpen;
         byId('more').setAttribute('aria-expanded', String(isOpen));
     }
 
     startAnew() {
-        this.game.act('New game', freshState(this.fleet));
+        if (!this.game.act('New game', freshState(this.fleet))) {
+            this.say('Nothing has been marked or noted: this is a new game.');
+        }
         this.openMenu(false);
     }
 
@@ -201,7 +251,7 @@ class Page {
     follow(words) {
         this.show();
         if (words) {
-            byId('said').textContent = words;
+            this.say(words);
         }
         try {
             keepGame(this.game);
@@ -209,6 +259,10 @@ class Page {
         } catch (error) {
             this.notice('This browser keeps nothing of this page. Before you close it, save the game to a file: More, Save to File.');
         }
+    }
+
+    say(words) {
+        byId('said').textContent = words;
     }
 
     notice(words) {
@@ -219,9 +273,12 @@ class Page {
     show() {
         const {state} = this.game;
         byId('turn').textContent = 'Turn ' + state.turn;
-        byId('turnBack').disabled = state.turn <= 1;
-        byId('undo').disabled = !this.game.canUndo;
-        byId('redo').disabled = !this.game.canRedo;
+        const can = {turnBack: state.turn > 1, turnOn: state.turn < mostTurns,
+            undo: this.game.canUndo, redo: this.game.canRedo};
+        for (const [id, isPossible] of Object.entries(can)) {
+            // A button that is disabled altogether would lose the focus.
+            byId(id).setAttribute('aria-disabled', String(!isPossible));
+        }
         this.tabs.forEach((tab, i) => {
             const {sheet} = this.fleet.ships[i], marks = state.ships[i];
             tab.querySelector('.left').textContent = shortWords(sheet, marks);
@@ -234,7 +291,7 @@ class Page {
     fetch() {
         try {
             if (fetchGame(this.game)) {
-                byId('said').textContent = 'The game goes on where it was.';
+                this.say('The game goes on where it was.');
             } else {
                 keepGame(this.game);
             }
@@ -255,7 +312,7 @@ class Page {
 
     save() {
         saveGame(this.game);
-        byId('said').textContent = 'Saved as ' + fileNameOf(this.game) + ', where this browser puts what it saves.';
+        this.say('Saved as ' + fileNameOf(this.game) + ', where this browser puts what it saves.');
         this.openMenu(false);
     }
 
@@ -265,10 +322,13 @@ class Page {
             return;
         }
         try {
-            await loadGame(this.game, file);
+            if (!await loadGame(this.game, file)) {
+                this.say('Loaded ' + isolated(file.name) + ', which is the game as it is already.');
+            }
             byId('notice').hidden = true;
             this.openMenu(false);
         } catch (error) {
+            this.say('');
             this.notice('The file ' + isolated(file.name) + ' is not loaded: ' + error.message + '.');
         }
         byId('file').value = '';

@@ -138,6 +138,12 @@ class Browser:
     def tap(self, element):
         self.tap_at(self.middle_of(element))
 
+    def press(self, key, code, number, shift=False, control=False):
+        for kind in ("keyDown", "keyUp"):
+            self.call("Input.dispatchKeyEvent", type=kind, key=key, code=code, windowsVirtualKeyCode=number,
+                      modifiers=control * 2 + shift * 8,
+                      text=key if len(key) == 1 and not control else "")
+
     def choose_file(self, selector, file):
         root = self.call("DOM.getDocument")["root"]["nodeId"]
         node = self.call("DOM.querySelector", nodeId=root, selector=selector)["nodeId"]

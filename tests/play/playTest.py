@@ -103,10 +103,8 @@ def damage_boxes():
     browser.tap_at((x, y), (x, y - 30), (x, y - 90), (x, y - 150))
     expect(crossed(), "xxxx...x", "a finger that scrolls")
     browser.run(f"{box(3)}.focus()")
-    for key, code in (("ArrowRight", 39), (" ", 32)):
-        for kind in ("keyDown", "keyUp"):
-            browser.call("Input.dispatchKeyEvent", type=kind, key=key, windowsVirtualKeyCode=code,
-                         code="Space" if key == " " else key, text=key if key == " " else "")
+    browser.press("ArrowRight", "ArrowRight", 39)
+    browser.press(" ", "Space", 32)
     expect(crossed(), "xxxxx..x", "arrow and blank")
 
 
@@ -138,6 +136,9 @@ def undo_and_turns():
     expect(words() == before, False, "undo")
     browser.tap(by_id("redo"))
     expect(words(), before, "redo")
+    for key, wanted in (("z", False), ("y", True)):
+        browser.press({"z": "\u044f", "y": "\u043d"}[key], "Key" + key.upper(), ord(key.upper()), control=True)
+        expect(words() == before, wanted, f"Ctrl and the key {key} of other letters")
     browser.tap(by_id("turnOn"))
     expect(browser.run(f"{by_id('turn')}.textContent"), "Turn 2", "the turn")
     browser.run(f"{shown('textarea')}.focus()")
@@ -160,12 +161,27 @@ def after_reload():
     return marks
 
 
+def notes_behind_a_new_game(marks):
+    notes = f"{shown('textarea')}.value"
+    for act, typed, kept in (("undo", "Rocks ahead", "<i>Admiral</i> aboard"), ("redo", "Boarded", "Rocks ahead"),
+                             ("undo", "", "Boarded")):
+        if typed:
+            browser.run(f"{shown('textarea')}.select()")
+            browser.call("Input.insertText", text=typed)
+        browser.reload()
+        browser.tap(by_id(act))
+        expect(browser.run(notes), kept, f"notes behind {act} of a new game")
+        expect((words(), crossed()) == marks, act == "undo", f"marks behind {act} of a new game")
+    browser.run(f"{shown('textarea')}.select()")
+    browser.call("Input.insertText", text="<i>Admiral</i> aboard")
+
+
 def load(text):
     file = pathlib.Path(browser.folder) / "loaded.json"
     file.write_text(text)
-    browser.run("document.getElementById('said').textContent = document.getElementById('notice').textContent = ''")
+    browser.run(f"{by_id('said')}.textContent = 'old', {by_id('notice')}.textContent = ''")
     browser.choose_file("#file", str(file))
-    browser.wait_for("document.getElementById('said').textContent + document.getElementById('notice').textContent")
+    browser.wait_for("document.getElementById('said').textContent !== 'old'")
     return browser.run("document.getElementById('notice').textContent")
 
 
@@ -183,7 +199,15 @@ def files(marks):
     browser.tap(by_id("more"))
     browser.tap(by_id("newGame"))
     expect(crossed(), "........", "a new game")
-    expect(load(text), "", "loading what was saved")
+    expect(browser.run("document.activeElement.id"), "more", "the focus behind the menu")
+    notes_behind_a_new_game(marks)
+    browser.tap(by_id("more"))
+    for wanted in ("New game", "this is a new game"):
+        browser.run(f"{by_id('newGame')}.click()")
+        expect(wanted in said(), True, f"{wanted} in what is said")
+    for wanted in ("Loaded", "as it is already"):
+        expect(load(text), "", "loading what was saved")
+        expect(wanted in said(), True, f"{wanted} in what is said")
     expect((words(), crossed()), marks, "marks from a file")
     for change, word in ((text[:-9], "damaged"), ("[1]", "no game of a fleet"),
                          (json.dumps({**game, "id": "1-2"}), "another fleet"),
@@ -192,17 +216,67 @@ def files(marks):
                          (text.replace('"damage": [', '"damage": [99,', 1), "box"),
                          (text.replace('"systems": {', '"systems": {"__proto__": "damaged",', 1), "system"),
                          (text.replace('"damaged"', '"constructor"'), "system")):
-        expect(word in load(change), True, f"{word} in what is said of a bad file")
+        expect((word in load(change), said()), (True, ""), f"{word} in what is said of a bad file")
         expect((words(), crossed()), marks, f"marks behind a bad file ({word})")
 
 
+def printed(width, height):
+    """The texts of the pages, of paper in inches."""
+    file = pathlib.Path(browser.folder) / "printed.pdf"
+    answer = browser.call("Page.printToPDF", preferCSSPageSize=True, paperWidth=width, paperHeight=height)
+    file.write_bytes(base64.b64decode(answer["data"]))
+    text = subprocess.run(["pdftotext", "-layout", file, "-"], capture_output=True, text=True, check=True).stdout
+    return plain(text).split("\f")[:-1]
+
+
 def paper():
-    printed = pathlib.Path(browser.folder) / "printed.pdf"
-    printed.write_bytes(base64.b64decode(browser.call("Page.printToPDF")["data"]))
-    text = subprocess.run(["pdftotext", "-layout", printed, "-"], capture_output=True, text=True).stdout
-    text = plain(text)
+    text = "".join(printed(8.5, 11))
     for wanted in ("Turn 2", "<b>One</b>", "onerror", "Damaged: Thrust Drive 6", "<i>Admiral</i> aboard"):
         expect(wanted in text, True, f"{wanted} on paper")
+
+
+def paper_of_great_ships():
+    for width, height in ((8.5, 11), (8.27, 11.69)):
+        expect(len(printed(width, height)), len(GREAT_SHIPS), f"pages of {width} by {height} inches")
+    browser.run(f"{shown('textarea')}.focus()")
+    browser.call("Input.insertText", text="Long ago\n" * 60)
+    pages = printed(8.5, 11)
+    expect([page.count("Anvil Roads") for page in pages[:3]], [1, 1, 0], "the name on both pages of a ship")
+
+
+def keyboard():
+    """Nothing that stays where it is covers what has the focus."""
+    covered = """(() => {
+        const focused = document.activeElement, {x, width, top, bottom} = focused.getBoundingClientRect();
+        const seen = [top + 2, bottom - 3].map(y => document.elementFromPoint(x + width / 2, y));
+        return focused === document.body || seen.every(e => focused.contains(e)) ? '' :
+            focused.outerHTML.slice(0, 80);
+    })()"""
+    for width, height in ((390, 500), (700, 700), (1200, 520)):
+        browser.resize(width, height)
+        browser.run(f"{by_id('undo')}.focus()")
+        for shift in [False] * 25 + [True] * 25:
+            browser.press("Tab", "Tab", 9, shift=shift)
+            expect(browser.run(covered), "", f"what is covered at {width}")
+    browser.run(f"scrollTo(0, 200), {by_id('undo')}.focus()")
+    expect(browser.run("scrollY"), 200, "where the page is scrolled to behind a button that stays")
+    browser.run(f"(() => {{ for (let i = 0; i < 300; ++i) {by_id('undo')}.click(); }})()")
+    browser.press("Enter", "Enter", 13)
+    expect(browser.run("[document.activeElement.id, document.activeElement.ariaDisabled]"), ["undo", "true"],
+           "the focus behind the first step of all")
+
+
+def twins():
+    browser.open(red)
+    expect(browser.run("[...document.querySelectorAll('.tab .name')].map(e => e.textContent)"),
+           ["Twin (1)", "Other", "Twin (2)"], "names of ships of one name")
+    browser.tap(box(0))
+    browser.open(blue)
+    expect((crossed().count("x"), said()), (0, ""), "the game of another player with the same ships")
+    browser.call("Emulation.setEmulatedMedia", features=[{"name": "forced-colors", "value": "active"}])
+    colors = "[...document.querySelectorAll('.tab')].map(e => getComputedStyle(e).backgroundColor)"
+    expect(len(set(browser.run(colors))), 2, "colors of tabs where colors are the player's own")
+    browser.call("Emulation.setEmulatedMedia", features=[])
 
 
 def strangers():
@@ -263,13 +337,15 @@ def without_storage():
 
 
 def make_pages(folder):
-    """The page, and one of another fleet with the same ships."""
+    """The page, one of great ships, and those of two players with the same ships."""
     tool, pictures = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
     own = tool_folder(folder, tool, pictures)
     same = ["ship = app/ships/Sparrow-Toll.shp", f"count = {len(SHIPS)}", *(f"named = {ship}" for ship in SHIPS)]
     great = [f"ship = app/ships/{ship}.shp" for ship in GREAT_SHIPS]
+    twins = ["ship = app/ships/Sparrow-Toll.shp", "count = 3", "named = Twin", "named = Other", "named = Twin"]
     pages = []
-    for name, ships in (("<script>alert(1)</script>", same), ("Great ships", great), ("Great ships", great)):
+    for name, ships in (("<script>alert(1)</script>", same), ("Great ships", great), ("Great ships", great),
+                        ("Twins\nplayer = Red", twins), ("Twins\nplayer = Blue", twins)):
         fleet = folder / "a.fleet"
         fleet.write_text("\n".join(["FleetWright fleet 1", f"name = {name}", "note = <u>All</u>", *ships, ""]))
         pages.append(str(folder / f"page{len(pages)}.html"))
@@ -277,12 +353,12 @@ def make_pages(folder):
     texts = [pathlib.Path(page).read_bytes() for page in pages]
     expect(texts[1] == texts[2], True, "the same bytes twice")
     expect(len(texts[1]) < 1000000, True, f"ten great ships in a megabyte, which take {len(texts[1])}")
-    return pages[:2]
+    return pages[:2] + pages[3:]
 
 
 browser = Browser(768, 1024)
 try:
-    page, other = make_pages(pathlib.Path(browser.folder))
+    page, other, red, blue = make_pages(pathlib.Path(browser.folder))
     browser.open(page)
     lost()
     damage_boxes()
@@ -291,12 +367,15 @@ try:
     files(after_reload())
     paper()
     fingers()
+    keyboard()
     browser.resize(768, 1024)
     expect(browser.complaints, [], "complaints of the browser")
     requests = [url for url in browser.requests if not url.startswith(("file:" + "//" + page, "data:", "blob:"))]
     expect(requests, [], "requests")
     strangers()
+    twins()
     without_storage()
+    paper_of_great_ships()
     expect(browser.dialogs, [], "dialogs")
 except (AssertionError, RuntimeError) as error:
     faults.append(str(error))
