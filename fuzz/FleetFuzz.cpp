@@ -2,6 +2,7 @@
 // fleet.
 
 #include "Choices.h"
+#include "FaultError.h"
 #include "FleetSum.h"
 #include "addShips.h"
 #include "fleetFile.h"
@@ -122,7 +123,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     try {
         checkFleet(text, choices);
-    } catch (const FleetError& error) {
+    } catch (const FaultError& error) {
         require(error.fault().line <= 1 + std::ranges::count(text, '\n') &&
                     shownText(error.what(), size + 200) == error.what(),
                 "what is no fleet is told in one line that only shows");

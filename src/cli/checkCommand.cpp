@@ -4,6 +4,7 @@
 #include "CatalogueFile.h"
 #include "DrawingPack.h"
 #include "Error.h"
+#include "FaultError.h"
 #include "FleetFiles.h"
 #include "PictureCheck.h"
 #include "PictureFiles.h"
@@ -143,7 +144,7 @@ std::vector<std::string> checkFleet(const Options& options, const CatalogueFile&
     ReadFleet read;
     try {
         read = parseFleet(readTextFile(nativePath(file)));
-    } catch (const FleetError& error) {
+    } catch (const FaultError& error) {
         return {complaint(file, error.fault())};
     }
     for (const Fault& fault : read.faults) {

@@ -2,6 +2,7 @@
 
 #include "CatalogueFile.h"
 #include "Error.h"
+#include "FaultError.h"
 #include "FleetFiles.h"
 #include "PrintedFleet.h"
 #include "SheetSupplies.h"
@@ -82,7 +83,7 @@ std::optional<ReadFleet> readAndRefuse(const std::string& file,
     std::optional<ReadFleet> read;
     try {
         read = parseFleet(readTextFile(nativePath(file)));
-    } catch (const FleetError& error) {
+    } catch (const FaultError& error) {
         refuse(complaint(file, error.fault()));
         return read;
     }

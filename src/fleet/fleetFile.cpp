@@ -1,5 +1,6 @@
 #include "fleetFile.h"
 
+#include "FaultError.h"
 #include "fleetKeys.h"
 #include "fleetLines.h"
 #include "readFile.h"
@@ -17,14 +18,14 @@ namespace {
 constexpr std::string_view firstWords = "FleetWright fleet ";
 constexpr std::string_view version = "1";
 
-/// Throws FleetError if a text does not begin like a fleet file of this version.
+/// Throws FaultError if a text does not begin like a fleet file of this version.
 void checkBeginning(std::string_view text) {
     if (!isFleet(text)) {
-        throw FleetError({0, "is no fleet file"});
+        throw FaultError({0, "is no fleet file"});
     }
     const std::string_view line = cutFleetLine(text).text;
     if (trimmed(line.substr(firstWords.size())) != version) {
-        throw FleetError({1, "is a fleet file of another version: " + quote(line)});
+        throw FaultError({1, "is a fleet file of another version: " + quote(line)});
     }
 }
 
@@ -46,7 +47,7 @@ Sections sectionsOf(std::string_view text) {
         const FleetLine cut = cutFleetLine(rest);
         if (cut.key == shipKeys().front().key) {
             if (sections.texts.size() >= Fleet::mostDesigns) {
-                throw FleetError({line, "a fleet has " + std::to_string(Fleet::mostDesigns) +
+                throw FaultError({line, "a fleet has " + std::to_string(Fleet::mostDesigns) +
                                             " designs at the most"});
             }
             sections.texts.push_back(text.substr(begin, above - begin));

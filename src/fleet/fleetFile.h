@@ -2,7 +2,6 @@
 
 // The fleet file, `.fleet`, which docs/file-formats.md describes.
 
-#include "Error.h"
 #include "Fault.h"
 #include "Fleet.h"
 
@@ -13,17 +12,6 @@
 #include <vector>
 
 namespace fleetwright {
-
-/// A text that is no fleet file, or one that this program cannot take.
-class FleetError : public Error {
-public:
-    explicit FleetError(const Fault& fault) : Error(fault.text), m_line(fault.line) {}
-
-    Fault fault() const { return {m_line, what()}; }
-
-private:
-    int m_line;
-};
 
 /// A fleet file as it was understood.
 struct ReadFleet {
@@ -40,7 +28,7 @@ bool isFleet(std::string_view text);
 /// What is wrong with such a one in the place of a ship. Any text makes a ship, if only of mass 2.
 inline constexpr const char* fleetIsNoShip = "is a fleet, and no ship";
 
-/// Reads the text of a fleet file, in UTF-8. Throws FleetError if it is none, or one of a
+/// Reads the text of a fleet file, in UTF-8. Throws FaultError if it is none, or one of a
 /// later version or with more than `Fleet::mostDesigns`.
 ReadFleet parseFleet(std::string_view text);
 

@@ -1,5 +1,6 @@
 #include "FleetHistory.h"
 
+#include "FaultError.h"
 #include "fleetFile.h"
 #include "text.h"
 
@@ -106,7 +107,7 @@ bool FleetHistory::areMomentsFleets() const {
                 }
                 parseFleet(isBack ? at.undo() : at.redo());
             }
-        } catch (const FleetError&) {
+        } catch (const FaultError&) {
             return false;
         }
     }

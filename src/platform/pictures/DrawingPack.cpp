@@ -152,7 +152,7 @@ void DrawingPack::readIndex() const {
     const std::size_t end =
         indexEnd + (m_entries.empty() ? 0 : m_entries.back().place + m_entries.back().length);
     if (end != size) {
-        throw PackError(0, end > size ? "is cut short" : "goes on behind its end");
+        throw FaultError({0, end > size ? "is cut short" : "goes on behind its end"});
     }
     for (Entry& entry : m_entries) {
         entry.place += indexEnd;
@@ -169,18 +169,19 @@ void DrawingPack::readDrawing(Entry& entry) const {
     const auto drawing = std::make_shared<Drawing>();
     try {
         *drawing = drawingIn(PackReader(text));
-    } catch (const PackError& error) {
+    } catch (const FaultError& error) {
         const auto linesBefore = std::ranges::count(m_pack->piece(0, entry.place), '\n');
-        throw PackError(static_cast<int>(linesBefore) + error.line(), error.what());
+        throw FaultError({static_cast<int>(linesBefore) + error.fault().line, error.what()});
     }
     drawing->width = entry.picture.width;
     drawing->height = entry.picture.height;
     entry.drawing = drawing;
 }
 
-void DrawingPack::fail(const PackError& error) const {
-    const std::string line = error.line() == 0 ? "" : "line " + std::to_string(error.line()) + ": ";
-    throw FileError(m_file, line + error.what());
+void DrawingPack::fail(const FaultError& error) const {
+    const Fault fault = error.fault();
+    const std::string line = fault.line == 0 ? "" : "line " + std::to_string(fault.line) + ": ";
+    throw FileError(m_file, line + fault.text);
 }
 
 std::shared_ptr<const Drawing> DrawingPack::of(const Raster& picture) const {
@@ -196,7 +197,7 @@ std::shared_ptr<const Drawing> DrawingPack::of(const Raster& picture) const {
         }
         readDrawing(*found);
         return found->drawing;
-    } catch (const PackError& error) {
+    } catch (const FaultError& error) {
         fail(error);
     }
 }
@@ -206,7 +207,7 @@ std::optional<DrawingPack::Picture> DrawingPack::pictureIn(std::string_view file
     const std::lock_guard lock(m_mutex);
     try {
         readIndex();
-    } catch (const PackError& error) {
+    } catch (const FaultError& error) {
         fail(error);
     }
     const auto found = std::ranges::lower_bound(m_files, std::pair(key, std::size_t{0}));
@@ -224,8 +225,8 @@ std::optional<Fault> DrawingPack::fault() const {
             readDrawing(entry);
         }
         return std::nullopt;
-    } catch (const PackError& error) {
-        return Fault{error.line(), error.what()};
+    } catch (const FaultError& error) {
+        return error.fault();
     }
 }
 

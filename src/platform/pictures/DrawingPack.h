@@ -16,7 +16,7 @@
 
 namespace fleetwright {
 
-class PackError;
+class FaultError;
 class PackReader;
 
 /// Where the drawings of the delivered pictures are.
@@ -58,7 +58,7 @@ private:
 
     void readIndex() const;
     void readEntry(PackReader& reader) const;
-    [[noreturn]] void fail(const PackError& error) const;
+    [[noreturn]] void fail(const FaultError& error) const;
     void readDrawing(Entry& entry) const;
 
     std::filesystem::path m_file;

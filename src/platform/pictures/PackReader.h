@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Error.h"
+#include "FaultError.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,19 +9,8 @@
 
 namespace fleetwright {
 
-/// A line of a pack is not as it has to be.
-class PackError : public Error {
-public:
-    PackError(int line, const std::string& fault) : Error(fault), m_line(line) {}
-
-    int line() const { return m_line; }
-
-private:
-    int m_line;
-};
-
 /// Takes the text of a pack apart, strictly as it is written: a line feed behind each line, one
-/// blank between two words. Whatever does not find what it is asked for throws PackError.
+/// blank between two words. Whatever does not find what it is asked for throws FaultError.
 class PackReader {
 public:
     /// A text, or what follows in it from the line of this number on.
@@ -43,7 +32,7 @@ public:
     std::uint64_t hexadecimal(std::string_view piece, std::size_t digits) const;
     void endLine() const;
 
-    [[noreturn]] void fail(const std::string& fault) const { throw PackError(m_line, fault); }
+    [[noreturn]] void fail(const std::string& fault) const { throw FaultError({m_line, fault}); }
 
 private:
     std::string_view m_rest;   // of the text
