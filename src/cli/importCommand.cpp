@@ -3,6 +3,7 @@
 #include "CatalogueFile.h"
 #include "Error.h"
 #include "FaultError.h"
+#include "ResultFiles.h"
 #include "ShipClass.h"
 #include "console.h"
 #include "paths.h"
@@ -11,7 +12,6 @@
 #include "shipJson.h"
 
 #include <cstdint>
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -110,7 +110,7 @@ private:
     }
 
     void save(const fs::path& file, const std::string& shipFile, int line) {
-        if (m_written.insert(toCapitals(pathText(file))).second) {
+        if (m_written.takenBy(file, m_file) == nullptr) {
             saveResult(file, shipFile);
         } else {
             refuse({line, "another ship goes to " + shownText(pathText(file))});
@@ -125,7 +125,7 @@ private:
     bool m_isIntoFolder;
     fs::path m_out;
     ShipServices m_services;
-    std::set<std::string> m_written;  // in capitals: so no file system takes two for one
+    ResultFiles m_written;
     std::string m_file;
     int m_status = Done;
 };

@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "OutlineScan.h"
 #include "PictureFiles.h"
+#include "ResultFiles.h"
 #include "ToolPictures.h"
 #include "console.h"
 #include "inOrder.h"
@@ -10,7 +11,6 @@
 #include "saveResult.h"
 #include "text.h"
 
-#include <map>
 #include <span>
 #include <system_error>
 #include <thread>
@@ -66,17 +66,16 @@ private:
 
     fs::path mapName(const std::string& outline) {
         fs::path name = nativePath(outline).filename().replace_extension(".map");
-        const auto [made, isNew] = m_made.try_emplace(toCapitals(name.string()), outline);
-        if (!isNew) {
-            throw Error("the map " + quote(name.string()) + " is already made from " +
-                        shownText(made->second));
+        if (const std::string* const other = m_made.takenBy(name, outline)) {
+            throw Error("the map " + quote(pathText(name)) + " is already made from " +
+                        shownText(*other));
         }
         return name;
     }
 
     fs::path m_output;
     bool m_isFolder;
-    std::map<std::string, std::string> m_made;  // outlines by the names of their maps
+    ResultFiles m_made;
 };
 
 int runScan(const Options& options) {

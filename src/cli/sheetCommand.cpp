@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "KeptSheetParts.h"
 #include "KeptSvgParts.h"
+#include "ResultFiles.h"
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
 #include "ToolPictures.h"
@@ -19,7 +20,6 @@
 #include "text.h"
 
 #include <algorithm>
-#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -110,32 +110,36 @@ class SheetFiles {
 public:
     explicit SheetFiles(const Options& options) : m_out(nativePath(options.value(outOption.name))) {
         if (sheetOut(options) == SheetOut::File) {
-            m_files.push_back(m_out);
+            m_files.push_back({m_out});
             return;
         }
         if (!m_out.empty()) {
             makeFolder(m_out);
         }
+        ResultFiles taken;
         for (const std::string& ship : options.words) {
-            m_files.push_back(m_out / sheetName(ship).concat('.' + options.value("--format")));
-            m_firstShips.try_emplace(m_files.back(), m_files.size() - 1);
+            const fs::path file = m_out / sheetName(ship).concat('.' + options.value("--format"));
+            m_files.push_back({file, taken.takenBy(file, ship) != nullptr});
         }
     }
 
     /// The file of a ship. Throws Error if it is that of a ship before it.
     const fs::path& of(std::size_t index) const {
-        const fs::path& file = m_files[index];
-        const auto first = m_firstShips.find(file);
-        if (first != m_firstShips.end() && first->second != index) {
+        const auto& [file, isTaken] = m_files[index];
+        if (isTaken) {
             throw Error("another ship's sheet goes to " + shownText(pathText(file)));
         }
         return file;
     }
 
 private:
+    struct SheetFile {
+        fs::path file;
+        bool isTaken = false;  ///< by a ship before
+    };
+
     fs::path m_out;
-    std::vector<fs::path> m_files;
-    std::map<fs::path, std::size_t> m_firstShips;
+    std::vector<SheetFile> m_files;
 };
 
 std::string formatOf(const fs::path& file) {
