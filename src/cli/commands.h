@@ -5,6 +5,7 @@
 #include "ShipClass.h"
 #include "inOrder.h"
 
+#include <filesystem>
 #include <functional>
 #include <span>
 #include <string>
@@ -63,5 +64,9 @@ inline constexpr OptionRow outOption = {
             }
         },
 };
+
+/// Whether what `-o` says is a folder: an ending says that it is a file, unless there is a folder
+/// of that name.
+bool isOutFolder(const std::filesystem::path& out);
 
 }  // namespace fleetwright

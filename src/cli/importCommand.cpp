@@ -22,11 +22,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whether `-o` names a folder: an ending says that it is a file, unless there is such a folder.
 bool isIntoFolder(const Options& options) {
-    const fs::path out = nativePath(options.value(outOption.name));
-    std::error_code ignored;
-    return options.has(outOption.name) && (!out.has_extension() || fs::is_directory(out, ignored));
+    return options.has(outOption.name) && isOutFolder(nativePath(options.value(outOption.name)));
 }
 
 void checkImport(const Options& options) {

@@ -43,12 +43,10 @@ std::optional<std::string> sheetFormat(std::string_view file) {
     return std::nullopt;
 }
 
-/// What `-o` names: an ending says that it is a file, unless there is a folder of that name.
+/// What `-o` names, or the current folder without it.
 SheetOut sheetOut(const Options& options) {
     const std::string output = options.value(outOption.name);
-    const fs::path out = nativePath(output);
-    std::error_code ignored;
-    if (!out.has_extension() || fs::is_directory(out, ignored)) {
+    if (isOutFolder(nativePath(output))) {
         return SheetOut::Folder;
     }
     const std::optional<std::string> format = sheetFormat(output);

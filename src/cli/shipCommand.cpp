@@ -7,6 +7,8 @@
 #include "paths.h"
 #include "readShip.h"
 
+#include <system_error>
+
 namespace fleetwright {
 
 int forEachShip(const Options& options, RefusedLines refusedLines,
@@ -48,6 +50,11 @@ int forEachShip(const Options& options, std::span<const std::string> ships,
             return screens.lend([&](ShipOnScreen& screen) { return load(index, screen); });
         },
         taken);
+}
+
+bool isOutFolder(const std::filesystem::path& out) {
+    std::error_code ignored;
+    return !out.has_extension() || std::filesystem::is_directory(out, ignored);
 }
 
 void refuseFleet(const std::string& ship) {
