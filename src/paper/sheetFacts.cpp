@@ -18,13 +18,6 @@ namespace fleetwright {
 
 namespace {
 
-/// The word behind "Key: " in a line of designWords.
-std::string factOf(const std::string& line) {
-    constexpr std::string_view parting = ": ";
-    const std::size_t colon = line.find(parting);
-    return colon == std::string::npos ? std::string() : line.substr(colon + parting.size());
-}
-
 std::string thrustWords(std::int32_t thrust) {
     if (thrust <= 0) {
         return "None";
@@ -169,15 +162,15 @@ SheetFacts sheetFacts(const SheetShip& ship, const std::vector<ListView::Row>& l
             .designer = ship.txtDesigner,
             .shipClass = std::string(design.Class()),
             .designation = std::string(design.relSize()),
-            .hull = factOf(hullLine(design.Hull())),
+            .hull = std::string(hullWord(design.Hull())),
             .mass = design.mass(),
             .points = wholeNumber(ship.txtCost),
             .thrust = thrustWords(design.hullDesign().thrust),
             .drive = driveWords(design.FTL()),
             .damagePoints = wholeNumber(ship.txtDP),
             .damageRows = design.g_iDamRows,
-            .armor = factOf(armorLine(design.Armor())),
-            .streamlining = factOf(streamlineLine(design.Streamline())),
+            .armor = wordOf(armorLine(design.Armor())),
+            .streamlining = wordOf(streamlineLine(design.Streamline())),
             .fire = firePowerOf(ship.ship),
             .legend = Legend(ship, sources).rows(lvCurrentWeapons)};
 }
