@@ -3,31 +3,23 @@
 #include "strfcns.h"
 #include "text.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <utility>
 
 namespace fleetwright {
 
 namespace {
 
+/// The words of the keys, in the order of the keys.
+constexpr std::array<std::string_view, 9> keyWords = {"Ship Name", "Designer Name", "Mass",
+                                                      "Thrust",    "Type",          "Streamlining",
+                                                      "Armor",     "FTL",           "System"};
+static_assert(keyWords.size() == static_cast<std::size_t>(ShipKey::Unknown));
+
 ShipKey shipKeyOf(std::string_view text) {
-    static constexpr std::array<std::pair<std::string_view, ShipKey>, 9> keys = {{
-        {"Ship Name", ShipKey::ShipName},
-        {"Designer Name", ShipKey::DesignerName},
-        {"Mass", ShipKey::Mass},
-        {"Thrust", ShipKey::Thrust},
-        {"Type", ShipKey::Type},
-        {"Streamlining", ShipKey::Streamlining},
-        {"Armor", ShipKey::Armor},
-        {"FTL", ShipKey::Ftl},
-        {"System", ShipKey::System},
-    }};
-    for (const auto& [word, key] : keys) {
-        if (word == text) {
-            return key;
-        }
-    }
-    return ShipKey::Unknown;
+    return static_cast<ShipKey>(std::ranges::find(keyWords, text) - keyWords.begin());
 }
 
 std::string nextPiece(std::string_view delims) {
@@ -62,6 +54,10 @@ ShipFileLine cutShipFileLine(std::string& line) {
         cut.value = nextPiece(":");
     }
     return cut;
+}
+
+std::string shipLine(ShipKey key, std::string_view value) {
+    return std::string(keyWords.at(static_cast<std::size_t>(key))).append(": ").append(value);
 }
 
 std::optional<std::string> valueIn(std::string_view shipFile, ShipKey key) {

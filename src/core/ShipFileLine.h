@@ -53,6 +53,10 @@ struct RefusedLine {
 /// Cuts a line with `strTok`. An empty `line` becomes what the cutting before has left.
 ShipFileLine cutShipFileLine(std::string& line);
 
+/// A line of a ship file as this program writes it, or the beginning of one: "Ship Name: " and the
+/// value. Any key but `Unknown` has a word.
+std::string shipLine(ShipKey key, std::string_view value = {});
+
 /// What the last line with this key says in the text of a ship file; nothing if there is none.
 std::optional<std::string> valueIn(std::string_view shipFile, ShipKey key);
 

@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "FleetSum.h"
+#include "ShipFileLine.h"
 #include "eachRosterPage.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ void rename(std::string& text, std::string_view beginning, const std::string& na
 
 /// A ship file under another name.
 std::string renamedShip(std::string shipFile, const std::string& name) {
-    rename(shipFile, "Ship Name: ", name);
+    rename(shipFile, shipLine(ShipKey::ShipName), name);
     return shipFile;
 }
 

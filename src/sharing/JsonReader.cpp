@@ -34,13 +34,12 @@ bool takeNumber(const Value& value, std::int64_t least, std::int64_t most, std::
 
 /// Puts a text into a field if it comes back from a line of a ship file with this key.
 template <typename Value>
-bool takeName(const Value& value, const std::string& key, const std::string& behind,
-              std::string& field) {
+bool takeName(const Value& value, ShipKey key, const std::string& behind, std::string& field) {
     const auto* const text = std::get_if<std::string>(&value);
     if (text == nullptr || text->find_first_of("\r\n") != std::string::npos) {
         return false;
     }
-    std::string line = key + ": " + *text + behind;
+    std::string line = shipLine(key, *text + behind);
     field = *text;
     return cutShipFileLine(line).value == *text;
 }
@@ -68,11 +67,11 @@ const JsonReader::Field JsonReader::shipFields[] = {
      }},
     {"shipName", wantedName, true,
      [](JsonReader& reader, const Value& value) {
-         return takeName(value, "Ship Name", "", reader.design().shipName);
+         return takeName(value, ShipKey::ShipName, "", reader.design().shipName);
      }},
     {"designerName", wantedName, true,
      [](JsonReader& reader, const Value& value) {
-         return takeName(value, "Designer Name", "", reader.design().designerName);
+         return takeName(value, ShipKey::DesignerName, "", reader.design().designerName);
      }},
     {"mass", "a whole number from 2 to 2147483647", true,
      [](JsonReader& reader, const Value& value) {
@@ -106,7 +105,7 @@ const JsonReader::Field JsonReader::shipFields[] = {
 const JsonReader::Field JsonReader::systemFields[] = {
     {"name", wantedSystem, true,
      [](JsonReader& reader, const Value& value) {
-         return takeName(value, "System", ", 1", reader.design().systems.back().first);
+         return takeName(value, ShipKey::System, ", 1", reader.design().systems.back().first);
      }},
     {"amount", "a whole number from 1 to 2147483647", true,
      [](JsonReader& reader, const Value& value) {

@@ -1,6 +1,7 @@
 #include "WrittenShip.h"
 
 #include "Error.h"
+#include "ShipFileLine.h"
 #include "text.h"
 #include "wholeNumber.h"
 
@@ -10,14 +11,15 @@
 namespace fleetwright {
 
 WrittenShip WrittenShip::of(std::string_view shipFile) {
-    constexpr std::string_view nameKey = "Ship Name: ", massKey = "Mass: ";
+    static const std::string nameKey = shipLine(ShipKey::ShipName),
+                             massKey = shipLine(ShipKey::Mass);
     // In this order; between the last two and behind them there may be others.
-    constexpr std::array keys = {nameKey,
-                                 std::string_view("Designer Name: "),
-                                 massKey,
-                                 std::string_view("Thrust: "),
-                                 std::string_view("Type: "),
-                                 std::string_view("FTL: ")};
+    static const std::array keys = {nameKey,
+                                    shipLine(ShipKey::DesignerName),
+                                    massKey,
+                                    shipLine(ShipKey::Thrust),
+                                    shipLine(ShipKey::Type),
+                                    shipLine(ShipKey::Ftl)};
     WrittenShip ship;
     std::size_t found = 0;
     LineReader lines(shipFile);
