@@ -18,6 +18,7 @@
 #include "console.h"
 #include "designCode.h"
 #include "fleetFile.h"
+#include "fleetName.h"
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
@@ -185,14 +186,14 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
         return checkShip(screen, file);
     };
     try {
-        const std::string extension = toCapitals(nativePath(file).extension().string());
-        if (extension == ".SHP" || isDesignCode(file)) {
+        const std::string extension = toSmallLetters(nativePath(file).extension().string());
+        if (extension == shipExtension || isDesignCode(file)) {
             return check();
         }
-        if (extension == ".DAT") {
+        if (extension == ".dat") {
             return checkCatalogueFile(options, nativePath(file));
         }
-        if (extension == ".MAP") {
+        if (extension == ".map") {
             return checkMap(options, readTextFile(nativePath(file)));
         }
         if (isSheet(readBytes(nativePath(file)))) {
@@ -205,14 +206,10 @@ std::vector<Fault> checkFile(const Options& options, const CatalogueFile& catalo
     }
 }
 
-bool isFleetFile(const std::string& file) {
-    return !isDesignCode(file) && toCapitals(nativePath(file).extension().string()) == ".FLEET";
-}
-
 /// The same as lines, of fleets, too.
 std::vector<std::string> linesOn(const Options& options, const CatalogueFile& catalogueFile,
                                  const std::string& file) {
-    if (isFleetFile(file)) {
+    if (isFleetName(file) && !isDesignCode(file)) {
         try {
             return checkFleet(options, catalogueFile, file);
         } catch (const FileError& error) {
@@ -243,7 +240,7 @@ int runCheck(const Options& options) {
     if (files.empty()) {
         files.push_back(catalogueFile.path().string());
         for (const auto& [folder, ending] :
-             {std::pair("ships", ".shp"), {"fleets", ".fleet"}, {"maps", ".map"}}) {
+             {std::pair("ships", shipExtension), {"fleets", fleetExtension}, {"maps", ".map"}}) {
             try {
                 for (const fs::path& file : listFolder(options.appFolder / folder, ending)) {
                     files.push_back(file.string());

@@ -98,7 +98,7 @@ private:
         if (m_isIntoFolder) {
             const std::string name =
                 fileNameOf(ship.file.empty() ? ship.design.shipName : ship.file);
-            save(m_out / nativePath(name + ".shp"), shipFile, ship.line);
+            save(m_out / nativePath(name + shipExtension), shipFile, ship.line);
         } else if (!m_out.empty()) {
             save(m_out, shipFile, ship.line);
         } else {

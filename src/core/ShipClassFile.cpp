@@ -17,7 +17,7 @@ namespace fleetwright {
 
 namespace {
 
-constexpr std::string_view extension = ".shp";
+constexpr std::string_view extension = shipExtension;
 
 /// A hull as the window will bring it in order: no mass below the smallest, no moving base.
 HullDesign asShown(HullDesign hull) {

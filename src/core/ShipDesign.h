@@ -9,6 +9,9 @@
 
 namespace fleetwright {
 
+/// What ship files are called.
+inline constexpr const char* shipExtension = ".shp";
+
 /// What a ship file tells of a ship.
 struct ShipDesign {
     std::string shipName;

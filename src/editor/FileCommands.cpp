@@ -11,6 +11,7 @@
 #include "ReportPrinter.h"
 #include "clsMRUFiles.h"
 #include "designCode.h"
+#include "fleetName.h"
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
@@ -20,7 +21,6 @@ namespace fleetwright {
 
 namespace {
 
-constexpr const char* shipExtension = ".shp";
 const std::string isNotSaved = "This design is not saved yet. Save As gives it a file.";
 constexpr const char* hasNoFile = "This design has no file yet: Save As (Ctrl+A) gives it one";
 

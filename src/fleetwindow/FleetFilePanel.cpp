@@ -3,8 +3,8 @@
 #include "Desktop.h"
 #include "Error.h"
 #include "FleetRecoveryPanel.h"
-#include "FleetWindow.h"
 #include "fleetFile.h"
+#include "fleetName.h"
 #include "paths.h"
 #include "text.h"
 

@@ -1,6 +1,7 @@
 #include "frmFleet.h"
 
 #include "Clock.h"
+#include "fleetName.h"
 #include "paths.h"
 #include "text.h"
 

@@ -1,20 +1,9 @@
 #pragma once
 
-#include "text.h"
-
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 namespace fleetwright {
-
-/// What fleet files are called.
-inline constexpr const char* fleetExtension = ".fleet";
-
-/// Whether a file of this name is one of a fleet.
-inline bool isFleetName(std::string_view name) {
-    return toSmallLetters(name).ends_with(fleetExtension);
-}
 
 /// The ship in the main window, as a fleet can take it.
 struct ShipAtHand {

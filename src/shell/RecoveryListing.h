@@ -1,6 +1,8 @@
 #pragma once
 
 #include "RecoveryName.h"
+#include "ShipDesign.h"
+#include "fleetName.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -12,8 +14,8 @@
 namespace fleetwright {
 
 // How files are named in a folder of designs put aside.
-inline constexpr const char* recoveryExtension = ".shp";
-inline constexpr const char* recoveryFleet = ".fleet";  ///< in place of that, of a fleet
+inline constexpr const char* recoveryExtension = shipExtension;
+inline constexpr const char* recoveryFleet = fleetExtension;  ///< in place of that, of a fleet
 inline constexpr const char* recoverySteps = ".steps";  ///< in place of that, of a design's steps
 inline constexpr const char* recoveryLock = ".lock";    ///< behind the mark of a run
 inline constexpr const char* recoveryRecord = ".record-";  ///< in front of it
