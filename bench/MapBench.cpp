@@ -3,6 +3,7 @@
 #include "BenchFolder.h"
 #include "GoalTable.h"
 #include "SSDMaps.h"
+#include "arcWords.h"
 
 #include <filesystem>
 #include <fstream>
@@ -28,7 +29,8 @@ const fs::path& folderOfMaps() {
                 << "FTL: (200,40)\r\nTHRUST: (200,90)\r\n";
             for (int line = 5; line < lineCount; ++line) {
                 const std::string place = std::to_string(line * 7) + ',' + std::to_string(line * 5);
-                const std::string_view arc = mapArcs.substr(static_cast<std::size_t>(line) % 5, 1);
+                const std::string_view arc =
+                    sheetArcs.substr(static_cast<std::size_t>(line) % 5, 1);
                 out << (line % 10 == 0   ? "DCP: (" + place + ")\r\n"
                         : line % 10 == 1 ? "FIRECON: (" + place + ")\r\n"
                                          : "WEAP: (" + place + ',' + std::string(arc) + ")\r\n");

@@ -6,6 +6,7 @@
 #include "GoalTable.h"
 #include "RasterSheet.h"
 #include "SheetImages.h"
+#include "SheetPictures.h"
 #include "SheetWorld.h"
 #include "ShipOnScreen.h"
 #include "bestMap.h"
@@ -52,7 +53,7 @@ public:
                     std::int32_t index = m_ship.weapNameToIndex(name);
                     WeapRec record;
                     m_picture.clear();
-                    if (name != SheetImages::blank) {
+                    if (name != blankPictureKey) {
                         m_ship.listWeap(index, record);
                         m_picture = folder + std::string(record.icon);
                     }

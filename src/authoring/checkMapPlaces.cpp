@@ -3,6 +3,7 @@
 #include "Error.h"
 #include "HullRules.h"
 #include "SheetPictures.h"
+#include "arcWords.h"
 #include "mapMarks.h"
 
 #include <algorithm>
@@ -118,7 +119,7 @@ private:
 
     void checkArcs() {
         std::string missing;
-        for (const char arc : mapArcs) {
+        for (const char arc : sheetArcs) {
             const bool isThere =
                 std::any_of(m_map.places.begin(), m_map.places.end(), [&](const MapPlace& place) {
                     return place.keyword == MapKeyword::Weap && place.arc == std::string(1, arc);

@@ -1,6 +1,8 @@
 #include "CatalogueCheck.h"
 
 #include "Catalogue.h"
+#include "SheetPictures.h"
+#include "arcWords.h"
 #include "formulaFault.h"
 #include "text.h"
 
@@ -53,7 +55,7 @@ std::vector<Fault> CatalogueChecker::check(const CatalogueText& catalogue) {
         m_nodes[std::string(root)] = {.isCategory = true};
     }
     // Not in the tree, but among its pictures, which have the same keys.
-    m_nodes["BLANK"] = {.hasChild = true};
+    m_nodes[std::string(blankPictureKey)] = {.hasChild = true};
 
     for (const CatalogueLine& record : catalogue.lines()) {
         m_line = record.number;
@@ -109,11 +111,10 @@ void CatalogueChecker::checkFormula(std::string_view which, std::string_view for
 }
 
 void CatalogueChecker::checkArcs(std::string_view arcs) {
-    constexpr std::string_view letters = "FPSBA";
     if (arcs.empty()) {
         remark("no arc letters");
-    } else if (!arcs.starts_with('6') && !arcs.starts_with('O')) {
-        const std::size_t other = arcs.find_first_not_of(letters);
+    } else if (hasSheetPlace(arcs)) {
+        const std::size_t other = arcs.find_first_not_of(sheetArcs);
         if (other != std::string_view::npos) {
             remark("unknown arc letter " + quote(arcs.substr(other, 1)));
         }

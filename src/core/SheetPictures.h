@@ -15,6 +15,9 @@ inline constexpr std::string_view fireControlPicture = "ssdfc.gif";
 inline constexpr std::string_view unusedFireControlPicture = "fcblank.gif";
 inline constexpr std::string_view noDrivePicture = "blank.gif";
 
+/// Key, among the pictures of systems, of the white one that free places are covered with.
+inline constexpr std::string_view blankPictureKey = "BLANK";
+
 /// The sizes of damage track, by the largest mass that a map serves.
 enum class TrackSize { Escort, Cruiser, Capital };
 inline constexpr TrackSize trackSizes[] = {TrackSize::Escort, TrackSize::Cruiser,

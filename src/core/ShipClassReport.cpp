@@ -1,6 +1,7 @@
 #include "ShipClass.h"
 
 #include "ReportPrinter.h"
+#include "arcWords.h"
 #include "designWords.h"
 
 namespace fleetwright {
@@ -71,8 +72,7 @@ bool ShipClass::PaintableWeap(std::string_view in_sWeapName) const {
     if (index == -1) {
         return false;
     }
-    const std::string_view arcs = m_catalogue.records()[static_cast<std::size_t>(index)].arclist;
-    return !arcs.starts_with('6') && !arcs.starts_with('O');
+    return hasSheetPlace(m_catalogue.records()[static_cast<std::size_t>(index)].arclist);
 }
 
 std::string_view ShipClass::GimmeWeapArc(std::string_view in_sWeapName) const {

@@ -5,6 +5,14 @@
 
 namespace fleetwright {
 
+/// The arcs that a drawing has places in, a letter each: fore, port, starboard, aft and belly.
+inline constexpr std::string_view sheetArcs = "FPSAB";
+
+/// Whether a system with these arc letters has a place on a drawing: not if they begin with 6 or O.
+constexpr bool hasSheetPlace(std::string_view arcLetters) {
+    return !arcLetters.starts_with('6') && !arcLetters.starts_with('O');
+}
+
 /// The fields of fire of a system, as letters: F fore, P port, S starboard, A aft. A name says them
 /// in brackets at its end, as "(FP)" or "(All)"; of another system the arc letters do, unless the
 /// centre line is among them: then they say where on the drawing there is room for it, and no

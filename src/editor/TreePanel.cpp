@@ -3,6 +3,7 @@
 #include "Desktop.h"
 #include "Error.h"
 #include "PictureFiles.h"
+#include "SheetPictures.h"
 #include "StartUpProgress.h"
 #include "SystemsPanel.h"
 #include "explainShip.h"
@@ -54,7 +55,7 @@ void TreePanel::LoadWeaponTree() {
     for (const std::string_view root : catalogueRoots) {
         ilWeapons.add(std::string(root), pictures.builtIn("root-" + toSmallLetters(root) + ".gif"));
     }
-    ilWeapons.add("BLANK", pictures.builtIn("root-blank.gif"));  // sheets are covered with it
+    ilWeapons.add(std::string(blankPictureKey), pictures.builtIn("root-blank.gif"));
     const std::shared_ptr<const CatalogueText> catalogue = services().catalogueFile.read();
     for (const CatalogueLine& fields : catalogue->lines()) {
         if (!fields.isCategory()) {

@@ -2,6 +2,7 @@
 
 // The lines of a map file: the one place that knows its key words and how a line is taken apart.
 
+#include "arcWords.h"
 #include "text.h"
 
 #include <array>
@@ -46,12 +47,9 @@ constexpr bool isAppending(MapKeyword keyword) {
            keyword == MapKeyword::Dcp;
 }
 
-/// The arcs that a weapon point can be in, a letter each.
-inline constexpr std::string_view mapArcs = "FPSAB";
-
-/// Whether the text of a weapon point, in capitals, is one of these arcs.
+/// Whether the text of a weapon point, in capitals, is an arc that it can be in.
 constexpr bool isMapArc(std::string_view arc) {
-    return arc.size() == 1 && mapArcs.find(arc) != std::string_view::npos;
+    return arc.size() == 1 && sheetArcs.find(arc) != std::string_view::npos;
 }
 
 /// A line of a map file, cut but not yet understood. The pieces have no blanks at their ends and

@@ -94,7 +94,7 @@ PictureFinder picturesReadOnce(const std::filesystem::path& appFolder, PictureFi
 SheetImages catalogueImages(const PictureFinder& files, const ShipClass& ship) {
     std::map<std::string, Raster, std::less<>> loaded;
     static const Raster blank = Raster(systemPictureSize, systemPictureSize).shared();
-    loaded.try_emplace(std::string(SheetImages::blank), blank);
+    loaded.try_emplace(std::string(blankPictureKey), blank);
     return {.file = files,
             .system = [&ship, files,
                        loaded = std::move(loaded)](std::string_view name) mutable -> const Raster& {

@@ -21,12 +21,9 @@ using OutlineFinder = std::function<Raster(const SSDMap&)>;
 
 /// Finds the pictures that a sheet is pasted together from.
 struct SheetImages {
-    /// Key of the white picture that free points are covered with.
-    static constexpr std::string_view blank = "BLANK";
-
     PictureFinder file;
-    /// The picture of a system, by its name, or `blank`. Throws Error if there is none. It stays
-    /// as it is for as long as this finder is there.
+    /// The picture of a system, by its name, or of `blankPictureKey`. Throws Error if there is
+    /// none. It stays as it is for as long as this finder is there.
     std::function<const Raster&(std::string_view name)> system;
 };
 

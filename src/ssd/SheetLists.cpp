@@ -2,6 +2,7 @@
 
 #include "SSDMap.h"
 #include "ShipClass.h"
+#include "arcWords.h"
 #include "checkedArithmetic.h"
 #include "wholeNumber.h"
 
@@ -32,7 +33,7 @@ std::int32_t SheetLists::fillShipWeap(const std::vector<ListView::Row>& lvCurren
 }
 
 void SheetLists::fillPoints(const SSDMap& map) {
-    for (const char arc : mapArcs) {
+    for (const char arc : sheetArcs) {
         weaponsIn(arc)->clear();
     }
     for (std::int16_t i = 0; i < map.iWeapNDX; ++i) {

@@ -5,6 +5,7 @@
 #include "SheetImages.h"
 #include "SheetPictures.h"
 #include "ShipClass.h"
+#include "arcWords.h"
 #include "checkedArithmetic.h"
 #include "designWords.h"
 #include "text.h"
@@ -182,7 +183,7 @@ void SheetDrawing::paintDrives() {
     const std::int16_t thrustX = m_map.getThrustPntX();
     const std::int16_t thrustY = m_map.getThrustPntY();
     if (isBase(m_ship.Hull())) {
-        m_sheet.paint(system(SheetImages::blank), thrustX, thrustY);
+        m_sheet.paint(system(blankPictureKey), thrustX, thrustY);
     } else {
         const std::int16_t thrust = m_ship.THRUST();
         m_sheet.paintPiece(file(thrustPicture(thrust), "for thrust " + std::to_string(thrust)),
@@ -193,14 +194,14 @@ void SheetDrawing::paintDrives() {
 }
 
 void SheetDrawing::coverWhatIsLeft() {
-    for (const char arc : mapArcs) {
+    for (const char arc : sheetArcs) {
         PointList& list = *m_lists.weaponsIn(arc);
         for (; !list.empty(); list.pop_back()) {
-            paintAtWeapon(system(SheetImages::blank), list.back());
+            paintAtWeapon(system(blankPictureKey), list.back());
         }
     }
     for (; !m_lists.lstDCP.empty(); m_lists.lstDCP.pop_back()) {
-        paintAtParty(system(SheetImages::blank), m_lists.lstDCP.back());
+        paintAtParty(system(blankPictureKey), m_lists.lstDCP.back());
     }
     for (; !m_lists.lstFirecons.empty(); m_lists.lstFirecons.pop_back()) {
         paintAtFireControl(file(unusedFireControlPicture, "of an unused fire control"),

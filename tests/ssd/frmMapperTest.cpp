@@ -1,6 +1,7 @@
 #include "frmMapper.h"
 
 #include "Error.h"
+#include "SheetPictures.h"
 #include "caseFile.h"
 #include "fakeServices.h"
 #include "paths.h"
@@ -141,7 +142,7 @@ struct Mapper : PictureEncoder {
                                             name.starts_with('s') ? 18 : 5);
                              },
                              [this](std::string_view name) -> const Raster& {
-                                 return name == SheetImages::blank ? blank : coloured;
+                                 return name == blankPictureKey ? blank : coloured;
                              }};
     frmMapper window{{folder.path(), desktop, outlinesIn(pictures), *this, images, maps, systems,
                       [this] {
