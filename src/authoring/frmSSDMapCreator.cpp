@@ -58,12 +58,6 @@ std::string remarks(const std::string& map, const Raster& outline,
     return text;
 }
 
-/// How long after another moment this one is; the clock may have come round between them.
-std::int32_t between(std::int32_t before, std::int32_t now) {
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(now) -
-                                     static_cast<std::uint32_t>(before));
-}
-
 }  // namespace
 
 frmSSDMapCreator::frmSSDMapCreator(Services services)
@@ -220,7 +214,7 @@ void frmSSDMapCreator::cmdDoit_Click() {
 /// to be read; false if it was cancelled.
 bool frmSSDMapCreator::scan() {
     // Pending events may take long, and a turn of them costs more than many pixels.
-    constexpr std::int32_t shortestSlice = 20, longestSlice = 60;  // milliseconds
+    constexpr std::uint32_t shortestSlice = 20, longestSlice = 60;  // milliseconds
     OutlineScan progress(picImage.picture(), m_sImageFile);
     std::size_t shown = 0;
     const auto showText = [&] {
@@ -236,8 +230,8 @@ bool frmSSDMapCreator::scan() {
             return true;
         }
         sinceLook = 0;
-        const std::int32_t slice = std::clamp(m_turnLength, shortestSlice, longestSlice);
-        if (!isMuchText && between(m_lastTurn, m_services.clock.tickCount()) < slice) {
+        const std::uint32_t slice = std::clamp(m_turnLength, shortestSlice, longestSlice);
+        if (!isMuchText && ticksBetween(m_lastTurn, m_services.clock.tickCount()) < slice) {
             return true;
         }
         showText();
@@ -256,7 +250,7 @@ bool frmSSDMapCreator::giveTurn() {
     picImage.showPainted();
     m_services.eventLoopTurn();
     m_lastTurn = m_services.clock.tickCount();
-    m_turnLength = between(start, m_lastTurn);
+    m_turnLength = ticksBetween(start, m_lastTurn);
     return !chkCancel.isTicked() && !m_isClosing;
 }
 

@@ -102,7 +102,7 @@ private:
     bool m_isScanning = false;
     bool m_isClosing = false;     ///< the user has closed the window during a scan
     std::int32_t m_lastTurn = 0;  ///< when the event loop's last turn ended, in ticks of the clock
-    std::int32_t m_turnLength = 0;  ///< how long it took, in milliseconds
+    std::uint32_t m_turnLength = 0;  ///< how long it took, in milliseconds
 };
 
 }  // namespace fleetwright

@@ -1,5 +1,6 @@
 #include "History.h"
 
+#include "Clock.h"
 #include "paths.h"
 #include "stepName.h"
 
@@ -61,7 +62,7 @@ void History::begin(const DesignMoment& moment, const News& news) {
 bool History::joins(const News& news) const {
     constexpr std::uint32_t second = 1000;
     return canUndo() && !news.kind.empty() && news.kind == m_kind && !canRedo() &&
-           static_cast<std::uint32_t>(news.time) - static_cast<std::uint32_t>(m_time) <= second;
+           ticksBetween(m_time, news.time) <= second;
 }
 
 /// What could be redone is gone.

@@ -1,5 +1,6 @@
 #include "FleetHistory.h"
 
+#include "Clock.h"
 #include "FaultError.h"
 #include "fleetFile.h"
 #include "text.h"
@@ -18,9 +19,8 @@ void FleetHistory::note(const std::string& text, const FleetAct& act, std::int32
         return;
     }
     constexpr std::uint32_t second = 1000;
-    const bool isJoined =
-        !act.kind.empty() && act.kind == m_kind && canUndo() && !canRedo() &&
-        static_cast<std::uint32_t>(time) - static_cast<std::uint32_t>(m_time) <= second;
+    const bool isJoined = !act.kind.empty() && act.kind == m_kind && canUndo() && !canRedo() &&
+                          ticksBetween(m_time, time) <= second;
     if (isJoined) {
         undo();
     }

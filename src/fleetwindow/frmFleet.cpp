@@ -114,10 +114,9 @@ void frmFleet::refresh() {
     m_rows = m_look.rowsOf(m_document.fleet());
     if (m_look.unread() > 0 && m_services.canReadShips()) {
         constexpr std::uint32_t shortTime = 50;  // milliseconds
-        const auto now = [this] {
-            return static_cast<std::uint32_t>(m_services.clock.tickCount());
-        };
-        m_look.readSome([&now, begin = now()] { return now() - begin >= shortTime; });
+        m_look.readSome([&clock = m_services.clock, begin = m_services.clock.tickCount()] {
+            return ticksBetween(begin, clock.tickCount()) >= shortTime;
+        });
         m_rows = m_look.rowsOf(m_document.fleet());
     }
     tmrLook.setEnabled(m_look.unread() > 0);

@@ -15,4 +15,9 @@ public:
     virtual void sleep(int milliseconds) = 0;
 };
 
+/// Milliseconds from one count of a clock to a later one; it may have come round between them.
+constexpr std::uint32_t ticksBetween(std::int32_t before, std::int32_t now) {
+    return static_cast<std::uint32_t>(now) - static_cast<std::uint32_t>(before);
+}
+
 }  // namespace fleetwright
