@@ -77,8 +77,7 @@ PagePrinter::Layout FleetTools::pages(const Fleet& fleet, const FleetRows& rows,
     const auto drawn = std::make_shared<std::optional<FleetSheets>>();
     return [this, fleet = std::make_shared<const Fleet>(fleet), rows, folder,
             drawn](const PageSize& paper) {
-        constexpr int mostOnAPage = 4;
-        FleetSeries series(*fleet, {.paper = paper, .perPage = mostOnAPage});
+        FleetSeries series(*fleet, {.paper = paper, .perPage = sheetsToAPage});
         if (!*drawn) {
             *drawn = sheets(*fleet, folder);
         }

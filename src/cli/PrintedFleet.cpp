@@ -13,8 +13,7 @@ namespace fleetwright {
 namespace {
 
 SheetOptions pagesOf(const Options& options, KeptSheetParts& kept) {
-    constexpr int mostPerPage = 4;
-    SheetOptions pages = sheetOptionsOf(options, mostPerPage);
+    SheetOptions pages = sheetOptionsOf(options, sheetsToAPage);
     pages.kept = &kept;
     return pages;
 }

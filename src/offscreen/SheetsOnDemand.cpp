@@ -2,6 +2,7 @@
 
 #include "Error.h"
 #include "designCode.h"
+#include "fleetDocument.h"
 
 #include <algorithm>
 
@@ -32,8 +33,7 @@ std::shared_ptr<const VectorSheet> SheetsOnDemand::at(std::size_t index) {
     if (const auto fault = m_screen.load(kept.code)) {
         throw Error(fault->text);
     }
-    constexpr std::size_t most = 4;  // as many as a page has
-    if (m_last.size() == most) {
+    if (m_last.size() == std::size_t{sheetsToAPage}) {
         m_last.pop_front();
     }
     m_last.emplace_back(index,

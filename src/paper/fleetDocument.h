@@ -17,6 +17,9 @@ using FleetSheets = std::vector<std::shared_ptr<const VectorSheet>>;
 /// The most sheets of a document.
 inline constexpr int mostSheets = 100'000;
 
+/// How many small sheets share a page of a fleet, unless somebody asks for less.
+inline constexpr int sheetsToAPage = 4;
+
 /// Throws Error for a fleet of more ships than that.
 void checkCanBePrinted(const Fleet& fleet);
 
