@@ -31,24 +31,12 @@ void checkIsUsable(const LoadedMaps& maps, const std::string& mapName) {
     }
 }
 
-[[noreturn]] void failWithoutMap(const frmMain& main, const LoadedMaps& maps) {
-    throw Error(whyNoMap(maps.maps, main.g_Ship->mass(),
-                         SheetLists().fillShipWeap(main.aboard.lvCurrentWeapons.rows())));
-}
-
 /// The map of this name, or the one that fits best if the name is empty. Throws Error.
 SSDMaps::Map mapFor(const frmMain& main, const LoadedMaps& maps, const std::string& mapName) {
     checkIsUsable(maps, mapName);
-    if (!mapName.empty()) {
-        return maps.maps.at(mapName);
-    }
-    SheetLists lists;
-    lists.fillShipWeap(main.aboard.lvCurrentWeapons.rows());
-    SSDMaps::Map best = bestMap(maps.maps, *main.g_Ship, lists.lstShipWeap);
-    if (!best) {
-        failWithoutMap(main, maps);
-    }
-    return best;
+    return mapName.empty()
+               ? bestMapOrWhyNone(maps.maps, *main.g_Ship, main.aboard.lvCurrentWeapons.rows())
+               : maps.maps.at(mapName);
 }
 
 /// Throws Error for a ship that is too heavy for the window in which bitmaps are made.
@@ -77,11 +65,10 @@ Raster drawnSheet(const ShipOnScreen& screen, const SheetTools& tools, const std
     mapper.show();
     if (!mapName.empty()) {
         mapper.cboMapSelection.type(mapName);
-    } else if (mapper.bestFit()) {
-        checkGetsBitmap(*main.g_Ship, tools.maps);
-        mapper.cboMapSelection.type(mapper.bestFit()->sDisplayName);
     } else if (desktop.message.empty()) {
-        failWithoutMap(main, tools.maps);
+        const SSDMaps::Map best = mapFor(main, tools.maps, mapName);
+        checkGetsBitmap(*main.g_Ship, tools.maps);
+        mapper.cboMapSelection.type(best->sDisplayName);
     }
     mapper.cmdDrawIt.press();
     if (!desktop.message.empty()) {

@@ -192,19 +192,8 @@ OutgoingSheet SheetOutput::onMap(const SheetShip& ship, const Rows& aboard, cons
             .shipFile = sheet.shipFile};
 }
 
-/// The map that fits a ship best; null if there is none.
-SSDMaps::Map SheetOutput::mapFor(const ShipClass& ship, const Rows& aboard) const {
-    SheetLists lists;
-    lists.fillShipWeap(aboard);
-    return bestMap(m_services.g_colSSDMaps, ship, lists.lstShipWeap);
-}
-
 OutgoingSheet SheetOutput::onBestMap(const SheetShip& ship, const Rows& aboard) const {
-    const SSDMaps::Map map = mapFor(ship.ship, aboard);
-    if (!map) {
-        throw Error(
-            whyNoMap(m_services.g_colSSDMaps, ship.ship.mass(), SheetLists().fillShipWeap(aboard)));
-    }
+    const SSDMaps::Map map = bestMapOrWhyNone(m_services.g_colSSDMaps, ship.ship, aboard);
     const bool hasBitmap = getsSheet(ship.ship.mass(), m_services.g_iLargestSSD);
     return onMap(ship, aboard, *map, hasBitmap ? bitmapOn(*map, ship, aboard) : Raster());
 }
@@ -228,7 +217,10 @@ SSDMaps::Map SheetOutput::mapOf(const Raster& picture, const SheetShip& ship,
             return false;
         }
     };
-    if (SSDMaps::Map best = mapFor(ship.ship, aboard); isDrawnOn(best)) {
+    SheetLists lists;
+    lists.fillShipWeap(aboard);
+    if (SSDMaps::Map best = bestMap(m_services.g_colSSDMaps, ship.ship, lists.lstShipWeap);
+        isDrawnOn(best)) {
         return best;
     }
     const std::vector<SSDMaps::Map>& maps = m_services.g_colSSDMaps.all();

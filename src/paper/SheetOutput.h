@@ -82,7 +82,6 @@ private:
     void finish(const Printout& printout, const OutgoingSheet& sheet) const;
     void save(const std::filesystem::path& file, const FileContents& contents) const;
     void write(const OutgoingSheet& sheet, const std::string& ending, const FileOut& out) const;
-    SSDMaps::Map mapFor(const ShipClass& ship, const Rows& aboard) const;
     /// The map on which the ship's bitmap is this picture; null if it is on none.
     SSDMaps::Map mapOf(const Raster& picture, const SheetShip& ship, const Rows& aboard) const;
     Raster bitmapOn(const SSDMap& map, const SheetShip& ship, const Rows& aboard) const;

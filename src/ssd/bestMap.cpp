@@ -1,13 +1,17 @@
 #include "bestMap.h"
 
 #include "Catalogue.h"
+#include "Error.h"
 #include "HullRules.h"
+#include "SheetLists.h"
 #include "ShipClass.h"
 #include "text.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <optional>
+#include <string>
 #include <tuple>
 #include <utility>
 
@@ -40,6 +44,23 @@ bool isForHull(std::string_view name, std::int32_t hullType) {
         }
     }
     return false;
+}
+
+/// What all maps lack if a ship of this mass, with so many systems besides damage control parties,
+/// fits on none of them.
+std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount) {
+    const std::string ship = "a ship of mass " + std::to_string(mass);
+    if (maps.all().empty()) {
+        return "there are no maps";
+    }
+    if (!fittingMaps(maps, mass, 0).empty()) {
+        return "no map for " + ship + " has a place for each of its systems (" +
+               std::to_string(iShipWeapCount) + ')';
+    }
+    const SSDMaps::Map& largest = *std::ranges::max_element(
+        maps.all(), {}, [](const SSDMaps::Map& map) { return map->iMaxMass; });
+    return "there is no map for " + ship + "; they serve " + std::to_string(largest->iMaxMass) +
+           " at the most";
 }
 
 }  // namespace
@@ -82,19 +103,15 @@ SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
     return best;
 }
 
-std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount) {
-    const std::string ship = "a ship of mass " + std::to_string(mass);
-    if (maps.all().empty()) {
-        return "there are no maps";
+SSDMaps::Map bestMapOrWhyNone(const SSDMaps& maps, const ShipClass& ship,
+                              const std::vector<ListView::Row>& lvCurrentWeapons) {
+    SheetLists lists;
+    const std::int32_t iShipWeapCount = lists.fillShipWeap(lvCurrentWeapons);
+    SSDMaps::Map best = bestMap(maps, ship, lists.lstShipWeap);
+    if (!best) {
+        throw Error(whyNoMap(maps, ship.mass(), iShipWeapCount));
     }
-    if (!fittingMaps(maps, mass, 0).empty()) {
-        return "no map for " + ship + " has a place for each of its systems (" +
-               std::to_string(iShipWeapCount) + ')';
-    }
-    const SSDMaps::Map& largest = *std::ranges::max_element(
-        maps.all(), {}, [](const SSDMaps::Map& map) { return map->iMaxMass; });
-    return "there is no map for " + ship + "; they serve " + std::to_string(largest->iMaxMass) +
-           " at the most";
+    return best;
 }
 
 }  // namespace fleetwright

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "ListView.h"
 #include "SSDMaps.h"
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,8 +20,9 @@ class ShipClass;
 SSDMaps::Map bestMap(const SSDMaps& maps, const ShipClass& ship,
                      const std::vector<std::string>& systems);
 
-/// What all maps lack if a ship of this mass, with so many systems besides damage control parties,
-/// fits on none of them. In small letters, as a fault is told.
-std::string whyNoMap(const SSDMaps& maps, std::int32_t mass, std::int32_t iShipWeapCount);
+/// The same for a ship that has these systems aboard, as the main window lists them. Throws Error
+/// where there is none, and says what all maps lack.
+SSDMaps::Map bestMapOrWhyNone(const SSDMaps& maps, const ShipClass& ship,
+                              const std::vector<ListView::Row>& lvCurrentWeapons);
 
 }  // namespace fleetwright

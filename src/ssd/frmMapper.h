@@ -85,8 +85,6 @@ public:
     /// The design may have become another one.
     void followDesign();
 
-    /// The map that fits the ship best, as the tool tip of the list says; null if none does.
-    const SSDMaps::Map& bestFit() const { return m_bestFit; }
     /// What was behind the message that was shown last.
     const std::string& lastFault() const { return m_lastFault; }
 
