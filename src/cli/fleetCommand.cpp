@@ -42,116 +42,150 @@ void checkSheets(std::string_view, const std::string& out) {
     }
 }
 
-/// Loads all ships of a fleet and names what is wrong with them; a row for each. What prints the
-/// fleet draws their sheets.
-FleetRows loadShips(const Options& options, const FleetFiles& files, const CatalogueFile& catalogue,
-                    PrintedFleet* printed, int& status) {
-    FleetRows rows(files.paths.size());
-    const std::string& fleetFile = options.words.front();
-    const auto load = [&](std::size_t index, ShipOnScreen& screen) {
-        const std::string& path = files.paths[index];
-        auto row = std::make_shared<const FleetRow>(fleetRow(screen, path));
-        Result result;
-        for (const Fault& fault : row->faults) {
-            result.complaints.push_back(files.complaintOf(fleetFile, index, fault));
-        }
-        try {
-            if (printed != nullptr && row->figures) {
-                printed->draw(index, screen);
-            }
-        } catch (const Error& error) {
-            result.complaints.push_back(complaint(nativePath(path), error));
-        }
-        rows[index] = std::move(row);
-        return result;
-    };
-    ShipScreens screens(options.appFolder, catalogue);
-    const auto work = [&](std::size_t index) {
-        return screens.lend([&](ShipOnScreen& screen) { return load(index, screen); });
-    };
-    status = std::max(status, printInOrder(files.paths.size(), work));
-    FleetRows ofShips;
-    for (const std::size_t file : files.ofShip) {
-        ofShips.push_back(rows[file]);
-    }
-    return ofShips;
-}
+/// A run of the command. Whatever is wrong is named, and what can be done is done.
+class FleetRun {
+public:
+    FleetRun(const Options& options, const ReadFleet& read)
+        : m_options(options), m_file(options.words.front()), m_path(nativePath(m_file)),
+          m_read(read), m_files(read, m_path.parent_path()),
+          m_catalogue(CatalogueFile::readOnce(options.appFolder / "weaps.dat")),
+          m_report{.fleet = read.fleet, .rows = {}} {}
 
-/// Reads a fleet, and refuses what is wrong with it; nothing if it is none.
-std::optional<ReadFleet> readAndRefuse(const std::string& file,
-                                       const std::function<void(const std::string&)>& refuse) {
-    std::optional<ReadFleet> read;
-    try {
-        read = parseFleet(readTextFile(nativePath(file)));
-    } catch (const FaultError& error) {
-        refuse(complaint(file, error.fault()));
-        return read;
+    int run() {
+        refuse(m_read.faults);
+        beginSheets();
+        loadShips();
+        sumUp();
+        print();
+        saveSheets();
+        refuse(brokenLimits(m_read, m_report.sum));
+        savePlay();
+        return m_status;
     }
-    for (const Fault& fault : read->faults) {
-        refuse(complaint(file, fault));
-    }
-    return read;
-}
 
-int runFleet(const Options& options) {
-    const std::string& file = options.words.front();
-    const fs::path path = nativePath(file);
-    int status = Done;
-    const auto refuse = [&status](const std::string& line) {
+private:
+    void beginSheets();
+    Result loadShip(std::size_t index, ShipOnScreen& screen, FleetRows& rows);
+    void loadShips();
+    void sumUp();
+    void print() const;
+    void saveSheets();
+    void savePlay();
+
+    void refuse(const std::string& line) {
         complain(line);
-        status = SomeRefused;
-    };
-    const auto attempt = [&](const std::function<void()>& act) {
+        m_status = SomeRefused;
+    }
+    void refuse(const std::vector<Fault>& faults) {
+        for (const Fault& fault : faults) {
+            refuse(complaint(m_file, fault));
+        }
+    }
+    void attempt(const std::function<void()>& act) {
         try {
             act();
         } catch (const FileError& error) {
             refuse(complaint(error));
         } catch (const Error& error) {
-            refuse(complaint(path, error));
+            refuse(complaint(m_path, error));
         }
+    }
+
+    const Options& m_options;
+    const std::string& m_file;
+    fs::path m_path;
+    const ReadFleet& m_read;
+    FleetFiles m_files;
+    CatalogueFile m_catalogue;
+    FleetReport m_report;
+    std::optional<SheetSupplies> m_supplies;  // of the next
+    std::optional<PrintedFleet> m_printed;
+    int m_status = Done;
+};
+
+void FleetRun::beginSheets() {
+    if (!m_options.has(sheetsOption)) {
+        return;
+    }
+    m_supplies.emplace(m_options, m_files.paths.size(), SheetSupplies::Kind::Pdf, m_status);
+    attempt([&] { m_printed.emplace(m_options, m_read.fleet, m_files, *m_supplies, m_catalogue); });
+}
+
+/// Loads a ship of the fleet, by the place of its file, and draws its sheet.
+Result FleetRun::loadShip(std::size_t index, ShipOnScreen& screen, FleetRows& rows) {
+    const std::string& path = m_files.paths[index];
+    auto row = std::make_shared<const FleetRow>(fleetRow(screen, path));
+    Result result;
+    for (const Fault& fault : row->faults) {
+        result.complaints.push_back(m_files.complaintOf(m_file, index, fault));
+    }
+    try {
+        if (m_printed && row->figures) {
+            m_printed->draw(index, screen);
+        }
+    } catch (const Error& error) {
+        result.complaints.push_back(complaint(nativePath(path), error));
+    }
+    rows[index] = std::move(row);
+    return result;
+}
+
+void FleetRun::loadShips() {
+    FleetRows rows(m_files.paths.size());
+    ShipScreens screens(m_options.appFolder, m_catalogue);
+    const auto work = [&](std::size_t index) {
+        return screens.lend([&](ShipOnScreen& screen) { return loadShip(index, screen, rows); });
     };
-    const std::optional<ReadFleet> given = readAndRefuse(file, refuse);
-    if (!given) {
-        return status;
+    m_status = std::max(m_status, printInOrder(rows.size(), work));
+    for (const std::size_t file : m_files.ofShip) {
+        m_report.rows.push_back(rows[file]);
     }
-    const ReadFleet& read = *given;
-    const auto catalogue = CatalogueFile::readOnce(options.appFolder / "weaps.dat");
-    const FleetFiles files(read, path.parent_path());
-    std::optional<SheetSupplies> supplies;
-    if (options.has(sheetsOption)) {
-        supplies.emplace(options, files.paths.size(), SheetSupplies::Kind::Pdf, status);
+}
+
+void FleetRun::sumUp() {
+    m_report.sum = fleetSum(m_report.fleet, m_report.rows);
+    if (!m_report.fleet.catalogue.empty()) {
+        m_report.isOtherCatalogue =
+            m_report.fleet.catalogue != fingerprint(m_catalogue.read()->text());
     }
-    std::optional<PrintedFleet> printed;
-    if (supplies) {
-        attempt([&] { printed.emplace(options, read.fleet, files, *supplies, catalogue); });
+}
+
+void FleetRun::print() const {
+    if (m_options.has(jsonOption.name)) {
+        printJson(m_report, m_file);
+    } else if (!m_options.has(sheetsOption)) {
+        printTable(m_report);
     }
-    FleetReport report{
-        .fleet = read.fleet,
-        .rows = loadShips(options, files, catalogue, printed ? &*printed : nullptr, status)};
-    report.sum = fleetSum(report.fleet, report.rows);
-    if (!report.fleet.catalogue.empty()) {
-        report.isOtherCatalogue = report.fleet.catalogue != fingerprint(catalogue.read()->text());
-    }
-    if (options.has(jsonOption.name)) {
-        printJson(report, file);
-    } else if (!supplies) {
-        printTable(report);
-    }
-    if (printed) {
+}
+
+void FleetRun::saveSheets() {
+    if (m_printed) {
         attempt([&] {
-            std::move(*printed).save(nativePath(options.value(sheetsOption)), report.rows);
+            std::move(*m_printed).save(nativePath(m_options.value(sheetsOption)), m_report.rows);
         });
     }
-    for (const Fault& fault : brokenLimits(read, report.sum)) {
-        refuse(complaint(file, fault));
-    }
-    if (options.has(playOption)) {
+}
+
+void FleetRun::savePlay() {
+    if (m_options.has(playOption)) {
         attempt([&] {
-            status = std::max(status, savePlayedFleet(options, report.fleet, path.parent_path(),
-                                                      nativePath(options.value(playOption))));
+            m_status =
+                std::max(m_status, savePlayedFleet(m_options, m_report.fleet, m_path.parent_path(),
+                                                   nativePath(m_options.value(playOption))));
         });
     }
-    return status;
+}
+
+int runFleet(const Options& options) {
+    const std::string& file = options.words.front();
+    ReadFleet read;
+    try {
+        read = parseFleet(readTextFile(nativePath(file)));
+    } catch (const FaultError& error) {
+        complain(complaint(file, error.fault()));
+        return SomeRefused;
+    }
+    return FleetRun(options, read).run();
 }
 
 }  // namespace
