@@ -17,14 +17,14 @@ std::string at(int x, int y) {
 }
 
 /// What is pasted at a place, and so what it covers.
-struct Box {
+struct PastedBox {
     const MapPlace* place;
     int width;
     int height;
 
     int right() const { return place->x + width; }
     int bottom() const { return place->y + height; }
-    bool overlaps(const Box& other) const {
+    bool overlaps(const PastedBox& other) const {
         return place->x < other.right() && other.place->x < right() && place->y < other.bottom() &&
                other.place->y < bottom();
     }
@@ -38,10 +38,10 @@ bool isWeaponOfNoArc(const MapPlace& place) {
 }
 
 /// Whether something is pasted over a pixel of the outline, row by row.
-std::vector<bool> coveredPixels(const std::vector<Box>& boxes, const Raster& outline) {
+std::vector<bool> coveredPixels(const std::vector<PastedBox>& boxes, const Raster& outline) {
     const auto width = static_cast<std::size_t>(outline.width());
     std::vector<bool> covered(width * static_cast<std::size_t>(outline.height()));
-    for (const Box& box : boxes) {
+    for (const PastedBox& box : boxes) {
         const int left = std::max(box.place->x, 0);
         const int right = std::min(box.right(), outline.width());
         const int bottom = std::min(box.bottom(), outline.height());
@@ -166,7 +166,7 @@ private:
     }
 
     void checkEdges() {
-        for (const Box& box : m_boxes) {
+        for (const PastedBox& box : m_boxes) {
             if (box.place->x < 0 || box.place->y < 0 || box.right() > m_outline.width() ||
                 box.bottom() > m_outline.height()) {
                 complain(box.place->line, "the " + box.name() + " leaves the outline, which is " +
@@ -178,8 +178,8 @@ private:
 
     void checkOverlaps() {
         for (auto box = m_boxes.begin(); box != m_boxes.end(); ++box) {
-            const auto other =
-                std::find_if(m_boxes.begin(), box, [&](const Box& b) { return b.overlaps(*box); });
+            const auto other = std::find_if(m_boxes.begin(), box,
+                                            [&](const PastedBox& b) { return b.overlaps(*box); });
             if (other != box) {
                 complain(box->place->line, "the " + box->name() + " overlaps the " + other->name() +
                                                " of line " + std::to_string(other->place->line));
@@ -209,7 +209,7 @@ private:
 
     /// The black pixels that say the size are a mark, too.
     void checkTrackMark() {
-        for (const Box& box : m_boxes) {
+        for (const PastedBox& box : m_boxes) {
             const int y = box.place->y;
             if (box.place->keyword != MapKeyword::DamRow || box.place->x < 0 || y < 0 ||
                 box.place->x >= m_outline.width() || y >= m_outline.height() ||
@@ -230,7 +230,7 @@ private:
 
     const MapPlaces& m_map;
     const Raster& m_outline;
-    std::vector<Box> m_boxes;
+    std::vector<PastedBox> m_boxes;
     std::vector<Fault> m_faults;
 };
 
