@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace fleetwright {
@@ -24,12 +25,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The entries below a folder by name, with paths from that folder on, without links.
+/// The entries below a folder by name, with paths from that folder on, without links. Throws
+/// FileError.
 std::vector<fs::path> entriesBelow(const fs::path& folder) {
-    std::vector<fs::path> names;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        if (!entry.is_symlink()) {
+    std::vector<fs::path> names, folders = {folder};
+    while (!folders.empty()) {
+        const fs::path next = std::move(folders.back());
+        folders.pop_back();
+        std::error_code error;
+        for (const fs::directory_entry& entry : folderEntries(next, error)) {
+            if (entry.is_symlink()) {
+                continue;
+            }
             names.push_back(entry.path().lexically_relative(folder));
+            if (entry.is_directory()) {
+                folders.push_back(entry.path());
+            }
+        }
+        if (error) {
+            throw FileError(next, error.message());
         }
     }
     std::sort(names.begin(), names.end());

@@ -131,8 +131,7 @@ TEST(Folders, HoldWhatPackagesUsersAndRunsLeaveInThem) {
 }
 
 TEST(Folders, AreMadeGoodByTheNextStartWhereverOneIsCutShort) {
-    bool isReached = true;
-    for (int nth = 1; isReached; ++nth) {
+    const auto refreshes = [](int nth, FileFaults::Kind kind) {
         const TemporaryFolder root;
         const fs::path delivered = root.path() / "share", user = root.path() / "user";
         const auto deliver = [&](const char* contents, std::initializer_list<const char*> names) {
@@ -140,18 +139,28 @@ TEST(Folders, AreMadeGoodByTheNextStartWhereverOneIsCutShort) {
                 root.write(std::string("share/") + name, contents);
             }
         };
+        const auto holds = [&](const char* contents) {
+            return root.read("user/weaps.dat") == contents &&
+                   root.read("user/maps/B.map") == contents;
+        };
         deliver("1", {"weaps.dat"});
         refreshUserFolder(delivered, user);
         deliver("22", {"weaps.dat", "maps/B.map"});
+        bool isReached = false;
+        std::string fault;
         {
-            const FileFaults faults(nth, FileFaults::Kind::IsLast);
-            fileFaultOf([&] { refreshUserFolder(delivered, user); });
+            const FileFaults faults(nth, kind);
+            fault = fileFaultOf([&] { refreshUserFolder(delivered, user); });
             isReached = faults.calls() >= nth;
         }
+        EXPECT_TRUE(!fault.empty() || holds("22")) << "without a word, call " << nth;
         deliver("333", {"weaps.dat", "maps/B.map"});
         refreshUserFolder(delivered, user);
-        for (const char* const name : {"user/weaps.dat", "user/maps/B.map"}) {
-            EXPECT_EQ(root.read(name), "333") << name << ", call " << nth;
+        EXPECT_TRUE(holds("333")) << "call " << nth;
+        return isReached;
+    };
+    for (const auto kind : {FileFaults::Kind::IsLast, FileFaults::Kind::Fails}) {
+        for (int nth = 1; refreshes(nth, kind); ++nth) {
         }
     }
 }
