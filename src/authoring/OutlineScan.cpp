@@ -1,6 +1,6 @@
 #include "OutlineScan.h"
 
-#include "checkedArithmetic.h"
+#include "Error.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,9 +21,13 @@ constexpr auto longestRun = std::numeric_limits<std::int16_t>::max();
 }  // namespace
 
 OutlineScan::OutlineScan(const Raster& picture, std::string_view imageFile) : m_picture(picture) {
-    narrow<std::int16_t>(picture.width());
-    narrow<std::int16_t>(picture.height());
+    if (std::max(picture.width(), picture.height()) > longestRun) {
+        throw Error("is too large for a map");
+    }
     const std::string_view name = imageFile.substr(imageFile.find_last_of("\\/") + 1);
+    if (name.find_first_of("\r\n") != std::string_view::npos) {
+        throw Error("has a line break in its name, which no map can hold");
+    }
     beginLine(m_text, MapKeyword::Image).append(name).append(lineEnd);
 }
 

@@ -78,6 +78,7 @@ void frmSSDMapCreator::Form_Load() {
     picImage.setPlace(pictureBox);
     txtOutput.setPlace(textBox);
     txtOutput.setText("");
+    m_safeText.clear();
     resize(creatorWidth + frameWidth, creatorHeight + frameHeight);
     show();
 }
@@ -87,7 +88,18 @@ void frmSSDMapCreator::Form_Unload(bool& cancel) {
         cancel = true;
         m_isClosing = true;  // when the scan has ended
         chkCancel.setTicked(true);
+    } else if (isTextEdited() &&
+               m_services.desktop.showMessage("The map has been edited. Save it?", "Map not saved!",
+                                              Buttons::YesNo, Icon::Information) == Answer::Yes) {
+        cmdSaveIt_Click();
+        cancel = isTextEdited();
     }
+}
+
+/// Whether somebody has written what neither a file nor a scan would bring back.
+bool frmSSDMapCreator::isTextEdited() const {
+    const std::string& text = txtOutput.text();
+    return text != m_safeText && text.find_first_not_of(" \t\r\n") != std::string::npos;
 }
 
 void frmSSDMapCreator::cmdSelect_Click() {
@@ -136,11 +148,7 @@ void frmSSDMapCreator::selectNothing(const std::string& why) {
 /// Throws Error.
 Raster frmSSDMapCreator::loadImage(const std::string& file) const {
     Raster picture = m_services.pictures.load(nativePath(file));
-    try {
-        OutlineScan(picture, file);
-    } catch (const OverflowError&) {
-        throw Error("is too large for a map");
-    }
+    OutlineScan(picture, file);  // refuses what no map can hold
     return picture;
 }
 
@@ -187,7 +195,7 @@ void frmSSDMapCreator::cmdDoit_Click() {
     say("");
     OnTop();
     setScanning(true);
-    txtOutput.setText("");
+    txtOutput.clear();
     const bool isWhole = scan();
     setScanning(false);
     if (!isWhole) {
@@ -202,8 +210,10 @@ void frmSSDMapCreator::cmdDoit_Click() {
         refuse(m_sImageFile, error);
     }
     if (!isWhole) {
-        txtOutput.setText("Operation Cancelled");
+        txtOutput.clear();
+        txtOutput.append("Operation Cancelled");
     }
+    m_safeText = txtOutput.text();
     notOnTop();
     if (m_isClosing) {
         unload();
@@ -298,6 +308,7 @@ std::string frmSSDMapCreator::suggestedName() const {
 
 void frmSSDMapCreator::saveMap(const std::string& file) {
     saveFile(nativePath(file), mapFileContents(txtOutput.text()));
+    m_safeText = txtOutput.text();
     cmdSaveIt.setToolTip("Saved as " + shownText(file));
     say("Saved as " + shownText(pathText(nativePath(file).filename())) + ": " + offer(file));
 }

@@ -90,6 +90,7 @@ private:
     void resetImage(Raster picture);
     void fitWindow();
     Raster emptyBox() const;
+    bool isTextEdited() const;
     bool scan();
     bool giveTurn();
     void setScanning(bool isScanning);
@@ -99,6 +100,7 @@ private:
 
     Services m_services;
     std::string m_sImageFile;  ///< path of the picture that is selected; empty without one
+    std::string m_safeText;    ///< of the map, as it was scanned or saved last
     bool m_isScanning = false;
     bool m_isClosing = false;     ///< the user has closed the window during a scan
     std::int32_t m_lastTurn = 0;  ///< when the event loop's last turn ended, in ticks of the clock

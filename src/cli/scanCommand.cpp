@@ -22,16 +22,12 @@ namespace fs = std::filesystem;
 namespace {
 
 Result scanFile(PictureFiles& pictures, const std::string& file) {
-    if (nativePath(file).filename().string().find_first_of("\r\n") != std::string::npos) {
-        return {.output = {},
-                .complaints = {complaint(file, {0, "no map can name a file with a line break"})}};
-    }
     try {
         return {.output = scanOutline(pictures.load(nativePath(file)), file), .complaints = {}};
     } catch (const FileError& error) {
         return {.output = {}, .complaints = {complaint(nativePath(file), error)}};
-    } catch (const OverflowError&) {
-        return {.output = {}, .complaints = {complaint(file, {0, "is too large for a map"})}};
+    } catch (const Error& error) {
+        return {.output = {}, .complaints = {complaint(file, {0, error.what()})}};
     }
 }
 

@@ -30,6 +30,15 @@ public:
         }
     }
 
+    /// Empties it. An undo of the keyboard brings the text back.
+    void clear() {
+        if (!text().empty()) {
+            changeableDesign().text.clear();
+            Cleared.raise();
+            raise(onChange);
+        }
+    }
+
     /// Adds to the end of the text, at the cost of what is added.
     void append(const std::string& text) {
         if (!text.empty()) {
@@ -41,6 +50,8 @@ public:
 
     /// The text has grown by this, and nothing else has changed. For whoever draws it.
     Signal<const std::string&> Appended;
+    /// The same of what was cleared.
+    Signal<> Cleared;
 
     bool isLocked() const { return design().isLocked; }
 

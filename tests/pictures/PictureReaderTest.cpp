@@ -195,7 +195,15 @@ TEST(PictureReader, OtherFilesAreWholeOrRefusedWithoutAWordOfTheDecoder) {
         {encoded(image.convertToFormat(QImage::Format_Mono), "bmp")},
         {bitmap(12, 9, 2, 1, 0, std::string(2 * 4, '\x5A'))},
         {bitmap(40, 3, -2, 16, 3,
-                std::string("\0\xF8\0\0\xE0\7\0\0\x1F\0\0\0", 12) + std::string(2 * 8, '\x5A'))},
+                std::string("\0\xF8\0\0\xE0\7\0\0\x1F\0\0\0", 12) + std::string(2 * 8, '\x5A')),
+         0,
+         bitmap(40, 3, -2, 24, 0,
+                std::string("\xD6\x49\x5A\xD6\x49\x5A\xD6\x49\x5A\0\0\0"
+                            "\xD6\x49\x5A\xD6\x49\x5A\xD6\x49\x5A\0\0\0",
+                            24))},
+        // White, red and blue are as pure as those of 24 bits.
+        {bitmap(40, 3, 1, 16, 0, std::string("\xFF\x7F\0\x7C\x1F\0\0\0", 8)), 0,
+         bitmap(40, 3, 1, 24, 0, std::string("\xFF\xFF\xFF\0\0\xFF\xFF\0\0\0\0\0", 12))},
         // In runs: four of one colour, three by themselves; a line's end; seven.
         {bitmap(40, 7, 2, 8, 1, std::string("\4\1\0\3\0\1\0\0\0\0\7\1\0\1", 14)), 2},
         // Of half a byte each: five by themselves; a line up; two. The rest has the first colour.

@@ -1,5 +1,6 @@
 #include "QtPictureFiles.h"
 
+#include "BmpHeader.h"
 #include "Error.h"
 #include "QtMessages.h"
 #include "bmpFile.h"
@@ -14,9 +15,48 @@
 #include <QImageWriter>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <span>
+#include <utility>
+
 namespace fleetwright {
 
 namespace {
+
+/// How bright each value of a channel is that the decoder has shifted up to 8 bits from fewer: it
+/// leaves the lower bits empty, so that white would be none.
+std::array<int, 256> brightnesses(std::uint32_t mask) {
+    constexpr int most = 255;
+    const int bits = std::clamp(std::popcount(mask), 1, 8);
+    const int highest = (1 << bits) - 1;
+    std::array<int, 256> bright{};
+    for (int value = 0; value <= most; ++value) {
+        bright[std::size_t(value)] = ((value >> (8 - bits)) * most + highest / 2) / highest;
+    }
+    return bright;
+}
+
+/// The image of a bitmap with as bright pixels as it says.
+QImage asBright(QImage image, const BmpHeader& header) {
+    if (header.bits != 16 && header.bits != 32) {
+        return image;
+    }
+    const auto [red, green, blue] = header.channels();
+    const auto reds = brightnesses(red), greens = brightnesses(green), blues = brightnesses(blue);
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        const std::span row(reinterpret_cast<QRgb*>(image.scanLine(y)),
+                            static_cast<std::size_t>(image.width()));
+        for (QRgb& pixel : row) {
+            pixel = qRgba(reds[std::size_t(qRed(pixel))], greens[std::size_t(qGreen(pixel))],
+                          blues[std::size_t(qBlue(pixel))], qAlpha(pixel));
+        }
+    }
+    return image;
+}
 
 /// An image as it looks on white paper, pixel by pixel whatever resolution it is meant for.
 QImage onWhite(QImage image) {
@@ -54,7 +94,8 @@ Raster QtPictureFiles::decode(const std::string& bytes, const std::string& forma
                                               ? reader.errorString().toStdString()
                                               : messages.first()));
     }
-    return toRaster(onWhite(image));
+    return toRaster(
+        onWhite(format == "bmp" ? asBright(std::move(image), BmpHeader(bytes)) : image));
 }
 
 Raster QtPictureFiles::builtIn(const std::string& name) {

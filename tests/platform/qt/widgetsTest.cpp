@@ -167,6 +167,7 @@ private:
             {"open", [&] { m_form.tree.setExpanded(*m_form.tree.find(rest), true); }},
             {"node", [&] { m_form.tree.select(*m_form.tree.find(rest)); }},
             {"clear", [&] { m_form.combo.clear(); }},
+            {"empty", [&] { m_form.lines.clear(); }},
         };
         acts.at(cut(line).first)();
     }

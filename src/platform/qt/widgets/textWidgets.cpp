@@ -222,6 +222,12 @@ QWidget* makeTextArea(TextBox& box, QWidget* parent, const Scale& scale) {
         end.insertText(toQt(text).remove('\r'));
         widget->verticalScrollBar()->setValue(widget->verticalScrollBar()->maximum());
     }));
+    keepAttached(widget, box.Cleared.connect([widget] {
+        const QSignalBlocker blocker(widget);
+        QTextCursor all(widget->document());
+        all.select(QTextCursor::Document);
+        all.removeSelectedText();
+    }));
     QObject::connect(widget, &QPlainTextEdit::textChanged,
                      [widget, &box] { box.type(textOf(*widget)); });
     new EventHook(widget, [&box](QEvent* event) { return takesEditKeys(*event, box); });
