@@ -14,31 +14,27 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
-if(MSVC)
-  add_compile_options(/W4 /utf-8 /permissive-)
-else()
-  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
-                      -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # GCC 12 raises false alarms about std::string's own copying.
-    add_compile_options(-Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
-  endif()
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND NOT FLEETWRIGHT_LIBCXX)
-    # GCC's library calls what its own algorithms use deprecated.
-    add_compile_options(-Wno-deprecated-declarations)
-  endif()
-  if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # Its sources are included, which makes them look like headers.
-    add_compile_options(-Wno-subobject-linkage)
-  elseif(CMAKE_UNITY_BUILD)
-    # Each has names of its own, which those behind it do not mean.
-    add_compile_options(-Wno-shadow)
-  endif()
-  # Figures must not depend on the compiler's taste in contracting a * b + c.
-  add_compile_options(-ffp-contract=off)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+                    -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # GCC 12 raises false alarms about std::string's own copying.
+  add_compile_options(-Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND NOT FLEETWRIGHT_LIBCXX)
+  # GCC's library calls what its own algorithms use deprecated.
+  add_compile_options(-Wno-deprecated-declarations)
+endif()
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Its sources are included, which makes them look like headers.
+  add_compile_options(-Wno-subobject-linkage)
+elseif(CMAKE_UNITY_BUILD)
+  # Each has names of its own, which those behind it do not mean.
+  add_compile_options(-Wno-shadow)
+endif()
+# Figures must not depend on the compiler's taste in contracting a * b + c.
+add_compile_options(-ffp-contract=off)
 
-if(FLEETWRIGHT_HARDENING AND NOT MSVC)
+if(FLEETWRIGHT_HARDENING)
   include(Hardening)
 endif()
 

@@ -314,7 +314,7 @@ private:
 
     std::filesystem::path m_programFolder;
     std::filesystem::path m_appFolder;
-    CatalogueFile m_catalogueFile{m_appFolder / "weaps.dat"};  // read once, by whoever asks first
+    CatalogueFile m_catalogueFile{m_appFolder / "weaps.dat"};
     QtDesktop& m_desktop;
     QtSettingsStore m_settings;
     QtClipboard m_clipboard;

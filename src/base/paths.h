@@ -49,11 +49,11 @@ std::filesystem::path findFile(const std::filesystem::path& file);
 std::filesystem::path fileBelow(const std::filesystem::path& folder, std::string_view name);
 
 /// Where the program keeps what belongs to the user: the folder "FleetWright" in the desktop's
-/// folder for such data, which is $XDG_DATA_HOME or else "~/.local/share". It need not exist yet.
-/// Throws FileError if the user has no home.
+/// folder for such data, which `userPlaces.h` finds. It need not exist yet. Throws FileError if the
+/// user has no home.
 std::filesystem::path userDataFolder();
 
-/// The same for what the program can work out again: below $XDG_CACHE_HOME or else "~/.cache".
+/// The same for what the program can work out again: in the desktop's folder for that.
 std::filesystem::path userCacheFolder();
 
 /// The folder in the user's data for what is put aside, so that it is not lost. Throws as above.

@@ -38,7 +38,8 @@ public:
     Catalogue& operator=(const Catalogue&) = delete;
     ~Catalogue() = default;
 
-    /// Takes the records that the file has now, none of them aboard. Throws FileError.
+    /// Takes the records that the file has now, none of them aboard. Throws FileError. What
+    /// `strTok` has left on this thread becomes the rest of the last line.
     void loadWeaps(const CatalogueFile& file);
 
     /// The records in the order of the file.

@@ -24,7 +24,7 @@ inline constexpr TrackSize trackSizes[] = {TrackSize::Escort, TrackSize::Cruiser
                                            TrackSize::Capital};
 
 /// The size of track that a map of this SIZE takes: up to mass 18, 36 and 100. Larger maps have
-/// none.
+/// no track among the delivered pictures; what this returns for them says nothing.
 TrackSize trackSize(std::int32_t mapMass);
 
 /// Width and height of a picture in pixels; 0 where they are not known.

@@ -63,7 +63,7 @@ public:
     std::int32_t g_lWeapCount = 0;  ///< number of catalogue records
 
     Signal<> Recalculated;      ///< the figures are new
-    Signal<> Recalculating;     ///< they are about to be worked out; given, but nobody here listens
+    Signal<> Recalculating;     ///< they are about to be worked out; for users of this class
     Signal<> WeaponNotFound;    ///< a name is in no catalogue record
     Signal<> CloakAndMerchant;  ///< the cloak rule has refused a system
     Signal<> ShipSaved;         ///< what a listener throws is dropped: the file is written
@@ -85,7 +85,7 @@ public:
     std::int16_t THRUST() const;
     void THRUST(std::int16_t i_iArg);  ///< held to 0 to 8
 
-    /// The value of a formula for one piece on this ship. Given, but nobody here asks.
+    /// The value of a formula for one piece on this ship, for users of this class.
     std::int32_t weapCalc(std::string& in_arg);
     /// Recalculates.
     void weapChange();
@@ -162,7 +162,7 @@ public:
     /// event.
     void restore(const ShipState& state);
 
-    /// The hull as it is designed (for tests and benchmarks), and what the last recalculation has
+    /// The hull as it is designed, and what the last recalculation has
     /// made of it.
     const HullDesign& hullDesign() const { return hull; }
     const HullFigures& hullFigures() const { return lastHull; }

@@ -50,7 +50,8 @@ struct RefusedLine {
     Fault fault;
 };
 
-/// Cuts a line with `strTok`. An empty `line` becomes what the cutting before has left.
+/// Cuts a line with `strTok`, whose memory on this thread it leaves changed. An empty `line`
+/// becomes what the cutting before has left.
 ShipFileLine cutShipFileLine(std::string& line);
 
 /// A line of a ship file as this program writes it, or the beginning of one: "Ship Name: " and the

@@ -24,7 +24,9 @@ OutgoingSheet outgoing(const FleetContext& window) {
     return {.name = fleetName(document.fleet()),
             .pages = window.services.pages(document.fleet(), window.rows, document.folder()),
             .bitmap = {},
-            .shipFile = {}};
+            .whyNoBitmap = "A bitmap shows one sheet alone",
+            .shipFile = {},
+            .called = "fleet"};
 }
 
 }  // namespace

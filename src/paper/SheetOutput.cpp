@@ -117,7 +117,7 @@ void SheetOutput::finish(const Printout& printout, const OutgoingSheet& sheet) c
     case Printout::Way::Nowhere:
         break;
     case Printout::Way::Paper:
-        m_services.say("The sheet is on its way to the printer");
+        m_services.say("The " + std::string(sheet.called) + " is on its way to the printer");
         break;
     case Printout::Way::File:
         save(printout.file, [&](const FileOut& out) {
@@ -169,10 +169,7 @@ void SheetOutput::write(const OutgoingSheet& sheet, const std::string& ending,
     } else if (ending == pdfEnding) {
         m_services.printer.writePdf(sheet.pages(paperA4), out);
     } else if (sheet.bitmap.isEmpty()) {
-        throw Error(m_services.g_iLargestSSD == 0
-                        ? "There was no map for a bitmap when the program started; a .pdf or .svg "
-                          "can be made"
-                        : "The ship is too heavy for a bitmap; a .pdf or .svg can be made");
+        throw Error(sheet.whyNoBitmap + "; a .pdf or .svg can be made");
     } else {
         const std::string png = m_services.encoder.encode(sheet.bitmap, "png");
         out(sheet.shipFile.empty() ? png : withShip(png, sheet.shipFile));
@@ -194,8 +191,14 @@ OutgoingSheet SheetOutput::onMap(const SheetShip& ship, const Rows& aboard, cons
 
 OutgoingSheet SheetOutput::onBestMap(const SheetShip& ship, const Rows& aboard) const {
     const SSDMaps::Map map = bestMapOrWhyNone(m_services.g_colSSDMaps, ship.ship, aboard);
-    const bool hasBitmap = getsSheet(ship.ship.mass(), m_services.g_iLargestSSD);
-    return onMap(ship, aboard, *map, hasBitmap ? bitmapOn(*map, ship, aboard) : Raster());
+    if (getsSheet(ship.ship.mass(), m_services.g_iLargestSSD)) {
+        return onMap(ship, aboard, *map, bitmapOn(*map, ship, aboard));
+    }
+    OutgoingSheet sheet = onMap(ship, aboard, *map, {});
+    sheet.whyNoBitmap = m_services.g_iLargestSSD == 0
+                            ? "There was no map for a bitmap when the program started"
+                            : "The ship is too heavy for a bitmap";
+    return sheet;
 }
 
 Raster SheetOutput::bitmapOn(const SSDMap& map, const SheetShip& ship, const Rows& aboard) const {

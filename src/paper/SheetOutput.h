@@ -25,8 +25,10 @@ class PictureEncoder;
 struct OutgoingSheet {
     std::string name;  ///< of the ship or picture; its file is to be called so
     PagePrinter::Layout pages;
-    Raster bitmap;         ///< for a picture file; empty if there is none
-    std::string shipFile;  ///< the text of the ship file that such a file carries, if any
+    Raster bitmap;                 ///< for a picture file; empty if there is none
+    std::string whyNoBitmap = {};  ///< then
+    std::string shipFile;          ///< the text of the ship file that such a file carries, if any
+    std::string_view called = "sheet";
 };
 
 /// Shows sheets as pages, prints them and saves them as files. What fails is said in one message

@@ -26,14 +26,15 @@ struct ControlDesign {
     std::string name;
     Place place = {};
     std::string caption = {};
-    std::string text = {};     ///< of a text box
+    std::string text = {};     ///< of a text box, a box with a list or a status line
     std::string picture = {};  ///< name of the picture that is the control's face
     std::string toolTip = {};
     std::string shortcut = {};        ///< of a menu entry or shortcut: "Ctrl+N"
     bool isVerbatim = false;          ///< of a menu entry: an "&" is one, and marks no access key
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
     std::string accessibleDescription = {};  ///< where the caption is a value: what is told by it
-    bool isOn = false;                       ///< of an option button or check box
+    bool isOn =
+        false;  ///< of an option button, a check box or a menu entry; of a tray icon: it is there
     bool isGraphical = false;     ///< of an option button or check box: a button that stays down
     bool isFramed = false;        ///< of a label or picture box: with a border
     bool isHeading = false;       ///< of a label: in large letters

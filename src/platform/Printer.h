@@ -6,7 +6,8 @@
 
 namespace fleetwright {
 
-/// The printer that the user chooses. Every operation throws Error where there is none or it fails.
+/// The printer that the user chooses. Choosing, printing and ending a document throw Error where
+/// there is none or it fails.
 class Printer {
 public:
     virtual ~Printer() = default;

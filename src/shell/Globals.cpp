@@ -11,7 +11,7 @@ void Globals::readSettings(const SettingsStore& store) {
     g_bSounds = isOn("Sounds");
     g_bHide = isOn("Hide");
     g_bConfirmExit = isOn("ConfirmExit");
-    g_sDefaultDesigner = store.read("Names", "Designer", "Nils's Iron Vector Ship Creator");
+    g_sDefaultDesigner = store.read("Names", "Designer", g_sDefaultDesigner);
 }
 
 }  // namespace fleetwright

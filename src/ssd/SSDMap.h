@@ -20,7 +20,7 @@ namespace fleetwright {
 /// refuses a file as a whole, none is.
 class InvalidMapError : public Error {
 public:
-    static constexpr int number = 11111;  ///< the one that it has always had
+    static constexpr int number = 11111;  ///< for who tells faults by their numbers
     InvalidMapError() : Error("Not a valid Map file!!!") {}
 };
 

@@ -87,10 +87,10 @@ TEST(Form, TellsOfEachChangeOnce) {
     form.moveTo(10, 20);
     form.resize(form.width(), form.height() + 100);
     EXPECT_EQ(form.take(), "changed changed resize ");
-    EXPECT_EQ(form.left() + form.top(), 30);
+    EXPECT_EQ(std::pair(form.left(), form.top()), std::pair(10, 20));
     EXPECT_EQ(form.place(), (Place{0, 0, 4000, 1600}));
     form.setPicture(Raster(1, 1));
     EXPECT_EQ(form.take(), "changed ");
     const Form bare({.name = "frmBare", .width = 30, .height = 20, .border = Border::None});
-    EXPECT_EQ(bare.width() + bare.height(), 50);
+    EXPECT_EQ(std::pair(bare.width(), bare.height()), std::pair(30, 20));
 }

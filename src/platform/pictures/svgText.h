@@ -13,7 +13,7 @@
 
 namespace fleetwright {
 
-/// A number with at most four decimals.
+/// A number with at most four decimals; "0" for one that is none, or of 1,000,000,000 or more.
 std::string svgNumber(double value);
 /// The same at the end of a text.
 void addSvgNumber(std::string& written, double value);
