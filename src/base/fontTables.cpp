@@ -94,7 +94,7 @@ std::string fontFile(std::string_view kind, FontTables tables) {
     }
     const std::size_t start = file.size() + std::size_t{rowSize} * count;
     std::size_t size = start;
-    std::size_t sumPlace = 0;
+    std::size_t sumPlace = start;  // that of the table "head", which each font has
     for (auto& [tag, table] : tables) {
         if (tag == "head") {
             table.replace(8, 4, 4, '\0');

@@ -51,7 +51,7 @@ std::string recordNameOf(const RecoveryName& name) {
 /// What is known of the design that a kill has left, which a run has announced by these names.
 RecoveryName leftOver(const std::set<std::string>& announced, const WrittenShip& ship) {
     if (announced.empty() || !isFleet(*announced.begin())) {
-        return {ship.name, ship.mass, "", 0};
+        return {.ship = ship.name, .mass = ship.mass, .time = {}};
     }
     return RecoveryName::of(pathText(nativePath(*announced.begin()).stem()), RecoveryKind::Fleet);
 }
@@ -83,12 +83,12 @@ std::vector<RecoveryDesign> RecoveryFolder::list(const fs::path& folder) {
 
 std::vector<RecoveryDesign> RecoveryFolder::lookAround() {
     RecoveryListing listing(m_folder);
-    takeUpLeftOvers(listing);
+    const RecoveryRecord known = m_run.allRecords(listing);
+    takeUpLeftOvers(listing, known);
     std::vector<Design>& designs = listing.designs;
     const std::set<std::string> running = m_run.running(listing);
     std::erase_if(designs, [&](const Design& each) { return running.contains(each.mark); });
     sortNewestFirst(designs);
-    const RecoveryRecord known = m_run.allRecords(listing);
     for (Design& design : designs) {
         // A copy stays where a save over a file was cut short: that file may be torn.
         design.isLeftBehind = (!design.mark.empty() || isCopyAsItWas(design.file)) &&
@@ -183,14 +183,17 @@ void RecoveryFolder::keepOther(const Aside& design) {
 
 void RecoveryFolder::forget(RecoveryKind kind) {
     std::optional<OwnFile>& own = ownOf(kind);
-    if (own && isAsWritten(*own)) {
+    if (!own) {
+        return;
+    }
+    if (isAsWritten(*own)) {
         removeSteps(fileOf(*own));
         removeForGood(fileOf(*own));
-        m_run.record.forget(own->name);
-        own.reset();
-    } else if (own) {
-        letGo(own);
+    } else if (isInFolder(fileOf(*own))) {
+        takeMarkOff(fileOf(*own), renameToNew);  // somebody has written over it: it is theirs
     }
+    m_run.record.forget(own->name);
+    own.reset();
 }
 
 /// Has the run begun in the folder, which is made if need be.
@@ -199,7 +202,7 @@ void RecoveryFolder::begin() {
     if (!m_run.hasBegun()) {
         // Before anything is saved there, which takes left files away.
         RecoveryListing listing(m_folder);
-        takeUpLeftOvers(listing);
+        takeUpLeftOvers(listing, m_run.allRecords(listing));
         m_run.begin(listing);
         joinSteps(listing, m_run.running(listing));
     }
@@ -230,19 +233,10 @@ bool RecoveryFolder::isAsWritten(const OwnFile& own) const {
     return bytesIn(fileOf(own)) == own.shipFile;
 }
 
-/// Somebody else has written over the file of this run, or taken it away: it is theirs.
-void RecoveryFolder::letGo(std::optional<OwnFile>& own) {
-    if (isInFolder(fileOf(*own))) {
-        takeMarkOff(fileOf(*own), renameToNew);
-    }
-    m_run.record.forget(own->name);
-    own.reset();
-}
-
 void RecoveryFolder::writeOwn(const Aside& design) {
     std::optional<OwnFile>& own = ownOf(design.kind);
     if (own && !isAsWritten(*own)) {
-        letGo(own);
+        forget(design.kind);
     }
     if (own && own->shipFile == design.shipFile) {
         if (own->steps != design.steps && writeSteps(fileOf(*own), design.steps)) {
@@ -290,11 +284,7 @@ std::optional<std::string> RecoveryFolder::whereKept(const std::string& shipFile
 
 /// Of what the kill of a save has left, whole designs become designs like those of a crash, and the
 /// rest goes.
-void RecoveryFolder::takeUpLeftOvers(RecoveryListing& listing) const {
-    if (listing.leftOvers.empty()) {
-        return;
-    }
-    const RecoveryRecord known = m_run.allRecords(listing);
+void RecoveryFolder::takeUpLeftOvers(RecoveryListing& listing, const RecoveryRecord& known) const {
     for (const fs::path& file : std::exchange(listing.leftOvers, {})) {
         const FileLock lock(file);
         const std::optional<std::string> bytes = lock.isHeld() ? bytesIn(file) : std::nullopt;

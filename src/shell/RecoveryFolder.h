@@ -105,12 +105,11 @@ private:
         return fileOf(own.name, m_run.mark());
     }
     bool isAsWritten(const OwnFile& own) const;
-    void letGo(std::optional<OwnFile>& own);
     void writeOwn(const Aside& design);
     bool throwAway(const std::filesystem::path& design);
 
     std::optional<std::string> whereKept(const std::string& shipFile) const;
-    void takeUpLeftOvers(RecoveryListing& listing) const;
+    void takeUpLeftOvers(RecoveryListing& listing, const RecoveryRecord& known) const;
     void takeOldOnesAway();
 
     std::filesystem::path m_folder;

@@ -82,8 +82,7 @@ private:
                 const std::string text =
                     replaced(replaced(unsealed(m_root.read(name)), "\r\n", ", "), "\r", "|");
                 const std::size_t mass = text.find("Mass: ");  // tells a design
-                seen[std::regex_replace(replaced(name, "recovered/", ""), std::regex("~[0-9]{2,}$"),
-                                        "~MARK")] =
+                seen[withoutMark(replaced(name, "recovered/", ""))] =
                     text.ends_with("System: Gun, 1, ")
                         ? text.substr(mass, text.find(',', mass) - mass)
                         : text;
@@ -95,12 +94,17 @@ private:
         return seen;
     }
 
+    static std::string withoutMark(const std::string& text) {
+        return std::regex_replace(text, std::regex("~[0-9]{2,}"), "~MARK");
+    }
+
     void doLine(const std::string& line) {
         try {
             const auto [act, rest] = cut(line);
             perform(act, cut(rest).first, cut(rest).second);
         } catch (const FileError& error) {
-            m_log += complaint(error) + "; ";
+            const std::regex reason("saved: .*");  // as the system has it
+            m_log += std::regex_replace(withoutMark(complaint(error)), reason, "saved") + "; ";
         }
     }
 
@@ -108,10 +112,26 @@ private:
         const fs::path file = m_folder / nativePath(text);
         const std::map<std::string, std::function<void()>> acts = {
             {"put", [&] { runOf(name).put(m_last = nextDesign(text)); }},
-            {"again", [&] { runOf(name).keep(m_last); }},
+            {"less",
+             [&] {
+                 m_last.shipFile.resize(m_last.shipFile.rfind("System"));
+                 runOf(name).put(m_last);
+             }},
+            {"again",
+             [&] {
+                 RecoveryFolder::Aside design = text == "x" ? m_last : designOf(text, 1);
+                 design.steps = m_steps;
+                 runOf(name).keep(design);
+             }},
+            {"same",
+             [&] {
+                 m_last.steps = m_steps;
+                 runOf(name).put(m_last);
+             }},
+            {"other", [&] { runOf(name).keepOther(nextDesign(text)); }},
             {"keep", [&] { runOf(name).keep(m_last = nextDesign(text)); }},
             {"forget", [&] { runOf(name).forget(kindOf(text)); }},
-            {"look", [&] { say(runOf(name).lookAround()); }},
+            {"look", [&] { say(m_shown = runOf(name).lookAround()); }},
             {"see",
              [&] {
                  std::vector<RecoveryFolder::Design> designs = runOf(name).lookAround();
@@ -139,13 +159,18 @@ private:
              }},
             {"later",
              [&] { fs::last_write_time(file, fs::file_time_type::clock::now() + m_later); }},
+            {"block",
+             [&] {
+                 const std::string own = oneLike("~");
+                 fs::create_directory(m_folder / (text + own.substr(own.rfind('~'))));
+             }},
             {"remove", [&] { fs::remove(m_folder / oneLike(name)); }},
             {"copy", [&] { fs::copy_file(m_folder / oneLike(name), file); }},
             {"over", [&] { m_root.write("recovered/" + oneLike(name), text); }},
             {"open", [&] { runOf(name).noteOpened(m_folder / text); }},
             {"throw",
              [&] {
-                 for (const auto& design : runOf(name).lookAround()) {
+                 for (const auto& design : m_shown) {
                      m_log += design.name == text ? runOf(name).moveToTrash(design) ? "" : "stays; "
                                                   : "";
                  }
@@ -195,6 +220,7 @@ private:
     const std::chrono::hours m_later = std::chrono::hours(1000);
     std::map<std::string, RecoveryFolder> m_runs;
     RecoveryFolder::Aside m_last = {};
+    std::vector<RecoveryFolder::Design> m_shown;  ///< by the last look
     int m_now = 0;
     int m_mass = 0;
     bool m_hasTrash = true;

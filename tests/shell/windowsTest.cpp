@@ -100,6 +100,7 @@ public:
                     [this, name] { machine.log += "focus " + name + "; "; }));
             }
         }
+        m_connections.push_back(splash.RepaintWanted.connect([this] { machine.log += "paint; "; }));
         m_connections.push_back(splash.sbInfo.Changed.connect([this] {
             machine.log += splash.sbInfo.text().empty() ? "" : splash.sbInfo.text() + "; ";
         }));
