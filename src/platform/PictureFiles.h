@@ -2,10 +2,14 @@
 
 #include "Raster.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
 namespace fleetwright {
+
+/// The most pixels that a picture in a file may have.
+inline constexpr std::int64_t mostPicturePixels = std::int64_t{64} * 1024 * 1024;
 
 /// Reads picture files.
 class PictureFiles {

@@ -26,6 +26,9 @@ namespace fleetwright {
 
 namespace {
 
+// Of memory for a picture, four bytes a pixel.
+constexpr int mostMegabytes = int(mostPicturePixels / 1024 / 1024) * 4;
+
 /// How bright each value of a channel is that the decoder has shifted up to 8 bits from fewer: it
 /// leaves the lower bits empty, so that white would be none.
 std::array<int, 256> brightnesses(std::uint32_t mask) {
@@ -82,10 +85,14 @@ Raster QtPictureFiles::decode(const std::string& bytes, const std::string& forma
     QImageReader reader(&buffer, QByteArray::fromStdString(format));
     reader.setAutoDetectImageFormat(false);
     const QtMessages messages;
+    const QSize size = reader.size();
+    if (std::int64_t{size.width()} * size.height() > mostPicturePixels) {
+        throw Error("is too large");
+    }
+    QImageReader::setAllocationLimit(mostMegabytes);
     QImage image;
     // Runs of a bitmap may leave pixels out, which would show what was in the memory before.
-    if (format == "bmp" &&
-        QImageIOHandler::allocateImage(reader.size(), reader.imageFormat(), &image)) {
+    if (format == "bmp" && QImageIOHandler::allocateImage(size, reader.imageFormat(), &image)) {
         image.fill(0);
     }
     // The decoder of JPEG makes up what is missing or damaged, and only says so.

@@ -1,6 +1,7 @@
 #include "checkPng.h"
 
 #include "Error.h"
+#include "PictureFiles.h"
 
 #include <png.h>
 
@@ -57,13 +58,12 @@ PngReading::PngReading(std::string_view bytes)
 
 /// Comes back from wherever the library has met a fault. So nothing here may need to be destroyed.
 void PngReading::run() {
-    constexpr std::int64_t mostPixels = std::int64_t{64} * 1024 * 1024;
     if (setjmp(png_jmpbuf(png)) != 0) {
         return;
     }
     png_read_info(png, info);
     if (std::int64_t{png_get_image_width(png, info)} * png_get_image_height(png, info) >
-        mostPixels) {
+        mostPicturePixels) {
         png_error(png, "it is too large");
     }
     const int passes = png_set_interlace_handling(png);
