@@ -183,17 +183,14 @@ void RecoveryFolder::keepOther(const Aside& design) {
 
 void RecoveryFolder::forget(RecoveryKind kind) {
     std::optional<OwnFile>& own = ownOf(kind);
-    if (!own) {
-        return;
-    }
-    if (isAsWritten(*own)) {
+    if (own && isAsWritten(*own)) {
         removeSteps(fileOf(*own));
         removeForGood(fileOf(*own));
-    } else if (isInFolder(fileOf(*own))) {
-        takeMarkOff(fileOf(*own), renameToNew);  // somebody has written over it: it is theirs
+        m_run.record.forget(own->name);
+        own.reset();
+    } else if (own) {
+        letGo(own);
     }
-    m_run.record.forget(own->name);
-    own.reset();
 }
 
 /// Has the run begun in the folder, which is made if need be.
@@ -233,10 +230,19 @@ bool RecoveryFolder::isAsWritten(const OwnFile& own) const {
     return bytesIn(fileOf(own)) == own.shipFile;
 }
 
+/// Somebody else has written over the file of this run, or taken it away: it is theirs.
+void RecoveryFolder::letGo(std::optional<OwnFile>& own) {
+    if (isInFolder(fileOf(*own))) {
+        takeMarkOff(fileOf(*own), renameToNew);
+    }
+    m_run.record.forget(own->name);
+    own.reset();
+}
+
 void RecoveryFolder::writeOwn(const Aside& design) {
     std::optional<OwnFile>& own = ownOf(design.kind);
     if (own && !isAsWritten(*own)) {
-        forget(design.kind);
+        letGo(own);  // never removed before the next one is written
     }
     if (own && own->shipFile == design.shipFile) {
         if (own->steps != design.steps && writeSteps(fileOf(*own), design.steps)) {

@@ -105,6 +105,7 @@ private:
         return fileOf(own.name, m_run.mark());
     }
     bool isAsWritten(const OwnFile& own) const;
+    void letGo(std::optional<OwnFile>& own);
     void writeOwn(const Aside& design);
     bool throwAway(const std::filesystem::path& design);
 

@@ -17,7 +17,7 @@ namespace {
 
 /// Whether a run can have such a mark.
 bool isMark(std::string_view text) {
-    return text.find_first_not_of("0123456789") == std::string_view::npos;
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 }  // namespace
