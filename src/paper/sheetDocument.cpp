@@ -1,5 +1,6 @@
 #include "sheetDocument.h"
 
+#include "FreeRoom.h"
 #include "SheetCard.h"
 #include "carriedShips.h"
 #include "pageTexts.h"

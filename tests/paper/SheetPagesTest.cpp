@@ -5,8 +5,10 @@
 #include "caseFile.h"
 #include "fontTables.h"
 #include "paperWorld.h"
+#include "sheetHeader.h"
 #include "sheetWorld.h"
 #include "svgFile.h"
+#include "thumbnailPage.h"
 
 #include <regex>
 
@@ -66,7 +68,9 @@ TEST(SheetPages, HaveAPlaceForEverything) {
             sheets.push_back(sheetOf("Ship Name: " + name + '\n' + given["ship"], size.at(0),
                                      size.at(1), given["gone"]));
         }
-        const SheetOptions options = {.perPage = std::atoi(given["per page"].c_str()),
+        const double side = std::atof(given["square paper"].c_str());
+        const SheetOptions options = {.paper = side > 0 ? PageSize{side, side} : paperA4,
+                                      .perPage = std::atoi(given["per page"].c_str()),
                                       .isPlain = given["plain"] == "yes"};
         const PageDocument document = sheetDocument(sheets, options);
         expectInsideMargins(document);
@@ -93,6 +97,19 @@ TEST(SheetPages, BecomeAnSvgFile) {
                 .height = 20,
                 .ink = {1, 2, 3, 4},
                 .shapes = {{.path = "M1 2L4 6", .fill = {}, .stroke = 0xFF}}});
+    const auto wide =
+        std::make_shared<const Drawing>(Drawing{.width = 10,
+                                                .height = 20,
+                                                .ink = {1, 2, 10, 4},
+                                                .shapes = {{.path = "M0 0L1 2Z",
+                                                            .fill = 0x8,
+                                                            .stroke = 0x123456,
+                                                            .strokeWidth = 0.5,
+                                                            .cap = DrawnShape::Cap::Round,
+                                                            .join = DrawnShape::Join::Bevel,
+                                                            .opacity = 0.25,
+                                                            .isEvenOdd = true}}});
+    const auto nothing = std::make_shared<const Drawing>();
     const auto raster = std::make_shared<const Raster>(3, 4);
     PageDocument document{.size = {50, 40},
                           .pages = {},
@@ -106,14 +123,50 @@ TEST(SheetPages, BecomeAnSvgFile) {
     document.pages[0].items = {PagePicture{drawing, nullptr, {1, 2, 5, 10}, {1, 2, 5, 10}},
                                PagePicture{drawing, nullptr, {1, 2, 5, 10}, {1, 2, 2.5, 10}},
                                PagePicture{nullptr, raster, {0, 0, 3, 4}, {0, 0, 3, 4}},
-                               PageLine{1, 2, 3, 1.0 / 3, 0.25, 0xABCDEF}};
-    document.pages[1].items = {PageText{"a  <b>\r\x02\u5DE1\U0001F680", 1, 2, 3, PageFont::Bold,
-                                        PageText::Anchor::End, 0x123456},
-                               PageRectangle{{1, 1, 2, 2}, 0xFFFFFF, 0, 0.5, 1}};
+                               PagePicture{wide, nullptr, {0, 0, 5, 10}, {0, 1, 5, 9}},
+                               PagePicture{nothing, nullptr, {0, 0, 5, 10}, {0, 0, 5, 10}},
+                               PageLine{1, 2, 3, 1.0 / 3, 0.25, 0xABCDEF},
+                               PageLine{-0.00004, -12345.67899, 70.05, 0.00025, 1e10, 1}};
+    document.pages[1].items = {PageText{"\x03"},
+                               PageText{"a  <b>\r\t\x7F\xFF\uFFFE\u5DE1\U0001F680", 1, 2, 3,
+                                        PageFont::Bold, PageText::Anchor::End, 0x123456},
+                               PageRectangle{{1, 1, 2, 2}, 0xFFFFFF, 0, 0.5, 1},
+                               PageRectangle{{1, 1, 3, 2}, {}, {}, 0.5, 0}};
     const std::regex fontBytes("(font/ttf;base64,AAEAAAAK)[A-Za-z0-9+/]*=*");
     expectCases("paper/golden/svg.txt", [&](const Case&) {
         return std::regex_replace(svgFile(document, paper), fontBytes, "$1");
     });
+}
+
+TEST(SheetPages, OfThumbnailsShareASquare) {
+    SheetRecord ship;
+    ship.outline.picture.raster = std::make_shared<const Raster>(box(40, 20, 0));
+    ship.outline.width = 40;
+    ship.outline.height = 20;
+    std::vector<Page> pages;
+    for (std::size_t count = 1; count <= 5; ++count) {
+        pages.push_back(thumbnailPage(std::vector(count, ship)));
+    }
+    pages.push_back(thumbnailPage({trackRecord(5, 2)}));
+    EXPECT_EQ(describedPages(pages),
+              "\npage\n20 260 to 980 740"
+              "\npage\n20 385 to 480 615\n520 385 to 980 615"
+              "\npage\n20 135 to 480 365\n520 135 to 980 365\n270 635 to 730 865"
+              "\npage\n20 135 to 480 365\n520 135 to 980 365"
+              "\n20 635 to 480 865\n520 635 to 980 865"
+              "\npage\n20 135 to 480 365\n520 135 to 980 365"
+              "\n20 635 to 480 865\n520 635 to 980 865"
+              "\npage\n20 163 to 980 837");
+}
+
+TEST(SheetPages, HaveARowForAFigureThatIsTooWide) {
+    Page page;
+    putBlock(page,
+             figuresBlock({{"HULL", "Sloop"}, {"DRIVE", std::string(40, 'W')}, {"MASS", "2"}}, 50),
+             0, 0);
+    EXPECT_EQ(describedPages({page}),
+              "\npage\n0 0 to 500 0 of 50\n0 7 HULL\n0 31 Sloop\n0 86 DRIVE\n0 126 " +
+                  std::string(21, 'W') + "…\n0 165 MASS\n0 189 2\n0 237 to 500 237 of 20");
 }
 
 TEST(SheetPages, JoinArabicLettersInAnSvgFile) {

@@ -15,12 +15,15 @@ std::string place(double x, double y) {
     return std::to_string(std::lround(x * 10)) + ' ' + std::to_string(std::lround(y * 10));
 }
 
-/// Where it is, in tenths of a millimetre, and what it says.
+/// Where it is, in tenths of a millimetre, and what it says or, of a line, how wide it is.
 std::string described(const PageItem& item) {
     const Box at = boxOf(item);
-    const auto* const text = std::get_if<PageText>(&item);
-    return place(at.x, at.y) +
-           (text != nullptr ? ' ' + text->text : " to " + place(at.x + at.width, at.y + at.height));
+    if (const auto* const text = std::get_if<PageText>(&item)) {
+        return place(at.x, at.y) + ' ' + text->text;
+    }
+    const auto* const line = std::get_if<PageLine>(&item);
+    return place(at.x, at.y) + " to " + place(at.x + at.width, at.y + at.height) +
+           (line != nullptr ? " of " + std::to_string(std::lround(line->width * 100)) : "");
 }
 
 }  // namespace
