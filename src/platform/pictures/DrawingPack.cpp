@@ -137,7 +137,7 @@ void DrawingPack::readIndex() const {
     PackReader reader(text);
     const std::size_t count = readHead(reader, size);
     const std::size_t most = std::min(text.size() + count * longestLine, size);
-    if (count * longestLine > reader.rest().size() && most > text.size()) {
+    if (count * longestLine > reader.rest().size()) {
         text += m_pack->piece(text.size(), most - text.size());
         reader = PackReader(text);
         readHead(reader, size);
