@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace fleetwright {
@@ -63,8 +64,13 @@ std::string describedPages(const std::vector<Page>& pages) {
     std::string text;
     for (const Page& page : pages) {
         text += "\npage";
-        for (const PageItem& item : page.items) {
-            text += '\n' + described(item);
+        for (auto item = page.items.begin(); item != page.items.end();) {
+            const std::string first = described(*item);
+            const auto isOther = [&](const PageItem& other) { return described(other) != first; };
+            const auto end = std::find_if(item, page.items.end(), isOther);
+            text +=
+                '\n' + first + (end - item > 1 ? ", " + std::to_string(end - item) + " times" : "");
+            item = end;
         }
     }
     return text;
