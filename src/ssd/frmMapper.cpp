@@ -54,8 +54,6 @@ void frmMapper::Form_Load() {
 
 /// Brings the window to what it is when it opens.
 void frmMapper::startAnew() {
-    m_lists = {};
-    m_Map.reset();
     m_bestFit.reset();
     m_drawn.reset();
     keys.offer({});
@@ -63,7 +61,6 @@ void frmMapper::startAnew() {
     cboMapSelection.setToolTip("");
     m_lastFault.clear();
     cmdDrawIt.setEnabled(true);
-    cmdSave.setEnabled(true);
     picSSD.setAutoSize(false);
     picSSD.setPicture({});
     picSSD.setPlace(m_emptySheet);

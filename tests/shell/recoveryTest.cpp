@@ -299,6 +299,19 @@ TEST(Recovery, LooksOnceHoweverManyDesignsThereAre) {
     EXPECT_EQ(callsFor(200), callsFor(2));
 }
 
+// A design at work is put aside every second.
+TEST(Recovery, WritesAgainOnlyWhatHasChanged) {
+    Recovery world;
+    const auto callsFor = [&](const std::string& steps) {
+        const FileFaults faults;
+        world.runOf("run").put(designOf("Wasp", 2, "steps " + fingerprint(steps) + '\n' + steps));
+        return faults.calls();
+    };
+    callsFor("one");
+    const int forNewSteps = callsFor("two");
+    EXPECT_LT(callsFor("two"), forNewSteps);
+}
+
 // A run ends at any of its calls, as a kill ends it, or one of them fails. What it has said to be
 // put aside is there for the next one, what was kept before too, and nothing is there by half.
 TEST(Recovery, LosesNothingWhereverARunEndsOrACallFails) {
