@@ -91,6 +91,7 @@ struct Mapper : PictureEncoder {
         };
         const Raster& sheet = window.picSSD.picture();
         const Place& box = window.picSSD.place();
+        const std::string& remedy = window.cmdDrawIt.toolTip();
         // Where the damage track covers the outline.
         const bool isCovered = sheet.width() > 4 && sheet.height() > 5;
         std::map<std::string, std::string> seen = {
@@ -104,7 +105,10 @@ struct Mapper : PictureEncoder {
             {"fault", window.lastFault()},
             {"maps", ""},
             {"tip", window.cboMapSelection.toolTip()},
-            {"note", window.lblOther.isVisible() ? window.cmdDrawIt.toolTip() : ""},
+            {"note", !window.lblOther.isVisible()                    ? ""
+                     : remedy != window.lblOther.toolTip()           ? "with another tool tip"
+                     : remedy.starts_with(window.lblOther.caption()) ? remedy
+                                                                     : "with another remedy"},
             {"said", window.keys.sbSheet.isVisible() ? window.keys.sbSheet.text() : ""},
             {"dialog", desktop.asked.initialFolder.string() + ' ' + desktop.asked.fileName + " *" +
                            desktop.asked.extension + ' ' +
