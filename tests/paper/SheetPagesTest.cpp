@@ -23,6 +23,11 @@ constexpr std::string_view pageCatalogue =
     "Ward,roundup(amount / 2),3,DEFENSE,DEFENSE,BAPS,ward.gif\n"
     "Lamp,1,1,SYSTEMS,SYSTEMS,AP,lamp.gif\n"
     "Hold,3 * amount,amount,SYSTEMS,SYSTEMS,O,hold.gif\n"
+    "Hold of a kind that nobody would have thought of if there had not been a name to be longer "
+    "than its room,0,0,SYSTEMS,SYSTEMS,O,hold.gif\n#> It holds what it holds, and what it does not "
+    "hold it does not hold, which is more than can be said of many that are said to hold a great "
+    "deal more than it does but do not hold it when it comes to holding, as it does in the end to "
+    "all that is held, however well it was held, and whoever held it.\n"
     "Damage Control Party,amount,4 * amount,SYSTEMS,SYSTEMS,O,party.gif\n";
 
 /// Pictures without drawings, and no files.
