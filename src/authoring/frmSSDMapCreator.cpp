@@ -148,7 +148,7 @@ void frmSSDMapCreator::selectNothing(const std::string& why) {
 /// Throws Error.
 Raster frmSSDMapCreator::loadImage(const std::string& file) const {
     Raster picture = m_services.pictures.load(nativePath(file));
-    OutlineScan(picture, file);  // refuses what no map can hold
+    [[maybe_unused]] const OutlineScan tried(picture, file);  // refuses what no map can hold
     return picture;
 }
 
