@@ -13,8 +13,8 @@ namespace fleetwright {
 class OutlineScan {
 public:
     /// The picture must outlive the scan. The map names the outline by what stands behind the
-    /// last separator of `imageFile`. Throws Error for what a map could not hold: the
-    /// places in a picture of more than 32767 pixels a side, or a name with a line break.
+    /// last separator of `imageFile`. Throws Error for what a map could not hold: the places in a
+    /// picture of more than 32767 pixels a side, or a name with a line break.
     OutlineScan(const Raster& picture, std::string_view imageFile);
 
     /// Goes through the picture row by row, each from left to right. After each pixel it calls

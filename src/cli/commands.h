@@ -33,8 +33,8 @@ int forEachShip(const Options& options, std::span<const std::string> ships,
                 const std::function<std::string(std::size_t index, ShipOnScreen&)>& work,
                 const std::function<void(std::size_t index)>& taken = {});
 
-/// Throws Error for a word of the command line that is a fleet. Commands on whose
-/// answers to any text scripts rely (report, figures, save) make a ship of it, of mass 2, instead.
+/// Throws Error for a word of the command line that is a fleet. Commands on whose answers to any
+/// text scripts rely (report, figures, save) make a ship of it, of mass 2, instead.
 void refuseFleet(const std::string& ship);
 
 /// Works on the inputs 0 to `count` - 1, several at a time, prints their results in their order,

@@ -162,8 +162,7 @@ public:
     /// event.
     void restore(const ShipState& state);
 
-    /// The hull as it is designed, and what the last recalculation has
-    /// made of it.
+    /// The hull as it is designed, and what the last recalculation has made of it.
     const HullDesign& hullDesign() const { return hull; }
     const HullFigures& hullFigures() const { return lastHull; }
 

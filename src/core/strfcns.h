@@ -22,7 +22,7 @@ std::string strReverse(std::string_view text);
 std::string strTok(std::string& source, std::string_view delims, bool bExact);
 
 /// The part of `source` behind the earliest delimiter, or nothing if there is none; otherwise as
-/// `strTok`, with a memory of its own, which `strTok` has nothing of.
+/// `strTok`, with a memory of its own.
 std::string strTokTail(std::string& source, std::string_view delims, bool bExact);
 
 /// Makes `rest` what `strTok` has left on this thread.

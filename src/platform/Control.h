@@ -33,8 +33,7 @@ struct ControlDesign {
     bool isVerbatim = false;          ///< of a menu entry: an "&" is one, and marks no access key
     std::string accessibleName = {};  ///< where neither caption nor label says what it is
     std::string accessibleDescription = {};  ///< where the caption is a value: what is told by it
-    bool isOn =
-        false;  ///< of an option button, a check box or a menu entry; of a tray icon: it is there
+    bool isOn = false;                       ///< of all that is switched: buttons, menu entries
     bool isGraphical = false;     ///< of an option button or check box: a button that stays down
     bool isFramed = false;        ///< of a label or picture box: with a border
     bool isHeading = false;       ///< of a label: in large letters
