@@ -39,3 +39,9 @@ TEST(SheetOutput, APictureThatCarriesAShipIsDrawnAnewWithHerSystems) {
     EXPECT_EQ(again.name, "Wasp");
     EXPECT_EQ(again.shipFile, made.shipFile);
 }
+
+TEST(SheetOutput, ASheetThatWasTriedAtOnceSaysWhyItFailedWhenItIsWanted) {
+    const SheetOutput::Source sheet =
+        SheetOutput::madeAtOnce([]() -> OutgoingSheet { throw Error("no picture"); });
+    EXPECT_THROW(sheet(), Error);
+}

@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -125,45 +124,6 @@ TEST_F(FormWindowTest, OnlyMovingTheFocusInsideTheWindowLosesIt) {
     EXPECT_EQ(lost, 0);
     QApplication::sendEvent(text, &byTab);
     EXPECT_EQ(lost, 1);
-}
-
-TEST_F(FormWindowTest, AKeyGoesToItsBoxFirstAndThenToTheForm) {
-    auto& name = *find<QLineEdit>("name");
-    form.name.setFocus();
-    EXPECT_EQ(window.focusWidget(), &name);
-    QTest::keyClick(&window, Qt::Key_Space);
-    EXPECT_EQ(takeLog(), "formkey ");
-    // What edits a text is a key of the menu where there is nothing to edit, or to take back.
-    const auto isOfText = [&name](Qt::Key key) {
-        QKeyEvent event(QEvent::ShortcutOverride, key, Qt::ControlModifier);
-        event.ignore();
-        QApplication::sendEvent(&name, &event);
-        return event.isAccepted();
-    };
-    form.name.setText("marked");
-    for (const bool isLocked : {true, false}) {
-        form.name.setLocked(isLocked);
-        EXPECT_EQ(isOfText(Qt::Key_A), !isLocked);
-        EXPECT_EQ(isOfText(Qt::Key_V), !isLocked);
-        name.deselect();
-        EXPECT_EQ(isOfText(Qt::Key_C), !isLocked);
-        name.selectAll();
-        EXPECT_TRUE(isOfText(Qt::Key_C));
-    }
-    // And of those that only some desktops know, everywhere.
-    auto* const combo = find<QComboBox>("combo");
-    for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key) {
-        QKeyEvent event(QEvent::ShortcutOverride, key, Qt::ControlModifier);
-        event.ignore();
-        QApplication::sendEvent(combo, &event);
-        const bool mayBeOfTexts = std::string_view("ACVXYZ").find(char(key)) != std::string::npos;
-        EXPECT_TRUE(mayBeOfTexts || !(event.isAccepted() || isOfText(Qt::Key(key)))) << char(key);
-    }
-    EXPECT_FALSE(isOfText(Qt::Key_Z));
-    QTest::keyClick(&name, Qt::Key_B);
-    EXPECT_TRUE(isOfText(Qt::Key_Z));
-    form.name.setText("of another ship");
-    EXPECT_FALSE(isOfText(Qt::Key_Z));
 }
 
 TEST_F(FormWindowTest, FilesMayBeDroppedAnywhereAndStayWhereTheyAre) {

@@ -49,6 +49,7 @@ TEST(FontSubset, DrawsWhatItsFaceDoes) {
         const QRawFont expected = QRawFont::fromFont(whole);
         ASSERT_TRUE(made.isValid());
         EXPECT_EQ(made.weight(), expected.weight());
+        EXPECT_EQ(made.familyName(), expected.familyName());
         for (const FontSubset::Sign& sign : subset.signs()) {
             EXPECT_EQ(drawn(made, sign.character), drawn(expected, sign.character))
                 << std::hex << std::uint32_t(sign.character);
