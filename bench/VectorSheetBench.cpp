@@ -14,6 +14,7 @@
 #include "designQr.h"
 #include "drawSSD.h"
 #include "formula_calculate.h"
+#include "pdfFile.h"
 #include "readFile.h"
 #include "saveFile.h"
 #include "sheetDocument.h"
@@ -72,7 +73,7 @@ void svgFilesByTool(benchmark::State& state, bool arePlain) {
 void pdfs(benchmark::State& state, unsigned threads) {
     makeSheets(state, threads, SheetKind::Lines,
                [](const ShipOnScreen& screen, const SheetRun& run) {
-                   return run.files.pdf(documentOf(screen, run));
+                   return pdfFile(documentOf(screen, run));
                });
 }
 

@@ -1,9 +1,9 @@
 #include "PrintedFleet.h"
 
-#include "SheetSupplies.h"
 #include "documentDate.h"
 #include "pageOptions.h"
 #include "paths.h"
+#include "pdfFile.h"
 #include "saveResult.h"
 
 #include <utility>
@@ -21,10 +21,9 @@ SheetOptions pagesOf(const Options& options, KeptSheetParts& kept) {
 }  // namespace
 
 PrintedFleet::PrintedFleet(const Options& options, const Fleet& fleet, const FleetFiles& files,
-                           SheetSupplies& supplies, const CatalogueFile& catalogue)
-    : m_options(options), m_fleet(fleet), m_files(files), m_supplies(supplies),
-      m_shipsOf(files.paths.size()), m_sheets(files.paths.size(), supplies.tools, catalogue),
-      m_series(fleet, pagesOf(options, m_kept)) {
+                           const SheetTools& tools, const CatalogueFile& catalogue)
+    : m_options(options), m_fleet(fleet), m_files(files), m_shipsOf(files.paths.size()),
+      m_sheets(files.paths.size(), tools, catalogue), m_series(fleet, pagesOf(options, m_kept)) {
     for (std::size_t ship = 0; ship < files.ofShip.size(); ++ship) {
         m_shipsOf[files.ofShip[ship]].push_back(ship);
     }
@@ -44,8 +43,7 @@ void PrintedFleet::save(const std::filesystem::path& file, const FleetRows& rows
         [this](std::size_t ship) { return m_sheets.shipFile(m_files.ofShip[ship]); });
     PageDocument document = fleetDocument(m_fleet, rows, std::move(sheets), pages);
     document.date = documentDate(nativePath(m_options.words.front()));
-    saveResult(file, FileContents(
-                         [&](const FileOut& out) { m_supplies.pictures.writePdf(document, out); }));
+    saveResult(file, FileContents([&](const FileOut& out) { writePdf(document, out); }));
 }
 
 }  // namespace fleetwright

@@ -22,7 +22,7 @@ public:
     /// The ships of the fleet are in these files. What is handed in outlives this. Throws Error for
     /// a fleet that is too large for a document.
     PrintedFleet(const Options& options, const Fleet& fleet, const FleetFiles& files,
-                 SheetSupplies& supplies, const CatalogueFile& catalogue);
+                 const SheetTools& tools, const CatalogueFile& catalogue);
 
     /// Draws the ship on a screen, of this file. Any number of threads may do so for different
     /// ones. Throws Error; then its ships have no sheets.
@@ -34,7 +34,6 @@ private:
     const Options& m_options;
     const Fleet& m_fleet;
     const FleetFiles& m_files;
-    SheetSupplies& m_supplies;
     std::vector<std::vector<std::size_t>> m_shipsOf;  ///< of each file
     KeptSheetParts m_kept;
     SheetsOnDemand m_sheets;

@@ -10,34 +10,29 @@ namespace fleetwright {
 
 namespace {
 
-/// Pictures for documents of this kind.
-ToolPictures picturesFor(const Options& options, SheetSupplies::Kind kind) {
+ToolPictures picturesFor(const Options& options) {
     const std::filesystem::path images = options.appFolder / "images";
     if (std::error_code unknown; !std::filesystem::is_directory(findFile(images), unknown)) {
         throw FileError(images, "is not there; fleetwright-cli unpack unpacks the pictures");
     }
-    ToolPictures pictures(options.programFolder);
-    if (kind == SheetSupplies::Kind::Pdf) {
-        pictures.prepareForPdf();
-    }
-    return pictures;
+    return ToolPictures(options.programFolder);
 }
 
 }  // namespace
 
 SheetSupplies::SheetSupplies(const Options& options, std::size_t sheets, Kind kind, int& status)
-    : pictures(picturesFor(options, kind)), m_drawings(drawingsFile(options.appFolder)),
-      m_drawnPictures(pictures, m_drawings), m_maps(mapsOf(options, status)),
+    : m_pictures(picturesFor(options)), m_drawings(drawingsFile(options.appFolder)),
+      m_drawnPictures(m_pictures, m_drawings), m_maps(mapsOf(options, status)),
       tools(toolsFor(options, sheets, kind)) {}
 
 SheetTools SheetSupplies::toolsFor(const Options& options, std::size_t sheets, Kind kind) {
     PictureFiles& files =
-        kind == Kind::Other ? static_cast<PictureFiles&>(pictures) : m_drawnPictures;
+        kind == Kind::Pixels ? static_cast<PictureFiles&>(m_pictures) : m_drawnPictures;
     // The outline of a single ship is read once in any case, and is the largest picture.
     return {options.appFolder,
             picturesReadOnce(options.appFolder, files),
             sheets == 1 ? outlinesIn(files) : outlinesReadOnce(files),
-            pictures,
+            m_pictures,
             m_drawings,
             m_maps};
 }

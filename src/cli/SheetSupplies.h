@@ -14,9 +14,10 @@ namespace fleetwright {
 /// All that commands draw sheets with.
 class SheetSupplies {
 public:
-    enum class Kind { Pdf, Svg, Other };
+    /// What sheets are made of.
+    enum class Kind { Lines, Pixels };
 
-    /// For so many sheets, of which documents of this kind are made. Maps that cannot be used are
+    /// For so many sheets of this kind. Maps that cannot be used are
     /// named on standard error, and `status` becomes SomeRefused. Throws FileError if the pictures
     /// have not been unpacked.
     SheetSupplies(const Options& options, std::size_t sheets, Kind kind, int& status);
@@ -24,11 +25,10 @@ public:
     SheetSupplies& operator=(const SheetSupplies&) = delete;
     ~SheetSupplies() = default;
 
-    ToolPictures pictures;
-
 private:
     SheetTools toolsFor(const Options& options, std::size_t sheets, Kind kind);
 
+    ToolPictures m_pictures;
     DrawingPack m_drawings;
     DrawnPictureFiles m_drawnPictures;
     LoadedMaps m_maps;

@@ -45,12 +45,12 @@ std::string ToolPictures::encode(const Raster& picture, const std::string& forma
     return module().encoder.encode(picture, format);
 }
 
-void ToolPictures::prepareForPdf() {
+void ToolPictures::prepare() {
     const auto load = [folder = m_programFolder] {
         try {
             loadPictures(folder);
         } catch (const Error&) {
-            // The one who makes the file finds it, too.
+            // Whoever needs it finds that, too.
         }
     };
     try {
@@ -58,16 +58,6 @@ void ToolPictures::prepareForPdf() {
     } catch (const std::system_error&) {
         // No further thread is granted: whoever needs the module first loads it.
     }
-}
-
-std::string ToolPictures::pdf(const PageDocument& document) {
-    std::string file;
-    writePdf(document, [&file](std::string_view bytes) { file += bytes; });
-    return file;
-}
-
-void ToolPictures::writePdf(const PageDocument& document, const FileOut& out) {
-    module().pdf(document, out);
 }
 
 Raster ToolPictures::pixels(const Page& page, double millimetres, int pixels) {

@@ -2,7 +2,6 @@
 
 #include "PageDocument.h"
 #include "PictureReader.h"
-#include "TemporaryFile.h"
 
 #include <filesystem>
 #include <future>
@@ -22,13 +21,9 @@ public:
     Raster decode(const std::string& bytes, const std::string& format) override;
     Raster builtIn(const std::string& name) override;
     std::string encode(const Raster& picture, const std::string& format) override;
-    /// Begins to load the module, which `pdf` and `pixels` take, while the caller does something
-    /// else. Called before other threads come in; whoever needs the module waits for the end of it.
-    void prepareForPdf();
-    /// The bytes of a PDF file, the same for the same document.
-    std::string pdf(const PageDocument& document);
-    /// The same, piece by piece.
-    void writePdf(const PageDocument& document, const FileOut& out);
+    /// Begins to load the module while the caller does something else. Called before other threads
+    /// come in; whoever needs the module waits for the end of it.
+    void prepare();
     /// What a page shows but its text, in a square of so many millimetres, in so many pixels each
     /// way.
     Raster pixels(const Page& page, double millimetres, int pixels);

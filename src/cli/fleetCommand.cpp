@@ -107,8 +107,10 @@ void FleetRun::beginSheets() {
     if (!m_options.has(sheetsOption)) {
         return;
     }
-    m_supplies.emplace(m_options, m_files.paths.size(), SheetSupplies::Kind::Pdf, m_status);
-    attempt([&] { m_printed.emplace(m_options, m_read.fleet, m_files, *m_supplies, m_catalogue); });
+    m_supplies.emplace(m_options, m_files.paths.size(), SheetSupplies::Kind::Lines, m_status);
+    attempt([&] {
+        m_printed.emplace(m_options, m_read.fleet, m_files, m_supplies->tools, m_catalogue);
+    });
 }
 
 /// Loads a ship of the fleet, by the place of its file, and draws its sheet.

@@ -15,7 +15,7 @@ int savePlayedFleet(const Options& options, const Fleet& fleet, const std::files
                     const std::filesystem::path& out) {
     checkCanBePlayed(fleet);
     int status = Done;
-    SheetSupplies supplies(options, fleet.ships.size(), SheetSupplies::Kind::Svg, status);
+    SheetSupplies supplies(options, fleet.ships.size(), SheetSupplies::Kind::Lines, status);
     const auto refuse = [&status](const std::string& ship, const Error& why) {
         complain(complaint(nativePath(ship), why));
         status = SomeRefused;
@@ -23,7 +23,7 @@ int savePlayedFleet(const Options& options, const Fleet& fleet, const std::files
     const auto sheets =
         fleetSheets(fleet, folder, CatalogueFile::readOnce(options.appFolder / "weaps.dat"),
                     supplies.tools, refuse);
-    saveResult(out, playPage(playFleet(fleet, sheets), supplies.pictures));
+    saveResult(out, playPage(playFleet(fleet, sheets), supplies.tools.encoder));
     return status;
 }
 

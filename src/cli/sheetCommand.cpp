@@ -6,13 +6,13 @@
 #include "ResultFiles.h"
 #include "SheetSupplies.h"
 #include "ShipOnScreen.h"
-#include "ToolPictures.h"
 #include "carriedShips.h"
 #include "designCode.h"
 #include "documentDate.h"
 #include "drawnSheet.h"
 #include "pageOptions.h"
 #include "paths.h"
+#include "pdfFile.h"
 #include "readShip.h"
 #include "saveResult.h"
 #include "sheetDocument.h"
@@ -66,15 +66,12 @@ void checkSheet(const Options& options) {
     sheetOut(options);
 }
 
-/// What sheets are made of.
 SheetSupplies::Kind kindOf(const Options& options) {
     const std::string format = sheetOut(options) == SheetOut::Folder
                                    ? options.value("--format")
                                    : sheetFormat(options.value(outOption.name)).value_or("bmp");
-    if (format == "pdf") {
-        return SheetSupplies::Kind::Pdf;
-    }
-    return format == "svg" ? SheetSupplies::Kind::Svg : SheetSupplies::Kind::Other;
+    const bool isOfLines = format == "pdf" || format == "svg";
+    return isOfLines ? SheetSupplies::Kind::Lines : SheetSupplies::Kind::Pixels;
 }
 
 void checkFormat(std::string_view, const std::string& format) {
@@ -151,7 +148,7 @@ VectorSheet sheetFor(const Options& options, ShipOnScreen& screen, const SheetTo
     return sheet;
 }
 
-int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pictures) {
+int drawFiles(const Options& options, const SheetTools& tools) {
     const SheetFiles files(options);
     KeptSheetParts kept;
     KeptSvgParts parts;
@@ -161,8 +158,7 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
             std::vector<VectorSheet> sheets;
             sheets.push_back(sheetFor(options, screen, tools));
             const PageDocument document = sheetDocument(sheets, pages);
-            return format == "svg" ? svgFile(document, tools.encoder, &parts)
-                                   : pictures.pdf(document);
+            return format == "svg" ? svgFile(document, tools.encoder, &parts) : pdfFile(document);
         }
         const Raster sheet = drawnSheet(screen, tools, options.value("--map"));
         std::string bytes = tools.encoder.encode(sheet, format);
@@ -176,7 +172,7 @@ int drawFiles(const Options& options, const SheetTools& tools, ToolPictures& pic
                        });
 }
 
-int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& pictures) {
+int drawDocument(const Options& options, const SheetTools& tools) {
     std::vector<std::optional<VectorSheet>> drawn(options.words.size());
     const int status = forEachShip(options, RefusedLines::AsComplaints,
                                    [&](std::size_t index, ShipOnScreen& screen) {
@@ -192,7 +188,7 @@ int drawDocument(const Options& options, const SheetTools& tools, ToolPictures& 
     if (!sheets.empty()) {
         KeptSheetParts kept;
         saveResult(nativePath(options.value(outOption.name)),
-                   pictures.pdf(sheetDocument(sheets, sheetOptionsOf(options, kept))));
+                   pdfFile(sheetDocument(sheets, sheetOptionsOf(options, kept))));
     }
     return status;
 }
@@ -201,8 +197,8 @@ int runSheet(const Options& options) {
     const bool isDocument = sheetOut(options) == SheetOut::Document;
     int status = Done;
     SheetSupplies supplies(options, options.words.size(), kindOf(options), status);
-    const int drawn = isDocument ? drawDocument(options, supplies.tools, supplies.pictures)
-                                 : drawFiles(options, supplies.tools, supplies.pictures);
+    const int drawn =
+        isDocument ? drawDocument(options, supplies.tools) : drawFiles(options, supplies.tools);
     return std::max(status, drawn);
 }
 

@@ -80,10 +80,10 @@ class Thumbnails {
 public:
     explicit Thumbnails(const Options& options)
         : m_pictures(options.programFolder), m_screen(options.appFolder) {
-        m_pictures.prepareForPdf();
+        m_pictures.prepare();
         try {
             int ignored = Done;
-            m_supplies.emplace(options, mostInThumbnail, SheetSupplies::Kind::Svg, ignored);
+            m_supplies.emplace(options, mostInThumbnail, SheetSupplies::Kind::Lines, ignored);
         } catch (const FileError&) {
             // There are no pictures.
         }

@@ -3,9 +3,6 @@
 #include "PageDocument.h"
 #include "Raster.h"
 
-#include <functional>
-#include <string_view>
-
 namespace fleetwright {
 
 class PictureEncoder;
@@ -16,8 +13,6 @@ class PictureReader;
 struct Pictures {
     PictureReader& files;
     PictureEncoder& encoder;
-    /// Hands out the pieces of a PDF file. Any number of threads may call it.
-    void (*pdf)(const PageDocument&, const std::function<void(std::string_view)>&);
     /// A square of a page but its text: millimetres and pixels of its side.
     Raster (*pixels)(const Page&, double, int);
 };

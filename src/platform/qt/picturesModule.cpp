@@ -3,7 +3,6 @@
 #include "QtMessages.h"
 #include "QtPictureFiles.h"
 #include "pagePixels.h"
-#include "pdfFile.h"
 
 #include <QThread>
 
@@ -42,6 +41,6 @@ extern "C" Q_DECL_EXPORT const fleetwright::Pictures* createPictures() {
     [[maybe_unused]] static const bool hasThread = giveQtItsThread();
     QtMessages::silence();  // the tool has its own words for what goes wrong
     static QtPictureFiles files;
-    static const Pictures pictures{files, files, writePdf, pagePixels};
+    static const Pictures pictures{files, files, pagePixels};
     return &pictures;
 }

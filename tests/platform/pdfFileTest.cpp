@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <future>
 
 using namespace fleetwright;
@@ -46,7 +47,7 @@ PageDocument makeDocument() {
 }  // namespace
 
 TEST(PdfFile, IsWhatOtherProgramsReadOfIt) {
-    expectCases("platform/qt/golden/pdf.txt", [](const Case& question) {
+    expectCases("platform/golden/pdf.txt", [](const Case& question) {
         PageDocument document = makeDocument();
         if (question["paper"] == "a card") {
             document.size = {101.5, 50};
@@ -60,11 +61,11 @@ TEST(PdfFile, IsWhatOtherProgramsReadOfIt) {
 
 TEST(PdfFile, HasTheSameBytesInEachThreadAndTimeZone) {
     const std::string pdf = pdfFile(makeDocument());
-    qputenv("TZ", "Asia/Tokyo");
+    setenv("TZ", "Asia/Tokyo", 1);
     auto other = std::async(std::launch::async, [] { return pdfFile(makeDocument()); });
     EXPECT_EQ(pdfFile(makeDocument()), pdf);
     EXPECT_EQ(other.get(), pdf);
-    qunsetenv("TZ");
+    unsetenv("TZ");
 }
 
 // A fleet has thousands of pages.
