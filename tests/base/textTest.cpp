@@ -58,9 +58,9 @@ TEST(Utf8, KnowsWellFormedCharacters) {
     for (const char* text : {"", "é", "€", "𝄞", "\u07FF\u0800\uFFFF", "\xF4\x8F\xBF\xBF"}) {
         EXPECT_TRUE(isUtf8(text)) << text;
     }
-    for (const char* text :
-         {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x9F\xBF", "\xED\xA0\x80",
-          "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "12345678\xE2\x82"}) {
+    for (const char* text : {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x9F\xBF", "\xED\xA0\x80",
+                             "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80",
+                             "\xF8\x88\x80\x80\x80", "12345678\xE2\x82"}) {
         EXPECT_FALSE(isUtf8(text)) << text;
     }
 }
