@@ -132,7 +132,7 @@ TEST(SheetPages, BecomeAnSvgFile) {
                                PagePicture{nothing, nullptr, {0, 0, 5, 10}, {0, 0, 5, 10}},
                                PageLine{1, 2, 3, 1.0 / 3, 0.25, 0xABCDEF},
                                PageLine{-0.00004, -12345.67899, 70.05, 0.00025, 1e10, 1}};
-    document.pages[1].items = {PageText{"\x03"},
+    document.pages[1].items = {PageText{"\x03"}, PageText{"ink", 4, 5, 6},
                                PageText{"a  <b>\r\t\x7F\xFF\uFFFE\u5DE1\U0001F680", 1, 2, 3,
                                         PageFont::Bold, PageText::Anchor::End, 0x123456},
                                PageRectangle{{1, 1, 2, 2}, 0xFFFFFF, 0, 0.5, 1},

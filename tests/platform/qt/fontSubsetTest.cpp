@@ -55,5 +55,7 @@ TEST(FontSubset, DrawsWhatItsFaceDoes) {
                 << std::hex << std::uint32_t(sign.character);
         }
         EXPECT_EQ(made.glyphIndexesForString("y").at(0), 0U);
+        // Browsers take no font without: one map, for all of Unicode.
+        EXPECT_EQ(made.fontTable("cmap").left(8).toHex(), "000000010003000a");
     }
 }
