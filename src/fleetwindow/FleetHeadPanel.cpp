@@ -9,13 +9,11 @@ namespace fleetwright {
 namespace {
 
 FleetField::Rules textRules(const std::string& name, const FleetDocument& document,
-                            std::string Fleet::* text, bool isMultiline = false) {
+                            std::string Fleet::* text) {
     return {.name = name,
             .read = [&document, text] { return document.fleet().*text; },
             .write = [text](Fleet& fleet, std::string typed) { fleet.*text = std::move(typed); },
-            .held = [isMultiline](const std::string& typed) -> std::optional<std::string> {
-                return isMultiline ? linesIn(typed) : typed;
-            }};
+            .held = [](const std::string& typed) { return std::optional(linesIn(typed)); }};
 }
 
 }  // namespace
@@ -41,7 +39,7 @@ FleetHeadPanel::FleetHeadPanel(const FleetContext& context)
                        return typed.empty() ? typed : numberText(typed, limitRange);
                    },
                .range = limitRange}),
-      m_notes(context, txtFleetNotes, textRules("Fleet Notes", document(), &Fleet::notes, true)) {}
+      m_notes(context, txtFleetNotes, textRules("Fleet Notes", document(), &Fleet::notes)) {}
 
 void FleetHeadPanel::show() {
     m_name.show();
