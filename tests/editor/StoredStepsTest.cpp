@@ -42,6 +42,9 @@ TEST(StoredSteps, AreTakenOnlyWhereTheyLeadToDesignsThatCanBe) {
     const std::vector<Change> thatCanBe = {
         [](DesignMoment& moment) { moment.ship.hull.mass = -1; },
         [](DesignMoment& moment) { moment.ship.hull.thrust = 99; },
+        [](DesignMoment& moment) {
+            moment.ship.amounts.emplace(moment.ship.amounts.begin(), 0, -1);
+        },
         [](DesignMoment& moment) { moment.ship.amounts.emplace_back(4, -1); }};
     for (std::size_t i = 0; i < thatCanBe.size(); ++i) {
         EXPECT_TRUE(isTaken(thatCanBe[i], 1)) << i;
