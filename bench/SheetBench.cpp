@@ -66,9 +66,12 @@ const bool registered = [] {
 const RegisterGoal bareGoal({"200 sheets: times their bare decoding and encoding",
                              "sheets of 200 ships, threads: 1",
                              "decoding and encoding of 200 sheets", 1.4, false});
-const RegisterGoal threadGoal({"200 sheets: times as fast on two cores as on one",
-                               "sheets of 200 ships, threads: 1", "sheets of 200 ships, threads: 2",
-                               1.8, true});
+const RegisterGoal
+    threadGoal({"200 sheets: times as fast on two cores as on one",
+                "sheets of 200 ships, threads: 1", "sheets of 200 ships, threads: 2", 1.8, true,
+                "Whole runs on one machine gave 1.90, 1.74 and 1.70, and the figures of 10000 "
+                "ships 1.81, 1.81 and 1.50, all of the same code: its second core is not "
+                "always there."});
 
 }  // namespace
 
