@@ -17,9 +17,8 @@ public:
     /// What sheets are made of.
     enum class Kind { Lines, Pixels };
 
-    /// For so many sheets of this kind. Maps that cannot be used are
-    /// named on standard error, and `status` becomes SomeRefused. Throws FileError if the pictures
-    /// have not been unpacked.
+    /// For so many sheets of this kind. Maps that cannot be used are named on standard error, and
+    /// `status` becomes SomeRefused. Throws FileError if the pictures have not been unpacked.
     SheetSupplies(const Options& options, std::size_t sheets, Kind kind, int& status);
     SheetSupplies(const SheetSupplies&) = delete;
     SheetSupplies& operator=(const SheetSupplies&) = delete;
