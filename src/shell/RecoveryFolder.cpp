@@ -133,8 +133,13 @@ void RecoveryFolder::noteOpened(const fs::path& file) {
 }
 
 bool RecoveryFolder::moveToTrash(const Design& design) {
-    // Another run may have taken the mark off it.
-    return throwAway(isInFolder(design.file) ? design.file : fileOf(design.recordName));
+    if (isInFolder(design.file)) {
+        return throwAway(design.file);
+    }
+    // Another run may have taken the mark off it; but a file of that name can be the user's.
+    const fs::path plain = fileOf(design.recordName);
+    const RecoveryRecord known = m_run.allRecords(RecoveryListing(m_folder));
+    return known.isMade(design.recordName, bytesIn(plain).value_or("")) && throwAway(plain);
 }
 
 bool RecoveryFolder::throwAway(const fs::path& design) {
