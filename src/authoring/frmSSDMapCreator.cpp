@@ -131,10 +131,9 @@ void frmSSDMapCreator::refuse(const std::string& file, const std::exception& err
 
 /// Says something at the lower edge of the window, which makes room for it.
 void frmSSDMapCreator::say(const std::string& text) {
-    const int before = lineHeight();
-    sbCreator.setVisible(!text.empty());
-    sbCreator.setText(text);
-    resize(width(), height() + lineHeight() - before);
+    const int before = sbCreator.roomTaken();
+    sbCreator.showOnlyWith(text);
+    resize(width(), height() + sbCreator.roomTaken() - before);
 }
 
 /// The picture on show stays, so that what is said of it has to say that it no longer counts.
@@ -168,7 +167,7 @@ void frmSSDMapCreator::fitWindow() {
     const Place& text = txtOutput.place();
     txtOutput.setPlace({image.width + image.left + gap, text.top, text.width, image.height});
     resize(text.width + margin + image.width + gap,
-           image.height + image.top + margin + lineHeight());
+           image.height + image.top + margin + sbCreator.roomTaken());
 }
 
 /// What is scanned where no picture is selected.

@@ -84,7 +84,6 @@ private:
     void selectNothing(const std::string& why);
     void refuse(const std::string& file, const std::exception& error);
     void say(const std::string& text);
-    int lineHeight() const { return sbCreator.isVisible() ? StatusBar::height : 0; }
     Raster loadImage(const std::string& file) const;
     Raster currentImage() const;
     void resetImage(Raster picture);

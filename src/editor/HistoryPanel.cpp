@@ -98,12 +98,8 @@ void HistoryPanel::go(const char* what, Way way) {
 }
 
 void HistoryPanel::show() {
-    const auto showStep = [](MenuEntry& entry, const char* what, const std::string& name) {
-        entry.setCaption(name.empty() ? what : what + (' ' + name));
-        entry.setEnabled(!name.empty());
-    };
-    showStep(mnuUndo, "Undo", m_history->canUndo() ? m_history->undoName() : "");
-    showStep(mnuRedo, "Redo", m_history->canRedo() ? m_history->redoName() : "");
+    mnuUndo.setObject("Undo", m_history->canUndo() ? m_history->undoName() : "");
+    mnuRedo.setObject("Redo", m_history->canRedo() ? m_history->redoName() : "");
 }
 
 }  // namespace fleetwright

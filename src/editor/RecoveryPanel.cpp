@@ -6,6 +6,7 @@
 #include "WrittenShip.h"
 #include "fingerprint.h"
 #include "frmPutAside.h"
+#include "keepOrLose.h"
 #include "paths.h"
 #include "readFile.h"
 #include "readShip.h"
@@ -127,14 +128,7 @@ bool RecoveryPanel::giveUpDesign() {
         }
         return true;
     }
-    try {
-        services().recovery->keep(design());
-        return true;
-    } catch (const FileError& error) {
-        return services().desktop.showMessage("The design is not saved and cannot be put aside: " +
-                                                  complaint(error) + "\nLose it?",
-                                              "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
-    }
+    return keepOrLose(*services().recovery, design(), services().desktop);
 }
 
 RecoveryFolder::Aside RecoveryPanel::design() const {

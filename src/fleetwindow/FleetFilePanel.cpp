@@ -44,12 +44,8 @@ FleetFilePanel::FleetFilePanel(const FleetContext& context, MenuEntry& mnuFleetF
     : FleetPart(context), m_file(mnuFleetFile), m_edit(mnuFleetEdit), m_recovery(recovery) {}
 
 void FleetFilePanel::show() {
-    const auto showStep = [](MenuEntry& entry, const std::string& what, const std::string& name) {
-        entry.setCaption(name.empty() ? what : what + ' ' + name);
-        entry.setEnabled(!name.empty());
-    };
-    showStep(mnuUndoFleet, "Undo", document().history().undoName());
-    showStep(mnuRedoFleet, "Redo", document().history().redoName());
+    mnuUndoFleet.setObject("Undo", document().history().undoName());
+    mnuRedoFleet.setObject("Redo", document().history().redoName());
     const std::string name = fleet().name.empty() ? "New Fleet" : shownText(fleet().name);
     form().setCaption((document().isSaved() ? "" : "*") + name + " - Fleet");
 }

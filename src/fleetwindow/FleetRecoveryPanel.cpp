@@ -2,6 +2,7 @@
 
 #include "Desktop.h"
 #include "Error.h"
+#include "keepOrLose.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -36,14 +37,7 @@ bool FleetRecoveryPanel::giveUpFleet(bool asks) {
         return false;
     }
     m_aside.reset();
-    try {
-        services().recovery.keep(aside());
-        return true;
-    } catch (const FileError& error) {
-        return services().desktop.showMessage("The fleet is not saved and cannot be put aside: " +
-                                                  complaint(error) + "\nLose it?",
-                                              "", Buttons::YesNo, Icon::Critical) == Answer::Yes;
-    }
+    return keepOrLose(services().recovery, aside(), services().desktop);
 }
 
 void FleetRecoveryPanel::tmrFleetRecovery_Timer() {

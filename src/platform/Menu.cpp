@@ -9,6 +9,11 @@ void MenuEntry::setCaption(const std::string& caption) {
     }
 }
 
+void MenuEntry::setObject(const std::string& verb, const std::string& object) {
+    setCaption(object.empty() ? verb : verb + ' ' + object);
+    setEnabled(!object.empty());
+}
+
 void MenuEntry::setChecked(bool isChecked) {
     if (isChecked != design().isOn) {
         changeableDesign().isOn = isChecked;

@@ -14,6 +14,8 @@ public:
     bool isSeparator() const { return design().caption == "-" && !design().isVerbatim; }
     const std::string& caption() const { return design().caption; }
     void setCaption(const std::string& caption);
+    /// Names what it would do its work on, as "Undo Thrust"; where there is nothing, it is off.
+    void setObject(const std::string& verb, const std::string& object);
     bool isChecked() const { return design().isOn; }
     void setChecked(bool isChecked);
 

@@ -22,6 +22,14 @@ public:
         }
     }
 
+    /// The same in a window that has the line only while it has a text.
+    void showOnlyWith(const std::string& text) {
+        setVisible(!text.empty());
+        setText(text);
+    }
+    /// The room that it takes at the lower edge of its window, in twips.
+    int roomTaken() const { return isVisible() ? height : 0; }
+
     /// Takes a text away, if it still stands there.
     void takeBack(const std::string& text) {
         if (design().text == text) {

@@ -31,12 +31,9 @@ public:
     }
 
     /// Says something until something else is said; an empty text takes the line away.
-    void say(const std::string& text) {
-        sbSheet.setVisible(!text.empty());
-        sbSheet.setText(text);
-    }
+    void say(const std::string& text) { sbSheet.showOnlyWith(text); }
     /// The room below a sheet that the line needs, in twips.
-    int lineHeight() const { return sbSheet.isVisible() ? StatusBar::height : 0; }
+    int lineHeight() const { return sbSheet.roomTaken(); }
 
 private:
     Container& m_form;
