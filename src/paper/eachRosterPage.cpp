@@ -322,6 +322,7 @@ void Roster::each(const PageTaker& take) const {
     const std::vector<std::size_t> ends = pageEnds();
     std::size_t number = 0, next = 0;
     Page page = startedPage(number);
+    page.contents = {"Roster"};
     double y = roomOn(number).y;
     const auto endPage = [&] {
         if (ends.size() > 1) {

@@ -164,6 +164,7 @@ void SheetPages::makePage(const SheetSeries& sheets, const Fitting& onIt, const 
     Page page;
     for (std::size_t i = 0; i < onIt.sheets.size(); ++i) {
         const auto sheet = sheets.at(onIt.sheets[i]);
+        page.contents.push_back(sheet->facts.shipName);
         std::vector<PageBlock> rest = putSheet(*sheet, boxes[i], m_options, room, page);
         if (!rest.empty()) {
             left.push_back(continuedBlock(sheet->facts.shipName, width));

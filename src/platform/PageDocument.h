@@ -72,6 +72,8 @@ using PageItem = std::variant<PageText, PageLine, PageRectangle, PagePicture>;
 struct Page {
     /// Later ones cover earlier ones, but text lies above all else.
     std::vector<PageItem> items;
+    /// What begins on this page, for a list of contents: the names of ships.
+    std::vector<std::string> contents = {};
 };
 
 using PageTaker = std::function<void(const Page&)>;

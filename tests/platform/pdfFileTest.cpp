@@ -34,14 +34,17 @@ PageDocument makeDocument() {
         PageRectangle{{10, 60, 30, 20}, {}, 0, 0.2, 2},
         PagePicture{arrow, nullptr, {50, 60, 9, 9}, {50, 60, 9, 9}},
         PagePicture{arrow, nullptr, {60, 60, 9, 9}, {60, 60, 9, 4}}};
-    return {paperA4,
-            {lines, Page{{PagePicture{nullptr, dots, {20, 20, 30, 20}, {20, 20, 30, 9}}}}},
-            "HMS Né (\"B\")",
-            "Ann \U0001F680 <ann@example.org>",
-            "Ship & sheet",
-            "en",
-            1700000000,
-            "<x:ship xmlns:x=\"urn:x\">Lines &amp; all</x:ship>"};
+    lines.contents = {"HMS \"Né\""};
+    return {
+        paperA4,
+        {lines,
+         {{PagePicture{nullptr, dots, {20, 20, 30, 20}, {20, 20, 30, 9}}}, {"Ark", "\U0001F680"}}},
+        "HMS Né (\"B\")",
+        "Ann \U0001F680 <ann@example.org>",
+        "Ship & sheet",
+        "en",
+        1700000000,
+        "<x:ship xmlns:x=\"urn:x\">Lines &amp; all</x:ship>"};
 }
 
 }  // namespace

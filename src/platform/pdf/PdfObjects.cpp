@@ -1,6 +1,7 @@
 #include "PdfObjects.h"
 
 #include "svgText.h"
+#include "text.h"
 
 #include <zlib.h>
 
@@ -86,6 +87,26 @@ void PdfObjects::finish(std::size_t info, std::size_t catalog) {
 
 std::string pdfReference(std::size_t number) {
     return std::to_string(number) + " 0 R";
+}
+
+std::string pdfText(const std::string& text) {
+    const std::string shown = shownText(text);
+    std::string digits = "<FEFF";  // in UTF-16
+    const auto add = [&digits](std::uint32_t unit) {
+        for (int shift = 12; shift >= 0; shift -= 4) {
+            digits += "0123456789abcdef"[unit >> static_cast<unsigned>(shift) & 0xFU];
+        }
+    };
+    for (std::string_view rest = shown; !rest.empty(); rest.remove_prefix(characterLength(rest))) {
+        const auto code = static_cast<std::uint32_t>(codePoint(rest));
+        if (code > 0xFFFF) {
+            add(0xD7C0 + (code >> 10U));
+            add(0xDC00 + (code & 0x3FFU));
+        } else {
+            add(code);
+        }
+    }
+    return digits + '>';
 }
 
 std::string pdfLength(double length) {

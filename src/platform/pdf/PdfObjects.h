@@ -44,6 +44,8 @@ private:
 /// How other objects name one.
 std::string pdfReference(std::size_t number);
 
+/// A text as PDF has it, be it of any characters.
+std::string pdfText(const std::string& text);
 /// A length, to a thousandth, as large as any unit of ours needs it.
 std::string pdfLength(double length);
 /// A factor, to a hundred-millionth.

@@ -1,9 +1,9 @@
 #include "pdfFile.h"
 
+#include "PdfContents.h"
 #include "PdfShapes.h"
 #include "PdfText.h"
 #include "svgText.h"
-#include "text.h"
 
 #include <chrono>
 #include <string_view>
@@ -13,27 +13,6 @@ namespace fleetwright {
 namespace {
 
 constexpr double pointsPerMillimetre = 72 / 25.4;
-
-/// A text as PDF has it, be it of any characters: in UTF-16.
-std::string pdfText(const std::string& text) {
-    const std::string shown = shownText(text);
-    std::string digits = "<FEFF";
-    const auto add = [&digits](std::uint32_t unit) {
-        for (int shift = 12; shift >= 0; shift -= 4) {
-            digits += "0123456789abcdef"[unit >> static_cast<unsigned>(shift) & 0xFU];
-        }
-    };
-    for (std::string_view rest = shown; !rest.empty(); rest.remove_prefix(characterLength(rest))) {
-        const auto code = static_cast<std::uint32_t>(codePoint(rest));
-        if (code > 0xFFFF) {
-            add(0xD7C0 + (code >> 10U));
-            add(0xDC00 + (code & 0x3FFU));
-        } else {
-            add(code);
-        }
-    }
-    return digits + '>';
-}
 
 /// A moment of UTC, with these between the parts of the day, the day and the time, and its parts.
 std::string dateText(std::int64_t seconds, const char* inDay, const char* between,
@@ -93,8 +72,9 @@ std::string packetOf(const PageDocument& document) {
 constexpr std::string_view packetEnd =
     "</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n";
 
-/// Writes the pages of a document; the number of the object that lists them.
-std::size_t writePages(PdfObjects& objects, const PageDocument& document) {
+/// Writes the pages of a document, and notes what begins on them; the number of the object that
+/// lists them.
+std::size_t writePages(PdfObjects& objects, const PageDocument& document, PdfContents& contents) {
     const std::string width = pdfLength(document.size.width * pointsPerMillimetre);
     const std::string height = pdfLength(document.size.height * pointsPerMillimetre);
     const std::string scale = pdfFactor(pointsPerMillimetre);
@@ -113,6 +93,9 @@ std::size_t writePages(PdfObjects& objects, const PageDocument& document) {
             objects.add("<< /Type /Page /Parent " + pdfReference(list) + " /MediaBox [0 0 " +
                         width + ' ' + height + "] /Resources << /Font " + pdfReference(fonts) +
                         ' ' + shapes.pictures() + " >> /Contents " + pdfReference(written) + " >>");
+        for (const std::string& name : page.contents) {
+            contents.add(name, number);
+        }
         numbers += pdfReference(number) + '\n';
         ++count;
     });
@@ -126,17 +109,18 @@ std::size_t writePages(PdfObjects& objects, const PageDocument& document) {
 
 void writePdf(const PageDocument& document, const PdfOut& out) {
     PdfObjects objects(out);
-    const std::size_t pages = writePages(objects, document);
+    PdfContents contents(objects);
+    const std::size_t pages = writePages(objects, document, contents);
     const std::string packet = packetOf(document);
     const std::size_t length = packet.size() + document.metadata.size() + packetEnd.size();
     // Not compressed, so that other programs find it without reading the document.
     const std::size_t metadata =
         objects.add({"<< /Type /Metadata /Subtype /XML /Length " + std::to_string(length),
                      " >>\nstream\n", packet, document.metadata, packetEnd, "\nendstream"});
-    const std::size_t catalog =
-        objects.add("<<\n/Type /Catalog\n/Pages " + pdfReference(pages) + "\n/Metadata " +
-                    pdfReference(metadata) + "\n/Lang " + pdfText(document.language) +
-                    "\n/ViewerPreferences << /DisplayDocTitle true >>\n>>");
+    const std::size_t catalog = objects.add(
+        "<<\n/Type /Catalog\n/Pages " + pdfReference(pages) + "\n/Metadata " +
+        pdfReference(metadata) + contents.finish() + "\n/Lang " + pdfText(document.language) +
+        "\n/ViewerPreferences << /DisplayDocTitle true >>\n>>");
     const std::size_t info = objects.add(infoOf(document));
     objects.finish(info, catalog);
 }
