@@ -107,7 +107,8 @@ TEST_F(SizableWindow, FollowsItsFormAndItsFormFollowsIt) {
     std::string clicks;
     form.tray.onLeftClick = [&] { clicks += "left "; };
     form.tray.onRightClick = [&] { clicks += "right "; };
-    for (const auto reason : {QSystemTrayIcon::Context, QSystemTrayIcon::Trigger}) {
+    for (const auto reason :
+         {QSystemTrayIcon::MiddleClick, QSystemTrayIcon::Context, QSystemTrayIcon::Trigger}) {
         emit icon->activated(reason);
     }
     EXPECT_EQ(clicks, "") << "Qt has not done with the click";
