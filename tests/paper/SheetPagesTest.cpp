@@ -2,7 +2,10 @@
 
 #include "PictureFiles.h"
 #include "base64.h"
+#include "carriedShips.h"
 #include "caseFile.h"
+#include "fleetDocument.h"
+#include "fleetFile.h"
 #include "fontTables.h"
 #include "paperWorld.h"
 #include "sheetHeader.h"
@@ -90,9 +93,34 @@ TEST(SheetPages, HaveAPlaceForEverything) {
         made.eachPage([&](const Page& page) { pages.push_back(page); });
         EXPECT_EQ(describedPages(pages), describedPages(document.pages));
         EXPECT_EQ(made.metadata, document.metadata);
+        Paper paper;
+        EXPECT_EQ(svgFile(made, paper), svgFile(document, paper));
         return document.title + "; " + document.author + "; " + document.subject +
                describedPages(document.pages);
     });
+}
+
+TEST(SheetPages, OfAFleetBearTheNamesOfItsShips) {
+    const Fleet fleet = parseFleet("FleetWright fleet 1\nship = a.shp\ncount = 2\nnamed = Ann\n"
+                                   "ship = lost.shp\nship = a.shp\n")
+                            .fleet;
+    const FleetRows rows(fleet.ships.size(), std::make_shared<const FleetRow>());
+    const auto sheet =
+        std::make_shared<const VectorSheet>(sheetOf("Ship Name: Wasp\nMass: 8\n", "60", "60"));
+    const SheetOptions options;
+    const PageDocument document = fleetDocument(
+        fleet, rows, FleetSeries(fleet, options).series({sheet, nullptr, sheet}), options);
+    std::string contents;
+    document.eachPage([&contents](const Page& page) {
+        for (const std::string& name : page.contents) {
+            contents += name + "; ";
+        }
+    });
+    EXPECT_EQ(contents, "Roster; Ann; Wasp 2; Wasp; ");
+    EXPECT_EQ(shipsIn("%PDF-1.6 <?xpacket begin=\"\"?>" + document.metadata +
+                      "<?xpacket end=\"w\"?> %%EOF")
+                  .size(),
+              3);
 }
 
 TEST(SheetPages, BecomeAnSvgFile) {
