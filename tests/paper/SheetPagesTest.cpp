@@ -66,6 +66,39 @@ VectorSheet sheetOf(const std::string& shipFile, const std::string& width,
     return vectorSheet(shownShip(*ship), aboard, mapOf(map), {outlinesIn(paper), images, paper});
 }
 
+/// A table of a font file.
+std::string tableOf(const std::string& font, std::string_view name) {
+    for (std::size_t at = 12; at < font.size(); at += 16) {
+        if (font.compare(at, name.size(), name) == 0) {
+            return font.substr(fontNumber(font, at + 8, 4), fontNumber(font, at + 12, 4));
+        }
+    }
+    return {};
+}
+
+/// What a font says of all its signs, and what they are: the edges and the widest.
+void expectSumsIn(const std::string& font) {
+    const auto half = [](const std::string& table, std::size_t at) {
+        return static_cast<std::int16_t>(fontNumber(table, at, 2));
+    };
+    const std::string glyphs = tableOf(font, "glyf"), places = tableOf(font, "loca"),
+                      head = tableOf(font, "head"), lines = tableOf(font, "hhea"),
+                      widths = tableOf(font, "hmtx");
+    std::vector<int> sums = {0, 0, 0, 0, 0};
+    for (std::size_t i = 0; i + 4 < places.size(); i += 4) {
+        const std::size_t at = fontNumber(places, i, 4);
+        for (std::size_t side = 0; side < 4 && at < fontNumber(places, i + 4, 4); ++side) {
+            const int edge = half(glyphs, at + 2 + 2 * side);
+            sums[side] = side < 2 ? std::min(sums[side], edge) : std::max(sums[side], edge);
+        }
+        sums[4] = std::max<int>(sums[4], half(widths, i));
+    }
+    const std::vector<int> said = {half(head, 36), half(head, 38), half(head, 40), half(head, 42),
+                                   half(lines, 10)};
+    EXPECT_EQ(said, sums);
+    EXPECT_EQ(half(lines, 34), static_cast<int>(places.size() / 4 - 1));
+}
+
 }  // namespace
 
 TEST(SheetPages, HaveAPlaceForEverything) {
@@ -212,6 +245,7 @@ TEST(SheetPages, JoinArabicLettersInAnSvgFile) {
     constexpr std::string_view start = "base64,";
     const std::size_t font = svg.find(start) + start.size();
     const std::string bytes = fromBase64(svg.substr(font, svg.find(')', font) - font)).value_or("");
+    expectSumsIn(bytes);
     const std::u32string ends = U"\uFE82\uFE82\uFE8D\uFE8E\uFEB1\uFEB4\uFEDD\uFEE4\uFEF5\uFEFC";
     for (std::size_t i = 0; i < ends.size(); i += 2) {
         std::string group;  // of the table of characters
