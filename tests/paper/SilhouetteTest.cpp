@@ -34,13 +34,14 @@ struct Rows : std::vector<Extent> {
     void add(Point from, Point to, double width) {
         const int far = int(std::ceil(width));
         to.y += from.y == to.y ? 1e-9 : 0;
+        constexpr double rounding = 1e-6;  // of a part; an end is never missed
         for (int row = -20; row < rowCount + 20; ++row) {
             const auto [top, bottom] = std::minmax({from.y - shown.y, to.y - shown.y});
             for (const double y : {std::max(top, double(row)), std::min(bottom, row + 1.0)}) {
                 const double part = (y - (from.y - shown.y)) / (to.y - from.y);
                 const double x = from.x + (to.x - from.x) * part - shown.x;
-                for (int near = row - far;
-                     part >= 0 && part <= 1 && y >= row && y <= row + 1 && near <= row + far;
+                for (int near = row - far; part >= -rounding && part <= 1 + rounding && y >= row &&
+                                           y <= row + 1 && near <= row + far;
                      ++near) {
                     add(near, x - width, x + width);
                 }
