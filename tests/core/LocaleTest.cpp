@@ -14,9 +14,10 @@
 using namespace fleetwright;
 
 #ifdef FLEETWRIGHT_SANITIZED
-// The C library keeps the list of folders that it has looked for locales in.
+// The C library keeps the list of folders that it has looked for locales in. Older ones have a "__"
+// in front of the name.
 extern "C" const char* __lsan_default_suppressions() {  // NOLINT(bugprone-reserved-identifier)
-    return "leak:__argz_add_sep\n";
+    return "leak:argz_add_sep\n";
 }
 #endif
 
