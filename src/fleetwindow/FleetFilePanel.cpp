@@ -51,7 +51,7 @@ void FleetFilePanel::show() {
 }
 
 void FleetFilePanel::open(const std::filesystem::path& file) {
-    replaceBy(file, [&](Fleet) { return faultsIn(file, document().open(file)); });
+    replaceBy(file, [&](const Fleet&) { return faultsIn(file, document().open(file)); });
 }
 
 void FleetFilePanel::openPutAside(const std::filesystem::path& file) {

@@ -115,7 +115,8 @@ void RecoveryFolder::noteSeen(std::vector<Design>& designs) {
         }
     }
     if (isRenamed) {
-        syncFolder(m_folder);  // once: there may be many
+        // Once: there may be many.
+        [[maybe_unused]] const std::error_code unsynced = syncFolder(m_folder);
     }
     if (!news.empty()) {
         begin();
@@ -190,7 +191,7 @@ void RecoveryFolder::forget(RecoveryKind kind) {
     std::optional<OwnFile>& own = ownOf(kind);
     if (own && isAsWritten(*own)) {
         removeSteps(fileOf(*own));
-        removeForGood(fileOf(*own));
+        [[maybe_unused]] const std::error_code left = removeForGood(fileOf(*own));
         m_run.record.forget(own->name);
         own.reset();
     } else if (own) {
@@ -305,7 +306,7 @@ void RecoveryFolder::takeUpLeftOvers(RecoveryListing& listing, const RecoveryRec
         const std::set<std::string> names = known.namesOf(*bytes);
         const WrittenShip ship = WrittenShip::of(*bytes);
         if (names.empty() && (!ship.isWhole || known.isCut(*bytes))) {
-            removeFile(file);
+            [[maybe_unused]] const std::error_code left = removeFile(file);
             continue;
         }
         RecoveryName name = leftOver(names, ship);

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <random>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -40,7 +41,7 @@ RecoveryRun::~RecoveryRun() {
         } catch (const FileError&) {
             // The record stays, and says more than there is.
         }
-        removeFile(lockOf(m_mark));
+        [[maybe_unused]] const std::error_code left = removeFile(lockOf(m_mark));
     }
 }
 
@@ -119,7 +120,7 @@ bool RecoveryRun::isRunning(const std::string& mark) const {
     const FileLock lock(file);
     std::error_code unknown;
     if (lock.isHeld() && fs::is_empty(file, unknown)) {  // one with contents is a user's
-        removeFile(file);
+        [[maybe_unused]] const std::error_code left = removeFile(file);
     }
     return lock.isWithOthers();
 }

@@ -9,6 +9,7 @@
 #include "saveFile.h"
 
 #include <algorithm>
+#include <system_error>
 
 namespace fleetwright {
 
@@ -80,7 +81,7 @@ bool writeSteps(const fs::path& design, const std::string& steps) {
 
 void removeSteps(const fs::path& design) {
     if (areStepsWhole(stepsOfDesign(design))) {
-        removeFile(stepsBeside(design));
+        [[maybe_unused]] const std::error_code left = removeFile(stepsBeside(design));
     }
 }
 
@@ -94,7 +95,7 @@ void joinSteps(const RecoveryListing& listing, const std::set<std::string>& runn
         }
         const std::optional<fs::path> plain = designBeside(file, "");
         if ((!plain || renameToNew(file, stepsBeside(*plain))) && areStepsWhole(stepsIn(file))) {
-            removeFile(file);
+            [[maybe_unused]] const std::error_code left = removeFile(file);
         }
     }
 }

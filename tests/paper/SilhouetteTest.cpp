@@ -1,6 +1,8 @@
 // What a sheet keeps clear of, row by row, against the lines that are drawn.
 
 #include "Silhouette.h"
+
+#include "Raster.h"
 #include "forSeeds.h"
 #include "pathSteps.h"
 

@@ -2,6 +2,7 @@
 
 #include "Actor.h"
 #include "Error.h"
+#include "TemporaryFile.h"
 #include "bringInOrder.h"
 #include "paths.h"
 #include "readFile.h"
@@ -173,8 +174,9 @@ private:
         const std::string home = isFromSheet ? sheet.string() : m_ship.g_sSaveName;
         const fs::path homeFile = nativePath(home);
         if (!home.empty() && !fs::exists(homeFile) &&
-            fs::exists(m_test.folder().path() / "trash" / homeFile.filename())) {
-            return;  // put aside, loaded by Load and thrown away since
+            (TemporaryFile::isOne(homeFile) ||
+             fs::exists(m_test.folder().path() / "trash" / homeFile.filename()))) {
+            return;  // loaded by Load, and since then taken up as put aside, or thrown away
         }
         if (!home.empty() && !safe->loadShip(home)) {
             return expect(false, home + " does not load: " + safe->fileFault()->text);
