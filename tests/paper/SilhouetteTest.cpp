@@ -133,7 +133,7 @@ TEST(Silhouette, IsThatOfTheLinesThatAreDrawn) {
             SheetRecord record;
             record.outline.picture.drawing = std::make_shared<const Drawing>(drawing);
             Silhouette::Outlines kept;
-            Silhouette(record, shown, &kept);
+            [[maybe_unused]] const Silhouette first(record, shown, &kept);
             // A further sheet has a system, too, that may stand out of its outline.
             const int x = anyOf(random, 0, 50), y = anyOf(random, 0, 40);
             record.pastes.push_back({.picture = {}, .x = x, .y = y, .system = {}});
