@@ -139,8 +139,12 @@ bool RecoveryFolder::moveToTrash(const Design& design) {
     }
     // Another run may have taken the mark off it; but a file of that name can be the user's.
     const fs::path plain = fileOf(design.recordName);
-    const RecoveryRecord known = m_run.allRecords(RecoveryListing(m_folder));
-    return known.isMade(design.recordName, bytesIn(plain).value_or("")) && throwAway(plain);
+    try {
+        const RecoveryRecord known = m_run.allRecords(RecoveryListing(m_folder));
+        return known.isMade(design.recordName, bytesIn(plain).value_or("")) && throwAway(plain);
+    } catch (const FileError&) {
+        return false;  // the folder cannot be read any more: nothing is known of the file
+    }
 }
 
 bool RecoveryFolder::throwAway(const fs::path& design) {

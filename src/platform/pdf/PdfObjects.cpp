@@ -89,22 +89,27 @@ std::string pdfReference(std::size_t number) {
     return std::to_string(number) + " 0 R";
 }
 
+void addPdfDigits(std::string& text, std::uint32_t number) {
+    static constexpr char digits[] = "0123456789ABCDEF";
+    for (int shift = 12; shift >= 0; shift -= 4) {
+        text += digits[number >> static_cast<unsigned>(shift) & 0xFU];
+    }
+}
+
+void addPdfCharacter(std::string& text, std::uint32_t code) {
+    if (code > 0xFFFF) {
+        addPdfDigits(text, 0xD7C0 + (code >> 10U));
+        addPdfDigits(text, 0xDC00 + (code & 0x3FFU));
+    } else {
+        addPdfDigits(text, code);
+    }
+}
+
 std::string pdfText(const std::string& text) {
     const std::string shown = shownText(text);
-    std::string digits = "<FEFF";  // in UTF-16
-    const auto add = [&digits](std::uint32_t unit) {
-        for (int shift = 12; shift >= 0; shift -= 4) {
-            digits += "0123456789abcdef"[unit >> static_cast<unsigned>(shift) & 0xFU];
-        }
-    };
+    std::string digits = "<FEFF";
     for (std::string_view rest = shown; !rest.empty(); rest.remove_prefix(characterLength(rest))) {
-        const auto code = static_cast<std::uint32_t>(codePoint(rest));
-        if (code > 0xFFFF) {
-            add(0xD7C0 + (code >> 10U));
-            add(0xDC00 + (code & 0x3FFU));
-        } else {
-            add(code);
-        }
+        addPdfCharacter(digits, static_cast<std::uint32_t>(codePoint(rest)));
     }
     return digits + '>';
 }

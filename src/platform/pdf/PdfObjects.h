@@ -44,6 +44,10 @@ private:
 /// How other objects name one.
 std::string pdfReference(std::size_t number);
 
+/// Adds a number of 16 bits, in four digits.
+void addPdfDigits(std::string& text, std::uint32_t number);
+/// Adds the digits of a character, in UTF-16.
+void addPdfCharacter(std::string& text, std::uint32_t code);
 /// A text as PDF has it, be it of any characters.
 std::string pdfText(const std::string& text);
 /// A length, to a thousandth, as large as any unit of ours needs it.

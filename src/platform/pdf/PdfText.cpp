@@ -22,13 +22,6 @@ std::string fontKey(PageFace face) {
     return "/F" + std::to_string(static_cast<int>(face));
 }
 
-void addHexadecimal(std::string& text, std::uint32_t number) {
-    static constexpr char digits[] = "0123456789ABCDEF";
-    for (int shift = 12; shift >= 0; shift -= 4) {
-        text += digits[number >> static_cast<unsigned>(shift) & 0xFU];
-    }
-}
-
 /// The name of a font with the mark of one that lacks characters, another one for others.
 std::string markedName(const FontSubset& font) {
     std::uint32_t mixed = 0;
@@ -55,15 +48,9 @@ std::string charactersOf(const std::vector<FontSubset::Sign>& signs) {
         map += std::to_string(end - first) + " beginbfchar\n";
         for (std::size_t at = first; at < end; ++at) {
             map += '<';
-            addHexadecimal(map, static_cast<std::uint32_t>(at + 1));
+            addPdfDigits(map, static_cast<std::uint32_t>(at + 1));
             map += "> <";
-            const std::uint32_t code = signs[at].character;
-            if (code > 0xFFFF) {
-                addHexadecimal(map, 0xD7C0 + (code >> 10U));
-                addHexadecimal(map, 0xDC00 + (code & 0x3FFU));
-            } else {
-                addHexadecimal(map, code);
-            }
+            addPdfCharacter(map, signs[at].character);
             map += ">\n";
         }
         map += "endbfchar\n";
@@ -144,7 +131,7 @@ void PdfText::addLine(std::string& content, const PageText& text) {
         (content += fontKey(face)) += " 1 Tf\n<";
         for (; sign != signs.end() && sign->face == face; ++sign) {
             Shown& shown = m_shown[static_cast<std::size_t>(face)];
-            addHexadecimal(content, static_cast<std::uint32_t>(shown.numberOf(signOf(*sign))));
+            addPdfDigits(content, static_cast<std::uint32_t>(shown.numberOf(signOf(*sign))));
         }
         content += "> Tj\n";
     }
